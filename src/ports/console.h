@@ -1,0 +1,25 @@
+// Console: the program's diagnostic lines.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace kelvo {
+
+/// Both operations: any thread; lines of one thread keep their order, a line is never mixed with
+/// another; the call returns without waiting for a slow reader. Failures are nobody's business.
+class Console {
+public:
+    virtual ~Console() = default;
+
+    /// One line to standard output: `text` and a line end. Line ends inside `text` stand.
+    void print(const QString& text) { print(QStringList{text}); }
+
+    /// The same for a text in pieces, which are not joined in memory: for captured output.
+    virtual void print(const QStringList& pieces) = 0;
+
+    /// One line to the system log, with the time.
+    virtual void log(const QString& text) = 0;
+};
+
+} // namespace kelvo

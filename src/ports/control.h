@@ -1,0 +1,25 @@
+// Control and Button: what an action knows of the control that sent it.
+#pragma once
+
+#include <QString>
+
+namespace kelvo {
+
+/// Anything a user can act on. Main thread only.
+class Control {
+public:
+    virtual ~Control() = default;
+};
+
+/// A two-state button: 0 is off, 1 is on. Main thread only.
+class Button : public Control {
+public:
+    virtual int state() const = 0;
+
+    /// Turns the state over and sends the button's action, as a click by the user does.
+    virtual void performClick() = 0;
+
+    virtual void setTitle(const QString& title) = 0;
+};
+
+} // namespace kelvo

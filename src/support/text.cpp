@@ -1,0 +1,32 @@
+#include "support/text.h"
+
+#include <QStringBuilder>
+
+namespace kelvo {
+
+QString trimmedText(QStringView text) {
+    return text.trimmed().toString();
+}
+
+QString withTrailingSlash(QStringView text) {
+    const QStringView trimmed = text.trimmed();
+    return trimmed.endsWith(u'/') ? trimmed.toString() : trimmed % QStringView(u"/");
+}
+
+QString expandingTilde(QStringView path, QStringView home) {
+    if (path == u"~" || path.startsWith(u"~/"))
+        return home % path.sliced(1);
+    return path.toString();
+}
+
+QString insideLine(QStringView typeName, QStringView operation, QStringView detail) {
+    return QStringView(u"Inside ") % typeName % QStringView(u"->") % operation % detail;
+}
+
+QString optionalText(const std::optional<QString>& value) {
+    if (!value)
+        return QStringLiteral("nil");
+    return QStringView(u"Optional(\"") % *value % QStringView(u"\")");
+}
+
+} // namespace kelvo

@@ -1,0 +1,28 @@
+// Text helpers that every part of the program shares.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace kelvo {
+
+/// The name under which the main view controller signs its diagnostic lines.
+inline constexpr QStringView cViewControllerTypeName = u"Kelvo_Mirror.ViewController";
+
+/// `text` without the Unicode white space and line ends around it.
+QString trimmedText(QStringView text);
+
+/// `text` trimmed, ending in exactly the "/" it had or in one added: "" becomes "/".
+QString withTrailingSlash(QStringView text);
+
+/// A leading "~" (alone or before "/") becomes `home`; any other path passes unchanged.
+QString expandingTilde(QStringView path, QStringView home);
+
+/// A diagnostic line: "Inside " + type + "->" + operation + detail.
+QString insideLine(QStringView typeName, QStringView operation, QStringView detail = u".......");
+
+/// How an optional value reads in a diagnostic line: `Optional("x")` or `nil`.
+QString optionalText(const std::optional<QString>& value);
+
+} // namespace kelvo

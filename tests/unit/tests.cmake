@@ -1,0 +1,6 @@
+kelvo_tests(unit
+  SOURCES
+    unit/property_value_test.cpp
+    unit/text_test.cpp
+  LINKS kelvo_sync
+)
