@@ -24,8 +24,7 @@ CommandLine parseCommandLine(const QStringList& arguments) {
 
     const auto refuse = [](const QString& reason) {
         return CommandLine{LaunchKind::Refuse, false,
-                           QString(u"kelvo-mirror: " + reason +
-                                   u"\nTry 'kelvo-mirror --help'.\n")};
+                           QString(u"kelvo-mirror: " + reason + u"\nTry 'kelvo-mirror --help'.\n")};
     };
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
@@ -37,7 +36,8 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         return {LaunchKind::PrintVersion, false,
                 QString(u"kelvo-mirror " + QStringView(cVersion) + u'\n')};
     return {parser.isSet(headless) ? LaunchKind::Headless : LaunchKind::Window,
-            parser.isSet(autorelaunched), {}};
+            parser.isSet(autorelaunched),
+            {}};
 }
 
 } // namespace kelvo

@@ -9,8 +9,8 @@ namespace kelvo {
 void registerFactoryDefaults(const Bundle& bundle, UserDefaults& defaults, Console& console) {
     const auto factory = bundle.propertyList(QStringLiteral("FactoryDefaults"));
     if (!factory) {
-        console.print(QStringLiteral(
-            "Oops something went wrong with registering facotry defaults...."));
+        console.print(
+            QStringLiteral("Oops something went wrong with registering facotry defaults...."));
         return;
     }
     defaults.registerDefaults(*factory);

@@ -28,7 +28,8 @@ inline constexpr QStringView prefAutoStartScanOnLaunch = u"prefAutoStartScanOnLa
 inline constexpr QStringView prefHideOnLaunch = u"prefHideOnLaunch";
 
 /// The template text that a pass runs when prefRsyncCommandString1 is missing.
-inline constexpr QStringView cMissingRsyncCommandString1 = u"Unable-To-Find-prefRsyncCommandString1";
+inline constexpr QStringView cMissingRsyncCommandString1 =
+    u"Unable-To-Find-prefRsyncCommandString1";
 
 /// The rest after a pass when prefDelayBetweenScans is missing, 0 or less, in seconds.
 inline constexpr double cFallbackDelayBetweenScans = 3.0;

@@ -33,7 +33,8 @@ QString filledCommand(QString command, const RsyncParams& params, QStringView op
 /// Any thread.
 class RsyncCommand {
 public:
-    RsyncCommand(UserDefaults& defaults, Console& console) : fDefaults(defaults), fConsole(console) {}
+    RsyncCommand(UserDefaults& defaults, Console& console)
+        : fDefaults(defaults), fConsole(console) {}
 
     /// The option of the stored tag. A tag that does not exist stops the program.
     QString getRsyncCommandOptionString() const;

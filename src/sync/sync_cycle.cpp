@@ -27,7 +27,8 @@ constexpr QStringView cMissingKeysVerdict = u"checksshkeys";
 
 QString alertTextFor(const QString& verdict) {
     if (verdict == cMissingKeysVerdict)
-        return QStringLiteral("Missing ssh keys -\nPlease generate ssh keys\n and \n try again...\n");
+        return QStringLiteral(
+            "Missing ssh keys -\nPlease generate ssh keys\n and \n try again...\n");
     return u"Please make sure remote host is on this network\nor\nPlease check username...\n\n" +
            verdict + u'\n';
 }
@@ -89,9 +90,8 @@ void SyncCycle::doSyncOnceBonjour() {
     constexpr QStringView operation = u"doSyncOnceBonjour()";
     logInside(operation, u".......");
     const QString option = fParts.rsyncCommand.getRsyncCommandOptionString();
-    showStatus(option.isEmpty()
-                   ? QStringLiteral("Trying to rsync From Destination to Source...")
-                   : QString(u"Trying to rsync with option = " + option + u"..."));
+    showStatus(option.isEmpty() ? QStringLiteral("Trying to rsync From Destination to Source...")
+                                : QString(u"Trying to rsync with option = " + option + u"..."));
     switch (permissionToStart(operation)) {
     case Permission::Granted:
         fParts.bgQueue.async([this] { runRemotePass(); });
@@ -165,9 +165,9 @@ void SyncCycle::pullFromRemote(const QString& keyPath) {
         return;
     markScanning();
     const auto pull = [&](const QString& command, QStringView heading) {
-        printResult(heading, fParts.shell.outputWhenRunAsShellCommand(
-                                 fParts.rsyncCommand.fillInParams(
-                                     command, {source, destination, keyPath})));
+        printResult(heading,
+                    fParts.shell.outputWhenRunAsShellCommand(
+                        fParts.rsyncCommand.fillInParams(command, {source, destination, keyPath})));
     };
     pull(rsyncTemplate(), u"\n\nresult from shell command =\n");
     pull(cMovieCommandTemplate.toString(), u"\n\nresult from movie shell command =\n");

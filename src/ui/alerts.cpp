@@ -76,8 +76,7 @@ void Alerts::showProblem(const QString& message, const QString& text,
     fMainQueue.asyncAfter(cProblemLifetime, [this, sheet, completion] {
         if (fPresenter.hasWindow())
             fPresenter.endSheet(sheet);
-        fMainQueue.asyncAfter(cSheetDelay,
-                              [completion] { completion(cAlertFirstButtonReturn); });
+        fMainQueue.asyncAfter(cSheetDelay, [completion] { completion(cAlertFirstButtonReturn); });
     });
 }
 

@@ -14,8 +14,7 @@ constexpr double cReactionDelay = 0.1;
 
 /// How a stored value reads in a diagnostic line.
 QString valueText(const QVariant& value) {
-    return stringValue(value).value_or(
-        QString(u'(' + QLatin1StringView(value.typeName()) + u')'));
+    return stringValue(value).value_or(QString(u'(' + QLatin1StringView(value.typeName()) + u')'));
 }
 
 } // namespace

@@ -18,16 +18,14 @@ void HeadlessButton::performClick() {
 }
 
 void HeadlessStatusField::setAttributedStringValue(const AttributedString& value) {
-    fConsole.print(u"status " + colorName(value.foregroundColor) + u": " +
-                   onOneLine(value.string));
+    fConsole.print(u"status " + colorName(value.foregroundColor) + u": " + onOneLine(value.string));
 }
 
 void HeadlessStatusField::clear() {
     fConsole.print(u"status " + colorName(StatusColor::Black) + u": ");
 }
 
-SheetId HeadlessAlerts::beginSheet(const Alert& alert,
-                                   std::function<void(ModalResponse)> handler) {
+SheetId HeadlessAlerts::beginSheet(const Alert& alert, std::function<void(ModalResponse)> handler) {
     const SheetId sheet = ++fLastSheet;
     fOpenSheets.emplace(sheet, std::move(handler));
     printAlert(alert);

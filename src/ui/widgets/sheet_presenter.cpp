@@ -52,8 +52,7 @@ SheetPresenter::~SheetPresenter() {
     }
 }
 
-SheetId SheetPresenter::beginSheet(const Alert& alert,
-                                   std::function<void(ModalResponse)> handler) {
+SheetId SheetPresenter::beginSheet(const Alert& alert, std::function<void(ModalResponse)> handler) {
     const SheetId sheet = ++fLastSheet;
     QMessageBox* box = makeBox(alert, fMainWindow).release();
     box->setAttribute(Qt::WA_DeleteOnClose);

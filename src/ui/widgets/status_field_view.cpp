@@ -37,9 +37,9 @@ void StatusFieldView::show(const AttributedString& value) {
     fColor = value.foregroundColor;
     fText->setText(value.string);
     fText->setAccessibleName(tr("Status: %1").arg(value.string));
-    fText->setAlignment((value.alignment == TextAlignment::Centered ? Qt::AlignHCenter
-                                                                    : Qt::AlignLeft) |
-                        Qt::AlignVCenter);
+    fText->setAlignment(
+        (value.alignment == TextAlignment::Centered ? Qt::AlignHCenter : Qt::AlignLeft) |
+        Qt::AlignVCenter);
     fSign->setVisible(fColor == StatusColor::Red);
     applyColor();
     QAccessibleEvent event(fText, QAccessible::NameChanged);
@@ -59,9 +59,8 @@ void StatusFieldView::changeEvent(QEvent* event) {
 }
 
 void StatusFieldView::applyColor() {
-    const QColor color = fColor == StatusColor::Red
-                             ? readableRed(palette().color(QPalette::Window))
-                             : palette().color(QPalette::WindowText);
+    const QColor color = fColor == StatusColor::Red ? readableRed(palette().color(QPalette::Window))
+                                                    : palette().color(QPalette::WindowText);
     QPalette shown = fText->palette();
     if (shown.color(QPalette::WindowText) == color)
         return;
