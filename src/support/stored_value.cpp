@@ -36,8 +36,8 @@ template <typename Map>
 QVariant storedMap(const Map& map, int depth) {
     QVariantMap stored;
     for (auto it = map.cbegin(); it != map.cend(); ++it) {
-        if (QVariant kept = storedAt(it.value(), depth); kept.isValid())
-            stored.insert(it.key(), std::move(kept));
+        if (const QVariant kept = storedAt(it.value(), depth); kept.isValid())
+            stored.insert(it.key(), kept);
     }
     return stored;
 }

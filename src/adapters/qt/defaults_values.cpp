@@ -38,8 +38,8 @@ bool DefaultsValues::change(QStringView key, const QVariant& value) {
 void DefaultsValues::registerDefaults(const QVariantMap& defaults) {
     const std::lock_guard lock(fMutex);
     for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
-        if (QVariant value = storedValue(it.value()); value.isValid())
-            fRegistered.insert(it.key(), std::move(value));
+        if (const QVariant value = storedValue(it.value()); value.isValid())
+            fRegistered.insert(it.key(), value);
     }
 }
 

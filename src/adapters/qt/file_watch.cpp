@@ -67,9 +67,7 @@ bool FileWatch::takeEvents() {
             } else if (event.mask & IN_MOVE_SELF) {
                 ::inotify_rm_watch(fEvents.get(), event.wd);
                 changed = true;
-            } else if (event.mask & IN_Q_OVERFLOW) {
-                changed = true;
-            } else if (event.len > 0 && fName == name) {
+            } else if ((event.mask & IN_Q_OVERFLOW) || (event.len > 0 && fName == name)) {
                 changed = true;
             }
             at += static_cast<ssize_t>(sizeof event + event.len);

@@ -140,8 +140,8 @@ public:
             const OwnedText ownedKey(key);
             if (!value)
                 return map;
-            if (QVariant kept = valueOf(value, depth + 1); kept.isValid())
-                map.insert(QString::fromUtf8(key), std::move(kept));
+            if (const QVariant kept = valueOf(value, depth + 1); kept.isValid())
+                map.insert(QString::fromUtf8(key), kept);
         }
     }
 

@@ -149,8 +149,8 @@ private:
         if (fNodes[index] != cUnknown)
             return;
         fNodes[index] = cOpen;
-        const Object object =
-            objectAt(number(static_cast<qsizetype>(fTable + index * fOffsetSize), fOffsetSize));
+        const std::uint64_t entry = fTable + index * fOffsetSize;
+        const Object object = objectAt(number(static_cast<qsizetype>(entry), fOffsetSize));
         std::uint64_t nodes = object.nodes;
         int height = 0;
         for (std::uint64_t i = 0; i < object.referenced && fFault.isEmpty(); ++i) {
