@@ -17,9 +17,9 @@ public:
     /// Whether there is a main window that a sheet can hang on.
     virtual bool hasWindow() const = 0;
 
-    /// Shows `alert` on the main window and returns at once. `handler` is called exactly once, later
-    /// on the main thread, with the answer, or with cModalResponseStop when `endSheet` came first;
-    /// not at all when the presenter is destroyed before.
+    /// Shows `alert` on the main window and returns at once. `handler` is called exactly once,
+    /// later on the main thread, with the answer, or with cModalResponseStop when `endSheet` came
+    /// first; not at all when the presenter is destroyed before.
     virtual SheetId beginSheet(const Alert& alert, std::function<void(ModalResponse)> handler) = 0;
 
     /// Takes the sheet away. One that is gone already, or never was, is no error.

@@ -19,8 +19,8 @@ struct Alert {
     QString messageText;
     QString informativeText;
     AlertStyle style = AlertStyle::Critical;
-    QStringList buttons;          ///< in order; empty: the one default button
-    bool answersItself = false;   ///< its maker ends it after a while, answered or not
+    QStringList buttons;        ///< in order; empty: the one default button
+    bool answersItself = false; ///< its maker ends it after a while, answered or not
 
     bool operator==(const Alert&) const = default;
 };

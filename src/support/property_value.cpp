@@ -111,8 +111,9 @@ std::optional<QString> stringValue(const QVariant& value) {
     if (value.typeId() == QMetaType::Bool)
         return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
     if (isNumber(value))
-        return isReal(value) ? QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest)
-                             : value.toString();
+        return isReal(value)
+                   ? QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest)
+                   : value.toString();
     return std::nullopt;
 }
 

@@ -1,39 +1,13 @@
 // The one table of settings keys and run-time flags kept in the settings store.
 #pragma once
 
+#include "support/preference_keys.h"
+
 #include <QStringView>
 
 #include <span>
 
 namespace kelvo {
-
-inline constexpr QStringView prefEnableScanning = u"prefEnableScanning";
-inline constexpr QStringView prefIsScanning = u"prefIsScanning";
-inline constexpr QStringView prefDelayBetweenScans = u"prefDelayBetweenScans";
-inline constexpr QStringView prefRsyncCommandString1 = u"prefRsyncCommandString1";
-inline constexpr QStringView prefRsyncCommandStringExample = u"prefRsyncCommandStringExample";
-inline constexpr QStringView prefRsyncCommandOptionTag = u"prefRsyncCommandOptionTag";
-inline constexpr QStringView prefRsyncWithSSH = u"prefRsyncWithSSH";
-inline constexpr QStringView prefPath1 = u"prefPath1";
-inline constexpr QStringView prefPath2 = u"prefPath2";
-inline constexpr QStringView prefRemoteUsername = u"prefRemoteUsername";
-inline constexpr QStringView prefRemoteBonjourName = u"prefRemoteBonjourName";
-inline constexpr QStringView prefRemotePath = u"prefRemotePath";
-inline constexpr QStringView prefSampleRemoteFullPath = u"prefSampleRemoteFullPath";
-inline constexpr QStringView prefRemoteDnssdServiceData = u"prefRemoteDnssdServiceData";
-inline constexpr QStringView prefScanningBonjour = u"prefScanningBonjour";
-inline constexpr QStringView prefSelectedValidRow = u"prefSelectedValidRow";
-inline constexpr QStringView perfFirstLineMessage = u"perfFirstLineMessage"; // "perf": stored so
-inline constexpr QStringView prefStatusTextfieldString = u"prefStatusTextfieldString";
-inline constexpr QStringView prefVersionDisplayString = u"prefVersionDisplayString";
-inline constexpr QStringView prefAutoStartScanOnLaunch = u"prefAutoStartScanOnLaunch";
-inline constexpr QStringView prefHideOnLaunch = u"prefHideOnLaunch";
-
-/// The template text that a pass runs when prefRsyncCommandString1 is missing.
-inline constexpr QStringView cMissingRsyncCommandString1 = u"Unable-To-Find-prefRsyncCommandString1";
-
-/// The rest after a pass when prefDelayBetweenScans is missing, 0 or less, in seconds.
-inline constexpr double cFallbackDelayBetweenScans = 3.0;
 
 enum class PreferenceType { Bool, Integer, Double, String, Dictionary };
 
@@ -46,7 +20,7 @@ struct Preference {
     QStringView readers;
 };
 
-/// Every key above, in this order.
+/// Every key of support/preference_keys.h, in the order there.
 std::span<const Preference> preferenceTable();
 
 } // namespace kelvo

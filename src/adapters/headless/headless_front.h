@@ -1,0 +1,65 @@
+// The front without a window: every status message and alert is one line on standard output.
+#pragma once
+
+#include "ports/alert_presenter.h"
+#include "ports/control.h"
+#include "ports/status_field.h"
+
+#include <functional>
+#include <map>
+
+namespace kelvo {
+
+class Console;
+class DispatchQueue;
+
+/// A start button that nobody can see; the program itself clicks it.
+class HeadlessButton final : public Button {
+public:
+    /// `action` receives the button after each click.
+    explicit HeadlessButton(std::function<void(Control*)> action) : fAction(std::move(action)) {}
+
+    int state() const override { return fState; }
+    void performClick() override;
+    void setTitle(const QString&) override {}
+
+private:
+    std::function<void(Control*)> fAction;
+    int fState = 0;
+};
+
+/// Prints "status <colour>: <text>"; an empty text when cleared.
+class HeadlessStatusField final : public StatusField {
+public:
+    explicit HeadlessStatusField(Console& console) : fConsole(console) {}
+
+    void setAttributedStringValue(const AttributedString& value) override;
+    void clear() override;
+
+private:
+    Console& fConsole;
+};
+
+/// Prints "alert: <title> | <text>". An alert that answers itself waits for its maker; any other
+/// is answered with its first button.
+class HeadlessAlerts final : public AlertPresenter {
+public:
+    HeadlessAlerts(Console& console, DispatchQueue& mainQueue)
+        : fConsole(console), fMainQueue(mainQueue) {}
+
+    bool hasWindow() const override { return true; }
+    SheetId beginSheet(const Alert& alert, std::function<void(ModalResponse)> handler) override;
+    void endSheet(SheetId sheet) override;
+    ModalResponse runModal(const Alert& alert) override;
+
+private:
+    void printAlert(const Alert& alert);
+    void answer(SheetId sheet, ModalResponse response);
+
+    Console& fConsole;
+    DispatchQueue& fMainQueue;
+    std::map<SheetId, std::function<void(ModalResponse)>> fOpenSheets;
+    SheetId fLastSheet = 0;
+};
+
+} // namespace kelvo

@@ -1,0 +1,52 @@
+// RsyncCommand: turns a command template and the settings into one rsync command line.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace kelvo {
+
+class Console;
+class UserDefaults;
+
+/// The template of the second command of a remote pass: pulls movie files by their name alone.
+inline constexpr QStringView cMovieCommandTemplate =
+    uR"(/usr/bin/rsync %@98  -f '+ */' -f '+ *.[mM][oOpP][vV4]*' -f '- *' -r  --times  --prune-empty-dirs "%@1" "%@2" )";
+
+/// The rsync option that a stored prefRsyncCommandOptionTag stands for; nothing for a tag that
+/// does not exist.
+std::optional<QStringView> optionStringForTag(qint64 tag);
+
+/// What goes into a template. A missing source or destination leaves its placeholder standing.
+struct RsyncParams {
+    std::optional<QString> srcpath;
+    std::optional<QString> dstpath;
+    std::optional<QString> sshfilepath; ///< private key; given only for passes over ssh
+};
+
+/// `command` with its placeholders replaced in their fixed order: source, destination, key file,
+/// ssh part, option. Each step works on the text that the earlier ones left, so a placeholder
+/// inside a source is filled by the later steps.
+QString filledCommand(QString command, const RsyncParams& params, QStringView optionString);
+
+/// Any thread.
+class RsyncCommand {
+public:
+    RsyncCommand(UserDefaults& defaults, Console& console)
+        : fDefaults(defaults), fConsole(console) {}
+
+    /// The option of the stored tag. A tag that does not exist stops the program.
+    QString getRsyncCommandOptionString() const;
+
+    /// `filledCommand` with the stored option, traced on the console step by step.
+    QString fillInParams(const QString& command, const RsyncParams& params) const;
+
+private:
+    void tracePathStep(const std::optional<QString>& path) const;
+
+    UserDefaults& fDefaults;
+    Console& fConsole;
+};
+
+} // namespace kelvo

@@ -1,0 +1,81 @@
+#include "ui/widgets/status_field_view.h"
+
+#include <QAccessible>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+
+namespace kelvo {
+namespace {
+
+/// A red that keeps a contrast of at least 4.5 to 1 on the given background.
+QColor readableRed(const QColor& background) {
+    return background.lightnessF() < 0.5F ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x00, 0x20);
+}
+
+} // namespace
+
+StatusFieldView::StatusFieldView(QWidget* parent)
+    : QFrame(parent), fSign(new QLabel(this)), fText(new QLabel(this)) {
+    auto* row = new QHBoxLayout(this);
+    row->addWidget(fSign);
+    row->addWidget(fText, 1);
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    fSign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(side));
+    fSign->setAccessibleName(tr("Trouble"));
+    fText->setObjectName(QStringLiteral("statusText"));
+    fText->setTextFormat(Qt::PlainText);
+    fText->setWordWrap(true);
+    fText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    fText->setAccessibleDescription(tr("What the program is doing"));
+    setFrameShape(QFrame::StyledPanel);
+    clear();
+}
+
+void StatusFieldView::show(const AttributedString& value) {
+    fColor = value.foregroundColor;
+    fText->setText(value.string);
+    fText->setAccessibleName(tr("Status: %1").arg(value.string));
+    fText->setAlignment(
+        (value.alignment == TextAlignment::Centered ? Qt::AlignHCenter : Qt::AlignLeft) |
+        Qt::AlignVCenter);
+    fSign->setVisible(fColor == StatusColor::Red);
+    applyColor();
+    QAccessibleEvent event(fText, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+}
+
+void StatusFieldView::clear() {
+    fText->clear();
+    fText->setAccessibleName(tr("Status"));
+    fSign->hide();
+}
+
+void StatusFieldView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        applyColor();
+    QFrame::changeEvent(event);
+}
+
+void StatusFieldView::applyColor() {
+    const QColor color = fColor == StatusColor::Red ? readableRed(palette().color(QPalette::Window))
+                                                    : palette().color(QPalette::WindowText);
+    QPalette shown = fText->palette();
+    if (shown.color(QPalette::WindowText) == color)
+        return;
+    shown.setColor(QPalette::WindowText, color);
+    fText->setPalette(shown);
+}
+
+void WidgetStatusField::setAttributedStringValue(const AttributedString& value) {
+    if (fView)
+        fView->show(value);
+}
+
+void WidgetStatusField::clear() {
+    if (fView)
+        fView->clear();
+}
+
+} // namespace kelvo

@@ -1,0 +1,54 @@
+// RecordingConsole: keeps every line instead of writing it.
+#pragma once
+
+#include "ports/console.h"
+
+#include <mutex>
+#include <vector>
+
+namespace kelvo {
+
+class RecordingConsole final : public Console {
+public:
+    enum class Kind { Print, Log };
+    struct Line {
+        Kind kind;
+        QString text;
+        bool operator==(const Line&) const = default;
+    };
+
+    using Console::print;
+    void print(const QStringList& pieces) override { record(Kind::Print, pieces.join(QString())); }
+    void log(const QString& text) override { record(Kind::Log, text); }
+
+    std::vector<Line> lines() const {
+        const std::lock_guard lock(fMutex);
+        return fLines;
+    }
+    QStringList printed() const { return texts(Kind::Print); }
+    QStringList logged() const { return texts(Kind::Log); }
+    void clear() {
+        const std::lock_guard lock(fMutex);
+        fLines.clear();
+    }
+
+private:
+    void record(Kind kind, const QString& text) {
+        const std::lock_guard lock(fMutex);
+        fLines.push_back({kind, text});
+    }
+    QStringList texts(Kind kind) const {
+        const std::lock_guard lock(fMutex);
+        QStringList found;
+        for (const Line& line : fLines) {
+            if (line.kind == kind)
+                found.append(line.text);
+        }
+        return found;
+    }
+
+    mutable std::mutex fMutex;
+    std::vector<Line> fLines;
+};
+
+} // namespace kelvo

@@ -1,0 +1,69 @@
+#include "adapters/headless/headless_front.h"
+#include "fakes/recording_console.h"
+#include "fakes/virtual_queues.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+class HeadlessFrontTest : public ::testing::Test {
+protected:
+    RecordingConsole console;
+    VirtualMainQueue mainQueue;
+    HeadlessAlerts alerts{console, mainQueue};
+    std::vector<ModalResponse> responses;
+    std::function<void(ModalResponse)> record() {
+        return [this](ModalResponse response) { responses.push_back(response); };
+    }
+};
+
+TEST_F(HeadlessFrontTest, Status_IsOneLineWithItsColour) {
+    HeadlessStatusField field(console);
+    field.setAttributedStringValue(
+        getAttributedString(QStringLiteral("two\nlines"), StatusColor::Red, true));
+    field.setAttributedStringValue(
+        getAttributedString(QStringLiteral("ok"), StatusColor::Black, true));
+    field.clear();
+    EXPECT_EQ(console.printed(),
+              (QStringList{QStringLiteral("status red: two\\nlines"),
+                           QStringLiteral("status black: ok"), QStringLiteral("status black: ")}));
+}
+
+TEST_F(HeadlessFrontTest, Button_TurnsOverAndSendsItself) {
+    int clicks = 0;
+    HeadlessButton button([&](Control* sender) {
+        ++clicks;
+        EXPECT_EQ(dynamic_cast<Button*>(sender)->state(), clicks % 2);
+    });
+    button.performClick();
+    button.performClick();
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(HeadlessFrontTest, Alert_IsOneLineAndAnswersWithItsFirstButton) {
+    alerts.beginSheet({QStringLiteral("T"), QStringLiteral("a\nb\n"), {}, {}, false}, record());
+    EXPECT_EQ(console.printed(), QStringList{QStringLiteral("alert: T | a\\nb\\n")});
+    EXPECT_TRUE(responses.empty()) << "never inside the call";
+    mainQueue.runDue();
+    EXPECT_EQ(responses, std::vector<ModalResponse>{1000});
+}
+
+TEST_F(HeadlessFrontTest, AlertThatAnswersItself_WaitsForItsMaker) {
+    const SheetId sheet = alerts.beginSheet({QStringLiteral("T"), {}, {}, {}, true}, record());
+    mainQueue.advance(60);
+    EXPECT_TRUE(responses.empty());
+    alerts.endSheet(sheet);
+    alerts.endSheet(sheet);
+    alerts.endSheet(99);
+    mainQueue.runDue();
+    EXPECT_EQ(responses, std::vector<ModalResponse>{cModalResponseStop});
+}
+
+TEST_F(HeadlessFrontTest, ModalQuestion_AnswersWithItsFirstButton) {
+    EXPECT_EQ(alerts.runModal({QStringLiteral("T"), QStringLiteral("x"), {}, {}, false}), 1000);
+    EXPECT_EQ(console.printed(), QStringList{QStringLiteral("alert: T | x")});
+}
+
+} // namespace
+} // namespace kelvo

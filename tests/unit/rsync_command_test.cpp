@@ -1,0 +1,148 @@
+#include "fakes/memory_defaults.h"
+#include "fakes/recording_console.h"
+#include "support/preference_keys.h"
+#include "sync/rsync_command.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace kelvo {
+namespace {
+
+const QString cKey = QStringLiteral("/Users/localuser/.ssh/id_kelvoRsync");
+
+class RsyncCommandTest : public ::testing::Test {
+protected:
+    void setTag(const QVariant& tag) { defaults.setObject(prefRsyncCommandOptionTag, tag); }
+
+    MemoryDefaults defaults;
+    RecordingConsole console;
+    RsyncCommand command{defaults, console};
+};
+
+TEST_F(RsyncCommandTest, MovieTemplate_IsExact) {
+    EXPECT_EQ(cMovieCommandTemplate,
+              u"/usr/bin/rsync %@98  -f '+ */' -f '+ *.[mM][oOpP][vV4]*' -f '- *' -r  --times  "
+              u"--prune-empty-dirs \"%@1\" \"%@2\" ");
+}
+
+TEST_F(RsyncCommandTest, RemotePass_FillsTheMovieTemplate) {
+    EXPECT_EQ(filledCommand(cMovieCommandTemplate.toString(),
+                            {QStringLiteral("mediauser@RemoteMac:/Users/mediauser/Movies"),
+                             QStringLiteral("/Users/localuser/Incoming"), cKey},
+                            u""),
+              u"/usr/bin/rsync 2>&1 --timeout=5  -e 'ssh -i /Users/localuser/.ssh/id_kelvoRsync'"
+              u"  -f '+ */' -f '+ *.[mM][oOpP][vV4]*' -f '- *' -r  --times  --prune-empty-dirs "
+              u"\"mediauser@RemoteMac:/Users/mediauser/Movies/\" \"/Users/localuser/Incoming/\" ");
+}
+
+TEST_F(RsyncCommandTest, PlainPass_DropsTheSshPartAndKeepsTheBlanks) {
+    EXPECT_EQ(filledCommand(QStringLiteral("/usr/bin/rsync -r %@99 %@98 \"%@1\" \"%@2\""),
+                            {QStringLiteral(" /Volumes/Cam "),
+                             QStringLiteral("/Users/localuser/Incoming/"), std::nullopt},
+                            u"--ignore-existing"),
+              u"/usr/bin/rsync -r --ignore-existing  \"/Volumes/Cam/\" "
+              u"\"/Users/localuser/Incoming/\"");
+}
+
+TEST_F(RsyncCommandTest, NoKeyPath_LeavesTheKeyPlaceholder) {
+    EXPECT_EQ(filledCommand(QStringLiteral("a %@3 b%@98c"), {}, u""), u"a %@3 bc");
+}
+
+TEST_F(RsyncCommandTest, KeyPath_PassesUnchanged) {
+    EXPECT_EQ(filledCommand(QStringLiteral("%@3|%@98"), {{}, {}, QStringLiteral(" /k ")}, u""),
+              u" /k |2>&1 --timeout=5  -e 'ssh -i  /k '");
+}
+
+TEST_F(RsyncCommandTest, MissingPaths_LeaveTheirPlaceholders) {
+    EXPECT_EQ(filledCommand(QStringLiteral("%@1 %@2"), {}, u""), u"%@1 %@2");
+}
+
+TEST_F(RsyncCommandTest, SourceWithLaterPlaceholders_IsFilledByTheLaterSteps) {
+    EXPECT_EQ(filledCommand(QStringLiteral("[%@1]"),
+                            {QStringLiteral("s-%@2-%@3-%@98-%@99"), QStringLiteral("/d"),
+                             QStringLiteral("/k")},
+                            u"--update"),
+              u"[s-/d/-/k-2>&1 --timeout=5  -e 'ssh -i /k'---update/]");
+}
+
+TEST_F(RsyncCommandTest, DestinationWithSourcePlaceholder_KeepsIt) {
+    EXPECT_EQ(filledCommand(QStringLiteral("%@1>%@2"),
+                            {QStringLiteral("/s"), QStringLiteral("/%@1"), std::nullopt}, u""),
+              u"/s/>/%@1/");
+}
+
+TEST_F(RsyncCommandTest, EveryOccurrence_IsReplaced) {
+    EXPECT_EQ(filledCommand(QStringLiteral("%@99 %@1 %@1 %@99"), {QStringLiteral("x"), {}, {}},
+                            u"--update"),
+              u"--update x/ x/ --update");
+}
+
+TEST_F(RsyncCommandTest, EmptyDestination_BecomesTheRoot) {
+    const auto filled = [](const QString& destination) {
+        return filledCommand(QStringLiteral("\"%@2\""), {{}, destination, {}}, u"");
+    };
+    EXPECT_EQ(filled(QString()), u"\"/\"");
+    EXPECT_EQ(filled(QStringLiteral("/x")), filled(QStringLiteral("/x/")));
+}
+
+TEST_F(RsyncCommandTest, OptionTags_HaveTheirStrings) {
+    EXPECT_EQ(optionStringForTag(100), u"");
+    EXPECT_EQ(optionStringForTag(101), u"--update");
+    EXPECT_EQ(optionStringForTag(102), u"--ignore-existing");
+    EXPECT_EQ(optionStringForTag(105), u"");
+    for (const qint64 tag : {0, 99, 103, 104, 106, -101})
+        EXPECT_EQ(optionStringForTag(tag), std::nullopt) << tag;
+}
+
+TEST_F(RsyncCommandTest, StoredTag_IsReadAndTraced) {
+    setTag(QStringLiteral("102"));
+    EXPECT_EQ(command.getRsyncCommandOptionString(), u"--ignore-existing");
+    setTag(105);
+    EXPECT_EQ(command.getRsyncCommandOptionString(), u"");
+    EXPECT_EQ(console.printed(),
+              (QStringList{QStringLiteral("Inside NSUserDefaults->getRsyncCommandOptionString()"
+                                          ".......returning: [--ignore-existing]"),
+                           QStringLiteral("Inside NSUserDefaults->getRsyncCommandOptionString()"
+                                          ".......returning: []")}));
+}
+
+TEST_F(RsyncCommandTest, FillInParams_TracesEachStepInOrder) {
+    setTag(101);
+    const QString filled = command.fillInParams(QStringLiteral("r %@99 %@1 %@2"),
+                                                {QStringLiteral("/s"), QStringLiteral("/d"), {}});
+    EXPECT_EQ(filled, u"r --update /s/ /d/");
+    EXPECT_EQ(
+        console.printed(),
+        (QStringList{QStringLiteral("Inside String->appendSlashIfNeeded()......."),
+                     QStringLiteral("Inside String->appendSlashIfNeeded()......."),
+                     QStringLiteral("Inside NSUserDefaults->getRsyncCommandOptionString()"
+                                    ".......returning: [--update]"),
+                     QStringLiteral("Inside String->fillInParams(srcpath:dstpath:sshfilepath:)"
+                                    ".......returning:\nr --update /s/ /d/")}));
+}
+
+TEST_F(RsyncCommandTest, TemplateWithoutPlaceholders_ComesBackUnchanged) {
+    setTag(100);
+    EXPECT_EQ(command.fillInParams(cMissingRsyncCommandString1.toString(),
+                                   {QStringLiteral("/s"), QStringLiteral("/d"), cKey}),
+              cMissingRsyncCommandString1);
+}
+
+using RsyncCommandDeathTest = RsyncCommandTest;
+
+TEST_F(RsyncCommandDeathTest, TagThatDoesNotExist_StopsTheProgramWithoutAWord) {
+    for (const int tag : {103, 104, 99, 106}) {
+        setTag(tag);
+        EXPECT_EXIT(command.getRsyncCommandOptionString(), ::testing::KilledBySignal(SIGILL), "^$")
+            << tag;
+    }
+}
+
+TEST_F(RsyncCommandDeathTest, MissingTag_StopsTheProgram) {
+    EXPECT_EXIT(command.getRsyncCommandOptionString(), ::testing::KilledBySignal(SIGILL), "^$");
+}
+
+} // namespace
+} // namespace kelvo

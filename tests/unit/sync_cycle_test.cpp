@@ -1,0 +1,624 @@
+#include "fakes/fake_file_manager.h"
+#include "fakes/fake_front.h"
+#include "fakes/memory_defaults.h"
+#include "fakes/recording_console.h"
+#include "fakes/scripted_shell.h"
+#include "fakes/virtual_queues.h"
+#include "ports/host_validator.h"
+#include "support/preference_keys.h"
+#include "sync/rsync_command.h"
+#include "sync/sync_cycle.h"
+#include "ui/alerts.h"
+#include "ui/status_line.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+
+namespace kelvo {
+namespace {
+
+const QString cTrying = QStringLiteral("Trying to rsync From Destination to Source...");
+const QString cResting = QStringLiteral("Resting a bit ...");
+const QString cMovieRules = QStringLiteral("-f '+ */'");
+
+class ScriptedValidator final : public HostValidator {
+public:
+    QString validateRemoteHostWithWhoami(qint64 timeout) override {
+        timeouts.push_back(timeout);
+        if (verdicts.empty())
+            return usual;
+        const QString verdict = verdicts.front();
+        verdicts.pop_front();
+        return verdict;
+    }
+
+    QString usual = QStringLiteral("valid");
+    std::deque<QString> verdicts; ///< the next answers, before the usual one
+    std::vector<qint64> timeouts;
+};
+
+class SyncCycleTest : public ::testing::Test {
+protected:
+    SyncCycleTest() {
+        defaults.setObject(prefRsyncCommandOptionTag, 100);
+        defaults.setObject(prefRsyncWithSSH, true);
+        defaults.setObject(prefDelayBetweenScans, 30.0);
+        defaults.setObject(prefRsyncCommandString1,
+                           QStringLiteral("pull %@98 %@99 \"%@1\" \"%@2\""));
+        defaults.setObject(prefPath1, QStringLiteral(" /Volumes/Cam\n"));
+        defaults.setObject(prefPath2, QStringLiteral("/Incoming "));
+        defaults.setObject(prefRemoteUsername, QStringLiteral("mediauser"));
+        defaults.setObject(prefRemoteBonjourName, QStringLiteral("RemoteMac"));
+        defaults.setObject(prefSampleRemoteFullPath, QStringLiteral(" mediauser@RemoteMac:Movies"));
+        button.action = [this](Control* sender) { cycle.ibStartRSyncProcess(sender); };
+    }
+
+    bool enabled() const { return defaults.boolForKey(prefEnableScanning); }
+    bool scanning() const { return defaults.boolForKey(prefIsScanning); }
+
+    /// Runs the waiting pass bodies and what they leave due on the main queue.
+    void runBodies() {
+        bgQueue.runAll();
+        mainQueue.runDue();
+    }
+
+    /// The status texts so far, those still on their way included.
+    QStringList statusTexts() {
+        mainQueue.advance(0.1);
+        QStringList texts;
+        for (const AttributedString& message : field->shown)
+            texts.append(message.string);
+        return texts;
+    }
+
+    AttributedString lastStatus() {
+        mainQueue.advance(0.1);
+        return field->shown.empty() ? AttributedString() : field->shown.back();
+    }
+
+    /// Lets `count` remote passes fail, the first one started by the button.
+    void failPasses(int count) {
+        validator.usual = QStringLiteral("unknownerror");
+        if (!enabled())
+            button.performClick();
+        for (int i = 0; i < count; ++i) {
+            runBodies();
+            if (i + 1 < count)
+                mainQueue.advance(1.0 + 30.0);
+        }
+    }
+
+    bool logged(const QString& line) const { return console.logged().contains(line); }
+    qsizetype timesLogged(const QString& line) const { return console.logged().count(line); }
+
+    MemoryDefaults defaults;
+    VirtualMainQueue mainQueue;
+    ManualBackgroundQueue bgQueue;
+    ScriptedShell shell;
+    FakeFileManager files;
+    RecordingConsole console;
+    RsyncCommand rsyncCommand{defaults, console};
+    ScriptedValidator validator;
+    std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
+    StatusLine statusLine{defaults, mainQueue, field};
+    FakeAlertPresenter presenter;
+    Alerts alerts{mainQueue, console, presenter};
+    FakeButton button;
+    SyncCycle cycle{{defaults, mainQueue, bgQueue, shell, files, console, rsyncCommand, validator,
+                     statusLine, alerts, button}};
+};
+
+// -- the actions
+
+TEST_F(SyncCycleTest, StartButtonOn_StoresTheStateAndStartsARemotePass) {
+    button.performClick();
+    EXPECT_EQ(defaults.object(prefEnableScanning), QVariant(qint64{1}));
+    EXPECT_EQ(console.logged(),
+              (QStringList{
+                  QStringLiteral("Inside Kelvo_Mirror.ViewController->ibStartRSyncProcess(_:)"),
+                  QStringLiteral("button.state = 1"),
+                  QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour()......."),
+                  QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour()"
+                                 ".......NEED to start a scan ...")}));
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(SyncCycleTest, StartButtonOnWithoutSsh_StartsAPlainPass) {
+    defaults.setObject(prefRsyncWithSSH, false);
+    button.performClick();
+    EXPECT_EQ(console.logged().mid(2),
+              (QStringList{QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnce()"),
+                           QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnce()"
+                                          ".......NEED to start a scan ...")}));
+}
+
+TEST_F(SyncCycleTest, StartButtonOff_StoresTheStateAndDoesNothingElse) {
+    button.current = 1;
+    button.performClick();
+    EXPECT_EQ(defaults.object(prefEnableScanning), QVariant(qint64{0}));
+    EXPECT_EQ(bgQueue.size(), 0U);
+    EXPECT_TRUE(mainQueue.idle());
+}
+
+TEST_F(SyncCycleTest, SenderThatIsNoButton_IsIgnored) {
+    struct Slider final : Control {
+    } slider;
+    cycle.ibStartRSyncProcess(&slider);
+    cycle.ibRSyncOnce(&slider);
+    cycle.ibRSyncOnceBonjour(nullptr);
+    EXPECT_FALSE(defaults.object(prefEnableScanning).isValid());
+    EXPECT_EQ(bgQueue.size(), 0U);
+    EXPECT_EQ(console.logged().size(), 3) << "only the entry lines";
+}
+
+TEST_F(SyncCycleTest, OnceActions_ChooseTheirPassWhateverTheSettingSays) {
+    button.current = 1;
+    cycle.ibRSyncOnce(&button);
+    EXPECT_TRUE(logged(QStringLiteral("Inside Kelvo_Mirror.ViewController->ibRSyncOnce(_:)")));
+    EXPECT_TRUE(logged(QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnce()")));
+    defaults.setObject(prefRsyncWithSSH, false);
+    cycle.ibRSyncOnceBonjour(&button);
+    EXPECT_TRUE(
+        logged(QStringLiteral("Inside Kelvo_Mirror.ViewController->ibRSyncOnceBonjour(_:)")));
+    EXPECT_TRUE(
+        logged(QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour().......")));
+}
+
+// -- the plain pass
+
+class PlainPassTest : public SyncCycleTest {
+protected:
+    PlainPassTest() { defaults.setObject(prefRsyncWithSSH, false); }
+};
+
+TEST_F(PlainPassTest, Body_RunsTheFilledTemplateAndPrintsItsOutput) {
+    shell.answerTo(QStringLiteral("pull"), QStringLiteral("a.mov\n"));
+    button.performClick();
+    console.clear();
+    bgQueue.runAll();
+    const QString command = QStringLiteral("pull   \"/Volumes/Cam/\" \"/Incoming/\"");
+    EXPECT_EQ(shell.commands(), QStringList{command});
+    EXPECT_EQ(console.printed().mid(4),
+              (QStringList{QString(u"cmd to send = " + command),
+                           QStringLiteral("result from shell command =\na.mov\n\n"
+                                          "======== done ========")}));
+}
+
+TEST_F(PlainPassTest, BusyFlag_IsSetOnTheMainQueueAfterThePathsWereRead) {
+    button.performClick();
+    EXPECT_FALSE(scanning());
+    bool scanningWhileRunning = true;
+    shell.answerTo(QStringLiteral("pull"), [&](const QString&) {
+        scanningWhileRunning = scanning();
+        return QString();
+    });
+    bgQueue.runAll();
+    EXPECT_FALSE(scanningWhileRunning) << "queued, not yet run";
+    mainQueue.runDue();
+    EXPECT_TRUE(scanning());
+}
+
+TEST_F(PlainPassTest, End_ClearsTheFlagAfterOneSecondAndStartsAgainAfterTheRest) {
+    button.performClick();
+    runBodies();
+    mainQueue.advance(0.999);
+    EXPECT_TRUE(scanning());
+    mainQueue.advance(0.001);
+    EXPECT_FALSE(scanning());
+    mainQueue.advance(29.999);
+    EXPECT_EQ(bgQueue.size(), 0U);
+    mainQueue.advance(0.001);
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(PlainPassTest, RestOfZeroOrLessOrMissing_IsThreeSeconds) {
+    button.performClick();
+    for (const QVariant& rest : {QVariant(0), QVariant(-5), QVariant(), QVariant("soon")}) {
+        defaults.setObject(prefDelayBetweenScans, rest);
+        runBodies();
+        mainQueue.advance(1.0 + 2.999);
+        EXPECT_EQ(bgQueue.size(), 0U);
+        mainQueue.advance(0.001);
+        EXPECT_EQ(bgQueue.size(), 1U);
+    }
+}
+
+TEST_F(PlainPassTest, RestAboveZero_IsTakenAsItIs) {
+    defaults.setObject(prefDelayBetweenScans, 0.5);
+    button.performClick();
+    runBodies();
+    mainQueue.advance(1.499);
+    EXPECT_EQ(bgQueue.size(), 0U);
+    mainQueue.advance(0.001);
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(PlainPassTest, MissingFolder_EndsTheChainSilently) {
+    for (const QStringView key : {prefPath1, prefPath2}) {
+        const QVariant kept = defaults.object(key);
+        defaults.removeObject(key);
+        button.current = 0;
+        button.performClick();
+        runBodies();
+        EXPECT_TRUE(mainQueue.idle());
+        EXPECT_TRUE(enabled()) << "the setting stays on";
+        EXPECT_FALSE(scanning());
+        defaults.setObject(key, kept);
+    }
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_TRUE(field->shown.empty());
+}
+
+TEST_F(PlainPassTest, MissingTemplate_RunsThePlaceholderText) {
+    defaults.removeObject(prefRsyncCommandString1);
+    button.performClick();
+    bgQueue.runAll();
+    EXPECT_EQ(shell.commands(), QStringList{cMissingRsyncCommandString1.toString()});
+}
+
+TEST_F(PlainPassTest, SwitchedOff_LogsAndLeavesTheStatusLine) {
+    cycle.doSyncOnce();
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnce()"
+                                       u".......prefEnableScanning = FALSE... cannot start");
+    EXPECT_TRUE(statusTexts().isEmpty());
+}
+
+TEST_F(PlainPassTest, SecondRequestWhileRunning_IsRefusedAndForgotten) {
+    button.performClick();
+    runBodies();
+    cycle.doSyncOnce();
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnce()"
+                                       u".......ALREADY in Middle of a Scan...");
+    EXPECT_EQ(bgQueue.size(), 0U);
+    mainQueue.advance(31.0);
+    EXPECT_EQ(bgQueue.size(), 1U) << "the running chain goes on alone";
+}
+
+TEST_F(PlainPassTest, TwoRequestsCloseTogether_BothRun) {
+    button.performClick();
+    cycle.doSyncOnce();
+    EXPECT_EQ(bgQueue.size(), 2U) << "the busy flag is set only once a body has read its paths";
+    runBodies();
+    EXPECT_EQ(shell.commands().size(), 2);
+}
+
+TEST_F(PlainPassTest, SwitchedOffDuringAPass_EndsAtTheNextCheck) {
+    button.performClick();
+    runBodies();
+    button.performClick();
+    mainQueue.advance(31.0);
+    EXPECT_EQ(bgQueue.size(), 0U);
+    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_FALSE(scanning());
+}
+
+// -- the remote pass
+
+using RemotePassTest = SyncCycleTest;
+
+TEST_F(RemotePassTest, Body_ValidatesThenPullsTwice) {
+    shell.answerTo(QStringLiteral("pull"), QStringLiteral("one\n"));
+    shell.answerTo(cMovieRules, QStringLiteral("two\n"));
+    button.performClick();
+    console.clear();
+    bgQueue.runAll();
+    EXPECT_EQ(validator.timeouts, std::vector<qint64>{3});
+    const QString sshPart =
+        QStringLiteral("2>&1 --timeout=5  -e 'ssh -i /Users/localuser/.ssh/id_kelvoRsync'");
+    EXPECT_EQ(shell.commands(),
+              (QStringList{
+                  QString(u"pull " + sshPart + u"  \"mediauser@RemoteMac:Movies/\" \"/Incoming/\""),
+                  QString(u"/usr/bin/rsync " + sshPart +
+                          u"  -f '+ */' -f '+ *.[mM][oOpP][vV4]*' -f '- *' -r  --times  "
+                          u"--prune-empty-dirs \"mediauser@RemoteMac:Movies/\" \"/Incoming/\" ")}));
+    EXPECT_EQ(console.printed().filter(QStringLiteral("result from")),
+              (QStringList{QStringLiteral("\n\nresult from shell command =\none\n\n"
+                                          "======== done ========"),
+                           QStringLiteral("\n\nresult from movie shell command =\ntwo\n\n"
+                                          "======== done ========")}));
+}
+
+TEST_F(RemotePassTest, StatusLines_TellTryingThenResting) {
+    button.performClick();
+    EXPECT_EQ(lastStatus(),
+              (AttributedString{cTrying, StatusColor::Black, TextAlignment::Centered}));
+    runBodies();
+    EXPECT_EQ(statusTexts(), QStringList{cTrying});
+    mainQueue.advance(1.0);
+    EXPECT_EQ(lastStatus(),
+              (AttributedString{cResting, StatusColor::Black, TextAlignment::Centered}));
+}
+
+TEST_F(RemotePassTest, StatusLine_NamesTheOption) {
+    defaults.setObject(prefRsyncCommandOptionTag, 101);
+    button.performClick();
+    EXPECT_EQ(lastStatus().string, u"Trying to rsync with option = --update...");
+}
+
+TEST_F(RemotePassTest, End_FollowsTheSameTimesAsThePlainPass) {
+    button.performClick();
+    runBodies();
+    EXPECT_TRUE(scanning());
+    mainQueue.advance(1.0);
+    EXPECT_FALSE(scanning());
+    mainQueue.advance(29.999);
+    EXPECT_EQ(bgQueue.size(), 0U);
+    mainQueue.advance(0.001);
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(RemotePassTest, RsyncErrors_DoNotChangeTheCourse) {
+    shell.answerTo(QStringLiteral("rsync"), QStringLiteral("rsync error: code 23"));
+    button.performClick();
+    runBodies();
+    mainQueue.advance(1.0);
+    EXPECT_EQ(lastStatus().string, cResting);
+    EXPECT_EQ(cycle.badWhoamiCount(), 0);
+}
+
+TEST_F(RemotePassTest, MissingSourceOrDestination_EndsTheChainSilently) {
+    for (const QStringView key : {prefSampleRemoteFullPath, prefPath2}) {
+        const QVariant kept = defaults.object(key);
+        defaults.removeObject(key);
+        button.current = 0;
+        button.performClick();
+        runBodies();
+        EXPECT_EQ(statusTexts().last(), cTrying) << "the line of the start stays";
+        EXPECT_TRUE(mainQueue.idle());
+        EXPECT_TRUE(enabled());
+        EXPECT_FALSE(scanning());
+        defaults.setObject(key, kept);
+    }
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_EQ(cycle.badWhoamiCount(), 0);
+}
+
+TEST_F(RemotePassTest, UserOrHostMissing_FailsWithoutAsking) {
+    for (const QStringView key : {prefRemoteUsername, prefRemoteBonjourName}) {
+        const QVariant kept = defaults.object(key);
+        defaults.removeObject(key);
+        button.current = 0;
+        button.performClick();
+        runBodies();
+        mainQueue.advance(1.0);
+        defaults.setObject(key, kept);
+    }
+    EXPECT_TRUE(validator.timeouts.empty());
+    EXPECT_EQ(cycle.badWhoamiCount(), 2);
+}
+
+TEST_F(RemotePassTest, SwitchedOff_LogsAndClearsTheStatusLine) {
+    cycle.doSyncOnceBonjour();
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour()"
+                                       u".......prefEnableScanning = FALSE... cannot start");
+    EXPECT_EQ(statusTexts(), (QStringList{cTrying, QString()}));
+}
+
+TEST_F(RemotePassTest, SecondRequestWhileRunning_IsRefusedAndItsStatusLineStays) {
+    button.performClick();
+    runBodies();
+    cycle.doSyncOnceBonjour();
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour()"
+                                       u".......ALREADY in Middle of a Scan...");
+    EXPECT_EQ(bgQueue.size(), 0U);
+    EXPECT_EQ(lastStatus().string, cTrying);
+}
+
+TEST_F(RemotePassTest, SecondRequestDuringValidation_RunsBesideTheFirst) {
+    button.performClick();
+    cycle.doSyncOnceBonjour();
+    EXPECT_EQ(bgQueue.size(), 2U) << "the busy flag is set only after the validation";
+}
+
+TEST_F(RemotePassTest, SwitchedOffDuringAPass_EndsAtTheNextCheckAndClearsTheLine) {
+    button.performClick();
+    runBodies();
+    button.performClick();
+    mainQueue.advance(31.0);
+    EXPECT_EQ(lastStatus().string, u"");
+    EXPECT_EQ(bgQueue.size(), 0U);
+    EXPECT_TRUE(mainQueue.idle());
+}
+
+// -- failed validations
+
+using FailedValidationTest = SyncCycleTest;
+
+TEST_F(FailedValidationTest, Failure_ShowsTheRedLineWithTheCount) {
+    failPasses(1);
+    EXPECT_EQ(
+        lastStatus(),
+        (AttributedString{QStringLiteral("something went wrong - waiting to retry again... [1]"),
+                          StatusColor::Red, TextAlignment::Centered}));
+    EXPECT_EQ(cycle.badWhoamiCount(), 1);
+}
+
+TEST_F(FailedValidationTest, Failure_PrintsTheRuleTheVerdictAndTheRule) {
+    validator.verdicts = {QStringLiteral("checksshkeys"), QStringLiteral("checkusername")};
+    const QString rule(65, u'=');
+    button.performClick();
+    console.clear();
+    runBodies();
+    EXPECT_EQ(
+        console.printed(),
+        (QStringList{rule, QStringLiteral("NEED to handle possible ERROR:\nchecksshkeys"), rule}));
+    mainQueue.advance(31.0);
+    console.clear();
+    runBodies();
+    EXPECT_EQ(console.printed(),
+              (QStringList{rule, QStringLiteral("NEED to handle possible ERROR:\n"), rule}));
+}
+
+TEST_F(FailedValidationTest, Failure_RetriesAfterTheUsualRestAndKeepsTheRedLine) {
+    failPasses(1);
+    mainQueue.advance(1.0);
+    EXPECT_EQ(lastStatus().foregroundColor, StatusColor::Red) << "no resting line";
+    mainQueue.advance(30.0);
+    EXPECT_EQ(bgQueue.size(), 1U);
+    EXPECT_TRUE(shell.commands().isEmpty());
+}
+
+TEST_F(FailedValidationTest, SuccessAfterAFailure_DoesNotBringTheRestingLineBack) {
+    validator.verdicts = {QStringLiteral("unknownerror")};
+    button.performClick();
+    runBodies();
+    mainQueue.advance(31.0);
+    runBodies();
+    mainQueue.advance(1.0);
+    EXPECT_FALSE(statusTexts().contains(cResting));
+    EXPECT_EQ(cycle.badWhoamiCount(), 1);
+}
+
+TEST_F(FailedValidationTest, TenthFailure_SwitchesOffThenRaisesTheAlert) {
+    failPasses(10);
+    EXPECT_TRUE(enabled());
+    mainQueue.advance(0.01);
+    EXPECT_FALSE(enabled());
+    EXPECT_EQ(button.clicks, 2);
+    mainQueue.advance(0.189);
+    EXPECT_TRUE(presenter.alerts.empty());
+    mainQueue.advance(0.001);
+    ASSERT_EQ(presenter.alerts.size(), 1U);
+    EXPECT_EQ(presenter.alerts[0].messageText, u"Unable to Reach Remote Host");
+    EXPECT_EQ(presenter.alerts[0].informativeText,
+              u"Please make sure remote host is on this network\nor\nPlease check "
+              u"username...\n\n\n");
+    EXPECT_EQ(lastStatus().string, u"") << "cleared after the red line";
+    EXPECT_TRUE(statusTexts().contains(
+        QStringLiteral("something went wrong - waiting to retry again... [10]")));
+}
+
+TEST_F(FailedValidationTest, TenthFailure_SchedulesNoFurtherPass) {
+    failPasses(10);
+    mainQueue.advance(1.0);
+    presenter.answer(1, cAlertSecondButtonReturn);
+    mainQueue.advance(5.0);
+    EXPECT_EQ(bgQueue.size(), 0U);
+    EXPECT_EQ(timesLogged(
+                  QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour().......")),
+              10);
+}
+
+TEST_F(FailedValidationTest, NineFailuresASuccessAndOneMore_RaiseTheAlert) {
+    validator.verdicts.assign(9, QStringLiteral("checkremotehost"));
+    validator.verdicts.push_back(QStringLiteral("valid"));
+    validator.verdicts.push_back(QStringLiteral("checkremotehost"));
+    button.performClick();
+    for (int i = 0; i < 10; ++i) {
+        runBodies();
+        mainQueue.advance(31.0);
+    }
+    EXPECT_TRUE(presenter.alerts.empty());
+    runBodies();
+    mainQueue.advance(0.2);
+    EXPECT_EQ(presenter.alerts.size(), 1U);
+}
+
+TEST_F(FailedValidationTest, MissingKeys_HaveTheirOwnAlertText) {
+    validator.verdicts.assign(10, QStringLiteral("checksshkeys"));
+    failPasses(10);
+    mainQueue.advance(0.2);
+    EXPECT_EQ(presenter.alerts.at(0).informativeText,
+              u"Missing ssh keys -\nPlease generate ssh keys\n and \n try again...\n");
+}
+
+TEST_F(FailedValidationTest, MissingKeysInAnotherCase_IsAnOrdinaryFailure) {
+    validator.verdicts.assign(10, QStringLiteral("CheckSshKeys"));
+    failPasses(10);
+    mainQueue.advance(0.2);
+    EXPECT_TRUE(presenter.alerts.at(0).informativeText.startsWith(
+        u"Please make sure remote host is on this network"));
+}
+
+TEST_F(FailedValidationTest, ValidInAnotherCase_IsAFailure) {
+    validator.verdicts = {QStringLiteral("Valid")};
+    button.performClick();
+    runBodies();
+    EXPECT_EQ(cycle.badWhoamiCount(), 1);
+    EXPECT_TRUE(shell.commands().isEmpty());
+}
+
+TEST_F(FailedValidationTest, AnswerRetry_ResetsTheCountAndStartsAgain) {
+    failPasses(10);
+    mainQueue.advance(0.2);
+    validator.usual = QStringLiteral("valid");
+    ASSERT_TRUE(presenter.answer(1, cAlertFirstButtonReturn));
+    EXPECT_TRUE(logged(QStringLiteral("response = 1000")));
+    EXPECT_EQ(cycle.badWhoamiCount(), 0);
+    mainQueue.advance(0.099);
+    EXPECT_FALSE(enabled());
+    mainQueue.advance(0.001);
+    EXPECT_TRUE(enabled());
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(FailedValidationTest, AnswerStop_LeavesItOffAndSaysSo) {
+    failPasses(10);
+    mainQueue.advance(0.2);
+    ASSERT_TRUE(presenter.answer(1, cAlertSecondButtonReturn));
+    EXPECT_TRUE(logged(QStringLiteral("response = 1001")));
+    EXPECT_EQ(lastStatus(),
+              (AttributedString{QStringLiteral("oops - something went wrong - check settings and "
+                                               "hardware connections - then try again..."),
+                                StatusColor::Red, TextAlignment::Centered}));
+    EXPECT_EQ(cycle.badWhoamiCount(), 0);
+    mainQueue.advance(1.0);
+    EXPECT_FALSE(enabled());
+}
+
+TEST_F(FailedValidationTest, NoAnswer_StartsAgainByItself) {
+    failPasses(10);
+    mainQueue.advance(0.2 + 6.0);
+    EXPECT_TRUE(presenter.open.empty());
+    EXPECT_TRUE(logged(QStringLiteral("response = -1000"))) << "the sheet taken away";
+    EXPECT_FALSE(enabled()) << "that answer does nothing more";
+    mainQueue.advance(0.1);
+    EXPECT_TRUE(logged(QStringLiteral("response = 1000")));
+    mainQueue.advance(0.1);
+    EXPECT_TRUE(enabled());
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(FailedValidationTest, AnsweredStop_TheAlertsOwnAnswerStillComes) {
+    failPasses(10);
+    mainQueue.advance(0.2);
+    presenter.answer(1, cAlertSecondButtonReturn);
+    mainQueue.advance(6.2);
+    EXPECT_EQ(timesLogged(QStringLiteral("response = 1000")), 1);
+    EXPECT_TRUE(enabled());
+}
+
+TEST_F(FailedValidationTest, AnsweredRetry_TheAlertsOwnAnswerTurnsTheButtonOverOnceMore) {
+    failPasses(10);
+    mainQueue.advance(0.2);
+    presenter.answer(1, cAlertFirstButtonReturn);
+    mainQueue.advance(0.1);
+    EXPECT_TRUE(enabled());
+    mainQueue.advance(6.1);
+    EXPECT_FALSE(enabled());
+    EXPECT_EQ(button.clicks, 4);
+}
+
+TEST_F(FailedValidationTest, SwitchedOffBeforeTheTenthFailureEnds_TheClickSwitchesItOn) {
+    failPasses(9);
+    mainQueue.advance(31.0);
+    button.performClick();
+    EXPECT_FALSE(enabled());
+    runBodies();
+    mainQueue.advance(0.01);
+    EXPECT_TRUE(enabled());
+    EXPECT_EQ(bgQueue.size(), 1U) << "a new pass starts while the alert is on its way";
+    mainQueue.advance(0.19);
+    EXPECT_EQ(presenter.alerts.size(), 1U);
+}
+
+TEST_F(FailedValidationTest, EleventhFailureAfterRetry_CountsFromTheStart) {
+    failPasses(10);
+    mainQueue.advance(6.4);
+    runBodies();
+    EXPECT_EQ(lastStatus().string, u"something went wrong - waiting to retry again... [1]");
+}
+
+} // namespace
+} // namespace kelvo

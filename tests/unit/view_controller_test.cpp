@@ -1,0 +1,191 @@
+#include "fakes/fake_file_manager.h"
+#include "fakes/fake_front.h"
+#include "fakes/memory_defaults.h"
+#include "fakes/recording_console.h"
+#include "fakes/scripted_shell.h"
+#include "fakes/virtual_queues.h"
+#include "support/preference_keys.h"
+#include "ui/view_controller.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+const QString cObserve = QStringLiteral(
+    "Inside Kelvo_Mirror.ViewController->observeValue(forKeyPath:of:change:context:)");
+
+class ViewControllerTest : public ::testing::Test {
+protected:
+    ViewControllerTest() {
+        defaults.setObject(prefRsyncCommandOptionTag, 100);
+        defaults.setObject(prefRsyncWithSSH, true);
+        defaults.setObject(prefEnableScanning, 1);
+        defaults.setObject(prefIsScanning, true);
+        button.action = [this](Control* sender) { controller.ibStartRSyncProcess(sender); };
+    }
+
+    /// The whole set-up with what it prints forgotten.
+    void load() {
+        controller.viewDidLoad();
+        mainQueue.advance(2.0);
+        console.clear();
+    }
+
+    MemoryDefaults defaults;
+    VirtualMainQueue mainQueue;
+    ManualBackgroundQueue bgQueue;
+    ScriptedShell shell;
+    FakeFileManager files;
+    RecordingConsole console;
+    FakeAlertPresenter presenter;
+    FakeButton button;
+    std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
+    ViewController controller{
+        {defaults, mainQueue, bgQueue, shell, files, console, presenter, button, field}};
+};
+
+TEST_F(ViewControllerTest, Load_PrintsItsEntryAndSwitchesSyncingOff) {
+    controller.viewDidLoad();
+    EXPECT_EQ(console.printed().first(),
+              u"Inside Kelvo_Mirror.ViewController->viewDidLoad().......");
+    EXPECT_EQ(defaults.object(prefIsScanning), QVariant(false));
+    EXPECT_EQ(defaults.object(prefEnableScanning), QVariant(false));
+}
+
+TEST_F(ViewControllerTest, Load_LeavesNothingTicking) {
+    controller.viewDidLoad();
+    mainQueue.advance(2.0);
+    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_TRUE(console.logged().contains(
+        QStringLiteral("Inside Kelvo_Mirror.ViewController->setupRepeatTimer()..........")));
+}
+
+TEST_F(ViewControllerTest, Load_RebuildsTheSamplePathAtHalfASecond) {
+    defaults.setObject(prefRemoteUsername, QStringLiteral("u"));
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral("h"));
+    defaults.setObject(prefRemotePath, QStringLiteral("p"));
+    controller.viewDidLoad();
+    mainQueue.advance(0.499);
+    EXPECT_FALSE(defaults.object(prefSampleRemoteFullPath).isValid());
+    mainQueue.advance(0.001);
+    EXPECT_EQ(defaults.stringForKey(prefSampleRemoteFullPath), QStringLiteral("u@h:p"));
+    EXPECT_EQ(button.title, u"Start rsync with bonjour");
+}
+
+TEST_F(ViewControllerTest, AutoStart_ClicksTheButtonAtOneSecond) {
+    defaults.setObject(prefAutoStartScanOnLaunch, true);
+    controller.viewDidLoad();
+    mainQueue.advance(0.999);
+    EXPECT_EQ(button.clicks, 0);
+    mainQueue.advance(0.001);
+    EXPECT_EQ(button.clicks, 1);
+    EXPECT_TRUE(defaults.boolForKey(prefEnableScanning));
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(ViewControllerTest, NoAutoStart_LeavesTheButtonAlone) {
+    load();
+    EXPECT_EQ(button.clicks, 0);
+}
+
+TEST_F(ViewControllerTest, UserNameChange_RebuildsTheSamplePathAndHostOrPathChangeDoesNot) {
+    load();
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral("h1"));
+    defaults.setObject(prefRemotePath, QStringLiteral("p1"));
+    mainQueue.advance(1.0);
+    EXPECT_FALSE(defaults.object(prefSampleRemoteFullPath).isValid());
+    EXPECT_EQ(console.printed(),
+              (QStringList{
+                  QString(cObserve + u".......keypath = prefRemoteBonjourName change = [new: h1]"),
+                  QString(cObserve + u".......keypath = prefRemotePath change = [new: p1]")}));
+    defaults.setObject(prefRemoteUsername, QStringLiteral("u1"));
+    mainQueue.advance(0.099);
+    EXPECT_FALSE(defaults.object(prefSampleRemoteFullPath).isValid());
+    mainQueue.advance(0.001);
+    EXPECT_EQ(defaults.stringForKey(prefSampleRemoteFullPath), QStringLiteral("u1@h1:p1"));
+}
+
+TEST_F(ViewControllerTest, RemovedKey_IsLoggedAndNothingMore) {
+    defaults.setObject(prefRemoteUsername, QStringLiteral("u"));
+    load();
+    defaults.removeObject(prefRemoteUsername);
+    EXPECT_EQ(console.printed().last(),
+              QString(cObserve + u".......UNABLE to get the new value????"));
+    EXPECT_TRUE(mainQueue.idle());
+}
+
+TEST_F(ViewControllerTest, EnableScanning_SetsTheTitle) {
+    load();
+    const auto titleAfter = [this](bool running, bool withSSH) {
+        defaults.setObject(prefRsyncWithSSH, withSSH);
+        mainQueue.advance(0.1);
+        defaults.setObject(prefEnableScanning, qint64{running});
+        mainQueue.advance(0.1);
+        return button.title;
+    };
+    EXPECT_EQ(titleAfter(true, true), u"click to stop bonjour rsync");
+    EXPECT_TRUE(console.printed().contains(QStringLiteral("New value => 1")));
+    EXPECT_EQ(console.printed().last(), u"state is now IS RUNNING");
+    EXPECT_EQ(titleAfter(false, true), u"click to restart rsync using bonjour");
+    EXPECT_EQ(console.printed().last(), u"state is now OFF");
+    EXPECT_EQ(titleAfter(true, false), u"click to stop rsync");
+    EXPECT_EQ(titleAfter(false, false), u"click to restart rsync");
+}
+
+TEST_F(ViewControllerTest, UpdateStartButton_SetsTheTitleFromStateAndKind) {
+    load();
+    const auto titleFor = [this](int state, bool withSSH) {
+        button.current = state;
+        defaults.setObject(prefRsyncWithSSH, withSSH);
+        mainQueue.advance(0.1);
+        return button.title;
+    };
+    EXPECT_EQ(titleFor(1, true), u"click to stop bonjour rsync");
+    EXPECT_EQ(titleFor(1, false), u"click to stop rsync");
+    EXPECT_EQ(titleFor(0, true), u"click to start rsync using bonjour");
+    EXPECT_EQ(titleFor(0, false), u"click to start rsync");
+}
+
+TEST_F(ViewControllerTest, OptionTagChange_RefreshesTheExample) {
+    load();
+    defaults.setObject(prefRsyncCommandString1, QStringLiteral("r %@99 x %@99"));
+    defaults.setObject(prefRsyncCommandOptionTag, 101);
+    mainQueue.advance(0.1);
+    EXPECT_EQ(defaults.stringForKey(prefRsyncCommandStringExample),
+              QStringLiteral("r --update x --update"));
+    EXPECT_TRUE(
+        console.printed().contains(QStringLiteral("current prefRsyncCommandOptionTag = 101")));
+}
+
+TEST_F(ViewControllerTest, ExampleWithoutTemplateOrTag_SaysSo) {
+    load();
+    controller.ibUpdateTabViewItem();
+    EXPECT_EQ(defaults.stringForKey(prefRsyncCommandStringExample),
+              cMissingRsyncCommandString1.toString());
+    defaults.removeObject(prefRsyncCommandOptionTag);
+    controller.ibUpdateTabViewItem();
+    EXPECT_EQ(console.printed().last(),
+              u"Inside Kelvo_Mirror.ViewController->ibUpdateTabViewItem().......UNABLE to get pref "
+              u"value for key = [prefRsyncCommandOptionTag] ");
+}
+
+TEST_F(ViewControllerTest, WholePass_GoesThroughTheRealParts) {
+    defaults.setObject(prefRemoteUsername, QStringLiteral("mediauser"));
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral("mac"));
+    defaults.setObject(prefRemotePath, QStringLiteral("Movies"));
+    defaults.setObject(prefPath2, QStringLiteral("/in"));
+    defaults.setObject(prefRsyncCommandString1, QStringLiteral("mine %@98 %@1 %@2"));
+    defaults.setObject(prefAutoStartScanOnLaunch, true);
+    shell.answerTo(QStringLiteral("whoami"), QStringLiteral("mediauser\n"));
+    controller.viewDidLoad();
+    mainQueue.advance(1.0);
+    bgQueue.runAll();
+    mainQueue.advance(1.1);
+    EXPECT_EQ(shell.commands().size(), 3);
+    EXPECT_TRUE(shell.commands()[1].endsWith(u" mediauser@mac:Movies/ /in/"));
+    EXPECT_EQ(field->shown.back().string, u"Resting a bit ...");
+}
+
+} // namespace
+} // namespace kelvo
