@@ -1,0 +1,1 @@
+include(system/setup.cmake)
