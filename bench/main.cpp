@@ -35,8 +35,12 @@ int run(std::span<char*> names) {
             return 2;
         }
     }
-    std::printf("%-66s %12s %12s  %-4s %-26s %s\n", "figure", "measured", "goal", "", "sides",
-                "repeat with");
+    const bool heading = names.empty() || std::string_view(names.front()) != "--no-heading";
+    if (!heading)
+        names = names.subspan(1);
+    if (heading)
+        std::printf("%-66s %12s %12s  %-4s %-26s %s\n", "figure", "measured", "goal", "", "sides",
+                    "repeat with");
     bool allReached = true;
     for (const Row& row : rows) {
         if (!names.empty() && std::ranges::find(names, row.name) == names.end())

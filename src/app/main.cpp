@@ -4,6 +4,9 @@
 
 #include <QApplication>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <cstdio>
 #include <memory>
 
@@ -11,6 +14,17 @@ namespace {
 
 constexpr int cExitUsage = 2;
 constexpr int cExitNoDisplay = 3;
+
+/// A standard stream that came closed would give its number to the next file we open, and our lines
+/// would be written into that.
+void openStandardStreams() {
+    int fd = -1;
+    do {
+        fd = ::open("/dev/null", O_RDWR | O_NOCTTY);
+    } while (fd >= 0 && fd <= STDERR_FILENO);
+    if (fd >= 0)
+        ::close(fd);
+}
 
 bool hasDisplay() {
     return !qEnvironmentVariableIsEmpty("DISPLAY") ||
@@ -32,6 +46,7 @@ int run(kelvo::FrontKind frontKind) {
 } // namespace
 
 int main(int argc, char** argv) {
+    openStandardStreams();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

@@ -1,6 +1,6 @@
 #include "lab/lab_fixture.h"
 
-#include "lab/plist_text.h"
+#include "support/plist_text.h"
 
 #include <QElapsedTimer>
 #include <QProcess>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "lab/command_result.h"
-#include "lab/running_program.h"
+#include "support/running_program.h"
 
 #include <QByteArray>
 #include <QMap>

@@ -15,8 +15,7 @@ kelvo_tests(lab
   SOURCES
     lab/lab_fixture.cpp
     lab/lab_host_test.cpp
-    lab/plist_text.cpp
-    lab/running_program.cpp
+    lab/sync_lab_test.cpp
   TIMEOUT 180
   PROPERTIES
     FIXTURES_REQUIRED lab

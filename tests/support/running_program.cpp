@@ -1,4 +1,4 @@
-#include "lab/running_program.h"
+#include "support/running_program.h"
 
 #include <QDeadlineTimer>
 
@@ -9,7 +9,9 @@ constexpr int cStopMilliseconds = 20000;
 constexpr int cSliceMilliseconds = 50;
 } // namespace
 
-RunningProgram::RunningProgram(const QString& program, const QStringList& arguments) {
+RunningProgram::RunningProgram(const QString& program, const QStringList& arguments,
+                               const QProcessEnvironment& environment) {
+    fProcess.setProcessEnvironment(environment);
     fProcess.setStandardInputFile(QProcess::nullDevice());
     fProcess.start(program, arguments);
     fProcess.waitForStarted();

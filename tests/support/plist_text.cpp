@@ -1,4 +1,4 @@
-#include "lab/plist_text.h"
+#include "support/plist_text.h"
 
 #include <QMetaType>
 #include <QXmlStreamWriter>
