@@ -194,7 +194,7 @@ TEST_F(SyncLabTest, LocalDiskFull_TheCycleGoesOnAndNothingEarlierIsLost) {
               0);
     remote(QStringLiteral("head -c 8000000 /dev/urandom > Movies/too-large.mov"));
     const auto program = startProgram(
-        quickProfile(QStringLiteral("prefPath2"), cNearHome + QStringLiteral("/Small")));
+        quickProfile(QStringLiteral("prefPath2"), QString(cNearHome + QStringLiteral("/Small"))));
     EXPECT_TRUE(program->waitForLine(
         [](const QString& line) { return line.contains(u"No space left on device"); }, 60))
         << program->transcript().toStdString();
@@ -223,7 +223,7 @@ TEST_F(SyncLabTest, PlainPass_CopiesBetweenFoldersHere) {
     writeNear(cNearHome + QStringLiteral("/Camera/clip one.MP4"), "one");
     writeNear(cNearHome + QStringLiteral("/Camera/readme.txt"), "no");
     QVariantMap profile = quickProfile(QStringLiteral("prefRsyncWithSSH"), false);
-    profile[QStringLiteral("prefPath1")] = cNearHome + QStringLiteral("/Camera");
+    profile[QStringLiteral("prefPath1")] = QString(cNearHome + QStringLiteral("/Camera"));
     const auto program = startProgram(profile);
     ASSERT_TRUE(program->waitForLine(QStringLiteral("cmd to send = "), 30));
     ASSERT_TRUE(program->waitForLine(QStringLiteral("cmd to send = "), 30)) << "and once more";

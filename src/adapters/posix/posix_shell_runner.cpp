@@ -8,7 +8,7 @@
 #include <poll.h>
 #include <spawn.h>
 #include <sys/eventfd.h>
-#include <sys/pidfd.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -194,7 +194,7 @@ void PosixShellRunner::drainErrors(Child& child) {
 
 void PosixShellRunner::finish(Child& child) {
     child.output.reset(); // a command that writes on is told so
-    const FileDescriptor process(::pidfd_open(child.pid, 0));
+    const FileDescriptor process(static_cast<int>(::syscall(SYS_pidfd_open, child.pid, 0)));
     pollfd watched[] = {{process.get(), POLLIN, 0}, {fEnding.get(), POLLIN, 0}};
     while (::poll(watched, 2, -1) < 0 && errno == EINTR) {
     }
