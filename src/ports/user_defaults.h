@@ -13,13 +13,15 @@ namespace kelvo {
 
 struct DefaultsChange {
     QString key;
-    /// What the key reads as from now on; nothing when it was removed and no default lies under it.
+    /// What the key reads as at the moment of the call; nothing when it was removed and no default
+    /// lies under it. Of two changes close to each other an observer may see the last one twice.
     std::optional<QVariant> newValue;
 };
 using DefaultsObserver = std::function<void(const DefaultsChange&)>;
 
-/// Values are bool, qlonglong, double, QString, QByteArray, QDateTime, QVariantList or QVariantMap
-/// of these; their types are kept. Every operation may be called on any thread.
+/// Values are bool, qlonglong, double, QString, QByteArray, QDateTime (UTC, whole seconds),
+/// QVariantList or QVariantMap of these; their types are kept. Others are brought into such a form
+/// by storedValue (support/stored_value.h). Every operation may be called on any thread.
 class UserDefaults {
 public:
     virtual ~UserDefaults() = default;
@@ -27,7 +29,7 @@ public:
     /// The user's value, else the registered default, else an invalid variant.
     virtual QVariant object(QStringView key) const = 0;
 
-    /// Stores a user value. Observers of the key are told on this thread before the call returns,
+    /// Stores a user value; one that no stored form fits counts as removed. Observers of the key are told on this thread before the call returns,
     /// for an equal value too. The value reaches the disk later; no failure there is reported
     /// back, the value holds for the life of the process.
     virtual void setObject(QStringView key, const QVariant& value) = 0;

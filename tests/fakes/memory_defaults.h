@@ -1,8 +1,10 @@
 // MemoryDefaults: the settings store without a disk.
 #pragma once
 
+#include "ports/dispatch_queue.h"
 #include "ports/user_defaults.h"
 
+#include <atomic>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -21,6 +23,9 @@ public:
     void synchronize() override { ++fSynchronized; }
     Subscription observe(QStringView key, DefaultsObserver observer) override;
 
+    /// As if another program had changed the stored file: observers are told on `main`, later.
+    void changeByAnotherProgram(DispatchQueue& main, QStringView key, const QVariant& value);
+
     int synchronized() const { return fSynchronized; }
 
     /// Every change so far, in order: the key and the user value (invalid when removed).
@@ -28,19 +33,23 @@ public:
 
 private:
     struct Observer {
+        Observer(QString observed, DefaultsObserver observer)
+            : key(std::move(observed)), call(std::move(observer)) {}
         QString key;
         DefaultsObserver call;
-        bool ended = false;
+        std::atomic<bool> ended = false;
     };
+    using Observers = std::vector<std::shared_ptr<Observer>>;
     void change(QStringView key, const QVariant& value);
+    void store(QStringView key, const QVariant& value);
+    void tell(const QString& key) const;
 
     mutable std::mutex fMutex;
     std::map<QString, QVariant, std::less<>> fValues;
     std::map<QString, QVariant, std::less<>> fDefaults;
     std::vector<std::pair<QString, QVariant>> fChanges;
-    std::shared_ptr<std::vector<std::shared_ptr<Observer>>> fObservers =
-        std::make_shared<std::vector<std::shared_ptr<Observer>>>();
-    int fSynchronized = 0;
+    std::shared_ptr<Observers> fObservers = std::make_shared<Observers>();
+    std::atomic<int> fSynchronized = 0;
 };
 
 } // namespace kelvo

@@ -7,6 +7,7 @@ kelvo_tests(unit
     unit/repeat_timer_test.cpp
     unit/rsync_command_test.cpp
     unit/status_and_alerts_test.cpp
+    unit/stored_value_test.cpp
     unit/sync_cycle_test.cpp
     unit/text_test.cpp
     unit/view_controller_test.cpp

@@ -1,36 +1,41 @@
 #include "adapters/posix/local_file_manager.h"
 
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
+#include <cerrno>
 #include <cstdlib>
-#include <string>
+#include <vector>
 
 namespace kelvo {
 namespace {
 
-std::string homeFromUserDatabase() {
-    std::array<char, 16384> buffer{};
+QString homeOfAccount() {
+    std::vector<char> buffer(1024);
     passwd entry{};
     passwd* found = nullptr;
-    if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || !found)
-        return {};
-    return found->pw_dir;
+    while (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) == ERANGE)
+        buffer.resize(buffer.size() * 2);
+    return found && found->pw_dir ? QString::fromLocal8Bit(found->pw_dir) : QString();
 }
 
 } // namespace
 
 bool LocalFileManager::fileExistsAtPath(const QString& path) const {
-    return ::access(path.toLocal8Bit().constData(), F_OK) == 0;
+    // A NUL would cut the path short and make it another one.
+    if (path.isEmpty() || path.contains(QChar(u'\0')))
+        return false;
+    struct stat entry {};
+    return ::stat(path.toLocal8Bit().constData(), &entry) == 0;
 }
 
 QString LocalFileManager::homeDirectory() const {
-    const char* variable = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe): never set by us
-    std::string home = variable && *variable ? variable : homeFromUserDatabase();
-    while (home.size() > 1 && home.ends_with('/'))
-        home.pop_back();
-    return QString::fromLocal8Bit(home);
+    const char* variable = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
+    QString home = variable && *variable ? QString::fromLocal8Bit(variable) : homeOfAccount();
+    while (home.endsWith(u'/'))
+        home.chop(1);
+    return home;
 }
 
 } // namespace kelvo

@@ -1,4 +1,4 @@
-// LocalFileManager: the files of this machine.
+// LocalFileManager: this machine's files.
 #pragma once
 
 #include "ports/file_manager.h"
@@ -9,7 +9,7 @@ class LocalFileManager final : public FileManager {
 public:
     bool fileExistsAtPath(const QString& path) const override;
 
-    /// $HOME, else what the user database says.
+    /// $HOME, or the user's entry in the account database when that is unset or empty.
     QString homeDirectory() const override;
 };
 

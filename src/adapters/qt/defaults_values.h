@@ -1,0 +1,47 @@
+// DefaultsValues: the settings in memory: user values over registered ones, and what of them is
+// not on its way to the disk yet.
+#pragma once
+
+#include <QStringList>
+#include <QVariant>
+
+#include <mutex>
+
+namespace kelvo {
+
+/// A key with an invalid value was removed.
+using DefaultsChanges = QVariantMap;
+
+/// Lays `changes` over `values`.
+void applyChanges(QVariantMap& values, const DefaultsChanges& changes);
+
+/// Every operation: any thread; none of them waits for more than another one's memory work.
+class DefaultsValues {
+public:
+    /// The user's value, else the registered one, else invalid.
+    QVariant object(QStringView key) const;
+
+    /// Sets a user value, or removes it with an invalid one. Returns true for the first change since
+    /// the last `takeChanges`.
+    bool change(QStringView key, const QVariant& value);
+
+    void registerDefaults(const QVariantMap& defaults);
+
+    /// The changes since the last call.
+    DefaultsChanges takeChanges();
+    bool hasChanges() const;
+
+    QVariantMap userValues() const;
+
+    /// Takes `stored` for the user values, except for keys with a change not taken yet. Returns the
+    /// keys whose user value thereby became another.
+    QStringList adopt(const QVariantMap& stored);
+
+private:
+    mutable std::mutex fMutex;
+    QVariantMap fUser;
+    QVariantMap fRegistered;
+    DefaultsChanges fChanges;
+};
+
+} // namespace kelvo
