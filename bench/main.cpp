@@ -26,6 +26,9 @@ namespace {
 int run(std::span<char*> names) {
     const std::vector<Row> rows{settingsRow(), templateRow(), captureRow(),
                                 stallRow(),    passRow(),     restRow()};
+    const bool heading = names.empty() || std::string_view(names.front()) != "--no-heading";
+    if (!heading)
+        names = names.subspan(1);
     for (const char* name : names) {
         if (std::ranges::none_of(rows, [&](const Row& row) { return row.name == name; })) {
             std::fprintf(stderr, "There is no row \"%s\". The rows are:", name);
@@ -35,9 +38,6 @@ int run(std::span<char*> names) {
             return 2;
         }
     }
-    const bool heading = names.empty() || std::string_view(names.front()) != "--no-heading";
-    if (!heading)
-        names = names.subspan(1);
     if (heading)
         std::printf("%-66s %12s %12s  %-4s %-26s %s\n", "figure", "measured", "goal", "", "sides",
                     "repeat with");

@@ -1,7 +1,6 @@
 // The small figures: one settings write, one filled command.
-#include "bench/row.h"
-
 #include "adapters/qt/plist_defaults.h"
+#include "bench/row.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 #include "support/preference_keys.h"
@@ -54,9 +53,8 @@ std::optional<std::vector<Figure>> measureSettings() {
     const Subscription observer =
         defaults.observe(prefEnableScanning, [&told](const DefaultsChange&) { ++told; });
     qint64 value = 0;
-    const double seconds = secondsOf("set", [&] {
-        defaults.setObject(prefEnableScanning, ++value);
-    });
+    const double seconds =
+        secondsOf("set", [&] { defaults.setObject(prefEnableScanning, ++value); });
     if (told != value) {
         std::fprintf(stderr, "The observer was told %d of %lld changes.\n", told,
                      static_cast<long long>(value));

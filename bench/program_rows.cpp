@@ -1,8 +1,7 @@
 // The program at work: what a pass costs beyond its commands, and what rest costs.
-#include "bench/row.h"
-
 #include "adapters/posix/local_file_manager.h"
 #include "adapters/posix/posix_shell_runner.h"
+#include "bench/row.h"
 #include "fakes/fake_front.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
@@ -29,7 +28,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int cPassRounds = 15;
+constexpr int cPassRounds = 31;
 
 double secondsOf(const std::function<void()>& work) {
     const auto begin = Clock::now();
@@ -126,9 +125,9 @@ std::optional<std::vector<Figure>> measurePass() {
         ours.push_back(pass.seconds());
         theirs.push_back(shellSeconds(commands));
     }
-    return std::vector<Figure>{
-        {"no-change remote pass / its three commands by a bare sh", median(ours) / median(theirs),
-         1.03, "x", sideBySide(median(ours), median(theirs))}};
+    return std::vector<Figure>{{"no-change remote pass / its three commands by a bare sh",
+                                median(ours) / median(theirs), 1.03, "x",
+                                sideBySide(median(ours), median(theirs))}};
 }
 
 /// Processor seconds that process `pid` has used, its children left out.
@@ -184,8 +183,8 @@ std::optional<std::vector<Figure>> measureRest() {
     program.terminate();
     program.waitForFinished();
     QFile output(path("output"));
-    const bool passed = output.open(QIODevice::ReadOnly) &&
-                        output.readAll().count("cmd to send = ") >= 2;
+    const bool passed =
+        output.open(QIODevice::ReadOnly) && output.readAll().count("cmd to send = ") >= 2;
     if (before < 0 || after < 0 || !passed) {
         std::fputs("The program did not run its passes.\n", stderr);
         return std::nullopt;

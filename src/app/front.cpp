@@ -15,7 +15,8 @@ class HeadlessFront final : public Front {
 public:
     HeadlessFront(Console& console, DispatchQueue& mainQueue, StartAction startAction)
         : fStartButton(std::move(startAction)),
-          fStatusField(std::make_shared<HeadlessStatusField>(console)), fAlerts(console, mainQueue) {}
+          fStatusField(std::make_shared<HeadlessStatusField>(console)),
+          fAlerts(console, mainQueue) {}
 
     Button& ibStartButton() override { return fStartButton; }
     std::weak_ptr<StatusField> ibStatusTextField() override { return fStatusField; }
@@ -31,7 +32,8 @@ private:
 class WindowFront final : public Front {
 public:
     WindowFront(UserDefaults& defaults, DispatchQueue& mainQueue, StartAction startAction)
-        : fWindow(defaults, mainQueue), fStartButton(fWindow.ibStartButton(), std::move(startAction)),
+        : fWindow(defaults, mainQueue),
+          fStartButton(fWindow.ibStartButton(), std::move(startAction)),
           fStatusField(std::make_shared<WidgetStatusField>(fWindow.ibStatusTextField())),
           fSheets(fWindow) {}
 

@@ -44,8 +44,7 @@ public:
           fController({fDefaults, fMainQueue, fBgQueue, fShell, fFiles, fConsole,
                        fFront->alertPresenter(), fFront->ibStartButton(),
                        fFront->ibStatusTextField()}) {
-        fLogFile.setLogFile(
-            fLogFile.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")));
+        fLogFile.setLogFile(fLogFile.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")));
         for (const int signal : {SIGTERM, SIGINT})
             fQuitSignals.push_back(fSignals.catchSignal(signal, [] { QCoreApplication::quit(); }));
     }

@@ -11,9 +11,9 @@ class Signals {
 public:
     virtual ~Signals() = default;
 
-    /// From now on signal `number` calls `handler` on the main thread instead of its default action,
-    /// until the subscription is gone. Main thread. An empty handler or a signal that cannot be
-    /// caught changes nothing.
+    /// From now on signal `number` calls `handler` on the main thread instead of its default
+    /// action, until the subscription is gone. Main thread. An empty handler or a signal that
+    /// cannot be caught changes nothing.
     virtual Subscription catchSignal(int number, std::function<void()> handler) = 0;
 };
 

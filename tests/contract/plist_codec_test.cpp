@@ -5,7 +5,6 @@
 #include <QDateTime>
 
 #include <gtest/gtest.h>
-
 #include <plist/plist.h>
 
 #include <clocale>
@@ -124,7 +123,8 @@ TEST(PlistCodecTest, Reals_DoNotDependOnTheLocale) {
 
 TEST(PlistCodecTest, WhatOthersWrite_IsRead) {
     EXPECT_TRUE(sameStoredValue(decodedEntry("<string>&amp;&#65;&lt;</string>"), "&A<"));
-    EXPECT_TRUE(sameStoredValue(decodedEntry("<!-- note --><string><![CDATA[a<b]]></string>"), "a<b"));
+    EXPECT_TRUE(
+        sameStoredValue(decodedEntry("<!-- note --><string><![CDATA[a<b]]></string>"), "a<b"));
     EXPECT_TRUE(sameStoredValue(decodedEntry("<integer>-7</integer>"), qlonglong{-7}));
     EXPECT_TRUE(decodePlist("\xef\xbb\xbf" + entry("<true/>")).root);
     EXPECT_TRUE(decodePlist("\n\n" + entry("<true/>") + "\n\n").root);
@@ -171,7 +171,8 @@ TEST(PlistCodecTest, TooLarge_IsAFault) {
 
 TEST(PlistCodecTest, DeepNesting_FaultsOnlyBeyondTheLimit) {
     const auto nested = [](int arrays) {
-        return entry(QByteArray("<array>").repeated(arrays) + QByteArray("</array>").repeated(arrays));
+        return entry(QByteArray("<array>").repeated(arrays) +
+                     QByteArray("</array>").repeated(arrays));
     };
     EXPECT_TRUE(decodePlist(nested(cDeepestStoredValue)).root);
     EXPECT_FALSE(decodePlist(nested(cDeepestStoredValue + 1)).root);
@@ -210,8 +211,8 @@ QByteArray binaryArrays(int levels, int copies, int last) {
         return text;
     };
     const auto tableAt = static_cast<quint64>(bytes.size());
-    return bytes + table + QByteArray(6, '\0') + "\2\2" +
-           number(static_cast<quint64>(levels) + 2) + number(0) + number(tableAt);
+    return bytes + table + QByteArray(6, '\0') + "\2\2" + number(static_cast<quint64>(levels) + 2) +
+           number(0) + number(tableAt);
 }
 
 TEST(PlistCodecTest, BinaryThatUnfoldsWithoutEnd_IsAFault) {

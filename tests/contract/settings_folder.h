@@ -7,9 +7,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <optional>
-
 #include <sys/stat.h>
+
+#include <optional>
 
 namespace kelvo {
 
@@ -47,8 +47,8 @@ public:
 
     /// The names in the folder, the settings file and its lock apart.
     QStringList otherFiles() const {
-        QStringList names = QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden |
-                                                     QDir::NoDotAndDotDot);
+        QStringList names =
+            QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
         names.removeAll(QStringLiteral("preferences.plist"));
         names.removeAll(QStringLiteral("preferences.plist.lock"));
         return names;

@@ -137,10 +137,9 @@ TYPED_TEST(UserDefaultsContractTest, SetObject_UnfitValueCountsAsRemoved) {
 
 TYPED_TEST(UserDefaultsContractTest, SetObject_TellsOnThisThreadBeforeItReturns) {
     std::vector<std::pair<DefaultsChange, std::thread::id>> seen;
-    const auto subscription =
-        this->defaults().observe(cKey, [&seen](const DefaultsChange& change) {
-            seen.emplace_back(change, std::this_thread::get_id());
-        });
+    const auto subscription = this->defaults().observe(cKey, [&seen](const DefaultsChange& change) {
+        seen.emplace_back(change, std::this_thread::get_id());
+    });
     std::thread::id writer;
     std::size_t toldInTime = 0;
     std::thread([&] {
@@ -287,8 +286,7 @@ TYPED_TEST(UserDefaultsContractTest, Subscription_EndedWhileAnotherThreadWrites_
     std::atomic<int> calls = 0;
     std::atomic<int> rounds = 0;
     std::atomic<bool> stop = false;
-    auto subscription =
-        this->defaults().observe(cKey, [&](const DefaultsChange&) { ++calls; });
+    auto subscription = this->defaults().observe(cKey, [&](const DefaultsChange&) { ++calls; });
     std::thread writer([&] {
         while (!stop) {
             this->defaults().setObject(cKey, rounds.load());

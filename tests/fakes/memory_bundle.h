@@ -21,8 +21,8 @@ public:
     std::optional<QString> pathForResource(const QString& name,
                                            const QString& type) const override {
         const QString file = type.isEmpty() ? name : name + QLatin1Char('.') + type;
-        const bool found = !name.isEmpty() && !file.contains(QLatin1Char('/')) &&
-                           fFiles.contains(file);
+        const bool found =
+            !name.isEmpty() && !file.contains(QLatin1Char('/')) && fFiles.contains(file);
         return found ? std::optional(QStringLiteral("/bundle/") + file) : std::nullopt;
     }
 

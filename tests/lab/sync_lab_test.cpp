@@ -110,8 +110,8 @@ TEST_F(SyncLabTest, MissingKey_RaisesItsOwnAlertAtTheTenthFailure) {
 }
 
 TEST_F(SyncLabTest, CableCut_FailsWithinTheTimeOutAndRecovers) {
-    const auto program = startProgram(quickProfile(QStringLiteral("prefRemoteBonjourName"),
-                                                   cRemoteAddress));
+    const auto program =
+        startProgram(quickProfile(QStringLiteral("prefRemoteBonjourName"), cRemoteAddress));
     ASSERT_TRUE(awaitWholePass(*program, 60)) << program->transcript().toStdString();
     ASSERT_TRUE(program->waitForLine(cResting, 30));
     lab({QStringLiteral("link"), QStringLiteral("cut")});

@@ -13,9 +13,9 @@ namespace kelvo {
 class RunningProgram {
 public:
     /// Starts `program`; it is killed with this object if it has not ended before.
-    RunningProgram(const QString& program, const QStringList& arguments,
-                   const QProcessEnvironment& environment =
-                       QProcessEnvironment::systemEnvironment());
+    RunningProgram(
+        const QString& program, const QStringList& arguments,
+        const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
     ~RunningProgram();
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;

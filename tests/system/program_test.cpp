@@ -30,7 +30,9 @@ void write(const QString& path, const QByteArray& bytes) {
 class ProgramTest : public ::testing::Test {
 protected:
     QString path(const QString& name) const { return folder.filePath(name); }
-    QString settingsFile() const { return path(QStringLiteral("config/kelvo-mirror/preferences.plist")); }
+    QString settingsFile() const {
+        return path(QStringLiteral("config/kelvo-mirror/preferences.plist"));
+    }
     QString logFile() const { return path(QStringLiteral("state/Kelvo/kelvo-mirror.log")); }
 
     QProcessEnvironment environment() const {
@@ -56,8 +58,8 @@ protected:
     std::unique_ptr<RunningProgram> start(const QVariantMap& profile,
                                           const QString& program = cProgram) const {
         write(settingsFile(), plistText(profile));
-        return std::make_unique<RunningProgram>(
-            program, QStringList{QStringLiteral("--headless")}, environment());
+        return std::make_unique<RunningProgram>(program, QStringList{QStringLiteral("--headless")},
+                                                environment());
     }
 
     /// Runs the program to its end: exit code, standard output, standard error.
@@ -158,7 +160,8 @@ TEST_F(ProgramTest, TermSignalInMidPass_EndsTheCommandAndKeepsTheSettings) {
     ASSERT_TRUE(program->waitForLine(QStringLiteral("cmd to send = "), 30));
     const auto commandIsAlive = [this] {
         const QByteArray pid = contents(path(QStringLiteral("pid"))).trimmed();
-        return !pid.isEmpty() && QFile::exists(QStringLiteral("/proc/%1").arg(QLatin1StringView(pid)));
+        return !pid.isEmpty() &&
+               QFile::exists(QStringLiteral("/proc/%1").arg(QLatin1StringView(pid)));
     };
     for (int i = 0; i < 500 && !commandIsAlive(); ++i)
         program->waitForLine(QStringLiteral("never"), 0.02);
@@ -176,9 +179,8 @@ TEST_F(ProgramTest, BrokenSettings_AreSetAsideAndSaid) {
     EXPECT_TRUE(program.waitForLine(
         QStringLiteral("Inside Kelvo_Mirror.ViewController->viewDidLoad()......."), 30));
     EXPECT_EQ(program.stop(), 0);
-    const QStringList kept = QFileInfo(settingsFile())
-                                 .dir()
-                                 .entryList({QStringLiteral("preferences.plist.corrupt-*")});
+    const QStringList kept =
+        QFileInfo(settingsFile()).dir().entryList({QStringLiteral("preferences.plist.corrupt-*")});
     EXPECT_EQ(kept.size(), 1);
     EXPECT_TRUE(program.transcript().contains(QStringLiteral("preferences.plist.corrupt-")));
 }

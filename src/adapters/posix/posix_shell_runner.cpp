@@ -60,9 +60,9 @@ public:
         ::posix_spawnattr_setsigdefault(&fAttributes, &signals);
         ::sigemptyset(&signals);
         ::posix_spawnattr_setsigmask(&fAttributes, &signals);
-        ::posix_spawnattr_setflags(&fAttributes, static_cast<short>(POSIX_SPAWN_SETSID |
-                                                                    POSIX_SPAWN_SETSIGDEF |
-                                                                    POSIX_SPAWN_SETSIGMASK));
+        ::posix_spawnattr_setflags(&fAttributes,
+                                   static_cast<short>(POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF |
+                                                      POSIX_SPAWN_SETSIGMASK));
     }
     ~SpawnSetup() {
         ::posix_spawnattr_destroy(&fAttributes);
@@ -233,8 +233,7 @@ void PosixShellRunner::endAll() {
 
 std::set<pid_t> PosixShellRunner::collectEnded() {
     const std::lock_guard lock(fMutex);
-    std::erase_if(fRunning,
-                  [](pid_t pid) { return ::waitpid(pid, nullptr, WNOHANG) == pid; });
+    std::erase_if(fRunning, [](pid_t pid) { return ::waitpid(pid, nullptr, WNOHANG) == pid; });
     return fRunning;
 }
 

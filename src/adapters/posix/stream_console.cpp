@@ -12,8 +12,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <climits>
 #include <chrono>
+#include <climits>
 #include <csignal>
 #include <utility>
 
@@ -78,7 +78,8 @@ private:
             if (found <= 0)
                 continue;
             const ssize_t count =
-                ::write(fFd, bytes.data(), static_cast<std::size_t>(std::min<qsizetype>(bytes.size(), PIPE_BUF)));
+                ::write(fFd, bytes.data(),
+                        static_cast<std::size_t>(std::min<qsizetype>(bytes.size(), PIPE_BUF)));
             if (count >= 0)
                 bytes = bytes.sliced(count);
             else if (errno != EINTR && errno != EAGAIN)
@@ -93,9 +94,8 @@ private:
 };
 
 StreamConsole::StreamConsole(int standardOutput, int standardError, LogFile& logFile)
-    : fLogFile(logFile), fWriter([this, standardOutput, standardError] {
-          serve(standardOutput, standardError);
-      }) {}
+    : fLogFile(logFile),
+      fWriter([this, standardOutput, standardError] { serve(standardOutput, standardError); }) {}
 
 StreamConsole::~StreamConsole() {
     const bool all = flush(std::chrono::duration<double>(cLastSecond).count());

@@ -1,4 +1,5 @@
-// StreamConsole: diagnostic lines on standard output and standard error, and all of them in the log.
+// StreamConsole: diagnostic lines on standard output and standard error, and all of them in the
+// log.
 #pragma once
 
 #include "ports/console.h"
@@ -15,10 +16,10 @@ namespace kelvo {
 
 class LogFile;
 
-/// A thread of its own writes, so that a terminal that was stopped or a pipe that nobody reads stops
-/// nothing else. While 64 MiB of text wait, further lines are left out, and how many is said once
-/// the reader goes on. Control characters reach a terminal, and the log file, made visible; a pipe
-/// or file gets them as they are. A stream that its reader closed is written to no more.
+/// A thread of its own writes, so that a terminal that was stopped or a pipe that nobody reads
+/// stops nothing else. While 64 MiB of text wait, further lines are left out, and how many is said
+/// once the reader goes on. Control characters reach a terminal, and the log file, made visible; a
+/// pipe or file gets them as they are. A stream that its reader closed is written to no more.
 class StreamConsole final : public Console {
 public:
     /// Both descriptors stay open for the life of this; SIGPIPE is the caller's business to ignore

@@ -11,13 +11,13 @@ void Utf8Text::append(const char* bytes, qsizetype count) {
         fText.reserve(std::max(needed, fLength + fLength / 4));
     fText.resize(needed); // within the capacity: no copy
     QChar* const begin = fText.data();
-    QChar* const end =
-        fDecoder.appendToBuffer(begin + fLength, QByteArrayView(bytes, count));
+    QChar* const end = fDecoder.appendToBuffer(begin + fLength, QByteArrayView(bytes, count));
     fLength = end - begin;
 }
 
 QString Utf8Text::take() {
-    // A cut sequence at the very end has no more bytes to come; a line end makes the decoder say so.
+    // A cut sequence at the very end has no more bytes to come; a line end makes the decoder say
+    // so.
     const qsizetype before = fLength;
     append("\n", 1);
     fLength = std::max(before, fLength - 1);

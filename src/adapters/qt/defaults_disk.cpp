@@ -104,9 +104,9 @@ void DefaultsDisk::watchFolder() {
     if (error == 0 || error == ENOENT || error == ENOTDIR || fWatchRefused)
         return;
     fWatchRefused = true;
-    fConsole.log(QStringLiteral("Changes to %1 by other programs are not noticed at once: %2")
-                     .arg(fFile.path(),
-                          QString::fromStdString(std::generic_category().message(error))));
+    fConsole.log(
+        QStringLiteral("Changes to %1 by other programs are not noticed at once: %2")
+            .arg(fFile.path(), QString::fromStdString(std::generic_category().message(error))));
 }
 
 bool DefaultsDisk::somethingToWrite() const {
@@ -161,8 +161,8 @@ QString DefaultsDisk::exchangeLocked(std::chrono::milliseconds patience) {
     return {};
 }
 
-/// Brings fBytes and fBase up to date. Returns why the file cannot be read: only after it has stayed
-/// so for `patience`, for some programs write it in place.
+/// Brings fBytes and fBase up to date. Returns why the file cannot be read: only after it has
+/// stayed so for `patience`, for some programs write it in place.
 QString DefaultsDisk::readBase(std::chrono::milliseconds patience) {
     const auto start = Clock::now();
     auto changedAt = start;

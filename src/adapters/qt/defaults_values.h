@@ -21,8 +21,8 @@ public:
     /// The user's value, else the registered one, else invalid.
     QVariant object(QStringView key) const;
 
-    /// Sets a user value, or removes it with an invalid one. Returns true for the first change since
-    /// the last `takeChanges`.
+    /// Sets a user value, or removes it with an invalid one. Returns true for the first change
+    /// since the last `takeChanges`.
     bool change(QStringView key, const QVariant& value);
 
     void registerDefaults(const QVariantMap& defaults);

@@ -46,8 +46,7 @@ QByteArray textInXml(plist_t node, const QByteArray& tag) {
 
 /// The other way round: a node that the library's own makers cannot make.
 plist_t nodeFromXml(const QByteArray& tag, const QByteArray& text) {
-    const QByteArray xml =
-        "<plist version=\"1.0\"><" + tag + '>' + text + "</" + tag + "></plist>";
+    const QByteArray xml = "<plist version=\"1.0\"><" + tag + '>' + text + "</" + tag + "></plist>";
     plist_t node = nullptr;
     plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &node);
     return node;
@@ -87,8 +86,8 @@ QVariant dataOf(plist_t node) {
 }
 
 QVariant dateOf(plist_t node) {
-    QDateTime date = QDateTime::fromString(QString::fromLatin1(textInXml(node, "date")),
-                                           Qt::ISODate);
+    QDateTime date =
+        QDateTime::fromString(QString::fromLatin1(textInXml(node, "date")), Qt::ISODate);
     date.setTimeSpec(Qt::UTC);
     return storedValue(date); // invalid for nonsense
 }

@@ -13,7 +13,8 @@
 namespace kelvo {
 
 /// The rules of the file:
-/// - Changes are gathered for at most 100 ms and then replace the whole file at once, on a thread of
+/// - Changes are gathered for at most 100 ms and then replace the whole file at once, on a thread
+/// of
 ///   the store's own; a crash leaves the old file or the new one. Folders are made with mode 0700,
 ///   the file with 0600; a symbolic link in its place is replaced by a file.
 /// - Programs that write it take turns by a lock on `<path>.lock`. Each lays only its own unwritten
@@ -21,7 +22,8 @@ namespace kelvo {
 ///   that thereby changes here is told on the main queue.
 /// - A file that is deleted while we run does not change the values here; all of them are written
 ///   with the next change.
-/// - A file that stays unreadable for a second (empty, cut, nonsense, no dictionary, over 16 MiB) is
+/// - A file that stays unreadable for a second (empty, cut, nonsense, no dictionary, over 16 MiB)
+/// is
 ///   kept as `<path>.corrupt-<UTC time>` and said in the log. At start the store is empty then;
 ///   later all values in memory are written anew. One that can be neither read nor moved aside is
 ///   never overwritten.

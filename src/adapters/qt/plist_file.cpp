@@ -56,8 +56,8 @@ int makeFolders(const std::string& path) {
 int writeAll(int descriptor, const QByteArray& bytes) {
     qsizetype done = 0;
     while (done < bytes.size()) {
-        const ssize_t count =
-            ::write(descriptor, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
+        const ssize_t count = ::write(descriptor, bytes.constData() + done,
+                                      static_cast<std::size_t>(bytes.size() - done));
         if (count < 0 && errno != EINTR)
             return errno;
         done += std::max<ssize_t>(count, 0);
@@ -132,10 +132,9 @@ QString PlistFile::makeFolder() const {
 QString PlistFile::replace(const QByteArray& bytes) {
     if (bytes.size() > cLargestPlist)
         return QStringLiteral("the settings are larger than 16 MiB");
-    const std::string newPath =
-        nativePath(std::string(cNewSuffix) + std::to_string(::getpid()) + '-' +
-                   std::to_string(++fWritten) + '-' +
-                   std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()));
+    const std::string newPath = nativePath(
+        std::string(cNewSuffix) + std::to_string(::getpid()) + '-' + std::to_string(++fWritten) +
+        '-' + std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()));
     if (QString failure = writeNew(newPath, bytes); !failure.isEmpty())
         return failure;
     if (::rename(newPath.c_str(), nativePath().c_str()) != 0) {
@@ -173,9 +172,8 @@ QString PlistFile::syncFolder() const {
 }
 
 std::pair<QString, QString> PlistFile::moveAside(const QDateTime& now) {
-    const QString aside =
-        fPath + QStringLiteral(".corrupt-") +
-        now.toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
+    const QString aside = fPath + QStringLiteral(".corrupt-") +
+                          now.toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
     int error = EEXIST;
     for (int attempt = 1; attempt <= cMostAsides && error == EEXIST; ++attempt) {
         const QString target =

@@ -24,8 +24,8 @@ public:
 
     struct Contents {
         enum class State { Missing, Read, Refused } state = State::Missing;
-        QByteArray bytes;  ///< when Read; one byte over the largest list stands for all larger files
-        QString fault;     ///< when Refused
+        QByteArray bytes; ///< when Read; one byte over the largest list stands for all larger files
+        QString fault;    ///< when Refused
     };
     Contents read() const;
 

@@ -11,8 +11,8 @@
 
 namespace kelvo {
 
-/// At most one object at a time: the system calls a handler without saying for whom. A caught signal
-/// keeps interrupting nothing else (SA_RESTART), and commands start with its default action.
+/// At most one object at a time: the system calls a handler without saying for whom. A caught
+/// signal keeps interrupting nothing else (SA_RESTART), and commands start with its default action.
 class SignalPipe final : public Signals {
 public:
     SignalPipe();
