@@ -18,7 +18,7 @@ constexpr auto cUnreadablePatience = 1000ms;
 /// The same for one that keeps changing.
 constexpr auto cChangingPatience = 2500ms;
 constexpr auto cReadPause = 50ms;
-constexpr auto cLockPatience = 4000ms;
+constexpr auto cLockPatience = 3000ms;
 constexpr std::chrono::seconds cFirstRetry = 1s;
 constexpr std::chrono::seconds cLastRetry = 60s;
 

@@ -1,0 +1,63 @@
+// Writes settings as fast as it can, to be killed, or a number of keys beside other writers.
+//   settings_writer generations PATH
+//   settings_writer keys PATH PREFIX COUNT
+#include "adapters/qt/plist_defaults.h"
+#include "fakes/recording_console.h"
+#include "fakes/virtual_queues.h"
+
+#include <cstdio>
+#include <string_view>
+
+using namespace kelvo;
+
+namespace {
+
+/// A generation of the pair "left" and "right": the number and a text that repeats it.
+QVariant generationValue(qint64 generation) {
+    return QString::number(generation).rightJustified(12, u'0').repeated(1500);
+}
+
+void writeGenerations(UserDefaults& defaults) {
+    const QString stored = defaults.stringForKey(u"right").value_or(QString());
+    qint64 generation =
+        QStringView(stored).first(std::min<qsizetype>(12, stored.size())).toLongLong();
+    for (bool said = false;; said = true) {
+        ++generation;
+        defaults.setObject(u"left", generationValue(generation));
+        defaults.setObject(u"right", generationValue(generation));
+        defaults.synchronize();
+        if (!said) {
+            std::puts("writing");
+            std::fflush(stdout);
+        }
+    }
+}
+
+void writeKeys(UserDefaults& defaults, const QString& prefix, int count) {
+    for (int number = 0; number < count; ++number) {
+        const QString key = prefix + QString::number(number);
+        defaults.setObject(key, number);
+        if (number % 5 == 4)
+            defaults.synchronize();
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 3)
+        return 2;
+    VirtualMainQueue mainQueue;
+    RecordingConsole console;
+    PlistDefaults defaults(QString::fromLocal8Bit(argv[2]), mainQueue, console);
+    const std::string_view mode = argv[1];
+    if (mode == "generations" && argc == 3)
+        writeGenerations(defaults);
+    if (mode != "keys" || argc != 5)
+        return 2;
+    writeKeys(defaults, QString::fromLocal8Bit(argv[3]), QByteArray(argv[4]).toInt());
+    defaults.synchronize();
+    for (const QString& line : console.logged())
+        std::fprintf(stderr, "%s\n", qPrintable(line));
+    return console.logged().isEmpty() ? 0 : 1;
+}

@@ -1,0 +1,229 @@
+// PlistDefaults against permissions, full disks and sudden death.
+#include "contract/plist_defaults_fixture.h"
+
+#include <QProcess>
+
+#include <fcntl.h>
+#include <sched.h>
+#include <signal.h>
+#include <sys/fsuid.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <iostream>
+#include <random>
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr uid_t cNobody = 65534;
+
+/// Runs `work` on a thread without the powers of root over files; threads that it makes share that.
+void asPlainUser(const std::function<void()>& work) {
+    std::thread([&] {
+        if (::geteuid() == 0) {
+            ::setfsgid(cNobody);
+            ::setfsuid(cNobody);
+        }
+        work();
+    }).join();
+}
+
+/// A folder that a plain user can reach, with a settings file in it.
+class PlistDefaultsPermissionTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(fRoot.isValid());
+        ASSERT_TRUE(QDir().mkpath(fFolder));
+        QFile file(fPath);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(fBytes);
+        file.close();
+        if (::geteuid() == 0) {
+            for (const QString& path : {fRoot.path(), fFolder, fPath})
+                ASSERT_EQ(::chown(QFile::encodeName(path), cNobody, cNobody), 0);
+        }
+    }
+    void TearDown() override { ::chmod(QFile::encodeName(fFolder), 0700); }
+
+    void permit(mode_t folder, mode_t file) {
+        ASSERT_EQ(::chmod(QFile::encodeName(fPath), file), 0);
+        ASSERT_EQ(::chmod(QFile::encodeName(fFolder), folder), 0);
+    }
+    QByteArray bytesOf(const QString& path) {
+        QFile file(path);
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    const QByteArray fBytes = encodePlist({{"a", 1LL}});
+    QTemporaryDir fRoot{QStringLiteral(P_tmpdir "/kelvo-settings-XXXXXX")};
+    const QString fFolder = fRoot.filePath(QStringLiteral("settings"));
+    const QString fPath = fFolder + QStringLiteral("/preferences.plist");
+    VirtualMainQueue fMain;
+    RecordingConsole fConsole;
+};
+
+TEST_F(PlistDefaultsPermissionTest, FileThatMayNotBeRead_IsMovedAside) {
+    permit(0700, 0000);
+    asPlainUser([this] {
+        PlistDefaults defaults(fPath, fMain, fConsole);
+        EXPECT_FALSE(defaults.object(u"a").isValid());
+        defaults.setObject(u"b", 2);
+        defaults.synchronize();
+    });
+    ASSERT_EQ(fConsole.logged().size(), 1);
+    EXPECT_EQ(decodePlist(bytesOf(fPath)).root, (QVariantMap{{"b", qlonglong{2}}}));
+    const QStringList asides = QDir(fFolder).entryList({"*.corrupt-*"}, QDir::AllEntries);
+    ASSERT_EQ(asides.size(), 1);
+    ::chmod(QFile::encodeName(fFolder + u'/' + asides[0]), 0600);
+    EXPECT_EQ(bytesOf(fFolder + u'/' + asides[0]), fBytes);
+}
+
+TEST_F(PlistDefaultsPermissionTest, FileThatMayNotBeReadNorMoved_IsNeverOverwritten) {
+    permit(0500, 0000);
+    asPlainUser([this] {
+        PlistDefaults defaults(fPath, fMain, fConsole);
+        EXPECT_FALSE(defaults.object(u"a").isValid());
+        EXPECT_EQ(fConsole.logged().size(), 1);
+        defaults.setObject(u"b", 2);
+        defaults.synchronize();
+        defaults.synchronize();
+        EXPECT_EQ(defaults.integerForKey(u"b"), 2);
+    });
+    EXPECT_EQ(fConsole.logged().size(), 1) << fConsole.logged().join(u'\n').toStdString();
+    permit(0700, 0600);
+    EXPECT_EQ(bytesOf(fPath), fBytes);
+}
+
+TEST_F(PlistDefaultsPermissionTest, FileThatMayBeReadAgain_IsJoinedWithWhatMemoryHolds) {
+    permit(0500, 0000);
+    asPlainUser([this] {
+        PlistDefaults defaults(fPath, fMain, fConsole);
+        defaults.setObject(u"b", 2);
+        defaults.synchronize();
+        permit(0700, 0600);
+        defaults.synchronize();
+        EXPECT_EQ(defaults.integerForKey(u"a"), 1);
+    });
+    EXPECT_EQ(decodePlist(bytesOf(fPath)).root,
+              (QVariantMap{{"a", qlonglong{1}}, {"b", qlonglong{2}}}));
+    EXPECT_EQ(fConsole.logged().size(), 2);
+}
+
+TEST_F(PlistDefaultsPermissionTest, FolderThatMayNotBeWritten_IsSaidOnceAndWrittenWhenItMay) {
+    permit(0500, 0600);
+    asPlainUser([this] {
+        PlistDefaults defaults(fPath, fMain, fConsole);
+        EXPECT_EQ(defaults.integerForKey(u"a"), 1);
+        EXPECT_TRUE(fConsole.logged().isEmpty()) << "reading needs no lock";
+        for (int round = 2; round < 5; ++round) {
+            defaults.setObject(u"a", round);
+            defaults.synchronize();
+        }
+        EXPECT_EQ(defaults.integerForKey(u"a"), 4);
+        EXPECT_EQ(fConsole.logged().size(), 1);
+        EXPECT_EQ(bytesOf(fPath), fBytes);
+        permit(0700, 0600);
+        defaults.synchronize();
+    });
+    EXPECT_EQ(decodePlist(bytesOf(fPath)).root, (QVariantMap{{"a", qlonglong{4}}}));
+    EXPECT_EQ(fConsole.logged().size(), 2);
+}
+
+class PlistDefaultsFaultTest : public PlistDefaultsFixture {
+protected:
+    /// Fills the disk of the settings folder.
+    void fillDisk() {
+        QFile ballast(fFolder.folder() + QStringLiteral("/ballast"));
+        ASSERT_TRUE(ballast.open(QFile::WriteOnly | QFile::Unbuffered));
+        while (ballast.write(QByteArray(4096, 'x')) == 4096) {
+        }
+    }
+
+    void workOnFullDisk() {
+        const auto defaults = open();
+        defaults->setObject(u"a", 1);
+        defaults->synchronize();
+        const QByteArray before = fFolder.bytes();
+        ASSERT_FALSE(before.isEmpty());
+        fillDisk();
+        for (int round = 0; round < 3; ++round) {
+            defaults->setObject(u"b", QString(9000, QChar(u'a' + round)));
+            defaults->synchronize();
+        }
+        EXPECT_EQ(fFolder.bytes(), before);
+        EXPECT_EQ(fFolder.otherFiles(), QStringList{"ballast"});
+        EXPECT_EQ(fConsole.logged().size(), 1);
+        EXPECT_EQ(defaults->stringForKey(u"b"), QString(9000, u'c'));
+        ASSERT_TRUE(QFile::remove(fFolder.folder() + QStringLiteral("/ballast")));
+        EXPECT_TRUE(fileGets("b", QString(9000, u'c'))) << "by itself";
+        EXPECT_TRUE(waitUntil([&] { return fConsole.logged().size() == 2; }));
+        EXPECT_EQ(fFolder.values().value_or(QVariantMap()).value("a"), QVariant(1));
+    }
+};
+
+TEST_F(PlistDefaultsFaultTest, FullDisk_OldFileStaysAndNewOneFollowsWhenThereIsRoom) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs root to mount a small disk";
+    ASSERT_TRUE(QDir().mkpath(fFolder.folder()));
+    std::string refused;
+    std::thread([&] {
+        const bool mounted =
+            ::unshare(CLONE_NEWNS) == 0 &&
+            ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+            ::mount("small", QFile::encodeName(fFolder.folder()), "tmpfs", 0, "size=64k") == 0;
+        if (mounted)
+            workOnFullDisk();
+        else
+            refused = std::strerror(errno);
+    }).join();
+    if (!refused.empty())
+        GTEST_SKIP() << "no small disk can be mounted here: " << refused;
+}
+
+class PlistDefaultsKillTest : public PlistDefaultsFixture {
+protected:
+    /// The generation that a value of the pair tells; -1 for a value that is not whole.
+    static qint64 generationOf(const QVariant& value) {
+        const QString text = value.toString();
+        const QString number = text.first(std::min<qsizetype>(12, text.size()));
+        return text == number.repeated(1500) ? number.toLongLong() : -1;
+    }
+};
+
+TEST_F(PlistDefaultsKillTest, TwoHundredKills_LeaveWholeValuesThatNeverGoBack) {
+    constexpr int cRounds = 200;
+    constexpr unsigned cSeed = 4711;
+    std::cout << "seed " << cSeed << '\n';
+    std::mt19937 random(cSeed);
+    qint64 last = 0;
+    int leftovers = 0;
+    for (int round = 0; round < cRounds; ++round) {
+        QProcess writer;
+        writer.start(QStringLiteral(KELVO_SETTINGS_WRITER), {"generations", fFolder.path()});
+        ASSERT_TRUE(writer.waitForReadyRead(30'000));
+        std::this_thread::sleep_for(std::chrono::microseconds(1000 + random() % 39'000));
+        writer.kill();
+        ASSERT_TRUE(writer.waitForFinished(30'000));
+        leftovers += static_cast<int>(fFolder.otherFiles().size());
+
+        const auto values = fFolder.values();
+        ASSERT_TRUE(values) << "round " << round;
+        const qint64 left = generationOf(values->value("left"));
+        const qint64 right = generationOf(values->value("right"));
+        ASSERT_GT(right, last) << "round " << round << ": what was synchronized before is there";
+        ASSERT_TRUE(left == right || left == right + 1) << left << ' ' << right;
+        last = right;
+    }
+    EXPECT_GE(last, cRounds);
+    std::cout << last << " generations, " << leftovers << " kills left a new file behind\n";
+    const auto defaults = open();
+    EXPECT_TRUE(fFolder.otherFiles().isEmpty()) << "what the dead left behind is gone";
+    EXPECT_TRUE(fConsole.logged().isEmpty());
+}
+
+} // namespace
+} // namespace kelvo

@@ -1,0 +1,346 @@
+#include "contract/plist_defaults_fixture.h"
+
+#include <QDateTime>
+#include <QProcess>
+#include <QRegularExpression>
+
+#include <dirent.h>
+#include <sys/inotify.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <set>
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+
+class PlistDefaultsTest : public PlistDefaultsFixture {};
+
+QString cutFile() {
+    const QByteArray whole = encodePlist({{"a", 1LL}, {"b", QString(2000, u'x')}});
+    return QString::fromUtf8(whole.first(whole.size() / 2));
+}
+
+TEST_F(PlistDefaultsTest, FirstStart_MakesAPrivateFolderAndFile) {
+    const auto defaults = open();
+    EXPECT_TRUE(fFolder.bytes().isEmpty()) << "nothing to say yet";
+    defaults->setObject(u"a", 1);
+    defaults->synchronize();
+    EXPECT_EQ(SettingsFolder::modeOf(fFolder.folder()), 0700U);
+    EXPECT_EQ(SettingsFolder::modeOf(fFolder.path()), 0600U);
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{1}}}));
+    EXPECT_TRUE(fFolder.otherFiles().isEmpty());
+    EXPECT_TRUE(fConsole.logged().isEmpty());
+}
+
+TEST_F(PlistDefaultsTest, Restart_GivesTheSameValues) {
+    const QVariantMap values{
+        {"bool", true},
+        {"integer", qlonglong{-3}},
+        {"real", 0.5},
+        {"string", QStringLiteral("/Volumes/A & <B> é")},
+        {"data", QByteArray("\0\1", 2)},
+        {"date", QDateTime(QDate(2026, 3, 1), QTime(4, 5, 6), Qt::UTC)},
+        {"array", QVariantList{true, 1.0, qlonglong{1}}},
+        {"dictionary", QVariantMap{{"a", QVariantMap{{"b", "c"}}}}},
+    };
+    {
+        const auto defaults = open();
+        for (auto it = values.cbegin(); it != values.cend(); ++it)
+            defaults->setObject(it.key(), it.value());
+        defaults->setObject(u"gone", 1);
+        defaults->removeObject(u"gone");
+    }
+    const auto again = open();
+    for (auto it = values.cbegin(); it != values.cend(); ++it)
+        EXPECT_TRUE(sameStoredValue(again->object(it.key()), it.value())) << it.key().toStdString();
+    EXPECT_FALSE(again->object(u"gone").isValid());
+}
+
+TEST_F(PlistDefaultsTest, RegisteredDefaults_AreNotWritten) {
+    const auto defaults = open();
+    defaults->registerDefaults({{"factory", 1}});
+    defaults->setObject(u"mine", 1);
+    defaults->synchronize();
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"mine", qlonglong{1}}}));
+}
+
+TEST_F(PlistDefaultsTest, Change_ReachesTheDiskByItself) {
+    const auto defaults = open();
+    defaults->setObject(u"a", "x");
+    EXPECT_TRUE(fileGets("a", "x"));
+    defaults->removeObject(u"a");
+    EXPECT_TRUE(fileGets("a", QVariant()));
+}
+
+TEST_F(PlistDefaultsTest, ManyChanges_AreGatheredIntoFewReplacements) {
+    const auto defaults = open();
+    const int events = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    ASSERT_GE(::inotify_add_watch(events, QFile::encodeName(fFolder.folder()), IN_MOVED_TO), 0);
+    const auto start = std::chrono::steady_clock::now();
+    for (int number = 0; number < 3000; ++number)
+        defaults->setObject(QStringLiteral("key%1").arg(number % 30), number);
+    ASSERT_TRUE(fileGets("key29", qlonglong{2999}));
+    const auto gatherTimes = (std::chrono::steady_clock::now() - start) / 100ms;
+    int replacements = 0;
+    alignas(inotify_event) char buffer[4096];
+    for (ssize_t size = 0; (size = ::read(events, buffer, sizeof buffer)) > 0;) {
+        for (ssize_t at = 0; at < size; ++replacements)
+            at += static_cast<ssize_t>(sizeof(inotify_event)) +
+                  reinterpret_cast<const inotify_event*>(buffer + at)->len;
+    }
+    ::close(events);
+    EXPECT_GE(replacements, 1);
+    EXPECT_LE(replacements, gatherTimes + 2);
+}
+
+TEST_F(PlistDefaultsTest, EqualValue_LeavesTheFileAlone) {
+    const auto defaults = open();
+    defaults->setObject(u"a", true);
+    defaults->synchronize();
+    const ino_t before = SettingsFolder::inodeOf(fFolder.path());
+    defaults->setObject(u"a", true);
+    defaults->removeObject(u"never there");
+    defaults->synchronize();
+    EXPECT_EQ(SettingsFolder::inodeOf(fFolder.path()), before);
+}
+
+TEST_F(PlistDefaultsTest, Idle_ItsThreadSleeps) {
+    const auto threads = [] {
+        std::set<std::string> found;
+        DIR* folder = ::opendir("/proc/self/task");
+        while (const dirent* entry = ::readdir(folder))
+            found.insert(entry->d_name);
+        ::closedir(folder);
+        return found;
+    };
+    const auto before = threads();
+    const auto defaults = open();
+    defaults->setObject(u"a", 1);
+    ASSERT_TRUE(fileGets("a", qlonglong{1}));
+    std::set<std::string> added;
+    for (const std::string& thread : threads()) {
+        if (!before.contains(thread))
+            added.insert(thread);
+    }
+    ASSERT_EQ(added.size(), 1U);
+    const auto wakeUps = [&] {
+        QFile file(QStringLiteral("/proc/self/task/%1/status")
+                       .arg(QString::fromStdString(*added.begin())));
+        if (!file.open(QFile::ReadOnly))
+            return QByteArray();
+        const QByteArray text = file.readAll();
+        return text.sliced(text.indexOf("\nvoluntary_ctxt_switches"));
+    };
+    // Settles once the event of its own writing is dealt with; then nothing wakes it.
+    EXPECT_TRUE(waitUntil([&] {
+        const QByteArray then = wakeUps();
+        waitUntil([] { return false; }, 400ms);
+        return !then.isEmpty() && wakeUps() == then;
+    }));
+}
+
+TEST_F(PlistDefaultsTest, Destruction_WritesWhatIsLeftAndSilencesTheQueue) {
+    int calls = 0;
+    auto defaults = open();
+    const auto subscription = defaults->observe(u"theirs", [&](const DefaultsChange&) { ++calls; });
+    fFolder.replace({{"theirs", 1LL}});
+    ASSERT_TRUE(waitUntil([&] { return !fMain.idle(); }));
+    defaults->setObject(u"mine", 2);
+    defaults.reset();
+    fMain.runDue();
+    EXPECT_EQ(calls, 0);
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"mine", qlonglong{2}}, {"theirs", qlonglong{1}}}));
+}
+
+struct BadFile {
+    const char* name;
+    QByteArray bytes;
+};
+
+class PlistDefaultsBadFileTest : public PlistDefaultsFixture,
+                                 public ::testing::WithParamInterface<BadFile> {};
+
+TEST_P(PlistDefaultsBadFileTest, AtStart_IsKeptAsideAndSaid) {
+    fFolder.write(GetParam().bytes);
+    const auto defaults = open();
+    const QStringList others = fFolder.otherFiles();
+    ASSERT_EQ(others.size(), 1) << others.join(u' ').toStdString();
+    EXPECT_TRUE(others[0].contains(
+        QRegularExpression(QStringLiteral("^preferences\\.plist\\.corrupt-\\d{8}T\\d{6}Z$"))))
+        << others[0].toStdString();
+    const QString aside = fFolder.folder() + u'/' + others[0];
+    QFile kept(aside);
+    ASSERT_TRUE(kept.open(QFile::ReadOnly));
+    EXPECT_EQ(kept.readAll(), GetParam().bytes);
+    ASSERT_EQ(fConsole.logged().size(), 1);
+    EXPECT_TRUE(fConsole.logged()[0].contains(fFolder.path() + u' '));
+    EXPECT_TRUE(fConsole.logged()[0].contains(aside));
+
+    EXPECT_FALSE(defaults->object(u"a").isValid());
+    defaults->setObject(u"new", 1);
+    defaults->synchronize();
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"new", qlonglong{1}}}));
+    EXPECT_EQ(fConsole.logged().size(), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, PlistDefaultsBadFileTest,
+    ::testing::Values(BadFile{"Empty", ""}, BadFile{"Cut", cutFile().toUtf8()},
+                      BadFile{"Noise", QByteArray("\x7f\x00\xff\x13noise", 9)},
+                      BadFile{"Zeros", QByteArray(4096, '\0')},
+                      BadFile{"WrongRoot", "<plist version=\"1.0\"><array/></plist>"},
+                      BadFile{"CutBinary", QByteArray("bplist00\xd1\x01\x02", 11)},
+                      BadFile{"TooLarge", QByteArray(17 * 1024 * 1024, 'x')}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST_F(PlistDefaultsTest, AsideNameTaken_IsNotOverwritten) {
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    fFolder.write("bad");
+    for (int second = 0; second < 60; ++second) {
+        QFile taken(fFolder.path() + QStringLiteral(".corrupt-") +
+                    now.addSecs(second).toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'")));
+        ASSERT_TRUE(taken.open(QFile::WriteOnly));
+        taken.write("earlier");
+    }
+    const auto defaults = open();
+    int kept = 0;
+    for (const QString& name : fFolder.otherFiles()) {
+        QFile file(fFolder.folder() + u'/' + name);
+        ASSERT_TRUE(file.open(QFile::ReadOnly));
+        const bool second = name.endsWith(QStringLiteral("Z-2"));
+        EXPECT_EQ(file.readAll(), second ? "bad" : "earlier") << name.toStdString();
+        kept += second ? 1 : 0;
+    }
+    EXPECT_EQ(kept, 1);
+}
+
+TEST_F(PlistDefaultsTest, PipeInThePlaceOfTheFile_DoesNotHoldUsUp) {
+    QDir().mkpath(fFolder.folder());
+    ASSERT_EQ(::mkfifo(QFile::encodeName(fFolder.path()), 0600), 0);
+    const auto defaults = open();
+    EXPECT_EQ(fConsole.logged().size(), 1);
+    defaults->setObject(u"a", 1);
+    defaults->synchronize();
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{1}}}));
+}
+
+TEST_F(PlistDefaultsTest, WrongTypes_ReadAsNeutralAndStayInTheFile) {
+    const QVariantMap odd{{"prefRsyncCommandOptionTag", QVariantMap{{"a", qlonglong{1}}}},
+                          {"prefPath1", QVariantList{true}},
+                          {"prefIsScanning", QByteArray("\1")},
+                          {"unknown key", 2.5}};
+    fFolder.replace(odd);
+    const auto defaults = open();
+    EXPECT_EQ(defaults->integerForKey(u"prefRsyncCommandOptionTag"), 0);
+    EXPECT_EQ(defaults->stringForKey(u"prefPath1"), std::nullopt);
+    EXPECT_FALSE(defaults->boolForKey(u"prefIsScanning"));
+    defaults->setObject(u"prefPath2", "/x");
+    defaults->synchronize();
+    QVariantMap expected = odd;
+    expected.insert("prefPath2", "/x");
+    EXPECT_TRUE(sameStoredValue(fFolder.values().value_or(QVariantMap()), expected));
+    EXPECT_TRUE(fConsole.logged().isEmpty());
+}
+
+TEST_F(PlistDefaultsTest, CharactersThatXmlCannotCarry_HoldInMemoryAndHarmNothing) {
+    const QString odd = QStringLiteral("a\u0001b");
+    {
+        const auto defaults = open();
+        defaults->setObject(u"odd", odd);
+        defaults->setObject(u"other", 1);
+        defaults->synchronize();
+        EXPECT_EQ(defaults->stringForKey(u"odd"), odd);
+    }
+    const auto again = open();
+    EXPECT_EQ(again->stringForKey(u"odd"), QStringLiteral("a\uFFFDb"));
+    EXPECT_EQ(again->integerForKey(u"other"), 1);
+}
+
+TEST_F(PlistDefaultsTest, TooMuchToWrite_LeavesTheFileReadable) {
+    const auto defaults = open();
+    defaults->setObject(u"small", 1);
+    defaults->synchronize();
+    defaults->setObject(u"large", QByteArray(17 * 1024 * 1024, 'x'));
+    defaults->synchronize();
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"small", qlonglong{1}}}));
+    EXPECT_EQ(fConsole.logged().size(), 1);
+    EXPECT_EQ(defaults->object(u"large").toByteArray().size(), 17 * 1024 * 1024);
+    defaults->removeObject(u"large");
+    defaults->setObject(u"small", 2);
+    defaults->synchronize();
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"small", qlonglong{2}}}));
+    EXPECT_EQ(fConsole.logged().size(), 2);
+}
+
+TEST_F(PlistDefaultsTest, Leftovers_OfDeadWritersGoAtStart) {
+    fFolder.replace({{"a", 1LL}});
+    for (const char* name :
+         {"preferences.plist.new-1234-1-5", "preferences.plist.newer", "notes"}) {
+        QFile file(fFolder.folder() + u'/' + QString::fromLatin1(name));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+    }
+    const auto defaults = open();
+    EXPECT_EQ(fFolder.otherFiles(), (QStringList{"notes", "preferences.plist.newer"}));
+    EXPECT_EQ(defaults->integerForKey(u"a"), 1);
+}
+
+TEST_F(PlistDefaultsTest, LockedByAnotherProgram_IsSaidOnceAndWrittenLater) {
+    fFolder.replace({{"a", 1LL}});
+    QFile leftover(fFolder.path() + QStringLiteral(".new-1-1-1"));
+    ASSERT_TRUE(leftover.open(QFile::WriteOnly));
+    PlistFile other(fFolder.path());
+    auto held = std::make_unique<FileLock>(other.lock(1s).first);
+    ASSERT_TRUE(*held);
+    const auto defaults = open();
+    EXPECT_EQ(fFolder.otherFiles().size(), 1) << "it may be in use";
+    EXPECT_EQ(defaults->integerForKey(u"a"), 1);
+    defaults->setObject(u"a", 2);
+    defaults->synchronize();
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{1}}}));
+    EXPECT_EQ(fConsole.logged().size(), 1);
+    held.reset();
+    defaults->synchronize();
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{2}}}));
+    EXPECT_EQ(fConsole.logged().size(), 2);
+}
+
+TEST_F(PlistDefaultsTest, BlockedFolder_IsSaidOnceAndWrittenWhenItWorks) {
+    QDir().mkpath(QFileInfo(fFolder.folder()).path());
+    QFile obstacle(fFolder.folder());
+    ASSERT_TRUE(obstacle.open(QFile::WriteOnly));
+    const auto defaults = open();
+    for (int round = 1; round <= 3; ++round) {
+        defaults->setObject(u"a", round);
+        defaults->synchronize();
+    }
+    EXPECT_EQ(defaults->integerForKey(u"a"), 3);
+    ASSERT_EQ(fConsole.logged().size(), 1);
+    EXPECT_TRUE(fConsole.logged()[0].contains(fFolder.path()));
+    ASSERT_TRUE(obstacle.remove());
+    defaults->synchronize();
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{3}}}));
+    ASSERT_EQ(fConsole.logged().size(), 2);
+    EXPECT_TRUE(fConsole.logged()[1].contains(QStringLiteral("again")));
+
+    // The folder is new, and yet what others do there is noticed.
+    fFolder.replace({{"a", 9LL}});
+    EXPECT_TRUE(waitUntil([&] { return defaults->integerForKey(u"a") == 9; }));
+}
+
+TEST_F(PlistDefaultsTest, BlockedFolder_IsTriedAgainWithoutBeingAsked) {
+    QDir().mkpath(QFileInfo(fFolder.folder()).path());
+    QFile obstacle(fFolder.folder());
+    ASSERT_TRUE(obstacle.open(QFile::WriteOnly));
+    const auto defaults = open();
+    defaults->setObject(u"a", 1);
+    ASSERT_TRUE(waitUntil([&] { return fConsole.logged().size() == 1; }));
+    ASSERT_TRUE(obstacle.remove());
+    EXPECT_TRUE(fileGets("a", qlonglong{1}));
+    EXPECT_TRUE(waitUntil([&] { return fConsole.logged().size() == 2; }));
+}
+
+} // namespace
+} // namespace kelvo
