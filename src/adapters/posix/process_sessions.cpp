@@ -1,11 +1,10 @@
 #include "adapters/posix/process_sessions.h"
 
-#include "adapters/posix/unique_fd.h"
+#include "adapters/posix/pidfd.h"
 
 #include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/pidfd.h>
 
 #include <algorithm>
 #include <array>
@@ -50,7 +49,7 @@ struct Member {
 std::vector<Member> heldMembers(std::span<const pid_t> sessions) {
     std::vector<Member> held;
     for (const pid_t pid : processesOfSessions(sessions)) {
-        UniqueFd handle(::pidfd_open(pid, 0));
+        UniqueFd handle = openProcess(pid);
         if (handle && std::ranges::count(sessions, livingSession(pid)) > 0)
             held.push_back({pid, std::move(handle)});
     }
@@ -95,7 +94,7 @@ bool endSessions(std::span<const pid_t> sessions, int signal, std::chrono::milli
             return true;
         for (const Member& member : members) {
             if (told.insert(member.pid).second)
-                (void)::pidfd_send_signal(member.handle.get(), signal, nullptr, 0);
+                signalProcess(member.handle, signal);
         }
         const auto left =
             std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());

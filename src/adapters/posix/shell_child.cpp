@@ -1,9 +1,10 @@
 #include "adapters/posix/shell_child.h"
 
+#include "adapters/posix/pidfd.h"
+
 #include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
-#include <sys/pidfd.h>
 
 #include <algorithm>
 #include <array>
@@ -135,7 +136,7 @@ int startShell(const std::string& command, const std::vector<std::string>& envir
     if (failure != 0)
         return failure;
     child.pid = pid;
-    child.ended = UniqueFd(::pidfd_open(pid, 0));
+    child.ended = openProcess(pid);
     child.output = std::move(output.read);
     child.errors = std::move(errors.read);
     return 0;
