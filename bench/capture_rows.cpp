@@ -148,7 +148,7 @@ std::optional<std::vector<Figure>> measureStall() {
         captured = output.size();
         console.print({QStringLiteral("result from shell command =\n"), output,
                        QStringLiteral("\n======== done ========")});
-        console.flush(60);
+        console.flush(std::chrono::seconds(60));
         mainQueue.asyncAfter(0.05, [] { QCoreApplication::exit(); });
     });
     QCoreApplication::exec();

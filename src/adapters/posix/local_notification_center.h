@@ -1,4 +1,4 @@
-// LocalNotificationCenter: notifications within this process.
+// LocalNotificationCenter: the notification centre within this process.
 #pragma once
 
 #include "ports/notification_center.h"
@@ -7,17 +7,17 @@
 
 namespace kelvo {
 
+/// Subscriptions may outlive the centre.
 class LocalNotificationCenter final : public NotificationCenter {
 public:
     LocalNotificationCenter();
-    ~LocalNotificationCenter() override;
 
     void post(const QString& name, const QVariantMap& userInfo = {}) override;
     Subscription observe(const QString& name, NotificationHandler handler) override;
 
 private:
     struct Observers;
-    std::shared_ptr<Observers> fObservers; // subscriptions may outlive the centre
+    std::shared_ptr<Observers> fObservers;
 };
 
 } // namespace kelvo

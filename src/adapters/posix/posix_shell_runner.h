@@ -1,49 +1,55 @@
-// PosixShellRunner: runs commands through /bin/sh, each in a session of its own.
+// PosixShellRunner: runs command lines through /bin/sh, each in a session of its own.
 #pragma once
 
-#include "adapters/posix/file_descriptor.h"
+#include "adapters/posix/unique_fd.h"
 #include "ports/shell_runner.h"
 
 #include <sys/types.h>
 
+#include <condition_variable>
 #include <mutex>
-#include <set>
+#include <string>
+#include <vector>
 
 namespace kelvo {
 
 class Console;
 
-/// A command starts with default signal settings, no terminal, standard input at its end, and none
-/// of the program's descriptors. What it writes to standard error goes to the system log.
+/// Commands see the environment as it was when the runner was made, less what could prompt. The
+/// first 64 KiB of a command's error output go to the system log in one line, when it has ended.
 class PosixShellRunner final : public ShellRunner {
 public:
+    /// `console` must outlive the runner.
     explicit PosixShellRunner(Console& console);
-    ~PosixShellRunner() override;
-    PosixShellRunner(const PosixShellRunner&) = delete;
-    PosixShellRunner& operator=(const PosixShellRunner&) = delete;
 
+    /// As `endAll`.
+    ~PosixShellRunner() override;
+
+    /// A text with U+0000 in it, or one longer than the system passes on (128 KiB), cannot be
+    /// started; that is said in the system log. When memory runs out the text ends there, and that
+    /// is said too.
     QString outputWhenRunAsShellCommand(const QString& command) override;
 
-    /// For the orderly quit: no command starts any more, and every process that any command has
-    /// left, in whatever session, is asked to end, then, after two seconds, made to. Callers that
-    /// wait for a command get what it had written. Any thread; returns when nothing is left, after
-    /// about three seconds at most.
+    /// For an orderly quit: from now on every command returns the empty text at once. Those that
+    /// run are asked to end with all processes of their sessions, 2 s later forced; their callers
+    /// get what was captured so far, even if a process that left the session still holds the
+    /// output. Returns when all callers are on their way, about 3 s later at worst. Any thread but
+    /// one that runs a command; calling it again does nothing.
     void endAll();
 
 private:
-    struct Child;
-
-    bool start(const QString& command, Child& child);
-    QString readToEnd(Child& child);
-    void drainErrors(Child& child);
-    void finish(Child& child);
-    std::set<pid_t> collectEnded();
+    class Capture;
+    void leave(pid_t pid);
 
     Console& fConsole;
-    FileDescriptor fEnding; // readable once endAll was called
+    const std::vector<std::string> fEnvironment;
+    UniqueFd fGiveUp;
+    std::mutex fEndMutex;
     std::mutex fMutex;
-    std::set<pid_t> fRunning; // shells not collected yet: their ids are still theirs
-    bool fEnded = false;
+    std::condition_variable fLeft;
+    std::vector<pid_t> fSessions;
+    int fCallers = 0;
+    bool fEnding = false;
 };
 
 } // namespace kelvo

@@ -1,183 +1,174 @@
 #include "adapters/posix/stream_console.h"
 
-#include "adapters/posix/visible_text.h"
+#include "adapters/posix/line_stream.h"
 #include "ports/log_file.h"
 
-#include <QStringEncoder>
+#include <QDateTime>
 
-#include <fcntl.h>
 #include <poll.h>
 #include <pthread.h>
+#include <signal.h>
+#include <sys/eventfd.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <chrono>
-#include <climits>
-#include <csignal>
+#include <array>
+#include <cstdint>
+#include <optional>
 #include <utility>
 
 namespace kelvo {
 namespace {
 
-constexpr qsizetype cWaitingLimit = 64 * 1024 * 1024; // bytes of UTF-16
-constexpr qsizetype cChunk = 64 * 1024;               // UTF-16 units encoded at a time
-constexpr qsizetype cLogPart = 32 * 1024;             // what the log keeps of either end
-constexpr auto cLastSecond = std::chrono::seconds(1);
-constexpr int cHurryInterval = 100; // milliseconds between looks at whether to hurry
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
 
-/// A write to a closed pipe is an error value on this thread, never a signal.
-void blockPipeSignal() {
-    sigset_t signals;
-    ::sigemptyset(&signals);
-    ::sigaddset(&signals, SIGPIPE);
-    ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+constexpr auto cStuck = 1s;
+constexpr auto cLongestEnd = 5s;
+
+QString logPrefix() {
+    return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")) +
+           u" kelvo-mirror[" + QString::number(::getpid()) + u"] ";
 }
 
-/// The ends of a long line, without its middle.
-QString forLog(const QStringList& pieces, qsizetype size) {
-    if (size <= 2 * cLogPart)
-        return pieces.join(QString());
-    QString head;
-    for (auto piece = pieces.cbegin(); head.size() < cLogPart; ++piece)
-        head += QStringView(*piece).first(std::min(piece->size(), cLogPart - head.size()));
-    QString tail;
-    for (auto piece = pieces.crbegin(); tail.size() < cLogPart; ++piece)
-        tail.prepend(QStringView(*piece).last(std::min(piece->size(), cLogPart - tail.size())));
-    return head + QStringLiteral("\n[… %1 characters left out …]\n").arg(size - 2 * cLogPart) +
-           tail;
+/// Signals are for the other threads; a write to nobody gives an error instead of one.
+void blockSignals() {
+    sigset_t all;
+    ::sigfillset(&all);
+    for (const int fault : {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT})
+        ::sigdelset(&all, fault);
+    ::pthread_sigmask(SIG_BLOCK, &all, nullptr);
 }
 
 } // namespace
 
-/// One of the two standard streams.
-class StreamConsole::Stream {
+/// What the console's thread does, and its own state.
+class StreamConsole::Writer {
 public:
-    Stream(int fd, const std::atomic<bool>& hurry)
-        : fFd(fd), fTerminal(::isatty(fd) == 1), fHurry(hurry) {}
+    Writer(StreamConsole& console, int output, int errors)
+        : fConsole(console), fOutput(output), fErrors(errors) {}
 
-    void write(const QStringList& pieces) {
-        QStringEncoder encode(QStringEncoder::Utf8);
-        for (const QString& piece : pieces) {
-            const QString text = fTerminal ? withVisibleControls(piece) : piece;
-            for (qsizetype at = 0; at < text.size() && !fClosed; at += cChunk) {
-                const QByteArray bytes = encode(QStringView(text).mid(at, cChunk));
-                writeBytes(bytes);
-            }
+    void run() {
+        blockSignals();
+        while (takeLines()) {
+            if (fFileLine)
+                fConsole.fLogFile.append(*fFileLine);
+            writeWhatGoes();
         }
-        writeBytes("\n");
     }
 
 private:
-    void writeBytes(QByteArrayView bytes) {
-        while (!bytes.isEmpty() && !fClosed) {
-            pollfd ready = {fFd, POLLOUT, 0};
-            const int found = ::poll(&ready, 1, cHurryInterval);
-            if (found == 0 && fHurry)
-                fClosed = true;
-            if (found <= 0)
-                continue;
-            const ssize_t count =
-                ::write(fFd, bytes.data(),
-                        static_cast<std::size_t>(std::min<qsizetype>(bytes.size(), PIPE_BUF)));
-            if (count >= 0)
-                bytes = bytes.sliced(count);
-            else if (errno != EINTR && errno != EAGAIN)
-                fClosed = true;
+    /// Gets the next line for each stream that is done with its last one. False when everything is
+    /// written, or given up, and the console ends.
+    bool takeLines() {
+        const std::lock_guard lock(fConsole.fMutex);
+        takeLine(fOutput, fConsole.fOutput);
+        takeLine(fErrors, fConsole.fErrors);
+        fConsole.fFileLines.finished();
+        fFileLine = fConsole.fFileLines.take();
+        if (fConsole.fStopping && !fStopping) {
+            fStopping = true;
+            fStopTime = fProgress = Clock::now();
+        }
+        const bool idle = !fOutput.busy() && !fErrors.busy() && !fFileLine;
+        if (idle)
+            fConsole.fWritten.notify_all();
+        fConsole.fAsleep = patience() != 0;
+        return !fStopping || fFileLine || (!idle && Clock::now() < giveUpTime());
+    }
+
+    static void takeLine(LineStream& stream, LineBacklog& backlog) {
+        if (stream.busy())
+            return;
+        backlog.finished();
+        if (auto line = backlog.take())
+            stream.start(std::move(*line));
+    }
+
+    void writeWhatGoes() {
+        const auto watched = [](const LineStream& stream) {
+            return pollfd{stream.busy() && !stream.gone() ? stream.fd() : -1, POLLOUT, 0};
+        };
+        std::array<pollfd, 3> fds = {watched(fOutput), watched(fErrors),
+                                     pollfd{fConsole.fWakeUp.get(), POLLIN, 0}};
+        (void)::poll(fds.data(), fds.size(), patience());
+        std::uint64_t count = 0;
+        (void)!::read(fConsole.fWakeUp.get(), &count, sizeof count);
+        for (auto [stream, ready] :
+             {std::pair(&fOutput, fds[0].revents != 0), std::pair(&fErrors, fds[1].revents != 0)}) {
+            if (stream->busy() && (ready || stream->gone()) && stream->writeSome())
+                fProgress = Clock::now();
         }
     }
 
-    const int fFd;
-    const bool fTerminal;
-    const std::atomic<bool>& fHurry;
-    bool fClosed = false;
+    /// For `poll`: milliseconds, -1 for ever.
+    int patience() const {
+        const auto swallows = [](const LineStream& stream) {
+            return stream.busy() && stream.gone();
+        };
+        if (fFileLine || swallows(fOutput) || swallows(fErrors))
+            return 0;
+        if (!fStopping)
+            return -1;
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(giveUpTime() - Clock::now());
+        return static_cast<int>(std::max(left, 0ms).count());
+    }
+
+    Clock::time_point giveUpTime() const {
+        return std::min(fProgress + cStuck, fStopTime + cLongestEnd);
+    }
+
+    StreamConsole& fConsole;
+    LineStream fOutput;
+    LineStream fErrors;
+    std::optional<QStringList> fFileLine;
+    bool fStopping = false;
+    Clock::time_point fStopTime;
+    Clock::time_point fProgress;
 };
 
-StreamConsole::StreamConsole(int standardOutput, int standardError, LogFile& logFile)
-    : fLogFile(logFile),
-      fWriter([this, standardOutput, standardError] { serve(standardOutput, standardError); }) {}
+StreamConsole::StreamConsole(int output, int errors, LogFile& logFile)
+    : fLogFile(logFile), fWakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+      fThread([this, output, errors] { Writer(*this, output, errors).run(); }) {
+    ::pthread_setname_np(fThread.native_handle(), "kelvo-console");
+}
 
 StreamConsole::~StreamConsole() {
-    const bool all = flush(std::chrono::duration<double>(cLastSecond).count());
-    fHurry = !all;
     {
         const std::lock_guard lock(fMutex);
-        fEnding = true;
+        fStopping = true;
+        wake();
     }
-    fWake.notify_one();
-    fWriter.join();
+    fThread.join();
 }
 
 void StreamConsole::print(const QStringList& pieces) {
-    enqueue(Kind::Print, pieces);
+    const std::lock_guard lock(fMutex);
+    fOutput.add(pieces);
+    fFileLines.add(pieces);
+    wake();
 }
 
 void StreamConsole::log(const QString& text) {
-    enqueue(Kind::Log, {text});
+    const QString prefix = logPrefix();
+    const std::lock_guard lock(fMutex);
+    fErrors.add({prefix, text});
+    fFileLines.add({text});
+    wake();
 }
 
-void StreamConsole::enqueue(Kind kind, const QStringList& pieces) {
-    qsizetype size = 0;
-    for (const QString& piece : pieces)
-        size += piece.size();
-    {
-        const std::lock_guard lock(fMutex);
-        // One line is always taken, however long: it is captured output, and in memory already.
-        if (fWaitingSize * qsizetype{sizeof(QChar)} > cWaitingLimit) {
-            ++fLeftOut;
-            return;
-        }
-        fWaitingSize += size;
-        fWaiting.push_back({kind, QDateTime::currentDateTime(), pieces, size});
-    }
-    fWake.notify_one();
-}
-
-bool StreamConsole::flush(double seconds) {
+bool StreamConsole::flush(std::chrono::milliseconds timeout) {
     std::unique_lock lock(fMutex);
-    return fWritten.wait_for(lock, std::chrono::duration<double>(seconds),
-                             [this] { return fWaiting.empty() && !fBusy; });
+    return fWritten.wait_for(
+        lock, timeout, [this] { return fOutput.empty() && fErrors.empty() && fFileLines.empty(); });
 }
 
-void StreamConsole::serve(int standardOutput, int standardError) {
-    blockPipeSignal();
-    ::pthread_setname_np(::pthread_self(), "kelvo-console");
-    Stream output(standardOutput, fHurry);
-    Stream errors(standardError, fHurry);
-    std::unique_lock lock(fMutex);
-    for (;;) {
-        fWake.wait(lock, [this] { return fEnding || !fWaiting.empty(); });
-        if (fWaiting.empty())
-            return;
-        Line line = std::move(fWaiting.front());
-        fWaiting.pop_front();
-        fBusy = true;
-        lock.unlock();
-        write(line, output, errors);
-        const qsizetype size = line.size;
-        line.pieces.clear(); // outside the lock: the text may be very large
-        lock.lock();
-        fWaitingSize -= size;
-        fBusy = false;
-        if (fWaiting.empty() && fLeftOut > 0) {
-            const QString note = QStringLiteral("[%1 lines left out: nobody was reading]")
-                                     .arg(std::exchange(fLeftOut, 0));
-            fWaitingSize += note.size();
-            fWaiting.push_back({Kind::Log, QDateTime::currentDateTime(), {note}, note.size()});
-        }
-        fWritten.notify_all();
-    }
-}
-
-void StreamConsole::write(const Line& line, Stream& output, Stream& errors) {
-    fLogFile.append(forLog(line.pieces, line.size));
-    if (line.kind == Kind::Print) {
-        output.write(line.pieces);
+/// The lock is held.
+void StreamConsole::wake() {
+    if (!std::exchange(fAsleep, false))
         return;
-    }
-    const QString head = line.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")) +
-                         QStringLiteral(" kelvo-mirror[%1] ").arg(::getpid());
-    errors.write(QStringList{head} + line.pieces);
+    const std::uint64_t one = 1;
+    (void)!::write(fWakeUp.get(), &one, sizeof one);
 }
 
 } // namespace kelvo

@@ -1,14 +1,12 @@
-// StreamConsole: diagnostic lines on standard output and standard error, and all of them in the
-// log.
+// StreamConsole: diagnostic lines to standard output, the system log's place and the log file.
 #pragma once
 
+#include "adapters/posix/line_backlog.h"
+#include "adapters/posix/unique_fd.h"
 #include "ports/console.h"
 
-#include <QDateTime>
-
-#include <atomic>
+#include <chrono>
 #include <condition_variable>
-#include <deque>
 #include <mutex>
 #include <thread>
 
@@ -16,53 +14,41 @@ namespace kelvo {
 
 class LogFile;
 
-/// A thread of its own writes, so that a terminal that was stopped or a pipe that nobody reads
-/// stops nothing else. While 64 MiB of text wait, further lines are left out, and how many is said
-/// once the reader goes on. Control characters reach a terminal, and the log file, made visible; a
-/// pipe or file gets them as they are. A stream that its reader closed is written to no more.
+/// Printed lines go to `output`, system log lines to `errors` as
+/// "yyyy-MM-dd HH:mm:ss.zzz kelvo-mirror[pid] text", and both to the log file. A thread of its own
+/// writes; a stream whose reader is slow or gone holds up neither callers nor the other streams.
+/// Behind a reader that is stuck at most 64 MiB of text and one line wait for each stream; what
+/// comes then is left out there, and "N lines left out" stands in its place. On a terminal control
+/// characters are spelled out ("\x1b").
 class StreamConsole final : public Console {
 public:
-    /// Both descriptors stay open for the life of this; SIGPIPE is the caller's business to ignore
-    /// or not: none is raised here.
-    StreamConsole(int standardOutput, int standardError, LogFile& logFile);
+    /// The descriptors stay open as long as the console; -1 for a stream that does not exist.
+    StreamConsole(int output, int errors, LogFile& logFile);
 
-    /// Writes what waits, for at most a second while a reader is stuck.
+    /// Writes what waits; a reader that takes nothing for 1 s, or is not done after 5 s, loses it.
     ~StreamConsole() override;
-    StreamConsole(const StreamConsole&) = delete;
-    StreamConsole& operator=(const StreamConsole&) = delete;
 
     using Console::print;
     void print(const QStringList& pieces) override;
     void log(const QString& text) override;
 
-    /// Waits until everything said so far is written, at most `seconds`. False when time was up.
-    bool flush(double seconds);
+    /// Waits until no line waits any more; false when `timeout` came first. Any thread.
+    bool flush(std::chrono::milliseconds timeout);
 
 private:
-    enum class Kind { Print, Log };
-    struct Line {
-        Kind kind;
-        QDateTime time;
-        QStringList pieces;
-        qsizetype size;
-    };
-    class Stream;
-
-    void enqueue(Kind kind, const QStringList& pieces);
-    void serve(int standardOutput, int standardError);
-    void write(const Line& line, Stream& output, Stream& errors);
+    class Writer;
+    void wake();
 
     LogFile& fLogFile;
+    const UniqueFd fWakeUp;
     std::mutex fMutex;
-    std::condition_variable fWake;
     std::condition_variable fWritten;
-    std::deque<Line> fWaiting;
-    qsizetype fWaitingSize = 0;
-    qsizetype fLeftOut = 0;
-    bool fBusy = false;
-    bool fEnding = false;
-    std::atomic<bool> fHurry = false; // the end has come: a stuck reader is waited for no longer
-    std::thread fWriter;
+    LineBacklog fOutput;
+    LineBacklog fErrors;
+    LineBacklog fFileLines;
+    bool fStopping = false;
+    bool fAsleep = false;
+    std::thread fThread;
 };
 
 } // namespace kelvo

@@ -2,12 +2,18 @@
 
 #include <pthread.h>
 
+#include <algorithm>
+#include <chrono>
+#include <system_error>
 #include <utility>
 
 namespace kelvo {
 namespace {
 
-constexpr std::size_t cMaxThreads = 64;
+void join(std::list<std::thread>& threads) {
+    for (std::thread& thread : threads)
+        thread.join();
+}
 
 } // namespace
 
@@ -16,45 +22,77 @@ ThreadPoolQueue::~ThreadPoolQueue() {
 }
 
 void ThreadPoolQueue::async(Work work) {
-    const std::lock_guard lock(fMutex);
-    if (fStopped)
+    if (!work)
         return;
-    fWaiting.push_back(std::move(work));
-    if (fFree < fWaiting.size() && fThreads.size() < cMaxThreads)
-        fThreads.emplace_back([this] { serve(); });
-    fWake.notify_one();
+    std::list<std::thread> ended;
+    {
+        const std::lock_guard lock(fMutex);
+        if (fStopped)
+            return;
+        fWaiting.push_back(std::move(work));
+        if (fWaiting.size() > fFree && fThreads.size() < cMostThreads)
+            startThread();
+        else
+            fPosted.notify_one();
+        ended = takeEnded();
+    }
+    join(ended);
 }
 
 void ThreadPoolQueue::stopAndWait() {
-    std::vector<std::thread> threads;
-    std::deque<Work> dropped; // destroyed outside the lock: work may own anything
+    std::deque<Work> dropped;
+    std::list<std::thread> threads;
     {
         const std::lock_guard lock(fMutex);
         fStopped = true;
-        threads.swap(fThreads);
         dropped.swap(fWaiting);
+        threads = takeEnded();
+        threads.splice(threads.end(), fThreads);
+        fPosted.notify_all();
     }
-    fWake.notify_all();
-    for (std::thread& thread : threads)
-        thread.join();
+    join(threads);
 }
 
-void ThreadPoolQueue::serve() {
-    ::pthread_setname_np(::pthread_self(), "kelvo-pass");
+std::size_t ThreadPoolQueue::threads() const {
+    const std::lock_guard lock(fMutex);
+    return fThreads.size();
+}
+
+void ThreadPoolQueue::work() {
     std::unique_lock lock(fMutex);
-    for (;;) {
-        ++fFree;
-        fWake.wait(lock, [this] { return fStopped || !fWaiting.empty(); });
-        --fFree;
-        if (fStopped)
-            return;
-        Work work = std::move(fWaiting.front());
+    while (waitForWork(lock)) {
+        Work next = std::move(fWaiting.front());
         fWaiting.pop_front();
         lock.unlock();
-        work();
-        work = nullptr;
+        next();
+        next = nullptr;
         lock.lock();
     }
+    const auto self = std::ranges::find(fThreads, std::this_thread::get_id(), &std::thread::get_id);
+    if (self != fThreads.end())
+        fEnded.splice(fEnded.end(), fThreads, self);
+}
+
+/// False when the thread shall end.
+bool ThreadPoolQueue::waitForWork(std::unique_lock<std::mutex>& lock) {
+    ++fFree;
+    fPosted.wait_for(lock, fIdle, [this] { return fStopped || !fWaiting.empty(); });
+    --fFree;
+    return !fStopped && !fWaiting.empty();
+}
+
+void ThreadPoolQueue::startThread() {
+    try {
+        fThreads.emplace_back([this] { work(); });
+        ::pthread_setname_np(fThreads.back().native_handle(), "kelvo-bg");
+    } catch (const std::system_error&) {
+        // No thread to be had: the work waits for one that is there already.
+        fPosted.notify_one();
+    }
+}
+
+std::list<std::thread> ThreadPoolQueue::takeEnded() {
+    return std::exchange(fEnded, {});
 }
 
 } // namespace kelvo

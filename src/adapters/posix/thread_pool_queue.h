@@ -1,38 +1,52 @@
-// ThreadPoolQueue: the background queue, with a thread for each blocked item.
+// ThreadPoolQueue: the background queue on threads of its own.
 #pragma once
 
 #include "ports/dispatch_queue.h"
 
 #include <condition_variable>
+#include <cstddef>
 #include <deque>
+#include <list>
 #include <mutex>
 #include <thread>
-#include <vector>
 
 namespace kelvo {
 
-/// Threads are made when work finds none free, up to 64, and kept; a free thread waits without
-/// waking.
+/// Grows by a thread whenever work finds none free, up to 64; beyond that work waits for the first
+/// free one. A thread without work for about 10 s ends. Threads are named "kelvo-bg". They run at
+/// the usual priority: commands started from them would inherit a lower one.
 class ThreadPoolQueue final : public BackgroundQueue {
 public:
-    ThreadPoolQueue() = default;
+    static constexpr std::size_t cMostThreads = 64;
+    static constexpr std::chrono::milliseconds cIdle{10000};
+
+    explicit ThreadPoolQueue(std::chrono::milliseconds idle = cIdle) : fIdle(idle) {}
+
+    /// As `stopAndWait`.
     ~ThreadPoolQueue() override;
-    ThreadPoolQueue(const ThreadPoolQueue&) = delete;
-    ThreadPoolQueue& operator=(const ThreadPoolQueue&) = delete;
 
     void async(Work work) override;
 
-    /// Work that has begun runs to its end, work that waits or comes later is dropped. Blocks until
-    /// every thread has ended. Not from a background thread.
+    /// Drops the work that waits and all that is posted later, and returns once the work that runs
+    /// has returned. Any thread but the pool's own; calling it again does nothing.
     void stopAndWait();
 
-private:
-    void serve();
+    /// How many threads there are.
+    std::size_t threads() const;
 
-    std::mutex fMutex;
-    std::condition_variable fWake;
+private:
+    void work();
+    bool waitForWork(std::unique_lock<std::mutex>& lock);
+    void startThread();
+    /// The threads that have ended by themselves, for joining outside the lock.
+    std::list<std::thread> takeEnded();
+
+    const std::chrono::milliseconds fIdle;
+    mutable std::mutex fMutex;
+    std::condition_variable fPosted;
     std::deque<Work> fWaiting;
-    std::vector<std::thread> fThreads;
+    std::list<std::thread> fThreads;
+    std::list<std::thread> fEnded;
     std::size_t fFree = 0;
     bool fStopped = false;
 };

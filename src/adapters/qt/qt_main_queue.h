@@ -3,43 +3,55 @@
 
 #include "ports/dispatch_queue.h"
 
-#include <QObject>
-#include <QTimer>
-
 #include <chrono>
-#include <map>
+#include <cstdint>
+#include <memory>
 #include <mutex>
+#include <vector>
+
+class QSocketNotifier;
 
 namespace kelvo {
 
-/// Made and destroyed on the main thread. One precise timer stands for the nearest deadline; an
-/// idle queue has none. Work that opens a nested event loop does not hold the rest up: it is served
-/// from within that loop.
-class QtMainQueue final : public QObject, public DispatchQueue {
-    Q_OBJECT
+/// Made, stopped and destroyed on the main thread, whose event loop serves it; not destroyed from
+/// inside a work item. One kernel timer wakes the loop at the next deadline and for posts from
+/// other threads; nothing ticks while nothing waits. After about 8 ms of work the event loop gets a
+/// turn. The clock does not run while the machine sleeps. Work is destroyed on the main thread,
+/// dropped work where it is dropped.
+class QtMainQueue final : public DispatchQueue {
 public:
     QtMainQueue();
+
+    /// As `stop`.
     ~QtMainQueue() override;
 
-    void async(Work work) override { asyncAfter(0.0, std::move(work)); }
+    void async(Work work) override;
     void asyncAfter(double seconds, Work work) override;
 
-    /// Drops what waits and whatever is posted later. Main thread.
+    /// Drops what waits and everything posted later. Main thread.
     void stop();
 
 private:
     using Clock = std::chrono::steady_clock;
-    using Place = std::pair<Clock::time_point, std::uint64_t>;
+    struct Item {
+        Clock::time_point deadline;
+        std::uint64_t posted;
+        Work work;
+    };
+    static bool isLater(const Item& left, const Item& right);
 
-    void runDue();
-    void wakeForNext();
+    void drain();
+    Work takeDue();
+    void wakeAt(Clock::time_point moment);
 
+    const int fTimer;
+    std::unique_ptr<QSocketNotifier> fNotifier;
     std::mutex fMutex;
-    std::map<Place, Work> fWaiting;
+    std::vector<Item> fHeap;
     std::uint64_t fPosted = 0;
-    Clock::time_point fWakeAt = Clock::time_point::max(); // what the timer is set to
+    /// When the timer fires, or has fired and not been set since.
+    Clock::time_point fWakeUp = Clock::time_point::max();
     bool fStopped = false;
-    QTimer fTimer;
 };
 
 } // namespace kelvo

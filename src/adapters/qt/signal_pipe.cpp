@@ -1,91 +1,146 @@
 #include "adapters/qt/signal_pipe.h"
 
-#include "support/fatal.h"
+#include <QSocketNotifier>
 
 #include <fcntl.h>
+#include <signal.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <cerrno>
-#include <csignal>
+#include <map>
+#include <utility>
+#include <vector>
 
 namespace kelvo {
 namespace {
 
-std::atomic<int> gWriteEnd = -1; // all that a signal handler can reach
+constexpr int cLastSignal = 31;
 
-void passOn(int number) {
-    const int savedError = errno;
-    const auto byte = static_cast<unsigned char>(number);
-    [[maybe_unused]] const ssize_t written = ::write(gWriteEnd, &byte, 1);
-    errno = savedError;
+// A signal handler has no other way to find its pipe.
+std::atomic<int> gWriteEnd{-1}; // NOLINT
+
+bool isFault(int number, const siginfo_t& info) {
+    const bool raisedByProcessor = info.si_code > 0;
+    return raisedByProcessor &&
+           (number == SIGSEGV || number == SIGBUS || number == SIGILL || number == SIGFPE);
 }
+
+/// Does only what is safe inside a signal handler. After a fault the instruction runs again and
+/// meets the default action.
+void passOn(int number, siginfo_t* info, void*) {
+    const int before = errno;
+    if (isFault(number, *info)) {
+        (void)::signal(number, SIG_DFL);
+    } else {
+        const auto byte = static_cast<unsigned char>(number);
+        (void)!::write(gWriteEnd.load(), &byte, 1);
+    }
+    errno = before;
+}
+
+struct Catcher {
+    int number;
+    std::function<void()> call;
+    bool ended = false;
+};
 
 } // namespace
 
-struct SignalPipe::Handlers {
-    struct Entry {
-        std::function<void()> call;
-        struct sigaction before;
-    };
-    std::map<int, std::shared_ptr<Entry>> byNumber;
-
-    void release(int number, const std::shared_ptr<Entry>& entry) {
-        const auto found = byNumber.find(number);
-        if (found == byNumber.end() || found->second != entry)
+class SignalPipe::State {
+public:
+    State() {
+        if (::pipe2(fEnds.data(), O_CLOEXEC | O_NONBLOCK) != 0)
             return;
-        ::sigaction(number, &entry->before, nullptr);
-        byNumber.erase(found);
+        int none = -1;
+        fActive = gWriteEnd.compare_exchange_strong(none, fEnds[1]);
+        fNotifier = std::make_unique<QSocketNotifier>(fEnds[0], QSocketNotifier::Read);
+        QObject::connect(fNotifier.get(), &QSocketNotifier::activated, fNotifier.get(),
+                         [this] { read(); });
     }
+
+    ~State() {
+        for (const auto& [number, action] : fEarlier)
+            ::sigaction(number, &action, nullptr);
+        if (fActive)
+            gWriteEnd = -1;
+        fNotifier.reset();
+        for (const int end : fEnds) {
+            if (end >= 0)
+                ::close(end);
+        }
+    }
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+
+    bool add(const std::shared_ptr<Catcher>& catcher) {
+        if (!fActive || (!fEarlier.contains(catcher->number) && !takeOver(catcher->number)))
+            return false;
+        fCatchers.push_back(catcher);
+        return true;
+    }
+
+    void remove(const std::shared_ptr<Catcher>& catcher) {
+        std::erase(fCatchers, catcher);
+        if (std::ranges::any_of(
+                fCatchers, [&](const auto& other) { return other->number == catcher->number; }))
+            return;
+        if (const auto earlier = fEarlier.extract(catcher->number))
+            ::sigaction(catcher->number, &earlier.mapped(), nullptr);
+    }
+
+private:
+    bool takeOver(int number) {
+        if (number < 1 || number > cLastSignal)
+            return false;
+        struct sigaction action {};
+        action.sa_sigaction = passOn;
+        action.sa_flags = SA_SIGINFO | SA_RESTART;
+        ::sigfillset(&action.sa_mask);
+        struct sigaction earlier {};
+        if (::sigaction(number, &action, &earlier) != 0)
+            return false;
+        fEarlier.emplace(number, earlier);
+        return true;
+    }
+
+    void read() {
+        std::array<unsigned char, 64> numbers{};
+        const ssize_t size = ::read(fEnds[0], numbers.data(), numbers.size());
+        for (ssize_t i = 0; i < size; ++i)
+            tell(numbers[static_cast<std::size_t>(i)]);
+    }
+
+    void tell(int number) {
+        const auto told = fCatchers;
+        for (const auto& catcher : told) {
+            if (catcher->number == number && !catcher->ended)
+                catcher->call();
+        }
+    }
+
+    std::array<int, 2> fEnds{-1, -1};
+    bool fActive = false;
+    std::unique_ptr<QSocketNotifier> fNotifier;
+    std::vector<std::shared_ptr<Catcher>> fCatchers;
+    std::map<int, struct sigaction> fEarlier;
 };
 
-SignalPipe::SignalPipe() : fHandlers(std::make_shared<Handlers>()) {
-    auto pipe = makePipe();
-    if (!pipe)
-        stopProgram("There is no descriptor left for signals.");
-    fPipe = std::move(*pipe);
-    for (const int fd : {fPipe.readEnd.get(), fPipe.writeEnd.get()})
-        ::fcntl(fd, F_SETFL, O_NONBLOCK);
-    gWriteEnd = fPipe.writeEnd.get();
-    fNotifier = std::make_unique<QSocketNotifier>(fPipe.readEnd.get(), QSocketNotifier::Read);
-    QObject::connect(fNotifier.get(), &QSocketNotifier::activated, fNotifier.get(),
-                     [this] { deliver(); });
-}
+SignalPipe::SignalPipe() : fState(std::make_shared<State>()) {}
 
-SignalPipe::~SignalPipe() {
-    for (const auto& [number, entry] : fHandlers->byNumber)
-        ::sigaction(number, &entry->before, nullptr);
-    fHandlers->byNumber.clear();
-    gWriteEnd = -1;
-}
+SignalPipe::~SignalPipe() = default;
 
 Subscription SignalPipe::catchSignal(int number, std::function<void()> handler) {
-    if (!handler || fHandlers->byNumber.contains(number))
+    const auto catcher = std::make_shared<Catcher>(Catcher{number, std::move(handler)});
+    if (!fState->add(catcher))
         return {};
-    auto entry = std::make_shared<Handlers::Entry>();
-    entry->call = std::move(handler);
-    struct sigaction action {};
-    action.sa_handler = &passOn;
-    action.sa_flags = SA_RESTART;
-    ::sigemptyset(&action.sa_mask);
-    if (::sigaction(number, &action, &entry->before) != 0)
-        return {};
-    fHandlers->byNumber.emplace(number, entry);
-    return Subscription([weak = std::weak_ptr(fHandlers), number, entry] {
-        if (const auto handlers = weak.lock())
-            handlers->release(number, entry);
+    return Subscription([state = std::weak_ptr(fState), catcher] {
+        catcher->ended = true;
+        if (const auto alive = state.lock())
+            alive->remove(catcher);
     });
-}
-
-void SignalPipe::deliver() {
-    unsigned char number = 0;
-    while (::read(fPipe.readEnd.get(), &number, 1) == 1) {
-        const auto found = fHandlers->byNumber.find(number);
-        if (found == fHandlers->byNumber.end())
-            continue;
-        const auto entry = found->second; // the handler may end its own subscription
-        entry->call();
-    }
 }
 
 } // namespace kelvo

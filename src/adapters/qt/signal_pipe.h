@@ -1,35 +1,25 @@
-// SignalPipe: signals of the system, carried to Qt's event loop through a pipe.
+// SignalPipe: signals travel through a pipe to the main thread's event loop.
 #pragma once
 
-#include "adapters/posix/file_descriptor.h"
 #include "ports/signals.h"
 
-#include <QSocketNotifier>
-
-#include <map>
 #include <memory>
 
 namespace kelvo {
 
-/// At most one object at a time: the system calls a handler without saying for whom. A caught
-/// signal keeps interrupting nothing else (SA_RESTART), and commands start with its default action.
+/// One at a time in a process: a second one catches nothing. Interrupted system calls go on.
+/// Signals that arrive faster than the loop takes them (65,536 waiting) are lost. Its end
+/// restores every disposition; subscriptions may outlive it. Not destroyed from inside a handler.
 class SignalPipe final : public Signals {
 public:
     SignalPipe();
     ~SignalPipe() override;
-    SignalPipe(const SignalPipe&) = delete;
-    SignalPipe& operator=(const SignalPipe&) = delete;
 
     Subscription catchSignal(int number, std::function<void()> handler) override;
 
 private:
-    struct Handlers;
-
-    void deliver();
-
-    Pipe fPipe;
-    std::shared_ptr<Handlers> fHandlers; // subscriptions may outlive this
-    std::unique_ptr<QSocketNotifier> fNotifier;
+    class State;
+    std::shared_ptr<State> fState;
 };
 
 } // namespace kelvo
