@@ -26,7 +26,7 @@ const std::map<std::string, Names> cArrows{
     {"discovery", {"ports", "support"}},
     {"ui", {"sync", "remote", "discovery", "ports", "support"}},
     {"ui/widgets", {"ui", "ports", "support"}},
-    {"adapters/qt", {"ports", "support"}},
+    {"adapters/qt", {"adapters/posix", "ports", "support"}},
     {"adapters/posix", {"ports", "support"}},
     {"adapters/avahi", {"ports", "support"}},
     {"adapters/headless", {"ports", "support"}},

@@ -1,6 +1,6 @@
 #include "adapters/posix/posix_shell_runner.h"
 
-#include "adapters/posix/process_sessions.h"
+#include "adapters/posix/command_processes.h"
 #include "adapters/posix/shell_child.h"
 #include "adapters/posix/utf8_collector.h"
 #include "ports/console.h"
@@ -181,8 +181,9 @@ void PosixShellRunner::endAll() {
         fEnding = true;
         sessions = fSessions;
     }
-    if (!endSessions(sessions, SIGTERM, cAskPatience))
-        (void)endSessions(sessions, SIGKILL, cForcePatience);
+    const CommandProcesses commands{sessions, commandMark(::getpid())};
+    if (!endProcesses(commands, SIGTERM, cAskPatience))
+        (void)endProcesses(commands, SIGKILL, cForcePatience);
 
     const std::uint64_t one = 1;
     (void)!::write(fGiveUp.get(), &one, sizeof one);

@@ -30,11 +30,11 @@ public:
     /// is said too.
     QString outputWhenRunAsShellCommand(const QString& command) override;
 
-    /// For an orderly quit: from now on every command returns the empty text at once. Those that
-    /// run are asked to end with all processes of their sessions, 2 s later forced; their callers
-    /// get what was captured so far, even if a process that left the session still holds the
-    /// output. Returns when all callers are on their way, about 3 s later at worst. Any thread but
-    /// one that runs a command; calling it again does nothing.
+    /// For an orderly quit: from now on every command returns the empty text at once. Whatever any
+    /// command has started and is still there, in its session or in another, is asked to end, 2 s
+    /// later forced; callers get what was captured so far, even if somebody still holds the output.
+    /// Returns when all callers are on their way, about 3 s later at worst. Any thread but one that
+    /// runs a command; calling it again does nothing.
     void endAll();
 
 private:

@@ -1,5 +1,6 @@
 #include "adapters/posix/shell_child.h"
 
+#include "adapters/posix/command_processes.h"
 #include "adapters/posix/pidfd.h"
 
 #include <fcntl.h>
@@ -99,6 +100,7 @@ std::vector<std::string> environmentWithoutPrompts() {
             kept.emplace_back(text);
     }
     kept.emplace_back("SSH_ASKPASS_REQUIRE=never");
+    kept.push_back(commandMark(::getpid()));
     return kept;
 }
 

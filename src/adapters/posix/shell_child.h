@@ -22,7 +22,7 @@ struct ShellChild {
 
 /// The environment for a command: our own as it is now, without the programs that could ask the
 /// user for a password on the screen; ssh is told never to look for one. The variables of the
-/// display stay.
+/// display stay. The mark of our commands is added.
 std::vector<std::string> environmentWithoutPrompts();
 
 /// Starts `/bin/sh -c command` in a session of its own, with the default action for every signal,

@@ -27,6 +27,9 @@ public:
     int get() const { return fFd; }
     explicit operator bool() const { return fFd >= 0; }
 
+    /// The descriptor, from now on the caller's to close.
+    int release() { return std::exchange(fFd, -1); }
+
     void reset() {
         if (fFd >= 0)
             ::close(std::exchange(fFd, -1));

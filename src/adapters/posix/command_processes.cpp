@@ -1,4 +1,4 @@
-#include "adapters/posix/process_sessions.h"
+#include "adapters/posix/command_processes.h"
 
 #include "adapters/posix/pidfd.h"
 
@@ -40,17 +40,36 @@ pid_t livingSession(pid_t pid) {
     return state == 'Z' || state == 'X' ? -1 : session;
 }
 
+/// Whether `mark` is one of the variables the process was started with. One of another user, or one
+/// that has ended, shows none.
+bool carries(pid_t pid, const std::string& mark) {
+    const UniqueFd file(
+        ::open(("/proc/" + std::to_string(pid) + "/environ").c_str(), O_RDONLY | O_CLOEXEC));
+    std::string variables(1, '\0'); // each is preceded and followed by a NUL
+    std::array<char, 16384> room;   // NOLINT: filled by read
+    for (ssize_t size = 0; file && (size = ::read(file.get(), room.data(), room.size())) > 0;)
+        variables.append(room.data(), static_cast<std::size_t>(size));
+    const std::string wanted = '\0' + mark + '\0';
+    return variables.find(wanted) != std::string::npos;
+}
+
+bool belongs(pid_t pid, const CommandProcesses& commands) {
+    const pid_t session = livingSession(pid);
+    return session >= 0 &&
+           (std::ranges::count(commands.sessions, session) > 0 || carries(pid, commands.mark));
+}
+
 struct Member {
     pid_t pid;
     UniqueFd handle;
 };
 
 /// Each member with a handle that stays with it even when its number is given away.
-std::vector<Member> heldMembers(std::span<const pid_t> sessions) {
+std::vector<Member> heldMembers(const CommandProcesses& commands) {
     std::vector<Member> held;
-    for (const pid_t pid : processesOfSessions(sessions)) {
+    for (const pid_t pid : livingProcesses(commands)) {
         UniqueFd handle = openProcess(pid);
-        if (handle && std::ranges::count(sessions, livingSession(pid)) > 0)
+        if (handle && belongs(pid, commands))
             held.push_back({pid, std::move(handle)});
     }
     return held;
@@ -66,10 +85,13 @@ void waitForAnEnd(const std::vector<Member>& members, std::chrono::milliseconds 
 
 } // namespace
 
-std::vector<pid_t> processesOfSessions(std::span<const pid_t> sessions) {
+std::string commandMark(pid_t program) {
+    return "KELVO_MIRROR_PID=" + std::to_string(program);
+}
+
+std::vector<pid_t> livingProcesses(const CommandProcesses& commands) {
     std::vector<pid_t> found;
-    if (sessions.empty())
-        return found;
+    const pid_t self = ::getpid();
     const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir("/proc"), ::closedir);
     while (folder != nullptr) {
         const dirent* const entry = ::readdir(folder.get());
@@ -78,18 +100,18 @@ std::vector<pid_t> processesOfSessions(std::span<const pid_t> sessions) {
         pid_t pid = 0;
         const char* const end = entry->d_name + std::strlen(entry->d_name);
         const auto [stop, error] = std::from_chars(entry->d_name, end, pid);
-        if (error == std::errc() && stop == end &&
-            std::ranges::count(sessions, livingSession(pid)) > 0)
+        if (error == std::errc() && stop == end && pid != self && belongs(pid, commands))
             found.push_back(pid);
     }
     return found;
 }
 
-bool endSessions(std::span<const pid_t> sessions, int signal, std::chrono::milliseconds patience) {
+bool endProcesses(const CommandProcesses& commands, int signal,
+                  std::chrono::milliseconds patience) {
     const auto deadline = Clock::now() + patience;
     std::set<pid_t> told;
     for (;;) {
-        const std::vector<Member> members = heldMembers(sessions);
+        const std::vector<Member> members = heldMembers(commands);
         if (members.empty())
             return true;
         for (const Member& member : members) {
