@@ -24,8 +24,8 @@ public:
     /// Whether the memory did not suffice; what came after that point was left out.
     bool overflowed() const { return fOverflowed; }
 
-    /// The whole text, once: every broken or unfinished sequence is U+FFFD, a zero byte is U+0000,
-    /// a byte order mark stays.
+    /// The whole text, once: each byte that belongs to no character is U+FFFD, a zero byte is
+    /// U+0000, a byte order mark stays.
     QString finish();
 
 private:
