@@ -18,8 +18,10 @@ public:
 
     /// Runs `work` on the main thread once `seconds` from now have passed; a delay of 0 or less
     /// is due now. Any thread; returns at once. Work runs strictly by deadline, equal deadlines
-    /// in the order of posting, never inside another work item. Costs O(log n) of what waits.
-    /// Work still waiting when the queue ends is dropped without being run.
+    /// in the order of posting, one item at a time. Only an item that runs an event loop of its own
+    /// (a modal dialog) has others run inside it, from that loop, in the same order. Costs O(log n)
+    /// of what waits. Work still waiting when the queue ends is dropped without being run. Empty
+    /// work is nothing. An exception must not leave `work`.
     virtual void asyncAfter(double seconds, Work work) = 0;
 };
 
@@ -29,7 +31,8 @@ public:
     virtual ~BackgroundQueue() = default;
 
     /// Starts `work` on a background thread, in the order of posting, without waiting for
-    /// earlier items to end. Any thread; returns at once. An exception must not leave `work`.
+    /// earlier items to end; the queue may hold it back while very many (64) are running. Any
+    /// thread; returns at once. Empty work is nothing. An exception must not leave `work`.
     virtual void async(Work work) = 0;
 };
 

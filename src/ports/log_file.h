@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace kelvo {
 
@@ -13,13 +14,18 @@ public:
     virtual QString defaultLogFileWithinSubdirectory(const QString& subdirectory) const = 0;
 
     /// Later lines go to `path`; its folder is made, private to the user. Returns false when the
-    /// file cannot be written: earlier lines are kept, later ones are dropped.
+    /// file cannot be written: earlier lines are kept, later ones are dropped while that is so.
     virtual bool setLogFile(const QString& path) = 0;
 
     /// Appends one line with the time before it. Any thread; calls do not mix. A line over 64 KiB
-    /// keeps its first and last 32 KiB and says how much was left out between. Without a file
-    /// nothing happens. A file over its size is rotated.
-    virtual void append(const QString& line) = 0;
+    /// (as UTF-8) keeps its first and last 32 KiB and says how much was left out between. A line
+    /// end inside it is followed by four blanks and a bar, so that no text can pass for a line of
+    /// its own, and control characters are spelled out ("\x1b"). Without a file nothing happens. A
+    /// file over its size is rotated. A failed write drops the line; later lines try again.
+    void append(const QString& line) { append(QStringList{line}); }
+
+    /// The same for a line in pieces, which are not joined in memory.
+    virtual void append(const QStringList& pieces) = 0;
 };
 
 } // namespace kelvo

@@ -25,7 +25,8 @@ public:
     virtual void post(const QString& name, const QVariantMap& userInfo = {}) = 0;
 
     /// `handler` is called for each later post of `name`. It may post, and end subscriptions, its
-    /// own too. Once the subscription is gone no new call begins.
+    /// own too; an observer added meanwhile hears from the next post on. Once the subscription is
+    /// gone no new call begins; one that another thread has begun is not waited for.
     virtual Subscription observe(const QString& name, NotificationHandler handler) = 0;
 };
 

@@ -29,9 +29,10 @@ public:
     /// The user's value, else the registered default, else an invalid variant.
     virtual QVariant object(QStringView key) const = 0;
 
-    /// Stores a user value; one that no stored form fits counts as removed. Observers of the key are told on this thread before the call returns,
-    /// for an equal value too. The value reaches the disk later; no failure there is reported
-    /// back, the value holds for the life of the process.
+    /// Stores a user value; one that no stored form fits counts as removed. Observers of the key
+    /// are told on this thread before the call returns, for an equal value too. The value reaches
+    /// the disk later; no failure there is reported back, the value holds for the life of the
+    /// process.
     virtual void setObject(QStringView key, const QVariant& value) = 0;
 
     /// Drops the user value; a registered default shows through again. Observers are told as above.

@@ -1,21 +1,37 @@
 add_executable(settings_writer children/settings_writer.cpp)
 target_link_libraries(settings_writer PRIVATE kelvo_testing kelvo_adapters_qt)
+add_executable(zoo children/zoo.cpp)
 
 kelvo_tests(contract
   TIMEOUT 120
   SOURCES
+    contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
+    contract/console_contract_test.cpp
+    contract/dispatch_queue_contract_test.cpp
     contract/factory_template_test.cpp
+    contract/line_backlog_test.cpp
     contract/local_file_manager_test.cpp
+    contract/log_file_contract_test.cpp
+    contract/notification_center_contract_test.cpp
     contract/plist_codec_test.cpp
     contract/plist_defaults_faults_test.cpp
     contract/plist_defaults_sharing_test.cpp
     contract/plist_defaults_test.cpp
+    contract/posix_shell_runner_test.cpp
+    contract/qt_main_queue_test.cpp
+    contract/rotating_log_file_test.cpp
+    contract/shell_runner_contract_test.cpp
+    contract/signal_pipe_test.cpp
+    contract/stream_console_test.cpp
+    contract/thread_pool_queue_test.cpp
     contract/user_defaults_contract_test.cpp
+    contract/utf8_collector_test.cpp
   LINKS kelvo_adapters_qt kelvo_adapters_posix
 )
-add_dependencies(contract_tests settings_writer)
+add_dependencies(contract_tests settings_writer zoo)
 target_compile_definitions(contract_tests PRIVATE
   KELVO_RESOURCES="${CMAKE_BINARY_DIR}/lib/kelvo-mirror"
   KELVO_VERSION="${PROJECT_VERSION}"
-  KELVO_SETTINGS_WRITER="$<TARGET_FILE:settings_writer>")
+  KELVO_SETTINGS_WRITER="$<TARGET_FILE:settings_writer>"
+  KELVO_ZOO="$<TARGET_FILE:zoo>")

@@ -13,6 +13,8 @@ std::int64_t nanoseconds(double seconds) {
 } // namespace
 
 void VirtualMainQueue::asyncAfter(double seconds, Work work) {
+    if (!work)
+        return;
     const std::lock_guard lock(fMutex);
     fWaiting.emplace(std::pair(fNow + nanoseconds(seconds), fPosted++), std::move(work));
 }
@@ -30,6 +32,7 @@ void VirtualMainQueue::advance(double seconds) {
         fNow = std::max(fNow, next.key().first);
         lock.unlock();
         next.mapped()();
+        next = {};
         lock.lock();
     }
     fNow = end;

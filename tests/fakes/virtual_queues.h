@@ -43,7 +43,10 @@ private:
 /// A background queue that keeps its work until told to run it, on the calling thread.
 class ManualBackgroundQueue final : public BackgroundQueue {
 public:
-    void async(Work work) override { fWaiting.push_back(std::move(work)); }
+    void async(Work work) override {
+        if (work)
+            fWaiting.push_back(std::move(work));
+    }
 
     std::size_t size() const { return fWaiting.size(); }
 

@@ -2,6 +2,7 @@ kelvo_tests(unit
   SOURCES
     unit/headless_front_test.cpp
     unit/preferences_test.cpp
+    unit/plain_line_test.cpp
     unit/property_value_test.cpp
     unit/remote_host_validation_test.cpp
     unit/repeat_timer_test.cpp

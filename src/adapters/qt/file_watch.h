@@ -1,7 +1,7 @@
 // FileWatch: sleeps until one file of a folder has changed, or until somebody wakes it.
 #pragma once
 
-#include "adapters/qt/descriptor.h"
+#include "adapters/posix/unique_fd.h"
 
 #include <chrono>
 #include <optional>
@@ -32,8 +32,8 @@ private:
 
     std::string fFolder;
     std::string fName;
-    Descriptor fWake;
-    Descriptor fEvents;
+    UniqueFd fWake;
+    UniqueFd fEvents;
     int fWatched = -1;
 };
 

@@ -97,7 +97,7 @@ PlistFile::PlistFile(const QString& path) : fPath(path) {
 PlistFile::Contents PlistFile::read() const {
     using enum Contents::State;
     // Not to be held up by a pipe that somebody put there.
-    const Descriptor file(::open(nativePath().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const UniqueFd file(::open(nativePath().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file) {
         const bool missing = errno == ENOENT || errno == ENOTDIR;
         return missing ? Contents{} : Contents{Refused, {}, reason(errno)};
@@ -146,7 +146,7 @@ QString PlistFile::replace(const QByteArray& bytes) {
 }
 
 QString PlistFile::writeNew(const std::string& newPath, const QByteArray& bytes) const {
-    Descriptor file(::open(newPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    UniqueFd file(::open(newPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!file)
         return reason(errno);
     int error = writeAll(file.get(), bytes);
@@ -162,7 +162,7 @@ QString PlistFile::writeNew(const std::string& newPath, const QByteArray& bytes)
 }
 
 QString PlistFile::syncFolder() const {
-    const Descriptor folder(::open(fFolder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const UniqueFd folder(::open(fFolder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!folder)
         return reason(errno);
     // A file system that cannot sync folders says EINVAL; the file is in its place all the same.

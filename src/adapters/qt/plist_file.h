@@ -1,7 +1,7 @@
 // PlistFile: the settings file as bytes: read whole, replaced whole, moved aside, locked.
 #pragma once
 
-#include "adapters/qt/descriptor.h"
+#include "adapters/posix/unique_fd.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -14,7 +14,7 @@
 namespace kelvo {
 
 /// A lock between programs, held while this object lives; made by PlistFile::lock.
-using FileLock = Descriptor;
+using FileLock = UniqueFd;
 
 /// All operations block on the disk; one thread at a time. A failure is a text that ends a
 /// sentence; the empty text means success.

@@ -1,0 +1,175 @@
+// A flood of output: how fast it is captured, in how much memory, and what the main queue feels.
+#include "adapters/posix/posix_shell_runner.h"
+#include "adapters/posix/rotating_log_file.h"
+#include "adapters/posix/stream_console.h"
+#include "adapters/posix/thread_pool_queue.h"
+#include "adapters/qt/qt_main_queue.h"
+#include "bench/row.h"
+#include "fakes/recording_console.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <memory>
+
+namespace kelvo::bench {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr qsizetype cFlood = 256 * 1024 * 1024;
+constexpr int cRounds = 7;
+
+double secondsSince(Clock::time_point begin) {
+    return std::chrono::duration<double>(Clock::now() - begin).count();
+}
+
+/// A file of cFlood bytes in lines as rsync writes them, and the command that prints it.
+class Flood {
+public:
+    Flood() {
+        QFile file(fFolder.filePath(QStringLiteral("flood")));
+        if (!file.open(QIODevice::WriteOnly))
+            return;
+        QByteArray block;
+        for (int line = 0; block.size() < 1024 * 1024; ++line)
+            block += "Movies/some folder/clip number " + QByteArray::number(line) + ".mov\n";
+        block.resize(1024 * 1024);
+        for (qsizetype written = 0; written < cFlood; written += block.size())
+            file.write(block);
+        fCommand = QStringLiteral("cat '%1'").arg(file.fileName());
+    }
+    const QString& command() const { return fCommand; }
+
+private:
+    const QTemporaryDir fFolder;
+    QString fCommand;
+};
+
+double captureSeconds(const QString& command) {
+    RecordingConsole console;
+    PosixShellRunner runner(console);
+    const auto begin = Clock::now();
+    const QString output = runner.outputWhenRunAsShellCommand(command);
+    const double seconds = secondsSince(begin);
+    return output.size() == cFlood ? seconds : -1;
+}
+
+/// What anybody would write: popen, and read until the end.
+double plainLoopSeconds(const QString& command) {
+    const auto begin = Clock::now();
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> pipe(
+        ::popen(command.toLocal8Bit().constData(), "r"), &::pclose);
+    std::string output;
+    std::array<char, 64 * 1024> buffer{};
+    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe.get()))
+        output.append(buffer.data(), count);
+    const double seconds = secondsSince(begin);
+    return output.size() == static_cast<std::size_t>(cFlood) ? seconds : -1;
+}
+
+/// The largest resident size, in bytes, of a process that captures once; -1 when it failed.
+double capturePeak(const QString& command) {
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(captureSeconds(command) > 0 ? 0 : 1);
+    int status = 0;
+    rusage usage{};
+    if (::wait4(child, &status, 0, &usage) != child || status != 0)
+        return -1;
+    return static_cast<double>(usage.ru_maxrss) * 1024;
+}
+
+std::optional<std::vector<Figure>> measureCapture() {
+    const Flood flood;
+    const double peak = capturePeak(flood.command());
+    plainLoopSeconds(flood.command()); // brings the file into memory
+    std::vector<double> ours;
+    std::vector<double> theirs;
+    for (int round = 0; round < cRounds; ++round) {
+        ours.push_back(captureSeconds(flood.command()));
+        theirs.push_back(plainLoopSeconds(flood.command()));
+        if (peak < 0 || ours.back() < 0 || theirs.back() < 0) {
+            std::fputs("The flood was not captured whole.\n", stderr);
+            return std::nullopt;
+        }
+    }
+    const double oursMedian = median(ours);
+    const double theirsMedian = median(theirs);
+    return std::vector<Figure>{
+        {"capture of 256 MiB / the same read by a plain popen loop", oursMedian / theirsMedian,
+         1.25, "x", sideBySide(oursMedian, theirsMedian)},
+        {"peak memory of the capturing process / the output", peak / double(cFlood), 3.0, "x",
+         std::to_string(static_cast<int>(peak / 1024 / 1024)) + " / 256 MiB"}};
+}
+
+/// Keeps asking the main queue for its next turn and notes the longest it was kept waiting.
+class Heartbeat {
+public:
+    explicit Heartbeat(DispatchQueue& queue) : fQueue(queue) { beat(); }
+    double longest() const { return fLongest; }
+
+private:
+    void beat() {
+        const auto due = Clock::now() + std::chrono::milliseconds(1);
+        fQueue.asyncAfter(0.001, [this, due] {
+            fLongest = std::max(fLongest, secondsSince(due));
+            beat();
+        });
+    }
+
+    DispatchQueue& fQueue;
+    double fLongest = 0;
+};
+
+std::optional<std::vector<Figure>> measureStall() {
+    const Flood flood;
+    const QTemporaryDir folder;
+    RotatingLogFile logFile;
+    logFile.setLogFile(folder.filePath(QStringLiteral("log")));
+    const int sink = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    StreamConsole console(sink, sink, logFile);
+    QtMainQueue mainQueue;
+    PosixShellRunner runner(console);
+    ThreadPoolQueue bgQueue;
+    Heartbeat heartbeat(mainQueue);
+    qsizetype captured = 0;
+    bgQueue.async([&] {
+        const QString output = runner.outputWhenRunAsShellCommand(flood.command());
+        captured = output.size();
+        console.print({QStringLiteral("result from shell command =\n"), output,
+                       QStringLiteral("\n======== done ========")});
+        console.flush(std::chrono::seconds(60));
+        mainQueue.asyncAfter(0.05, [] { QCoreApplication::exit(); });
+    });
+    QCoreApplication::exec();
+    bgQueue.stopAndWait();
+    mainQueue.stop();
+    ::close(sink);
+    if (captured != cFlood)
+        return std::nullopt;
+    return std::vector<Figure>{
+        {"longest stall of the main queue while 256 MiB are captured and logged",
+         heartbeat.longest() * 1e3, 50.0, "ms", ""}};
+}
+
+} // namespace
+
+Row captureRow() {
+    return {"capture", measureCapture};
+}
+
+Row stallRow() {
+    return {"stall", measureStall};
+}
+
+} // namespace kelvo::bench

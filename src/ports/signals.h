@@ -1,0 +1,24 @@
+// Signals: the system's signals as calls on the main thread.
+#pragma once
+
+#include "support/subscription.h"
+
+#include <functional>
+
+namespace kelvo {
+
+class Signals {
+public:
+    virtual ~Signals() = default;
+
+    /// From now on signal `number` (1 to 31) does not take its default course; `handler` is called
+    /// on the main thread, from its event loop, for each that arrives, in the order of arrival.
+    /// Several handlers of one number are all called, in the order of registration. Once the
+    /// subscription is gone no call follows; with the last one of a number its earlier disposition
+    /// comes back. A handler may end subscriptions, its own too. A number that cannot be caught
+    /// (SIGKILL, SIGSTOP, out of range) gives a subscription to nothing. A fault of the program
+    /// itself (SIGSEGV, SIGBUS, SIGILL, SIGFPE raised by the processor) still ends it. Main thread.
+    virtual Subscription catchSignal(int number, std::function<void()> handler) = 0;
+};
+
+} // namespace kelvo

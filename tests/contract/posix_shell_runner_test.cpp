@@ -1,0 +1,328 @@
+#include "adapters/posix/posix_shell_runner.h"
+#include "adapters/posix/unique_fd.h"
+#include "fakes/recording_console.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <future>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool cSanitized = true;
+#else
+constexpr bool cSanitized = false;
+#endif
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+
+QString zoo(const QString& animal) {
+    return QStringLiteral("'" KELVO_ZOO "' ") + animal;
+}
+
+class PosixShellRunnerTest : public testing::Test {
+protected:
+    QString run(const QString& command) { return fRunner.outputWhenRunAsShellCommand(command); }
+
+    std::future<QString> start(const QString& command) {
+        return std::async(std::launch::async, [this, command] { return run(command); });
+    }
+
+    RecordingConsole fConsole;
+    PosixShellRunner fRunner{fConsole};
+};
+
+/// A fifo in the private temporary folder: a child opens it for writing to say that it is there.
+class Meeting {
+public:
+    Meeting() { ::mkfifo(fPath.c_str(), 0600); }
+    ~Meeting() { ::unlink(fPath.c_str()); }
+    Meeting(const Meeting&) = delete;
+    Meeting& operator=(const Meeting&) = delete;
+
+    /// A shell command that says it, and goes on.
+    QString announce() const {
+        return QStringLiteral("echo here >'") + QString::fromStdString(fPath) +
+               QStringLiteral("'; ");
+    }
+
+    /// Returns once a child has said it.
+    void wait() const {
+        const UniqueFd fd(::open(fPath.c_str(), O_RDONLY));
+        std::array<char, 16> bytes{};
+        EXPECT_GT(::read(fd.get(), bytes.data(), bytes.size()), 0);
+    }
+
+private:
+    const std::string fPath = std::string(::getenv("TMPDIR")) + "/meeting"; // NOLINT
+};
+
+bool isGone(pid_t pid) {
+    for (int tries = 0; tries < 500; ++tries) {
+        QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
+        if (!status.open(QIODevice::ReadOnly) || status.readAll().contains(") Z "))
+            return true;
+        std::this_thread::sleep_for(10ms);
+    }
+    return false;
+}
+
+pid_t numberAfter(const QString& text, const QString& word) {
+    const auto from = text.indexOf(word);
+    return from < 0 ? -1 : text.mid(from + word.size()).section(u'\n', 0, 0).toInt();
+}
+
+TEST_F(PosixShellRunnerTest, SilentCommand_GivesTheEmptyText) {
+    EXPECT_EQ(run(zoo(QStringLiteral("silent"))), QString());
+    EXPECT_TRUE(fConsole.lines().empty());
+}
+
+TEST_F(PosixShellRunnerTest, ExitStatus_IsNotReported) {
+    EXPECT_EQ(run(zoo(QStringLiteral("exit 13"))), u"leaving\n");
+}
+
+TEST_F(PosixShellRunnerTest, EndedBySignal_KeepsWhatWasPrinted) {
+    EXPECT_EQ(run(QStringLiteral("echo so far; kill -9 $$")), u"so far\n");
+}
+
+TEST_F(PosixShellRunnerTest, GrandchildHoldingTheOutput_IsWaitedFor) {
+    const QString text = run(zoo(QStringLiteral("grandchild 200")));
+    EXPECT_TRUE(text.startsWith(u"child\n")) << text.toStdString();
+    EXPECT_TRUE(text.endsWith(u"grandchild\n")) << text.toStdString();
+}
+
+TEST_F(PosixShellRunnerTest, OutputClosedEarly_StillWaitsForTheEnd) {
+    const QString file = qEnvironmentVariable("TMPDIR") + u"/late";
+    EXPECT_EQ(run(u"echo x; exec >&-; sleep 0.3; echo done >'" + file + u"'"), u"x\n");
+    EXPECT_TRUE(QFile::exists(file));
+}
+
+TEST_F(PosixShellRunnerTest, BackgroundProcessHoldingOnlyTheErrors_IsNotWaitedFor) {
+    const QString text = run(QStringLiteral("sleep 60 >/dev/null & echo $!"));
+    EXPECT_EQ(::kill(text.trimmed().toInt(), SIGKILL), 0) << "it must still be running";
+}
+
+TEST_F(PosixShellRunnerTest, BrokenUtf8_BecomesReplacementCharactersAndIsNeverDropped) {
+    const QString text = run(zoo(QStringLiteral("broken")));
+    EXPECT_EQ(text, u"a\ufffdb\ufffd(c\ufffd\ufffdd\ufffd\ufffd\ufffde\U0001f3ac\ufffd\ufffd");
+}
+
+TEST_F(PosixShellRunnerTest, ZeroBytesAndByteOrderMark_AreKept) {
+    EXPECT_EQ(run(QStringLiteral("printf '\\357\\273\\277a\\000b'")),
+              QStringView(u"\ufeffa\0b", 4));
+}
+
+TEST_F(PosixShellRunnerTest, StandardInput_IsEmpty) {
+    EXPECT_EQ(run(zoo(QStringLiteral("read-input"))), u"nothing to read");
+}
+
+TEST_F(PosixShellRunnerTest, Terminal_CannotBeOpened) {
+    EXPECT_EQ(run(zoo(QStringLiteral("read-terminal"))), u"no terminal");
+}
+
+TEST_F(PosixShellRunnerTest, Child_LeadsItsSessionWithDefaultSignalsAndNothingOfOurs) {
+    const UniqueFd leaky(::open("/dev/null", O_RDONLY)); // Without close-on-exec, on purpose.
+    sigset_t blocked;
+    sigset_t before;
+    ::sigemptyset(&blocked);
+    ::sigaddset(&blocked, SIGUSR1);
+    ::pthread_sigmask(SIG_BLOCK, &blocked, &before);
+    const auto earlier = ::signal(SIGHUP, SIG_IGN);
+    const QString text = run(zoo(QStringLiteral("report; true")));
+    (void)::signal(SIGHUP, earlier);
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+
+    EXPECT_TRUE(text.contains(u"session shell\n")) << text.toStdString();
+    EXPECT_TRUE(text.contains(u"group shell\n")) << text.toStdString();
+    EXPECT_TRUE(text.contains(u"blockedSigBlk:\t0000000000000000\n")) << text.toStdString();
+    // The C library always hands on the two signals it keeps for itself, 32 and 33, as ignored.
+    const auto ignored =
+        text.section(QStringLiteral("SigIgn:\t"), 1).section(u'\n', 0, 0).toULongLong(nullptr, 16);
+    EXPECT_EQ(ignored & ~0x180000000ull, 0u) << text.toStdString();
+    EXPECT_TRUE(text.contains(u"ignoredSigIgn:\t")) << text.toStdString();
+    EXPECT_TRUE(text.contains(u"open 0 1 2\n")) << text.toStdString();
+}
+
+TEST_F(PosixShellRunnerTest, Environment_LeavesNothingThatPrompts) {
+    ::setenv("SSH_ASKPASS", "/bin/asks", 1);
+    ::setenv("GIT_ASKPASS", "/bin/asks", 1);
+    ::setenv("SSH_ASKPASS_REQUIRE", "force", 1);
+    ::setenv("DISPLAY", ":77", 1);
+    PosixShellRunner runner(fConsole);
+    EXPECT_EQ(runner.outputWhenRunAsShellCommand(
+                  QStringLiteral("echo $SSH_ASKPASS_REQUIRE [$SSH_ASKPASS$GIT_ASKPASS] $DISPLAY")),
+              u"never [] :77\n");
+    for (const char* name : {"SSH_ASKPASS", "GIT_ASKPASS", "SSH_ASKPASS_REQUIRE", "DISPLAY"})
+        ::unsetenv(name);
+}
+
+TEST_F(PosixShellRunnerTest, ErrorOutput_GoesToTheLogInOneLine) {
+    EXPECT_EQ(run(QStringLiteral("echo out; echo wrong >&2; echo worse >&2")), u"out\n");
+    EXPECT_EQ(fConsole.logged(),
+              QStringList{QStringLiteral("Error output of a shell command: wrong\nworse")});
+}
+
+TEST_F(PosixShellRunnerTest, FloodOfErrors_IsDrainedAndCutInTheLog) {
+    EXPECT_EQ(run(zoo(QStringLiteral("complain 1024"))), u"fine\n");
+    ASSERT_EQ(fConsole.logged().size(), 1);
+    const QString line = fConsole.logged().constFirst();
+    EXPECT_LT(line.size(), 65 * 1024 + 100);
+    EXPECT_TRUE(line.endsWith(u"(983040 more bytes left out)")) << line.right(60).toStdString();
+}
+
+TEST_F(PosixShellRunnerTest, CommandTooLongForTheSystem_GivesTheEmptyTextAndALine) {
+    EXPECT_EQ(run(u"echo " + QString(200 * 1024, u'x')), QString());
+    ASSERT_EQ(fConsole.logged().size(), 1);
+    EXPECT_TRUE(fConsole.logged().constFirst().startsWith(u"Cannot start a shell command: "));
+}
+
+TEST_F(PosixShellRunnerTest, CommandWithAZeroCharacter_IsNotStarted) {
+    EXPECT_EQ(run(QString::fromUtf16(u"echo a\0echo b", 13)), QString());
+    EXPECT_EQ(fConsole.logged().size(), 1);
+}
+
+TEST_F(PosixShellRunnerTest, NoDescriptorsLeft_GivesTheEmptyTextAndALine) {
+    rlimit before{};
+    ::getrlimit(RLIMIT_NOFILE, &before);
+    const UniqueFd highest(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    const rlimit few{static_cast<rlim_t>(highest.get()) + 1, before.rlim_max};
+    ::setrlimit(RLIMIT_NOFILE, &few);
+    const QString text = run(QStringLiteral("echo x"));
+    ::setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_EQ(text, QString());
+    EXPECT_EQ(fConsole.logged().size(), 1);
+    EXPECT_EQ(run(QStringLiteral("echo x")), u"x\n");
+}
+
+TEST_F(PosixShellRunnerTest, ManyRuns_LeaveNoDescriptorAndNoChildBehind) {
+    const auto open = [] { return QDir(QStringLiteral("/proc/self/fd")).entryList().size(); };
+    run(QStringLiteral("true"));
+    const auto before = open();
+    for (int i = 0; i < 20; ++i)
+        run(QStringLiteral("echo x; echo y >&2"));
+    EXPECT_EQ(open(), before);
+    EXPECT_EQ(::waitid(P_ALL, 0, nullptr, WEXITED | WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+}
+
+TEST_F(PosixShellRunnerTest, Flood_ArrivesWholeUnderThreeTimesItsBytes) {
+    constexpr qint64 cBytes = 64ll * 1024 * 1024;
+    rusage before{};
+    ::getrusage(RUSAGE_SELF, &before);
+    const QString text = run(zoo(QStringLiteral("flood 64")));
+    rusage after{};
+    ::getrusage(RUSAGE_SELF, &after);
+    ASSERT_EQ(text.size(), cBytes);
+    EXPECT_TRUE(text.endsWith(u"abcde\n0123456789abcde\n"));
+    EXPECT_EQ(text.count(QStringLiteral("0123456789abcde\n")), cBytes / 16);
+    if (cSanitized)
+        GTEST_SKIP() << "a sanitizer's own memory hides the peak; the text was checked";
+    EXPECT_LT((after.ru_maxrss - before.ru_maxrss) * 1024, 3 * cBytes);
+}
+
+TEST_F(PosixShellRunnerTest, OutOfMemory_CutsTheTextAndSaysSo) {
+    if (cSanitized)
+        GTEST_SKIP() << "sanitizers need more address space than this case leaves";
+    const auto starve = [] {
+        const rlimit little{400 * 1024 * 1024, 400 * 1024 * 1024};
+        ::setrlimit(RLIMIT_AS, &little);
+        RecordingConsole console;
+        PosixShellRunner runner(console);
+        const QString text = runner.outputWhenRunAsShellCommand(zoo(QStringLiteral("flood 300")));
+        const bool cut = text.startsWith(u"0123456789abcde\n") && text.size() < 300 * 1024 * 1024;
+        const bool said = console.logged().join(u'|').contains(u"Out of memory");
+        std::_Exit(cut && said ? 0 : 1);
+    };
+    EXPECT_EXIT(starve(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(PosixShellRunnerTest, EndAll_ReturnsWhatWasCapturedAndStartsNothingAfter) {
+    Meeting meeting;
+    auto text = start(u"echo so far; " + meeting.announce() + u"sleep 60; echo never");
+    meeting.wait();
+    fRunner.endAll();
+    EXPECT_EQ(text.get(), u"so far\n");
+    EXPECT_EQ(run(QStringLiteral("echo x")), QString());
+    EXPECT_TRUE(fConsole.lines().empty());
+}
+
+TEST_F(PosixShellRunnerTest, EndAll_ForcesWhatIgnoresTheRequest) {
+    Meeting meeting;
+    auto text = start(u"trap '' TERM; echo shell $$; " + meeting.announce() + u"exec " +
+                      zoo(QStringLiteral("stubborn")));
+    meeting.wait();
+    fRunner.endAll();
+    const pid_t stubborn = numberAfter(text.get(), QStringLiteral("shell "));
+    ASSERT_GT(stubborn, 0);
+    EXPECT_TRUE(isGone(stubborn));
+}
+
+TEST_F(PosixShellRunnerTest, EndAll_ReachesOtherGroupsOfTheSession) {
+    Meeting meeting;
+    auto text = start(u"set -m; sleep 60 >/dev/null 2>&1 & echo held by $!; " + meeting.announce() +
+                      u"wait");
+    meeting.wait();
+    fRunner.endAll();
+    const pid_t other = numberAfter(text.get(), QStringLiteral("held by "));
+    ASSERT_GT(other, 0);
+    EXPECT_TRUE(isGone(other));
+}
+
+TEST_F(PosixShellRunnerTest, EndAll_DoesNotWaitForAProcessThatLeftTheSession) {
+    Meeting meeting;
+    auto text =
+        start(zoo(QStringLiteral("grandchild 60000 away; ")) + meeting.announce() + u"sleep 60");
+    meeting.wait();
+    fRunner.endAll();
+    const pid_t away = numberAfter(text.get(), QStringLiteral("held by "));
+    ASSERT_GT(away, 0);
+    EXPECT_EQ(::kill(away, SIGKILL), 0) << "it left the session, so it is not ours to end";
+}
+
+TEST_F(PosixShellRunnerTest, EndAll_Twice_DoesNothing) {
+    fRunner.endAll();
+    fRunner.endAll();
+    EXPECT_EQ(run(QStringLiteral("echo x")), QString());
+}
+
+TEST_F(PosixShellRunnerTest, EndAll_AmidStartsOnManyThreads_LeavesNoCallerBehind) {
+    std::vector<std::future<QString>> texts;
+    for (int i = 0; i < 16; ++i)
+        texts.push_back(start(QStringLiteral("sleep 60")));
+    fRunner.endAll();
+    for (auto& text : texts)
+        EXPECT_EQ(text.get(), QString());
+}
+
+TEST_F(PosixShellRunnerTest, Destruction_EndsWhatRuns) {
+    Meeting meeting;
+    auto runner = std::make_unique<PosixShellRunner>(fConsole);
+    auto text = std::async(std::launch::async, [&runner = *runner, &meeting] {
+        return runner.outputWhenRunAsShellCommand(u"echo $$; " + meeting.announce() + u"sleep 60");
+    });
+    meeting.wait();
+    runner.reset();
+    const pid_t shell = text.get().trimmed().toInt();
+    ASSERT_GT(shell, 0);
+    EXPECT_TRUE(isGone(shell));
+}
+
+} // namespace
+} // namespace kelvo

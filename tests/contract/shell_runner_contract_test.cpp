@@ -1,0 +1,82 @@
+#include "adapters/posix/posix_shell_runner.h"
+#include "fakes/recording_console.h"
+#include "fakes/scripted_shell.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <thread>
+#include <vector>
+
+namespace kelvo {
+namespace {
+
+/// A command, and what it prints: the script of the fake, the expectation for both.
+struct Known {
+    QString command;
+    QString output;
+};
+
+struct RealShell {
+    explicit RealShell(const std::vector<Known>&) : fRunner(fConsole) {}
+    ShellRunner& runner() { return fRunner; }
+
+    RecordingConsole fConsole;
+    PosixShellRunner fRunner;
+};
+
+struct FakeShell {
+    explicit FakeShell(const std::vector<Known>& script) {
+        for (const Known& known : script)
+            fRunner.answerTo(known.command, known.output);
+    }
+    ShellRunner& runner() { return fRunner; }
+
+    ScriptedShell fRunner;
+};
+
+template <typename Shell>
+class ShellRunnerContract : public testing::Test {
+protected:
+    const std::vector<Known> fScript = {
+        {QStringLiteral("printf ' \\n a b\\t\\n\\n'"), QStringLiteral(" \n a b\t\n\n")},
+        {QStringLiteral("printf '\\377x'"), QStringLiteral("\ufffdx")},
+        {QStringLiteral("echo '$HOME' | tr a-z A-Z; exit 7"), QStringLiteral("$HOME\n")},
+        {QStringLiteral("exit 0"), QString()},
+        {QStringLiteral("no-such-program-anywhere"), QString()},
+    };
+    Shell fShell{fScript};
+};
+
+using Shells = testing::Types<FakeShell, RealShell>;
+TYPED_TEST_SUITE(ShellRunnerContract, Shells);
+
+TYPED_TEST(ShellRunnerContract, Output_ComesUntrimmedWhateverTheExitStatus) {
+    for (const Known& known : this->fScript)
+        EXPECT_EQ(this->fShell.runner().outputWhenRunAsShellCommand(known.command), known.output)
+            << known.command.toStdString();
+}
+
+TYPED_TEST(ShellRunnerContract, EmptyCommand_GivesTheEmptyText) {
+    EXPECT_TRUE(this->fShell.runner().outputWhenRunAsShellCommand(QString()).isEmpty());
+}
+
+TYPED_TEST(ShellRunnerContract, SeveralThreads_EachGetsItsOwnOutput) {
+    std::vector<std::thread> threads;
+    std::vector<int> right(8, 0);
+    for (std::size_t i = 0; i < right.size(); ++i) {
+        threads.emplace_back([&, i] {
+            const Known& known = this->fScript[i % this->fScript.size()];
+            for (int round = 0; round < 5; ++round)
+                right[i] += this->fShell.runner().outputWhenRunAsShellCommand(known.command) ==
+                            known.output;
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    for (const int count : right)
+        EXPECT_EQ(count, 5);
+}
+
+} // namespace
+} // namespace kelvo

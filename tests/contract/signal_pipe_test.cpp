@@ -1,0 +1,158 @@
+#include "adapters/qt/signal_pipe.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <thread>
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+
+class SignalPipeTest : public testing::Test {
+protected:
+    static bool until(const std::function<bool()>& done) {
+        QTimer alarm;
+        alarm.start(30000);
+        const auto end = std::chrono::steady_clock::now() + 30s;
+        while (!done() && std::chrono::steady_clock::now() < end)
+            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        return done();
+    }
+    static bool isDefault(int number) {
+        struct sigaction action {};
+        ::sigaction(number, nullptr, &action);
+        return (action.sa_flags & SA_SIGINFO) == 0 && action.sa_handler == SIG_DFL;
+    }
+    std::function<void()> note(const std::string& name) {
+        return [this, name] { fHeard += name; };
+    }
+
+    std::string fHeard;
+    std::unique_ptr<SignalPipe> fSignals = std::make_unique<SignalPipe>();
+};
+
+TEST_F(SignalPipeTest, Signal_IsACallFromTheEventLoop) {
+    const auto term = fSignals->catchSignal(SIGTERM, note("t"));
+    const auto interrupt = fSignals->catchSignal(SIGINT, note("i"));
+    ASSERT_EQ(::kill(::getpid(), SIGTERM), 0);
+    ASSERT_EQ(::raise(SIGINT), 0);
+    EXPECT_EQ(fHeard, "");
+    EXPECT_TRUE(until([this] { return fHeard.size() == 2; }));
+    EXPECT_EQ(fHeard, "ti");
+}
+
+TEST_F(SignalPipeTest, SignalOnAnotherThread_IsACallOnTheMainOne) {
+    std::thread::id called;
+    const auto user = fSignals->catchSignal(SIGUSR1, [&] {
+        called = std::this_thread::get_id();
+        fHeard += "u";
+    });
+    std::thread([] { ::raise(SIGUSR1); }).join();
+    EXPECT_TRUE(until([this] { return fHeard == "u"; }));
+    EXPECT_EQ(called, std::this_thread::get_id());
+}
+
+TEST_F(SignalPipeTest, EachArrival_IsACall) {
+    const auto user = fSignals->catchSignal(SIGUSR1, note("u"));
+    for (int i = 0; i < 100; ++i)
+        ::raise(SIGUSR1);
+    EXPECT_TRUE(until([this] { return fHeard.size() == 100; }));
+}
+
+TEST_F(SignalPipeTest, SeveralHandlers_AreCalledInOrder) {
+    const auto a = fSignals->catchSignal(SIGUSR1, note("a"));
+    const auto b = fSignals->catchSignal(SIGUSR1, note("b"));
+    ::raise(SIGUSR1);
+    EXPECT_TRUE(until([this] { return fHeard.size() == 2; }));
+    EXPECT_EQ(fHeard, "ab");
+}
+
+TEST_F(SignalPipeTest, EndedSubscription_IsNotCalledForWhatHadArrived) {
+    auto a = fSignals->catchSignal(SIGUSR1, note("a"));
+    const auto b = fSignals->catchSignal(SIGUSR1, note("b"));
+    ::raise(SIGUSR1);
+    a.reset();
+    EXPECT_TRUE(until([this] { return !fHeard.empty(); }));
+    EXPECT_EQ(fHeard, "b");
+}
+
+TEST_F(SignalPipeTest, Handler_MayEndItsOwnAndALaterSubscription) {
+    Subscription a;
+    Subscription b;
+    a = fSignals->catchSignal(SIGUSR1, [&] {
+        fHeard += "a";
+        a.reset();
+        b.reset();
+    });
+    b = fSignals->catchSignal(SIGUSR1, note("b"));
+    ::raise(SIGUSR1);
+    EXPECT_TRUE(until([this] { return !fHeard.empty(); }));
+    EXPECT_EQ(fHeard, "a");
+    EXPECT_TRUE(isDefault(SIGUSR1));
+}
+
+TEST_F(SignalPipeTest, LastSubscription_BringsTheEarlierDispositionBack) {
+    const auto earlier = ::signal(SIGUSR2, SIG_IGN);
+    auto a = fSignals->catchSignal(SIGUSR2, note("a"));
+    auto b = fSignals->catchSignal(SIGUSR2, note("b"));
+    a.reset();
+    ::raise(SIGUSR2);
+    EXPECT_TRUE(until([this] { return fHeard == "b"; }));
+    b.reset();
+    EXPECT_EQ(::signal(SIGUSR2, earlier), SIG_IGN);
+}
+
+TEST_F(SignalPipeTest, EndOfThePipe_BringsAllDispositionsBack) {
+    auto term = fSignals->catchSignal(SIGTERM, note("t"));
+    auto user = fSignals->catchSignal(SIGUSR1, note("u"));
+    EXPECT_FALSE(isDefault(SIGTERM));
+    fSignals.reset();
+    EXPECT_TRUE(isDefault(SIGTERM));
+    EXPECT_TRUE(isDefault(SIGUSR1));
+    term.reset();
+}
+
+TEST_F(SignalPipeTest, NumbersThatCannotBeCaught_AreASubscriptionToNothing) {
+    for (const int number : {SIGKILL, SIGSTOP, 0, -1, 32, 64})
+        const auto nothing = fSignals->catchSignal(number, note("x"));
+    EXPECT_EQ(fHeard, "");
+    const auto still = fSignals->catchSignal(SIGUSR1, note("u"));
+    ::raise(SIGUSR1);
+    EXPECT_TRUE(until([this] { return fHeard == "u"; }));
+}
+
+TEST_F(SignalPipeTest, SecondPipe_CatchesNothing) {
+    SignalPipe second;
+    const auto nothing = second.catchSignal(SIGUSR1, note("x"));
+    EXPECT_TRUE(isDefault(SIGUSR1));
+}
+
+TEST_F(SignalPipeTest, FaultSentByHand_IsACallLikeAnyOther) {
+    const auto fault = fSignals->catchSignal(SIGFPE, note("f"));
+    ::kill(::getpid(), SIGFPE);
+    EXPECT_TRUE(until([this] { return fHeard == "f"; }));
+}
+
+TEST_F(SignalPipeTest, FaultOfTheProgram_StillEndsIt) {
+    const auto fault = [] {
+        SignalPipe signals;
+        const auto caught = signals.catchSignal(SIGILL, [] {});
+        __builtin_trap();
+    };
+    EXPECT_EXIT(fault(), testing::KilledBySignal(SIGILL), "");
+}
+
+} // namespace
+} // namespace kelvo

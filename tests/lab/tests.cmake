@@ -1,0 +1,27 @@
+# Two hosts and the real tools. One lab a build tree, raised and taken away around all its tests.
+set(KELVO_LAB_COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/lab/lab)
+set(KELVO_LAB_STATE ${CMAKE_BINARY_DIR}/lab-state)
+
+foreach(step up down)
+  add_test(NAME Lab.${step} COMMAND ${KELVO_LAB_COMMAND} ${step})
+  set_tests_properties(Lab.${step} PROPERTIES
+    LABELS lab TIMEOUT 60 SKIP_RETURN_CODE 77 RESOURCE_LOCK lab
+    ENVIRONMENT KELVO_LAB=${KELVO_LAB_STATE})
+endforeach()
+set_tests_properties(Lab.up PROPERTIES FIXTURES_SETUP lab)
+set_tests_properties(Lab.down PROPERTIES FIXTURES_CLEANUP lab)
+
+kelvo_tests(lab
+  SOURCES
+    lab/lab_fixture.cpp
+    lab/lab_host_test.cpp
+    lab/sync_lab_test.cpp
+  TIMEOUT 180
+  PROPERTIES
+    FIXTURES_REQUIRED lab
+    RESOURCE_LOCK lab
+    ENVIRONMENT KELVO_LAB=${KELVO_LAB_STATE}
+)
+target_compile_definitions(lab_tests PRIVATE
+  KELVO_LAB_COMMAND="${KELVO_LAB_COMMAND}"
+  KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror")

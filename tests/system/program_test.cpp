@@ -1,0 +1,229 @@
+// The built program from outside, on a profile of its own and with real rsync between two folders.
+#include "support/plist_text.h"
+#include "support/running_program.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+const QString cProgram = QStringLiteral(KELVO_PROGRAM);
+
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString& path, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+class ProgramTest : public ::testing::Test {
+protected:
+    QString path(const QString& name) const { return folder.filePath(name); }
+    QString settingsFile() const {
+        return path(QStringLiteral("config/kelvo-mirror/preferences.plist"));
+    }
+    QString logFile() const { return path(QStringLiteral("state/Kelvo/kelvo-mirror.log")); }
+
+    QProcessEnvironment environment() const {
+        QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
+        for (const auto& [variable, name] :
+             {std::pair("HOME", "home"), std::pair("XDG_CONFIG_HOME", "config"),
+              std::pair("XDG_STATE_HOME", "state"), std::pair("XDG_CACHE_HOME", "cache"),
+              std::pair("XDG_RUNTIME_DIR", "run")})
+            own.insert(QString::fromLatin1(variable), path(QString::fromLatin1(name)));
+        for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            own.remove(QString::fromLatin1(variable));
+        return own;
+    }
+
+    QVariantMap plainProfile() const {
+        return {{QStringLiteral("prefAutoStartScanOnLaunch"), true},
+                {QStringLiteral("prefRsyncWithSSH"), false},
+                {QStringLiteral("prefDelayBetweenScans"), 0.5},
+                {QStringLiteral("prefPath1"), path(QStringLiteral("Camera"))},
+                {QStringLiteral("prefPath2"), path(QStringLiteral("Incoming"))}};
+    }
+
+    std::unique_ptr<RunningProgram> start(const QVariantMap& profile,
+                                          const QString& program = cProgram) const {
+        write(settingsFile(), plistText(profile));
+        return std::make_unique<RunningProgram>(program, QStringList{QStringLiteral("--headless")},
+                                                environment());
+    }
+
+    /// Runs the program to its end: exit code, standard output, standard error.
+    std::tuple<int, QByteArray, QByteArray> run(const QStringList& arguments) const {
+        QProcess process;
+        process.setProcessEnvironment(environment());
+        process.setStandardInputFile(QProcess::nullDevice());
+        process.start(cProgram, arguments);
+        process.waitForFinished();
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    const QTemporaryDir folder;
+};
+
+TEST_F(ProgramTest, Version_IsPrinted) {
+    const auto [code, output, errors] = run({QStringLiteral("--version")});
+    EXPECT_EQ(code, 0);
+    EXPECT_EQ(output, QByteArray("kelvo-mirror " KELVO_VERSION "\n"));
+    EXPECT_EQ(errors, "");
+}
+
+TEST_F(ProgramTest, Help_NamesEveryOptionForPeople) {
+    const auto [code, output, errors] = run({QStringLiteral("--help")});
+    EXPECT_EQ(code, 0);
+    EXPECT_TRUE(output.contains("--headless") && output.contains("--version"));
+    EXPECT_FALSE(output.contains("autorelaunched"));
+}
+
+TEST_F(ProgramTest, UnknownOptionOrArgument_IsRefused) {
+    for (const char* argument : {"--frobnicate", "-z", "movie.mov"}) {
+        const auto [code, output, errors] = run({QString::fromLatin1(argument)});
+        EXPECT_EQ(code, 2) << argument;
+        EXPECT_EQ(output, "");
+        EXPECT_TRUE(errors.contains("kelvo-mirror --help")) << errors.constData();
+    }
+    EXPECT_FALSE(QFile::exists(settingsFile())) << "nothing was started";
+}
+
+TEST_F(ProgramTest, NoDisplay_IsSaidWithTheWayOut) {
+    const auto [code, output, errors] = run({});
+    EXPECT_EQ(code, 3);
+    EXPECT_TRUE(errors.contains("--headless")) << errors.constData();
+}
+
+TEST_F(ProgramTest, PlainPass_CopiesMoviesAndRepeats) {
+    write(path(QStringLiteral("Camera/day 1/It's.MP4")), "movie");
+    write(path(QStringLiteral("Camera/notes.txt")), "text");
+    const auto program = start(plainProfile());
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("result from shell command ="), 30))
+        << program->transcript().toStdString();
+    write(path(QStringLiteral("Camera/later.mov")), "later");
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("result from shell command ="), 30));
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("result from shell command ="), 30));
+    EXPECT_EQ(contents(path(QStringLiteral("Incoming/day 1/It's.MP4"))), "movie");
+    EXPECT_EQ(contents(path(QStringLiteral("Incoming/later.mov"))), "later");
+    EXPECT_FALSE(QFile::exists(path(QStringLiteral("Incoming/notes.txt"))));
+    EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+}
+
+TEST_F(ProgramTest, Start_PrintsTheEntryLineAndRegistersTheFactoryValues) {
+    const auto program = start({});
+    EXPECT_TRUE(program->waitForLine(
+        QStringLiteral("Inside Kelvo_Mirror.ViewController->viewDidLoad()......."), 30));
+    EXPECT_EQ(program->stop(), 0);
+    EXPECT_FALSE(program->lines().contains(
+        QStringLiteral("Oops something went wrong with registering facotry defaults....")));
+}
+
+TEST_F(ProgramTest, NothingSetUp_RestsWithoutAWord) {
+    QVariantMap profile = plainProfile();
+    profile.remove(QStringLiteral("prefPath1"));
+    const auto program = start(profile);
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("state is now IS RUNNING"), 30));
+    EXPECT_EQ(program->stop(), 0);
+    EXPECT_EQ(program->lines().filter(QStringLiteral("cmd to send")), QStringList());
+    EXPECT_EQ(program->lines().filter(QStringLiteral("status")), QStringList());
+}
+
+TEST_F(ProgramTest, UserAndHostMissing_CountsFailures) {
+    const auto program = start({{QStringLiteral("prefAutoStartScanOnLaunch"), true},
+                                {QStringLiteral("prefDelayBetweenScans"), 0.1}});
+    EXPECT_TRUE(program->waitForLine(
+        QStringLiteral("status black: Trying to rsync From Destination to Source..."), 30));
+    EXPECT_TRUE(program->waitForLine(
+        QStringLiteral("status red: something went wrong - waiting to retry again... [2]"), 30))
+        << program->transcript().toStdString();
+    EXPECT_EQ(program->stop(), 0);
+}
+
+TEST_F(ProgramTest, TermSignalInMidPass_EndsTheCommandAndKeepsTheSettings) {
+    QVariantMap profile = plainProfile();
+    profile[QStringLiteral("prefRsyncCommandString1")] =
+        QStringLiteral("echo $$ > '%1'; trap '' TERM; sleep 3600 & wait; sleep 3600")
+            .arg(path(QStringLiteral("pid")));
+    const auto program = start(profile);
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("cmd to send = "), 30));
+    const auto commandIsAlive = [this] {
+        const QByteArray pid = contents(path(QStringLiteral("pid"))).trimmed();
+        return !pid.isEmpty() &&
+               QFile::exists(QStringLiteral("/proc/%1").arg(QLatin1StringView(pid)));
+    };
+    for (int i = 0; i < 500 && !commandIsAlive(); ++i)
+        program->waitForLine(QStringLiteral("never"), 0.02);
+    ASSERT_TRUE(commandIsAlive());
+    EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+    EXPECT_FALSE(commandIsAlive());
+    const QByteArray settings = contents(settingsFile());
+    EXPECT_TRUE(settings.contains("<key>prefEnableScanning</key>")) << settings.constData();
+    EXPECT_TRUE(settings.contains("<key>prefRsyncCommandString1</key>"));
+}
+
+TEST_F(ProgramTest, BrokenSettings_AreSetAsideAndSaid) {
+    write(settingsFile(), "<?xml version=\"1.0\"?><plist><dict><key>prefPa");
+    RunningProgram program(cProgram, {QStringLiteral("--headless")}, environment());
+    EXPECT_TRUE(program.waitForLine(
+        QStringLiteral("Inside Kelvo_Mirror.ViewController->viewDidLoad()......."), 30));
+    EXPECT_EQ(program.stop(), 0);
+    const QStringList kept =
+        QFileInfo(settingsFile()).dir().entryList({QStringLiteral("preferences.plist.corrupt-*")});
+    EXPECT_EQ(kept.size(), 1);
+    EXPECT_TRUE(program.transcript().contains(QStringLiteral("preferences.plist.corrupt-")));
+}
+
+TEST_F(ProgramTest, FactoryDefaultsMissing_IsSaidAndTheProgramRuns) {
+    QDir().mkpath(path(QStringLiteral("copy/bin")));
+    QDir().mkpath(path(QStringLiteral("copy/lib/kelvo-mirror")));
+    const QString copy = path(QStringLiteral("copy/bin/kelvo-mirror"));
+    ASSERT_TRUE(QFile::copy(cProgram, copy));
+    const auto program = start({}, copy);
+    EXPECT_TRUE(program->waitForLine(
+        QStringLiteral("Oops something went wrong with registering facotry defaults...."), 30));
+    EXPECT_TRUE(program->waitForLine(
+        QStringLiteral("Inside Kelvo_Mirror.ViewController->viewDidLoad()......."), 30));
+    EXPECT_EQ(program->stop(), 0);
+}
+
+TEST_F(ProgramTest, LogFile_IsPrivateAndHoldsTheLines) {
+    const auto program = start({});
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("Inside Kelvo_Mirror"), 30));
+    EXPECT_EQ(program->stop(), 0);
+    EXPECT_TRUE(contents(logFile()).contains("Inside Kelvo_Mirror.ViewController->viewDidLoad()"));
+    const auto mode = QFileInfo(logFile()).permissions() &
+                      (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther);
+    EXPECT_EQ(mode, QFile::Permissions());
+}
+
+TEST_F(ProgramTest, OutputNobodyReads_DoesNotStopTheProgram) {
+    write(settingsFile(), plistText(plainProfile()));
+    write(path(QStringLiteral("Camera/a.mov")), "movie");
+    QProcess program;
+    program.setProcessEnvironment(environment());
+    program.setStandardInputFile(QProcess::nullDevice());
+    program.start(QStringLiteral("/bin/sh"),
+                  {QStringLiteral("-c"), QStringLiteral("exec \"$0\" --headless >&-"), cProgram});
+    ASSERT_TRUE(program.waitForStarted());
+    for (int i = 0; i < 600 && !QFile::exists(path(QStringLiteral("Incoming/a.mov"))); ++i)
+        program.waitForFinished(50);
+    EXPECT_TRUE(QFile::exists(path(QStringLiteral("Incoming/a.mov"))));
+    program.terminate();
+    EXPECT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 0);
+}
+
+} // namespace
+} // namespace kelvo
