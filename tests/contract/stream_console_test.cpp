@@ -62,6 +62,28 @@ protected:
     UniqueFd fNull{::open("/dev/null", O_WRONLY | O_CLOEXEC)};
 };
 
+TEST_F(StreamConsoleTest, BothStreamsInOnePlace_LinesStandWholeAndInOrder) {
+    constexpr int lines = 2000;
+    auto both = std::make_unique<StreamConsole>(fWrite.get(), fWrite.get(), fFile);
+    for (int i = 0; i < lines; ++i) {
+        const QString text = QStringLiteral("line %1 %2").arg(i).arg(QString(i % 97, u'x'));
+        if (i % 2 == 0)
+            both->print(text);
+        else
+            both->log(text);
+    }
+    const QList<QByteArray> read = readToEnd(both).split('\n');
+    ASSERT_EQ(read.size(), lines + 1) << "and nothing after the last line end";
+    for (int i = 0; i < lines; ++i) {
+        const QByteArray text =
+            QByteArray("line ") + QByteArray::number(i) + ' ' + QByteArray(i % 97, 'x');
+        if (i % 2 == 0)
+            EXPECT_EQ(read[i].toStdString(), text.toStdString());
+        else
+            EXPECT_TRUE(read[i].endsWith(QByteArray("] " + text))) << read[i].constData();
+    }
+}
+
 TEST_F(StreamConsoleTest, BothKindsOfLines_ReachTheLogFile) {
     const auto lines = console();
     lines->print(QStringLiteral("printed"));

@@ -67,15 +67,16 @@ bool LineStream::writeSome() {
     return true;
 }
 
-/// A pair of surrogates cut in two by the chunks is held back by the encoder until it is whole.
+/// A pair of surrogates cut in two by the chunks is held back by the encoder until it is whole. A
+/// short line comes whole, so that one write brings it out.
 void LineStream::encodeMore() {
     fBytes.clear();
     fWritten = 0;
-    while (fPiece < fPieces.size() && fBytes.isEmpty()) {
+    while (fPiece < fPieces.size() && fBytes.size() < cChunkUnits) {
         const QStringView rest = QStringView(fPieces.at(fPiece)).sliced(fOffset);
         const QStringView chunk = rest.first(std::min(rest.size(), cChunkUnits));
-        fBytes = fTerminal ? QByteArray(fEncoder.encode(withVisibleControls(chunk)))
-                           : QByteArray(fEncoder.encode(chunk));
+        fBytes += fTerminal ? QByteArray(fEncoder.encode(withVisibleControls(chunk)))
+                            : QByteArray(fEncoder.encode(chunk));
         fOffset += chunk.size();
         if (fOffset == fPieces.at(fPiece).size()) {
             fPieces[fPiece] = QString(); // Its memory is not needed any more.

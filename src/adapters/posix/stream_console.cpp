@@ -9,6 +9,7 @@
 #include <pthread.h>
 #include <signal.h>
 #include <sys/eventfd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -29,6 +30,14 @@ constexpr auto cLongestEnd = 5s;
 QString logPrefix() {
     return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")) +
            u" kelvo-mirror[" + QString::number(::getpid()) + u"] ";
+}
+
+/// Whether both descriptors lead to one terminal, pipe or file.
+bool leadToOneFile(int output, int errors) {
+    struct stat first {};
+    struct stat second {};
+    return ::fstat(output, &first) == 0 && ::fstat(errors, &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
 /// Signals are for the other threads; a write to nobody gives an error instead of one.
@@ -128,7 +137,8 @@ private:
 };
 
 StreamConsole::StreamConsole(int output, int errors, LogFile& logFile)
-    : fLogFile(logFile), fWakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+    : fLogFile(logFile), fOneStream(leadToOneFile(output, errors)),
+      fWakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
       fThread([this, output, errors] { Writer(*this, output, errors).run(); }) {
     ::pthread_setname_np(fThread.native_handle(), "kelvo-console");
 }
@@ -152,7 +162,7 @@ void StreamConsole::print(const QStringList& pieces) {
 void StreamConsole::log(const QString& text) {
     const QString prefix = logPrefix();
     const std::lock_guard lock(fMutex);
-    fErrors.add({prefix, text});
+    (fOneStream ? fOutput : fErrors).add({prefix, text});
     fFileLines.add({text});
     wake();
 }

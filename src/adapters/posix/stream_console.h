@@ -17,6 +17,7 @@ class LogFile;
 /// Printed lines go to `output`, system log lines to `errors` as
 /// "yyyy-MM-dd HH:mm:ss.zzz kelvo-mirror[pid] text", and both to the log file. A thread of its own
 /// writes; a stream whose reader is slow or gone holds up neither callers nor the other streams.
+/// Where both descriptors lead to one place, the lines stand there whole and in order.
 /// Behind a reader that is stuck at most 64 MiB of text and one line wait for each stream; what
 /// comes then is left out there, and "N lines left out" stands in its place. On a terminal control
 /// characters are spelled out ("\x1b").
@@ -40,6 +41,7 @@ private:
     void wake();
 
     LogFile& fLogFile;
+    const bool fOneStream;
     const UniqueFd fWakeUp;
     std::mutex fMutex;
     std::condition_variable fWritten;
