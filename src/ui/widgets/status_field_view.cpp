@@ -24,6 +24,9 @@ StatusFieldView::StatusFieldView(QWidget* parent)
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
     fSign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(side));
     fSign->setAccessibleName(tr("Trouble"));
+    QSizePolicy keepsItsPlace = fSign->sizePolicy();
+    keepsItsPlace.setRetainSizeWhenHidden(true);
+    fSign->setSizePolicy(keepsItsPlace);
     fText->setObjectName(QStringLiteral("statusText"));
     fText->setTextFormat(Qt::PlainText);
     fText->setWordWrap(true);
