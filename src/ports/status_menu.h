@@ -16,10 +16,10 @@ enum class StatusMenuState {
 
 /// What the menu's entries do; an empty one makes its entry do nothing.
 struct StatusMenuActions {
-    std::function<void()> showWindow; ///< also what a click on the icon does
-    std::function<void()> startOrStop;
-    std::function<void()> quitAndRelaunch;
-    std::function<void()> quit;
+    std::function<void()> showWindow = {}; ///< also what a click on the icon does
+    std::function<void()> startOrStop = {};
+    std::function<void()> quitAndRelaunch = {};
+    std::function<void()> quit = {};
 };
 
 /// Main thread only. Hidden at first.

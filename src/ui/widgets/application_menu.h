@@ -13,17 +13,18 @@ namespace kelvo {
 /// What the entries do, on the main thread. An entry whose action is missing is left out, and so
 /// is a menu without entries.
 struct ApplicationMenuActions {
-    std::function<void()> quitAndRelaunch; ///< ends the program and has it started again
-    std::function<void()> closeWindow;
-    std::function<void()> quit;
-    std::function<void()> showSettings;
-    std::function<void(int)> showTab; ///< the tab's place, from 0
-    std::function<void()> setupStatusItem;
-    std::function<void()> removeStatusItem;
-    std::function<void()> delegateQuitAndRelaunch; ///< only takes the delegate's tray icon away
-    std::function<void()> setupWatchdog;
-    std::function<void()> about;
-    std::function<void()> openLogFolder;
+    std::function<void()> quitAndRelaunch = {}; ///< ends the program and has it started again
+    std::function<void()> closeWindow = {};
+    std::function<void()> quit = {};
+    std::function<void()> showSettings = {};
+    std::function<void(int)> showTab = {}; ///< the tab's place, from 0
+    std::function<void()> setupStatusItem = {};
+    std::function<void()> removeStatusItem = {};
+    std::function<void()> delegateQuitAndRelaunch =
+        {}; ///< only takes the delegate's tray icon away
+    std::function<void()> setupWatchdog = {};
+    std::function<void()> about = {};
+    std::function<void()> openLogFolder = {};
 };
 
 class ApplicationMenu final : public QMenuBar {
