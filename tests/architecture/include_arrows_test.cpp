@@ -30,9 +30,10 @@ const std::map<std::string, Names> cArrows{
     {"adapters/posix", {"ports", "support"}},
     {"adapters/avahi", {"ports", "support"}},
     {"adapters/headless", {"ports", "support"}},
+    {"adapters/tray", {"ports", "support"}},
     {"app",
      {"ui", "ui/widgets", "sync", "remote", "discovery", "adapters/qt", "adapters/posix",
-      "adapters/avahi", "adapters/headless", "ports", "support"}},
+      "adapters/avahi", "adapters/headless", "adapters/tray", "ports", "support"}},
     {"sentinel", {}},
 };
 

@@ -1,0 +1,48 @@
+// StatusMenu: the program's one icon in the desktop's tray, with its menu.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace kelvo {
+
+enum class StatusMenuState {
+    Off,     ///< syncing is switched off
+    Resting, ///< switched on, between two passes
+    Running, ///< a pass is in progress
+    Trouble, ///< something needs a person
+};
+
+/// What the menu's entries do; an empty one makes its entry do nothing.
+struct StatusMenuActions {
+    std::function<void()> showWindow = {}; ///< also what a click on the icon does
+    std::function<void()> startOrStop = {};
+    std::function<void()> quitAndRelaunch = {};
+    std::function<void()> quit = {};
+};
+
+/// Main thread only. Hidden at first.
+class StatusMenu {
+public:
+    virtual ~StatusMenu() = default;
+
+    /// From now on each choice by a person calls its action once, on the main thread. An action
+    /// may hide the icon. Earlier actions are forgotten.
+    virtual void setActions(StatusMenuActions actions) = 0;
+
+    /// Shows the icon of `state`, or changes the icon that is shown. On a desktop without a tray
+    /// nothing is seen; the icon appears by itself once there is one.
+    virtual void show(StatusMenuState state) = 0;
+
+    /// The title of the entry that starts and stops, kept while hidden; "&" stands for itself.
+    virtual void setStartTitle(const QString& title) = 0;
+
+    /// Takes icon and menu away, also from a tray that appears later. Hidden already: no change.
+    virtual void hide() = 0;
+
+    /// Whether the icon is shown and the desktop has a tray to show it in. Does not block.
+    virtual bool isReachable() const = 0;
+};
+
+} // namespace kelvo

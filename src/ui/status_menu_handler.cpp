@@ -1,0 +1,47 @@
+#include "ui/status_menu_handler.h"
+
+#include "ports/console.h"
+#include "support/text.h"
+#include "ui/status_menu_presence.h"
+
+namespace kelvo {
+namespace {
+
+constexpr QStringView cTypeName = u"SupportKit.KelvoStatusMenuHandler";
+
+} // namespace
+
+KelvoStatusMenuHandler::~KelvoStatusMenuHandler() {
+    fPresence.remove(fTargets);
+}
+
+void KelvoStatusMenuHandler::setWindowController(StatusMenuWindow* controller) {
+    fTargets.fWindowController = controller;
+}
+
+void KelvoStatusMenuHandler::setMainVC(StatusMenuMainView* mainVC) {
+    fTargets.fMainVC = mainVC;
+}
+
+void KelvoStatusMenuHandler::setupStatusMenuStuff() {
+    fPresence.add(fTargets);
+}
+
+void KelvoStatusMenuHandler::removeStatusMenuStuff() {
+    fPresence.remove(fTargets);
+}
+
+void KelvoStatusMenuHandler::delegatefunction1() {
+    fConsole.print(insideLine(cTypeName, u"delegatefunction1()"));
+}
+
+void KelvoStatusMenuHandler::delegatefunction2() {
+    fConsole.print(insideLine(cTypeName, u"delegatefunction2()"));
+}
+
+QString KelvoStatusMenuHandler::description() const {
+    return u'<' + cTypeName + u": 0x" + QString::number(reinterpret_cast<quintptr>(this), 16) +
+           u'>';
+}
+
+} // namespace kelvo

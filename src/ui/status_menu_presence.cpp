@@ -1,0 +1,101 @@
+#include "ui/status_menu_presence.h"
+
+#include "ports/dispatch_queue.h"
+#include "ports/user_defaults.h"
+#include "support/preference_keys.h"
+#include "ui/status_menu_targets.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kelvo {
+
+StatusMenuState statusMenuState(bool enabled, bool scanning, bool trouble) {
+    if (trouble)
+        return StatusMenuState::Trouble;
+    if (scanning)
+        return StatusMenuState::Running;
+    return enabled ? StatusMenuState::Resting : StatusMenuState::Off;
+}
+
+StatusMenuPresence::StatusMenuPresence(StatusMenu& menu, UserDefaults& defaults,
+                                       DispatchQueue& mainQueue, std::function<void()> quit)
+    : fMenu(menu), fDefaults(defaults), fMainQueue(mainQueue), fQuit(std::move(quit)) {
+    connectActions();
+    for (const QStringView key : {prefEnableScanning, prefIsScanning})
+        fObservations.push_back(
+            defaults.observe(key, [this](const DefaultsChange&) { refreshLater(); }));
+}
+
+StatusMenuPresence::~StatusMenuPresence() {
+    fObservations.clear();
+    fMenu.setActions({});
+    fMenu.hide();
+}
+
+void StatusMenuPresence::add(const StatusMenuTargets& targets) {
+    if (std::ranges::find(fAsking, &targets) != fAsking.end())
+        return;
+    fAsking.push_back(&targets);
+    refresh();
+}
+
+void StatusMenuPresence::remove(const StatusMenuTargets& targets) {
+    if (std::erase(fAsking, &targets) > 0)
+        refresh();
+}
+
+void StatusMenuPresence::setTrouble(bool trouble) {
+    fTrouble = trouble;
+    refresh();
+}
+
+void StatusMenuPresence::connectActions() {
+    fMenu.setActions({
+        .showWindow =
+            [this] {
+                if (auto* window = firstTarget(&StatusMenuTargets::fWindowController))
+                    window->showWindow();
+            },
+        .startOrStop =
+            [this] {
+                if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
+                    mainView->clickStartButton();
+            },
+        .quitAndRelaunch =
+            [this] {
+                if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
+                    mainView->quitAndRelaunch();
+            },
+        .quit = fQuit,
+    });
+}
+
+void StatusMenuPresence::refreshLater() {
+    fMainQueue.async([this] { refresh(); });
+}
+
+void StatusMenuPresence::refresh() {
+    if (fAsking.empty()) {
+        if (std::exchange(fShown, std::nullopt))
+            fMenu.hide();
+        return;
+    }
+    const bool enabled = fDefaults.boolForKey(prefEnableScanning);
+    if (std::exchange(fTitleIsStop, enabled) != enabled)
+        fMenu.setStartTitle(enabled ? QStringLiteral("Stop Syncing")
+                                    : QStringLiteral("Start Syncing"));
+    const StatusMenuState state =
+        statusMenuState(enabled, fDefaults.boolForKey(prefIsScanning), fTrouble);
+    if (std::exchange(fShown, state) != state)
+        fMenu.show(state);
+}
+
+template <typename Target>
+Target* StatusMenuPresence::firstTarget(Target* StatusMenuTargets::*member) const {
+    const auto found = std::ranges::find_if(
+        fAsking, [member](const StatusMenuTargets* targets) { return targets->*member; });
+    return found == fAsking.end() ? nullptr : (*found)->*member;
+}
+
+} // namespace kelvo

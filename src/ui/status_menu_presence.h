@@ -1,0 +1,60 @@
+// StatusMenuPresence: one tray icon for all the status-menu handlers of the program.
+#pragma once
+
+#include "ports/status_menu.h"
+#include "support/subscription.h"
+
+#include <optional>
+#include <vector>
+
+namespace kelvo {
+
+class DispatchQueue;
+class UserDefaults;
+struct StatusMenuTargets;
+
+/// Trouble goes before a pass in progress, and that before the switch: switching off during a pass
+/// leaves the pass running to its end.
+StatusMenuState statusMenuState(bool enabled, bool scanning, bool trouble);
+
+/// Main thread only, except that settings may change on any thread. Shows the icon while at least
+/// one handler asks for it and keeps its state and start title right. The main queue must have
+/// ended before this is destroyed.
+class StatusMenuPresence {
+public:
+    /// `quit` ends the program in order.
+    StatusMenuPresence(StatusMenu& menu, UserDefaults& defaults, DispatchQueue& mainQueue,
+                       std::function<void()> quit);
+    ~StatusMenuPresence();
+    StatusMenuPresence(const StatusMenuPresence&) = delete;
+    StatusMenuPresence& operator=(const StatusMenuPresence&) = delete;
+
+    /// Asks for the icon; a second time counts once. `targets` stays where it is until `remove`;
+    /// it is read at each choice from the menu. The first to have the target wins.
+    void add(const StatusMenuTargets& targets);
+
+    /// Takes the request back; the icon goes with the last one. Not added: nothing happens.
+    void remove(const StatusMenuTargets& targets);
+
+    /// Whether the status line tells of trouble. May be called before anything is shown.
+    void setTrouble(bool trouble);
+
+private:
+    void connectActions();
+    void refreshLater();
+    void refresh();
+    template <typename Target>
+    Target* firstTarget(Target* StatusMenuTargets::*member) const;
+
+    StatusMenu& fMenu;
+    UserDefaults& fDefaults;
+    DispatchQueue& fMainQueue;
+    std::function<void()> fQuit;
+    std::vector<const StatusMenuTargets*> fAsking;
+    std::optional<StatusMenuState> fShown;
+    std::optional<bool> fTitleIsStop;
+    bool fTrouble = false;
+    std::vector<Subscription> fObservations;
+};
+
+} // namespace kelvo

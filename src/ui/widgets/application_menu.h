@@ -1,0 +1,50 @@
+// ApplicationMenu: the main window's menu bar.
+#pragma once
+
+#include <QMenuBar>
+#include <QStringList>
+
+#include <functional>
+
+class QActionGroup;
+
+namespace kelvo {
+
+/// What the entries do, on the main thread. An entry whose action is missing is left out, and so
+/// is a menu without entries.
+struct ApplicationMenuActions {
+    std::function<void()> quitAndRelaunch = {}; ///< ends the program and has it started again
+    std::function<void()> closeWindow = {};
+    std::function<void()> quit = {};
+    std::function<void()> showSettings = {};
+    std::function<void(int)> showTab = {}; ///< the tab's place, from 0
+    std::function<void()> setupStatusItem = {};
+    std::function<void()> removeStatusItem = {};
+    std::function<void()> delegateQuitAndRelaunch =
+        {}; ///< only takes the delegate's tray icon away
+    std::function<void()> setupWatchdog = {};
+    std::function<void()> about = {};
+    std::function<void()> openLogFolder = {};
+};
+
+class ApplicationMenu final : public QMenuBar {
+    Q_OBJECT
+public:
+    /// `tabs` are the titles of the window's tabs; the first nine get Ctrl+1 to Ctrl+9.
+    ApplicationMenu(const ApplicationMenuActions& actions, const QStringList& tabs,
+                    QWidget* parent = nullptr);
+
+    /// Marks the tab that is shown, without showing it.
+    void setCurrentTab(int index);
+
+private:
+    void addFileMenu(const ApplicationMenuActions& actions);
+    void addEditMenu(const ApplicationMenuActions& actions);
+    void addViewMenu(const ApplicationMenuActions& actions, const QStringList& tabs);
+    void addTrayMenu(const ApplicationMenuActions& actions);
+    void addHelpMenu(const ApplicationMenuActions& actions);
+
+    QActionGroup* fTabs;
+};
+
+} // namespace kelvo

@@ -1,0 +1,88 @@
+#include "ui/widgets/icons.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgRenderer>
+
+#include <initializer_list>
+
+// Outside any namespace, as Qt asks for resources in a static library.
+static void loadIconResources() {
+    Q_INIT_RESOURCE(icons);
+}
+
+namespace kelvo {
+namespace {
+
+constexpr auto cApplicationSizes = {16, 22, 24, 32, 48, 64, 128, 256};
+constexpr auto cTraySizes = {16, 22, 24, 32, 48};
+constexpr qreal cRimOpacity = 0.85;
+
+QString resource(const QString& name) {
+    loadIconResources();
+    return QStringLiteral(":/kelvo-mirror/icons/") + name + QStringLiteral(".svg");
+}
+
+QString statusName(StatusMenuState state) {
+    switch (state) {
+    case StatusMenuState::Off:
+        return QStringLiteral("kelvo-mirror-off-symbolic");
+    case StatusMenuState::Resting:
+        return QStringLiteral("kelvo-mirror-resting-symbolic");
+    case StatusMenuState::Running:
+        return QStringLiteral("kelvo-mirror-running-symbolic");
+    case StatusMenuState::Trouble:
+        return QStringLiteral("kelvo-mirror-trouble-symbolic");
+    }
+    return {};
+}
+
+QImage drawn(QSvgRenderer& renderer, int side) {
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter);
+    return image;
+}
+
+QImage recoloured(QImage shape, const QColor& color) {
+    QPainter painter(&shape);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(shape.rect(), color);
+    return shape;
+}
+
+QImage withRim(const QImage& shape, const QColor& ink, const QColor& ground) {
+    QImage image(shape.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    const QImage rim = recoloured(shape, ground);
+    QPainter painter(&image);
+    for (const QPoint step : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)})
+        painter.drawImage(step, rim);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(image.rect(), QColor::fromRgbF(0, 0, 0, cRimOpacity));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.drawImage(0, 0, recoloured(shape, ink));
+    return image;
+}
+
+} // namespace
+
+QIcon applicationIcon() {
+    QSvgRenderer renderer(resource(QStringLiteral("kelvo-mirror")));
+    QIcon icon;
+    for (const int side : cApplicationSizes)
+        icon.addPixmap(QPixmap::fromImage(drawn(renderer, side)));
+    return icon;
+}
+
+QIcon statusIcon(StatusMenuState state, const QColor& ink, const QColor& ground) {
+    QSvgRenderer renderer(resource(statusName(state)));
+    QIcon icon;
+    for (const int side : cTraySizes)
+        icon.addPixmap(QPixmap::fromImage(withRim(drawn(renderer, side), ink, ground)));
+    return icon;
+}
+
+} // namespace kelvo

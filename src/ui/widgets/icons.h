@@ -1,0 +1,18 @@
+// The program's own icons: the application's, and a tray icon for each state.
+#pragma once
+
+#include "ports/status_menu.h"
+
+#include <QColor>
+#include <QIcon>
+
+namespace kelvo {
+
+/// In its own colours, readable on light and dark ground. Main thread; needs a QGuiApplication.
+QIcon applicationIcon();
+
+/// The sign of `state` in `ink`, with a thin rim of `ground` around it, so that it can be read on a
+/// panel of either colour. Signs differ by shape. Main thread; needs a QGuiApplication.
+QIcon statusIcon(StatusMenuState state, const QColor& ink, const QColor& ground);
+
+} // namespace kelvo

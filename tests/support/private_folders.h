@@ -1,0 +1,11 @@
+// Keeps a test process away from the files and services of whoever runs it.
+#pragma once
+
+#include <QTemporaryDir>
+
+namespace kelvo {
+
+/// Points HOME, the XDG folders and TMPDIR into `home`. Called before any thread is started.
+void usePrivateFolders(const QTemporaryDir& home);
+
+} // namespace kelvo

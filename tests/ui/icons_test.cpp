@@ -1,0 +1,130 @@
+#include "ui/widgets/icons.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+
+namespace kelvo {
+namespace {
+
+using enum StatusMenuState;
+constexpr std::array cStates{Off, Resting, Running, Trouble};
+
+/// The sign alone: ink is opaque, and a rim of no colour leaves no trace.
+QImage sign(StatusMenuState state, int side) {
+    return statusIcon(state, Qt::black, Qt::transparent)
+        .pixmap(side)
+        .toImage()
+        .convertToFormat(QImage::Format_Alpha8);
+}
+
+/// The part of all pixels that are ink in one mask and not in the other.
+double difference(const QImage& a, const QImage& b) {
+    int differing = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x)
+            differing += std::abs(qAlpha(a.pixel(x, y)) - qAlpha(b.pixel(x, y))) > 127 ? 1 : 0;
+    }
+    return static_cast<double>(differing) / (a.width() * a.height());
+}
+
+int inkedPixels(const QImage& mask) {
+    int inked = 0;
+    for (int y = 0; y < mask.height(); ++y) {
+        for (int x = 0; x < mask.width(); ++x)
+            inked += qAlpha(mask.pixel(x, y)) > 127 ? 1 : 0;
+    }
+    return inked;
+}
+
+double luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b) {
+    const double first = luminance(a) + 0.05;
+    const double second = luminance(b) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+/// The colour of a pixel as it appears over `ground`.
+QColor over(const QColor& pixel, const QColor& ground) {
+    const auto mixed = [&](float front, float back) {
+        return front * pixel.alphaF() + back * (1 - pixel.alphaF());
+    };
+    return QColor::fromRgbF(mixed(pixel.redF(), ground.redF()),
+                            mixed(pixel.greenF(), ground.greenF()),
+                            mixed(pixel.blueF(), ground.blueF()));
+}
+
+/// The part of all pixels that stand out from `ground`, 3 to 1 or more.
+double readablePart(const QIcon& icon, int side, const QColor& ground) {
+    const QImage image = icon.pixmap(side).toImage();
+    int readable = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            readable += contrast(over(image.pixelColor(x, y), ground), ground) >= 3 ? 1 : 0;
+    }
+    return static_cast<double>(readable) / (image.width() * image.height());
+}
+
+TEST(IconsTest, EachState_HasAShapeOfItsOwn) {
+    for (const int side : {16, 22, 24, 32}) {
+        for (const StatusMenuState a : cStates) {
+            EXPECT_GT(inkedPixels(sign(a, side)), side * side / 8) << side;
+            for (const StatusMenuState b : cStates) {
+                if (a < b) {
+                    EXPECT_GT(difference(sign(a, side), sign(b, side)), 0.12)
+                        << side << " px, states " << static_cast<int>(a) << " and "
+                        << static_cast<int>(b);
+                }
+            }
+        }
+    }
+}
+
+TEST(IconsTest, Sign_IsDrawnInTheInkAsked) {
+    const QImage image = statusIcon(Running, QColor(10, 200, 30), Qt::transparent)
+                             .pixmap(32)
+                             .toImage()
+                             .convertToFormat(QImage::Format_ARGB32);
+    int opaque = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(image.pixel(x, y)) != 255)
+                continue;
+            ++opaque;
+            ASSERT_EQ(image.pixelColor(x, y), QColor(10, 200, 30));
+        }
+    }
+    EXPECT_GT(opaque, 100);
+}
+
+TEST(IconsTest, Sign_StandsOutOnAPanelOfEitherColour) {
+    for (const StatusMenuState state : cStates) {
+        for (const QColor& panel : {QColor(Qt::white), QColor(Qt::black), QColor(0x30, 0x30, 0x30),
+                                    QColor(0xe0, 0xe0, 0xe0)}) {
+            EXPECT_GT(readablePart(statusIcon(state, Qt::black, Qt::white), 16, panel), 0.12);
+            EXPECT_GT(readablePart(statusIcon(state, Qt::white, Qt::black), 16, panel), 0.12);
+        }
+    }
+}
+
+TEST(IconsTest, ApplicationIcon_StandsOutOnLightAndDark) {
+    const QIcon icon = applicationIcon();
+    for (const int side : {16, 24, 32, 48, 64, 128, 256}) {
+        ASSERT_EQ(icon.actualSize(QSize(side, side)), QSize(side, side));
+        EXPECT_GT(readablePart(icon, side, Qt::white), 0.3) << side;
+        EXPECT_GT(readablePart(icon, side, QColor(0x20, 0x20, 0x20)), 0.3) << side;
+    }
+}
+
+} // namespace
+} // namespace kelvo

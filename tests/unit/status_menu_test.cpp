@@ -1,0 +1,283 @@
+#include "adapters/headless/headless_status_menu.h"
+#include "fakes/fake_front.h"
+#include "fakes/fake_status_menu.h"
+#include "fakes/memory_defaults.h"
+#include "fakes/recording_console.h"
+#include "fakes/virtual_queues.h"
+#include "support/preference_keys.h"
+#include "ui/observed_status_field.h"
+#include "ui/status_line.h"
+#include "ui/status_menu_handler.h"
+#include "ui/status_menu_presence.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+using enum StatusMenuState;
+
+struct FakeWindow final : StatusMenuWindow {
+    void showWindow() override { ++shows; }
+    int shows = 0;
+};
+
+struct FakeMainView final : StatusMenuMainView {
+    void clickStartButton() override { ++clicks; }
+    void quitAndRelaunch() override { ++relaunches; }
+    int clicks = 0;
+    int relaunches = 0;
+};
+
+class StatusMenuTest : public ::testing::Test {
+protected:
+    StatusMenuTest() { host.setPresent(true); }
+
+    void set(QStringView key, bool value) {
+        defaults.setObject(key, value);
+        mainQueue.advance(0);
+    }
+
+    FakeTrayHost host;
+    FakeStatusMenu menu{host};
+    MemoryDefaults defaults;
+    VirtualMainQueue mainQueue;
+    RecordingConsole console;
+    int quits = 0;
+    StatusMenuPresence presence{menu, defaults, mainQueue, [this] { ++quits; }};
+    KelvoStatusMenuHandler delegates{presence, console};
+    KelvoStatusMenuHandler views{presence, console};
+};
+
+class StatusMenuPresenceTest : public StatusMenuTest {};
+class KelvoStatusMenuHandlerTest : public StatusMenuTest {};
+
+TEST_F(KelvoStatusMenuHandlerTest, NotSetUp_ShowsNothing) {
+    delegates.removeStatusMenuStuff();
+    set(prefIsScanning, true);
+    presence.setTrouble(true);
+    EXPECT_TRUE(menu.shown.empty());
+    EXPECT_EQ(menu.hides, 0);
+}
+
+TEST_F(KelvoStatusMenuHandlerTest, BothSetUp_ShowOneIconUntilTheLastRemoves) {
+    delegates.setupStatusMenuStuff();
+    views.setupStatusMenuStuff();
+    EXPECT_EQ(menu.shown, std::vector{Off});
+    delegates.removeStatusMenuStuff();
+    EXPECT_EQ(menu.visible(), Off);
+    views.removeStatusMenuStuff();
+    EXPECT_EQ(menu.visible(), std::nullopt);
+    EXPECT_EQ(menu.hides, 1);
+}
+
+TEST_F(KelvoStatusMenuHandlerTest, SetUpTwice_CountsOnce) {
+    delegates.setupStatusMenuStuff();
+    delegates.setupStatusMenuStuff();
+    delegates.removeStatusMenuStuff();
+    EXPECT_EQ(menu.visible(), std::nullopt);
+    delegates.removeStatusMenuStuff();
+    EXPECT_EQ(menu.hides, 1);
+}
+
+TEST_F(KelvoStatusMenuHandlerTest, SetUpAgain_ShowsTheIconAgain) {
+    delegates.setupStatusMenuStuff();
+    delegates.removeStatusMenuStuff();
+    set(prefIsScanning, true);
+    delegates.setupStatusMenuStuff();
+    EXPECT_EQ(menu.visible(), Running);
+}
+
+TEST_F(KelvoStatusMenuHandlerTest, Destroyed_TakesItsWishBack) {
+    {
+        KelvoStatusMenuHandler passing(presence, console);
+        passing.setupStatusMenuStuff();
+        EXPECT_EQ(menu.visible(), Off);
+    }
+    EXPECT_EQ(menu.visible(), std::nullopt);
+}
+
+TEST_F(KelvoStatusMenuHandlerTest, DelegateFunctions_OnlyPrintTheirLines) {
+    delegates.delegatefunction1();
+    delegates.delegatefunction2();
+    EXPECT_EQ(
+        console.printed(),
+        (QStringList{
+            QStringLiteral("Inside SupportKit.KelvoStatusMenuHandler->delegatefunction1()......."),
+            QStringLiteral("Inside SupportKit.KelvoStatusMenuHandler->delegatefunction2()......."),
+        }));
+    EXPECT_TRUE(menu.shown.empty());
+}
+
+TEST_F(KelvoStatusMenuHandlerTest, Properties_ReadBack) {
+    FakeWindow window;
+    FakeMainView mainView;
+    EXPECT_EQ(delegates.fWindowController(), nullptr);
+    EXPECT_EQ(delegates.fMainVC(), nullptr);
+    delegates.setWindowController(&window);
+    delegates.setMainVC(&mainView);
+    EXPECT_EQ(delegates.fWindowController(), &window);
+    EXPECT_EQ(delegates.fMainVC(), &mainView);
+    EXPECT_EQ(views.fMainVC(), nullptr);
+}
+
+TEST_F(KelvoStatusMenuHandlerTest, Description_NamesTypeAndTellsHandlersApart) {
+    EXPECT_TRUE(delegates.description().startsWith(u"<SupportKit.KelvoStatusMenuHandler: 0x"));
+    EXPECT_TRUE(delegates.description().endsWith(u'>'));
+    EXPECT_NE(delegates.description(), views.description());
+}
+
+TEST_F(StatusMenuPresenceTest, Entries_ReachTheTargetsOfWhicheverHandlerHasThem) {
+    FakeWindow window;
+    FakeMainView mainView;
+    delegates.setupStatusMenuStuff();
+    views.setupStatusMenuStuff();
+    delegates.setMainVC(&mainView);
+    views.setWindowController(&window);
+    menu.choose(&StatusMenuActions::showWindow);
+    menu.choose(&StatusMenuActions::startOrStop);
+    menu.choose(&StatusMenuActions::quitAndRelaunch);
+    menu.choose(&StatusMenuActions::quit);
+    EXPECT_EQ(window.shows, 1);
+    EXPECT_EQ(mainView.clicks, 1);
+    EXPECT_EQ(mainView.relaunches, 1);
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(StatusMenuPresenceTest, TwoHandlersWithTheSameWindow_ShowItOnce) {
+    FakeWindow window;
+    for (auto* handler : {&delegates, &views}) {
+        handler->setWindowController(&window);
+        handler->setupStatusMenuStuff();
+    }
+    menu.choose(&StatusMenuActions::showWindow);
+    EXPECT_EQ(window.shows, 1);
+}
+
+TEST_F(StatusMenuPresenceTest, MissingTargets_MakeAnEntryDoNothing) {
+    delegates.setupStatusMenuStuff();
+    EXPECT_TRUE(menu.choose(&StatusMenuActions::showWindow));
+    EXPECT_TRUE(menu.choose(&StatusMenuActions::startOrStop));
+    EXPECT_TRUE(menu.choose(&StatusMenuActions::quitAndRelaunch));
+    EXPECT_EQ(quits, 0);
+}
+
+TEST_F(StatusMenuPresenceTest, RemovedHandler_IsNotActedOn) {
+    FakeWindow first;
+    FakeWindow second;
+    delegates.setWindowController(&first);
+    views.setWindowController(&second);
+    delegates.setupStatusMenuStuff();
+    views.setupStatusMenuStuff();
+    delegates.removeStatusMenuStuff();
+    menu.choose(&StatusMenuActions::showWindow);
+    EXPECT_EQ(first.shows, 0);
+    EXPECT_EQ(second.shows, 1);
+}
+
+TEST(StatusMenuStateTest, Table) {
+    struct Case {
+        bool enabled, scanning, trouble;
+        StatusMenuState state;
+    };
+    for (const Case& c : {Case{false, false, false, Off}, Case{true, false, false, Resting},
+                          Case{true, true, false, Running}, Case{false, true, false, Running},
+                          Case{false, false, true, Trouble}, Case{true, false, true, Trouble},
+                          Case{true, true, true, Trouble}, Case{false, true, true, Trouble}})
+        EXPECT_EQ(statusMenuState(c.enabled, c.scanning, c.trouble), c.state)
+            << c.enabled << c.scanning << c.trouble;
+}
+
+TEST_F(StatusMenuPresenceTest, Settings_ChangeTheIconLaterOnTheMainQueue) {
+    delegates.setupStatusMenuStuff();
+    defaults.setObject(prefEnableScanning, qint64{1});
+    EXPECT_EQ(menu.visible(), Off);
+    mainQueue.advance(0);
+    EXPECT_EQ(menu.visible(), Resting);
+    set(prefIsScanning, true);
+    EXPECT_EQ(menu.visible(), Running);
+    set(prefEnableScanning, false);
+    EXPECT_EQ(menu.visible(), Running);
+    set(prefIsScanning, false);
+    EXPECT_EQ(menu.shown, (std::vector{Off, Resting, Running, Off}));
+}
+
+TEST_F(StatusMenuPresenceTest, EqualState_IsNotShownAgain) {
+    delegates.setupStatusMenuStuff();
+    set(prefIsScanning, false);
+    presence.setTrouble(false);
+    set(prefEnableScanning, false);
+    EXPECT_EQ(menu.shown, std::vector{Off});
+}
+
+TEST_F(StatusMenuPresenceTest, StartTitle_FollowsTheSwitch) {
+    delegates.setupStatusMenuStuff();
+    EXPECT_EQ(menu.startTitle, u"Start Syncing");
+    set(prefEnableScanning, true);
+    EXPECT_EQ(menu.startTitle, u"Stop Syncing");
+    set(prefIsScanning, true);
+    EXPECT_EQ(menu.startTitle, u"Stop Syncing");
+    set(prefEnableScanning, false);
+    EXPECT_EQ(menu.startTitle, u"Start Syncing");
+}
+
+TEST_F(StatusMenuPresenceTest, Destroyed_HidesAndLetsGoOfTheSettings) {
+    auto passing = std::make_unique<StatusMenuPresence>(menu, defaults, mainQueue, [] {});
+    const StatusMenuTargets targets;
+    passing->add(targets);
+    EXPECT_EQ(menu.visible(), Off);
+    passing.reset();
+    EXPECT_EQ(menu.visible(), std::nullopt);
+    set(prefIsScanning, true);
+    EXPECT_EQ(menu.visible(), std::nullopt);
+}
+
+class ObservedStatusFieldTest : public StatusMenuTest {
+protected:
+    std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
+    std::shared_ptr<StatusField> observed = std::make_shared<ObservedStatusField>(
+        field, [this](bool trouble) { presence.setTrouble(trouble); });
+    StatusLine line{defaults, mainQueue, observed};
+};
+
+TEST_F(ObservedStatusFieldTest, RedMessage_IsShownAndMeansTrouble) {
+    delegates.setupStatusMenuStuff();
+    line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
+    EXPECT_EQ(menu.visible(), Off);
+    mainQueue.advance(0.1);
+    EXPECT_EQ(menu.visible(), Trouble);
+    EXPECT_EQ(field->shown.back().string, u"no");
+    EXPECT_EQ(field->shown.back().foregroundColor, StatusColor::Red);
+}
+
+TEST_F(ObservedStatusFieldTest, BlackMessageOrClear_EndsTheTrouble) {
+    delegates.setupStatusMenuStuff();
+    for (const auto& mesg : {std::optional(QStringLiteral("fine")), std::optional<QString>()}) {
+        line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
+        mainQueue.advance(0.1);
+        EXPECT_EQ(menu.visible(), Trouble);
+        line.updateStatusMessage(mesg, StatusColor::Black, true);
+        mainQueue.advance(0.1);
+        EXPECT_EQ(menu.visible(), Off);
+    }
+    EXPECT_EQ(field->shown.size(), 4U);
+}
+
+TEST_F(ObservedStatusFieldTest, TroubleBeforeSetUp_IsRemembered) {
+    line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
+    mainQueue.advance(0.1);
+    delegates.setupStatusMenuStuff();
+    EXPECT_EQ(menu.visible(), Trouble);
+}
+
+TEST(HeadlessStatusMenuTest, Shown_IsStillOutOfReach) {
+    HeadlessStatusMenu menu;
+    menu.setStartTitle(QStringLiteral("Start"));
+    menu.show(Running);
+    EXPECT_FALSE(menu.isReachable());
+    menu.hide();
+    EXPECT_FALSE(menu.isReachable());
+}
+
+} // namespace
+} // namespace kelvo
