@@ -5,7 +5,7 @@
 namespace kelvo {
 namespace {
 
-constexpr qsizetype cWholeBytes = 64 * 1024;
+constexpr qsizetype cWholeBytes = qsizetype{64} * 1024;
 constexpr qsizetype cPartBytes = cWholeBytes / 2;
 
 bool isControl(char16_t unit) {

@@ -15,7 +15,7 @@
 namespace kelvo {
 namespace {
 
-constexpr qsizetype cChunkUnits = 32 * 1024;
+constexpr qsizetype cChunkUnits = qsizetype{32} * 1024;
 
 UniqueFd openedAnew(int fd) {
     return UniqueFd(::open(("/proc/self/fd/" + std::to_string(fd)).c_str(),

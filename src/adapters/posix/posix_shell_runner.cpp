@@ -20,9 +20,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::size_t cMostErrors = 64 * 1024;
+constexpr std::size_t cMostErrors = std::size_t{64} * 1024;
 /// A flood must not hold up the quit: no more than a full pipe is read after giving up.
-constexpr std::size_t cLastRead = 1024 * 1024;
+constexpr std::size_t cLastRead = std::size_t{1024} * 1024;
 constexpr auto cAskPatience = 2000ms;
 constexpr auto cForcePatience = 1000ms;
 

@@ -22,7 +22,7 @@ namespace kelvo {
 /// at most every 5 s.
 class RotatingLogFile final : public LogFile {
 public:
-    static constexpr std::size_t cFileSize = 5 * 1024 * 1024;
+    static constexpr std::size_t cFileSize = std::size_t{5} * 1024 * 1024;
 
     explicit RotatingLogFile(std::size_t fileSize = cFileSize);
     ~RotatingLogFile() override;

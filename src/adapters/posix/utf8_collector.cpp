@@ -7,11 +7,11 @@
 namespace kelvo {
 namespace {
 
-constexpr std::size_t cBufferSize = 256 * 1024;
+constexpr std::size_t cBufferSize = std::size_t{256} * 1024;
 /// Blocks from this size on are always mapped by the C library, so that growing moves pages and
 /// copies nothing; what is reserved and not written takes no memory.
-constexpr qsizetype cMappedUnits = 20 * 1024 * 1024;
-constexpr qsizetype cSmallUnits = 512 * 1024;
+constexpr qsizetype cMappedUnits = qsizetype{20} * 1024 * 1024;
+constexpr qsizetype cSmallUnits = qsizetype{512} * 1024;
 
 std::size_t sequenceLength(unsigned char lead) {
     if (lead >= 0xf0)
