@@ -59,7 +59,7 @@ QString RsyncCommand::getRsyncCommandOptionString() const {
 QString RsyncCommand::fillInParams(const QString& command, const RsyncParams& params) const {
     tracePathStep(params.srcpath);
     tracePathStep(params.dstpath);
-    const QString filled = filledCommand(command, params, getRsyncCommandOptionString());
+    QString filled = filledCommand(command, params, getRsyncCommandOptionString());
     fConsole.print(insideLine(u"String", u"fillInParams(srcpath:dstpath:sshfilepath:)",
                               QString(u".......returning:\n" + filled)));
     return filled;

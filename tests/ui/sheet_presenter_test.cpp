@@ -24,7 +24,11 @@ class SheetPresenterTest : public ::testing::Test {
 protected:
     SheetPresenterTest() { window->show(); }
 
-    QMessageBox* box() { return window->findChild<QMessageBox*>(QStringLiteral("alert")); }
+    /// The sheet on the window; those that are closed are swept away first.
+    QMessageBox* box() {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return window->findChild<QMessageBox*>(QStringLiteral("alert"));
+    }
     QAbstractButton* button(const QString& title) {
         for (QAbstractButton* candidate : box()->buttons()) {
             if (candidate->text() == title)
@@ -63,7 +67,6 @@ TEST_F(SheetPresenterTest, Buttons_AnswerByTheirPlace) {
 TEST_F(SheetPresenterTest, Keyboard_ReturnIsTheFirstButtonAndEscapeTheLast) {
     presenter->beginSheet(cProblem, record());
     QTest::keyClick(box(), Qt::Key_Return);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     presenter->beginSheet(cProblem, record());
     QTest::keyClick(box(), Qt::Key_Escape);
     EXPECT_EQ(responses, (std::vector<ModalResponse>{1000, 1001}));

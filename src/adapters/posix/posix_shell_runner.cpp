@@ -37,10 +37,10 @@ void reap(pid_t pid, int options) {
 class PosixShellRunner::Capture {
 public:
     Capture(const ShellChild& child, int giveUp)
-        : fWatched{{{child.output.get(), POLLIN, 0},
-                    {child.errors.get(), POLLIN, 0},
-                    {child.ended.get(), POLLIN, 0},
-                    {giveUp, POLLIN, 0}}} {}
+        : fWatched{{child.output.get(), POLLIN, 0},
+                   {child.errors.get(), POLLIN, 0},
+                   {child.ended.get(), POLLIN, 0},
+                   {giveUp, POLLIN, 0}} {}
 
     void run() {
         while (fWatched[Output].fd >= 0 || fWatched[Ended].fd >= 0) {
@@ -108,10 +108,10 @@ private:
         return size;
     }
 
-    std::array<pollfd, 4> fWatched;
     Utf8Collector fOutput;
     std::string fErrors;
     std::size_t fErrorsLeftOut = 0;
+    std::vector<pollfd> fWatched;
 };
 
 PosixShellRunner::PosixShellRunner(Console& console)

@@ -4,6 +4,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QGuiApplication>
+#include <QTimer>
 
 #include <cstdlib>
 #include <string>
@@ -139,13 +140,13 @@ bool DesktopTrayHost::nativeEventFilter(const QByteArray& type, void* message, q
     case XCB_CLIENT_MESSAGE: {
         const auto* note = reinterpret_cast<const xcb_client_message_event_t*>(event);
         if (note->type == fManagerAtom && note->data.data32[1] == fSelection)
-            QMetaObject::invokeMethod(this, &DesktopTrayHost::askX11, Qt::QueuedConnection);
+            QTimer::singleShot(0, this, &DesktopTrayHost::askX11);
         break;
     }
     case XCB_DESTROY_NOTIFY: {
         const auto* gone = reinterpret_cast<const xcb_destroy_notify_event_t*>(event);
         if (fManagerWindow && gone->window == fManagerWindow)
-            QMetaObject::invokeMethod(this, &DesktopTrayHost::askX11, Qt::QueuedConnection);
+            QTimer::singleShot(0, this, &DesktopTrayHost::askX11);
         break;
     }
     default:

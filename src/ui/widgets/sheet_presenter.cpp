@@ -60,8 +60,7 @@ SheetId SheetPresenter::beginSheet(const Alert& alert, std::function<void(ModalR
     fOpenSheets.emplace(sheet, box);
     QObject::connect(box, &QMessageBox::finished, box,
                      [this, sheet, box, handler = std::move(handler)] {
-                         fOpenSheets.erase(sheet);
-                         if (handler)
+                         if (fOpenSheets.erase(sheet) > 0 && handler)
                              handler(responseOf(*box));
                      });
     box->show();
