@@ -1,6 +1,7 @@
 // The built program from outside, on a profile of its own and with real rsync between two folders.
 #include "support/plist_text.h"
 #include "support/running_program.h"
+#include "support/virtual_display.h"
 
 #include <QDir>
 #include <QFile>
@@ -206,6 +207,25 @@ TEST_F(ProgramTest, LogFile_IsPrivateAndHoldsTheLines) {
     const auto mode = QFileInfo(logFile()).permissions() &
                       (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther);
     EXPECT_EQ(mode, QFile::Permissions());
+}
+
+TEST_F(ProgramTest, RealWindow_RunsTheSamePassAndEndsInOrder) {
+    VirtualDisplay display;
+    const QString name = display.start();
+    if (name.isEmpty())
+        GTEST_SKIP() << "no Xvfb on this machine to open a window on";
+    write(settingsFile(), plistText(plainProfile()));
+    write(path(QStringLiteral("Camera/a.mov")), "movie");
+    QProcessEnvironment withDisplay = environment();
+    withDisplay.insert(QStringLiteral("DISPLAY"), name);
+    withDisplay.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    RunningProgram program(cProgram, {}, withDisplay);
+    ASSERT_TRUE(program.waitForLine(QStringLiteral("result from shell command ="), 60))
+        << program.transcript().toStdString();
+    EXPECT_EQ(contents(path(QStringLiteral("Incoming/a.mov"))), "movie");
+    EXPECT_EQ(program.lines().filter(QStringLiteral("status ")), QStringList())
+        << "status lines are in the window";
+    EXPECT_EQ(program.stop(), 0) << program.transcript().toStdString();
 }
 
 TEST_F(ProgramTest, OutputNobodyReads_DoesNotStopTheProgram) {

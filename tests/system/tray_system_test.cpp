@@ -1,4 +1,5 @@
 #include "support/session_bus.h"
+#include "support/virtual_display.h"
 #include "support/wait_in_loop.h"
 
 #include <QDBusInterface>
@@ -36,22 +37,17 @@ QString missingTool(std::initializer_list<const char*> tools) {
 class TraySystemTest : public ::testing::Test {
 protected:
     ~TraySystemTest() override {
-        for (QProcess* process : {&program, &tray, &display})
+        for (QProcess* process : {&program, &tray})
             end(*process);
     }
 
     /// False when no display came up.
     bool startDisplay() {
-        display.setProcessChannelMode(QProcess::SeparateChannels);
-        display.start(QStringLiteral("Xvfb"),
-                      {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                       QStringLiteral("0"), QStringLiteral("800x600x24"),
-                       QStringLiteral("-nolisten"), QStringLiteral("tcp")});
-        if (!waitInLoop([&] { return display.canReadLine(); }))
+        const QString name = display.start();
+        if (name.isEmpty())
             return false;
         environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DISPLAY"),
-                           QString(u':' + QString::fromLatin1(display.readLine().trimmed())));
+        environment.insert(QStringLiteral("DISPLAY"), name);
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
         environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
                            bus.isEmpty() ? QStringLiteral("disabled:") : bus);
@@ -143,7 +139,7 @@ protected:
 
     QString bus;
     QProcessEnvironment environment;
-    QProcess display;
+    VirtualDisplay display;
     QProcess tray;
     QProcess program;
 

@@ -1,0 +1,37 @@
+// VirtualDisplay: an X display of a test's own, gone with the test.
+#pragma once
+
+#include <QProcess>
+#include <QString>
+
+namespace kelvo {
+
+class VirtualDisplay {
+public:
+    ~VirtualDisplay() {
+        if (fServer.state() == QProcess::NotRunning)
+            return;
+        fServer.terminate();
+        if (!fServer.waitForFinished())
+            fServer.kill();
+        fServer.waitForFinished();
+    }
+
+    /// Starts the server and returns its name, for DISPLAY; empty when none came up.
+    QString start() {
+        fServer.start(QStringLiteral("Xvfb"),
+                      {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                       QStringLiteral("0"), QStringLiteral("800x600x24"),
+                       QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+        while (!fServer.canReadLine()) {
+            if (!fServer.waitForReadyRead(20000))
+                return {};
+        }
+        return u':' + QString::fromLatin1(fServer.readLine().trimmed());
+    }
+
+private:
+    QProcess fServer;
+};
+
+} // namespace kelvo
