@@ -9,6 +9,8 @@ kelvo_tests(system
     system/tray_system_test.cpp
   LINKS kelvo_bus_testing
   TIMEOUT 120
+  PROPERTIES
+    ENVIRONMENT LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/support/leaks.supp
 )
 target_compile_definitions(system_tests PRIVATE
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror"
