@@ -1,7 +1,10 @@
 kelvo_tests(unit
   SOURCES
+    unit/bundle_version_test.cpp
     unit/close_policy_test.cpp
+    unit/folder_selection_test.cpp
     unit/headless_front_test.cpp
+    unit/network_path_monitoring_test.cpp
     unit/preferences_test.cpp
     unit/plain_line_test.cpp
     unit/property_value_test.cpp
