@@ -16,6 +16,7 @@ kelvo_tests(unit
     unit/stored_value_test.cpp
     unit/sync_cycle_test.cpp
     unit/text_test.cpp
+    unit/view_controller_setup_test.cpp
     unit/view_controller_test.cpp
   LINKS kelvo_ui kelvo_adapters_headless
 )
