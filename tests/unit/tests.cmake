@@ -5,6 +5,7 @@ kelvo_tests(unit
     unit/preferences_test.cpp
     unit/plain_line_test.cpp
     unit/property_value_test.cpp
+    unit/relaunch_decision_test.cpp
     unit/remote_host_validation_test.cpp
     unit/repeat_timer_test.cpp
     unit/rsync_command_test.cpp
@@ -14,5 +15,6 @@ kelvo_tests(unit
     unit/sync_cycle_test.cpp
     unit/text_test.cpp
     unit/view_controller_test.cpp
-  LINKS kelvo_ui kelvo_adapters_headless
+    unit/watchdog_test.cpp
+  LINKS kelvo_ui kelvo_adapters_headless kelvo_watchdog
 )
