@@ -1,6 +1,22 @@
 #include "app/relaunch_decision.h"
 
+#include <array>
+#include <charconv>
+#include <limits>
+
 namespace kelvo {
+namespace {
+
+/// As printf writes it in the C locale; a tie goes to the even digit, unlike QString::number.
+QString decimal(double number, int digits) {
+    std::array<char, std::numeric_limits<double>::max_exponent10 + 8> text{};
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), number,
+                                   std::chars_format::fixed, digits)
+                         .ptr;
+    return QString::fromLatin1(text.data(), end - text.data());
+}
+
+} // namespace
 
 bool isOrdinaryStart(unsigned long count, bool autorelaunched) {
     return count != 0 && !autorelaunched;
@@ -34,9 +50,10 @@ RelaunchDecision decideRelaunch(const QVariant& record, unsigned long count, dou
         return decision;
     decision.keepRunning = escape && escape(count, interval);
     decision.line =
-        QString::asprintf("%ssetting auto-relaunch because interval since %lu previous launches "
-                          "is less than %.1f sec (%.f)",
-                          decision.keepRunning ? "" : "NOT ", count, seconds, interval);
+        QStringLiteral("%1setting auto-relaunch because interval since %2 previous launches is "
+                       "less than %3 sec (%4)")
+            .arg(decision.keepRunning ? QString() : QStringLiteral("NOT "), QString::number(count),
+                 decimal(seconds, 1), decimal(interval, 0));
     return decision;
 }
 

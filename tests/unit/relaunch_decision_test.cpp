@@ -30,6 +30,10 @@ struct Case {
     const char* line; ///< empty: none
 };
 
+void PrintTo(const Case& shown, std::ostream* out) {
+    *out << shown.what;
+}
+
 constexpr const char* cNot4 = "NOT setting auto-relaunch because interval since 4 previous "
                               "launches is less than 30.0 sec (25)";
 
