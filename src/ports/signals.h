@@ -4,6 +4,7 @@
 #include "support/subscription.h"
 
 #include <functional>
+#include <utility>
 
 namespace kelvo {
 
@@ -16,9 +17,17 @@ public:
     /// Several handlers of one number are all called, in the order of registration. Once the
     /// subscription is gone no call follows; with the last one of a number its earlier disposition
     /// comes back. A handler may end subscriptions, its own too. A number that cannot be caught
-    /// (SIGKILL, SIGSTOP, out of range) gives a subscription to nothing. A fault of the program
-    /// itself (SIGSEGV, SIGBUS, SIGILL, SIGFPE raised by the processor) still ends it. Main thread.
-    virtual Subscription catchSignal(int number, std::function<void()> handler) = 0;
+    /// (SIGKILL, SIGSTOP, out of range) gives a subscription to nothing, and `error` the errno
+    /// value that tells why; 0 otherwise. Main thread.
+    /// What the program does to itself still ends it at once: a fault raised by the processor
+    /// (SIGSEGV, SIGBUS, SIGILL, SIGFPE), a stack that overflows, abort(). The same numbers sent by
+    /// anybody are caught like all others.
+    virtual Subscription catchSignal(int number, std::function<void()> handler, int& error) = 0;
+
+    Subscription catchSignal(int number, std::function<void()> handler) {
+        int error = 0;
+        return catchSignal(number, std::move(handler), error);
+    }
 };
 
 } // namespace kelvo

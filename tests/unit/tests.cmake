@@ -8,6 +8,7 @@ kelvo_tests(unit
     unit/preferences_test.cpp
     unit/plain_line_test.cpp
     unit/property_value_test.cpp
+    unit/relaunch_decision_test.cpp
     unit/remote_host_validation_test.cpp
     unit/repeat_timer_test.cpp
     unit/rsync_command_test.cpp
@@ -18,5 +19,6 @@ kelvo_tests(unit
     unit/text_test.cpp
     unit/view_controller_setup_test.cpp
     unit/view_controller_test.cpp
-  LINKS kelvo_ui kelvo_adapters_headless
+    unit/watchdog_test.cpp
+  LINKS kelvo_ui kelvo_adapters_headless kelvo_watchdog
 )

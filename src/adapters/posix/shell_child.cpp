@@ -1,10 +1,10 @@
 #include "adapters/posix/shell_child.h"
 
+#include "adapters/posix/clean_attributes.h"
 #include "adapters/posix/command_processes.h"
 #include "adapters/posix/pidfd.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <spawn.h>
 
 #include <algorithm>
@@ -64,30 +64,6 @@ public:
 
 private:
     posix_spawn_file_actions_t fActions{};
-};
-
-class CleanAttributes {
-public:
-    CleanAttributes() {
-        ::posix_spawnattr_init(&fAttributes);
-        sigset_t set;
-        ::sigemptyset(&set);
-        ::posix_spawnattr_setsigmask(&fAttributes, &set);
-        ::sigfillset(&set);
-        ::sigdelset(&set, SIGKILL);
-        ::sigdelset(&set, SIGSTOP);
-        ::posix_spawnattr_setsigdefault(&fAttributes, &set);
-        ::posix_spawnattr_setflags(&fAttributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK |
-                                                     POSIX_SPAWN_SETSIGDEF);
-    }
-    ~CleanAttributes() { ::posix_spawnattr_destroy(&fAttributes); }
-    CleanAttributes(const CleanAttributes&) = delete;
-    CleanAttributes& operator=(const CleanAttributes&) = delete;
-
-    const posix_spawnattr_t* get() const { return &fAttributes; }
-
-private:
-    posix_spawnattr_t fAttributes{};
 };
 
 } // namespace

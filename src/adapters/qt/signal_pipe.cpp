@@ -10,6 +10,7 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
+#include <cstddef>
 #include <map>
 #include <utility>
 #include <vector>
@@ -18,6 +19,7 @@ namespace kelvo {
 namespace {
 
 constexpr int cLastSignal = 31;
+constexpr long cStackSize = 64L * 1024;
 
 // A signal handler has no other way to find its pipe.
 std::atomic<int> gWriteEnd{-1}; // NOLINT
@@ -40,6 +42,33 @@ void passOn(int number, siginfo_t* info, void*) {
     }
     errno = before;
 }
+
+/// A signal stack for the main thread, unless it has one (a sanitizer's, for example).
+class AlternateStack {
+public:
+    AlternateStack() {
+        stack_t present{};
+        if (::sigaltstack(nullptr, &present) != 0 || (present.ss_flags & SS_DISABLE) == 0)
+            return;
+        const auto size = static_cast<std::size_t>(std::max<long>(cStackSize, SIGSTKSZ));
+        fMemory = std::make_unique_for_overwrite<std::byte[]>(size);
+        const stack_t ours{fMemory.get(), 0, size};
+        ::sigaltstack(&ours, nullptr);
+    }
+    ~AlternateStack() {
+        stack_t present{};
+        if (fMemory == nullptr || ::sigaltstack(nullptr, &present) != 0 ||
+            present.ss_sp != fMemory.get())
+            return;
+        const stack_t none{nullptr, SS_DISABLE, 0};
+        ::sigaltstack(&none, nullptr);
+    }
+    AlternateStack(const AlternateStack&) = delete;
+    AlternateStack& operator=(const AlternateStack&) = delete;
+
+private:
+    std::unique_ptr<std::byte[]> fMemory;
+};
 
 struct Catcher {
     int number;
@@ -75,11 +104,16 @@ public:
     State(const State&) = delete;
     State& operator=(const State&) = delete;
 
-    bool add(const std::shared_ptr<Catcher>& catcher) {
-        if (!fActive || (!fEarlier.contains(catcher->number) && !takeOver(catcher->number)))
-            return false;
+    /// 0, or the errno value that tells why not.
+    int add(const std::shared_ptr<Catcher>& catcher) {
+        if (!fActive)
+            return EBUSY;
+        if (!fEarlier.contains(catcher->number)) {
+            if (const int error = takeOver(catcher->number))
+                return error;
+        }
         fCatchers.push_back(catcher);
-        return true;
+        return 0;
     }
 
     void remove(const std::shared_ptr<Catcher>& catcher) {
@@ -92,18 +126,18 @@ public:
     }
 
 private:
-    bool takeOver(int number) {
+    int takeOver(int number) {
         if (number < 1 || number > cLastSignal)
-            return false;
+            return EINVAL;
         struct sigaction action {};
         action.sa_sigaction = passOn;
-        action.sa_flags = SA_SIGINFO | SA_RESTART;
+        action.sa_flags = SA_SIGINFO | SA_RESTART | SA_ONSTACK;
         ::sigfillset(&action.sa_mask);
         struct sigaction earlier {};
         if (::sigaction(number, &action, &earlier) != 0)
-            return false;
+            return errno;
         fEarlier.emplace(number, earlier);
-        return true;
+        return 0;
     }
 
     void read() {
@@ -121,6 +155,7 @@ private:
         }
     }
 
+    AlternateStack fStack;
     std::array<int, 2> fEnds{-1, -1};
     bool fActive = false;
     std::unique_ptr<QSocketNotifier> fNotifier;
@@ -132,9 +167,10 @@ SignalPipe::SignalPipe() : fState(std::make_shared<State>()) {}
 
 SignalPipe::~SignalPipe() = default;
 
-Subscription SignalPipe::catchSignal(int number, std::function<void()> handler) {
+Subscription SignalPipe::catchSignal(int number, std::function<void()> handler, int& error) {
     const auto catcher = std::make_shared<Catcher>(Catcher{number, std::move(handler)});
-    if (!fState->add(catcher))
+    error = fState->add(catcher);
+    if (error != 0)
         return {};
     return Subscription([state = std::weak_ptr(fState), catcher] {
         catcher->ended = true;

@@ -1,0 +1,33 @@
+// Whether the program keeps itself running after it was started again, as pure functions.
+#pragma once
+
+#include "ports/relaunch_guard.h"
+
+#include <QDateTime>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+
+namespace kelvo {
+
+/// A start by a person, or by anything else but the sentinel: the record begins anew.
+bool isOrdinaryStart(unsigned long count, bool autorelaunched);
+
+/// Seconds from the `count`-th most recent date in `record` to `now`; `seconds` when the record is
+/// no array, is shorter, or has no date there, and when `count` is 0.
+double relaunchInterval(const QVariant& record, unsigned long count, double seconds,
+                        const QDateTime& now);
+
+struct RelaunchDecision {
+    bool keepRunning = true;
+    std::optional<QString> line; ///< what the system log shall say of it
+    QVariantList record;         ///< the dates, `now` the last
+};
+
+/// Decides after a relaunch: on, unless the last `count` relaunches came within `seconds` and
+/// `escape`, asked only then (or when `count` is 0), is empty or answers false.
+RelaunchDecision decideRelaunch(const QVariant& record, unsigned long count, double seconds,
+                                const RelaunchGuard::Escape& escape, const QDateTime& now);
+
+} // namespace kelvo
