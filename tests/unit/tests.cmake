@@ -1,6 +1,9 @@
 kelvo_tests(unit
   SOURCES
+    unit/bonjour_selection_test.cpp
+    unit/bonjour_view_controller_test.cpp
     unit/close_policy_test.cpp
+    unit/dnssd_service_test.cpp
     unit/headless_front_test.cpp
     unit/preferences_test.cpp
     unit/plain_line_test.cpp
@@ -8,6 +11,7 @@ kelvo_tests(unit
     unit/remote_host_validation_test.cpp
     unit/repeat_timer_test.cpp
     unit/rsync_command_test.cpp
+    unit/service_name_rules_test.cpp
     unit/status_and_alerts_test.cpp
     unit/status_menu_test.cpp
     unit/stored_value_test.cpp
