@@ -53,6 +53,8 @@ ViewController::ViewController(const ViewControllerParts& parts)
       fNetwork({parts.notificationCenter, parts.mainQueue, parts.console, parts.networkBrowser,
                 parts.makeKelvoSSID,
                 [&view = parts.view](const QString& text) { view.showNetworkStatus(text); }}),
+      fBonjour({parts.mainQueue, parts.console, parts.dnssdBrowser, parts.sheets,
+                parts.fArrayController}),
       myStatusMenuHandler(parts.statusMenu, parts.console),
       fUsesSSH(parts.defaults.boolForKey(prefRsyncWithSSH)) {}
 

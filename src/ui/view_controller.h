@@ -1,6 +1,7 @@
 // ViewController: the controller of the main window, without any widget.
 #pragma once
 
+#include "discovery/bonjour_selection.h"
 #include "discovery/network_path_monitoring.h"
 #include "ports/control.h"
 #include "ports/user_defaults.h"
@@ -63,6 +64,11 @@ public:
     void ibAction1(Control* sender) { fFolders.ibAction1(sender); }
     void ibOpenTempFolder(Control* sender) { fFolders.ibOpenTempFolder(sender); }
 
+    // The network.
+    void ibSelectSourceByBonjor(Control*) { fBonjour.ibSelectSourceByBonjor(); }
+    void ibSelectDestByBonjor(Control*) { fBonjour.ibSelectDestByBonjor(); }
+    void ibSearchBonjour(Control*) { fBonjour.ibSearchBonjour(); }
+    void ibShowBonjourListInfo(Control*) { fBonjour.ibShowBonjourListInfo(); }
     void ibTestNWBrowser(Control* sender) { fNetwork.ibTestNWBrowser(sender); }
 
     /// Takes the keyboard focus away, on the next turn of the main queue.
@@ -109,6 +115,7 @@ private:
     FolderSelection fFolders;
     RevealButtonWatchers fRevealButtonWatchers;
     NetworkPathMonitoring fNetwork;
+    BonjourSelection fBonjour;
     KelvoStatusMenuHandler myStatusMenuHandler;
     bool fUsesSSH;
     std::vector<Subscription> fObservations;

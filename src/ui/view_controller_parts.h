@@ -10,12 +10,14 @@ namespace kelvo {
 
 class AlertPresenter;
 class Application;
+class ArrayController;
 class BackgroundQueue;
 class Bundle;
 class Button;
 class Console;
 class Control;
 class DispatchQueue;
+class DnssdBrowser;
 class FileManager;
 class MainView;
 class NetworkBrowser;
@@ -24,6 +26,7 @@ class NotificationCenter;
 class OpenPanel;
 class PathControl;
 class RelaunchGuard;
+class SheetOpener;
 class ShellRunner;
 class StatusField;
 class StatusMenuPresence;
@@ -46,6 +49,7 @@ struct ViewControllerParts {
     Workspace& workspace;
     OpenPanel& openPanel;
     NetworkBrowser& networkBrowser;
+    DnssdBrowser& dnssdBrowser;
     std::function<std::unique_ptr<NetworkChecker>()> makeKelvoSSID;
     StatusMenuPresence& statusMenu;
     QString temporaryDirectory; ///< the user's, absolute
@@ -53,6 +57,8 @@ struct ViewControllerParts {
     // What lies in the window.
     MainView& view;
     AlertPresenter& alertPresenter;
+    SheetOpener& sheets;
+    ArrayController& fArrayController; ///< what the main view's own search found
     Button& ibStartButton;
     const Control* ibRevealButton1;
     const Control* ibRevealButton2;

@@ -7,11 +7,13 @@
 #include "fakes/fake_main_view.h"
 #include "fakes/fake_network.h"
 #include "fakes/fake_relaunch_guard.h"
+#include "fakes/fake_service_table.h"
 #include "fakes/fake_status_menu.h"
 #include "fakes/memory_bundle.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/recording_notification_center.h"
+#include "fakes/scripted_browser.h"
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
 #include "support/preference_keys.h"
@@ -56,6 +58,9 @@ public:
     FakeWorkspace workspace;
     FakeOpenPanel openPanel;
     FakeNetworkBrowser networkBrowser;
+    ScriptedBrowser dnssdBrowser;
+    FakeSheetOpener sheets;
+    FakeArrayController foundServices;
     FakeTrayHost tray;
     FakeStatusMenu menu{tray};
     StatusMenuPresence statusMenu{menu, defaults, mainQueue, [] {}};
@@ -81,6 +86,7 @@ public:
                                workspace,
                                openPanel,
                                networkBrowser,
+                               dnssdBrowser,
                                [this] {
                                    return std::make_unique<FakeNetworkChecker>(
                                        notificationCenter, QStringLiteral("Connected"));
@@ -89,6 +95,8 @@ public:
                                QStringLiteral("/tmp/of me"),
                                view,
                                presenter,
+                               sheets,
+                               foundServices,
                                button,
                                &revealButton1,
                                &revealButton2,
