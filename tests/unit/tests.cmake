@@ -1,7 +1,9 @@
 kelvo_tests(unit
   SOURCES
+    unit/app_delegate_test.cpp
     unit/bundle_version_test.cpp
     unit/close_policy_test.cpp
+    unit/duplicate_check_test.cpp
     unit/folder_selection_test.cpp
     unit/headless_front_test.cpp
     unit/network_path_monitoring_test.cpp
@@ -17,5 +19,5 @@ kelvo_tests(unit
     unit/sync_cycle_test.cpp
     unit/text_test.cpp
     unit/view_controller_test.cpp
-  LINKS kelvo_ui kelvo_adapters_headless
+  LINKS kelvo_start kelvo_adapters_headless
 )
