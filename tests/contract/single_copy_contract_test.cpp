@@ -5,6 +5,7 @@
 #include "fakes/recording_console.h"
 #include "support/wait_in_loop.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -139,7 +140,8 @@ TEST_F(SingleCopySocketTest, RequestInPieces_Counts) {
     ASSERT_EQ(first->claim([&] { ++shows; }), Claim::First);
     const UniqueFd guest = connected();
     ASSERT_EQ(::send(guest.get(), "sh", 2, MSG_NOSIGNAL), 2);
-    EXPECT_FALSE(waitInLoop([&] { return shows > 0; }, 0));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shows, 0);
     ASSERT_EQ(::send(guest.get(), "ow\n", 3, MSG_NOSIGNAL), 3);
     EXPECT_TRUE(waitInLoop([&] { return shows == 1; }));
 }
@@ -150,7 +152,7 @@ TEST_F(SingleCopySocketTest, SilentGuests_LeaveRoomForTheNext) {
     std::vector<UniqueFd> silent;
     for (int i = 0; i < 100; ++i) {
         silent.push_back(connected());
-        waitInLoop([] { return false; }, 0);
+        QCoreApplication::processEvents();
     }
     const auto second = copy();
     EXPECT_EQ(claimAside(*second), Claim::OtherIsShown);
