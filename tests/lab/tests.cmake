@@ -15,6 +15,7 @@ kelvo_tests(lab
   SOURCES
     lab/lab_fixture.cpp
     lab/lab_host_test.cpp
+    lab/network_lab_test.cpp
     lab/sync_lab_test.cpp
   TIMEOUT 180
   PROPERTIES
@@ -24,4 +25,6 @@ kelvo_tests(lab
 )
 target_compile_definitions(lab_tests PRIVATE
   KELVO_LAB_COMMAND="${KELVO_LAB_COMMAND}"
+  KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror")
+add_dependencies(lab_tests network_watcher)

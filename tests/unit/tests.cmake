@@ -1,10 +1,12 @@
 kelvo_tests(unit
   SOURCES
+    unit/app_delegate_test.cpp
     unit/bonjour_selection_test.cpp
     unit/bonjour_view_controller_test.cpp
     unit/bundle_version_test.cpp
     unit/close_policy_test.cpp
     unit/dnssd_service_test.cpp
+    unit/duplicate_check_test.cpp
     unit/folder_selection_test.cpp
     unit/headless_front_test.cpp
     unit/network_path_monitoring_test.cpp
@@ -25,4 +27,5 @@ kelvo_tests(unit
     unit/view_controller_test.cpp
     unit/watchdog_test.cpp
   LINKS kelvo_ui kelvo_adapters_headless kelvo_watchdog
+  LINKS kelvo_start kelvo_adapters_headless
 )

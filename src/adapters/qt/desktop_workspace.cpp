@@ -105,7 +105,7 @@ void DesktopWorkspace::openUrl(const QString& url) {
         fConsole.log(u"Cannot open " + withVisibleControls(url) + u": this is no address to open.");
         return;
     }
-    open(address.toString(QUrl::FullyEncoded));
+    open(url);
 }
 
 void DesktopWorkspace::openFile(const QString& path) {
@@ -124,7 +124,7 @@ QString DesktopWorkspace::addressOf(const QString& path) const {
 }
 
 void DesktopWorkspace::open(const QString& address) {
-    const pid_t pid = startDetached(fOpener.toLocal8Bit(), address.toLatin1());
+    const pid_t pid = startDetached(fOpener.toLocal8Bit(), address.toUtf8());
     if (pid < 0) {
         fConsole.log(u"Cannot open " + address + u": " + fOpener + u": " +
                      QString::fromLocal8Bit(std::strerror(-pid))); // NOLINT(concurrency-mt-unsafe)
