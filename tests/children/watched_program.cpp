@@ -1,8 +1,8 @@
 // A small program under the real watchdog, to be ended in every way there is.
 //   watched_program FOLDER ACTION [ARGUMENT…]
 // Keeps everything in FOLDER: the settings, "resources" with the sentinel, "log" with the lines,
-// and "starts", a record for each start: process id, number of open descriptors, working folder,
-// the variable KELVO_TEST_MARK and the arguments. ACTION is what a start by hand does then.
+// and "starts", a record for each start: process id, how many descriptors it came with, working
+// folder, the variable KELVO_TEST_MARK and the arguments. ACTION is what a start by hand does then.
 #include "adapters/posix/local_notification_center.h"
 #include "adapters/posix/posix_sentinel_launcher.h"
 #include "adapters/posix/posix_shell_runner.h"
@@ -55,8 +55,8 @@ private:
 
 class WatchedProgram {
 public:
-    WatchedProgram(const QString& folder, const QStringList& arguments)
-        : fFolder(folder), fArguments(arguments) {}
+    WatchedProgram(const QString& folder, const QStringList& arguments, qsizetype descriptors)
+        : fFolder(folder), fArguments(arguments), fDescriptors(descriptors) {}
 
     int run(const QString& action) {
         const Subscription watchdog = Watchdog::begin(
@@ -80,9 +80,7 @@ public:
 
 private:
     void report() const {
-        const auto descriptors =
-            QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size();
-        const QStringList fields{QString::number(::getpid()), QString::number(descriptors),
+        const QStringList fields{QString::number(::getpid()), QString::number(fDescriptors),
                                  QDir::currentPath(), qEnvironmentVariable("KELVO_TEST_MARK"),
                                  fArguments.join(u'\x1f')};
         append(fFolder + QStringLiteral("/starts"),
@@ -120,6 +118,7 @@ private:
     int* volatile fNowhere = nullptr;
     const QString fFolder;
     const QStringList fArguments;
+    const qsizetype fDescriptors;
     FileConsole fConsole{fFolder + QStringLiteral("/log")};
     QtMainQueue fMainQueue;
     PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), fMainQueue, fConsole};
@@ -137,9 +136,12 @@ private:
 int main(int argc, char** argv) {
     if (argc < 3)
         return 2;
+    // Less the one that reads the folder.
+    const qsizetype descriptors =
+        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size() - 1;
     const QCoreApplication application(argc, argv);
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
-    return WatchedProgram(arguments.at(1), arguments).run(arguments.at(2));
+    return WatchedProgram(arguments.at(1), arguments, descriptors).run(arguments.at(2));
 }
