@@ -138,7 +138,10 @@ int main(int argc, char** argv) {
         return 2;
     // Less the one that reads the folder.
     const qsizetype descriptors =
-        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size() - 1;
+        QDir(QStringLiteral("/proc/self/fd"))
+            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System)
+            .size() -
+        1;
     const QCoreApplication application(argc, argv);
     QStringList arguments;
     for (int i = 0; i < argc; ++i)

@@ -154,12 +154,14 @@ TEST_F(SentinelTest, WhileItWaits_ItSharesStreamsOnlyAndNoTerminalOrSignal) {
 
     const QDir descriptors(QStringLiteral("/proc/%1/fd").arg(sentinel));
     int held = 0;
-    for (const QString& name : descriptors.entryList(QDir::Files | QDir::System)) {
+    for (const QString& name :
+         descriptors.entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System)) {
         std::array<char, 256> target{};
         (void)!::readlink(descriptors.filePath(name).toLocal8Bit().constData(), target.data(),
                           target.size() - 1);
-        if (name.toInt() > STDERR_FILENO)
+        if (name.toInt() > STDERR_FILENO) {
             EXPECT_STREQ(target.data(), "anon_inode:[pidfd]") << name.toStdString();
+        }
         ++held;
     }
     EXPECT_EQ(held, 4);
