@@ -9,11 +9,19 @@
 #include <signal.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
+#include <cstdlib>
 #include <functional>
 #include <memory>
 #include <string>
 #include <thread>
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool cSanitized = true;
+#else
+constexpr bool cSanitized = false;
+#endif
 
 namespace kelvo {
 namespace {
@@ -135,7 +143,9 @@ TEST_F(SignalPipeTest, NumbersThatCannotBeCaught_AreASubscriptionToNothing) {
 
 TEST_F(SignalPipeTest, SecondPipe_CatchesNothing) {
     SignalPipe second;
-    const auto nothing = second.catchSignal(SIGUSR1, note("x"));
+    int error = 0;
+    const auto nothing = second.catchSignal(SIGUSR1, note("x"), error);
+    EXPECT_EQ(error, EBUSY);
     EXPECT_TRUE(isDefault(SIGUSR1));
 }
 
@@ -152,6 +162,46 @@ TEST_F(SignalPipeTest, FaultOfTheProgram_StillEndsIt) {
         __builtin_trap();
     };
     EXPECT_EXIT(fault(), testing::KilledBySignal(SIGILL), "");
+}
+
+TEST_F(SignalPipeTest, Abort_StillEndsTheProgram) {
+    const auto fault = [] {
+        SignalPipe signals;
+        const auto caught = signals.catchSignal(SIGABRT, [] {});
+        std::abort();
+    };
+    EXPECT_EXIT(fault(), testing::KilledBySignal(SIGABRT), "");
+}
+
+/// Deeper than any stack, for a large `depth`.
+[[gnu::noinline]] long fillStack(long depth) {
+    volatile char room[4096]; // NOLINT: touched to fill the stack
+    room[0] = static_cast<char>(depth);
+    return depth == 0 ? 0 : fillStack(depth - 1) + room[0];
+}
+
+TEST_F(SignalPipeTest, StackOverflow_StillEndsTheProgram) {
+    if (cSanitized)
+        GTEST_SKIP() << "the sanitizer answers faults itself";
+    const auto fault = [] {
+        SignalPipe signals;
+        const auto caught = signals.catchSignal(SIGSEGV, [] {});
+        std::exit(fillStack(1L << 40) == 1 ? 1 : 2);
+    };
+    EXPECT_EXIT(fault(), testing::KilledBySignal(SIGSEGV), "");
+}
+
+TEST_F(SignalPipeTest, SignalStack_IsThereAsLongAsThePipe) {
+    const auto disabled = [] {
+        stack_t present{};
+        ::sigaltstack(nullptr, &present);
+        return (present.ss_flags & SS_DISABLE) != 0;
+    };
+    if (cSanitized)
+        GTEST_SKIP() << "the sanitizer has a signal stack of its own";
+    EXPECT_FALSE(disabled());
+    fSignals.reset();
+    EXPECT_TRUE(disabled());
 }
 
 } // namespace

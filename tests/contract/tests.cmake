@@ -24,8 +24,11 @@ kelvo_tests(contract
     contract/posix_shell_runner_test.cpp
     contract/qt_main_queue_test.cpp
     contract/rotating_log_file_test.cpp
+    contract/sentinel_launcher_contract_test.cpp
+    contract/sentinel_test.cpp
     contract/shell_runner_contract_test.cpp
     contract/signal_pipe_test.cpp
+    contract/signals_contract_test.cpp
     contract/single_copy_contract_test.cpp
     contract/stream_console_test.cpp
     contract/system_information_test.cpp
@@ -35,9 +38,10 @@ kelvo_tests(contract
     contract/workspace_contract_test.cpp
   LINKS kelvo_adapters_qt kelvo_adapters_posix kelvo_bus_testing
 )
-add_dependencies(contract_tests network_watcher settings_writer zoo)
+add_dependencies(contract_tests kelvo_sentinel network_watcher settings_writer zoo)
 target_compile_definitions(contract_tests PRIVATE
   KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
+  KELVO_SENTINEL="$<TARGET_FILE:kelvo_sentinel>"
   KELVO_RESOURCES="${CMAKE_BINARY_DIR}/lib/kelvo-mirror"
   KELVO_VERSION="${PROJECT_VERSION}"
   KELVO_SETTINGS_WRITER="$<TARGET_FILE:settings_writer>"

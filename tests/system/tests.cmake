@@ -3,10 +3,14 @@ include(system/setup.cmake)
 add_executable(tray_program system/tray_program.cpp)
 target_link_libraries(tray_program PRIVATE kelvo_ui_widgets kelvo_adapters_tray)
 
+add_executable(watched_program children/watched_program.cpp)
+target_link_libraries(watched_program PRIVATE kelvo_watchdog kelvo_adapters_qt)
+
 kelvo_tests(system
   SOURCES
     system/program_test.cpp
     system/tray_system_test.cpp
+    system/watchdog_system_test.cpp
   LINKS kelvo_bus_testing
   TIMEOUT 120
   PROPERTIES
@@ -14,6 +18,8 @@ kelvo_tests(system
 )
 target_compile_definitions(system_tests PRIVATE
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror"
+  KELVO_SENTINEL="$<TARGET_FILE:kelvo_sentinel>"
+  KELVO_WATCHED_PROGRAM="$<TARGET_FILE:watched_program>"
   KELVO_TRAY_PROGRAM="$<TARGET_FILE:tray_program>"
   KELVO_VERSION="${PROJECT_VERSION}")
-add_dependencies(system_tests kelvo-mirror tray_program)
+add_dependencies(system_tests kelvo-mirror kelvo_sentinel tray_program watched_program)

@@ -1,0 +1,150 @@
+// A small program under the real watchdog, to be ended in every way there is.
+//   watched_program FOLDER ACTION [ARGUMENT…]
+// Keeps everything in FOLDER: the settings, "resources" with the sentinel, "log" with the lines,
+// and "starts", a record for each start: process id, how many descriptors it came with, working
+// folder, the variable KELVO_TEST_MARK and the arguments. ACTION is what a start by hand does then.
+#include "adapters/posix/local_notification_center.h"
+#include "adapters/posix/posix_sentinel_launcher.h"
+#include "adapters/posix/posix_shell_runner.h"
+#include "adapters/posix/thread_pool_queue.h"
+#include "adapters/qt/file_bundle.h"
+#include "adapters/qt/plist_defaults.h"
+#include "adapters/qt/qt_main_queue.h"
+#include "adapters/qt/signal_pipe.h"
+#include "app/watchdog.h"
+#include "app/watchdog_relaunch_guard.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace kelvo;
+
+namespace {
+
+void append(const QString& path, const QByteArray& text) {
+    const int file =
+        ::open(path.toLocal8Bit().constData(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
+    (void)!::write(file, text.constData(), static_cast<std::size_t>(text.size()));
+    ::close(file);
+}
+
+class FileConsole final : public Console {
+public:
+    explicit FileConsole(QString path) : fPath(std::move(path)) {}
+    using Console::print;
+    void print(const QStringList& pieces) override { log(pieces.join(QString())); }
+    void log(const QString& text) override { append(fPath, text.toUtf8() + '\n'); }
+
+private:
+    const QString fPath;
+};
+
+/// Deeper than any stack, for a large `depth`.
+[[gnu::noinline]] long overflow(long depth) {
+    volatile char room[4096]; // NOLINT: touched to fill the stack
+    room[0] = static_cast<char>(depth);
+    return depth == 0 ? 0 : overflow(depth - 1) + room[0];
+}
+
+class WatchedProgram {
+public:
+    WatchedProgram(const QString& folder, const QStringList& arguments, qsizetype descriptors)
+        : fFolder(folder), fArguments(arguments), fDescriptors(descriptors) {}
+
+    int run(const QString& action) {
+        const Subscription watchdog = Watchdog::begin(
+            {fSignals, fBundle, fDefaults, fConsole, fLauncher, fCenter, fMainQueue, fArguments,
+             ::getpid(), QDateTime::currentDateTimeUtc, [] { QCoreApplication::quit(); },
+             [](int status) { ::_exit(status); }});
+        fGuard.autoRelaunchUnless(4, 30.0, [](unsigned long, double) { return false; });
+        fMainQueue.async([this, action] {
+            fDefaults.setObject(u"starts", fDefaults.integerForKey(u"starts") + 1);
+            if (fArguments.contains(QStringLiteral("clear-record")))
+                fDefaults.removeObject(u"recentLaunchDates");
+            fDefaults.synchronize();
+            report();
+            if (!fArguments.contains(QStringLiteral("--autorelaunched")))
+                act(action);
+        });
+        const int status = QCoreApplication::exec();
+        fCenter.post(cWillTerminateNotification.toString());
+        return status;
+    }
+
+private:
+    void report() const {
+        const QStringList fields{QString::number(::getpid()), QString::number(fDescriptors),
+                                 QDir::currentPath(), qEnvironmentVariable("KELVO_TEST_MARK"),
+                                 fArguments.join(u'\x1f')};
+        append(fFolder + QStringLiteral("/starts"),
+               QString(fields.join(u'\x1e') + u'\x1d').toUtf8());
+    }
+
+    void act(const QString& action) {
+        if (action == u"null")
+            *fNowhere = 1;
+        else if (action == u"abort")
+            std::abort();
+        else if (action == u"overflow")
+            std::printf("%ld\n", overflow(1L << 40));
+        else if (action == u"trap")
+            __builtin_trap();
+        else if (action == u"quit-and-relaunch")
+            setAndDo([this] { fGuard.quitAndRelaunch(); });
+        else if (action == u"interrupt")
+            setAndDo([] { ::raise(SIGINT); });
+        else if (action == u"command")
+            fBgQueue.async([this] {
+                fShell.outputWhenRunAsShellCommand(
+                    QString(u"cd '" + fFolder +
+                            u"'; cat /proc/self/status > status; setsid sh -c 'trap \"\" TERM INT; "
+                            u"while :; do echo x >> orphan; sleep 0.01; done' & "
+                            u"while :; do echo x >> written; sleep 0.01; done"));
+            });
+    }
+
+    void setAndDo(const std::function<void()>& work) {
+        fDefaults.setObject(u"setAtTheEnd", QStringLiteral("kept"));
+        work();
+    }
+
+    int* volatile fNowhere = nullptr;
+    const QString fFolder;
+    const QStringList fArguments;
+    const qsizetype fDescriptors;
+    FileConsole fConsole{fFolder + QStringLiteral("/log")};
+    QtMainQueue fMainQueue;
+    PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), fMainQueue, fConsole};
+    FileBundle fBundle{fFolder + QStringLiteral("/resources")};
+    LocalNotificationCenter fCenter;
+    PosixShellRunner fShell{fConsole};
+    ThreadPoolQueue fBgQueue;
+    SignalPipe fSignals;
+    PosixSentinelLauncher fLauncher;
+    WatchdogRelaunchGuard fGuard;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 3)
+        return 2;
+    // Less the one that reads the folder.
+    const qsizetype descriptors =
+        QDir(QStringLiteral("/proc/self/fd"))
+            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System)
+            .size() -
+        1;
+    const QCoreApplication application(argc, argv);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return WatchedProgram(arguments.at(1), arguments, descriptors).run(arguments.at(2));
+}

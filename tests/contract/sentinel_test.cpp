@@ -1,0 +1,197 @@
+// The sentinel by itself: what it takes, what it holds, how it ends.
+#include "adapters/posix/posix_sentinel_launcher.h"
+#include "sentinel/exit_code.h"
+#include "support/descendants.h"
+#include "support/wait_until.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <memory>
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool cSanitized = true;
+#else
+constexpr bool cSanitized = false;
+#endif
+
+namespace kelvo {
+namespace {
+
+using sentinel::ExitCode;
+
+class SentinelTest : public testing::Test {
+protected:
+    ~SentinelTest() override { endAllDescendants("watchdog"); }
+
+    static QByteArray procFile(pid_t pid, const char* name) {
+        QFile file(QStringLiteral("/proc/%1/%2").arg(pid).arg(QLatin1StringView(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static qint64 field(const QByteArray& text, const char* name) {
+        const auto at = text.indexOf(name);
+        EXPECT_GE(at, 0) << name << " in " << text.constData();
+        const QByteArray line = text.mid(at, text.indexOf('\n', at) - at);
+        return line.split(':').value(1).simplified().split(' ').value(0).toLongLong();
+    }
+    /// Exit code and error output of a sentinel with these arguments.
+    static std::pair<int, QByteArray> run(const QStringList& arguments,
+                                          const QString& program = QStringLiteral(KELVO_SENTINEL)) {
+        QProcess process;
+        process.start(program, arguments);
+        if (!process.waitForFinished())
+            return {-1, "did not end"};
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                process.readAllStandardError()};
+    }
+    /// A sentinel that watches this process, as the program starts it.
+    pid_t watchUs() {
+        fTask = fLauncher.launch(QStringLiteral(KELVO_SENTINEL), {QString::number(::getpid())},
+                                 nullptr);
+        return livingChild(::getpid(), "watchdog").value_or(-1);
+    }
+
+    PosixSentinelLauncher fLauncher;
+    std::unique_ptr<SentinelTask> fTask;
+};
+
+TEST_F(SentinelTest, AnythingButOneProcessId_IsRefused) {
+    for (const QStringList& arguments :
+         {QStringList{}, QStringList{QString()}, QStringList{QStringLiteral("0")},
+          QStringList{QStringLiteral("-1")}, QStringList{QStringLiteral("12x")},
+          QStringList{QStringLiteral(" 12")}, QStringList{QStringLiteral("99999999999999999999")},
+          QStringList{QStringLiteral("1"), QStringLiteral("2")}}) {
+        const auto [code, errors] = run(arguments);
+        EXPECT_EQ(code, static_cast<int>(ExitCode::BadArgument));
+        EXPECT_EQ(errors, "watchdog: expected one argument, the id of the process to watch\n");
+    }
+}
+
+TEST_F(SentinelTest, ProcessThatIsGone_IsSaid) {
+    QProcess gone;
+    gone.start(QStringLiteral("true"), QStringList());
+    ASSERT_TRUE(gone.waitForStarted());
+    const QString pid = QString::number(gone.processId());
+    ASSERT_TRUE(gone.waitForFinished());
+    const auto [code, errors] = run({pid});
+    EXPECT_EQ(code, static_cast<int>(ExitCode::NoSuchProcess));
+    EXPECT_EQ(errors, QByteArray("watchdog: there is no process " + pid.toLatin1() + "\n"));
+}
+
+TEST_F(SentinelTest, ProcessThatHasEndedButIsNotReaped_IsGoneToo) {
+    const pid_t pid = ::fork();
+    if (pid == 0)
+        ::_exit(0);
+    siginfo_t ended{};
+    ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | WNOWAIT), 0);
+    const auto [code, errors] = run({QString::number(pid)});
+    EXPECT_EQ(code, static_cast<int>(ExitCode::NoSuchProcess)) << errors.constData();
+    EXPECT_TRUE(errors.contains("any more")) << errors.constData();
+    ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED), 0);
+}
+
+TEST_F(SentinelTest, ProcessOfAnotherUser_IsNotWatched) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs root, to be somebody else";
+    // The build folder may be closed to others.
+    const QTemporaryDir folder(QStringLiteral("/tmp/kelvo-sentinel-XXXXXX"));
+    const QString copy = folder.filePath(QStringLiteral("watchdog"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(KELVO_SENTINEL), copy));
+    QFile::setPermissions(folder.path(), QFile::Permissions(0x7755));
+    const auto [code, errors] =
+        run({QStringLiteral("--reuid=65534"), QStringLiteral("--clear-groups"), copy,
+             QString::number(::getpid())},
+            QStringLiteral("setpriv"));
+    EXPECT_EQ(code, static_cast<int>(ExitCode::OfAnotherUser)) << errors.constData();
+    EXPECT_TRUE(errors.contains("belongs to another user")) << errors.constData();
+}
+
+TEST_F(SentinelTest, ProgramThatIsGone_CannotBeStartedAgain) {
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("sleep"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral("/bin/sleep"), copy));
+    QProcess program;
+    program.start(copy, {QStringLiteral("1000")});
+    ASSERT_TRUE(program.waitForStarted());
+    QProcess sentinel;
+    sentinel.start(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())});
+    ASSERT_TRUE(sentinel.waitForStarted());
+    ASSERT_TRUE(waitUntil([&] {
+        return field(procFile(static_cast<pid_t>(sentinel.processId()), "status"), "SigCgt") > 0;
+    })) << "it is not in place";
+    ASSERT_TRUE(QFile::remove(copy));
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    ASSERT_TRUE(sentinel.waitForFinished());
+    EXPECT_EQ(sentinel.exitCode(), static_cast<int>(ExitCode::CannotRelaunch));
+    EXPECT_EQ(sentinel.readAllStandardError(),
+              QByteArray("watchdog: cannot start " + copy.toLocal8Bit() +
+                         " again: No such file or directory\n"));
+}
+
+TEST_F(SentinelTest, WhileItWaits_ItSharesStreamsOnlyAndNoTerminalOrSignal) {
+    const int inheritable = ::open("/dev/null", O_RDONLY); // NOLINT: shall be inherited
+    sigset_t blocked;
+    ::sigemptyset(&blocked);
+    ::sigaddset(&blocked, SIGTERM);
+    ::pthread_sigmask(SIG_BLOCK, &blocked, nullptr);
+    const auto before = ::signal(SIGUSR2, SIG_IGN);
+    const pid_t sentinel = watchUs();
+    ::signal(SIGUSR2, before);
+    ::pthread_sigmask(SIG_UNBLOCK, &blocked, nullptr);
+    ::close(inheritable);
+    ASSERT_GT(sentinel, 0);
+
+    const QDir descriptors(QStringLiteral("/proc/%1/fd").arg(sentinel));
+    int held = 0;
+    for (const QString& name :
+         descriptors.entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System)) {
+        std::array<char, 256> target{};
+        (void)!::readlink(descriptors.filePath(name).toLocal8Bit().constData(), target.data(),
+                          target.size() - 1);
+        if (name.toInt() > STDERR_FILENO) {
+            EXPECT_STREQ(target.data(), "anon_inode:[pidfd]") << name.toStdString();
+        }
+        ++held;
+    }
+    EXPECT_EQ(held, 4);
+    EXPECT_EQ(::getsid(sentinel), sentinel);
+    EXPECT_EQ(::getpgid(sentinel), sentinel);
+    EXPECT_EQ(procFile(sentinel, "environ"), "");
+    const QByteArray status = procFile(sentinel, "status");
+    EXPECT_EQ(status.mid(status.indexOf("SigBlk:") + 8, 16), "0000000000000000");
+    const quint64 ignored =
+        status.mid(status.indexOf("SigIgn:") + 8, 16).toULongLong(nullptr, 16) & 0x7fffffffU;
+    EXPECT_EQ(ignored, 0U);
+}
+
+TEST_F(SentinelTest, WhileItWaits_ItIsSmallAndDoesNotWakeUp) {
+    if (cSanitized)
+        GTEST_SKIP() << "the sanitizer's memory is not the sentinel's";
+    const pid_t sentinel = watchUs();
+    ASSERT_GT(sentinel, 0);
+    const auto wakeUps = [sentinel] {
+        return field(procFile(sentinel, "status"), "\nvoluntary_ctxt_switches");
+    };
+    ASSERT_TRUE(waitUntil([&] {
+        const QByteArray stat = procFile(sentinel, "stat");
+        return stat.mid(stat.lastIndexOf(')') + 2, 1) == "S";
+    }));
+    const qint64 before = wakeUps();
+    const QByteArray memory = procFile(sentinel, "smaps_rollup");
+    EXPECT_LE(field(memory, "Private_Clean") + field(memory, "Private_Dirty"), 300);
+    EXPECT_FALSE(waitUntil([&] { return wakeUps() != before; }, std::chrono::seconds(1)));
+}
+
+} // namespace
+} // namespace kelvo
