@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cstdint>
+#include <utility>
 
 namespace kelvo {
 
@@ -49,7 +50,8 @@ private:
     AvahiWatch* const fWatch;
 };
 
-AvahiBrowser::AvahiBrowser(Console& console) : fConsole(console) {}
+AvahiBrowser::AvahiBrowser(Console& console, std::function<void()> changed)
+    : fConsole(console), fTable(std::move(changed)) {}
 
 AvahiBrowser::~AvahiBrowser() = default;
 
