@@ -1,6 +1,8 @@
 // Front: the face of the program, with a window or without.
 #pragma once
 
+#include <QString>
+
 #include <functional>
 #include <memory>
 
@@ -34,6 +36,7 @@ struct FrontParts {
     Workspace& workspace;
     DnssdBrowser& browser;
     StatusMenu& statusMenu;
+    QString logFolder;
     /// Told after each status message whether it is about trouble.
     std::function<void(bool)> trouble;
 };
@@ -63,7 +66,7 @@ public:
     virtual std::shared_ptr<WindowController> windowController() = 0;
 
     /// From now on controls and menus send their actions there. Both outlive the front's event
-    /// loop. `quitAndRelaunch` and the like are actions as any other.
+    /// loop.
     virtual void sendActionsTo(ViewController& controller, AppDelegate& delegate) = 0;
 };
 

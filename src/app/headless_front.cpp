@@ -1,4 +1,5 @@
 // The front without a window.
+#include "adapters/headless/headless_desktop.h"
 #include "adapters/headless/headless_front.h"
 #include "adapters/headless/headless_view.h"
 #include "app/front.h"

@@ -3,8 +3,6 @@
 #include "app/app_delegate.h"
 #include "app/version.h"
 #include "ports/workspace.h"
-#include "support/preference_keys.h"
-#include "support/state_folder.h"
 #include "ui/view_controller.h"
 #include "ui/widgets/application_menu.h"
 #include "ui/widgets/main_window.h"
@@ -101,7 +99,8 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
 }
 
 void addApplicationMenu(MainWindow& window, ViewController& controller, AppDelegate& delegate,
-                        Workspace& workspace, const std::function<void()>& quit) {
+                        Workspace& workspace, const QString& logFolder,
+                        const std::function<void()>& quit) {
     QStringList labels;
     for (const MainWindow::Tab& tab : window.tabs())
         labels.append(tab.label);
@@ -116,7 +115,7 @@ void addApplicationMenu(MainWindow& window, ViewController& controller, AppDeleg
          .delegateQuitAndRelaunch = [&delegate] { delegate.ibQuitAndRelaunch(nullptr); },
          .setupWatchdog = [&delegate] { delegate.ibActionFromDelegate(nullptr); },
          .about = [&window] { showAbout(window); },
-         .openLogFolder = [&workspace] { workspace.openFile(logFolder()); }},
+         .openLogFolder = [&workspace, logFolder] { workspace.openFile(logFolder); }},
         labels, &window);
     window.setMenuBar(menu);
     menu->setCurrentTab(window.currentTab());

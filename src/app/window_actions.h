@@ -1,13 +1,15 @@
 // Where the main window's controls and menus send their actions.
 #pragma once
 
+#include <QString>
+
+#include <functional>
 #include <memory>
 #include <vector>
 
 namespace kelvo {
 
 class AppDelegate;
-class ApplicationMenu;
 class Control;
 class MainWindow;
 class PathControl;
@@ -25,6 +27,7 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
 
 /// Gives `window` its menu bar.
 void addApplicationMenu(MainWindow& window, ViewController& controller, AppDelegate& delegate,
-                        Workspace& workspace, const std::function<void()>& quit);
+                        Workspace& workspace, const QString& logFolder,
+                        const std::function<void()>& quit);
 
 } // namespace kelvo

@@ -1,4 +1,5 @@
 // The front with the main window.
+#include "app/app_delegate.h"
 #include "app/front.h"
 #include "app/main_window_controller.h"
 #include "app/window_actions.h"
@@ -16,8 +17,6 @@
 #include "ui/widgets/widget_controls.h"
 #include "ui/widgets/widget_main_view.h"
 #include "ui/widgets/widget_open_panel.h"
-
-#include "app/app_delegate.h"
 
 namespace kelvo {
 namespace {
@@ -55,7 +54,7 @@ public:
         fController = &controller;
         fDelegate = &delegate;
         fOnceButtons = sendWindowActions(fWindow, controller, fParts.workspace, fPathControl);
-        addApplicationMenu(fWindow, controller, delegate, fParts.workspace,
+        addApplicationMenu(fWindow, controller, delegate, fParts.workspace, fParts.logFolder,
                            [this] { fApplication.terminate(); });
     }
 

@@ -26,8 +26,12 @@ public:
     /// The location shown last, with no part of it chosen; nothing when there is none.
     virtual std::optional<QString> url() const = 0;
 
-    /// The parts from left to right: the one at the root first, the whole location last.
+    /// The parts from left to right: the root first, the whole location last; none without a
+    /// location. Titles are decoded, in one line, with control characters spelled out.
     virtual std::vector<Item> pathItems() const = 0;
 };
+
+/// The parts of the file location `url`, for controls that show them; none for any other address.
+std::vector<PathControl::Item> pathItemsOf(const QString& url);
 
 } // namespace kelvo

@@ -101,6 +101,11 @@ void ViewController::viewDidLoad() {
         }));
 }
 
+QString ViewController::description() const {
+    return u'<' + cViewControllerTypeName + u": 0x" +
+           QString::number(reinterpret_cast<quintptr>(this), 16) + u'>';
+}
+
 void ViewController::handWindowControllerOver() {
     StatusMenuWindow* controller = fParts.windowController();
     if (!controller) {

@@ -13,6 +13,7 @@
 #include "ui/alerts.h"
 #include "ui/command_example.h"
 #include "ui/folder_selection.h"
+#include "ui/interface_controllers.h"
 #include "ui/reveal_button_watchers.h"
 #include "ui/start_button_title.h"
 #include "ui/status_line.h"
@@ -39,13 +40,15 @@ struct TextEditingNotification {
 
 /// Main thread only; settings may change on any thread. Both queues must have ended before the
 /// controller is destroyed: what waits there belongs to it.
-class ViewController final : public StatusMenuMainView {
+class ViewController final : public MainViewController {
 public:
     explicit ViewController(const ViewControllerParts& parts);
 
     /// Sets everything going: syncing off, settings observed, the delayed steps of the set-up
     /// scheduled. Called once.
-    void viewDidLoad();
+    void viewDidLoad() override;
+
+    QString description() const override;
 
     // The start button and its kin.
     void ibStartRSyncProcess(Control* sender) { fSyncCycle.ibStartRSyncProcess(sender); }
@@ -86,7 +89,7 @@ public:
     void tabViewWillSelect(const std::optional<TabViewItem>& tabViewItem);
     void controlTextDidEndEditing(const TextEditingNotification& obj);
 
-    // StatusMenuMainView
+    // What the tray menu asks for.
     void clickStartButton() override { fParts.ibStartButton.performClick(); }
     void quitAndRelaunch() override { ibQuitAndRelaunch(nullptr); }
 

@@ -6,6 +6,8 @@
 #include "support/wait_in_loop.h"
 
 #include <QCoreApplication>
+#include <QDirIterator>
+#include <QFile>
 #include <QProcess>
 
 #include <gtest/gtest.h>
@@ -71,6 +73,35 @@ TEST(KelvoSSIDTest, DestroyedBeforeItsFirstLook_PostsNothing) {
         checker.checknetwork2();
     }
     EXPECT_FALSE(waitInLoop([&] { return !center.posted().empty(); }, 1));
+}
+
+/// How often the threads of a process have gone to sleep so far.
+qint64 sleeps(qint64 processId) {
+    qint64 count = 0;
+    QDirIterator threads(QStringLiteral("/proc/%1/task").arg(processId),
+                         QDir::Dirs | QDir::NoDotAndDotDot);
+    while (threads.hasNext()) {
+        QFile status(threads.next() + QStringLiteral("/status"));
+        if (!status.open(QFile::ReadOnly))
+            continue;
+        const QString text = QString::fromLatin1(status.readAll());
+        count += text.section(QStringLiteral("\nvoluntary_ctxt_switches:"), 1)
+                     .section(u'\n', 0, 0)
+                     .trimmed()
+                     .toLongLong();
+    }
+    return count;
+}
+
+TEST(KelvoSSIDTest, AtRest_NothingWakesUp) {
+    RunningProgram program(QStringLiteral(KELVO_NETWORK_WATCHER), {});
+    ASSERT_TRUE(program.waitForLine([](const QString&) { return true; }, 20));
+    // The desktop's network service may still be answering.
+    (void)program.waitForLine([](const QString&) { return false; }, 1);
+    const qint64 before = sleeps(program.processId());
+    ASSERT_GT(before, 0);
+    (void)program.waitForLine([](const QString&) { return false; }, 2);
+    EXPECT_LE(sleeps(program.processId()) - before, 1);
 }
 
 /// A shell text in a network of its own, where the loopback is all there is at first. All its

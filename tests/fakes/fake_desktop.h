@@ -44,16 +44,7 @@ public:
     std::optional<QString> url() const override {
         return shown.isEmpty() ? std::nullopt : std::optional(shown);
     }
-    std::vector<Item> pathItems() const override {
-        const QString scheme = QStringLiteral("file://");
-        std::vector<Item> items;
-        QString location = scheme;
-        for (const QString& part : shown.mid(scheme.size()).split(u'/', Qt::SkipEmptyParts)) {
-            location += u'/' + part;
-            items.push_back({part, location});
-        }
-        return items;
-    }
+    std::vector<Item> pathItems() const override { return pathItemsOf(shown); }
 
     QString shown;
 };

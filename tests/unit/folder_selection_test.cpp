@@ -134,6 +134,7 @@ TEST_F(FolderSelectionTest, Action1OnAFreshStore_ShowsTheDesktopFolder) {
         console.printed(),
         (QStringList{
             entry("ibAction1(_:)"),
+            QStringLiteral("item.title = /  item.url = file:///"),
             QStringLiteral("item.title = Users  item.url = file:///Users"),
             QStringLiteral("item.title = localuser  item.url = file:///Users/localuser"),
             QStringLiteral("item.title = Desktop  item.url = file:///Users/localuser/Desktop"),
@@ -216,6 +217,24 @@ TEST(FileUrlTest, Table) {
                           Case{QStringLiteral("Movies"), QStringLiteral("file:Movies")},
                           Case{QString(), QStringLiteral("file:")}})
         EXPECT_EQ(fileUrl(c.path), c.url);
+}
+
+TEST(PathItemsTest, Location_IsTakenApartAtEachFolder) {
+    using Items = std::vector<PathControl::Item>;
+    const auto item = [](const char* title, const char* url) {
+        return PathControl::Item{QString::fromUtf8(title), QString::fromUtf8(url)};
+    };
+    EXPECT_EQ(pathItemsOf(fileUrl(u"/a b/100%/\u00e9")),
+              (Items{item("/", "file:///"), item("a b", "file:///a%20b"),
+                     item("100%", "file:///a%20b/100%25"),
+                     item("\xc3\xa9", "file:///a%20b/100%25/%C3%A9")}));
+    EXPECT_EQ(pathItemsOf(QStringLiteral("file:///")), Items{item("/", "file:///")});
+    EXPECT_EQ(pathItemsOf(QStringLiteral("file:////a//b/")),
+              (Items{item("/", "file:///"), item("a", "file:///a"), item("b", "file:///a/b")}));
+    EXPECT_EQ(pathItemsOf(fileUrl(u"/x\ny\u202e")).back().title, u"x y\\u202e");
+    for (const QString& other : {QString(), QStringLiteral("file:Movies"),
+                                 QStringLiteral("smb://host/share"), QStringLiteral("/a")})
+        EXPECT_EQ(pathItemsOf(other), Items()) << other.toStdString();
 }
 
 } // namespace

@@ -14,9 +14,4 @@ bool HeadlessSheets::presentSheet(QStringView identifier) {
     return true;
 }
 
-OpenPanelAnswer HeadlessOpenPanel::runModal(const OpenPanelOptions& options) {
-    fConsole.log(u"There is no window to show the panel \"" + options.title + u"\" on.");
-    return {};
-}
-
 } // namespace kelvo

@@ -4,8 +4,6 @@
 #include "ports/application.h"
 #include "ports/array_controller.h"
 #include "ports/main_view.h"
-#include "ports/open_panel.h"
-#include "ports/path_control.h"
 #include "ports/sheet_opener.h"
 
 #include <functional>
@@ -42,17 +40,6 @@ private:
     Console& fConsole;
 };
 
-/// Is cancelled at once, and says so.
-class HeadlessOpenPanel final : public OpenPanel {
-public:
-    explicit HeadlessOpenPanel(Console& console) : fConsole(console) {}
-
-    OpenPanelAnswer runModal(const OpenPanelOptions& options) override;
-
-private:
-    Console& fConsole;
-};
-
 /// Keeps the records; nothing is ever selected.
 class HeadlessServiceList final : public ArrayController {
 public:
@@ -63,19 +50,6 @@ public:
 
 private:
     std::optional<DNSSD_Services> fContent;
-};
-
-/// Keeps the location.
-class HeadlessPathControl final : public PathControl {
-public:
-    void setUrl(const QString& url) override { fUrl = url; }
-    std::optional<QString> url() const override {
-        return fUrl.isEmpty() ? std::nullopt : std::optional(fUrl);
-    }
-    std::vector<Item> pathItems() const override { return {}; }
-
-private:
-    QString fUrl;
 };
 
 class HeadlessApplication final : public Application {

@@ -34,9 +34,9 @@ QString reasonOf(int exitCode) {
     case 2:
         return QStringLiteral("there is no such file");
     case 3:
-        return QStringLiteral("a tool of the desktop is missing");
-    case 127:
-        return QStringLiteral("no program of the desktop opens it");
+        return QStringLiteral("the desktop has no program for it");
+    case 4:
+        return QStringLiteral("the desktop's program for it failed");
     default:
         return QStringLiteral("exit code %1").arg(exitCode);
     }

@@ -41,6 +41,7 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     restoreLook();
     connect(fUi->tabView, &QTabWidget::currentChanged, this, [this](int index) {
         fDefaults.setObject(cTabKey, tabs()[static_cast<std::size_t>(index)].identifier);
+        Q_EMIT tabShown(index);
         if (fTabSelected)
             fTabSelected(tabs()[static_cast<std::size_t>(index)]);
     });

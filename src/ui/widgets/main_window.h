@@ -67,6 +67,9 @@ public:
     RemoteTab& remoteTab() { return *fRemoteTab; }
     Bindings& bindings() { return fBindings; }
 
+Q_SIGNALS:
+    void tabShown(int index);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;

@@ -66,7 +66,8 @@ Subscription WidgetMainView::monitorRightMouseDown(const Control& view,
     return Subscription([monitor]() mutable { monitor.reset(); });
 }
 
-WidgetApplication::WidgetApplication(MainWindow& window) : fWindow(&window) {}
+WidgetApplication::WidgetApplication(MainWindow& window, std::function<void()> willTerminate)
+    : fWindow(&window), fWillTerminate(std::move(willTerminate)) {}
 
 void WidgetApplication::hide() {
     for (QWidget* top : QApplication::topLevelWidgets()) {
@@ -81,6 +82,7 @@ void WidgetApplication::bringToFront() {
 }
 
 void WidgetApplication::terminate() {
+    fWillTerminate();
     QCoreApplication::quit();
 }
 

@@ -27,7 +27,8 @@ private:
 
 class WidgetApplication final : public Application {
 public:
-    explicit WidgetApplication(MainWindow& window);
+    /// `willTerminate` is called before the windows are closed for the orderly end.
+    WidgetApplication(MainWindow& window, std::function<void()> willTerminate);
 
     void hide() override;
     void bringToFront() override;
@@ -35,6 +36,7 @@ public:
 
 private:
     QPointer<MainWindow> fWindow;
+    const std::function<void()> fWillTerminate;
 };
 
 } // namespace kelvo
