@@ -1,11 +1,14 @@
 #include "ui/widgets/path_control_view.h"
 
+#include "ports/path_control.h"
+#include "support/file_url.h"
 #include "ui/widgets/elided_label.h"
 
 #include <QLabel>
 #include <QMenu>
 #include <QResizeEvent>
 #include <QToolButton>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -15,15 +18,11 @@ namespace {
 constexpr int cGap = 2;
 
 std::vector<PathControlView::Part> partsOf(const QString& path) {
+    if (!path.isEmpty() && !path.startsWith(u'/'))
+        return {{path, path}};
     std::vector<PathControlView::Part> parts;
-    if (path.startsWith(u'/'))
-        parts.push_back({QStringLiteral("/"), QStringLiteral("/")});
-    QString upTo = path.startsWith(u'/') ? QStringLiteral("/") : QString();
-    for (const QString& name : path.split(u'/', Qt::SkipEmptyParts)) {
-        upTo += name;
-        parts.push_back({name, upTo});
-        upTo += u'/';
-    }
+    for (const PathControl::Item& item : pathItemsOf(fileUrl(path)))
+        parts.push_back({item.title, QUrl(item.url).toLocalFile()});
     return parts;
 }
 

@@ -2,11 +2,22 @@
 
 #include "ports/user_defaults.h"
 #include "support/preference_keys.h"
+#include "support/text.h"
 #include "ui/widgets/bindings.h"
 #include "ui/widgets/source_notice.h"
 #include "ui_sync_tab.h"
 
+#include <QDir>
+
 namespace kelvo {
+namespace {
+
+/// The stored folder, "~" taken for the home folder; empty when none is stored.
+QString folder(const UserDefaults& defaults, QStringView key) {
+    return expandingTilde(defaults.stringForKey(key).value_or(QString()), QDir::homePath());
+}
+
+} // namespace
 
 SyncTab::SyncTab(Bindings& bindings, QWidget* parent)
     : QWidget(parent), fUi(std::make_unique<Ui::SyncTab>()) {
@@ -19,10 +30,10 @@ SyncTab::SyncTab(Bindings& bindings, QWidget* parent)
                      prefRemoteBonjourName, prefRemotePath},
                     [this, &bindings] { showSource(bindings); });
     bindings.follow(*this, {prefPath1}, [this, &defaults] {
-        fUi->fNsPathControl1->setPath(defaults.stringForKey(prefPath1).value_or(QString()));
+        fUi->fNsPathControl1->setPath(folder(defaults, prefPath1));
     });
     bindings.follow(*this, {prefPath2}, [this, &defaults] {
-        fUi->destinationPath->setPath(defaults.stringForKey(prefPath2).value_or(QString()));
+        fUi->destinationPath->setPath(folder(defaults, prefPath2));
     });
     bindings.follow(*this, {prefIsScanning}, [this, &defaults] {
         fUi->busySign->setVisible(defaults.boolForKey(prefIsScanning));

@@ -23,12 +23,7 @@ std::optional<QString> WidgetPathControl::url() const {
 }
 
 std::vector<PathControl::Item> WidgetPathControl::pathItems() const {
-    std::vector<Item> items;
-    if (fView) {
-        for (const PathControlView::Part& part : fView->parts())
-            items.push_back({part.title, fileUrl(part.path)});
-    }
-    return items;
+    return pathItemsOf(url().value_or(QString()));
 }
 
 } // namespace kelvo
