@@ -9,6 +9,7 @@ kelvo_tests(contract
     contract/bundle_contract_test.cpp
     contract/console_contract_test.cpp
     contract/dispatch_queue_contract_test.cpp
+    contract/dnssd_browser_contract_test.cpp
     contract/factory_template_test.cpp
     contract/line_backlog_test.cpp
     contract/local_file_manager_test.cpp
@@ -21,13 +22,14 @@ kelvo_tests(contract
     contract/posix_shell_runner_test.cpp
     contract/qt_main_queue_test.cpp
     contract/rotating_log_file_test.cpp
+    contract/service_answer_test.cpp
     contract/shell_runner_contract_test.cpp
     contract/signal_pipe_test.cpp
     contract/stream_console_test.cpp
     contract/thread_pool_queue_test.cpp
     contract/user_defaults_contract_test.cpp
     contract/utf8_collector_test.cpp
-  LINKS kelvo_adapters_qt kelvo_adapters_posix
+  LINKS kelvo_adapters_avahi kelvo_adapters_qt kelvo_adapters_posix
 )
 add_dependencies(contract_tests settings_writer zoo)
 target_compile_definitions(contract_tests PRIVATE
