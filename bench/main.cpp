@@ -24,8 +24,8 @@ std::string sideBySide(double ours, double theirs) {
 namespace {
 
 int run(std::span<char*> names) {
-    const std::vector<Row> rows{settingsRow(), templateRow(), captureRow(),
-                                stallRow(),    passRow(),     restRow()};
+    const std::vector<Row> rows{settingsRow(), templateRow(), captureRow(), stallRow(),
+                                passRow(),     restRow(),     filterRow(),  snapshotRow()};
     const bool heading = names.empty() || std::string_view(names.front()) != "--no-heading";
     if (!heading)
         names = names.subspan(1);

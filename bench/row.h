@@ -28,6 +28,8 @@ Row captureRow();
 Row stallRow();
 Row restRow();
 Row passRow();
+Row filterRow();
+Row snapshotRow();
 
 /// The middle one of `values`, which must not be empty.
 double median(std::vector<double> values);
