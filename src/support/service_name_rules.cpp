@@ -27,6 +27,10 @@ bool isAcceptable(QStringView text, qsizetype mostBytes) {
            text.toUtf8().size() <= mostBytes;
 }
 
+bool isPlainAscii(QChar character) {
+    return character >= u' ' && character <= u'~' && character != u'\\';
+}
+
 bool isOctet(QStringView text) {
     const bool digits = std::ranges::all_of(
         text, [](QChar character) { return character >= u'0' && character <= u'9'; });
@@ -45,6 +49,9 @@ bool isAcceptableHostName(QStringView name) {
 }
 
 QString escapedForLog(QStringView text) {
+    // Nearly every text is of this kind; the log has one for each of thousands of records.
+    if (std::ranges::all_of(text, isPlainAscii))
+        return text.toString();
     return withVisibleControls(text.toString().replace(u'\\', QStringLiteral("\\\\")))
         .replace(u'\n', QStringLiteral("\\x0a"))
         .replace(u'\t', QStringLiteral("\\x09"));

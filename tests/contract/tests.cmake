@@ -11,6 +11,7 @@ kelvo_tests(contract
     contract/bundle_contract_test.cpp
     contract/console_contract_test.cpp
     contract/dispatch_queue_contract_test.cpp
+    contract/dnssd_browser_contract_test.cpp
     contract/factory_template_test.cpp
     contract/line_backlog_test.cpp
     contract/local_file_manager_test.cpp
@@ -26,6 +27,7 @@ kelvo_tests(contract
     contract/rotating_log_file_test.cpp
     contract/sentinel_launcher_contract_test.cpp
     contract/sentinel_test.cpp
+    contract/service_answer_test.cpp
     contract/shell_runner_contract_test.cpp
     contract/signal_pipe_test.cpp
     contract/signals_contract_test.cpp
@@ -36,7 +38,7 @@ kelvo_tests(contract
     contract/user_defaults_contract_test.cpp
     contract/utf8_collector_test.cpp
     contract/workspace_contract_test.cpp
-  LINKS kelvo_adapters_qt kelvo_adapters_posix kelvo_bus_testing
+  LINKS kelvo_adapters_qt kelvo_adapters_posix kelvo_bus_testing kelvo_adapters_avahi
 )
 add_dependencies(contract_tests kelvo_sentinel network_watcher settings_writer zoo)
 target_compile_definitions(contract_tests PRIVATE
