@@ -29,7 +29,7 @@ MachineParts::MachineParts(bool withTray)
     : console(STDOUT_FILENO, STDERR_FILENO, logFile), defaults(settingsFile(), mainQueue, console),
       bundle(resourceFolder()), shell(console),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
-      systemInformation(QStringLiteral("Kelvo Mirror " KELVO_VERSION), shell, bgQueue, console),
+      systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, bgQueue, console),
       singleCopy(runtimeFolder().path, console), dnssdBrowser(console),
       networkBrowser(mainQueue, console) {
     if (withTray) {

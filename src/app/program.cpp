@@ -9,6 +9,7 @@
 #include "app/watchdog.h"
 #include "app/watchdog_relaunch_guard.h"
 #include "ports/application.h"
+#include "ports/network_checker.h"
 #include "ui/status_menu_handler.h"
 #include "ui/status_menu_presence.h"
 #include "ui/view_controller.h"
@@ -152,7 +153,7 @@ private:
 
     static QString runningApplication() {
         return QStringLiteral("<NSRunningApplication: kelvo-mirror %1 - %2>")
-            .arg(QStringLiteral(KELVO_VERSION))
+            .arg(cVersion)
             .arg(QCoreApplication::applicationPid());
     }
 
