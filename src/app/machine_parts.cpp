@@ -30,8 +30,7 @@ MachineParts::MachineParts(bool withTray)
       bundle(resourceFolder()), shell(console),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, bgQueue, console),
-      singleCopy(runtimeFolder().path, console), dnssdBrowser(console),
-      networkBrowser(mainQueue, console) {
+      singleCopy(runtimeFolder().path, console), dnssdBrowser(console) {
     if (withTray) {
         fTrayHost = std::make_unique<DesktopTrayHost>();
         fStatusMenu = std::make_unique<TrayIcon>(*fTrayHost);

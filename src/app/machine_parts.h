@@ -2,7 +2,7 @@
 #pragma once
 
 #include "adapters/avahi/avahi_browser.h"
-#include "adapters/avahi/avahi_network_browser.h"
+#include "adapters/qt/avahi_network_browser.h"
 #include "adapters/headless/headless_status_menu.h"
 #include "adapters/posix/local_file_manager.h"
 #include "adapters/posix/local_notification_center.h"

@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <cstdint>
-#include <utility>
 
 namespace kelvo {
 
@@ -50,8 +49,7 @@ private:
     AvahiWatch* const fWatch;
 };
 
-AvahiBrowser::AvahiBrowser(Console& console, std::function<void()> changed)
-    : fConsole(console), fTable(std::move(changed)) {}
+AvahiBrowser::AvahiBrowser(Console& console) : fConsole(console) {}
 
 AvahiBrowser::~AvahiBrowser() = default;
 

@@ -4,7 +4,6 @@
 #include "adapters/avahi/service_table.h"
 #include "ports/dnssd_browser.h"
 
-#include <functional>
 #include <memory>
 
 namespace kelvo {
@@ -16,16 +15,12 @@ class Console;
 /// for a question that is under way.
 class AvahiBrowser final : public DnssdBrowser {
 public:
-    /// `console` outlives the browser. `changed` is called after each change of what is known, on
-    /// the thread of the conversation.
-    explicit AvahiBrowser(Console& console, std::function<void()> changed = {});
+    /// `console` outlives the browser.
+    explicit AvahiBrowser(Console& console);
     ~AvahiBrowser() override;
 
     void browseForType(const QString& type) override;
     DNSSD_Services services() const override;
-
-    /// Whether the latest search has told all it knew at its beginning.
-    bool settled() const { return fTable.settled(); }
 
 private:
     class Worker;

@@ -13,7 +13,6 @@ void ServiceTable::startSearch(const QString& type) {
     if (type != fSearch.type)
         fEntries.clear();
     fSearch = {type, fSearch.number + 1};
-    fSettled = false;
     std::erase_if(fEntries, [](const Entry& entry) { return !entry.record.available; });
     fPlaces.clear();
     for (std::size_t place = 0; place < fEntries.size(); ++place) {
@@ -29,7 +28,7 @@ ServiceSearch ServiceTable::search() const {
 }
 
 bool ServiceTable::found(const DNSSD_Service& record, HeardOver protocol) {
-    std::unique_lock lock(fMutex);
+    const std::lock_guard lock(fMutex);
     if (record.type != fSearch.type)
         return false;
     Entry* known = entry(record.name, record.interface);
@@ -41,13 +40,11 @@ bool ServiceTable::found(const DNSSD_Service& record, HeardOver protocol) {
     }
     const bool first = known->heardOver == 0;
     setHeardOver(*known, known->heardOver | static_cast<unsigned>(protocol));
-    lock.unlock();
-    tellChanged();
     return first;
 }
 
 void ServiceTable::resolved(const DNSSD_Service& record) {
-    std::unique_lock lock(fMutex);
+    const std::lock_guard lock(fMutex);
     Entry* known = entry(record.name, record.interface);
     if (!known || record.type != fSearch.type)
         return;
@@ -55,46 +52,29 @@ void ServiceTable::resolved(const DNSSD_Service& record) {
     known->record.ip4Address = record.ip4Address;
     known->record.macAddress = record.macAddress;
     known->record.hostPort = record.hostPort;
-    lock.unlock();
-    tellChanged();
 }
 
 bool ServiceTable::vanished(const QString& name, quint32 interface, HeardOver protocol) {
-    std::unique_lock lock(fMutex);
+    const std::lock_guard lock(fMutex);
     Entry* known = entry(name, interface);
     if (!known)
         return true;
     setHeardOver(*known, known->heardOver & ~static_cast<unsigned>(protocol));
-    const bool gone = known->heardOver == 0;
-    lock.unlock();
-    tellChanged();
-    return gone;
+    return known->heardOver == 0;
 }
 
 void ServiceTable::settle(quint64 number) {
-    {
-        const std::lock_guard lock(fMutex);
-        if (number != fSearch.number)
-            return;
-        fSettled = true;
-        for (Entry& entry : fEntries)
-            setHeardOver(entry, entry.heardOver);
-    }
-    tellChanged();
+    const std::lock_guard lock(fMutex);
+    if (number != fSearch.number)
+        return;
+    for (Entry& entry : fEntries)
+        setHeardOver(entry, entry.heardOver);
 }
 
 void ServiceTable::lose() {
-    {
-        const std::lock_guard lock(fMutex);
-        for (Entry& entry : fEntries)
-            setHeardOver(entry, 0);
-    }
-    tellChanged();
-}
-
-bool ServiceTable::settled() const {
     const std::lock_guard lock(fMutex);
-    return fSettled;
+    for (Entry& entry : fEntries)
+        setHeardOver(entry, 0);
 }
 
 DNSSD_Services ServiceTable::services() const {
@@ -114,11 +94,6 @@ ServiceTable::Entry* ServiceTable::entry(const QString& name, quint32 interface)
 void ServiceTable::setHeardOver(Entry& entry, unsigned protocols) {
     entry.heardOver = protocols;
     entry.record.available = protocols != 0;
-}
-
-void ServiceTable::tellChanged() const {
-    if (fChanged)
-        fChanged();
 }
 
 } // namespace kelvo

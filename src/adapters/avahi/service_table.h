@@ -4,7 +4,6 @@
 
 #include "support/dnssd_service.h"
 
-#include <functional>
 #include <map>
 #include <mutex>
 #include <utility>
@@ -24,9 +23,6 @@ struct ServiceSearch {
 /// Every operation: any thread, no waiting but for the copy of a list.
 class ServiceTable {
 public:
-    /// `changed` is called after each change that came from the network, on its thread.
-    explicit ServiceTable(std::function<void()> changed = {}) : fChanged(std::move(changed)) {}
-
     /// Begins a search. The same type again forgets what has vanished and awaits the rest to be
     /// found anew; another type forgets everything.
     void startSearch(const QString& type);
@@ -52,9 +48,6 @@ public:
     /// Nobody tells of services any more: all have vanished, until they are found again.
     void lose();
 
-    /// Whether the latest search has told all it knew at its beginning.
-    bool settled() const;
-
     /// In the order of discovery.
     DNSSD_Services services() const;
 
@@ -67,11 +60,8 @@ private:
 
     Entry* entry(const QString& name, quint32 interface);
     static void setHeardOver(Entry& entry, unsigned protocols);
-    void tellChanged() const;
 
-    const std::function<void()> fChanged;
     mutable std::mutex fMutex;
-    bool fSettled = false;
     ServiceSearch fSearch;
     std::vector<Entry> fEntries;
     std::map<Key, std::size_t> fPlaces;
