@@ -7,6 +7,7 @@ target_link_libraries(network_watcher PRIVATE kelvo_adapters_qt)
 kelvo_tests(contract
   TIMEOUT 120
   SOURCES
+    contract/avahi_network_browser_test.cpp
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
     contract/console_contract_test.cpp

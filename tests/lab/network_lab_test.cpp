@@ -40,4 +40,14 @@ TEST_F(NetworkLabTest, WithoutANetworkAtTheStart_SaysSoAndComesBack) {
     EXPECT_TRUE(watcher.waitForLine(QStringLiteral("Connected to the "), 20));
 }
 
+TEST_F(NetworkLabTest, TestOfTheBrowser_FindsTheRemoteMac) {
+    RunningProgram browser(QStringLiteral(KELVO_LAB_COMMAND),
+                           {QStringLiteral("near"), QStringLiteral(KELVO_NETWORK_WATCHER),
+                            QStringLiteral("--browse")});
+    EXPECT_TRUE(browser.waitForLine(QStringLiteral("ready"), 20))
+        << browser.transcript().toStdString();
+    EXPECT_TRUE(browser.waitForLine(QStringLiteral("found: Remote Mac._smb._tcp.local.@cable"), 20))
+        << browser.transcript().toStdString();
+}
+
 } // namespace kelvo
