@@ -4,6 +4,7 @@ kelvo_tests(ui WIDGETS
     contract/status_menu_contract_test.cpp
     contract/tray_host_contract_test.cpp
     ui/application_menu_test.cpp
+    ui/bonjour_sheet_test.cpp
     ui/icons_test.cpp
     ui/main_window_test.cpp
     ui/sheet_presenter_test.cpp
