@@ -81,7 +81,14 @@ void LabNetwork::announce(const QString& name, quint32 port) {
                        "<port>%2</port></service></service-group>\n")
             .arg(name.toHtmlEscaped())
             .arg(port);
-    LabCommands::writeRemote(serviceFile(name), text.toUtf8());
+    // The daemon takes a file for unchanged that is of the same second: each gets one of its own.
+    static int second = 1000000000;
+    const QString draft = QStringLiteral("/tmp/service");
+    LabCommands::writeRemote(draft, text.toUtf8());
+    EXPECT_EQ(remote(QStringLiteral("touch -d @%1 %2 && mv %2 %3")
+                         .arg(QString::number(++second), draft, serviceFile(name)))
+                  .exitCode,
+              0);
 }
 
 void LabNetwork::withdraw(const QString& name) {
