@@ -21,6 +21,8 @@
 
 #include <unistd.h>
 
+#include <csignal>
+
 namespace kelvo {
 namespace {
 
@@ -46,6 +48,8 @@ public:
                                      [] { return QDateTime::currentDateTimeUtc(); },
                                      [this] { terminate(); },
                                      [this](int status) { leaveAtOnce(status); }})) {
+        for (const int signal : {SIGTERM, SIGINT})
+            fQuitSignals.push_back(fParts.signals.catchSignal(signal, [this] { terminate(); }));
         fStoryboard.add(cMyWindowControllerID, [this] { return front().windowController(); });
         fStoryboard.add(cMyViewControllerID, [this] { return makeViewController(); });
     }
@@ -162,6 +166,7 @@ private:
     StatusMenuPresence fStatusMenu;
     WatchdogRelaunchGuard fRelaunchGuard;
     DuplicateCheck fDuplicates;
+    std::vector<Subscription> fQuitSignals; ///< for a program that nobody watches
     Subscription fWatchdog;
     InterfaceRegistry fStoryboard;
     std::unique_ptr<Front> fFront;
