@@ -37,8 +37,9 @@ public:
     }
 
     void restart(const QString& opener) {
-        workspace = std::make_unique<DesktopWorkspace>(mainQueue, bgQueue, console,
-                                                       QStringLiteral("/home/of me"), fBus, opener);
+        workspace = std::make_unique<DesktopWorkspace>(
+            mainQueue, bgQueue, console, QStringLiteral("/home/of me"), [this] { return fBus; },
+            opener);
     }
 
     /// What was opened so far; each line is the number of arguments and the first of them.

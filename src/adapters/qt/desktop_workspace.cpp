@@ -86,9 +86,10 @@ struct DesktopWorkspace::Watches : QObject {
 
 DesktopWorkspace::DesktopWorkspace(DispatchQueue& mainQueue, BackgroundQueue& bgQueue,
                                    Console& console, QString home,
-                                   const QDBusConnection& sessionBus, QString opener)
+                                   std::function<QDBusConnection()> joinBus, QString opener)
     : fMainQueue(mainQueue), fBgQueue(bgQueue), fConsole(console), fHome(std::move(home)),
-      fBus(sessionBus), fOpener(std::move(opener)), fWatches(std::make_shared<Watches>()) {}
+      fJoinBus(std::move(joinBus)), fOpener(std::move(opener)),
+      fWatches(std::make_shared<Watches>()) {}
 
 DesktopWorkspace::~DesktopWorkspace() = default;
 
@@ -179,14 +180,15 @@ void DesktopWorkspace::activateFileViewerSelecting(const QStringList& paths) {
     }
     if (addresses.isEmpty())
         return;
-    if (!fBus.isConnected()) {
+    const QDBusConnection bus = fJoinBus();
+    if (!bus.isConnected()) {
         openFoldersOf(addresses);
         return;
     }
     QDBusMessage request = QDBusMessage::createMethodCall(
         cFileManager, cFileManagerPath, cFileManager, QStringLiteral("ShowItems"));
     request << addresses << QString();
-    auto* answer = new QDBusPendingCallWatcher(fBus.asyncCall(request), fWatches.get());
+    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(request), fWatches.get());
     QObject::connect(
         answer, &QDBusPendingCallWatcher::finished, fWatches.get(), [this, answer, addresses] {
             answer->deleteLater();

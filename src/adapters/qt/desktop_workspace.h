@@ -6,6 +6,7 @@
 #include <QDBusConnection>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace kelvo {
@@ -19,11 +20,11 @@ class DispatchQueue;
 /// the main thread. What was opened lives on after this object.
 class DesktopWorkspace final : public Workspace {
 public:
-    /// Files are looked at on `bgQueue`; the answers arrive through `mainQueue`. `opener` is the
-    /// program that opens an address.
+    /// Files are looked at on `bgQueue`; the answers arrive through `mainQueue`. The session bus is
+    /// joined when something is to be revealed. `opener` is the program that opens an address.
     DesktopWorkspace(DispatchQueue& mainQueue, BackgroundQueue& bgQueue, Console& console,
                      QString home,
-                     const QDBusConnection& sessionBus = QDBusConnection::sessionBus(),
+                     std::function<QDBusConnection()> joinBus = &QDBusConnection::sessionBus,
                      QString opener = QStringLiteral("xdg-open"));
 
     /// Requests under way are no longer reported on.
@@ -46,7 +47,7 @@ private:
     BackgroundQueue& fBgQueue;
     Console& fConsole;
     const QString fHome;
-    QDBusConnection fBus;
+    const std::function<QDBusConnection()> fJoinBus;
     const QString fOpener;
     std::shared_ptr<Watches> fWatches;
 };
