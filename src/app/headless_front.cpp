@@ -1,6 +1,7 @@
 // The front without a window.
-#include "adapters/headless/headless_desktop.h"
 #include "adapters/headless/headless_front.h"
+
+#include "adapters/headless/headless_desktop.h"
 #include "adapters/headless/headless_view.h"
 #include "app/front.h"
 #include "app/main_window_controller.h"
@@ -24,8 +25,8 @@ public:
     Application& application() override { return fApplication; }
     std::shared_ptr<WindowController> windowController() override { return fWindowController; }
     FrontOutlets outlets() override {
-        return {fView,   fAlerts, fSheets,      fOpenPanel,    fFoundServices, fStartButton,
-                nullptr, nullptr, fStatusField, fPathControl};
+        return {fView,        fAlerts, fSheets, fOpenPanel,   fFoundServices,
+                fStartButton, nullptr, nullptr, fStatusField, fPathControl};
     }
     void sendActionsTo(ViewController& controller, AppDelegate&) override {
         fController = &controller;

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "adapters/avahi/avahi_browser.h"
-#include "adapters/qt/avahi_network_browser.h"
 #include "adapters/headless/headless_status_menu.h"
 #include "adapters/posix/local_file_manager.h"
 #include "adapters/posix/local_notification_center.h"
@@ -11,6 +10,7 @@
 #include "adapters/posix/rotating_log_file.h"
 #include "adapters/posix/stream_console.h"
 #include "adapters/posix/thread_pool_queue.h"
+#include "adapters/qt/avahi_network_browser.h"
 #include "adapters/qt/desktop_workspace.h"
 #include "adapters/qt/file_bundle.h"
 #include "adapters/qt/plist_defaults.h"

@@ -1,4 +1,5 @@
 // The way in: reads the command line, then runs the program with a window or without.
+#include "adapters/tray/x_display.h"
 #include "app/command_line.h"
 #include "app/program.h"
 
@@ -26,10 +27,19 @@ void openStandardStreams() {
         ::close(fd);
 }
 
-bool hasDisplay() {
-    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+/// Why no window can be opened here; empty when one can.
+QString missingDisplay() {
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") &&
+        !qEnvironmentVariable("QT_QPA_PLATFORM").startsWith(u"xcb"))
+        return {};
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return {};
+    if (qEnvironmentVariableIsEmpty("DISPLAY"))
+        return QStringLiteral("there is no display to open a window on");
+    if (!kelvo::xDisplayAnswers())
+        return QStringLiteral("the display %1 does not answer")
+            .arg(qEnvironmentVariable("DISPLAY"));
+    return {};
 }
 
 int printAndEnd(std::FILE* stream, const QString& text, int exitCode) {
@@ -64,10 +74,10 @@ int main(int argc, char** argv) {
     case kelvo::LaunchKind::Window:
         break;
     }
-    if (!hasDisplay())
+    if (const QString missing = missingDisplay(); !missing.isEmpty())
         return printAndEnd(stderr,
-                           QStringLiteral("kelvo-mirror: there is no display to open a window on. "
-                                          "Run 'kelvo-mirror --headless' to work without one.\n"),
+                           QString(u"kelvo-mirror: " + missing +
+                                   u". Run 'kelvo-mirror --headless' to work without one.\n"),
                            cExitNoDisplay);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo-mirror"));

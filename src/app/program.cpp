@@ -41,13 +41,12 @@ public:
           fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
                       [this] { terminate(); }),
           fDuplicates(fParts.singleCopy, fParts.console, [this] { show(); }),
-          fWatchdog(Watchdog::begin({fParts.signals, fParts.bundle, fParts.defaults, fParts.console,
-                                     fParts.sentinelLauncher, fParts.notificationCenter,
-                                     fParts.mainQueue, QCoreApplication::arguments(),
-                                     QCoreApplication::applicationPid(),
-                                     [] { return QDateTime::currentDateTimeUtc(); },
-                                     [this] { terminate(); },
-                                     [this](int status) { leaveAtOnce(status); }})) {
+          fWatchdog(Watchdog::begin(
+              {fParts.signals, fParts.bundle, fParts.defaults, fParts.console,
+               fParts.sentinelLauncher, fParts.notificationCenter, fParts.mainQueue,
+               QCoreApplication::arguments(), QCoreApplication::applicationPid(),
+               [] { return QDateTime::currentDateTimeUtc(); }, [this] { terminate(); },
+               [this](int status) { leaveAtOnce(status); }})) {
         for (const int signal : {SIGTERM, SIGINT})
             fQuitSignals.push_back(fParts.signals.catchSignal(signal, [this] { terminate(); }));
         fStoryboard.add(cMyWindowControllerID, [this] { return front().windowController(); });
@@ -66,7 +65,9 @@ public:
             fParts.console, fParts.logFile, fParts.defaults, fParts.bundle, fRelaunchGuard,
             fStoryboard, fParts.systemInformation,
             [this] { fDuplicates.checkForDuplicateRunningInstances(); },
-            [this] { return std::make_unique<KelvoStatusMenuHandler>(fStatusMenu, fParts.console); },
+            [this] {
+                return std::make_unique<KelvoStatusMenuHandler>(fStatusMenu, fParts.console);
+            },
             runningApplication()});
         if (const auto exitCode = fDuplicates.exitCode())
             return *exitCode;
@@ -81,14 +82,11 @@ public:
 private:
     Front& front() {
         if (!fFront) {
-            const FrontParts parts{fParts.defaults,
-                                   fParts.mainQueue,
-                                   fParts.console,
-                                   fParts.workspace,
-                                   fParts.dnssdBrowser,
-                                   fParts.statusMenu(),
-                                   logFolder(),
-                                   [this](bool trouble) { fStatusMenu.setTrouble(trouble); }};
+            const FrontParts parts{
+                fParts.defaults,     fParts.mainQueue,
+                fParts.console,      fParts.workspace,
+                fParts.dnssdBrowser, fParts.statusMenu(),
+                logFolder(),         [this](bool trouble) { fStatusMenu.setTrouble(trouble); }};
             fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
         }
         return *fFront;
@@ -96,37 +94,37 @@ private:
 
     std::shared_ptr<ViewController> makeViewController() {
         const FrontOutlets outlets = front().outlets();
-        auto controller = std::make_shared<ViewController>(ViewControllerParts{
-            fParts.defaults,
-            fParts.mainQueue,
-            fParts.bgQueue,
-            fParts.shell,
-            fParts.files,
-            fParts.console,
-            fParts.notificationCenter,
-            fParts.bundle,
-            front().application(),
-            fRelaunchGuard,
-            fParts.workspace,
-            outlets.openPanel,
-            fParts.networkBrowser,
-            fParts.dnssdBrowser,
-            [this] { return fParts.makeNetworkChecker(); },
-            fStatusMenu,
-            QDir::tempPath(),
-            outlets.view,
-            outlets.alertPresenter,
-            outlets.sheets,
-            outlets.fArrayController,
-            outlets.ibStartButton,
-            outlets.ibRevealButton1,
-            outlets.ibRevealButton2,
-            outlets.ibStatusTextField,
-            outlets.fNsPathControl1,
-            [this]() -> StatusMenuWindow* {
-                WindowController& window = *front().windowController();
-                return window.contentViewController() ? &window : nullptr;
-            }});
+        auto controller = std::make_shared<ViewController>(
+            ViewControllerParts{fParts.defaults,
+                                fParts.mainQueue,
+                                fParts.bgQueue,
+                                fParts.shell,
+                                fParts.files,
+                                fParts.console,
+                                fParts.notificationCenter,
+                                fParts.bundle,
+                                front().application(),
+                                fRelaunchGuard,
+                                fParts.workspace,
+                                outlets.openPanel,
+                                fParts.networkBrowser,
+                                fParts.dnssdBrowser,
+                                [this] { return fParts.makeNetworkChecker(); },
+                                fStatusMenu,
+                                QDir::tempPath(),
+                                outlets.view,
+                                outlets.alertPresenter,
+                                outlets.sheets,
+                                outlets.fArrayController,
+                                outlets.ibStartButton,
+                                outlets.ibRevealButton1,
+                                outlets.ibRevealButton2,
+                                outlets.ibStatusTextField,
+                                outlets.fNsPathControl1,
+                                [this]() -> StatusMenuWindow* {
+                                    WindowController& window = *front().windowController();
+                                    return window.contentViewController() ? &window : nullptr;
+                                }});
         front().sendActionsTo(*controller, *fDelegate);
         return controller;
     }
@@ -150,8 +148,7 @@ private:
     }
 
     QString logFolder() const {
-        return QFileInfo(
-                   fParts.logFile.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")))
+        return QFileInfo(fParts.logFile.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")))
             .path();
     }
 

@@ -53,8 +53,7 @@ TabViewItem item(const MainWindow::Tab& tab) {
 
 void showAbout(MainWindow& window) {
     QMessageBox about(QMessageBox::NoIcon, QObject::tr("About Kelvo Mirror"),
-                      QObject::tr("Kelvo Mirror %1").arg(cVersion),
-                      QMessageBox::Ok, &window);
+                      QObject::tr("Kelvo Mirror %1").arg(cVersion), QMessageBox::Ok, &window);
     about.setIconPixmap(window.windowIcon().pixmap(64));
     about.setInformativeText(QObject::tr("Keeps a local folder supplied with movie files from a "
                                          "remote Mac."));

@@ -45,9 +45,8 @@ public:
     Application& application() override { return fApplication; }
     std::shared_ptr<WindowController> windowController() override { return fWindowController; }
     FrontOutlets outlets() override {
-        return {fView,         fAlerts,        fSheets,         fOpenPanel,
-                fFoundServices, fStartButton,   &fRevealButton1, &fRevealButton2,
-                fStatusField,  fPathControl};
+        return {fView,        fAlerts,         fSheets,         fOpenPanel,   fFoundServices,
+                fStartButton, &fRevealButton1, &fRevealButton2, fStatusField, fPathControl};
     }
 
     void sendActionsTo(ViewController& controller, AppDelegate& delegate) override {

@@ -1,13 +1,9 @@
 // The built program from outside, on a profile of its own and with real rsync between two folders.
-#include "support/plist_text.h"
+#include "support/program_profile.h"
 #include "support/running_program.h"
 #include "support/virtual_display.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -16,46 +12,8 @@ namespace {
 
 const QString cProgram = QStringLiteral(KELVO_PROGRAM);
 
-QByteArray contents(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& path, const QByteArray& bytes) {
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-class ProgramTest : public ::testing::Test {
+class ProgramTest : public ::testing::Test, public ProgramProfile {
 protected:
-    QString path(const QString& name) const { return folder.filePath(name); }
-    QString settingsFile() const {
-        return path(QStringLiteral("config/kelvo-mirror/preferences.plist"));
-    }
-    QString logFile() const { return path(QStringLiteral("state/Kelvo/kelvo-mirror.log")); }
-
-    QProcessEnvironment environment() const {
-        QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
-        for (const auto& [variable, name] :
-             {std::pair("HOME", "home"), std::pair("XDG_CONFIG_HOME", "config"),
-              std::pair("XDG_STATE_HOME", "state"), std::pair("XDG_CACHE_HOME", "cache"),
-              std::pair("XDG_RUNTIME_DIR", "run")})
-            own.insert(QString::fromLatin1(variable), path(QString::fromLatin1(name)));
-        for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-            own.remove(QString::fromLatin1(variable));
-        return own;
-    }
-
-    QVariantMap plainProfile() const {
-        return {{QStringLiteral("prefAutoStartScanOnLaunch"), true},
-                {QStringLiteral("prefRsyncWithSSH"), false},
-                {QStringLiteral("prefDelayBetweenScans"), 0.5},
-                {QStringLiteral("prefPath1"), path(QStringLiteral("Camera"))},
-                {QStringLiteral("prefPath2"), path(QStringLiteral("Incoming"))}};
-    }
-
     std::unique_ptr<RunningProgram> start(const QVariantMap& profile,
                                           const QString& program = cProgram) const {
         write(settingsFile(), plistText(profile));
@@ -73,8 +31,6 @@ protected:
         return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
                 process.readAllStandardOutput(), process.readAllStandardError()};
     }
-
-    const QTemporaryDir folder;
 };
 
 TEST_F(ProgramTest, Version_IsPrinted) {
@@ -105,6 +61,55 @@ TEST_F(ProgramTest, NoDisplay_IsSaidWithTheWayOut) {
     const auto [code, output, errors] = run({});
     EXPECT_EQ(code, 3);
     EXPECT_TRUE(errors.contains("--headless")) << errors.constData();
+}
+
+TEST_F(ProgramTest, DisplayThatDoesNotAnswer_IsSaidWithTheWayOut) {
+    QProcess process;
+    QProcessEnvironment withDisplay = environment();
+    withDisplay.insert(QStringLiteral("DISPLAY"), QStringLiteral(":98765"));
+    process.setProcessEnvironment(withDisplay);
+    process.start(cProgram, QStringList{});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 3);
+    const QByteArray errors = process.readAllStandardError();
+    EXPECT_TRUE(errors.contains("--headless")) << errors.constData();
+    EXPECT_TRUE(errors.contains(":98765")) << errors.constData();
+    EXPECT_FALSE(QFile::exists(settingsFile())) << "nothing was started";
+}
+
+TEST_F(ProgramTest, SecondCopy_EndsWithNothingWhileTheFirstRunsOn) {
+    const auto first = start({});
+    ASSERT_TRUE(first->waitForLine(QStringLiteral("Got version = "), 30));
+    const auto [code, output, errors] = run({QStringLiteral("--headless")});
+    EXPECT_EQ(code, 0) << errors.constData();
+    EXPECT_TRUE(errors.contains("is running already")) << errors.constData();
+    EXPECT_FALSE(output.contains("viewDidLoad()")) << output.constData();
+    EXPECT_TRUE(first->isRunning());
+    EXPECT_EQ(first->stop(), 0);
+}
+
+TEST_F(ProgramTest, LogFolderThatCannotBeWritten_IsSaidAndTheProgramRuns) {
+    write(path(QStringLiteral("state")), "a file where a folder should be");
+    const auto program = start({});
+    EXPECT_TRUE(program->waitForLine(QStringLiteral("Got version = "), 30));
+    EXPECT_EQ(program->stop(), 0);
+    EXPECT_TRUE(program->transcript().contains(QStringLiteral("Cannot write the log file")))
+        << program->transcript().toStdString();
+}
+
+TEST_F(ProgramTest, BrokenInfo_IsSaidAndTheProgramRunsWithoutAVersion) {
+    QDir().mkpath(path(QStringLiteral("copy/bin")));
+    const QString copy = path(QStringLiteral("copy/bin/kelvo-mirror"));
+    ASSERT_TRUE(QFile::copy(cProgram, copy));
+    write(path(QStringLiteral("copy/lib/kelvo-mirror/Info.plist")), "no property list");
+    const auto program = start({}, copy);
+    EXPECT_TRUE(program->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 30));
+    EXPECT_EQ(program->stop(), 0);
+    EXPECT_EQ(program->lines().filter(QStringLiteral("Got version")), QStringList());
+    EXPECT_EQ(program->lines().filter(QStringLiteral("LSUIElement")), QStringList());
+    EXPECT_TRUE(program->transcript().contains(QStringLiteral("Info.plist")))
+        << program->transcript().toStdString();
 }
 
 TEST_F(ProgramTest, PlainPass_CopiesMoviesAndRepeats) {

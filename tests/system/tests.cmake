@@ -11,12 +11,14 @@ kelvo_tests(system
     system/program_test.cpp
     system/tray_system_test.cpp
     system/watchdog_system_test.cpp
+    system/window_system_test.cpp
   LINKS kelvo_bus_testing
   TIMEOUT 120
   PROPERTIES
     ENVIRONMENT LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/support/leaks.supp
 )
 target_compile_definitions(system_tests PRIVATE
+  KELVO_PICTURES="${CMAKE_BINARY_DIR}/pictures"
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror"
   KELVO_SENTINEL="$<TARGET_FILE:kelvo_sentinel>"
   KELVO_WATCHED_PROGRAM="$<TARGET_FILE:watched_program>"

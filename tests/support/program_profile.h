@@ -1,0 +1,69 @@
+// ProgramProfile: a home, settings and folders of a test's own for the built program.
+#pragma once
+
+#include "support/plist_text.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+
+inline QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Makes the folders that are missing.
+inline void write(const QString& path, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
+    file.write(bytes);
+}
+
+class ProgramProfile {
+public:
+    ProgramProfile() {
+        QDir().mkpath(path(QStringLiteral("home")));
+        QDir().mkpath(path(QStringLiteral("run")));
+        QFile::setPermissions(path(QStringLiteral("run")),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    QString path(const QString& name) const { return folder.filePath(name); }
+    QString settingsFile() const {
+        return path(QStringLiteral("config/kelvo-mirror/preferences.plist"));
+    }
+    QString logFile() const { return path(QStringLiteral("state/Kelvo/kelvo-mirror.log")); }
+
+    /// Without a display; everything of the user's lies in the folder.
+    QProcessEnvironment environment() const {
+        QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
+        for (const auto& [variable, name] :
+             {std::pair("HOME", "home"), std::pair("XDG_CONFIG_HOME", "config"),
+              std::pair("XDG_STATE_HOME", "state"), std::pair("XDG_CACHE_HOME", "cache"),
+              std::pair("XDG_RUNTIME_DIR", "run")})
+            own.insert(QString::fromLatin1(variable), path(QString::fromLatin1(name)));
+        for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            own.remove(QString::fromLatin1(variable));
+        return own;
+    }
+
+    /// Passes between the folders "Camera" and "Incoming", from the launch on.
+    QVariantMap plainProfile() const {
+        return {{QStringLiteral("prefAutoStartScanOnLaunch"), true},
+                {QStringLiteral("prefRsyncWithSSH"), false},
+                {QStringLiteral("prefDelayBetweenScans"), 0.5},
+                {QStringLiteral("prefPath1"), path(QStringLiteral("Camera"))},
+                {QStringLiteral("prefPath2"), path(QStringLiteral("Incoming"))}};
+    }
+
+    const QTemporaryDir folder;
+};
+
+} // namespace kelvo
