@@ -1,6 +1,5 @@
-// Any bytes as Avahi could hand them out, through everything up to the record and its log lines.
-//   cmake --preset release -DKELVO_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++ …, then
-//   bin/service-answer-fuzz -max_total_time=60
+// Any bytes as Avahi could hand them out, through everything up to the record and its log
+// lines; fuzz/CMakeLists.txt says how to run it.
 #include "adapters/avahi/neighbour_table.h"
 #include "adapters/avahi/service_answer.h"
 #include "adapters/avahi/service_table.h"

@@ -1,6 +1,7 @@
 // The front without a window.
 #include "adapters/headless/headless_front.h"
 
+#include "adapters/headless/headless_bonjour.h"
 #include "adapters/headless/headless_desktop.h"
 #include "adapters/headless/headless_view.h"
 #include "app/front.h"
@@ -38,9 +39,9 @@ private:
     std::shared_ptr<ObservedStatusField> fStatusField;
     HeadlessAlerts fAlerts;
     HeadlessView fView;
-    HeadlessSheets fSheets;
+    HeadlessSheetOpener fSheets;
     HeadlessOpenPanel fOpenPanel;
-    HeadlessServiceList fFoundServices;
+    HeadlessArrayController fFoundServices;
     HeadlessApplication fApplication;
     std::shared_ptr<HeadlessPathControl> fPathControl = std::make_shared<HeadlessPathControl>();
     std::shared_ptr<MainWindowController> fWindowController =

@@ -1,3 +1,4 @@
+#include "adapters/headless/headless_bonjour.h"
 #include "discovery/bonjour_selection.h"
 #include "discovery/record_texts.h"
 #include "discovery/service_filter.h"
@@ -105,6 +106,21 @@ TEST_F(BonjourSelectionTest, NothingFound_IsAnEmptyList) {
     EXPECT_EQ(rows.content(), std::optional(DNSSD_Services()));
     EXPECT_TRUE(
         console.printed().contains(QStringLiteral("self.fFoundServicesArray[Optional(0)] item")));
+}
+
+TEST_F(BonjourSelectionTest, WithoutAWindow_TheSheetIsOnlySpokenOf) {
+    HeadlessSheetOpener noSheets(console);
+    HeadlessArrayController noRows;
+    BonjourSelection headless({mainQueue, console, browser, noSheets, noRows});
+    headless.ibSelectSourceByBonjor();
+    EXPECT_EQ(console.printed().constLast(),
+              u"There is no window to show the sheet BonjourVCstoryboardID on.");
+    browser.announce(service(QStringLiteral("My Mac"), QStringLiteral("10.0.0.2")));
+    headless.ibSearchBonjour();
+    mainQueue.advance(1);
+    EXPECT_EQ(noRows.content(), std::optional(browser.services()));
+    EXPECT_EQ(noRows.selectionIndex(), -1);
+    EXPECT_FALSE(noSheets.presentSheet(u"AnotherSheet"));
 }
 
 TEST(ServiceFilterTest, FirstRecordOfAnAddress_IsAdmitted) {

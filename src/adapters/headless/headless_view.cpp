@@ -9,9 +9,4 @@ void HeadlessView::showNetworkStatus(const QString& text) {
         fConsole.print(u"network: " + text);
 }
 
-bool HeadlessSheets::presentSheet(QStringView identifier) {
-    fConsole.log(u"There is no window to show the sheet " + identifier + u" on.");
-    return true;
-}
-
 } // namespace kelvo

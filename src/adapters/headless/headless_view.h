@@ -2,9 +2,7 @@
 #pragma once
 
 #include "ports/application.h"
-#include "ports/array_controller.h"
 #include "ports/main_view.h"
-#include "ports/sheet_opener.h"
 
 #include <functional>
 #include <utility>
@@ -27,29 +25,6 @@ public:
 
 private:
     Console& fConsole;
-};
-
-/// Says that the sheet cannot be shown.
-class HeadlessSheets final : public SheetOpener {
-public:
-    explicit HeadlessSheets(Console& console) : fConsole(console) {}
-
-    bool presentSheet(QStringView identifier) override;
-
-private:
-    Console& fConsole;
-};
-
-/// Keeps the records; nothing is ever selected.
-class HeadlessServiceList final : public ArrayController {
-public:
-    void setContent(const std::optional<DNSSD_Services>& content) override { fContent = content; }
-    std::optional<DNSSD_Services> content() const override { return fContent; }
-    std::optional<DNSSD_Services> arrangedObjects() const override { return fContent; }
-    qsizetype selectionIndex() const override { return -1; }
-
-private:
-    std::optional<DNSSD_Services> fContent;
 };
 
 class HeadlessApplication final : public Application {
