@@ -42,7 +42,7 @@ ViewController::ViewController(const ViewControllerParts& parts)
       fHostValidation(parts.defaults, parts.shell, parts.files, parts.console),
       fSyncCycle({parts.defaults, parts.mainQueue, parts.bgQueue, parts.shell, parts.files,
                   parts.console, fRsyncCommand, fHostValidation, fStatusLine, fAlerts,
-                  parts.ibStartButton}),
+                  parts.ibStartButton, parts.passListener}),
       fRepeatTimer(parts.mainQueue, parts.console),
       fStartButtonTitle(parts.ibStartButton, parts.defaults, parts.mainQueue, parts.console),
       fCommandExample(parts.defaults, fRsyncCommand, parts.console),
