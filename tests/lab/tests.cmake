@@ -19,6 +19,7 @@ kelvo_tests(lab
     lab/lab_fixture.cpp
     lab/lab_host_test.cpp
     lab/network_lab_test.cpp
+    lab/once_lab_test.cpp
     lab/lab_network.cpp
     lab/sync_lab_test.cpp
   LINKS kelvo_adapters_avahi
