@@ -19,6 +19,7 @@ class DispatchQueue;
 class DnssdBrowser;
 class MainView;
 class OpenPanel;
+class PassStore;
 class PathControl;
 class SheetOpener;
 class StatusField;
@@ -39,6 +40,7 @@ struct FrontParts {
     QString logFolder;
     /// Told after each status message whether it is about trouble.
     std::function<void(bool)> trouble;
+    PassStore& passes;
 };
 
 /// What lies in the front, for the main view's controller.

@@ -87,7 +87,8 @@ private:
                 fParts.defaults,     fParts.mainQueue,
                 fParts.console,      fParts.workspace,
                 fParts.dnssdBrowser, fParts.statusMenu(),
-                logFolder(),         [this](bool trouble) { fStatusMenu.setTrouble(trouble); }};
+                logFolder(),         [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
+                fPasses.store};
             fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
         }
         return *fFront;

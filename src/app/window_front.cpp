@@ -7,6 +7,7 @@
 #include "ui/close_policy.h"
 #include "ui/observed_status_field.h"
 #include "ui/view_controller.h"
+#include "ui/widgets/activity_tab.h"
 #include "ui/widgets/bonjour_sheet.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
@@ -39,6 +40,7 @@ public:
           fWindowController(
               std::make_shared<MainWindowController>([this] { fWindow.bringToFront(); })) {
         fWindow.setWindowIcon(applicationIcon());
+        fWindow.activityTab().setStore(parts.passes);
         fWindow.setMayClose([this] { return mayClose(); });
     }
 

@@ -33,8 +33,8 @@ public:
             if (alive.expired())
                 return;
             std::vector<PassRecord> all;
-            for (const PassRecord& record : state->records)
-                all.insert(all.begin(), withoutCommands(record));
+            for (auto record = state->records.rbegin(); record != state->records.rend(); ++record)
+                all.push_back(withoutCommands(*record));
             answer(std::move(all));
         });
     }

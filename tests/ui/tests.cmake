@@ -3,6 +3,7 @@ kelvo_tests(ui WIDGETS
   SOURCES
     contract/status_menu_contract_test.cpp
     contract/tray_host_contract_test.cpp
+    ui/activity_tab_test.cpp
     ui/application_menu_test.cpp
     ui/bindings_test.cpp
     ui/bonjour_sheet_test.cpp

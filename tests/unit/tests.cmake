@@ -1,5 +1,6 @@
 kelvo_tests(unit
   SOURCES
+    unit/activity_texts_test.cpp
     unit/app_delegate_test.cpp
     unit/bonjour_selection_test.cpp
     unit/bonjour_view_controller_test.cpp

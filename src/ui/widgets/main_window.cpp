@@ -2,6 +2,7 @@
 
 #include "ports/user_defaults.h"
 #include "support/fatal.h"
+#include "ui/widgets/activity_tab.h"
 #include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/remote_tab.h"
 #include "ui/widgets/settings_tab.h"
@@ -26,7 +27,8 @@ constexpr QStringView cTabKey = u"mainWindowTab";
 
 MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     : fDefaults(defaults), fBindings(defaults, mainQueue), fUi(std::make_unique<Ui::MainWindow>()),
-      fSyncTab(new SyncTab(fBindings)), fRemoteTab(new RemoteTab(fBindings)) {
+      fSyncTab(new SyncTab(fBindings)), fRemoteTab(new RemoteTab(fBindings)),
+      fActivityTab(new ActivityTab) {
     fUi->setupUi(this);
     auto* diagnostics = new DiagnosticsTab;
     fFoundServices = &diagnostics->foundServices();
@@ -34,8 +36,11 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     addTab(fRemoteTab, "remote", tr("Remote Mac"));
     addTab(new SettingsTab(fBindings), "prefs", tr("Settings"));
     addTab(diagnostics, "diagnostics", tr("Diagnostics"));
+    addTab(fActivityTab, "activity", tr("Activity"));
     switchOffUntilWired();
     setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
+    setAction(QStringLiteral("copyPass"), [this] { fActivityTab->copyPass(); });
+    setAction(QStringLiteral("exportPasses"), [this] { fActivityTab->exportPasses(); });
     connect(&ibStartButton(), &QPushButton::toggled, this, [this] { showStartIcon(); });
     showStartIcon();
     restoreLook();

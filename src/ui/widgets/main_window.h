@@ -1,4 +1,4 @@
-// MainWindow: the program's one window, with its four tabs.
+// MainWindow: the program's one window, with its five tabs.
 #pragma once
 
 #include "ui/widgets/bindings.h"
@@ -17,6 +17,7 @@ class MainWindow;
 
 namespace kelvo {
 
+class ActivityTab;
 class DispatchQueue;
 class PathControlView;
 class RemoteTab;
@@ -65,6 +66,7 @@ public:
     QTableView& foundServices();
     SyncTab& syncTab() { return *fSyncTab; }
     RemoteTab& remoteTab() { return *fRemoteTab; }
+    ActivityTab& activityTab() { return *fActivityTab; }
     Bindings& bindings() { return fBindings; }
 
 Q_SIGNALS:
@@ -86,6 +88,7 @@ private:
     std::unique_ptr<Ui::MainWindow> fUi;
     SyncTab* fSyncTab;
     RemoteTab* fRemoteTab;
+    ActivityTab* fActivityTab;
     QTableView* fFoundServices;
     std::function<bool()> fMayClose;
     std::function<void(const Tab&)> fTabSelected;
