@@ -12,11 +12,14 @@ class AlertPresenter;
 class AppDelegate;
 class Application;
 class ArrayController;
+class BackgroundQueue;
 class Button;
+class ChecklistProbe;
 class Console;
 class Control;
 class DispatchQueue;
 class DnssdBrowser;
+class FileManager;
 class MainView;
 class OpenPanel;
 class PassStore;
@@ -41,6 +44,9 @@ struct FrontParts {
     /// Told after each status message whether it is about trouble.
     std::function<void(bool)> trouble;
     PassStore& passes;
+    BackgroundQueue& bgQueue;
+    const FileManager& files;
+    const ChecklistProbe& checklistProbe;
 };
 
 /// What lies in the front, for the main view's controller.

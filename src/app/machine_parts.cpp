@@ -16,7 +16,11 @@ MachineParts::MachineParts(bool withTray)
       bundle(resourceFolder()), shell(console),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, bgQueue, console),
-      singleCopy(runtimeFolder().path, console), dnssdBrowser(console) {
+      singleCopy(runtimeFolder().path, console), dnssdBrowser(console),
+      notices([this](const QString& title, const QString& text) {
+          if (auto* tray = dynamic_cast<DesktopNotices*>(fStatusMenu.get()))
+              tray->showNotice(title, text);
+      }) {
     if (withTray) {
         fTrayHost = std::make_unique<DesktopTrayHost>();
         fStatusMenu = std::make_unique<TrayIcon>(*fTrayHost);

@@ -3,6 +3,7 @@
 
 #include "adapters/avahi/avahi_browser.h"
 #include "adapters/headless/headless_status_menu.h"
+#include "adapters/posix/local_checklist_probe.h"
 #include "adapters/posix/local_file_manager.h"
 #include "adapters/posix/local_notification_center.h"
 #include "adapters/posix/posix_sentinel_launcher.h"
@@ -11,6 +12,7 @@
 #include "adapters/posix/stream_console.h"
 #include "adapters/posix/thread_pool_queue.h"
 #include "adapters/qt/avahi_network_browser.h"
+#include "adapters/qt/bus_notices.h"
 #include "adapters/qt/desktop_workspace.h"
 #include "adapters/qt/file_bundle.h"
 #include "adapters/qt/plist_defaults.h"
@@ -42,6 +44,7 @@ struct MachineParts {
     QtMainQueue mainQueue;
     PlistDefaults defaults;
     LocalFileManager files;
+    LocalChecklistProbe checklistProbe;
     FileBundle bundle;
     LocalNotificationCenter notificationCenter;
     PosixShellRunner shell;
@@ -53,6 +56,7 @@ struct MachineParts {
     PosixSentinelLauncher sentinelLauncher;
     AvahiBrowser dnssdBrowser;
     AvahiNetworkBrowser networkBrowser;
+    BusNotices notices;
 
 private:
     std::unique_ptr<TrayHost> fTrayHost;

@@ -11,6 +11,7 @@
 #include "app/watchdog_relaunch_guard.h"
 #include "ports/application.h"
 #include "ports/network_checker.h"
+#include "ui/pass_notices.h"
 #include "ui/status_menu_handler.h"
 #include "ui/status_menu_presence.h"
 #include "ui/view_controller.h"
@@ -88,7 +89,8 @@ private:
                 fParts.console,      fParts.workspace,
                 fParts.dnssdBrowser, fParts.statusMenu(),
                 logFolder(),         [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
-                fPasses.store};
+                fPasses.store,       fParts.bgQueue,
+                fParts.files,        fParts.checklistProbe};
             fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
         }
         return *fFront;
@@ -164,6 +166,7 @@ private:
     const FrontKind fKind;
     MachineParts fParts;
     PassRecording fPasses{fParts.shell, fParts.mainQueue, fParts.console};
+    PassNotices fNotices{fPasses.store, fParts.defaults, fParts.notices};
     StatusMenuPresence fStatusMenu;
     WatchdogRelaunchGuard fRelaunchGuard;
     DuplicateCheck fDuplicates;

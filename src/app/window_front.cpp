@@ -9,15 +9,20 @@
 #include "ui/view_controller.h"
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/bonjour_sheet.h"
+#include "ui/widgets/checklist_view.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/service_list.h"
 #include "ui/widgets/sheet_presenter.h"
 #include "ui/widgets/status_field_view.h"
+#include "ui/widgets/sync_tab.h"
 #include "ui/widgets/widget_button.h"
 #include "ui/widgets/widget_controls.h"
 #include "ui/widgets/widget_main_view.h"
 #include "ui/widgets/widget_open_panel.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 namespace kelvo {
 namespace {
@@ -55,11 +60,34 @@ public:
         fController = &controller;
         fDelegate = &delegate;
         fOnceButtons = sendWindowActions(fWindow, controller, fParts.workspace, fPathControl);
+        fWindow.syncTab().checklist().setMend([this](Mend mend) { mendBy(mend); });
+        fChecklist.emplace(Checklist::Parts{fParts.defaults, fParts.mainQueue, fParts.bgQueue,
+                                            fParts.files, fParts.checklistProbe, fParts.passes,
+                                            [this](const std::vector<ChecklistLine>& lines) {
+                                                fWindow.syncTab().checklist().setLines(lines);
+                                            }});
         addApplicationMenu(fWindow, controller, delegate, fParts.workspace, fParts.logFolder,
                            [this] { fApplication.terminate(); });
     }
 
 private:
+    void mendBy(Mend mend) {
+        switch (mend) {
+        case Mend::ShowRemoteTab:
+            fWindow.showTab(QStringLiteral("remote"));
+            break;
+        case Mend::ChooseSource:
+            fWindow.button(QStringLiteral("ibSelectFolder1Action")).click();
+            break;
+        case Mend::ChooseDestination:
+            fWindow.button(QStringLiteral("ibSelectFolder2Action")).click();
+            break;
+        case Mend::CopyInstallCommand:
+            QGuiApplication::clipboard()->setText(cInstallCommand.toString());
+            break;
+        }
+    }
+
     bool mayClose() {
         std::optional<ModalResponse> answer;
         if (const auto note = fClosePolicy.noteBeforeClosing(fParts.statusMenu.isReachable()))
@@ -89,6 +117,7 @@ private:
     ServiceList fFoundServices;
     OnceButtons fOnceButtons;
     std::shared_ptr<MainWindowController> fWindowController;
+    std::optional<Checklist> fChecklist;
 };
 
 } // namespace

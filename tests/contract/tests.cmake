@@ -10,6 +10,8 @@ kelvo_tests(contract
     contract/avahi_network_browser_test.cpp
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
+    contract/bus_notices_test.cpp
+    contract/checklist_probe_test.cpp
     contract/console_contract_test.cpp
     contract/dispatch_queue_contract_test.cpp
     contract/dnssd_browser_contract_test.cpp

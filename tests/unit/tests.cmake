@@ -5,6 +5,7 @@ kelvo_tests(unit
     unit/bonjour_selection_test.cpp
     unit/bonjour_view_controller_test.cpp
     unit/bundle_version_test.cpp
+    unit/checklist_test.cpp
     unit/close_policy_test.cpp
     unit/dnssd_service_test.cpp
     unit/duplicate_check_test.cpp
@@ -14,6 +15,7 @@ kelvo_tests(unit
     unit/once_test.cpp
     unit/pass_cause_test.cpp
     unit/pass_journal_test.cpp
+    unit/pass_notices_test.cpp
     unit/plain_line_test.cpp
     unit/rsync_statistics_test.cpp
     unit/preferences_test.cpp

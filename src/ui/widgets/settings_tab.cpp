@@ -2,6 +2,7 @@
 
 #include "ports/user_defaults.h"
 #include "support/preference_keys.h"
+#include "ui/pass_notices.h"
 #include "ui/widgets/bindings.h"
 #include "ui_settings_tab.h"
 
@@ -44,6 +45,7 @@ SettingsTab::SettingsTab(Bindings& bindings, QWidget* parent)
     bindings.number(*fUi->delayBetweenScans, prefDelayBetweenScans);
     bindings.flag(*fUi->autoStart, prefAutoStartScanOnLaunch);
     bindings.flag(*fUi->hideOnLaunch, prefHideOnLaunch);
+    bindings.flag(*fUi->showNotices, cShowNoticesKey);
     bindings.follow(*this, {prefVersionDisplayString}, [this, &defaults] {
         const QString version = defaults.stringForKey(prefVersionDisplayString).value_or(QString());
         fUi->versionText->setFullText(version.isEmpty() ? QString()

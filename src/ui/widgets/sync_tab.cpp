@@ -54,6 +54,10 @@ StatusFieldView& SyncTab::ibStatusTextField() {
     return *fUi->ibStatusTextField;
 }
 
+ChecklistView& SyncTab::checklist() {
+    return *fUi->checklist;
+}
+
 void SyncTab::setNetworkStatus(const QString& text) {
     fUi->networkStatus->setText(text);
     fUi->networkStatus->setAccessibleName(text.isEmpty() ? tr("Network")

@@ -12,6 +12,7 @@ class SyncTab;
 namespace kelvo {
 
 class Bindings;
+class ChecklistView;
 class PathControlView;
 class StatusFieldView;
 
@@ -25,6 +26,7 @@ public:
     PathControlView& fNsPathControl1();
     PathControlView& destinationPath();
     StatusFieldView& ibStatusTextField();
+    ChecklistView& checklist();
 
     /// The network line; an empty text leaves its place empty.
     void setNetworkStatus(const QString& text);

@@ -79,6 +79,11 @@ const QSystemTrayIcon* TrayIcon::shownIcon() const {
     return fIcon && fIcon->isVisible() ? fIcon.get() : nullptr;
 }
 
+void TrayIcon::showNotice(const QString& title, const QString& text) {
+    if (shownIcon())
+        fIcon->showMessage(title, text);
+}
+
 void TrayIcon::update() {
     if (!fState) {
         if (fIcon)

@@ -1,6 +1,7 @@
 // TrayIcon: the status menu in the desktop's tray.
 #pragma once
 
+#include "ports/desktop_notices.h"
 #include "ports/status_menu.h"
 #include "support/subscription.h"
 
@@ -16,7 +17,7 @@ class TrayHost;
 
 /// The toolkit decides once in a process which kind of tray it talks to, at the first icon made;
 /// the icon is therefore made only when `host` knows of a tray.
-class TrayIcon final : public QObject, public StatusMenu {
+class TrayIcon final : public QObject, public StatusMenu, public DesktopNotices {
     Q_OBJECT
 public:
     /// `host` outlives this.
@@ -28,6 +29,9 @@ public:
     void setStartTitle(const QString& title) override;
     void hide() override;
     bool isReachable() const override;
+
+    /// Shown beside the icon; not while that is hidden.
+    void showNotice(const QString& title, const QString& text) override;
 
     /// The icon in the tray; none while hidden or before the desktop has had a tray.
     const QSystemTrayIcon* shownIcon() const;

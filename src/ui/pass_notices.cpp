@@ -1,0 +1,41 @@
+#include "ui/pass_notices.h"
+
+#include "ports/desktop_notices.h"
+#include "ports/pass_store.h"
+#include "ports/user_defaults.h"
+#include "ui/pass_words.h"
+
+namespace kelvo {
+namespace {
+
+/// Passes that say nothing about the next one: they change no mind.
+bool saysNothing(PassCause cause) {
+    return cause == PassCause::FilesVanished || cause == PassCause::Interrupted;
+}
+
+} // namespace
+
+PassNotices::PassNotices(PassStore& store, UserDefaults& defaults, DesktopNotices& notices)
+    : fDefaults(defaults), fNotices(notices),
+      fObservation(store.observe([this](const PassRecord& pass) { heard(pass); })) {
+    defaults.registerDefaults({{cShowNoticesKey.toString(), true}});
+}
+
+void PassNotices::heard(const PassRecord& pass) {
+    const bool trouble = pass.cause != PassCause::Well;
+    if (trouble == fTrouble || saysNothing(pass.cause))
+        return;
+    fTrouble = trouble;
+    if (!fDefaults.boolForKey(cShowNoticesKey))
+        return;
+    // The words are the program's own: nothing that a host said is shown on the desktop.
+    const CauseWords words = wordsFor(pass.cause);
+    if (trouble)
+        fNotices.showNotice(QStringLiteral("Kelvo Mirror is in trouble"),
+                            QString(words.sentence + QLatin1String(" ") + words.nextStep));
+    else
+        fNotices.showNotice(QStringLiteral("Kelvo Mirror is well again"),
+                            QString(u"The last pass went well: " + filesText(pass.brought) + u'.'));
+}
+
+} // namespace kelvo

@@ -1,0 +1,66 @@
+#include "ui/widgets/checklist_view.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QToolButton>
+
+namespace kelvo {
+namespace {
+
+QString titleOf(Mend mend) {
+    switch (mend) {
+    case Mend::ShowRemoteTab:
+        return ChecklistView::tr("Show Remote Mac");
+    case Mend::ChooseSource:
+    case Mend::ChooseDestination:
+        return ChecklistView::tr("Choose…");
+    case Mend::CopyInstallCommand:
+        return ChecklistView::tr("Copy the command");
+    }
+    return {};
+}
+
+} // namespace
+
+ChecklistView::ChecklistView(QWidget* parent) : QFrame(parent), fRows(new QGridLayout(this)) {
+    setObjectName(QStringLiteral("checklist"));
+    setAccessibleName(tr("What is missing before a pass"));
+    fRows->setColumnStretch(1, 1);
+    fRows->setContentsMargins(0, 0, 0, 0);
+    hide();
+}
+
+void ChecklistView::setLines(const std::vector<ChecklistLine>& lines) {
+    for (QWidget* old : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        fRows->removeWidget(old);
+        old->hide();
+        old->deleteLater();
+    }
+    const int side = fontMetrics().height();
+    int row = 0;
+    for (const ChecklistLine& line : lines) {
+        auto* sign = new QLabel;
+        sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(side));
+        auto* text = new QLabel(line.text);
+        text->setTextFormat(Qt::PlainText);
+        text->setWordWrap(true);
+        auto* button = new QToolButton;
+        button->setText(titleOf(line.mend));
+        button->setFocusPolicy(Qt::StrongFocus);
+        button->setAccessibleName(QString(titleOf(line.mend) + u": " + line.text));
+        if (line.mend == Mend::CopyInstallCommand)
+            button->setToolTip(cInstallCommand.toString());
+        connect(button, &QToolButton::clicked, this, [this, mend = line.mend] {
+            if (fMend)
+                fMend(mend);
+        });
+        fRows->addWidget(sign, row, 0);
+        fRows->addWidget(text, row, 1);
+        fRows->addWidget(button, row, 2);
+        ++row;
+    }
+    setVisible(!lines.empty());
+}
+
+} // namespace kelvo

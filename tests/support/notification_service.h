@@ -1,0 +1,31 @@
+// NotificationService: a desktop's notification service on a bus, for tests.
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace kelvo {
+
+class NotificationService final : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+public:
+    explicit NotificationService(QDBusConnection& bus) : fBus(bus) {}
+
+    /// False when the name or the place on the bus is taken.
+    bool appear();
+
+    QStringList shown; ///< "<summary> | <body>", as they came
+
+public Q_SLOTS:
+    uint Notify(const QString& program, uint replaces, const QString& icon, const QString& summary,
+                const QString& body, const QStringList& actions, const QVariantMap& hints,
+                int milliseconds);
+
+private:
+    QDBusConnection& fBus;
+};
+
+} // namespace kelvo

@@ -1,0 +1,118 @@
+#include "fakes/fake_file_manager.h"
+#include "fakes/memory_defaults.h"
+#include "fakes/memory_pass_store.h"
+#include "fakes/virtual_queues.h"
+#include "ports/checklist_probe.h"
+#include "support/preference_keys.h"
+#include "ui/checklist.h"
+
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+ChecklistFacts wellFacts(bool remote) {
+    ChecklistFacts facts;
+    facts.remote = remote;
+    facts.hostChosen = facts.userSet = facts.keyThere = remote;
+    facts.sourceChosen = !remote;
+    facts.destinationChosen = facts.destinationWritable = facts.rsyncThere = true;
+    facts.sshThere = remote;
+    return facts;
+}
+
+TEST(ChecklistTest, AllWell_HasNoLine) {
+    EXPECT_TRUE(checklist(wellFacts(true)).empty());
+    EXPECT_TRUE(checklist(wellFacts(false)).empty());
+}
+
+TEST(ChecklistTest, EachLack_HasItsLineAndMend) {
+    const auto only = [](bool remote, bool ChecklistFacts::*fact, Mend mend, QStringView word) {
+        ChecklistFacts facts = wellFacts(remote);
+        facts.*fact = false;
+        const auto lines = checklist(facts);
+        ASSERT_EQ(lines.size(), 1U) << word.toUtf8().constData();
+        EXPECT_EQ(lines[0].mend, mend);
+        EXPECT_TRUE(lines[0].text.contains(word)) << lines[0].text.toStdString();
+    };
+    only(true, &ChecklistFacts::hostChosen, Mend::ShowRemoteTab, u"No Mac");
+    only(true, &ChecklistFacts::userSet, Mend::ShowRemoteTab, u"user name");
+    only(true, &ChecklistFacts::keyThere, Mend::ShowRemoteTab, u"key");
+    only(true, &ChecklistFacts::sshThere, Mend::CopyInstallCommand, u"ssh is not");
+    only(true, &ChecklistFacts::rsyncThere, Mend::CopyInstallCommand, u"rsync is not");
+    only(false, &ChecklistFacts::sourceChosen, Mend::ChooseSource, u"source");
+    only(true, &ChecklistFacts::destinationChosen, Mend::ChooseDestination, u"chosen yet");
+    only(true, &ChecklistFacts::destinationWritable, Mend::ChooseDestination, u"written");
+}
+
+TEST(ChecklistTest, KeyThatTheLastPassFoundRefused_IsALine) {
+    ChecklistFacts facts = wellFacts(true);
+    facts.lastCause = PassCause::KeyRefused;
+    ASSERT_EQ(checklist(facts).size(), 1U);
+    facts.lastCause = PassCause::DiskFull;
+    EXPECT_TRUE(checklist(facts).empty());
+}
+
+// -- looking
+
+struct FakeProbe final : ChecklistProbe {
+    bool isProgram(const QString& path) const override { return programs.contains(path); }
+    bool isWritableFolder(const QString& path) const override { return folders.contains(path); }
+    QSet<QString> programs{QStringLiteral("/usr/bin/rsync"), QStringLiteral("/usr/bin/ssh")};
+    QSet<QString> folders;
+};
+
+class ChecklistLookTest : public ::testing::Test {
+protected:
+    void settle() {
+        mainQueue.runDue();
+        bgQueue.runAll();
+        mainQueue.runDue();
+    }
+
+    MemoryDefaults defaults;
+    VirtualMainQueue mainQueue;
+    ManualBackgroundQueue bgQueue;
+    FakeFileManager files;
+    FakeProbe probe;
+    MemoryPassStore store{mainQueue};
+    std::vector<std::vector<ChecklistLine>> shown;
+    std::optional<Checklist> list{Checklist::Parts{
+        defaults, mainQueue, bgQueue, files, probe, store,
+        [this](const std::vector<ChecklistLine>& lines) { shown.push_back(lines); }}};
+};
+
+TEST_F(ChecklistLookTest, DiskIsAskedInTheBackground) {
+    mainQueue.runDue();
+    EXPECT_TRUE(shown.empty());
+    EXPECT_EQ(bgQueue.size(), 1U);
+    settle();
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].size(), 2U) << "source and destination";
+}
+
+TEST_F(ChecklistLookTest, SettingThatChanges_IsLookedAtAgain) {
+    settle();
+    probe.folders.insert(QStringLiteral("/in"));
+    defaults.setObject(prefPath1, QStringLiteral("/out"));
+    defaults.setObject(prefPath2, QStringLiteral("/in"));
+    settle();
+    EXPECT_TRUE(shown.back().empty());
+    EXPECT_EQ(shown.size(), 2U) << "of two looks at once only the later is shown";
+    probe.folders.clear();
+    store.append({});
+    settle();
+    EXPECT_EQ(shown.back().size(), 1U) << "and after each pass";
+}
+
+TEST_F(ChecklistLookTest, ChecklistThatIsGone_ShowsNothing) {
+    defaults.setObject(prefPath2, QStringLiteral("/in"));
+    list.reset();
+    settle();
+    EXPECT_TRUE(shown.empty());
+}
+
+} // namespace
+} // namespace kelvo

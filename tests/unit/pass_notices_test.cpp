@@ -1,0 +1,85 @@
+#include "fakes/memory_defaults.h"
+#include "fakes/memory_pass_store.h"
+#include "fakes/virtual_queues.h"
+#include "ports/desktop_notices.h"
+#include "ui/pass_notices.h"
+#include "ui/pass_words.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+struct RecordingNotices final : DesktopNotices {
+    void showNotice(const QString& title, const QString& text) override {
+        shown << title + u" | " + text;
+    }
+    QStringList shown;
+};
+
+class PassNoticesTest : public ::testing::Test {
+protected:
+    void pass(PassCause cause) {
+        PassRecord record;
+        record.cause = cause;
+        record.lastLine = QStringLiteral("<b>said by the host</b>");
+        store.append(record);
+        mainQueue.runDue();
+    }
+
+    VirtualMainQueue mainQueue;
+    MemoryPassStore store{mainQueue};
+    MemoryDefaults defaults;
+    RecordingNotices desktop;
+    PassNotices notices{store, defaults, desktop};
+};
+
+TEST_F(PassNoticesTest, ScriptedDay_GivesOneNoticeATurn) {
+    using enum PassCause;
+    for (int i = 0; i < 100; ++i)
+        pass(Well);
+    EXPECT_TRUE(desktop.shown.isEmpty()) << "health is no news";
+    for (int i = 0; i < 50; ++i)
+        pass(i < 20 ? HostAway : i < 40 ? HostNotFound : Unknown);
+    ASSERT_EQ(desktop.shown.size(), 1) << "one when it turns bad, none in between";
+    EXPECT_TRUE(desktop.shown[0].contains(wordsFor(HostAway).sentence));
+    for (int i = 0; i < 30; ++i)
+        pass(Well);
+    ASSERT_EQ(desktop.shown.size(), 2);
+    EXPECT_TRUE(desktop.shown[1].startsWith(QStringLiteral("Kelvo Mirror is well again")));
+    pass(DiskFull);
+    pass(Well);
+    EXPECT_EQ(desktop.shown.size(), 4);
+}
+
+TEST_F(PassNoticesTest, PassesThatSayNothing_ChangeNoMind) {
+    using enum PassCause;
+    for (const PassCause cause : {Well, FilesVanished, Interrupted, Well})
+        pass(cause);
+    EXPECT_TRUE(desktop.shown.isEmpty());
+    for (const PassCause cause : {CutOff, FilesVanished, Interrupted, CutOff})
+        pass(cause);
+    EXPECT_EQ(desktop.shown.size(), 1);
+}
+
+TEST_F(PassNoticesTest, SwitchedOff_KeepsStillButKeepsCount) {
+    defaults.setObject(cShowNoticesKey, false);
+    pass(PassCause::KeyMissing);
+    EXPECT_TRUE(desktop.shown.isEmpty());
+    defaults.setObject(cShowNoticesKey, true);
+    pass(PassCause::KeyMissing);
+    EXPECT_TRUE(desktop.shown.isEmpty()) << "the trouble is no news any more";
+    pass(PassCause::Well);
+    EXPECT_EQ(desktop.shown.size(), 1);
+}
+
+TEST_F(PassNoticesTest, WordsOfTheHost_AreNotShown) {
+    pass(PassCause::Unknown);
+    ASSERT_EQ(desktop.shown.size(), 1);
+    EXPECT_FALSE(desktop.shown[0].contains(QStringLiteral("said by the host")));
+}
+
+} // namespace
+} // namespace kelvo
