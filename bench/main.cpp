@@ -1,7 +1,7 @@
 // Prints one table: each row a figure with its goal, measured in this run.
 #include "bench/row.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include <algorithm>
 #include <cstdio>
@@ -26,7 +26,7 @@ namespace {
 int run(std::span<char*> names) {
     const std::vector<Row> rows{settingsRow(), templateRow(), captureRow(), stallRow(),
                                 passRow(),     restRow(),     filterRow(),  snapshotRow(),
-                                relaunchRow(), sentinelRow()};
+                                relaunchRow(), sentinelRow(), recordRow(),  activityRow()};
     const bool heading = names.empty() || std::string_view(names.front()) != "--no-heading";
     if (!heading)
         names = names.subspan(1);
@@ -69,6 +69,8 @@ int run(std::span<char*> names) {
 } // namespace kelvo::bench
 
 int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
+    // One row shows a widget; nobody needs to see it.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
     return kelvo::bench::run(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
 }

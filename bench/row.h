@@ -32,6 +32,8 @@ Row relaunchRow();
 Row sentinelRow();
 Row filterRow();
 Row snapshotRow();
+Row recordRow();
+Row activityRow(); ///< needs a QApplication
 
 /// The middle one of `values`, which must not be empty.
 double median(std::vector<double> values);

@@ -89,6 +89,34 @@ pid_t numberAfter(const QString& text, const QString& word) {
     return from < 0 ? -1 : text.mid(from + word.size()).section(u'\n', 0, 0).toInt();
 }
 
+TEST_F(PosixShellRunnerTest, ExitStatus_IsToldAsAShellWouldTellIt) {
+    const auto statusOf = [this](const char* command) {
+        return fRunner.run(QString::fromLatin1(command)).exitStatus;
+    };
+    EXPECT_EQ(statusOf("true"), 0);
+    EXPECT_EQ(statusOf("exit 23"), 23);
+    EXPECT_EQ(statusOf("/no/such/program"), 127);
+    EXPECT_EQ(statusOf("kill -TERM $$"), 128 + SIGTERM);
+    EXPECT_EQ(fRunner.run(QString(200000, u'x')).exitStatus, 126) << "longer than can be passed on";
+}
+
+TEST_F(PosixShellRunnerTest, ErrorOutput_IsToldApart) {
+    const CommandResult result = fRunner.run(QStringLiteral("echo out; echo err >&2; exit 3"));
+    EXPECT_EQ(result.output, QStringLiteral("out\n"));
+    EXPECT_EQ(result.errors, QStringLiteral("err\n"));
+    EXPECT_EQ(result.exitStatus, 3);
+}
+
+TEST_F(PosixShellRunnerTest, CommandGivenUp_HasNoExitStatus) {
+    Meeting meeting;
+    auto running = std::async(
+        std::launch::async, [&] { return fRunner.run(QString(meeting.announce() + u"sleep 60")); });
+    meeting.wait();
+    fRunner.endAll();
+    EXPECT_FALSE(running.get().exitStatus.has_value());
+    EXPECT_FALSE(fRunner.run(QStringLiteral("true")).exitStatus.has_value());
+}
+
 TEST_F(PosixShellRunnerTest, SilentCommand_GivesTheEmptyText) {
     EXPECT_EQ(run(zoo(QStringLiteral("silent"))), QString());
     EXPECT_TRUE(fConsole.lines().empty());

@@ -7,6 +7,7 @@ kelvo_tests(ui WIDGETS
     ui/application_menu_test.cpp
     ui/bindings_test.cpp
     ui/bonjour_sheet_test.cpp
+    ui/checklist_view_test.cpp
     ui/icons_test.cpp
     ui/main_window_test.cpp
     ui/path_control_view_test.cpp

@@ -19,6 +19,13 @@ BusNotices::BusNotices(std::function<void(const QString&, const QString&)> other
     : fOtherwise(std::move(otherwise)), fConnect(std::move(connect)) {}
 
 void BusNotices::showNotice(const QString& title, const QString& text) {
+    const QDBusConnection bus = fConnect();
+    // A call that fails at once is never reported as finished.
+    if (!bus.isConnected()) {
+        if (fOtherwise)
+            fOtherwise(title, text);
+        return;
+    }
     const QString service = QStringLiteral("org.freedesktop.Notifications");
     QDBusMessage notify =
         QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/Notifications"),
@@ -28,7 +35,7 @@ void BusNotices::showNotice(const QString& title, const QString& text) {
            << title << text.toHtmlEscaped() << QStringList()
            << QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("kelvo-mirror")}}
            << cAsTheDesktopLikes;
-    auto* answer = new QDBusPendingCallWatcher(fConnect().asyncCall(notify, cAnswerTimeout), this);
+    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(notify, cAnswerTimeout), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this,
             [this, title, text](QDBusPendingCallWatcher* finished) {
                 finished->deleteLater();

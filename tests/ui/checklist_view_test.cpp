@@ -1,0 +1,51 @@
+#include "ui/widgets/checklist_view.h"
+
+#include <QLabel>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+class ChecklistViewTest : public ::testing::Test {
+protected:
+    QStringList texts() {
+        QStringList shown;
+        for (const QLabel* label : view.findChildren<QLabel*>()) {
+            if (!label->isHidden() && !label->text().isEmpty())
+                shown << label->text();
+        }
+        return shown;
+    }
+
+    QWidget window;
+    ChecklistView view{&window};
+};
+
+TEST_F(ChecklistViewTest, LinesStandWithTheirButtons) {
+    std::vector<Mend> mended;
+    view.setMend([&mended](Mend mend) { mended.push_back(mend); });
+    EXPECT_TRUE(view.isHidden()) << "nothing is known yet";
+    view.setLines({{QStringLiteral("<b>one</b>"), Mend::ShowRemoteTab},
+                   {QStringLiteral("two"), Mend::ChooseDestination}});
+    EXPECT_FALSE(view.isHidden());
+    EXPECT_EQ(texts(), (QStringList{QStringLiteral("<b>one</b>"), QStringLiteral("two")}));
+    for (QToolButton* button : view.findChildren<QToolButton*>()) {
+        EXPECT_FALSE(button->accessibleName().isEmpty());
+        button->click();
+    }
+    EXPECT_EQ(mended, (std::vector{Mend::ShowRemoteTab, Mend::ChooseDestination}));
+}
+
+TEST_F(ChecklistViewTest, AllWell_TakesTheLinesAway) {
+    view.setLines({{QStringLiteral("one"), Mend::ChooseSource}});
+    view.setLines({});
+    EXPECT_TRUE(view.isHidden());
+    EXPECT_TRUE(texts().isEmpty());
+    view.setLines({{QStringLiteral("two"), Mend::ChooseSource}});
+    EXPECT_EQ(texts(), QStringList{QStringLiteral("two")});
+}
+
+} // namespace
+} // namespace kelvo
