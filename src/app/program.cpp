@@ -1,6 +1,8 @@
 #include "app/program.h"
 
 #include "adapters/posix/local_file_manager.h"
+#include "adapters/posix/local_notification_center.h"
+#include "adapters/posix/posix_sentinel_launcher.h"
 #include "adapters/posix/posix_shell_runner.h"
 #include "adapters/posix/rotating_log_file.h"
 #include "adapters/posix/stream_console.h"
@@ -11,6 +13,8 @@
 #include "adapters/qt/signal_pipe.h"
 #include "app/factory_defaults.h"
 #include "app/front.h"
+#include "app/watchdog.h"
+#include "app/watchdog_relaunch_guard.h"
 #include "ui/view_controller.h"
 
 #include <QCoreApplication>
@@ -18,10 +22,17 @@
 
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 
 namespace kelvo {
 namespace {
+
+using namespace std::chrono_literals;
+
+constexpr unsigned long cMostRelaunches = 4;
+constexpr double cRelaunchSeconds = 30.0;
+constexpr auto cLastWordsPatience = 200ms;
 
 QString settingsFile() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
@@ -40,7 +51,8 @@ public:
     explicit Machine(FrontKind frontKind)
         : fConsole(STDOUT_FILENO, STDERR_FILENO, fLogFile),
           fDefaults(settingsFile(), fMainQueue, fConsole), fBundle(resourceFolder()),
-          fShell(fConsole), fFront(makeFront(frontKind)),
+          fShell(fConsole), fWatchdog(Watchdog::begin(watchdogParts())),
+          fFront(makeFront(frontKind)),
           fController({fDefaults, fMainQueue, fBgQueue, fShell, fFiles, fConsole,
                        fFront->alertPresenter(), fFront->ibStartButton(),
                        fFront->ibStatusTextField()}) {
@@ -50,6 +62,7 @@ public:
     }
 
     ~Machine() {
+        fNotifications.post(cWillTerminateNotification.toString());
         fMainQueue.stop();
         fShell.endAll();
         fBgQueue.stopAndWait();
@@ -58,11 +71,31 @@ public:
 
     void start() {
         registerFactoryDefaults(fBundle, fDefaults, fConsole);
+        fRelaunchGuard.autoRelaunchUnless(cMostRelaunches, cRelaunchSeconds,
+                                          [](unsigned long, double) { return false; });
         fFront->show();
         fController.viewDidLoad();
     }
 
 private:
+    WatchdogParts watchdogParts() {
+        return {fSignals,
+                fBundle,
+                fDefaults,
+                fConsole,
+                fSentinelLauncher,
+                fNotifications,
+                fMainQueue,
+                QCoreApplication::arguments(),
+                QCoreApplication::applicationPid(),
+                QDateTime::currentDateTimeUtc,
+                [] { QCoreApplication::quit(); },
+                [this](int status) {
+                    fConsole.flush(cLastWordsPatience);
+                    ::_exit(status);
+                }};
+    }
+
     std::unique_ptr<Front> makeFront(FrontKind kind) {
         const StartAction start = [this](Control* sender) {
             fController.ibStartRSyncProcess(sender);
@@ -80,7 +113,11 @@ private:
     PosixShellRunner fShell;
     ThreadPoolQueue fBgQueue;
     SignalPipe fSignals;
-    std::vector<Subscription> fQuitSignals;
+    std::vector<Subscription> fQuitSignals; ///< for when nobody watches us
+    LocalNotificationCenter fNotifications;
+    PosixSentinelLauncher fSentinelLauncher;
+    Subscription fWatchdog;
+    WatchdogRelaunchGuard fRelaunchGuard;
     std::unique_ptr<Front> fFront;
     ViewController fController;
 };

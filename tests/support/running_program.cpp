@@ -1,6 +1,10 @@
 #include "support/running_program.h"
 
+#include "support/descendants.h"
+
 #include <QDeadlineTimer>
+
+#include <signal.h>
 
 namespace kelvo {
 
@@ -18,10 +22,8 @@ RunningProgram::RunningProgram(const QString& program, const QStringList& argume
 }
 
 RunningProgram::~RunningProgram() {
-    if (!isRunning())
-        return;
-    fProcess.kill();
-    fProcess.waitForFinished();
+    if (isRunning())
+        killForGood();
 }
 
 std::optional<QString>
@@ -50,14 +52,21 @@ int RunningProgram::stop() {
     if (isRunning()) {
         fProcess.terminate();
         if (!fProcess.waitForFinished(cStopMilliseconds)) {
-            fProcess.kill();
-            fProcess.waitForFinished();
+            killForGood();
             readMore(0);
             return -1;
         }
     }
     readMore(0);
     return fProcess.exitStatus() == QProcess::NormalExit ? fProcess.exitCode() : -1;
+}
+
+/// The sentinel would start it again.
+void RunningProgram::killForGood() {
+    if (const auto sentinel = livingChild(static_cast<pid_t>(fProcess.processId()), "watchdog"))
+        ::kill(*sentinel, SIGKILL);
+    fProcess.kill();
+    fProcess.waitForFinished();
 }
 
 bool RunningProgram::isRunning() const {

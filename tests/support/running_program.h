@@ -38,6 +38,7 @@ public:
     [[nodiscard]] QString transcript() const;
 
 private:
+    void killForGood();
     void readMore(int milliseconds);
 
     QProcess fProcess;
