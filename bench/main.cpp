@@ -24,8 +24,9 @@ std::string sideBySide(double ours, double theirs) {
 namespace {
 
 int run(std::span<char*> names) {
-    const std::vector<Row> rows{settingsRow(), templateRow(), captureRow(),  stallRow(),
-                                passRow(),     restRow(),     relaunchRow(), sentinelRow()};
+    const std::vector<Row> rows{settingsRow(), templateRow(), captureRow(), stallRow(),
+                                passRow(),     restRow(),     filterRow(),  snapshotRow(),
+                                relaunchRow(), sentinelRow()};
     const bool heading = names.empty() || std::string_view(names.front()) != "--no-heading";
     if (!heading)
         names = names.subspan(1);

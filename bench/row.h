@@ -30,6 +30,8 @@ Row restRow();
 Row passRow();
 Row relaunchRow();
 Row sentinelRow();
+Row filterRow();
+Row snapshotRow();
 
 /// The middle one of `values`, which must not be empty.
 double median(std::vector<double> values);

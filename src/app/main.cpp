@@ -39,8 +39,7 @@ int printAndEnd(std::FILE* stream, const QString& text, int exitCode) {
 
 int run(kelvo::FrontKind frontKind) {
     kelvo::Program program(frontKind);
-    program.start();
-    return QCoreApplication::exec();
+    return program.run();
 }
 
 } // namespace
@@ -73,5 +72,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo-mirror"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kelvo Mirror"));
+    QApplication::setDesktopFileName(QStringLiteral("kelvo-mirror"));
+    QApplication::setQuitOnLastWindowClosed(false);
     return run(kelvo::FrontKind::Window);
 }

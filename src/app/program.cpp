@@ -1,28 +1,26 @@
 #include "app/program.h"
 
-#include "adapters/posix/local_file_manager.h"
-#include "adapters/posix/local_notification_center.h"
-#include "adapters/posix/posix_sentinel_launcher.h"
-#include "adapters/posix/posix_shell_runner.h"
-#include "adapters/posix/rotating_log_file.h"
-#include "adapters/posix/stream_console.h"
-#include "adapters/posix/thread_pool_queue.h"
-#include "adapters/qt/file_bundle.h"
-#include "adapters/qt/plist_defaults.h"
-#include "adapters/qt/qt_main_queue.h"
-#include "adapters/qt/signal_pipe.h"
-#include "app/factory_defaults.h"
+#include "app/app_delegate.h"
+#include "app/duplicate_check.h"
 #include "app/front.h"
+#include "app/interface_registry.h"
+#include "app/machine_parts.h"
+#include "app/version.h"
 #include "app/watchdog.h"
 #include "app/watchdog_relaunch_guard.h"
+#include "ports/application.h"
+#include "ports/network_checker.h"
+#include "ui/status_menu_handler.h"
+#include "ui/status_menu_presence.h"
 #include "ui/view_controller.h"
 
 #include <QCoreApplication>
-#include <QStandardPaths>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
 
 #include <unistd.h>
 
-#include <chrono>
 #include <csignal>
 
 namespace kelvo {
@@ -30,104 +28,157 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr unsigned long cMostRelaunches = 4;
-constexpr double cRelaunchSeconds = 30.0;
-constexpr auto cLastWordsPatience = 200ms;
-
-QString settingsFile() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/kelvo-mirror/preferences.plist");
-}
-
-QString resourceFolder() {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/kelvo-mirror");
-}
+/// How long a leave at once waits for the last lines to be written.
+constexpr auto cLastLines = 200ms;
 
 } // namespace
 
-/// The real parts, each after those it works with.
+/// The program's own parts, on top of those of the machine.
 class Program::Machine {
 public:
-    explicit Machine(FrontKind frontKind)
-        : fConsole(STDOUT_FILENO, STDERR_FILENO, fLogFile),
-          fDefaults(settingsFile(), fMainQueue, fConsole), fBundle(resourceFolder()),
-          fShell(fConsole), fWatchdog(Watchdog::begin(watchdogParts())),
-          fFront(makeFront(frontKind)),
-          fController({fDefaults, fMainQueue, fBgQueue, fShell, fFiles, fConsole,
-                       fFront->alertPresenter(), fFront->ibStartButton(),
-                       fFront->ibStatusTextField()}) {
-        fLogFile.setLogFile(fLogFile.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")));
+    explicit Machine(FrontKind kind)
+        : fKind(kind), fParts(kind == FrontKind::Window),
+          fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
+                      [this] { terminate(); }),
+          fDuplicates(fParts.singleCopy, fParts.console, [this] { show(); }),
+          fWatchdog(Watchdog::begin({fParts.signals, fParts.bundle, fParts.defaults, fParts.console,
+                                     fParts.sentinelLauncher, fParts.notificationCenter,
+                                     fParts.mainQueue, QCoreApplication::arguments(),
+                                     QCoreApplication::applicationPid(),
+                                     [] { return QDateTime::currentDateTimeUtc(); },
+                                     [this] { terminate(); },
+                                     [this](int status) { leaveAtOnce(status); }})) {
         for (const int signal : {SIGTERM, SIGINT})
-            fQuitSignals.push_back(fSignals.catchSignal(signal, [] { QCoreApplication::quit(); }));
+            fQuitSignals.push_back(fParts.signals.catchSignal(signal, [this] { terminate(); }));
+        fStoryboard.add(cMyWindowControllerID, [this] { return front().windowController(); });
+        fStoryboard.add(cMyViewControllerID, [this] { return makeViewController(); });
     }
 
     ~Machine() {
-        fNotifications.post(cWillTerminateNotification.toString());
-        fMainQueue.stop();
-        fShell.endAll();
-        fBgQueue.stopAndWait();
-        fDefaults.synchronize();
+        fParts.mainQueue.stop();
+        fParts.shell.endAll();
+        fParts.bgQueue.stopAndWait();
+        fParts.defaults.synchronize();
     }
 
-    void start() {
-        registerFactoryDefaults(fBundle, fDefaults, fConsole);
-        fRelaunchGuard.autoRelaunchUnless(cMostRelaunches, cRelaunchSeconds,
-                                          [](unsigned long, double) { return false; });
-        fFront->show();
-        fController.viewDidLoad();
+    int run() {
+        fDelegate.emplace(AppDelegateParts{
+            fParts.console, fParts.logFile, fParts.defaults, fParts.bundle, fRelaunchGuard,
+            fStoryboard, fParts.systemInformation,
+            [this] { fDuplicates.checkForDuplicateRunningInstances(); },
+            [this] { return std::make_unique<KelvoStatusMenuHandler>(fStatusMenu, fParts.console); },
+            runningApplication()});
+        if (const auto exitCode = fDuplicates.exitCode())
+            return *exitCode;
+        fDelegate->applicationWillFinishLaunching();
+        fDelegate->applicationDidFinishLaunching();
+        const int exitCode = QCoreApplication::exec();
+        fDelegate->applicationWillTerminate();
+        fParts.notificationCenter.post(cWillTerminateNotification.toString());
+        return exitCode;
     }
 
 private:
-    WatchdogParts watchdogParts() {
-        return {fSignals,
-                fBundle,
-                fDefaults,
-                fConsole,
-                fSentinelLauncher,
-                fNotifications,
-                fMainQueue,
-                QCoreApplication::arguments(),
-                QCoreApplication::applicationPid(),
-                QDateTime::currentDateTimeUtc,
-                [] { QCoreApplication::quit(); },
-                [this](int status) {
-                    fConsole.flush(cLastWordsPatience);
-                    ::_exit(status);
-                }};
+    Front& front() {
+        if (!fFront) {
+            const FrontParts parts{fParts.defaults,
+                                   fParts.mainQueue,
+                                   fParts.console,
+                                   fParts.workspace,
+                                   fParts.dnssdBrowser,
+                                   fParts.statusMenu(),
+                                   logFolder(),
+                                   [this](bool trouble) { fStatusMenu.setTrouble(trouble); }};
+            fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
+        }
+        return *fFront;
     }
 
-    std::unique_ptr<Front> makeFront(FrontKind kind) {
-        const StartAction start = [this](Control* sender) {
-            fController.ibStartRSyncProcess(sender);
-        };
-        return kind == FrontKind::Window ? makeWindowFront(fDefaults, fMainQueue, start)
-                                         : makeHeadlessFront(fConsole, fMainQueue, start);
+    std::shared_ptr<ViewController> makeViewController() {
+        const FrontOutlets outlets = front().outlets();
+        auto controller = std::make_shared<ViewController>(ViewControllerParts{
+            fParts.defaults,
+            fParts.mainQueue,
+            fParts.bgQueue,
+            fParts.shell,
+            fParts.files,
+            fParts.console,
+            fParts.notificationCenter,
+            fParts.bundle,
+            front().application(),
+            fRelaunchGuard,
+            fParts.workspace,
+            outlets.openPanel,
+            fParts.networkBrowser,
+            fParts.dnssdBrowser,
+            [this] { return fParts.makeNetworkChecker(); },
+            fStatusMenu,
+            QDir::tempPath(),
+            outlets.view,
+            outlets.alertPresenter,
+            outlets.sheets,
+            outlets.fArrayController,
+            outlets.ibStartButton,
+            outlets.ibRevealButton1,
+            outlets.ibRevealButton2,
+            outlets.ibStatusTextField,
+            outlets.fNsPathControl1,
+            [this]() -> StatusMenuWindow* {
+                WindowController& window = *front().windowController();
+                return window.contentViewController() ? &window : nullptr;
+            }});
+        front().sendActionsTo(*controller, *fDelegate);
+        return controller;
     }
 
-    RotatingLogFile fLogFile;
-    StreamConsole fConsole;
-    QtMainQueue fMainQueue;
-    PlistDefaults fDefaults;
-    LocalFileManager fFiles;
-    FileBundle fBundle;
-    PosixShellRunner fShell;
-    ThreadPoolQueue fBgQueue;
-    SignalPipe fSignals;
-    std::vector<Subscription> fQuitSignals; ///< for when nobody watches us
-    LocalNotificationCenter fNotifications;
-    PosixSentinelLauncher fSentinelLauncher;
-    Subscription fWatchdog;
+    void show() {
+        if (fFront)
+            fFront->windowController()->showWindow();
+    }
+
+    void terminate() {
+        if (fFront)
+            fFront->application().terminate();
+        else
+            QCoreApplication::quit();
+    }
+
+    /// The commands that are running are the sentinel's to end.
+    [[noreturn]] void leaveAtOnce(int status) {
+        (void)fParts.console.flush(cLastLines);
+        ::_exit(status);
+    }
+
+    QString logFolder() const {
+        return QFileInfo(
+                   fParts.logFile.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")))
+            .path();
+    }
+
+    static QString runningApplication() {
+        return QStringLiteral("<NSRunningApplication: kelvo-mirror %1 - %2>")
+            .arg(cVersion)
+            .arg(QCoreApplication::applicationPid());
+    }
+
+    const FrontKind fKind;
+    MachineParts fParts;
+    StatusMenuPresence fStatusMenu;
     WatchdogRelaunchGuard fRelaunchGuard;
+    DuplicateCheck fDuplicates;
+    std::vector<Subscription> fQuitSignals; ///< for a program that nobody watches
+    Subscription fWatchdog;
+    InterfaceRegistry fStoryboard;
     std::unique_ptr<Front> fFront;
-    ViewController fController;
+    std::optional<AppDelegate> fDelegate;
 };
 
 Program::Program(FrontKind frontKind) : fMachine(std::make_unique<Machine>(frontKind)) {}
 
 Program::~Program() = default;
 
-void Program::start() {
-    fMachine->start();
+int Program::run() {
+    return fMachine->run();
 }
 
 } // namespace kelvo

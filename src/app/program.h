@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 namespace kelvo {
 
@@ -19,8 +20,9 @@ public:
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    /// Registers the factory defaults, shows the front and sets the controller going.
-    void start();
+    /// Brings the program up and runs the event loop to its end; the exit code. Where another copy
+    /// runs already, that one shows its window and this one returns at once.
+    int run();
 
 private:
     class Machine;

@@ -8,6 +8,8 @@
 
 namespace kelvo {
 
+class Console;
+
 class Bundle {
 public:
     virtual ~Bundle() = default;
@@ -20,6 +22,11 @@ public:
     /// The property list `name`.plist as a dictionary; nothing when it is missing, cannot be read
     /// or has another root.
     virtual std::optional<QVariantMap> propertyList(const QString& name) const = 0;
+
+    /// The program's version for people, from Info.plist: CFBundleShortVersionString, with
+    /// CFBundleVersion in brackets where that says something else; the latter alone when it stands
+    /// alone. Nothing, with a line in the system log of `console`, when there is none to be had.
+    std::optional<QString> getFullVersionString(Console& console) const;
 };
 
 } // namespace kelvo

@@ -1,4 +1,4 @@
-// Control and Button: what an action knows of the control that sent it.
+// Control, Button and TextField: what an action knows of the control that sent it.
 #pragma once
 
 #include <QString>
@@ -20,6 +20,13 @@ public:
     virtual void performClick() = 0;
 
     virtual void setTitle(const QString& title) = 0;
+};
+
+/// A field that text is typed into. Main thread only.
+class TextField : public Control {
+public:
+    /// Gives the keyboard focus up, if it has it.
+    virtual void resignFirstResponder() = 0;
 };
 
 } // namespace kelvo

@@ -23,6 +23,12 @@ QString insideLine(QStringView typeName, QStringView operation, QStringView deta
     return QStringView(u"Inside ") % typeName % QStringView(u"->") % operation % detail;
 }
 
+QString quotedText(QStringView text) {
+    QString escaped = text.toString();
+    escaped.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
+    return u'"' + escaped + u'"';
+}
+
 QString optionalText(const std::optional<QString>& value) {
     if (!value)
         return QStringLiteral("nil");

@@ -22,6 +22,9 @@ QString expandingTilde(QStringView path, QStringView home);
 /// A diagnostic line: "Inside " + type + "->" + operation + detail.
 QString insideLine(QStringView typeName, QStringView operation, QStringView detail = u".......");
 
+/// `text` in double quotes, with quotes and backslashes in it escaped.
+QString quotedText(QStringView text);
+
 /// How an optional value reads in a diagnostic line: `Optional("x")` or `nil`.
 QString optionalText(const std::optional<QString>& value);
 

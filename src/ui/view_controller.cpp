@@ -1,8 +1,13 @@
 #include "ui/view_controller.h"
 
+#include "ports/application.h"
+#include "ports/bundle.h"
 #include "ports/console.h"
-#include "ports/control.h"
 #include "ports/dispatch_queue.h"
+#include "ports/main_view.h"
+#include "ports/notification_center.h"
+#include "ports/notification_text.h"
+#include "ports/relaunch_guard.h"
 #include "support/preference_keys.h"
 #include "support/property_value.h"
 #include "support/text.h"
@@ -11,10 +16,21 @@ namespace kelvo {
 namespace {
 
 constexpr double cReactionDelay = 0.1;
+constexpr double cWindowRetryDelay = 0.1;
+constexpr QStringView cViewDidLoad = u"viewDidLoad()";
+constexpr QStringView cQuitRelaunchNotification = u"QuitRelaunchNotification";
 
 /// How a stored value reads in a diagnostic line.
 QString valueText(const QVariant& value) {
     return stringValue(value).value_or(QString(u'(' + QLatin1StringView(value.typeName()) + u')'));
+}
+
+/// How something that may not be there reads in a diagnostic line.
+QString objectText(const void* object, QStringView type) {
+    if (!object)
+        return QStringLiteral("nil");
+    return u"Optional(<" + type + u": 0x" +
+           QString::number(reinterpret_cast<quintptr>(object), 16) + u">)";
 }
 
 } // namespace
@@ -28,20 +44,47 @@ ViewController::ViewController(const ViewControllerParts& parts)
                   parts.console, fRsyncCommand, fHostValidation, fStatusLine, fAlerts,
                   parts.ibStartButton}),
       fRepeatTimer(parts.mainQueue, parts.console),
+      fStartButtonTitle(parts.ibStartButton, parts.defaults, parts.mainQueue, parts.console),
+      fCommandExample(parts.defaults, fRsyncCommand, parts.console),
+      fFolders({parts.defaults, parts.console, parts.openPanel, parts.workspace, parts.files,
+                parts.fNsPathControl1, parts.temporaryDirectory}),
+      fRevealButtonWatchers({parts.defaults, parts.console, parts.files, parts.view, fAlerts,
+                             parts.workspace, parts.ibRevealButton1, parts.ibRevealButton2}),
+      fNetwork({parts.notificationCenter, parts.mainQueue, parts.console, parts.networkBrowser,
+                parts.makeKelvoSSID,
+                [&view = parts.view](const QString& text) { view.showNetworkStatus(text); }}),
+      fBonjour({parts.mainQueue, parts.console, parts.dnssdBrowser, parts.sheets,
+                parts.fArrayController}),
+      myStatusMenuHandler(parts.statusMenu, parts.console),
       fUsesSSH(parts.defaults.boolForKey(prefRsyncWithSSH)) {}
 
 void ViewController::viewDidLoad() {
-    printInside(u"viewDidLoad()");
+    UserDefaults& defaults = fParts.defaults;
     DispatchQueue& mainQueue = fParts.mainQueue;
+    printInside(cViewDidLoad);
     mainQueue.asyncAfter(0.5, [this] { fRepeatTimer.setupRepeatTimer(); });
 
-    fParts.defaults.setObject(prefIsScanning, false);
-    fParts.defaults.setObject(prefEnableScanning, false);
+    myStatusMenuHandler.setupStatusMenuStuff();
+    fParts.console.print(u"self.ibRevealButton1 = " +
+                         objectText(fParts.ibRevealButton1, u"NSButton"));
+    fParts.console.print(u"self.ibRevealButton2 = " +
+                         objectText(fParts.ibRevealButton2, u"NSButton"));
+    mainQueue.asyncAfter(1.0, [this] { fRevealButtonWatchers.install(); });
+
+    defaults.setObject(prefIsScanning, false);
+    defaults.setObject(prefEnableScanning, false);
     observe(prefRsyncCommandOptionTag);
     observe(prefEnableScanning);
 
-    if (fParts.defaults.boolForKey(prefAutoStartScanOnLaunch))
+    if (defaults.boolForKey(prefAutoStartScanOnLaunch))
         mainQueue.asyncAfter(1.0, [this] { fParts.ibStartButton.performClick(); });
+    mainQueue.asyncAfter(0.6, [this] {
+        if (fParts.defaults.boolForKey(prefHideOnLaunch))
+            fParts.application.hide();
+        else
+            fParts.application.bringToFront();
+    });
+    mainQueue.asyncAfter(cWindowRetryDelay, [this] { handWindowControllerOver(); });
 
     mainQueue.asyncAfter(0.5, [this] {
         for (const QStringView key :
@@ -50,6 +93,36 @@ void ViewController::viewDidLoad() {
         fSamplePath.updateSampleString();
         setUsesSSH(fParts.defaults.boolForKey(prefRsyncWithSSH));
     });
+    mainQueue.asyncAfter(0.6, [this] { readVersion(); });
+    mainQueue.asyncAfter(1.0, [this] { fNetwork.setupNetworkChecker(); });
+    fObservations.push_back(fParts.notificationCenter.observe(
+        cQuitRelaunchNotification.toString(), [this](const Notification& notification) {
+            handleQuitAndRelaunchNotification(notification);
+        }));
+}
+
+QString ViewController::description() const {
+    return u'<' + cViewControllerTypeName + u": 0x" +
+           QString::number(reinterpret_cast<quintptr>(this), 16) + u'>';
+}
+
+void ViewController::handWindowControllerOver() {
+    StatusMenuWindow* controller = fParts.windowController();
+    if (!controller) {
+        fParts.mainQueue.asyncAfter(cWindowRetryDelay, [this] { handWindowControllerOver(); });
+        return;
+    }
+    printInside(cViewDidLoad, QString(u".......self.view.window?.windowController = " +
+                                      objectText(controller, u"NSWindowController")));
+    myStatusMenuHandler.setWindowController(controller);
+}
+
+void ViewController::readVersion() {
+    const auto version = fParts.bundle.getFullVersionString(fParts.console);
+    if (!version)
+        return;
+    fParts.console.print(u"Got version = " + *version);
+    fParts.defaults.setObject(prefVersionDisplayString, *version);
 }
 
 // -- settings
@@ -76,7 +149,9 @@ void ViewController::observeValue(const DefaultsChange& change) {
 
 std::function<void()> ViewController::reactionTo(const DefaultsChange& change) {
     if (change.key == prefEnableScanning)
-        return [this, isRunning = boolValue(*change.newValue)] { showRunning(isRunning); };
+        return [this, isRunning = boolValue(*change.newValue)] {
+            fStartButtonTitle.showRunning(isRunning);
+        };
     if (change.key == prefRemoteUsername)
         return [this] { fSamplePath.updateSampleString(); };
     if (change.key == prefRsyncWithSSH)
@@ -84,58 +159,57 @@ std::function<void()> ViewController::reactionTo(const DefaultsChange& change) {
     return [this] { ibUpdateTabViewItem(); };
 }
 
-// -- the start button's title
-
-void ViewController::showRunning(bool isRunning) {
-    fParts.console.print(isRunning ? QStringLiteral("state is now IS RUNNING")
-                                   : QStringLiteral("state is now OFF"));
-    const bool withSSH = fParts.defaults.boolForKey(prefRsyncWithSSH);
-    if (isRunning)
-        fParts.ibStartButton.setTitle(withSSH ? QStringLiteral("click to stop bonjour rsync")
-                                              : QStringLiteral("click to stop rsync"));
-    else
-        fParts.ibStartButton.setTitle(withSSH
-                                          ? QStringLiteral("click to restart rsync using bonjour")
-                                          : QStringLiteral("click to restart rsync"));
+void ViewController::setUsesSSH(bool usesSSH) {
+    fUsesSSH = usesSSH;
+    fStartButtonTitle.showKindOfPass(usesSSH);
 }
 
-void ViewController::updateStartButton() {
+// -- tabs and focus
+
+void ViewController::tabViewWillSelect(const std::optional<TabViewItem>& tabViewItem) {
+    constexpr QStringView operation = u"tabView(_:willSelect:)";
+    const auto label = tabViewItem ? std::optional(tabViewItem->label) : std::nullopt;
+    const auto identifier = tabViewItem ? tabViewItem->identifier : std::nullopt;
+    printInside(operation,
+                QString(u".......tabViewItem = " +
+                        (label ? QString(u"Optional(<NSTabViewItem: " + quotedText(*label) + u">)")
+                               : QStringLiteral("nil"))));
+    printInside(operation, QString(u".......tabViewItem.label = " + optionalText(label)));
+    printInside(operation, QString(u".......identifier = " + optionalText(identifier)));
+    if (identifier == u"prefs")
+        ibUpdateTabViewItem();
+}
+
+void ViewController::controlTextDidEndEditing(const TextEditingNotification& obj) {
+    constexpr QStringView operation = u"controlTextDidEndEditing(_:)";
+    const auto field = std::dynamic_pointer_cast<TextField>(obj.object);
+    printInside(operation,
+                QString(u".......obj.object   = " +
+                        objectText(obj.object.get(), field ? u"NSTextField" : u"NSControl")));
+    printInside(operation, QString(u".......obj.userInfo = " + userInfoText(obj.userInfo)));
+    if (field)
+        fParts.mainQueue.asyncAfter(cReactionDelay, [field] { field->resignFirstResponder(); });
+}
+
+void ViewController::ibSetNoFirstResponder(Control*) {
+    printInside(u"ibSetNoFirstResponder(_:)");
     fParts.mainQueue.async([this] {
-        const bool withSSH = fParts.defaults.boolForKey(prefRsyncWithSSH);
-        if (fParts.ibStartButton.state() == 1)
-            fParts.ibStartButton.setTitle(withSSH ? QStringLiteral("click to stop bonjour rsync")
-                                                  : QStringLiteral("click to stop rsync"));
-        else
-            fParts.ibStartButton.setTitle(withSSH
-                                              ? QStringLiteral("click to start rsync using bonjour")
-                                              : QStringLiteral("click to start rsync"));
+        if (fParts.view.hasWindow())
+            fParts.view.makeNothingFirstResponder();
     });
 }
 
-void ViewController::setUsesSSH(bool usesSSH) {
-    fUsesSSH = usesSSH;
-    fParts.ibStartButton.setTitle(usesSSH ? QStringLiteral("Start rsync with bonjour")
-                                          : QStringLiteral("Start rsync with afp path"));
+// -- quit and relaunch
+
+void ViewController::handleQuitAndRelaunchNotification(const Notification& notification) {
+    printInside(u"handleQuitAndRelaunchNotification(_:)",
+                QString(u".......notification = " + notificationText(notification)));
+    ibQuitAndRelaunch(nullptr);
 }
 
-// -- the example command
-
-void ViewController::ibUpdateTabViewItem() {
-    constexpr QStringView operation = u"ibUpdateTabViewItem()";
-    printInside(operation);
-    const auto tag = fParts.defaults.stringForKey(prefRsyncCommandOptionTag);
-    if (!tag) {
-        printInside(operation,
-                    u".......UNABLE to get pref value for key = [prefRsyncCommandOptionTag] ");
-        return;
-    }
-    fParts.console.print(u"current prefRsyncCommandOptionTag = " + *tag);
-    const QString option = fRsyncCommand.getRsyncCommandOptionString();
-    fParts.console.print(u"current optionstring for tag[" + *tag + u"] = [" + option + u']');
-    QString example = fParts.defaults.stringForKey(prefRsyncCommandString1)
-                          .value_or(cMissingRsyncCommandString1.toString());
-    example.replace(QStringLiteral("%@99"), option);
-    fParts.defaults.setObject(prefRsyncCommandStringExample, example);
+void ViewController::ibQuitAndRelaunch(Control*) {
+    printInside(u"ibQuitAndRelaunch(_:)");
+    fParts.watchdog.quitAndRelaunch();
 }
 
 void ViewController::printInside(QStringView operation, QStringView detail) const {

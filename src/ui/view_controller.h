@@ -1,6 +1,9 @@
 // ViewController: the controller of the main window, without any widget.
 #pragma once
 
+#include "discovery/bonjour_selection.h"
+#include "discovery/network_path_monitoring.h"
+#include "ports/control.h"
 #include "ports/user_defaults.h"
 #include "remote/remote_host_validation.h"
 #include "sync/repeat_timer_actions.h"
@@ -8,46 +11,46 @@
 #include "sync/sample_path.h"
 #include "sync/sync_cycle.h"
 #include "ui/alerts.h"
+#include "ui/command_example.h"
+#include "ui/folder_selection.h"
+#include "ui/interface_controllers.h"
+#include "ui/reveal_button_watchers.h"
+#include "ui/start_button_title.h"
 #include "ui/status_line.h"
+#include "ui/status_menu_handler.h"
+#include "ui/view_controller_parts.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace kelvo {
 
-class AlertPresenter;
-class BackgroundQueue;
-class Button;
-class Console;
-class Control;
-class DispatchQueue;
-class FileManager;
-class ShellRunner;
-class StatusField;
+/// A tab that is about to be shown.
+struct TabViewItem {
+    QString label;
+    std::optional<QString> identifier;
+};
 
-/// What the controller works with; all of it outlives the controller.
-struct ViewControllerParts {
-    UserDefaults& defaults;
-    DispatchQueue& mainQueue;
-    BackgroundQueue& bgQueue;
-    ShellRunner& shell;
-    FileManager& files;
-    Console& console;
-    AlertPresenter& alertPresenter;
-    Button& ibStartButton;
-    std::weak_ptr<StatusField> ibStatusTextField;
+/// A person has finished editing the text of `object`.
+struct TextEditingNotification {
+    std::shared_ptr<Control> object;
+    QVariantMap userInfo;
 };
 
 /// Main thread only; settings may change on any thread. Both queues must have ended before the
 /// controller is destroyed: what waits there belongs to it.
-class ViewController {
+class ViewController final : public MainViewController {
 public:
     explicit ViewController(const ViewControllerParts& parts);
 
     /// Sets everything going: syncing off, settings observed, the delayed steps of the set-up
     /// scheduled. Called once.
-    void viewDidLoad();
+    void viewDidLoad() override;
 
+    QString description() const override;
+
+    // The start button and its kin.
     void ibStartRSyncProcess(Control* sender) { fSyncCycle.ibStartRSyncProcess(sender); }
     void ibRSyncOnce(Control* sender) { fSyncCycle.ibRSyncOnce(sender); }
     void ibRSyncOnceBonjour(Control* sender) { fSyncCycle.ibRSyncOnceBonjour(sender); }
@@ -55,11 +58,40 @@ public:
     void ibResumeTimer(Control*) { fRepeatTimer.ibResumeTimer(); }
     void ibKillTimer(Control*) { fRepeatTimer.ibKillTimer(); }
 
+    // Folders.
+    void ibSelectFolder1Action(Control* sender) { fFolders.ibSelectFolder1Action(sender); }
+    void ibSelectFolder2Action(Control* sender) { fFolders.ibSelectFolder2Action(sender); }
+    void ibRevealSourcePath(Control* sender) { fFolders.ibRevealSourcePath(sender); }
+    void ibRevealDestPath(Control* sender) { fFolders.ibRevealDestPath(sender); }
+    void ibRevealInFinderAction(Control* sender) { fFolders.ibRevealInFinderAction(sender); }
+    void ibAction1(Control* sender) { fFolders.ibAction1(sender); }
+    void ibOpenTempFolder(Control* sender) { fFolders.ibOpenTempFolder(sender); }
+
+    // The network.
+    void ibSelectSourceByBonjor(Control*) { fBonjour.ibSelectSourceByBonjor(); }
+    void ibSelectDestByBonjor(Control*) { fBonjour.ibSelectDestByBonjor(); }
+    void ibSearchBonjour(Control*) { fBonjour.ibSearchBonjour(); }
+    void ibShowBonjourListInfo(Control*) { fBonjour.ibShowBonjourListInfo(); }
+    void ibTestNWBrowser(Control* sender) { fNetwork.ibTestNWBrowser(sender); }
+
+    /// Takes the keyboard focus away, on the next turn of the main queue.
+    void ibSetNoFirstResponder(Control* sender);
+
+    /// Ends the program and has it started again.
+    void ibQuitAndRelaunch(Control* sender);
+
     /// Sets the start button's title from its state and the kind of pass, later on the main queue.
-    void updateStartButton();
+    void updateStartButton() { fStartButtonTitle.update(); }
 
     /// Stores the template with its option filled in, for display.
-    void ibUpdateTabViewItem();
+    void ibUpdateTabViewItem() { fCommandExample.ibUpdateTabViewItem(); }
+
+    void tabViewWillSelect(const std::optional<TabViewItem>& tabViewItem);
+    void controlTextDidEndEditing(const TextEditingNotification& obj);
+
+    // What the tray menu asks for.
+    void clickStartButton() override { fParts.ibStartButton.performClick(); }
+    void quitAndRelaunch() override { ibQuitAndRelaunch(nullptr); }
 
     Alerts& alerts() { return fAlerts; }
 
@@ -67,7 +99,9 @@ private:
     void observe(QStringView key);
     void observeValue(const DefaultsChange& change);
     std::function<void()> reactionTo(const DefaultsChange& change);
-    void showRunning(bool isRunning);
+    void handWindowControllerOver();
+    void readVersion();
+    void handleQuitAndRelaunchNotification(const Notification& notification);
     void setUsesSSH(bool usesSSH);
     void printInside(QStringView operation, QStringView detail = u".......") const;
 
@@ -79,6 +113,13 @@ private:
     RemoteHostValidation fHostValidation;
     SyncCycle fSyncCycle;
     RepeatTimerActions fRepeatTimer;
+    StartButtonTitle fStartButtonTitle;
+    CommandExample fCommandExample;
+    FolderSelection fFolders;
+    RevealButtonWatchers fRevealButtonWatchers;
+    NetworkPathMonitoring fNetwork;
+    BonjourSelection fBonjour;
+    KelvoStatusMenuHandler myStatusMenuHandler;
     bool fUsesSSH;
     std::vector<Subscription> fObservations;
 };

@@ -1,6 +1,7 @@
 #include "adapters/qt/file_bundle.h"
 #include "adapters/qt/plist_codec.h"
 #include "fakes/memory_bundle.h"
+#include "fakes/recording_console.h"
 
 #include <QDir>
 #include <QFile>
@@ -102,6 +103,22 @@ TYPED_TEST(BundleContractTest, PropertyList_MissingOrUnreadableIsNothing) {
     EXPECT_EQ(bundle.propertyList(QStringLiteral("../Broken")), std::nullopt);
 }
 
+TYPED_TEST(BundleContractTest, Version_IsThatOfInfo) {
+    RecordingConsole console;
+    this->fResources.addPropertyList(
+        QStringLiteral("Info"),
+        QVariantMap{{"CFBundleShortVersionString", "1.2"}, {"CFBundleVersion", "34"}});
+    EXPECT_EQ(this->fResources.bundle().getFullVersionString(console), QStringLiteral("1.2 (34)"));
+    EXPECT_TRUE(console.lines().empty());
+}
+
+TYPED_TEST(BundleContractTest, BrokenInfo_IsNoVersionAndALine) {
+    RecordingConsole console;
+    this->fResources.addPropertyList(QStringLiteral("Info"), std::nullopt);
+    EXPECT_EQ(this->fResources.bundle().getFullVersionString(console), std::nullopt);
+    EXPECT_EQ(console.logged().size(), 1);
+}
+
 class FileBundleTest : public ::testing::Test, public FileResources {};
 
 TEST_F(FileBundleTest, PathForResource_IsTheRealFile) {
@@ -118,6 +135,12 @@ TEST_F(FileBundleTest, Folder_IsNoResource) {
 TEST_F(FileBundleTest, WrongRoot_IsNothing) {
     write(QStringLiteral("List.plist"), "<plist version=\"1.0\"><array/></plist>");
     EXPECT_EQ(bundle().propertyList(QStringLiteral("List")), std::nullopt);
+}
+
+TEST_F(FileBundleTest, ProgramsOwnInfo_HasItsVersion) {
+    RecordingConsole console;
+    const FileBundle own(QStringLiteral(KELVO_RESOURCES));
+    EXPECT_EQ(own.getFullVersionString(console), QStringLiteral(KELVO_VERSION));
 }
 
 } // namespace

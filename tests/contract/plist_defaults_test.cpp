@@ -1,4 +1,6 @@
 #include "contract/plist_defaults_fixture.h"
+#include "support/dnssd_service.h"
+#include "support/preference_keys.h"
 
 #include <QDateTime>
 #include <QProcess>
@@ -33,6 +35,21 @@ TEST_F(PlistDefaultsTest, FirstStart_MakesAPrivateFolderAndFile) {
     EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{1}}}));
     EXPECT_TRUE(fFolder.otherFiles().isEmpty());
     EXPECT_TRUE(fConsole.logged().isEmpty());
+}
+
+TEST_F(PlistDefaultsTest, ServiceRecord_ComesBackWithItsTypes) {
+    DNSSD_Service record;
+    record.name = QStringLiteral("Ann's <Mac> & é");
+    record.dateAdded = QDateTime(QDate(2026, 3, 1), QTime(4, 5, 6), Qt::UTC);
+    record.interface = 0x80000000U;
+    record.hostPort = 0xffffffffU;
+    record.available = true;
+    const QVariantMap dictionary = record.asDictionary().value();
+    open()->setObject(prefRemoteDnssdServiceData, dictionary);
+    const auto stored = open()->dictionaryForKey(prefRemoteDnssdServiceData);
+    ASSERT_TRUE(stored);
+    EXPECT_TRUE(sameStoredValue(*stored, dictionary));
+    EXPECT_EQ(stored->value(QStringLiteral("interface")), QVariant(qlonglong{2147483648}));
 }
 
 TEST_F(PlistDefaultsTest, Restart_GivesTheSameValues) {

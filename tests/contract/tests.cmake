@@ -1,18 +1,23 @@
 add_executable(settings_writer children/settings_writer.cpp)
 target_link_libraries(settings_writer PRIVATE kelvo_testing kelvo_adapters_qt)
 add_executable(zoo children/zoo.cpp)
+add_executable(network_watcher children/network_watcher.cpp)
+target_link_libraries(network_watcher PRIVATE kelvo_adapters_qt)
 
 kelvo_tests(contract
   TIMEOUT 120
   SOURCES
+    contract/avahi_network_browser_test.cpp
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
     contract/console_contract_test.cpp
     contract/dispatch_queue_contract_test.cpp
+    contract/dnssd_browser_contract_test.cpp
     contract/factory_template_test.cpp
     contract/line_backlog_test.cpp
     contract/local_file_manager_test.cpp
     contract/log_file_contract_test.cpp
+    contract/network_information_test.cpp
     contract/notification_center_contract_test.cpp
     contract/plist_codec_test.cpp
     contract/plist_defaults_faults_test.cpp
@@ -23,17 +28,22 @@ kelvo_tests(contract
     contract/rotating_log_file_test.cpp
     contract/sentinel_launcher_contract_test.cpp
     contract/sentinel_test.cpp
+    contract/service_answer_test.cpp
     contract/shell_runner_contract_test.cpp
     contract/signal_pipe_test.cpp
     contract/signals_contract_test.cpp
+    contract/single_copy_contract_test.cpp
     contract/stream_console_test.cpp
+    contract/system_information_test.cpp
     contract/thread_pool_queue_test.cpp
     contract/user_defaults_contract_test.cpp
     contract/utf8_collector_test.cpp
-  LINKS kelvo_adapters_qt kelvo_adapters_posix
+    contract/workspace_contract_test.cpp
+  LINKS kelvo_adapters_qt kelvo_adapters_posix kelvo_bus_testing kelvo_adapters_avahi
 )
-add_dependencies(contract_tests kelvo_sentinel settings_writer zoo)
+add_dependencies(contract_tests kelvo_sentinel network_watcher settings_writer zoo)
 target_compile_definitions(contract_tests PRIVATE
+  KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
   KELVO_SENTINEL="$<TARGET_FILE:kelvo_sentinel>"
   KELVO_RESOURCES="${CMAKE_BINARY_DIR}/lib/kelvo-mirror"
   KELVO_VERSION="${PROJECT_VERSION}"

@@ -11,17 +11,27 @@ endforeach()
 set_tests_properties(Lab.up PROPERTIES FIXTURES_SETUP lab)
 set_tests_properties(Lab.down PROPERTIES FIXTURES_CLEANUP lab)
 
+add_executable(mdns_announcer children/mdns_announcer.cpp)
+
 kelvo_tests(lab
   SOURCES
+    lab/avahi_browser_test.cpp
     lab/lab_fixture.cpp
     lab/lab_host_test.cpp
+    lab/network_lab_test.cpp
+    lab/lab_network.cpp
     lab/sync_lab_test.cpp
+  LINKS kelvo_adapters_avahi
   TIMEOUT 180
   PROPERTIES
     FIXTURES_REQUIRED lab
     RESOURCE_LOCK lab
     ENVIRONMENT KELVO_LAB=${KELVO_LAB_STATE}
 )
+add_dependencies(lab_tests mdns_announcer)
 target_compile_definitions(lab_tests PRIVATE
+  KELVO_ANNOUNCER="$<TARGET_FILE:mdns_announcer>"
   KELVO_LAB_COMMAND="${KELVO_LAB_COMMAND}"
+  KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror")
+add_dependencies(lab_tests network_watcher)

@@ -4,8 +4,11 @@ kelvo_tests(ui WIDGETS
     contract/status_menu_contract_test.cpp
     contract/tray_host_contract_test.cpp
     ui/application_menu_test.cpp
+    ui/bindings_test.cpp
+    ui/bonjour_sheet_test.cpp
     ui/icons_test.cpp
     ui/main_window_test.cpp
+    ui/path_control_view_test.cpp
     ui/sheet_presenter_test.cpp
     ui/tray_icon_test.cpp
   LINKS kelvo_ui_widgets kelvo_adapters_tray kelvo_bus_testing Qt6::Test

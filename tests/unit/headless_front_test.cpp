@@ -1,3 +1,4 @@
+#include "adapters/headless/headless_desktop.h"
 #include "adapters/headless/headless_front.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
@@ -63,6 +64,25 @@ TEST_F(HeadlessFrontTest, AlertThatAnswersItself_WaitsForItsMaker) {
 TEST_F(HeadlessFrontTest, ModalQuestion_AnswersWithItsFirstButton) {
     EXPECT_EQ(alerts.runModal({QStringLiteral("T"), QStringLiteral("x"), {}, {}, false}), 1000);
     EXPECT_EQ(console.printed(), QStringList{QStringLiteral("alert: T | x")});
+}
+
+TEST(HeadlessOpenPanelTest, NobodyCanChoose_CountsAsCancelledWithALine) {
+    RecordingConsole console;
+    HeadlessOpenPanel panel(console);
+    EXPECT_EQ(panel.selectDirectoryUrl(), std::nullopt);
+    EXPECT_EQ(console.logged(),
+              QStringList{QStringLiteral("Select Directory: there is no window to choose in.")});
+}
+
+TEST(HeadlessPathControlTest, Location_IsKeptThoughNobodySeesIt) {
+    HeadlessPathControl control;
+    EXPECT_EQ(control.url(), std::nullopt);
+    EXPECT_TRUE(control.pathItems().empty());
+    control.setUrl(QStringLiteral("file:///a"));
+    EXPECT_EQ(control.url(), QStringLiteral("file:///a"));
+    EXPECT_EQ(control.pathItems().size(), 2U);
+    control.setUrl({});
+    EXPECT_EQ(control.url(), std::nullopt);
 }
 
 } // namespace

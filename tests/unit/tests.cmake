@@ -1,20 +1,31 @@
 kelvo_tests(unit
   SOURCES
+    unit/app_delegate_test.cpp
+    unit/bonjour_selection_test.cpp
+    unit/bonjour_view_controller_test.cpp
+    unit/bundle_version_test.cpp
     unit/close_policy_test.cpp
+    unit/dnssd_service_test.cpp
+    unit/duplicate_check_test.cpp
+    unit/folder_selection_test.cpp
     unit/headless_front_test.cpp
-    unit/preferences_test.cpp
+    unit/network_path_monitoring_test.cpp
     unit/plain_line_test.cpp
+    unit/preferences_test.cpp
     unit/property_value_test.cpp
     unit/relaunch_decision_test.cpp
     unit/remote_host_validation_test.cpp
     unit/repeat_timer_test.cpp
     unit/rsync_command_test.cpp
+    unit/service_name_rules_test.cpp
     unit/status_and_alerts_test.cpp
     unit/status_menu_test.cpp
     unit/stored_value_test.cpp
     unit/sync_cycle_test.cpp
     unit/text_test.cpp
+    unit/view_controller_setup_test.cpp
     unit/view_controller_test.cpp
     unit/watchdog_test.cpp
   LINKS kelvo_ui kelvo_adapters_headless kelvo_watchdog
+  LINKS kelvo_start kelvo_adapters_headless
 )

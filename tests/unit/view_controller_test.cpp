@@ -1,11 +1,4 @@
-#include "fakes/fake_file_manager.h"
-#include "fakes/fake_front.h"
-#include "fakes/memory_defaults.h"
-#include "fakes/recording_console.h"
-#include "fakes/scripted_shell.h"
-#include "fakes/virtual_queues.h"
-#include "support/preference_keys.h"
-#include "ui/view_controller.h"
+#include "fakes/view_controller_world.h"
 
 #include <gtest/gtest.h>
 
@@ -15,35 +8,7 @@ namespace {
 const QString cObserve = QStringLiteral(
     "Inside Kelvo_Mirror.ViewController->observeValue(forKeyPath:of:change:context:)");
 
-class ViewControllerTest : public ::testing::Test {
-protected:
-    ViewControllerTest() {
-        defaults.setObject(prefRsyncCommandOptionTag, 100);
-        defaults.setObject(prefRsyncWithSSH, true);
-        defaults.setObject(prefEnableScanning, 1);
-        defaults.setObject(prefIsScanning, true);
-        button.action = [this](Control* sender) { controller.ibStartRSyncProcess(sender); };
-    }
-
-    /// The whole set-up with what it prints forgotten.
-    void load() {
-        controller.viewDidLoad();
-        mainQueue.advance(2.0);
-        console.clear();
-    }
-
-    MemoryDefaults defaults;
-    VirtualMainQueue mainQueue;
-    ManualBackgroundQueue bgQueue;
-    ScriptedShell shell;
-    FakeFileManager files;
-    RecordingConsole console;
-    FakeAlertPresenter presenter;
-    FakeButton button;
-    std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
-    ViewController controller{
-        {defaults, mainQueue, bgQueue, shell, files, console, presenter, button, field}};
-};
+class ViewControllerTest : public ::testing::Test, public ViewControllerWorld {};
 
 TEST_F(ViewControllerTest, Load_PrintsItsEntryAndSwitchesSyncingOff) {
     controller.viewDidLoad();

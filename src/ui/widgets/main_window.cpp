@@ -1,42 +1,183 @@
 #include "ui/widgets/main_window.h"
 
-#include "ports/dispatch_queue.h"
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "support/fatal.h"
+#include "ui/widgets/diagnostics_tab.h"
+#include "ui/widgets/remote_tab.h"
+#include "ui/widgets/settings_tab.h"
+#include "ui/widgets/sync_tab.h"
 #include "ui_main_window.h"
 
+#include <QCloseEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QTableView>
+
+#include <utility>
+
 namespace kelvo {
+namespace {
+
+/// How the window looked last, kept beside the settings: "<width>x<height>", and the tab.
+constexpr QStringView cSizeKey = u"mainWindowSize";
+constexpr QStringView cTabKey = u"mainWindowTab";
+
+} // namespace
 
 MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
-    : fDefaults(defaults), fUi(std::make_unique<Ui::MainWindow>()) {
+    : fDefaults(defaults), fBindings(defaults, mainQueue), fUi(std::make_unique<Ui::MainWindow>()),
+      fSyncTab(new SyncTab(fBindings)), fRemoteTab(new RemoteTab(fBindings)) {
     fUi->setupUi(this);
-    for (const QStringView key : {prefRsyncWithSSH, prefSampleRemoteFullPath, prefPath1, prefPath2})
-        fObservations.push_back(defaults.observe(key, [this, &mainQueue](const DefaultsChange&) {
-            mainQueue.async([this] { showPlaces(); });
-        }));
-    showPlaces();
+    auto* diagnostics = new DiagnosticsTab;
+    fFoundServices = &diagnostics->foundServices();
+    addTab(fSyncTab, "sync", tr("Sync"));
+    addTab(fRemoteTab, "remote", tr("Remote Mac"));
+    addTab(new SettingsTab(fBindings), "prefs", tr("Settings"));
+    addTab(diagnostics, "diagnostics", tr("Diagnostics"));
+    switchOffUntilWired();
+    setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
+    connect(&ibStartButton(), &QPushButton::toggled, this, [this] { showStartIcon(); });
+    showStartIcon();
+    restoreLook();
+    connect(fUi->tabView, &QTabWidget::currentChanged, this, [this](int index) {
+        fDefaults.setObject(cTabKey, tabs()[static_cast<std::size_t>(index)].identifier);
+        Q_EMIT tabShown(index);
+        if (fTabSelected)
+            fTabSelected(tabs()[static_cast<std::size_t>(index)]);
+    });
+    ibStartButton().setFocus();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    // The controls store what was half typed as they go, through bindings that must still be there.
+    disconnect(fUi->tabView, nullptr, this, nullptr);
+    delete takeCentralWidget();
+}
+
+void MainWindow::addTab(QWidget* tab, const char* identifier, const QString& label) {
+    tab->setProperty("identifier", QString::fromLatin1(identifier));
+    fUi->tabView->addTab(tab, label);
+}
+
+// -- actions
+
+void MainWindow::switchOffUntilWired() {
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        button->setEnabled(false);
+        button->setToolTip(tr("Not part of this version yet"));
+    }
+    ibStartButton().setEnabled(true);
+    ibStartButton().setToolTip({});
+}
+
+QPushButton& MainWindow::button(const QString& control) {
+    auto* found = findChild<QPushButton*>(control);
+    if (found == nullptr)
+        stopProgram("There is no button " + control.toStdString() + " in the main window!");
+    return *found;
+}
+
+void MainWindow::setAction(const QString& control, std::function<void()> action) {
+    QPushButton& found = button(control);
+    found.setEnabled(true);
+    found.setToolTip(found.accessibleDescription());
+    connect(&found, &QPushButton::clicked, this, std::move(action));
+}
+
+void MainWindow::showStartIcon() {
+    ibStartButton().setIcon(style()->standardIcon(
+        ibStartButton().isChecked() ? QStyle::SP_MediaStop : QStyle::SP_MediaPlay));
+}
+
+// -- tabs
+
+std::vector<MainWindow::Tab> MainWindow::tabs() const {
+    std::vector<Tab> all;
+    for (int i = 0; i < fUi->tabView->count(); ++i)
+        all.push_back(
+            {fUi->tabView->widget(i)->property("identifier").toString(), fUi->tabView->tabText(i)});
+    return all;
+}
+
+int MainWindow::currentTab() const {
+    return fUi->tabView->currentIndex();
+}
+
+void MainWindow::showTab(int index) {
+    fUi->tabView->setCurrentIndex(index);
+}
+
+void MainWindow::showTab(const QString& identifier) {
+    const std::vector<Tab> all = tabs();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (all[i].identifier == identifier)
+            showTab(static_cast<int>(i));
+    }
+}
+
+void MainWindow::setTabSelected(std::function<void(const Tab&)> tabSelected) {
+    fTabSelected = std::move(tabSelected);
+}
+
+// -- the window itself
+
+void MainWindow::bringToFront() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (fMayClose && !fMayClose()) {
+        event->ignore();
+        return;
+    }
+    keepLook();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::hideEvent(QHideEvent* event) {
+    keepLook();
+    QMainWindow::hideEvent(event);
+}
+
+void MainWindow::restoreLook() {
+    const QStringList sides = fDefaults.stringForKey(cSizeKey).value_or(QString()).split(u'x');
+    const QSize wanted(sides.value(0).toInt(), sides.value(1).toInt());
+    if (wanted.width() > 0 && wanted.height() > 0) {
+        const QSize room = screen()->availableSize();
+        resize(wanted.boundedTo(room).expandedTo(minimumSizeHint()));
+    }
+    showTab(fDefaults.stringForKey(cTabKey).value_or(QString()));
+}
+
+void MainWindow::keepLook() {
+    const QString now = QString::number(width()) + u'x' + QString::number(height());
+    if (!isMaximized() && fDefaults.stringForKey(cSizeKey) != now)
+        fDefaults.setObject(cSizeKey, now);
+}
+
+// -- what others look at
 
 QPushButton& MainWindow::ibStartButton() {
-    return *fUi->ibStartButton;
+    return button(QStringLiteral("ibStartButton"));
 }
 
 StatusFieldView& MainWindow::ibStatusTextField() {
-    return *fUi->ibStatusTextField;
+    return fSyncTab->ibStatusTextField();
 }
 
-void MainWindow::showPlaces() {
-    const auto shown = [this](QStringView key, const QString& whenMissing) {
-        const QString text = fDefaults.stringForKey(key).value_or(QString());
-        return text.isEmpty() ? whenMissing : text;
-    };
-    const bool withSSH = fDefaults.boolForKey(prefRsyncWithSSH);
-    fUi->sourceText->setText(withSSH
-                                 ? shown(prefSampleRemoteFullPath, tr("No remote Mac chosen yet"))
-                                 : shown(prefPath1, tr("No source folder chosen yet")));
-    fUi->destinationText->setText(shown(prefPath2, tr("No destination folder chosen yet")));
+PathControlView& MainWindow::fNsPathControl1() {
+    return fSyncTab->fNsPathControl1();
+}
+
+PathControlView& MainWindow::destinationPath() {
+    return fSyncTab->destinationPath();
+}
+
+QTableView& MainWindow::foundServices() {
+    return *fFoundServices;
 }
 
 } // namespace kelvo

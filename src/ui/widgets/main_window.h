@@ -1,14 +1,15 @@
-// MainWindow: the start button, the status line, and where files come from and go to.
+// MainWindow: the program's one window, with its four tabs.
 #pragma once
 
-#include "support/subscription.h"
+#include "ui/widgets/bindings.h"
 
-#include <QWidget>
+#include <QMainWindow>
 
+#include <functional>
 #include <memory>
-#include <vector>
 
 class QPushButton;
+class QTableView;
 
 namespace Ui {
 class MainWindow;
@@ -17,26 +18,77 @@ class MainWindow;
 namespace kelvo {
 
 class DispatchQueue;
+class PathControlView;
+class RemoteTab;
 class StatusFieldView;
+class SyncTab;
 class UserDefaults;
 
 /// Follows the settings it shows, whichever thread changes them. The main queue must have ended
 /// before the window is destroyed.
-class MainWindow final : public QWidget {
+class MainWindow final : public QMainWindow {
     Q_OBJECT
 public:
+    struct Tab {
+        QString identifier;
+        QString label;
+    };
+
     MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue);
     ~MainWindow() override;
 
+    /// Has the button named `control` call `action` at each click and switches it on; until then it
+    /// is off and says why. A name without a button is a programming error and ends the program.
+    void setAction(const QString& control, std::function<void()> action);
+
+    /// A button by name, for whoever needs its state. As above for a name without a button.
+    QPushButton& button(const QString& control);
+
+    /// Asked before the window closes at a person's wish; true lets it go.
+    void setMayClose(std::function<bool()> mayClose) { fMayClose = std::move(mayClose); }
+
+    /// Told of each tab that is shown from now on.
+    void setTabSelected(std::function<void(const Tab&)> tabSelected);
+
+    std::vector<Tab> tabs() const;
+    int currentTab() const;
+    void showTab(int index);
+    void showTab(const QString& identifier);
+
+    /// Brings the window to the front, out of hiding and out of its minimised state.
+    void bringToFront();
+
     QPushButton& ibStartButton();
     StatusFieldView& ibStatusTextField();
+    PathControlView& fNsPathControl1();
+    PathControlView& destinationPath();
+    QTableView& foundServices();
+    SyncTab& syncTab() { return *fSyncTab; }
+    RemoteTab& remoteTab() { return *fRemoteTab; }
+    Bindings& bindings() { return fBindings; }
+
+Q_SIGNALS:
+    void tabShown(int index);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
-    void showPlaces();
+    void addTab(QWidget* tab, const char* identifier, const QString& label);
+    void switchOffUntilWired();
+    void restoreLook();
+    void keepLook();
+    void showStartIcon();
 
     UserDefaults& fDefaults;
+    Bindings fBindings;
     std::unique_ptr<Ui::MainWindow> fUi;
-    std::vector<Subscription> fObservations;
+    SyncTab* fSyncTab;
+    RemoteTab* fRemoteTab;
+    QTableView* fFoundServices;
+    std::function<bool()> fMayClose;
+    std::function<void(const Tab&)> fTabSelected;
 };
 
 } // namespace kelvo

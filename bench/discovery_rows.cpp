@@ -1,0 +1,137 @@
+// The list of services: one filtering pass, and the main queue's stall when a list is shown.
+#include "adapters/avahi/service_table.h"
+#include "adapters/posix/rotating_log_file.h"
+#include "adapters/posix/stream_console.h"
+#include "bench/row.h"
+#include "fakes/fake_service_table.h"
+#include "fakes/memory_defaults.h"
+#include "fakes/virtual_queues.h"
+#include "ports/dnssd_browser.h"
+#include "ui/bonjour_view_controller.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <chrono>
+
+namespace kelvo::bench {
+namespace {
+
+constexpr int cFilteredRecords = 10000;
+constexpr int cShownRecords = 500;
+constexpr int cRepetitions = 9;
+
+template <typename Body>
+double secondsOf(Body body) {
+    const auto begin = std::chrono::steady_clock::now();
+    body();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+DNSSD_Service record(int number) {
+    DNSSD_Service made;
+    made.name = QStringLiteral("Studio Mac Pro %1").arg(number);
+    made.type = QStringLiteral("_smb._tcp");
+    made.scheme = QStringLiteral("smb");
+    made.domain = QStringLiteral("local");
+    made.hostTarget = QStringLiteral("Studio-Mac-Pro-%1.local").arg(number);
+    made.ip4Address = QStringLiteral("10.%1.%2.7").arg(number / 250).arg(number % 250);
+    made.interface = 2;
+    made.hostPort = 445;
+    made.available = true;
+    return made;
+}
+
+/// The real table that the real browser reads from, without a network behind it.
+class FilledBrowser final : public DnssdBrowser {
+public:
+    explicit FilledBrowser(int count) {
+        fTable.startSearch(QStringLiteral("_smb._tcp"));
+        for (int number = 0; number < count; ++number)
+            fTable.found(record(number), HeardOver::IPv4);
+    }
+    void browseForType(const QString&) override {}
+    DNSSD_Services services() const override { return fTable.services(); }
+
+private:
+    ServiceTable fTable;
+};
+
+/// The list with everything real but its widgets; lines go to a console that throws them away.
+class List {
+public:
+    explicit List(int count) : fBrowser(count) {}
+    ~List() { ::close(fNowhere); }
+
+    BonjourViewController& controller() { return *fController; }
+    VirtualMainQueue& mainQueue() { return fMainQueue; }
+    qsizetype rows() const { return fRows->content().value_or(DNSSD_Services()).size(); }
+
+private:
+    const int fNowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    RotatingLogFile fLogFile;
+    StreamConsole fConsole{fNowhere, fNowhere, fLogFile};
+    FilledBrowser fBrowser;
+    MemoryDefaults fDefaults;
+    VirtualMainQueue fMainQueue;
+    std::shared_ptr<FakeArrayController> fRows = std::make_shared<FakeArrayController>();
+    std::shared_ptr<BonjourViewController> fController = BonjourViewController::make(
+        {fDefaults, fMainQueue, fConsole, fBrowser, std::make_shared<FakeSheet>(), fRows,
+         std::make_shared<FakeTableView>(*fRows)});
+};
+
+std::optional<std::vector<Figure>> measureFilter() {
+    std::vector<double> allNew;
+    std::vector<double> allKnown;
+    for (int time = 0; time < cRepetitions; ++time) {
+        List list(cFilteredRecords);
+        list.controller().ibSearchBonjour();
+        list.mainQueue().advance(1.0); // read, not yet filtered
+        allNew.push_back(secondsOf([&] { list.controller().updateFilteredArray(); }));
+        allKnown.push_back(secondsOf([&] { list.controller().updateFilteredArray(); }));
+        list.controller().ibUpdateFilteredList();
+        if (list.rows() != cFilteredRecords) {
+            std::fprintf(stderr, "The filter gave %lld rows.\n",
+                         static_cast<long long>(list.rows()));
+            return std::nullopt;
+        }
+    }
+    return std::vector<Figure>{{"filtering 10,000 records, all new", median(allNew) * 1e3, 20.0,
+                                "ms", std::to_string(cRepetitions) + " passes"},
+                               {"filtering 10,000 records, all known", median(allKnown) * 1e3, 10.0,
+                                "ms", std::to_string(cRepetitions) + " passes"}};
+}
+
+std::optional<std::vector<Figure>> measureSnapshot() {
+    std::vector<double> stalls;
+    for (int time = 0; time < cRepetitions; ++time) {
+        List list(cShownRecords);
+        // Two scans: the second tells of all rows of the first as well.
+        double longest = 0;
+        for (int scan = 0; scan < 2; ++scan) {
+            list.controller().ibSearchBonjour();
+            while (!list.mainQueue().idle()) {
+                const double due = list.mainQueue().nextDelay();
+                longest = std::max(longest, secondsOf([&] { list.mainQueue().advance(due); }));
+            }
+        }
+        if (list.rows() != cShownRecords)
+            return std::nullopt;
+        stalls.push_back(longest);
+    }
+    return std::vector<Figure>{{"longest main-queue stall of a scan that finds 500 services",
+                                median(stalls) * 1e3, 16.0, "ms",
+                                std::to_string(cRepetitions) + " times two scans"}};
+}
+
+} // namespace
+
+Row filterRow() {
+    return {"filter", measureFilter};
+}
+
+Row snapshotRow() {
+    return {"snapshot", measureSnapshot};
+}
+
+} // namespace kelvo::bench

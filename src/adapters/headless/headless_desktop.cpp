@@ -1,0 +1,16 @@
+#include "adapters/headless/headless_desktop.h"
+
+#include "ports/console.h"
+
+namespace kelvo {
+
+OpenPanelAnswer HeadlessOpenPanel::runModal(const OpenPanelOptions& options) {
+    fConsole.log(options.title + u": there is no window to choose in.");
+    return {};
+}
+
+std::optional<QString> HeadlessPathControl::url() const {
+    return fUrl.isEmpty() ? std::nullopt : std::optional(fUrl);
+}
+
+} // namespace kelvo

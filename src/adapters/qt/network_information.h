@@ -1,0 +1,37 @@
+// KelvoSSID: watches the network through the kernel's links and the desktop's network service.
+#pragma once
+
+#include "ports/network_checker.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace kelvo {
+
+class DispatchQueue;
+class NotificationCenter;
+
+/// How far this machine sees, as the desktop's network service judges it.
+enum class NetworkReach { Unknown, NothingBeyond, LocalOnly, Beyond };
+
+/// The sentence people read. A usable link is enough for mirroring, whatever lies beyond it.
+QString reachabilityMessage(bool usableLink, NetworkReach reach);
+
+/// Main thread only, and posts there. Needs a QCoreApplication. Between changes nothing runs; the
+/// changes of 0.2 s are one. Without a network service it watches the links alone.
+class KelvoSSID final : public NetworkChecker {
+public:
+    KelvoSSID(NotificationCenter& center, DispatchQueue& mainQueue);
+    ~KelvoSSID() override;
+
+    void checknetwork2() override;
+
+private:
+    class Watching;
+    std::shared_ptr<Watching> fWatching; ///< also what delayed looks hold on to, weakly
+    NotificationCenter& fCenter;
+    DispatchQueue& fMainQueue;
+};
+
+} // namespace kelvo

@@ -1,0 +1,18 @@
+// The user's folder for what lives only as long as programs run.
+#pragma once
+
+#include <string>
+
+namespace kelvo {
+
+struct RuntimeFolder {
+    std::string path;  ///< without a closing "/"; empty when there is none
+    std::string fault; ///< why, in words
+};
+
+/// $XDG_RUNTIME_DIR when it is a folder that the user owns and nobody else may enter or write, else
+/// "kelvo-mirror-<user id>" in $TMPDIR or /tmp, made with mode 0700 when missing and refused when
+/// it is anybody else's, open to others, or a link. Touches only local folders. Any thread.
+RuntimeFolder runtimeFolder();
+
+} // namespace kelvo

@@ -1,0 +1,39 @@
+// SingleCopySocket: the one copy holds a lock, and listens on a local socket for later ones.
+#pragma once
+
+#include "ports/single_copy.h"
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+namespace kelvo {
+
+class Console;
+
+/// The kernel lets go of the lock however the process ends, so what a dead copy left lying about
+/// is no hindrance. Only programs of the same user are listened to; anything but the one request
+/// ends the connection and does nothing. Child processes do not inherit the lock.
+class SingleCopySocket final : public SingleCopy {
+public:
+    /// `folder` is private to the user, or empty: then every claim is Unguarded. Lock and socket
+    /// are "kelvo-mirror.lock" and "kelvo-mirror.socket" in it. A claim that finds another copy
+    /// waits `patience` for it.
+    SingleCopySocket(std::string folder, Console& console,
+                     std::chrono::milliseconds patience = std::chrono::seconds(5));
+
+    /// Stops listening and gives the place up.
+    ~SingleCopySocket() override;
+
+    Claim claim(std::function<void()> show) override;
+
+private:
+    class Listener;
+
+    const std::string fFolder;
+    Console& fConsole;
+    const std::chrono::milliseconds fPatience;
+    std::unique_ptr<Listener> fListener;
+};
+
+} // namespace kelvo

@@ -1,0 +1,48 @@
+#include "app/machine_parts.h"
+
+#include "adapters/qt/network_information.h"
+#include "adapters/qt/runtime_folder.h"
+#include "adapters/tray/desktop_tray_host.h"
+#include "app/version.h"
+#include "ui/widgets/tray_icon.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+#include <unistd.h>
+
+namespace kelvo {
+namespace {
+
+QString settingsFile() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/kelvo-mirror/preferences.plist");
+}
+
+QString resourceFolder() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/kelvo-mirror");
+}
+
+} // namespace
+
+MachineParts::MachineParts(bool withTray)
+    : console(STDOUT_FILENO, STDERR_FILENO, logFile), defaults(settingsFile(), mainQueue, console),
+      bundle(resourceFolder()), shell(console),
+      workspace(mainQueue, bgQueue, console, files.homeDirectory()),
+      systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, bgQueue, console),
+      singleCopy(runtimeFolder().path, console), dnssdBrowser(console) {
+    if (withTray) {
+        fTrayHost = std::make_unique<DesktopTrayHost>();
+        fStatusMenu = std::make_unique<TrayIcon>(*fTrayHost);
+    } else {
+        fStatusMenu = std::make_unique<HeadlessStatusMenu>();
+    }
+}
+
+MachineParts::~MachineParts() = default;
+
+std::unique_ptr<NetworkChecker> MachineParts::makeNetworkChecker() {
+    return std::make_unique<KelvoSSID>(notificationCenter, mainQueue);
+}
+
+} // namespace kelvo

@@ -1,0 +1,125 @@
+#include "app/window_actions.h"
+
+#include "app/app_delegate.h"
+#include "app/version.h"
+#include "ports/workspace.h"
+#include "ui/view_controller.h"
+#include "ui/widgets/application_menu.h"
+#include "ui/widgets/main_window.h"
+#include "ui/widgets/path_control_view.h"
+#include "ui/widgets/widget_button.h"
+#include "ui/widgets/widget_controls.h"
+
+#include <QMessageBox>
+
+namespace kelvo {
+namespace {
+
+using Action = void (ViewController::*)(Control*);
+
+struct Wire {
+    const char* control;
+    Action action;
+};
+
+constexpr Wire cButtons[] = {
+    {"ibSelectFolder1Action", &ViewController::ibSelectFolder1Action},
+    {"ibSelectFolder2Action", &ViewController::ibSelectFolder2Action},
+    {"ibRevealButton1", &ViewController::ibRevealSourcePath},
+    {"ibRevealButton2", &ViewController::ibRevealDestPath},
+    {"ibSelectSourceByBonjor", &ViewController::ibSelectSourceByBonjor},
+    {"ibSelectDestByBonjor", &ViewController::ibSelectDestByBonjor},
+    {"ibSearchBonjour", &ViewController::ibSearchBonjour},
+    {"ibShowBonjourListInfo", &ViewController::ibShowBonjourListInfo},
+    {"ibTestNWBrowser", &ViewController::ibTestNWBrowser},
+    {"ibAction1", &ViewController::ibAction1},
+    {"ibRevealInFinderAction", &ViewController::ibRevealInFinderAction},
+    {"ibOpenTempFolder", &ViewController::ibOpenTempFolder},
+    {"ibSetNoFirstResponder", &ViewController::ibSetNoFirstResponder},
+    {"ibQuitAndRelaunch", &ViewController::ibQuitAndRelaunch},
+    {"ibSuspendTimer", &ViewController::ibSuspendTimer},
+    {"ibResumeTimer", &ViewController::ibResumeTimer},
+    {"ibKillTimer", &ViewController::ibKillTimer},
+};
+
+constexpr Wire cOnceButtons[] = {
+    {"ibRSyncOnce", &ViewController::ibRSyncOnce},
+    {"ibRSyncOnceBonjour", &ViewController::ibRSyncOnceBonjour},
+};
+
+TabViewItem item(const MainWindow::Tab& tab) {
+    return {tab.label, tab.identifier};
+}
+
+void showAbout(MainWindow& window) {
+    QMessageBox about(QMessageBox::NoIcon, QObject::tr("About Kelvo Mirror"),
+                      QObject::tr("Kelvo Mirror %1").arg(cVersion),
+                      QMessageBox::Ok, &window);
+    about.setIconPixmap(window.windowIcon().pixmap(64));
+    about.setInformativeText(QObject::tr("Keeps a local folder supplied with movie files from a "
+                                         "remote Mac."));
+    about.exec();
+}
+
+} // namespace
+
+OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Workspace& workspace,
+                              const std::shared_ptr<PathControl>& fNsPathControl1) {
+    for (const Wire& wire : cButtons) {
+        const QString name = QString::fromLatin1(wire.control);
+        auto sender = std::make_shared<WidgetControl>(window.button(name));
+        window.setAction(name, [&controller, action = wire.action, sender] {
+            (controller.*action)(sender.get());
+        });
+    }
+    OnceButtons onceButtons;
+    for (const Wire& wire : cOnceButtons) {
+        const QString name = QString::fromLatin1(wire.control);
+        window.setAction(name, [] {});
+        onceButtons.push_back(std::make_unique<WidgetButton>(
+            window.button(name), [&controller, action = wire.action](Control* sender) {
+                (controller.*action)(sender);
+            }));
+    }
+
+    QObject::connect(&window.fNsPathControl1(), &PathControlView::partClicked, &window,
+                     [&controller, &workspace, fNsPathControl1](const QString& path) {
+                         controller.ibRevealInFinderAction(fNsPathControl1.get());
+                         workspace.openFile(path);
+                     });
+    QObject::connect(&window.destinationPath(), &PathControlView::partClicked, &window,
+                     [&workspace](const QString& path) { workspace.openFile(path); });
+
+    window.bindings().setEditingEnded([&controller](QWidget& field) {
+        controller.controlTextDidEndEditing({std::make_shared<WidgetTextField>(field), {}});
+    });
+    window.setTabSelected(
+        [&controller](const MainWindow::Tab& tab) { controller.tabViewWillSelect(item(tab)); });
+    return onceButtons;
+}
+
+void addApplicationMenu(MainWindow& window, ViewController& controller, AppDelegate& delegate,
+                        Workspace& workspace, const QString& logFolder,
+                        const std::function<void()>& quit) {
+    QStringList labels;
+    for (const MainWindow::Tab& tab : window.tabs())
+        labels.append(tab.label);
+    auto* menu = new ApplicationMenu(
+        {.quitAndRelaunch = [&controller] { controller.ibQuitAndRelaunch(nullptr); },
+         .closeWindow = [&window] { window.close(); },
+         .quit = quit,
+         .showSettings = [&window] { window.showTab(QStringLiteral("prefs")); },
+         .showTab = [&window](int index) { window.showTab(index); },
+         .setupStatusItem = [&delegate] { delegate.ibSetupStatusItemStuff(nullptr); },
+         .removeStatusItem = [&delegate] { delegate.ibRemoveStatusItemStuff(nullptr); },
+         .delegateQuitAndRelaunch = [&delegate] { delegate.ibQuitAndRelaunch(nullptr); },
+         .setupWatchdog = [&delegate] { delegate.ibActionFromDelegate(nullptr); },
+         .about = [&window] { showAbout(window); },
+         .openLogFolder = [&workspace, logFolder] { workspace.openFile(logFolder); }},
+        labels, &window);
+    window.setMenuBar(menu);
+    menu->setCurrentTab(window.currentTab());
+    QObject::connect(&window, &MainWindow::tabShown, menu, &ApplicationMenu::setCurrentTab);
+}
+
+} // namespace kelvo

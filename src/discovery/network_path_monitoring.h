@@ -1,0 +1,72 @@
+// NetworkPathMonitoring: the line that says what the network does, and a test of the browser.
+#pragma once
+
+#include "support/subscription.h"
+
+#include <QString>
+#include <QStringList>
+#include <QStringView>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace kelvo {
+
+class Console;
+class Control;
+class DispatchQueue;
+class NetworkBrowser;
+class NetworkChecker;
+class NotificationCenter;
+struct Notification;
+
+/// What the monitoring works with; the references outlive it.
+struct NetworkPathMonitoringParts {
+    NotificationCenter& notificationCenter;
+    DispatchQueue& mainQueue;
+    Console& console;
+    NetworkBrowser& browser;
+    /// May answer with nothing: then nothing is watched.
+    std::function<std::unique_ptr<NetworkChecker>()> makeKelvoSSID;
+    /// Receives every value of fNetworkStatusString, on the main thread.
+    std::function<void(const QString&)> showNetworkStatus;
+    /// False on systems too old to watch the network path.
+    bool systemWatchesPaths = true;
+};
+
+/// Main thread only, except that notifications may arrive on any thread. The main queue must have
+/// ended before this is destroyed.
+class NetworkPathMonitoring {
+public:
+    explicit NetworkPathMonitoring(NetworkPathMonitoringParts parts);
+    ~NetworkPathMonitoring();
+    NetworkPathMonitoring(const NetworkPathMonitoring&) = delete;
+    NetworkPathMonitoring& operator=(const NetworkPathMonitoring&) = delete;
+
+    /// Makes the checker, listens to it and starts it. Called once.
+    void setupNetworkChecker();
+
+    /// Shows the notification's message 0.1 s from now, and no text before it; a notification
+    /// without a usable message leaves none. Any thread.
+    void handleNWPathMonitorNotification(const Notification& notification);
+
+    /// Looks for SMB services and prints what there is, from now on at every change.
+    void ibTestNWBrowser(Control* sender);
+
+    /// The last message; empty while a new one is awaited.
+    const QString& fNetworkStatusString() const { return fStatus; }
+
+private:
+    void setNetworkStatus(const QString& status);
+    void gather(const QStringList& endpoints);
+    void printInside(QStringView operation, QStringView detail = u".......") const;
+
+    const NetworkPathMonitoringParts fParts;
+    QString fStatus;
+    std::optional<QStringList> fFoundItemsFromBonjour;
+    Subscription fObservation;
+    std::unique_ptr<NetworkChecker> fKelvoSSID; ///< ends before the observation does
+};
+
+} // namespace kelvo

@@ -1,0 +1,35 @@
+// MainView: the content of the main window, as its controller sees it.
+#pragma once
+
+#include "support/subscription.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace kelvo {
+
+class Control;
+
+/// Main thread only.
+class MainView {
+public:
+    virtual ~MainView() = default;
+
+    /// Whether the view lies in a window.
+    virtual bool hasWindow() const = 0;
+
+    /// Takes the keyboard focus away from whatever has it.
+    virtual void makeNothingFirstResponder() = 0;
+
+    /// Shows `text` as the network line; an empty one leaves the line empty.
+    virtual void showNetworkStatus(const QString& text) = 0;
+
+    /// Calls `handler` at each press of the right mouse button in the program's windows, on the
+    /// main thread: true when it lies inside `view`. The press goes on to whatever it was meant
+    /// for. Once the subscription is gone no new call begins. A view that is gone hears nothing.
+    virtual Subscription monitorRightMouseDown(const Control& view,
+                                               std::function<void(bool inside)> handler) = 0;
+};
+
+} // namespace kelvo

@@ -1,0 +1,272 @@
+#include "ui/bonjour_view_controller.h"
+
+#include "discovery/record_texts.h"
+#include "discovery/service_filter.h"
+#include "ports/array_controller.h"
+#include "ports/console.h"
+#include "ports/dispatch_queue.h"
+#include "ports/dnssd_browser.h"
+#include "ports/sheet.h"
+#include "ports/user_defaults.h"
+#include "support/fatal.h"
+#include "support/preference_keys.h"
+#include "support/text.h"
+
+#include <utility>
+
+namespace kelvo {
+namespace {
+
+constexpr double cFirstScanDelay = 0.1;
+constexpr double cScanningSignDelay = 0.1;
+constexpr double cScanTime = 1.0;
+constexpr double cFilterDelay = 0.5;
+constexpr QStringView cEmptyLines = u"\n";
+
+/// The record at `row`; a row that is not there is a fault of the table's.
+const DNSSD_Service& entryAt(const DNSSD_Services& records, qsizetype row) {
+    if (row >= records.size())
+        stopProgram("The selected row is past the end of the list.");
+    return records.at(row);
+}
+
+QString numberOrNil(const QList<qsizetype>& indexes) {
+    return indexes.isEmpty() ? QStringLiteral("nil")
+                             : QString(u"Optional(" + QString::number(indexes.constFirst()) + u')');
+}
+
+QString stringEntry(const QVariantMap& dictionary, const QString& key) {
+    return plainText(dictionary.value(key).toString());
+}
+
+} // namespace
+
+std::shared_ptr<BonjourViewController>
+BonjourViewController::make(BonjourViewControllerParts parts) {
+    return std::shared_ptr<BonjourViewController>(new BonjourViewController(std::move(parts)));
+}
+
+BonjourViewController::BonjourViewController(BonjourViewControllerParts parts)
+    : fParts(std::move(parts)) {}
+
+void BonjourViewController::viewDidLoad() {
+    printInside(u"viewDidLoad()");
+    tableView().setDelegate(weak_from_this());
+    tableView().setDoubleAction([weak = weak_from_this()] {
+        if (const auto self = weak.lock())
+            self->handleDoubleClick();
+    });
+    after(cFirstScanDelay, &BonjourViewController::ibSearchBonjour);
+}
+
+// -- scanning
+
+void BonjourViewController::ibSearchBonjour() {
+    printInside(u"ibSearchBonjour(_:)");
+    fParts.mainQueue.asyncAfter(cScanningSignDelay,
+                                [self = shared_from_this()] { self->setScanningBonjour(true); });
+    // What was admitted before stays: a further scan only adds to it.
+    fMSet.clear();
+    fFilteredTable.clear();
+    fParts.browser.browseForType(cBrowsedType.toString());
+    fParts.mainQueue.asyncAfter(cScanTime, [self = shared_from_this()] {
+        self->fMasterServicesArray = self->fParts.browser.services();
+        self->arrayController().setContent(self->fFilteredFoundServicesArray);
+        self->ibShowBonjourListInfo();
+    });
+}
+
+void BonjourViewController::ibShowBonjourListInfo() {
+    constexpr QStringView operation = u"ibShowBonjourListInfo(_:)";
+    print(u"self.fFoundServicesArray[" + countText(fFoundServicesArray) + u"] item");
+    print(u"self.fTableView.selectedRow =>>>    " + QString::number(tableView().selectedRow()));
+    for (int time = 0; time < 2; ++time)
+        printInside(operation, QString(u".......self.fArrayController.selectedObjects = " +
+                                       selectedObjectsText()));
+    for (const DNSSD_Service& record : fFoundServicesArray.value_or(DNSSD_Services())) {
+        const auto dictionary = record.asDictionary();
+        if (!dictionary)
+            continue;
+        print(u"d = " + dictionaryText(*dictionary));
+        fMSet.insert(record);
+        fFilteredTable.insert(record.ip4Address, *dictionary);
+    }
+    for (int time = 0; time < 2; ++time)
+        print(cEmptyLines.toString());
+    printInside(operation, QString(u".......self.fFilteredTable = " + tableText(fFilteredTable)));
+    for (int time = 0; time < 2; ++time)
+        print(cEmptyLines.toString());
+    fParts.mainQueue.asyncAfter(cFilterDelay, [self = shared_from_this()] {
+        self->ibUpdateFilteredList();
+        self->after(cFilterDelay, &BonjourViewController::ibUpdateFilteredList);
+        self->setScanningBonjour(false);
+    });
+}
+
+// -- one row an address
+
+void BonjourViewController::ibUpdateFilteredList() {
+    constexpr QStringView operation = u"ibUpdateFilteredList(_:)";
+    printInside(operation);
+    updateFilteredArray();
+    printInside(operation, QString(u".......self.fFilteredFoundServicesArray = " +
+                                   listText(std::optional(fFilteredFoundServicesArray))));
+    fFoundServicesArray = fFilteredFoundServicesArray;
+    arrayController().setContent(fFilteredFoundServicesArray);
+}
+
+void BonjourViewController::updateFilteredArray() {
+    constexpr QStringView operation = u"updateFilteredArray()";
+    printInside(operation);
+    if (!fMasterServicesArray)
+        return;
+    for (const DNSSD_Service& record : std::as_const(*fMasterServicesArray)) {
+        switch (admit(record, fUniqueIP4Address)) {
+        case Admission::Admitted:
+            fFilteredFoundServicesArray.prepend(record);
+            break;
+        case Admission::BadKey:
+            printInside(operation,
+                        QString(u"......badKey = [" + plainText(record.ip4Address) + u"] ?????."));
+            break;
+        case Admission::Duplicate:
+            printInside(operation, QString(u"......NOT Adding DUPLICATE => [" +
+                                           plainText(record.name) + u"] ..."));
+            break;
+        }
+    }
+}
+
+// -- choosing
+
+void BonjourViewController::ibSelectItem() {
+    constexpr QStringView operation = u"ibSelectItem(_:)";
+    const qsizetype row = tableView().selectedRow();
+    printInside(operation);
+    printInside(operation, QString(u".......self.fArrayController.selectionIndex = [" +
+                                   QString::number(arrayController().selectionIndex()) + u']'));
+    print(u"self.fTableView.selectedRow =>>>    " + QString::number(row));
+    printInside(operation, QString(u".......self.fArrayController.selectedObjects = " +
+                                   selectedObjectsText()));
+    printInside(operation,
+                QString(u".......          self.fTableView.selectedRow = " + QString::number(row)));
+    if (row < 0) {
+        fParts.sheet->beep();
+        return;
+    }
+    if (const auto records = arrayController().arrangedObjects()) {
+        const DNSSD_Service& record = entryAt(*records, row);
+        printInside(operation, QString(u".......selected obj = " + recordText(record)));
+        storeChoice(record);
+    }
+    for (int time = 0; time < 2; ++time)
+        print(cEmptyLines.toString());
+    fParts.sheet->dismiss();
+}
+
+void BonjourViewController::storeChoice(const DNSSD_Service& record) {
+    constexpr QStringView operation = u"ibSelectItem(_:)";
+    fParts.defaults.setObject(prefRemoteBonjourName,
+                              QString(QString(record.name).replace(u' ', u'-') + u".local"));
+    if (const auto dictionary = record.asDictionary())
+        fParts.defaults.setObject(prefRemoteDnssdServiceData, *dictionary);
+    const auto stored = fParts.defaults.dictionaryForKey(prefRemoteDnssdServiceData);
+    if (!stored)
+        return;
+    printInside(operation,
+                QString(u".......      name = " + stringEntry(*stored, QStringLiteral("name"))));
+    printInside(operation, QString(u".......ip4Address = " +
+                                   stringEntry(*stored, QStringLiteral("ip4Address"))));
+}
+
+void BonjourViewController::handleDoubleClick() {
+    printInside(u"handleDoubleClick()");
+    ibSelectItem();
+}
+
+// -- the table's questions
+
+qsizetype BonjourViewController::numberOfRows(TableView&) {
+    printInside(u"numberOfRows(in:)");
+    return fFoundServicesArray ? fFoundServicesArray->size() : 0;
+}
+
+void BonjourViewController::tableViewDidClick(TableView&, const QString& tableColumn) {
+    printInside(u"tableView(_:didClick:)", QString(u".......tableColumn = " + tableColumn));
+}
+
+void BonjourViewController::tableViewSelectionDidChange(const TableViewNotification& notification) {
+    constexpr QStringView operation = u"tableViewSelectionDidChange(_:)";
+    printInside(operation, QString(u".......notification = " + notification.name));
+    const TableView* table = notification.object;
+    if (!table)
+        return;
+    const qsizetype row = table->selectedRow();
+    printInside(operation, QString(u".......obj.selectedRow = " + QString::number(row)));
+    printInside(operation, QString(u".......obj.selectedRowIndexes.first = " +
+                                   numberOrNil(table->selectedRowIndexes())));
+    const auto records = arrayController().arrangedObjects();
+    if (!records)
+        return;
+    if (row >= 0)
+        printInside(operation,
+                    QString(u".......selected obj = " + recordText(entryAt(*records, row))));
+    setDidSelectRow(row >= 0);
+}
+
+// -- flags that the sheet shows
+
+void BonjourViewController::setScanningBonjour(bool scanning) {
+    fScanningBonjour = scanning;
+    printInside(u"fScanningBonjour");
+    if (scanning)
+        print(QStringLiteral("NOW SCANNING"));
+    fParts.defaults.setObject(
+        perfFirstLineMessage,
+        scanning ? QStringLiteral("Please Wait - Scanning for smb machines on network...")
+                 : QStringLiteral("Bonjour List..."));
+    fParts.defaults.setObject(prefScanningBonjour, scanning);
+}
+
+void BonjourViewController::setDidSelectRow(bool selected) {
+    fDidSelectRow = selected;
+    printInside(u"fDidSelectRow");
+    fParts.defaults.setObject(prefSelectedValidRow, selected);
+}
+
+// -- helpers
+
+ArrayController& BonjourViewController::arrayController() const {
+    if (!fParts.fArrayController)
+        stopProgram("The list of services has no array controller.");
+    return *fParts.fArrayController;
+}
+
+TableView& BonjourViewController::tableView() const {
+    if (!fParts.fTableView)
+        stopProgram("The list of services has no table.");
+    return *fParts.fTableView;
+}
+
+QString BonjourViewController::selectedObjectsText() const {
+    const auto records = arrayController().arrangedObjects();
+    const qsizetype index = arrayController().selectionIndex();
+    return records && index >= 0 && index < records->size()
+               ? listText(DNSSD_Services{records->at(index)})
+               : QStringLiteral("[]");
+}
+
+void BonjourViewController::after(double seconds, void (BonjourViewController::*step)()) {
+    fParts.mainQueue.asyncAfter(seconds,
+                                [self = shared_from_this(), step] { (self.get()->*step)(); });
+}
+
+void BonjourViewController::print(const QString& line) const {
+    fParts.console.print(line);
+}
+
+void BonjourViewController::printInside(QStringView operation, QStringView detail) const {
+    print(insideLine(u"BonjourViewController", operation, detail));
+}
+
+} // namespace kelvo

@@ -1,0 +1,94 @@
+// BonjourViewController: the sheet in which the remote computer is chosen, without any widget.
+#pragma once
+
+#include "ports/table_view.h"
+#include "support/dnssd_service.h"
+
+#include <QMap>
+#include <QSet>
+
+#include <memory>
+#include <optional>
+
+namespace kelvo {
+
+class ArrayController;
+class Console;
+class DispatchQueue;
+class DnssdBrowser;
+class Sheet;
+class UserDefaults;
+
+/// What the controller works with. The references outlive everything that waits on the main queue;
+/// the rest lives as long as the controller. A missing outlet stops the program once it is needed.
+struct BonjourViewControllerParts {
+    UserDefaults& defaults;
+    DispatchQueue& mainQueue;
+    Console& console;
+    DnssdBrowser& browser;
+    std::shared_ptr<Sheet> sheet;
+    std::shared_ptr<ArrayController> fArrayController;
+    std::shared_ptr<TableView> fTableView;
+};
+
+/// Main thread only. Made afresh for each sheet. Work on the main queue keeps the controller alive:
+/// a scan runs to its end even when the sheet is closed before.
+class BonjourViewController final : public TableViewDelegate,
+                                    public std::enable_shared_from_this<BonjourViewController> {
+public:
+    static std::shared_ptr<BonjourViewController> make(BonjourViewControllerParts parts);
+
+    /// Takes charge of the table and starts the first scan 0.1 s later. Called once.
+    void viewDidLoad();
+
+    /// Starts a scan: the list is ready after 1.5 s and final after 2.0 s. Computers that are
+    /// listed already stay; new ones stand above them.
+    void ibSearchBonjour();
+
+    /// Leaves a record of the rows so far and schedules the two filtering passes.
+    void ibShowBonjourListInfo();
+
+    /// Filters what the last scan found and shows the result.
+    void ibUpdateFilteredList();
+
+    /// Gives each new address of the last scan a row, at the top. Linear in the scan's result.
+    void updateFilteredArray();
+
+    /// Stores the selected computer's host name and record and closes the sheet; beeps and stays
+    /// when none is selected. A selected row that the list does not have stops the program.
+    void ibSelectItem();
+
+    void handleDoubleClick();
+
+    bool scanningBonjour() const { return fScanningBonjour; }
+    bool didSelectRow() const { return fDidSelectRow; }
+
+    qsizetype numberOfRows(TableView& tableView) override;
+    void tableViewDidClick(TableView& tableView, const QString& tableColumn) override;
+    void tableViewSelectionDidChange(const TableViewNotification& notification) override;
+
+private:
+    explicit BonjourViewController(BonjourViewControllerParts parts);
+
+    ArrayController& arrayController() const;
+    TableView& tableView() const;
+    void setScanningBonjour(bool scanning);
+    void setDidSelectRow(bool selected);
+    void storeChoice(const DNSSD_Service& record);
+    QString selectedObjectsText() const;
+    void after(double seconds, void (BonjourViewController::*step)());
+    void print(const QString& line) const;
+    void printInside(QStringView operation, QStringView detail = u".......") const;
+
+    const BonjourViewControllerParts fParts;
+    std::optional<DNSSD_Services> fFoundServicesArray;
+    std::optional<DNSSD_Services> fMasterServicesArray;
+    QSet<DNSSD_Service> fMSet; ///< every record that the last information pass saw
+    QSet<QString> fUniqueIP4Address;
+    QMap<QString, QVariantMap> fFilteredTable; ///< the last dictionary seen, by address
+    DNSSD_Services fFilteredFoundServicesArray;
+    bool fDidSelectRow = false;
+    bool fScanningBonjour = false;
+};
+
+} // namespace kelvo

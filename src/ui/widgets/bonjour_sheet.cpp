@@ -1,0 +1,107 @@
+#include "ui/widgets/bonjour_sheet.h"
+
+#include "ports/dispatch_queue.h"
+#include "ports/user_defaults.h"
+#include "support/preference_keys.h"
+#include "ui/bonjour_view_controller.h"
+#include "ui/widgets/service_table_view.h"
+#include "ui_bonjour_sheet.h"
+
+#include <QHeaderView>
+
+namespace kelvo {
+
+BonjourSheet::BonjourSheet(const BonjourSheetParts& parts, QWidget* parent)
+    : QDialog(parent), fParts(parts), fUi(std::make_unique<Ui::BonjourSheet>()),
+      fOutlets(std::make_shared<ServiceTableView>(*this)),
+      fController(BonjourViewController::make({parts.defaults, parts.mainQueue, parts.console,
+                                               parts.browser, fOutlets, fOutlets, fOutlets})) {
+    fUi->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowModality(Qt::WindowModal);
+    QTableView& table = *fUi->fTableView;
+    table.setModel(&fRows);
+    table.horizontalHeader()->setSectionsClickable(true);
+    table.horizontalHeader()->resizeSection(0, 200);
+    table.horizontalHeader()->resizeSection(1, 120);
+    connect(&table, &QTableView::doubleClicked, this,
+            [outlets = fOutlets] { outlets->doubleClicked(); });
+    connect(table.horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) {
+        fOutlets->headerClicked(
+            fRows.headerData(section, Qt::Horizontal, Qt::DisplayRole).toString());
+    });
+    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &BonjourSheet::selectionChanged);
+    connect(fUi->rescanButton, &QPushButton::clicked, this,
+            [this] { fController->ibSearchBonjour(); });
+    connect(fUi->selectButton, &QPushButton::clicked, this,
+            [controller = fController] { controller->ibSelectItem(); });
+    connect(fUi->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    for (const QStringView key : {perfFirstLineMessage, prefScanningBonjour, prefSelectedValidRow})
+        fObservations.push_back(parts.defaults.observe(key, [this](const DefaultsChange&) {
+            fParts.mainQueue.async([self = QPointer(this)] {
+                if (self)
+                    self->showState();
+            });
+        }));
+    showState();
+    table.setFocus();
+}
+
+BonjourSheet::~BonjourSheet() = default;
+
+void BonjourSheet::present() {
+    show();
+    fController->viewDidLoad();
+}
+
+void BonjourSheet::setRecords(const DNSSD_Services& records) {
+    const int before = selectedRow();
+    const auto selected = before < 0 ? std::nullopt : std::optional(fRows.records().at(before));
+    const QSignalBlocker silence(fUi->fTableView->selectionModel());
+    fRows.setRecords(records);
+    const auto after = selected ? records.indexOf(*selected) : -1;
+    if (after >= 0)
+        fUi->fTableView->selectRow(static_cast<int>(after));
+    fFilled = true;
+    if (after != before)
+        selectionChanged();
+    showState();
+}
+
+int BonjourSheet::selectedRow() const {
+    const QModelIndexList rows = fUi->fTableView->selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.constFirst().row();
+}
+
+void BonjourSheet::selectionChanged() {
+    fOutlets->selectionChanged();
+    showState();
+}
+
+void BonjourSheet::showState() {
+    const bool scanning = fParts.defaults.boolForKey(prefScanningBonjour);
+    fUi->firstLineMessage->setText(
+        fParts.defaults.stringForKey(perfFirstLineMessage).value_or(QString()));
+    fUi->scanningSign->setVisible(scanning);
+    // The setting may be left over from an earlier sheet.
+    fUi->selectButton->setEnabled(fParts.defaults.boolForKey(prefSelectedValidRow) &&
+                                  selectedRow() >= 0);
+    const bool nothingFound = fFilled && !scanning && fRows.rowCount() == 0;
+    QWidget* page = nothingFound ? fUi->emptyPage : fUi->listPage;
+    if (fUi->pages->currentWidget() == page)
+        return;
+    fUi->pages->setCurrentWidget(page);
+    if (!nothingFound)
+        fUi->fTableView->setFocus();
+}
+
+bool WidgetSheetOpener::presentSheet(QStringView identifier) {
+    if (identifier != cBonjourSheet || !fMainWindow)
+        return false;
+    auto* sheet = new BonjourSheet(fParts, fMainWindow);
+    sheet->present();
+    return true;
+}
+
+} // namespace kelvo

@@ -1,0 +1,75 @@
+#include "ui/widgets/sync_tab.h"
+
+#include "ports/user_defaults.h"
+#include "support/preference_keys.h"
+#include "support/text.h"
+#include "ui/widgets/bindings.h"
+#include "ui/widgets/source_notice.h"
+#include "ui_sync_tab.h"
+
+#include <QDir>
+
+namespace kelvo {
+namespace {
+
+/// The stored folder, "~" taken for the home folder; empty when none is stored.
+QString folder(const UserDefaults& defaults, QStringView key) {
+    return expandingTilde(defaults.stringForKey(key).value_or(QString()), QDir::homePath());
+}
+
+} // namespace
+
+SyncTab::SyncTab(Bindings& bindings, QWidget* parent)
+    : QWidget(parent), fUi(std::make_unique<Ui::SyncTab>()) {
+    fUi->setupUi(this);
+    UserDefaults& defaults = bindings.defaults();
+    fUi->fNsPathControl1->setTextWhenEmpty(tr("No source folder chosen yet"));
+    fUi->destinationPath->setTextWhenEmpty(tr("No destination folder chosen yet"));
+    bindings.follow(*this,
+                    {prefRsyncWithSSH, prefSampleRemoteFullPath, prefRemoteUsername,
+                     prefRemoteBonjourName, prefRemotePath},
+                    [this, &bindings] { showSource(bindings); });
+    bindings.follow(*this, {prefPath1}, [this, &defaults] {
+        fUi->fNsPathControl1->setPath(folder(defaults, prefPath1));
+    });
+    bindings.follow(*this, {prefPath2}, [this, &defaults] {
+        fUi->destinationPath->setPath(folder(defaults, prefPath2));
+    });
+    bindings.follow(*this, {prefIsScanning}, [this, &defaults] {
+        fUi->busySign->setVisible(defaults.boolForKey(prefIsScanning));
+    });
+}
+
+SyncTab::~SyncTab() = default;
+
+PathControlView& SyncTab::fNsPathControl1() {
+    return *fUi->fNsPathControl1;
+}
+
+PathControlView& SyncTab::destinationPath() {
+    return *fUi->destinationPath;
+}
+
+StatusFieldView& SyncTab::ibStatusTextField() {
+    return *fUi->ibStatusTextField;
+}
+
+void SyncTab::setNetworkStatus(const QString& text) {
+    fUi->networkStatus->setText(text);
+    fUi->networkStatus->setAccessibleName(text.isEmpty() ? tr("Network")
+                                                         : tr("Network: %1").arg(text));
+}
+
+void SyncTab::showSource(Bindings& bindings) {
+    const UserDefaults& defaults = bindings.defaults();
+    const bool remote = defaults.boolForKey(prefRsyncWithSSH);
+    fUi->remoteSource->setVisible(remote);
+    fUi->folderSource->setVisible(!remote);
+    const QString source = defaults.stringForKey(prefSampleRemoteFullPath).value_or(QString());
+    fUi->sourceText->setFullText(source.isEmpty() ? tr("No remote Mac chosen yet") : source);
+    const QString notice = remote ? sourceNotice(defaults) : QString();
+    fUi->sourceNotice->setText(notice);
+    fUi->sourceNotice->setVisible(!notice.isEmpty());
+}
+
+} // namespace kelvo

@@ -1,0 +1,29 @@
+#include "ui/widgets/widget_controls.h"
+
+#include "support/file_url.h"
+
+#include <QUrl>
+
+namespace kelvo {
+
+void WidgetTextField::resignFirstResponder() {
+    if (fField && fField->hasFocus())
+        fField->clearFocus();
+}
+
+void WidgetPathControl::setUrl(const QString& url) {
+    if (fView)
+        fView->setPath(QUrl(url).toLocalFile());
+}
+
+std::optional<QString> WidgetPathControl::url() const {
+    if (!fView || fView->path().isEmpty())
+        return std::nullopt;
+    return fileUrl(fView->path());
+}
+
+std::vector<PathControl::Item> WidgetPathControl::pathItems() const {
+    return pathItemsOf(url().value_or(QString()));
+}
+
+} // namespace kelvo

@@ -1,0 +1,51 @@
+// Widgets as the controls that actions and controllers know.
+#pragma once
+
+#include "ports/control.h"
+#include "ports/path_control.h"
+#include "ui/widgets/path_control_view.h"
+
+#include <QPointer>
+
+#include <utility>
+
+class QWidget;
+
+namespace kelvo {
+
+/// A widget that actions may name as their sender. The widget may go first.
+class WidgetControl final : public Control {
+public:
+    explicit WidgetControl(QWidget& widget) : fWidget(&widget) {}
+
+    /// Null once the widget is gone.
+    QWidget* widget() const { return fWidget; }
+
+private:
+    QPointer<QWidget> fWidget;
+};
+
+/// A text field; one that is gone has no focus to give up.
+class WidgetTextField final : public TextField {
+public:
+    explicit WidgetTextField(QWidget& field) : fField(&field) {}
+    void resignFirstResponder() override;
+
+private:
+    QPointer<QWidget> fField;
+};
+
+/// A path control; one that is gone shows nothing.
+class WidgetPathControl final : public PathControl {
+public:
+    explicit WidgetPathControl(PathControlView& view) : fView(&view) {}
+
+    void setUrl(const QString& url) override;
+    std::optional<QString> url() const override;
+    std::vector<Item> pathItems() const override;
+
+private:
+    QPointer<PathControlView> fView;
+};
+
+} // namespace kelvo

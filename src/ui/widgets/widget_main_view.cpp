@@ -1,0 +1,89 @@
+#include "ui/widgets/widget_main_view.h"
+
+#include "ui/widgets/sync_tab.h"
+#include "ui/widgets/widget_controls.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+
+#include <memory>
+#include <utility>
+
+namespace kelvo {
+namespace {
+
+/// Sees every press once: on its way into a window, before the window's widgets share it out.
+class RightMouseMonitor final : public QObject {
+public:
+    RightMouseMonitor(QWidget* view, std::function<void(bool)> handler)
+        : fView(view), fHandler(std::move(handler)) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonPress && watched->isWindowType() && fView) {
+            const auto* press = static_cast<QMouseEvent*>(event);
+            if (press->button() == Qt::RightButton) {
+                const QPoint place = fView->mapFromGlobal(press->globalPosition().toPoint());
+                // The handler may end this monitor.
+                const auto handler = fHandler;
+                handler(fView->isVisible() && fView->rect().contains(place));
+            }
+        }
+        return false;
+    }
+
+private:
+    QPointer<QWidget> fView;
+    std::function<void(bool)> fHandler;
+};
+
+} // namespace
+
+WidgetMainView::WidgetMainView(MainWindow& window) : fWindow(&window) {}
+
+bool WidgetMainView::hasWindow() const {
+    return !fWindow.isNull();
+}
+
+void WidgetMainView::makeNothingFirstResponder() {
+    if (QWidget* focused = fWindow ? fWindow->focusWidget() : nullptr)
+        focused->clearFocus();
+}
+
+void WidgetMainView::showNetworkStatus(const QString& text) {
+    if (fWindow)
+        fWindow->syncTab().setNetworkStatus(text);
+}
+
+Subscription WidgetMainView::monitorRightMouseDown(const Control& view,
+                                                   std::function<void(bool)> handler) {
+    const auto* control = dynamic_cast<const WidgetControl*>(&view);
+    if (!control)
+        return {};
+    auto monitor = std::make_shared<RightMouseMonitor>(control->widget(), std::move(handler));
+    return Subscription([monitor]() mutable { monitor.reset(); });
+}
+
+WidgetApplication::WidgetApplication(MainWindow& window, std::function<void()> willTerminate)
+    : fWindow(&window), fWillTerminate(std::move(willTerminate)) {}
+
+void WidgetApplication::hide() {
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+        if (top->isVisible() && !top->windowFlags().testFlag(Qt::ToolTip))
+            top->hide();
+    }
+}
+
+void WidgetApplication::bringToFront() {
+    if (fWindow)
+        fWindow->bringToFront();
+}
+
+void WidgetApplication::terminate() {
+    fWillTerminate();
+    QCoreApplication::quit();
+}
+
+} // namespace kelvo

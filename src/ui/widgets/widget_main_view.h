@@ -1,0 +1,42 @@
+// WidgetMainView and WidgetApplication: the main window as controllers see it.
+#pragma once
+
+#include "ports/application.h"
+#include "ports/main_view.h"
+#include "ui/widgets/main_window.h"
+
+#include <QPointer>
+
+namespace kelvo {
+
+class WidgetMainView final : public MainView {
+public:
+    explicit WidgetMainView(MainWindow& window);
+
+    bool hasWindow() const override;
+    void makeNothingFirstResponder() override;
+    void showNetworkStatus(const QString& text) override;
+
+    /// `view` is a WidgetControl; any other hears nothing.
+    Subscription monitorRightMouseDown(const Control& view,
+                                       std::function<void(bool inside)> handler) override;
+
+private:
+    QPointer<MainWindow> fWindow;
+};
+
+class WidgetApplication final : public Application {
+public:
+    /// `willTerminate` is called before the windows are closed for the orderly end.
+    WidgetApplication(MainWindow& window, std::function<void()> willTerminate);
+
+    void hide() override;
+    void bringToFront() override;
+    void terminate() override;
+
+private:
+    QPointer<MainWindow> fWindow;
+    const std::function<void()> fWillTerminate;
+};
+
+} // namespace kelvo

@@ -1,0 +1,151 @@
+#include "adapters/qt/network_information.h"
+#include "adapters/qt/qt_main_queue.h"
+#include "fakes/fake_network.h"
+#include "fakes/recording_notification_center.h"
+#include "support/running_program.h"
+#include "support/wait_in_loop.h"
+
+#include <QCoreApplication>
+#include <QDirIterator>
+#include <QFile>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+const QString cNothing = QStringLiteral("No network connection");
+const QString cLocal = QStringLiteral("Connected to the local network only");
+const QString cFull = QStringLiteral("Connected to the network");
+
+TEST(ReachabilityMessageTest, Table) {
+    for (const NetworkReach reach : {NetworkReach::Unknown, NetworkReach::NothingBeyond,
+                                     NetworkReach::LocalOnly, NetworkReach::Beyond})
+        EXPECT_EQ(reachabilityMessage(false, reach), cNothing);
+    EXPECT_EQ(reachabilityMessage(true, NetworkReach::Unknown), cFull);
+    EXPECT_EQ(reachabilityMessage(true, NetworkReach::Beyond), cFull);
+    EXPECT_EQ(reachabilityMessage(true, NetworkReach::LocalOnly), cLocal);
+    EXPECT_EQ(reachabilityMessage(true, NetworkReach::NothingBeyond), cLocal);
+}
+
+struct FakeChecker {
+    std::unique_ptr<NetworkChecker> make(NotificationCenter& center) {
+        return std::make_unique<FakeNetworkChecker>(center, cFull);
+    }
+};
+struct RealChecker {
+    QtMainQueue mainQueue;
+    std::unique_ptr<NetworkChecker> make(NotificationCenter& center) {
+        return std::make_unique<KelvoSSID>(center, mainQueue);
+    }
+};
+
+template <typename Kind>
+class NetworkCheckerContractTest : public ::testing::Test {
+protected:
+    RecordingNotificationCenter center;
+    Kind kind;
+};
+using Kinds = ::testing::Types<FakeChecker, RealChecker>;
+TYPED_TEST_SUITE(NetworkCheckerContractTest, Kinds);
+
+TYPED_TEST(NetworkCheckerContractTest, PresentState_IsPostedOnceAfterTheStart) {
+    const auto checker = this->kind.make(this->center);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(this->center.posted().empty());
+    checker->checknetwork2();
+    checker->checknetwork2();
+    ASSERT_TRUE(waitInLoop([this] { return !this->center.posted().empty(); }));
+    EXPECT_FALSE(waitInLoop([this] { return this->center.posted().size() > 1; }, 1));
+    const Notification posted = this->center.posted().front();
+    EXPECT_EQ(posted.name, u"NWPathMonitorNotification");
+    const QVariant message = posted.userInfo.value(QStringLiteral("reachabilitymessage"));
+    EXPECT_TRUE((QStringList{cNothing, cLocal, cFull}).contains(message.toString()))
+        << message.toString().toStdString();
+}
+
+TEST(KelvoSSIDTest, DestroyedBeforeItsFirstLook_PostsNothing) {
+    RecordingNotificationCenter center;
+    QtMainQueue mainQueue;
+    {
+        KelvoSSID checker(center, mainQueue);
+        checker.checknetwork2();
+    }
+    EXPECT_FALSE(waitInLoop([&] { return !center.posted().empty(); }, 1));
+}
+
+/// How often the threads of a process have gone to sleep so far.
+qint64 sleeps(qint64 processId) {
+    qint64 count = 0;
+    QDirIterator threads(QStringLiteral("/proc/%1/task").arg(processId),
+                         QDir::Dirs | QDir::NoDotAndDotDot);
+    while (threads.hasNext()) {
+        QFile status(threads.next() + QStringLiteral("/status"));
+        if (!status.open(QFile::ReadOnly))
+            continue;
+        const QString text = QString::fromLatin1(status.readAll());
+        count += text.section(QStringLiteral("\nvoluntary_ctxt_switches:"), 1)
+                     .section(u'\n', 0, 0)
+                     .trimmed()
+                     .toLongLong();
+    }
+    return count;
+}
+
+TEST(KelvoSSIDTest, AtRest_NothingWakesUp) {
+    RunningProgram program(QStringLiteral(KELVO_NETWORK_WATCHER), {});
+    ASSERT_TRUE(program.waitForLine([](const QString&) { return true; }, 20));
+    // The desktop's network service may still be answering.
+    (void)program.waitForLine([](const QString&) { return false; }, 1);
+    const qint64 before = sleeps(program.processId());
+    ASSERT_GT(before, 0);
+    (void)program.waitForLine([](const QString&) { return false; }, 2);
+    EXPECT_LE(sleeps(program.processId()) - before, 1);
+}
+
+/// A shell text in a network of its own, where the loopback is all there is at first. All its
+/// processes go with the first of them.
+class OwnNetworkTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        if (QProcess::execute(QStringLiteral("unshare"), cOwnNetwork + QStringList{"true"}) != 0)
+            GTEST_SKIP() << "this system lets us make no network of our own";
+    }
+    static QStringList inOwnNetwork(const QString& shellText) {
+        return cOwnNetwork + QStringList{QStringLiteral("sh"), QStringLiteral("-c"), shellText,
+                                         QStringLiteral("sh"),
+                                         QStringLiteral(KELVO_NETWORK_WATCHER)};
+    }
+
+private:
+    inline static const QStringList cOwnNetwork{
+        QStringLiteral("--user"), QStringLiteral("--map-root-user"),
+        QStringLiteral("--net"),  QStringLiteral("--pid"),
+        QStringLiteral("--fork"), QStringLiteral("--kill-child")};
+};
+
+TEST_F(OwnNetworkTest, LinksAndAddresses_ChangeTheMessage) {
+    // Each step waits until the one before was noticed: the watcher's lines go through the pipe.
+    RunningProgram program(
+        QStringLiteral("unshare"),
+        inOwnNetwork(QStringLiteral(
+            "\"$1\" | while read -r line; do echo \"$line\"; step=$((step + 1)); case $step in "
+            "1) ip link add here type veth peer name there; ip link set there up; "
+            "ip link set here up; ip address add 10.9.8.7/24 dev here ;; "
+            "2) ip link set there down ;; "
+            "3) ip link set there up ;; "
+            "4) ip address flush dev here ;; "
+            "esac; done")));
+    const QStringList expected{cNothing, cLocal, cNothing, cLocal, cNothing};
+    for (const QString& message : expected) {
+        const auto line = program.waitForLine([](const QString&) { return true; }, 20);
+        ASSERT_TRUE(line) << program.transcript().toStdString();
+        // Without a desktop's network service nothing is known of what lies beyond.
+        const QString seen = *line == cFull ? cLocal : *line;
+        EXPECT_EQ(seen, message) << program.transcript().toStdString();
+    }
+}
+
+} // namespace
+} // namespace kelvo

@@ -1,0 +1,247 @@
+#include "adapters/avahi/neighbour_table.h"
+#include "adapters/avahi/refused_names.h"
+#include "adapters/avahi/service_answer.h"
+#include "adapters/avahi/service_table.h"
+#include "fakes/recording_console.h"
+#include "support/stored_value.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace kelvo {
+namespace {
+
+const QDateTime cNow(QDate(2026, 11, 21), QTime(10, 30, 15, 999), Qt::UTC);
+
+ServiceAnswer answer(std::string_view name) {
+    return {.name = name,
+            .type = "_smb._tcp",
+            .domain = "local",
+            .host = "Remote-Mac.local",
+            .address = "10.0.0.2",
+            .interface = 7,
+            .port = 445};
+}
+
+TEST(ServiceAnswerTest, Answer_FillsTheRecord) {
+    const auto record = recordFromAnswer(answer("Remote Mac"), cNow);
+    ASSERT_TRUE(record);
+    EXPECT_EQ(*record, (DNSSD_Service{"Remote Mac", "_smb._tcp", "smb", "local", "Remote-Mac.local",
+                                      "10.0.0.2", "", "Remote\\032Mac._smb._tcp.local",
+                                      QDateTime(QDate(2026, 11, 21), QTime(10, 30, 15), Qt::UTC), 7,
+                                      445, true}));
+}
+
+TEST(ServiceAnswerTest, Unresolved_HasNeitherHostNorAddress) {
+    const auto record = recordFromAnswer(
+        {.name = "a", .type = "_smb._tcp", .domain = "local", .interface = 7}, cNow);
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->hostTarget, u"");
+    EXPECT_EQ(record->ip4Address, u"");
+    EXPECT_EQ(record->hostPort, 0U);
+}
+
+TEST(ServiceAnswerTest, OtherAddresses_AreLeftEmpty) {
+    for (const char* other : {"fe80::1", "::ffff:10.0.0.2", "10.0.0", "10.0.0.256", "localhost"}) {
+        ServiceAnswer raw = answer("a");
+        raw.address = other;
+        EXPECT_EQ(recordFromAnswer(raw, cNow)->ip4Address, u"") << other;
+    }
+}
+
+TEST(ServiceAnswerTest, HostileText_InAnyPlaceIsRefused) {
+    using namespace std::string_view_literals;
+    EXPECT_FALSE(recordFromAnswer(answer("$(id)"), cNow));
+    EXPECT_FALSE(recordFromAnswer(answer("a\0b"sv), cNow));
+    EXPECT_FALSE(recordFromAnswer(answer("a\xff"), cNow));
+    for (std::string_view ServiceAnswer::*place :
+         {&ServiceAnswer::type, &ServiceAnswer::domain, &ServiceAnswer::host}) {
+        ServiceAnswer raw = answer("a");
+        raw.*place = "x`id`";
+        EXPECT_FALSE(recordFromAnswer(raw, cNow));
+    }
+}
+
+TEST(ServiceAnswerTest, AnyBytes_GiveARecordThatHoldsItsPromisesOrNone) {
+    std::mt19937 random(20261121);
+    const std::string_view likely =
+        "aZ09 .-_'()[]$`\"\\;&|<>\n\r\t\x1b\x7f\xc3\xa9\xe2\x80\xae\xff";
+    const auto bytes = [&] {
+        std::string made(random() % 80, ' ');
+        const bool mostlyLikely = random() % 4 != 0;
+        for (char& byte : made)
+            byte = mostlyLikely ? likely[random() % likely.size()] : static_cast<char>(random());
+        return made;
+    };
+    int listed = 0;
+    for (int round = 0; round < 50000; ++round) {
+        const std::string name = bytes(), host = bytes(), address = bytes();
+        const bool mixed = random() % 2 == 0;
+        const auto record = recordFromAnswer({.name = name,
+                                              .type = "_smb._tcp",
+                                              .domain = "local",
+                                              .host = mixed ? std::string_view(host) : "h.local",
+                                              .address = address,
+                                              .interface = static_cast<quint32>(random()),
+                                              .port = static_cast<quint32>(random())},
+                                             cNow);
+        if (!record)
+            continue;
+        ++listed;
+        ASSERT_EQ(record->name.toUtf8().toStdString(), name);
+        for (const QString& text : {record->name, record->hostTarget}) {
+            for (const QChar character : text)
+                ASSERT_FALSE(QStringLiteral("$`\"\\;&|<>\n\r").contains(character) ||
+                             character.category() == QChar::Other_Control)
+                    << name;
+        }
+        ASSERT_LE(name.size(), 63U);
+        const QVariantMap dictionary = record->asDictionary().value();
+        ASSERT_TRUE(sameStoredValue(storedValue(dictionary), QVariant(dictionary)));
+    }
+    EXPECT_GT(listed, 100);
+}
+
+TEST(ServiceAnswerTest, Type_NamesItsTransport) {
+    EXPECT_EQ(fullServiceType(QStringLiteral("_smb")), u"_smb._tcp");
+    EXPECT_EQ(fullServiceType(QStringLiteral("_sip._udp")), u"_sip._udp");
+}
+
+// -- the neighbours
+
+constexpr char cNeighbours[] =
+    "IP address       HW type     Flags       HW address            Mask     Device\n"
+    "10.0.0.2         0x1         0x2         AA:bb:cc:00:11:22     *        eth0\n"
+    "10.0.0.2         0x1         0x2         aa:bb:cc:00:11:33     *        wlan0\n"
+    "10.0.0.3         0x1         0x0         00:00:00:00:00:00     *        eth0\n"
+    "broken line\n";
+
+TEST(NeighbourTableTest, CompleteEntryOfTheDevice_IsTheAddress) {
+    EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.2"), "eth0"), u"aa:bb:cc:00:11:22");
+    EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.2"), "wlan0"), u"aa:bb:cc:00:11:33");
+}
+
+TEST(NeighbourTableTest, UnknownOrIncomplete_IsEmpty) {
+    EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.3"), "eth0"), u"");
+    EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.2"), "eth1"), u"");
+    EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0"), "eth0"), u"");
+    EXPECT_EQ(macAddressIn("", QStringLiteral("10.0.0.2"), "eth0"), u"");
+    EXPECT_EQ(macAddressOf(QStringLiteral("10.0.0.2"), 0), u"");
+}
+
+// -- the table between the threads
+
+class ServiceTableTest : public ::testing::Test {
+protected:
+    ServiceTableTest() { table.startSearch(cType); }
+
+    static DNSSD_Service record(const QString& name, quint32 interface = 2) {
+        DNSSD_Service made;
+        made.name = name;
+        made.type = cType;
+        made.interface = interface;
+        return made;
+    }
+    QStringList available() const {
+        QStringList names;
+        for (const DNSSD_Service& service : table.services()) {
+            if (service.available)
+                names.append(service.name);
+        }
+        return names;
+    }
+
+    inline static const QString cType = QStringLiteral("_smb._tcp");
+    const QString a = QStringLiteral("a");
+    const QString b = QStringLiteral("b");
+    ServiceTable table;
+};
+
+TEST_F(ServiceTableTest, SameName_IsARecordForEachInterface) {
+    EXPECT_TRUE(table.found(record(a, 2), HeardOver::IPv4));
+    EXPECT_TRUE(table.found(record(a, 3), HeardOver::IPv4));
+    EXPECT_EQ(table.services().size(), 2);
+    EXPECT_TRUE(table.vanished(a, 2, HeardOver::IPv4));
+    EXPECT_EQ(available(), QStringList{a});
+}
+
+TEST_F(ServiceTableTest, BothProtocols_AreOneRecordUntilBothAreGone) {
+    EXPECT_TRUE(table.found(record(a), HeardOver::IPv6));
+    EXPECT_FALSE(table.found(record(a), HeardOver::IPv4));
+    EXPECT_EQ(table.services().size(), 1);
+    EXPECT_FALSE(table.vanished(a, 2, HeardOver::IPv6));
+    EXPECT_EQ(available(), QStringList{a});
+    EXPECT_TRUE(table.vanished(a, 2, HeardOver::IPv4));
+    EXPECT_TRUE(available().isEmpty());
+}
+
+TEST_F(ServiceTableTest, SecondSearch_DropsWhatItDoesNotMention) {
+    table.found(record(a), HeardOver::IPv4);
+    table.found(record(b), HeardOver::IPv4);
+    const quint64 first = table.search().number;
+    table.startSearch(cType);
+    EXPECT_EQ(available(), (QStringList{a, b}));
+    EXPECT_TRUE(table.found(record(b), HeardOver::IPv4));
+    table.settle(first); // the end of a search that is over
+    EXPECT_EQ(available(), (QStringList{a, b}));
+    table.settle(table.search().number);
+    EXPECT_EQ(available(), QStringList{b});
+    EXPECT_EQ(table.services().size(), 2);
+}
+
+TEST_F(ServiceTableTest, LateWordOfAnotherType_IsPassedOver) {
+    table.found(record(a), HeardOver::IPv4);
+    table.startSearch(QStringLiteral("_ssh._tcp"));
+    EXPECT_TRUE(table.services().isEmpty());
+    EXPECT_FALSE(table.found(record(a), HeardOver::IPv4));
+    table.resolved(record(a));
+    EXPECT_TRUE(table.services().isEmpty());
+}
+
+TEST_F(ServiceTableTest, Resolved_FillsInAndKeepsTheDate) {
+    DNSSD_Service first = record(a);
+    first.dateAdded = cNow;
+    table.found(first, HeardOver::IPv4);
+    DNSSD_Service answered = record(a);
+    answered.hostTarget = QStringLiteral("h.local");
+    answered.ip4Address = QStringLiteral("1.2.3.4");
+    answered.macAddress = QStringLiteral("m");
+    answered.hostPort = 445;
+    table.resolved(answered);
+    const DNSSD_Service shown = table.services().constFirst();
+    EXPECT_EQ(shown.ip4Address, u"1.2.3.4");
+    EXPECT_EQ(shown.hostTarget, u"h.local");
+    EXPECT_EQ(shown.macAddress, u"m");
+    EXPECT_EQ(shown.hostPort, 445U);
+    EXPECT_EQ(shown.dateAdded, cNow);
+}
+
+TEST_F(ServiceTableTest, Flood_IsCutAtTenThousand) {
+    for (int number = 0; number < 10010; ++number)
+        table.found(record(QString::number(number)), HeardOver::IPv4);
+    EXPECT_EQ(table.services().size(), 10000);
+    EXPECT_FALSE(table.found(record(a), HeardOver::IPv4));
+}
+
+TEST(RefusedNamesTest, EachName_IsToldOnceAndEscaped) {
+    RecordingConsole console;
+    RefusedNames names(console);
+    names.tell(QStringLiteral("a\n$b"));
+    names.tell(QStringLiteral("a\n$b"));
+    EXPECT_EQ(console.logged(),
+              QStringList{"Inside AvahiBrowser->services.......refused the service name "
+                          "[a\\x0a$b]"});
+}
+
+TEST(RefusedNamesTest, Flood_EndsWithALineThatSaysSo) {
+    RecordingConsole console;
+    RefusedNames names(console);
+    for (int number = 0; number < 2000; ++number)
+        names.tell(QString::number(number));
+    EXPECT_EQ(console.logged().size(), 1000);
+    EXPECT_TRUE(console.logged().constLast().endsWith(u"further ones are not told"));
+}
+
+} // namespace
+} // namespace kelvo

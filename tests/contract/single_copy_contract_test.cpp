@@ -1,0 +1,335 @@
+#include "adapters/posix/unique_fd.h"
+#include "adapters/qt/runtime_folder.h"
+#include "adapters/qt/single_copy_socket.h"
+#include "fakes/fake_single_copy.h"
+#include "fakes/recording_console.h"
+#include "support/wait_in_loop.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+using Claim = SingleCopy::Claim;
+
+/// Claims for a later copy on a thread of its own, while the first one's event loop runs.
+Claim claimAside(SingleCopy& later) {
+    std::atomic<bool> done = false;
+    Claim result = Claim::Unguarded;
+    std::thread thread([&] {
+        result = later.claim([] {});
+        done = true;
+    });
+    EXPECT_TRUE(waitInLoop([&] { return done.load(); }));
+    thread.join();
+    return result;
+}
+
+// -- what holds for every place
+
+struct FakePlace {
+    FakeSingleCopy::Place place;
+    std::unique_ptr<SingleCopy> copy() { return std::make_unique<FakeSingleCopy>(place); }
+};
+struct RealPlace {
+    QTemporaryDir folder;
+    RecordingConsole console;
+    std::unique_ptr<SingleCopy> copy() {
+        return std::make_unique<SingleCopySocket>(folder.path().toStdString(), console);
+    }
+};
+
+template <typename Place>
+class SingleCopyContractTest : public ::testing::Test {
+protected:
+    Place place;
+};
+using Places = ::testing::Types<FakePlace, RealPlace>;
+TYPED_TEST_SUITE(SingleCopyContractTest, Places);
+
+TYPED_TEST(SingleCopyContractTest, LaterCopies_HaveTheFirstShowItself) {
+    int shows = 0;
+    const auto first = this->place.copy();
+    EXPECT_EQ(first->claim([&] { ++shows; }), Claim::First);
+    for (int copies = 1; copies <= 3; ++copies) {
+        const auto later = this->place.copy();
+        EXPECT_EQ(claimAside(*later), Claim::OtherIsShown);
+        EXPECT_EQ(shows, copies);
+    }
+}
+
+TYPED_TEST(SingleCopyContractTest, FirstCopyGone_LeavesItsPlace) {
+    auto first = this->place.copy();
+    EXPECT_EQ(first->claim([] {}), Claim::First);
+    first.reset();
+    const auto second = this->place.copy();
+    EXPECT_EQ(second->claim([] {}), Claim::First);
+}
+
+// -- the socket
+
+class SingleCopySocketTest : public ::testing::Test {
+protected:
+    std::unique_ptr<SingleCopySocket> copy(std::chrono::milliseconds patience = 5s) {
+        return std::make_unique<SingleCopySocket>(folder.path().toStdString(), console, patience);
+    }
+    std::string path(const char* name) const {
+        return folder.filePath(QString::fromLatin1(name)).toStdString();
+    }
+    UniqueFd connected() const {
+        UniqueFd socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        path("kelvo-mirror.socket").copy(address.sun_path, sizeof address.sun_path - 1);
+        EXPECT_EQ(
+            ::connect(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address),
+            0);
+        return socket;
+    }
+    static bool isClosed(const UniqueFd& socket) {
+        char byte = 0;
+        const ssize_t count = ::recv(socket.get(), &byte, 1, 0);
+        return count == 0 || (count < 0 && errno == ECONNRESET);
+    }
+
+    QTemporaryDir folder;
+    RecordingConsole console;
+    int shows = 0;
+};
+
+TEST_F(SingleCopySocketTest, HostileBytes_DoNothingAndAreShownOut) {
+    const auto first = copy();
+    ASSERT_EQ(first->claim([&] { ++shows; }), Claim::First);
+    const std::string flood(100'000, 'x');
+    for (const std::string& bytes : {std::string("shown\n"), std::string("show\nshow\n"), flood,
+                                     std::string("\0show\n", 6), std::string("SHOW\n")}) {
+        const UniqueFd guest = connected();
+        (void)::send(guest.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
+        EXPECT_TRUE(waitInLoop([&] { return isClosed(guest); })) << bytes.substr(0, 20);
+    }
+    { const UniqueFd goesAtOnce = connected(); }
+    const auto second = copy();
+    EXPECT_EQ(claimAside(*second), Claim::OtherIsShown);
+    EXPECT_EQ(shows, 1);
+}
+
+TEST_F(SingleCopySocketTest, RequestInPieces_Counts) {
+    const auto first = copy();
+    ASSERT_EQ(first->claim([&] { ++shows; }), Claim::First);
+    const UniqueFd guest = connected();
+    ASSERT_EQ(::send(guest.get(), "sh", 2, MSG_NOSIGNAL), 2);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shows, 0);
+    ASSERT_EQ(::send(guest.get(), "ow\n", 3, MSG_NOSIGNAL), 3);
+    EXPECT_TRUE(waitInLoop([&] { return shows == 1; }));
+}
+
+TEST_F(SingleCopySocketTest, SilentGuests_LeaveRoomForTheNext) {
+    const auto first = copy();
+    ASSERT_EQ(first->claim([&] { ++shows; }), Claim::First);
+    std::vector<UniqueFd> silent;
+    for (int i = 0; i < 100; ++i) {
+        silent.push_back(connected());
+        QCoreApplication::processEvents();
+    }
+    const auto second = copy();
+    EXPECT_EQ(claimAside(*second), Claim::OtherIsShown);
+    EXPECT_EQ(shows, 1);
+}
+
+TEST_F(SingleCopySocketTest, HungFirstCopy_IsGivenUpInTime) {
+    const auto first = copy();
+    ASSERT_EQ(first->claim([&] { ++shows; }), Claim::First);
+    const auto second = copy(300ms);
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(second->claim([] {}), Claim::OtherIsSilent); // Nobody runs the first one's loop.
+    EXPECT_GE(clock.elapsed(), 290);
+    EXPECT_LT(clock.elapsed(), 3000);
+    EXPECT_EQ(shows, 0);
+}
+
+/// Another process that holds the lock, as a copy does that does not listen.
+class OtherProcess {
+public:
+    /// Returns once the lock is held; it ends by itself after `life`.
+    explicit OtherProcess(const std::string& lockPath, std::chrono::milliseconds life) {
+        int ready[2];
+        EXPECT_EQ(::pipe(ready), 0);
+        fPid = ::fork();
+        if (fPid == 0) {
+            const int lock = ::open(lockPath.c_str(), O_RDWR | O_CREAT, 0600);
+            if (::flock(lock, LOCK_EX | LOCK_NB) == 0)
+                (void)!::write(ready[1], "x", 1);
+            ::poll(nullptr, 0, static_cast<int>(life.count()));
+            ::_exit(0);
+        }
+        ::close(ready[1]);
+        char byte = 0;
+        EXPECT_EQ(::read(ready[0], &byte, 1), 1);
+        ::close(ready[0]);
+    }
+    ~OtherProcess() { end(); }
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+
+    void end() {
+        if (fPid <= 0)
+            return;
+        ::kill(fPid, SIGKILL);
+        ::waitpid(std::exchange(fPid, -1), nullptr, 0);
+    }
+
+private:
+    pid_t fPid = -1;
+};
+
+TEST_F(SingleCopySocketTest, CopyThatEndsMeanwhile_IsReplaced) {
+    const OtherProcess ending(path("kelvo-mirror.lock"), 300ms);
+    EXPECT_EQ(copy(15s)->claim([] {}), Claim::First);
+}
+
+TEST_F(SingleCopySocketTest, KilledCopy_LeavesNothingInTheWay) {
+    OtherProcess other(path("kelvo-mirror.lock"), 60s);
+    QFile left(folder.filePath(QStringLiteral("kelvo-mirror.socket")));
+    ASSERT_TRUE(left.open(QFile::WriteOnly));
+    EXPECT_EQ(copy(100ms)->claim([] {}), Claim::OtherIsSilent);
+    other.end();
+    const auto first = copy();
+    EXPECT_EQ(first->claim([&] { ++shows; }), Claim::First);
+    const auto second = copy();
+    EXPECT_EQ(claimAside(*second), Claim::OtherIsShown);
+    EXPECT_EQ(shows, 1);
+}
+
+TEST_F(SingleCopySocketTest, ChildProcess_DoesNotInheritTheLock) {
+    const auto first = copy();
+    ASSERT_EQ(first->claim([] {}), Claim::First);
+    int locks = 0;
+    const QFileInfoList entries = QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::Files);
+    for (const QFileInfo& entry : entries) {
+        if (!entry.symLinkTarget().endsWith(u"kelvo-mirror.lock"))
+            continue;
+        ++locks;
+        EXPECT_TRUE(::fcntl(entry.fileName().toInt(), F_GETFD) & FD_CLOEXEC);
+    }
+    EXPECT_EQ(locks, 1);
+}
+
+TEST_F(SingleCopySocketTest, FilesAreTheUsersAlone) {
+    const auto first = copy();
+    ASSERT_EQ(first->claim([] {}), Claim::First);
+    struct stat status {};
+    ASSERT_EQ(::stat(path("kelvo-mirror.lock").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0600U);
+}
+
+TEST_F(SingleCopySocketTest, LockThatIsALink_IsNotFollowed) {
+    const std::string target = path("precious");
+    ASSERT_EQ(::symlink(target.c_str(), path("kelvo-mirror.lock").c_str()), 0);
+    EXPECT_EQ(copy()->claim([] {}), Claim::Unguarded);
+    EXPECT_NE(::access(target.c_str(), F_OK), 0);
+    EXPECT_EQ(console.logged().size(), 1);
+}
+
+TEST_F(SingleCopySocketTest, UnusableFolder_RunsUnguardedWithALine) {
+    for (const std::string& unusable : {std::string(), std::string("/proc/self/fdinfo"),
+                                        std::string("/nowhere"), "/tmp/" + std::string(200, 'x')}) {
+        console.clear();
+        SingleCopySocket single(unusable, console);
+        EXPECT_EQ(single.claim([] {}), Claim::Unguarded) << unusable;
+        EXPECT_TRUE(
+            console.logged().join(u' ').startsWith(u"Cannot look for another running copy: "));
+    }
+}
+
+// -- the runtime folder
+
+class RuntimeFolderTest : public ::testing::Test {
+protected:
+    RuntimeFolderTest() {
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(given()));
+        qputenv("TMPDIR", QFile::encodeName(folder.path()));
+    }
+    ~RuntimeFolderTest() override {
+        qputenv("XDG_RUNTIME_DIR", fRuntime);
+        qputenv("TMPDIR", fTemporary);
+    }
+    QString given() const { return folder.filePath(QStringLiteral("given")); }
+    std::string own() const {
+        return folder.filePath(QStringLiteral("kelvo-mirror-%1").arg(::getuid())).toStdString();
+    }
+    void makeGiven(mode_t mode) {
+        ASSERT_EQ(::mkdir(QFile::encodeName(given()).constData(), 0700), 0);
+        ASSERT_EQ(::chmod(QFile::encodeName(given()).constData(), mode), 0);
+    }
+
+    QTemporaryDir folder;
+
+private:
+    QByteArray fRuntime = qgetenv("XDG_RUNTIME_DIR");
+    QByteArray fTemporary = qgetenv("TMPDIR");
+};
+
+TEST_F(RuntimeFolderTest, PrivateFolder_IsTaken) {
+    makeGiven(0700);
+    EXPECT_EQ(runtimeFolder().path, given().toStdString());
+}
+
+TEST_F(RuntimeFolderTest, MissingOrOpenFolder_GivesWayToOneOfOurOwn) {
+    EXPECT_EQ(runtimeFolder().path, own());
+    struct stat status {};
+    ASSERT_EQ(::stat(own().c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0700U);
+    makeGiven(0755);
+    EXPECT_EQ(runtimeFolder().path, own());
+    qputenv("XDG_RUNTIME_DIR", "relative");
+    EXPECT_EQ(runtimeFolder().path, own());
+    qunsetenv("XDG_RUNTIME_DIR");
+    EXPECT_EQ(runtimeFolder().path, own());
+}
+
+TEST_F(RuntimeFolderTest, FolderThatOthersMayEnter_IsRefused) {
+    ASSERT_EQ(::mkdir(own().c_str(), 0700), 0);
+    ASSERT_EQ(::chmod(own().c_str(), 0770), 0);
+    EXPECT_TRUE(runtimeFolder().path.empty());
+    EXPECT_NE(runtimeFolder().fault.find("open to others"), std::string::npos);
+}
+
+TEST_F(RuntimeFolderTest, LinkOrFileInItsPlace_IsRefused) {
+    makeGiven(0755);
+    ASSERT_EQ(::symlink(QFile::encodeName(given()).constData(), own().c_str()), 0);
+    EXPECT_TRUE(runtimeFolder().path.empty());
+    EXPECT_NE(runtimeFolder().fault.find("is not a folder"), std::string::npos);
+}
+
+TEST_F(RuntimeFolderTest, UnwritableTemporaryFolder_IsNoFolderWithAReason) {
+    qputenv("TMPDIR", "/proc/self/fdinfo");
+    EXPECT_TRUE(runtimeFolder().path.empty());
+    EXPECT_FALSE(runtimeFolder().fault.empty());
+}
+
+} // namespace
+} // namespace kelvo

@@ -1,0 +1,62 @@
+#include "adapters/qt/system_information.h"
+#include "fakes/recording_console.h"
+#include "fakes/scripted_shell.h"
+#include "fakes/virtual_queues.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+class LocalSystemInformationTest : public ::testing::Test {
+protected:
+    QString logged(const QString& what) const {
+        return console.logged().filter(QString(what + u": ")).value(0).mid(what.size() + 2);
+    }
+
+    ScriptedShell shell;
+    ManualBackgroundQueue bgQueue;
+    RecordingConsole console;
+    LocalSystemInformation information{QStringLiteral("kelvo-mirror 9.9"), shell, bgQueue, console};
+};
+
+TEST_F(LocalSystemInformationTest, Nothing_IsAskedOnTheCallersThread) {
+    information.logCurrentSystemInfo();
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_TRUE(console.lines().empty());
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(LocalSystemInformationTest, Lines_TellProgramSystemDesktopAndTools) {
+    qputenv("XDG_CURRENT_DESKTOP", "GNOME\x1b");
+    qputenv("XDG_SESSION_TYPE", "wayland");
+    shell.answerTo(QStringLiteral("rsync"),
+                   QStringLiteral("rsync  version 3.2.7  protocol version 31\nCopyright\n"));
+    shell.answerTo(QStringLiteral("ssh -V"), QStringLiteral("OpenSSH_9.2p1 Debian\n"));
+    information.logCurrentSystemInfo();
+    bgQueue.runAll();
+    qunsetenv("XDG_CURRENT_DESKTOP");
+    qunsetenv("XDG_SESSION_TYPE");
+    EXPECT_EQ(logged(QStringLiteral("program")), u"kelvo-mirror 9.9");
+    EXPECT_TRUE(logged(QStringLiteral("system")).contains(u"linux"));
+    EXPECT_EQ(logged(QStringLiteral("desktop")), u"GNOME\\x1b, wayland");
+    EXPECT_EQ(logged(QStringLiteral("Qt")), QString::fromLatin1(qVersion()));
+    EXPECT_EQ(logged(QStringLiteral("rsync")), u"rsync  version 3.2.7  protocol version 31");
+    EXPECT_EQ(logged(QStringLiteral("ssh")), u"OpenSSH_9.2p1 Debian");
+    EXPECT_EQ(console.logged().size(), 6);
+    EXPECT_TRUE(console.printed().isEmpty());
+}
+
+TEST_F(LocalSystemInformationTest, MissingTools_AreSaidToBeMissing) {
+    qunsetenv("XDG_CURRENT_DESKTOP");
+    qunsetenv("XDG_SESSION_TYPE");
+    shell.answerTo(QStringLiteral("rsync"), QStringLiteral("sh: 1: /usr/bin/rsync: not found"));
+    information.logCurrentSystemInfo();
+    bgQueue.runAll();
+    EXPECT_EQ(logged(QStringLiteral("desktop")), u"none");
+    EXPECT_EQ(logged(QStringLiteral("rsync")), u"not found");
+    EXPECT_EQ(logged(QStringLiteral("ssh")), u"not found");
+}
+
+} // namespace
+} // namespace kelvo

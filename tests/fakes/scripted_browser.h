@@ -1,0 +1,90 @@
+// ScriptedBrowser: a network on which a test lets services come, change and go.
+#pragma once
+
+#include "ports/dnssd_browser.h"
+#include "support/service_name_rules.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <vector>
+
+namespace kelvo {
+
+class ScriptedBrowser final : public DnssdBrowser {
+public:
+    void browseForType(const QString& type) override {
+        browsed.append(type);
+        if (type != fType)
+            fListed.clear();
+        fType = type;
+        fListed.removeIf([](const DNSSD_Service& service) { return !service.available; });
+        lookAgain();
+    }
+    DNSSD_Services services() const override { return fListed; }
+
+    /// A service appears, or answers otherwise from now on; found at once if it is looked for.
+    void announce(const DNSSD_Service& service) {
+        const auto same = [&](const DNSSD_Service& other) { return isSame(other, service); };
+        if (const auto found = std::ranges::find_if(fAnnounced, same); found != fAnnounced.end())
+            *found = service;
+        else
+            fAnnounced.append(service);
+        if (!fType.isEmpty() && fRunning)
+            list(service);
+    }
+
+    void withdraw(const QString& name) {
+        fAnnounced.removeIf([&](const DNSSD_Service& service) { return service.name == name; });
+        for (DNSSD_Service& service : fListed) {
+            if (service.name == name)
+                service.available = false;
+        }
+    }
+
+    /// The discovery service of this machine stops or starts.
+    void setRunning(bool running) {
+        fRunning = running;
+        for (DNSSD_Service& service : fListed)
+            service.available = false;
+        lookAgain();
+    }
+
+    QStringList browsed; ///< every type asked for so far
+    QStringList refused; ///< names that were left out
+
+private:
+    static bool isSame(const DNSSD_Service& one, const DNSSD_Service& other) {
+        return one.name == other.name && one.interface == other.interface;
+    }
+
+    void lookAgain() {
+        if (!fRunning || fType.isEmpty())
+            return;
+        for (const DNSSD_Service& service : std::as_const(fAnnounced))
+            list(service);
+    }
+
+    void list(DNSSD_Service service) {
+        if (service.type != fType && service.type != fType + u"._tcp")
+            return;
+        if (!isAcceptableServiceName(service.name)) {
+            if (!refused.contains(service.name))
+                refused.append(service.name);
+            return;
+        }
+        service.available = true;
+        const auto same = [&](const DNSSD_Service& other) { return isSame(other, service); };
+        if (const auto found = std::ranges::find_if(fListed, same); found != fListed.end())
+            *found = service;
+        else
+            fListed.append(service);
+    }
+
+    QString fType;
+    bool fRunning = true;
+    DNSSD_Services fAnnounced;
+    DNSSD_Services fListed;
+};
+
+} // namespace kelvo

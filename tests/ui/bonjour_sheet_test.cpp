@@ -1,0 +1,229 @@
+#include "fakes/memory_defaults.h"
+#include "fakes/recording_console.h"
+#include "fakes/scripted_browser.h"
+#include "fakes/virtual_queues.h"
+#include "support/preference_keys.h"
+#include "ui/widgets/bonjour_sheet.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTableView>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+class BonjourSheetTest : public ::testing::Test {
+protected:
+    BonjourSheetTest() { window.show(); }
+
+    void announce(const QString& name, const QString& address) {
+        DNSSD_Service service;
+        service.name = name;
+        service.type = QStringLiteral("_smb._tcp");
+        service.hostTarget = QStringLiteral("host.local");
+        service.ip4Address = address;
+        service.interface = 2;
+        browser.announce(service);
+    }
+
+    /// Opens the sheet and lets its first scan run to the end.
+    void open() {
+        ASSERT_TRUE(opener.presentSheet(cBonjourSheet));
+        mainQueue.advance(2.1);
+    }
+
+    /// The open sheet; one that was closed is swept away first.
+    BonjourSheet* sheet() {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return window.findChild<BonjourSheet*>();
+    }
+    template <typename Widget>
+    Widget* child(const char* name) {
+        return sheet()->findChild<Widget*>(QString::fromLatin1(name));
+    }
+    QTableView* table() { return child<QTableView>("fTableView"); }
+    QAbstractButton* button(const char* name) { return child<QAbstractButton>(name); }
+    QString cell(int row, int column) {
+        return table()->model()->index(row, column).data().toString();
+    }
+    QPoint middleOf(int row) {
+        return table()->visualRect(table()->model()->index(row, 0)).center();
+    }
+    std::optional<QString> chosen() const { return defaults.stringForKey(prefRemoteBonjourName); }
+
+    MemoryDefaults defaults;
+    VirtualMainQueue mainQueue;
+    RecordingConsole console;
+    ScriptedBrowser browser;
+    QWidget window;
+    WidgetSheetOpener opener{window, {defaults, mainQueue, console, browser}};
+};
+
+TEST_F(BonjourSheetTest, UnknownSheet_IsNotThere) {
+    EXPECT_FALSE(opener.presentSheet(u"AnotherSheet"));
+    EXPECT_EQ(sheet(), nullptr);
+}
+
+TEST_F(BonjourSheetTest, Rows_AreNameAddressAndHostAsPlainTextNewestFirst) {
+    announce(QStringLiteral("First"), QStringLiteral("10.0.0.2"));
+    announce(QStringLiteral("Turned \u202eround"), QStringLiteral("10.0.0.3"));
+    open();
+    EXPECT_EQ(sheet()->windowModality(), Qt::WindowModal);
+    ASSERT_EQ(table()->model()->rowCount(), 2);
+    EXPECT_EQ(cell(0, 0), u"Turned \\u202eround");
+    EXPECT_EQ(cell(1, 0), u"First");
+    EXPECT_EQ(cell(1, 1), u"10.0.0.2");
+    EXPECT_EQ(cell(1, 2), u"host.local");
+    EXPECT_EQ(child<QLabel>("firstLineMessage")->textFormat(), Qt::PlainText);
+}
+
+TEST_F(BonjourSheetTest, Scanning_IsSaidAndShown) {
+    ASSERT_TRUE(opener.presentSheet(cBonjourSheet));
+    mainQueue.advance(0.2);
+    EXPECT_EQ(child<QLabel>("firstLineMessage")->text(),
+              u"Please Wait - Scanning for smb machines on network...");
+    EXPECT_TRUE(child<QProgressBar>("scanningSign")->isVisible());
+    EXPECT_FALSE(child<QWidget>("emptyText")->isVisible());
+    mainQueue.advance(1.4);
+    EXPECT_EQ(child<QLabel>("firstLineMessage")->text(), u"Bonjour List...");
+    EXPECT_FALSE(child<QProgressBar>("scanningSign")->isVisible());
+}
+
+TEST_F(BonjourSheetTest, NothingFound_SaysWhatToCheck) {
+    open();
+    auto* text = child<QLabel>("emptyText");
+    EXPECT_TRUE(text->isVisible());
+    EXPECT_FALSE(table()->isVisible());
+    for (const char* what : {"File Sharing", "Remote Login", "same network"})
+        EXPECT_TRUE(text->text().contains(QLatin1String(what))) << what;
+    announce(QStringLiteral("Late"), QStringLiteral("10.0.0.2"));
+    button("rescanButton")->click();
+    mainQueue.advance(2.1);
+    EXPECT_FALSE(text->isVisible());
+    EXPECT_EQ(cell(0, 0), u"Late");
+}
+
+TEST_F(BonjourSheetTest, Select_IsEnabledByASelectedRowOnly) {
+    defaults.setObject(prefSelectedValidRow, true); // left over
+    announce(QStringLiteral("My Mac"), QStringLiteral("10.0.0.2"));
+    open();
+    EXPECT_FALSE(button("selectButton")->isEnabled());
+    table()->selectRow(0);
+    mainQueue.runDue();
+    EXPECT_EQ(defaults.object(prefSelectedValidRow), QVariant(true));
+    EXPECT_TRUE(button("selectButton")->isEnabled());
+    table()->clearSelection();
+    mainQueue.runDue();
+    EXPECT_FALSE(button("selectButton")->isEnabled());
+    table()->selectRow(0);
+    defaults.setObject(prefSelectedValidRow, false);
+    mainQueue.runDue();
+    EXPECT_FALSE(button("selectButton")->isEnabled());
+}
+
+TEST_F(BonjourSheetTest, Keyboard_ChoosesAndConfirms) {
+    announce(QStringLiteral("First"), QStringLiteral("10.0.0.2"));
+    announce(QStringLiteral("Second"), QStringLiteral("10.0.0.3"));
+    open();
+    QTest::keyClick(table(), Qt::Key_Down);
+    QTest::keyClick(table(), Qt::Key_Down);
+    mainQueue.runDue();
+    QTest::keyClick(table(), Qt::Key_Return);
+    EXPECT_EQ(chosen(), u"First.local");
+    EXPECT_EQ(sheet(), nullptr);
+}
+
+TEST_F(BonjourSheetTest, ReturnWithNothingSelected_StoresNothingAndStays) {
+    announce(QStringLiteral("First"), QStringLiteral("10.0.0.2"));
+    open();
+    QTest::keyClick(table(), Qt::Key_Return);
+    EXPECT_EQ(chosen(), std::nullopt);
+    EXPECT_NE(sheet(), nullptr);
+}
+
+TEST_F(BonjourSheetTest, EscapeAndCancel_CloseWithoutAChoice) {
+    announce(QStringLiteral("First"), QStringLiteral("10.0.0.2"));
+    open();
+    table()->selectRow(0);
+    QTest::keyClick(table(), Qt::Key_Escape);
+    EXPECT_EQ(sheet(), nullptr);
+    open();
+    button("cancelButton")->click();
+    EXPECT_EQ(sheet(), nullptr);
+    EXPECT_EQ(chosen(), std::nullopt);
+}
+
+TEST_F(BonjourSheetTest, DoubleClick_ConfirmsItsRow) {
+    announce(QStringLiteral("First"), QStringLiteral("10.0.0.2"));
+    announce(QStringLiteral("Second"), QStringLiteral("10.0.0.3"));
+    open();
+    QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, middleOf(1));
+    QTest::mouseDClick(table()->viewport(), Qt::LeftButton, {}, middleOf(1));
+    EXPECT_EQ(chosen(), u"First.local");
+    EXPECT_EQ(sheet(), nullptr);
+}
+
+TEST_F(BonjourSheetTest, Rescan_KeepsTheSelectedComputerSelected) {
+    announce(QStringLiteral("First"), QStringLiteral("10.0.0.2"));
+    open();
+    table()->selectRow(0);
+    announce(QStringLiteral("Second"), QStringLiteral("10.0.0.3"));
+    button("rescanButton")->click();
+    mainQueue.advance(2.1);
+    ASSERT_EQ(table()->model()->rowCount(), 2);
+    EXPECT_EQ(table()->selectionModel()->selectedRows().value(0).row(), 1);
+    button("selectButton")->click();
+    EXPECT_EQ(chosen(), u"First.local");
+}
+
+TEST_F(BonjourSheetTest, ClosedInMidScan_TheScanEndsQuietly) {
+    announce(QStringLiteral("First"), QStringLiteral("10.0.0.2"));
+    ASSERT_TRUE(opener.presentSheet(cBonjourSheet));
+    mainQueue.advance(0.5);
+    button("cancelButton")->click();
+    EXPECT_EQ(sheet(), nullptr);
+    mainQueue.advance(5);
+    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_EQ(defaults.object(prefScanningBonjour), QVariant(false));
+}
+
+TEST_F(BonjourSheetTest, HeaderClick_ReachesTheController) {
+    announce(QStringLiteral("First"), QStringLiteral("10.0.0.2"));
+    open();
+    const QHeaderView& header = *table()->horizontalHeader();
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
+                      {header.sectionViewportPosition(1) + 20, header.height() / 2});
+    EXPECT_TRUE(console.printed().contains(QStringLiteral(
+        "Inside BonjourViewController->tableView(_:didClick:).......tableColumn = Address")));
+    EXPECT_EQ(cell(0, 0), u"First");
+}
+
+TEST_F(BonjourSheetTest, EveryControl_HasAnAccessibleName) {
+    open();
+    int controls = 0;
+    for (const QWidget* widget : sheet()->findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith(u"qt_"))
+            continue;
+        ++controls;
+        EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
+    }
+    EXPECT_GE(controls, 5);
+}
+
+TEST_F(BonjourSheetTest, FiveHundredComputers_AreAllShown) {
+    for (int number = 0; number < 500; ++number)
+        announce(QStringLiteral("Mac %1").arg(number),
+                 QStringLiteral("10.0.%1.%2").arg(number / 250).arg(number % 250));
+    open();
+    EXPECT_EQ(table()->model()->rowCount(), 500);
+    EXPECT_EQ(cell(0, 0), u"Mac 499");
+}
+
+} // namespace
+} // namespace kelvo

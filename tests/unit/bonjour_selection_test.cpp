@@ -1,0 +1,143 @@
+#include "discovery/bonjour_selection.h"
+#include "discovery/record_texts.h"
+#include "discovery/service_filter.h"
+#include "fakes/fake_service_table.h"
+#include "fakes/recording_console.h"
+#include "fakes/scripted_browser.h"
+#include "fakes/virtual_queues.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+DNSSD_Service service(const QString& name, const QString& address) {
+    DNSSD_Service made;
+    made.name = name;
+    made.type = QStringLiteral("_smb._tcp");
+    made.hostTarget = QString(name).replace(u' ', u'-') + u".local";
+    made.ip4Address = address;
+    return made;
+}
+
+class BonjourSelectionTest : public ::testing::Test {
+protected:
+    /// What is printed after the count line and the devices' lines.
+    static QStringList closing(const QString& content) {
+        const QString rule = QStringLiteral("\n===============================================");
+        const QString line = QStringLiteral("\n");
+        return {line,
+                line,
+                rule,
+                rule,
+                rule,
+                QStringLiteral("self.fArrayController? => [Optional(ArrayController)] "),
+                QStringLiteral("self.fArrayController?.content[%1] ").arg(content),
+                rule,
+                rule,
+                line,
+                line};
+    }
+
+    VirtualMainQueue mainQueue;
+    RecordingConsole console;
+    ScriptedBrowser browser;
+    FakeSheetOpener sheets;
+    FakeArrayController rows;
+    BonjourSelection selection{{mainQueue, console, browser, sheets, rows}};
+};
+
+TEST_F(BonjourSelectionTest, SelectSource_OpensASheetEachTime) {
+    selection.ibSelectSourceByBonjor();
+    selection.ibSelectSourceByBonjor();
+    EXPECT_EQ(sheets.presented, (QStringList{"BonjourVCstoryboardID", "BonjourVCstoryboardID"}));
+    EXPECT_EQ(console.printed(),
+              (QStringList{"Inside ViewController->ibSelectSourceByBonjor(_:).......",
+                           "Inside ViewController->ibSelectSourceByBonjor(_:)......."}));
+}
+
+TEST_F(BonjourSelectionTest, NoSuchSheet_StopsTheProgram) {
+    sheets.available = false;
+    EXPECT_DEATH(selection.ibSelectSourceByBonjor(),
+                 "Unable to instantiate ViewController in Main.storyboard!");
+}
+
+TEST_F(BonjourSelectionTest, SelectDestination_OnlyLeavesALine) {
+    selection.ibSelectDestByBonjor();
+    EXPECT_EQ(console.printed(),
+              QStringList{"Inside ViewController->ibSelectDestByBonjor(_:)......."});
+    EXPECT_TRUE(sheets.presented.isEmpty());
+    EXPECT_TRUE(mainQueue.idle());
+}
+
+TEST_F(BonjourSelectionTest, Search_ShowsEverythingAfterOneSecond) {
+    browser.announce(service(QStringLiteral("My Mac"), QStringLiteral("10.0.0.2")));
+    browser.announce(service(QStringLiteral("Other"), QString()));
+    browser.announce(service(QStringLiteral("Twin"), QStringLiteral("10.0.0.2")));
+    selection.ibSearchBonjour();
+    EXPECT_EQ(browser.browsed, QStringList{"_smb"});
+    mainQueue.advance(0.99);
+    EXPECT_EQ(rows.contentSet, 0);
+    mainQueue.advance(0.01);
+    EXPECT_EQ(rows.content(), std::optional(browser.services()));
+    EXPECT_EQ(console.printed(),
+              (QStringList{"Inside ViewController->ibSearchBonjour(_:).......",
+                           "self.fFoundServicesArray[Optional(3)] item",
+                           "device => [My-Mac.local] @ [10.0.0.2] -> [My Mac] is type[_smb._tcp]",
+                           "device => [Other.local] @ [] -> [Other] is type[_smb._tcp]",
+                           "device => [Twin.local] @ [10.0.0.2] -> [Twin] is type[_smb._tcp]"} +
+               closing(QStringLiteral("Optional([DNSSD_Service(My Mac, My-Mac.local, 10.0.0.2), "
+                                      "DNSSD_Service(Other, Other.local, ), "
+                                      "DNSSD_Service(Twin, Twin.local, 10.0.0.2)])"))));
+}
+
+TEST_F(BonjourSelectionTest, BeforeAnyScan_TheListIsEmptied) {
+    selection.ibShowBonjourListInfo();
+    EXPECT_EQ(rows.content(), std::nullopt);
+    EXPECT_EQ(rows.contentSet, 1);
+    EXPECT_EQ(console.printed(),
+              QStringList{"self.fFoundServicesArray[nil] item"} + closing(QStringLiteral("nil")));
+}
+
+TEST_F(BonjourSelectionTest, NothingFound_IsAnEmptyList) {
+    selection.ibSearchBonjour();
+    mainQueue.advance(1);
+    EXPECT_EQ(rows.content(), std::optional(DNSSD_Services()));
+    EXPECT_TRUE(
+        console.printed().contains(QStringLiteral("self.fFoundServicesArray[Optional(0)] item")));
+}
+
+TEST(ServiceFilterTest, FirstRecordOfAnAddress_IsAdmitted) {
+    QSet<QString> addresses;
+    EXPECT_EQ(admit(service(QStringLiteral("a"), QStringLiteral("1.2.3.4")), addresses),
+              Admission::Admitted);
+    EXPECT_EQ(admit(service(QStringLiteral("b"), QStringLiteral("1.2.3.4")), addresses),
+              Admission::Duplicate);
+    EXPECT_EQ(admit(service(QStringLiteral("c"), QStringLiteral("1.2.3")), addresses),
+              Admission::BadKey);
+    EXPECT_EQ(admit(service(QStringLiteral("d"), QString()), addresses), Admission::BadKey);
+    EXPECT_EQ(addresses, QSet<QString>{QStringLiteral("1.2.3.4")});
+}
+
+TEST(RecordTextsTest, DictionaryInOneLine) {
+    EXPECT_EQ(dictionaryText({}), u"[:]");
+    EXPECT_EQ(dictionaryText({{"name", "a\u202e\n"},
+                              {"available", true},
+                              {"hostPort", qlonglong{445}},
+                              {"dateAdded", QDateTime::fromSecsSinceEpoch(60, Qt::UTC)}}),
+              u"[\"available\": true, \"dateAdded\": 1970-01-01 00:01:00 +0000, "
+              "\"hostPort\": 445, \"name\": \"a\\u202e\\x0a\"]");
+}
+
+TEST(RecordTextsTest, Optionals) {
+    EXPECT_EQ(listText(std::optional<DNSSD_Services>()), u"nil");
+    EXPECT_EQ(listText(std::optional(DNSSD_Services())), u"Optional([])");
+    EXPECT_EQ(countText(std::nullopt), u"nil");
+    EXPECT_EQ(tableText(std::nullopt), u"nil");
+    EXPECT_EQ(tableText(QMap<QString, QVariantMap>()), u"Optional([:])");
+    EXPECT_EQ(tableText(QMap<QString, QVariantMap>{{"1.2.3.4", {{"name", "a"}}}}),
+              u"Optional([\"1.2.3.4\": [\"name\": \"a\"]])");
+}
+
+} // namespace
+} // namespace kelvo
