@@ -32,6 +32,9 @@ Row relaunchRow();
 Row sentinelRow();
 Row filterRow();
 Row snapshotRow();
+Row startRow();
+Row memoryRow();
+Row idleRow();
 
 /// The middle one of `values`, which must not be empty.
 double median(std::vector<double> values);
