@@ -3,6 +3,7 @@
 #include "ports/user_defaults.h"
 #include "support/fatal.h"
 #include "ui/widgets/diagnostics_tab.h"
+#include "ui/widgets/icons.h"
 #include "ui/widgets/remote_tab.h"
 #include "ui/widgets/settings_tab.h"
 #include "ui/widgets/sync_tab.h"
@@ -85,8 +86,7 @@ void MainWindow::setAction(const QString& control, std::function<void()> action)
 }
 
 void MainWindow::showStartIcon() {
-    ibStartButton().setIcon(style()->standardIcon(
-        ibStartButton().isChecked() ? QStyle::SP_MediaStop : QStyle::SP_MediaPlay));
+    ibStartButton().setIcon(startIcon(ibStartButton().isChecked(), palette()));
 }
 
 // -- tabs
@@ -135,6 +135,12 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     }
     keepLook();
     QMainWindow::closeEvent(event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showStartIcon();
 }
 
 void MainWindow::hideEvent(QHideEvent* event) {
