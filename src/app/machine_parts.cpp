@@ -29,7 +29,8 @@ MachineParts::MachineParts(bool withTray)
     : console(STDOUT_FILENO, STDERR_FILENO, logFile), defaults(settingsFile(), mainQueue, console),
       bundle(resourceFolder()), shell(console),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
-      systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, bgQueue, console),
+      systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, mainQueue,
+                        bgQueue, console),
       singleCopy(runtimeFolder().path, console), dnssdBrowser(console) {
     if (withTray) {
         fTrayHost = std::make_unique<DesktopTrayHost>();

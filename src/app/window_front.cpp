@@ -3,6 +3,7 @@
 #include "app/front.h"
 #include "app/main_window_controller.h"
 #include "app/window_actions.h"
+#include "ports/dispatch_queue.h"
 #include "ports/status_menu.h"
 #include "ui/close_policy.h"
 #include "ui/observed_status_field.h"
@@ -38,7 +39,8 @@ public:
           fOpenPanel(fWindow), fFoundServices(fWindow.foundServices()),
           fWindowController(
               std::make_shared<MainWindowController>([this] { fWindow.bringToFront(); })) {
-        fWindow.setWindowIcon(applicationIcon());
+        // Drawing the icon takes a while; the window does not wait for it.
+        parts.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
         fWindow.setMayClose([this] { return mayClose(); });
     }
 
