@@ -21,6 +21,7 @@ kelvo_tests(lab
     lab/network_lab_test.cpp
     lab/lab_network.cpp
     lab/sync_lab_test.cpp
+    lab/window_lab_test.cpp
   LINKS kelvo_adapters_avahi
   TIMEOUT 180
   PROPERTIES
@@ -33,5 +34,6 @@ target_compile_definitions(lab_tests PRIVATE
   KELVO_ANNOUNCER="$<TARGET_FILE:mdns_announcer>"
   KELVO_LAB_COMMAND="${KELVO_LAB_COMMAND}"
   KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
+  KELVO_PICTURES="${CMAKE_BINARY_DIR}/pictures"
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror")
 add_dependencies(lab_tests network_watcher)
