@@ -11,5 +11,6 @@ kelvo_tests(ui WIDGETS
     ui/path_control_view_test.cpp
     ui/sheet_presenter_test.cpp
     ui/tray_icon_test.cpp
+    ui/widget_main_view_test.cpp
   LINKS kelvo_ui_widgets kelvo_adapters_tray kelvo_bus_testing Qt6::Test
 )
