@@ -2,6 +2,7 @@
 #include "adapters/posix/posix_sentinel_launcher.h"
 #include "sentinel/exit_code.h"
 #include "support/descendants.h"
+#include "support/sanitized.h"
 #include "support/wait_until.h"
 
 #include <QDir>
@@ -18,12 +19,6 @@
 
 #include <array>
 #include <memory>
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool cSanitized = true;
-#else
-constexpr bool cSanitized = false;
-#endif
 
 namespace kelvo {
 namespace {

@@ -1,12 +1,10 @@
 // The real window on the near host: passes and the choice of the remote Mac, all by keyboard.
 #include "lab/lab_fixture.h"
 #include "support/plist_text.h"
-#include "support/virtual_display.h"
+#include "support/virtual_desktop.h"
 #include "support/wait_until.h"
 
-#include <QDir>
 #include <QFile>
-#include <QStandardPaths>
 
 namespace kelvo {
 namespace {
@@ -29,24 +27,13 @@ protected:
         LabTest::SetUp();
         if (IsSkipped())
             return;
-        for (const char* tool : {"Xvfb", "openbox", "xdotool", "maim"}) {
-            if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty())
-                GTEST_SKIP() << tool << " is not installed on this machine";
-        }
-        fName = fDisplay.start();
-        ASSERT_FALSE(fName.isEmpty()) << "Xvfb does not come up";
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DISPLAY"), fName);
-        fManager.setProcessEnvironment(environment);
-        fManager.start(QStringLiteral("openbox"), QStringList());
-        ASSERT_TRUE(fManager.waitForStarted(cPatience));
+        if (const QString missing = VirtualDesktop::missingTool(); !missing.isEmpty())
+            GTEST_SKIP() << missing.toStdString() << " is not installed on this machine";
+        ASSERT_TRUE(screen.start()) << "no display comes up";
     }
 
     void TearDown() override {
         program.reset();
-        fManager.terminate();
-        if (fManager.state() != QProcess::NotRunning && !fManager.waitForFinished(cPatience))
-            fManager.kill();
         for (const auto& announcer : fAnnouncers) {
             announcer->terminate();
             if (!announcer->waitForFinished(cPatience))
@@ -62,42 +49,14 @@ protected:
     void startAgain() {
         program = std::make_unique<RunningProgram>(
             QStringLiteral(KELVO_LAB_COMMAND),
-            QStringList{QStringLiteral("near"), QStringLiteral("env"), QString(u"DISPLAY=" + fName),
-                        QStringLiteral("QT_QPA_PLATFORM=xcb"),
+            QStringList{QStringLiteral("near"), QStringLiteral("env"),
+                        QString(u"DISPLAY=" + screen.name()), QStringLiteral("QT_QPA_PLATFORM=xcb"),
                         QStringLiteral("DBUS_SESSION_BUS_ADDRESS=disabled:"),
                         QStringLiteral(KELVO_PROGRAM)});
     }
 
-    QString tool(const char* name, const QStringList& arguments) const {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DISPLAY"), fName);
-        process.setProcessEnvironment(environment);
-        process.start(QString::fromLatin1(name), arguments);
-        process.waitForFinished(cPatience);
-        return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
-    }
-    void keys(const QStringList& names) const {
-        tool("xdotool",
-             QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("40")} +
-                 names);
-    }
-    void type(const QString& text) const {
-        tool("xdotool",
-             {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("30"), text});
-    }
-    bool becomesActive(const QString& title) const {
-        return waitUntil([&] {
-            return tool("xdotool",
-                        {QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")})
-                .startsWith(title);
-        });
-    }
     void keepPicture(const char* name) const {
-        QDir().mkpath(QStringLiteral(KELVO_PICTURES));
-        const QString file = QStringLiteral(KELVO_PICTURES "/%1.png").arg(QLatin1StringView(name));
-        tool("maim", {file});
-        EXPECT_TRUE(QFile::exists(file));
+        EXPECT_TRUE(screen.keepPicture(QStringLiteral(KELVO_PICTURES), name));
     }
 
     /// Three more Macs, with names and addresses of their own, by packets on the cable.
@@ -119,12 +78,10 @@ protected:
         }
     }
 
+    VirtualDesktop screen;
     std::unique_ptr<RunningProgram> program;
 
 private:
-    VirtualDisplay fDisplay;
-    QString fName;
-    QProcess fManager;
     std::vector<std::unique_ptr<QProcess>> fAnnouncers;
 };
 
@@ -144,8 +101,8 @@ TEST_F(WindowLabTest, RemoteMac_IsChosenFromTheListByKeyboardAndTheNextStartPull
     profile[QStringLiteral("prefAutoStartScanOnLaunch")] = false;
     start(profile);
     ASSERT_TRUE(program->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60));
-    ASSERT_TRUE(becomesActive(QStringLiteral("Kelvo Mirror")));
-    keys({QStringLiteral("ctrl+2"), QStringLiteral("alt+c")});
+    ASSERT_TRUE(screen.becomesActive(QStringLiteral("Kelvo Mirror")));
+    screen.keys({QStringLiteral("ctrl+2"), QStringLiteral("alt+c")});
     ASSERT_TRUE(program->waitForLine(QStringLiteral("NOW SCANNING"), 20))
         << program->transcript().toStdString();
 
@@ -159,17 +116,17 @@ TEST_F(WindowLabTest, RemoteMac_IsChosenFromTheListByKeyboardAndTheNextStartPull
             },
             4);
         if (!list)
-            keys({QStringLiteral("alt+r")});
+            screen.keys({QStringLiteral("alt+r")});
         return list.has_value();
     };
     ASSERT_TRUE(waitUntil(allAreListed, std::chrono::seconds(60)))
         << program->transcript().toStdString();
     keepPicture("bonjour-sheet");
 
-    type(QStringLiteral("remote"));
+    screen.type(QStringLiteral("remote"));
     ASSERT_TRUE(program->waitForLine(
         QStringLiteral("Inside BonjourViewController->tableViewSelectionDidChange(_:)"), 20));
-    keys({QStringLiteral("Return")});
+    screen.keys({QStringLiteral("Return")});
     ASSERT_TRUE(
         program->waitForLine(QStringLiteral("Inside BonjourViewController->ibSelectItem(_:)"), 20));
     const auto stored = [](const char* text) {

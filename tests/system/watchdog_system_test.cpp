@@ -1,4 +1,5 @@
 // The watchdog with real signals, real faults and the real sentinel, in a small program of its own.
+#include "support/sanitized.h"
 #include "support/descendants.h"
 #include "support/wait_until.h"
 
@@ -19,12 +20,6 @@
 #include <cstring>
 #include <string>
 #include <vector>
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool cSanitized = true;
-#else
-constexpr bool cSanitized = false;
-#endif
 
 namespace kelvo {
 namespace {
