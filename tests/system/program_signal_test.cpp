@@ -23,7 +23,7 @@
 namespace kelvo {
 namespace {
 
-const QByteArray cLoaded = "Inside Kelvo_Mirror.ViewController->viewDidLoad().......";
+const QByteArray cLoaded = "Inside Kelvo_Mirror.ViewController->viewDidLoad().......\n";
 const QByteArray cRelaunched = "automatically relaunched due to unexpected termination\n";
 const QByteArray cSentinelEnded = "watchdog has terminated with exit code 0\n";
 
@@ -97,11 +97,12 @@ protected:
 TEST_P(ProgramSignalTest, HasItsReaction) {
     const int number = GetParam();
     const QByteArray description = ::strsignal(number);
-    const QByteArray caught = "Caught " + description + " ... ";
+    const QByteArray caught("Caught " + description + " ... ");
     pid_t pid = start();
     ASSERT_TRUE(waitUntilSaid(cLoaded, 1));
     const QByteArray environment = ofProcess(pid, "environ");
     const QByteArray arguments = ofProcess(pid, "cmdline");
+    const QByteArray relaunchArguments(arguments + QByteArray("--autorelaunched\0", 17));
     ASSERT_TRUE(environment.contains("KELVO_TEST_MARK=a = b\nc"));
 
     if (number == SIGHUP) {
@@ -132,7 +133,7 @@ TEST_P(ProgramSignalTest, HasItsReaction) {
             EXPECT_TRUE(WIFEXITED(*status) && WEXITSTATUS(*status) == number) << *status;
         ASSERT_TRUE(waitUntilSaid(cLoaded, round + 1)) << "not relaunched";
         pid = *sentinel;
-        EXPECT_EQ(ofProcess(pid, "cmdline"), arguments + QByteArray("--autorelaunched\0", 17));
+        EXPECT_EQ(ofProcess(pid, "cmdline"), relaunchArguments);
         EXPECT_EQ(ofProcess(pid, "environ"), environment);
         EXPECT_EQ(said(cRelaunched), round);
         EXPECT_TRUE(waitUntil([&] { return record() == round; })) << record();

@@ -26,8 +26,9 @@ using Clock = std::chrono::steady_clock;
 
 constexpr unsigned long cFileChanges = DN_CREATE | DN_MODIFY | DN_DELETE | DN_RENAME | DN_MULTISHOT;
 constexpr unsigned long cFolderChanges = DN_DELETE | DN_RENAME | DN_MULTISHOT;
-constexpr std::uint32_t cEvents = IN_CLOSE_WRITE | IN_MODIFY | IN_CREATE | IN_MOVED_TO |
-                                  IN_MOVED_FROM | IN_DELETE | IN_DELETE_SELF | IN_MOVE_SELF;
+constexpr std::uint32_t cFileEvents =
+    IN_CLOSE_WRITE | IN_MODIFY | IN_CREATE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE;
+constexpr std::uint32_t cFolderEvents = IN_DELETE | IN_MOVED_FROM;
 /// The coarsest stamps of a usual file system.
 constexpr std::int64_t cYoung = 2'000'000'000;
 
@@ -120,7 +121,7 @@ bool FileWatch::listenToSignals() {
     fEvents = UniqueFd(::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK));
     if (!fEvents || !signalChanges(fOpenFolder.get(), cFileChanges))
         return false;
-    // Only its parent tells that a folder is moved. Without one that may be read the next wake-up
+    // Only its parent tells that a folder goes away. Without one that may be read the next wake-up
     // finds out.
     fOpenParent = openFolder(fOpenFolder.get(), "..");
     if (fOpenParent && !signalChanges(fOpenParent.get(), cFolderChanges))
@@ -130,8 +131,12 @@ bool FileWatch::listenToSignals() {
 
 int FileWatch::listenToEvents() {
     fEvents = UniqueFd(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK));
-    if (!fEvents || ::inotify_add_watch(fEvents.get(), fFolder.c_str(), cEvents | IN_ONLYDIR) < 0)
+    if (!fEvents ||
+        ::inotify_add_watch(fEvents.get(), fFolder.c_str(), cFileEvents | IN_ONLYDIR) < 0)
         return errno;
+    // The open folder would hold back the news of its own removal, its parent does not.
+    const std::string parent = fFolder + "/..";
+    (void)::inotify_add_watch(fEvents.get(), parent.c_str(), cFolderEvents | IN_ONLYDIR);
     return 0;
 }
 
