@@ -14,6 +14,7 @@ kelvo_tests(contract
     contract/dispatch_queue_contract_test.cpp
     contract/dnssd_browser_contract_test.cpp
     contract/factory_template_test.cpp
+    contract/file_watch_test.cpp
     contract/line_backlog_test.cpp
     contract/local_file_manager_test.cpp
     contract/log_file_contract_test.cpp

@@ -21,6 +21,7 @@ kelvo_tests(lab
     lab/network_lab_test.cpp
     lab/lab_network.cpp
     lab/sync_lab_test.cpp
+    lab/watchdog_lab_test.cpp
     lab/window_lab_test.cpp
   LINKS kelvo_adapters_avahi
   TIMEOUT 180

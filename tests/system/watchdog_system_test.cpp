@@ -348,7 +348,7 @@ TEST_F(WatchdogSystemTest, FiftyRounds_LeaveNothingBehind) {
 TEST_F(WatchdogSystemTest, TheProgramItself_IsBackAfterAKillAndGoneWhenAsked) {
     const QString lines = qEnvironmentVariable("XDG_STATE_HOME") + u"/Kelvo/kelvo-mirror.log";
     const auto count = [&lines](const char* text) { return contents(lines).count(text); };
-    constexpr const char* cLoaded = "Inside Kelvo_Mirror.ViewController->viewDidLoad().......";
+    constexpr const char* cLoaded = "Inside Kelvo_Mirror.ViewController->viewDidLoad().......\n";
     const auto loadedBefore = count(cLoaded);
     std::string program = KELVO_PROGRAM;
     std::string option = "--headless";
