@@ -1,6 +1,6 @@
 // The watchdog with real signals, real faults and the real sentinel, in a small program of its own.
-#include "support/sanitized.h"
 #include "support/descendants.h"
+#include "support/sanitized.h"
 #include "support/wait_until.h"
 
 #include <QDir>
