@@ -19,10 +19,12 @@ class DispatchQueue;
 class DnssdBrowser;
 class MainView;
 class OpenPanel;
+class Pasteboard;
 class PathControl;
 class SheetOpener;
 class StatusField;
 class StatusMenu;
+class Terminal;
 class UserDefaults;
 class ViewController;
 class WindowController;
@@ -36,6 +38,7 @@ struct FrontParts {
     Workspace& workspace;
     DnssdBrowser& browser;
     StatusMenu& statusMenu;
+    Terminal& terminal; ///< of the desktop; used by a front that has one
     QString logFolder;
     /// Told after each status message whether it is about trouble.
     std::function<void(bool)> trouble;
@@ -47,6 +50,8 @@ struct FrontOutlets {
     AlertPresenter& alertPresenter;
     SheetOpener& sheets;
     OpenPanel& openPanel;
+    Terminal& terminal;
+    Pasteboard& pasteboard;
     ArrayController& fArrayController;
     Button& ibStartButton;
     const Control* ibRevealButton1;

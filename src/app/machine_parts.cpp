@@ -1,7 +1,6 @@
 #include "app/machine_parts.h"
 
 #include "adapters/qt/network_information.h"
-#include "adapters/qt/runtime_folder.h"
 #include "adapters/tray/desktop_tray_host.h"
 #include "app/version.h"
 #include "ui/widgets/tray_icon.h"
@@ -29,6 +28,7 @@ MachineParts::MachineParts(bool withTray)
     : console(STDOUT_FILENO, STDERR_FILENO, logFile), defaults(settingsFile(), mainQueue, console),
       bundle(resourceFolder()), shell(console),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
+      terminal(temporaryFolder, console),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, mainQueue,
                         bgQueue, console),
       singleCopy(runtimeFolder().path, console), dnssdBrowser(console) {

@@ -16,7 +16,6 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
 #include <QFileInfo>
 
 #include <unistd.h>
@@ -82,11 +81,15 @@ public:
 private:
     Front& front() {
         if (!fFront) {
-            const FrontParts parts{
-                fParts.defaults,     fParts.mainQueue,
-                fParts.console,      fParts.workspace,
-                fParts.dnssdBrowser, fParts.statusMenu(),
-                logFolder(),         [this](bool trouble) { fStatusMenu.setTrouble(trouble); }};
+            const FrontParts parts{fParts.defaults,
+                                   fParts.mainQueue,
+                                   fParts.console,
+                                   fParts.workspace,
+                                   fParts.dnssdBrowser,
+                                   fParts.statusMenu(),
+                                   fParts.terminal,
+                                   logFolder(),
+                                   [this](bool trouble) { fStatusMenu.setTrouble(trouble); }};
             fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
         }
         return *fFront;
@@ -111,7 +114,11 @@ private:
                                 fParts.dnssdBrowser,
                                 [this] { return fParts.makeNetworkChecker(); },
                                 fStatusMenu,
-                                QDir::tempPath(),
+                                fParts.temporaryFolder,
+                                fParts.fileChanges,
+                                outlets.terminal,
+                                outlets.pasteboard,
+                                fParts.shareCommands,
                                 outlets.view,
                                 outlets.alertPresenter,
                                 outlets.sheets,

@@ -47,8 +47,9 @@ public:
     Application& application() override { return fApplication; }
     std::shared_ptr<WindowController> windowController() override { return fWindowController; }
     FrontOutlets outlets() override {
-        return {fView,        fAlerts,         fSheets,         fOpenPanel,   fFoundServices,
-                fStartButton, &fRevealButton1, &fRevealButton2, fStatusField, fPathControl};
+        return {fView,           fAlerts,         fSheets,        fOpenPanel,
+                fParts.terminal, fPasteboard,     fFoundServices, fStartButton,
+                &fRevealButton1, &fRevealButton2, fStatusField,   fPathControl};
     }
 
     void sendActionsTo(ViewController& controller, AppDelegate& delegate) override {
@@ -86,6 +87,7 @@ private:
     SheetPresenter fAlerts;
     WidgetSheetOpener fSheets;
     WidgetOpenPanel fOpenPanel;
+    WidgetPasteboard fPasteboard;
     ServiceList fFoundServices;
     OnceButtons fOnceButtons;
     std::shared_ptr<MainWindowController> fWindowController;
