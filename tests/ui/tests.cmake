@@ -12,5 +12,6 @@ kelvo_tests(ui WIDGETS
     ui/sheet_presenter_test.cpp
     ui/tray_icon_test.cpp
     ui/widget_main_view_test.cpp
-  LINKS kelvo_ui_widgets kelvo_adapters_tray kelvo_bus_testing Qt6::Test
+    ui/window_actions_test.cpp
+  LINKS kelvo_app kelvo_ui_widgets kelvo_adapters_tray kelvo_bus_testing Qt6::Test
 )
