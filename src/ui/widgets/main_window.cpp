@@ -93,6 +93,7 @@ void MainWindow::showStartIcon() {
 
 std::vector<MainWindow::Tab> MainWindow::tabs() const {
     std::vector<Tab> all;
+    all.reserve(static_cast<std::size_t>(fUi->tabView->count()));
     for (int i = 0; i < fUi->tabView->count(); ++i)
         all.push_back(
             {fUi->tabView->widget(i)->property("identifier").toString(), fUi->tabView->tabText(i)});
