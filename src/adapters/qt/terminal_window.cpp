@@ -28,11 +28,13 @@ using namespace std::chrono_literals;
 /// How long a terminal program that went well may take to open its window.
 constexpr auto cWindowPatience = 20s;
 
-/// Says on the pipe that it has begun, runs the script, lets go of the pipe and waits for a key:
-/// one that is pressed after the end, not one left over from an answer. An interrupt ends the
-/// script and not the window.
-constexpr const char* cWindowScript = R"(exec 3<>"$2"
-printf b >&3
+/// Says on the pipe that it has begun (there is none any more once the program has ended), runs the
+/// script, lets go of the pipe and waits for a key: one that is pressed after the end, not one left
+/// over from an answer. An interrupt ends the script and not the window.
+constexpr const char* cWindowScript = R"(if [ -p "$2" ]; then
+    exec 3<>"$2"
+    printf b >&3
+fi
 trap : INT QUIT
 /bin/sh "$1" 3>&-
 code=$?
