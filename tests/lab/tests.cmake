@@ -18,8 +18,9 @@ kelvo_tests(lab
     lab/avahi_browser_test.cpp
     lab/lab_fixture.cpp
     lab/lab_host_test.cpp
-    lab/network_lab_test.cpp
     lab/lab_network.cpp
+    lab/network_lab_test.cpp
+    lab/set_up_lab_test.cpp
     lab/sync_lab_test.cpp
     lab/watchdog_lab_test.cpp
     lab/window_lab_test.cpp
