@@ -11,6 +11,7 @@ kelvo_tests(unit
     unit/headless_front_test.cpp
     unit/key_state_test.cpp
     unit/network_path_monitoring_test.cpp
+    unit/once_test.cpp
     unit/pass_cause_test.cpp
     unit/pass_journal_test.cpp
     unit/plain_line_test.cpp
@@ -30,6 +31,7 @@ kelvo_tests(unit
     unit/status_and_alerts_test.cpp
     unit/status_menu_test.cpp
     unit/stored_value_test.cpp
+    unit/settings_commands_test.cpp
     unit/sync_cycle_test.cpp
     unit/text_test.cpp
     unit/view_controller_setup_test.cpp
