@@ -2,27 +2,13 @@
 
 #include "adapters/qt/network_information.h"
 #include "adapters/tray/desktop_tray_host.h"
+#include "app/places.h"
 #include "app/version.h"
 #include "ui/widgets/tray_icon.h"
-
-#include <QCoreApplication>
-#include <QStandardPaths>
 
 #include <unistd.h>
 
 namespace kelvo {
-namespace {
-
-QString settingsFile() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/kelvo-mirror/preferences.plist");
-}
-
-QString resourceFolder() {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/kelvo-mirror");
-}
-
-} // namespace
 
 MachineParts::MachineParts(bool withTray)
     : console(STDOUT_FILENO, STDERR_FILENO, logFile), defaults(settingsFile(), mainQueue, console),

@@ -1,7 +1,9 @@
 // The way in: reads the command line, then runs the program with a window or without.
 #include "adapters/tray/x_display.h"
 #include "app/command_line.h"
+#include "app/once.h"
 #include "app/program.h"
+#include "app/settings_commands.h"
 
 #include <QApplication>
 
@@ -47,6 +49,13 @@ int printAndEnd(std::FILE* stream, const QString& text, int exitCode) {
     return exitCode;
 }
 
+int printAnswer(const kelvo::CommandAnswer& answer) {
+    std::fputs(answer.errors.toUtf8().constData(), stderr);
+    const QByteArray output = answer.output.toUtf8();
+    const bool printed = std::fputs(output.constData(), stdout) >= 0 && std::fflush(stdout) == 0;
+    return answer.exitCode == 0 && !printed ? 1 : answer.exitCode;
+}
+
 int run(kelvo::FrontKind frontKind) {
     kelvo::Program program(frontKind);
     return program.run();
@@ -67,6 +76,14 @@ int main(int argc, char** argv) {
     case kelvo::LaunchKind::PrintHelp:
     case kelvo::LaunchKind::PrintVersion:
         return printAndEnd(stdout, commandLine.message, 0);
+    case kelvo::LaunchKind::Once: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runOnce(commandLine.json));
+    }
+    case kelvo::LaunchKind::Settings: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runSettingsCommand(commandLine.settings));
+    }
     case kelvo::LaunchKind::Headless: {
         const QCoreApplication application(argc, argv);
         return run(kelvo::FrontKind::Headless);

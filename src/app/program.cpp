@@ -5,6 +5,7 @@
 #include "app/front.h"
 #include "app/interface_registry.h"
 #include "app/machine_parts.h"
+#include "app/pass_recording.h"
 #include "app/version.h"
 #include "app/watchdog.h"
 #include "app/watchdog_relaunch_guard.h"
@@ -101,7 +102,7 @@ private:
             ViewControllerParts{fParts.defaults,
                                 fParts.mainQueue,
                                 fParts.bgQueue,
-                                fParts.shell,
+                                fPasses.shell,
                                 fParts.files,
                                 fParts.console,
                                 fParts.notificationCenter,
@@ -131,7 +132,8 @@ private:
                                 [this]() -> StatusMenuWindow* {
                                     WindowController& window = *front().windowController();
                                     return window.contentViewController() ? &window : nullptr;
-                                }});
+                                },
+                                &fPasses.journal});
         front().sendActionsTo(*controller, *fDelegate);
         return controller;
     }
@@ -167,6 +169,7 @@ private:
 
     const FrontKind fKind;
     MachineParts fParts;
+    PassRecording fPasses{fParts.shell, fParts.mainQueue, fParts.console};
     StatusMenuPresence fStatusMenu;
     WatchdogRelaunchGuard fRelaunchGuard;
     DuplicateCheck fDuplicates;

@@ -5,6 +5,7 @@
 #include "ports/dispatch_queue.h"
 #include "ports/file_manager.h"
 #include "ports/host_validator.h"
+#include "ports/pass_listener.h"
 #include "ports/problem_alerts.h"
 #include "ports/shell_runner.h"
 #include "ports/status_messages.h"
@@ -83,7 +84,7 @@ void SyncCycle::doSyncOnce() {
     constexpr QStringView operation = u"doSyncOnce()";
     logInside(operation, u"");
     if (permissionToStart(operation) == Permission::Granted)
-        fParts.bgQueue.async([this] { runPlainPass(); });
+        runInBackground(PassKind::Plain, &SyncCycle::runPlainPass);
 }
 
 void SyncCycle::doSyncOnceBonjour() {
@@ -94,7 +95,7 @@ void SyncCycle::doSyncOnceBonjour() {
                                 : QString(u"Trying to rsync with option = " + option + u"..."));
     switch (permissionToStart(operation)) {
     case Permission::Granted:
-        fParts.bgQueue.async([this] { runRemotePass(); });
+        runInBackground(PassKind::Remote, &SyncCycle::runRemotePass);
         break;
     case Permission::SwitchedOff:
         showStatus(std::nullopt);
@@ -115,6 +116,16 @@ SyncCycle::Permission SyncCycle::permissionToStart(QStringView operation) const 
     }
     logInside(operation, u".......NEED to start a scan ...");
     return Permission::Granted;
+}
+
+void SyncCycle::runInBackground(PassKind kind, Pass body) {
+    fParts.bgQueue.async([this, kind, body] {
+        if (fParts.passListener)
+            fParts.passListener->passBegan(kind);
+        (this->*body)();
+        if (fParts.passListener)
+            fParts.passListener->passEnded();
+    });
 }
 
 // -- the plain pass
@@ -143,6 +154,8 @@ void SyncCycle::runPlainPass() {
 void SyncCycle::runRemotePass() {
     const QString keyPath = keyFilePath();
     const QString verdict = validateRemoteHost();
+    if (fParts.passListener)
+        fParts.passListener->hostJudged(verdict);
     if (verdict == cValidVerdict)
         pullFromRemote(keyPath);
     else

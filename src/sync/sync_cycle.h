@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/alert.h"
+#include "support/pass_record.h"
 #include "support/status_color.h"
 
 #include <QString>
@@ -18,6 +19,7 @@ class Control;
 class DispatchQueue;
 class FileManager;
 class HostValidator;
+class PassListener;
 class ProblemAlerts;
 class RsyncCommand;
 class ShellRunner;
@@ -37,6 +39,7 @@ struct SyncCycleParts {
     StatusMessages& statusMessages;
     ProblemAlerts& problemAlerts;
     Button& ibStartButton; ///< clicked by the cycle to switch syncing off and on again
+    PassListener* passListener = nullptr; ///< hears of each pass; may be missing
 };
 
 /// A pass schedules its successor; what prefEnableScanning and prefIsScanning say is asked at the
@@ -70,6 +73,8 @@ private:
 
     bool storeStateOf(Control* sender, QStringView operation);
     Permission permissionToStart(QStringView operation) const;
+    /// Runs `body` on the background queue, its begin and end told to the listener.
+    void runInBackground(PassKind kind, Pass body);
     void runPlainPass();
     void runRemotePass();
     void pullFromRemote(const QString& keyPath);

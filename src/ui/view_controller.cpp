@@ -46,7 +46,7 @@ ViewController::ViewController(const ViewControllerParts& parts)
            [&view = parts.view](KeyState state) { view.showKeyState(keyStateWords(state)); }}),
       fSyncCycle({parts.defaults, parts.mainQueue, parts.bgQueue, parts.shell, parts.files,
                   parts.console, fRsyncCommand, fKeyState, fStatusLine, fAlerts,
-                  parts.ibStartButton}),
+                  parts.ibStartButton, parts.passListener}),
       fRepeatTimer(parts.mainQueue, parts.console),
       fStartButtonTitle(parts.ibStartButton, parts.defaults, parts.mainQueue, parts.console),
       fCommandExample(parts.defaults, fRsyncCommand, parts.console),

@@ -23,6 +23,7 @@ class NetworkBrowser;
 class NetworkChecker;
 class NotificationCenter;
 class OpenPanel;
+class PassListener;
 class Pasteboard;
 class PathControl;
 class RelaunchGuard;
@@ -73,6 +74,7 @@ struct ViewControllerParts {
     std::weak_ptr<PathControl> fNsPathControl1;
     /// The controller of the view's window; nothing as long as there is none.
     std::function<StatusMenuWindow*()> windowController;
+    PassListener* passListener = nullptr; ///< hears of each pass; may be missing
 };
 
 } // namespace kelvo

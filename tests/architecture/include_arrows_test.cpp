@@ -24,6 +24,7 @@ const std::map<std::string, Names> cArrows{
     {"sync", {"ports", "support"}},
     {"remote", {"ports", "support"}},
     {"discovery", {"ports", "support"}},
+    {"passes", {"ports", "support"}},
     {"ui", {"sync", "remote", "discovery", "ports", "support"}},
     {"ui/widgets", {"ui", "ports", "support"}},
     {"adapters/qt", {"adapters/posix", "ports", "support"}},
@@ -32,13 +33,13 @@ const std::map<std::string, Names> cArrows{
     {"adapters/headless", {"ports", "support"}},
     {"adapters/tray", {"ports", "support"}},
     {"app",
-     {"ui", "ui/widgets", "sync", "remote", "discovery", "adapters/qt", "adapters/posix",
+     {"ui", "ui/widgets", "sync", "remote", "discovery", "passes", "adapters/qt", "adapters/posix",
       "adapters/avahi", "adapters/headless", "adapters/tray", "ports", "support"}},
     {"sentinel", {}},
 };
 
 /// Folders that hold decisions: of Qt they know values only.
-const Names cValueFolders{"support", "ports", "sync", "remote", "discovery", "ui"};
+const Names cValueFolders{"support", "ports", "sync", "remote", "discovery", "passes", "ui"};
 
 /// Qt Core headers that are values; everything else of Qt stays out of the folders above.
 const Names cValueHeaders{"QByteArray",     "QChar",        "QDateTime",

@@ -39,6 +39,11 @@ protected:
         const QByteArray line = text.mid(at, text.indexOf('\n', at) - at);
         return line.split(':').value(1).simplified().split(' ').value(0).toLongLong();
     }
+    static bool catchesTermination(pid_t pid) {
+        const QByteArray status = procFile(pid, "status");
+        const QByteArray mask = status.mid(status.indexOf("SigCgt:") + 7).trimmed().split('\n')[0];
+        return mask.toULongLong(nullptr, 16) & (1U << (SIGTERM - 1));
+    }
     /// Exit code and error output of a sentinel with these arguments.
     static std::pair<int, QByteArray> run(const QStringList& arguments,
                                           const QString& program = QStringLiteral(KELVO_SENTINEL)) {
@@ -122,7 +127,7 @@ TEST_F(SentinelTest, ProgramThatIsGone_CannotBeStartedAgain) {
     sentinel.start(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())});
     ASSERT_TRUE(sentinel.waitForStarted());
     ASSERT_TRUE(waitUntil([&] {
-        return field(procFile(static_cast<pid_t>(sentinel.processId()), "status"), "SigCgt") > 0;
+        return catchesTermination(static_cast<pid_t>(sentinel.processId()));
     })) << "it is not in place";
     ASSERT_TRUE(QFile::remove(copy));
     program.kill();

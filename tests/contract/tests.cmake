@@ -22,6 +22,7 @@ kelvo_tests(contract
     contract/mac_volume_search_test.cpp
     contract/network_information_test.cpp
     contract/notification_center_contract_test.cpp
+    contract/pass_store_contract_test.cpp
     contract/plist_codec_test.cpp
     contract/plist_defaults_faults_test.cpp
     contract/plist_defaults_sharing_test.cpp
@@ -36,6 +37,7 @@ kelvo_tests(contract
     contract/signal_pipe_test.cpp
     contract/signals_contract_test.cpp
     contract/single_copy_contract_test.cpp
+    contract/sqlite_pass_store_test.cpp
     contract/stream_console_test.cpp
     contract/system_information_test.cpp
     contract/terminal_window_test.cpp

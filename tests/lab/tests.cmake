@@ -18,6 +18,7 @@ kelvo_tests(lab
     lab/avahi_browser_test.cpp
     lab/lab_fixture.cpp
     lab/lab_host_test.cpp
+    lab/once_lab_test.cpp
     lab/lab_network.cpp
     lab/network_lab_test.cpp
     lab/set_up_lab_test.cpp

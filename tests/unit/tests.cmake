@@ -11,7 +11,11 @@ kelvo_tests(unit
     unit/headless_front_test.cpp
     unit/key_state_test.cpp
     unit/network_path_monitoring_test.cpp
+    unit/once_test.cpp
+    unit/pass_cause_test.cpp
+    unit/pass_journal_test.cpp
     unit/plain_line_test.cpp
+    unit/rsync_statistics_test.cpp
     unit/preferences_test.cpp
     unit/property_value_test.cpp
     unit/relaunch_decision_test.cpp
@@ -27,11 +31,14 @@ kelvo_tests(unit
     unit/status_and_alerts_test.cpp
     unit/status_menu_test.cpp
     unit/stored_value_test.cpp
+    unit/settings_commands_test.cpp
     unit/sync_cycle_test.cpp
     unit/text_test.cpp
     unit/view_controller_setup_test.cpp
     unit/view_controller_test.cpp
     unit/watchdog_test.cpp
   LINKS kelvo_ui kelvo_adapters_headless kelvo_watchdog
-  LINKS kelvo_start kelvo_adapters_headless
+  LINKS kelvo_start kelvo_adapters_headless kelvo_passes
 )
+target_compile_definitions(unit_tests PRIVATE
+  KELVO_TEXTS="${CMAKE_CURRENT_SOURCE_DIR}/texts")

@@ -23,6 +23,9 @@ using namespace std::chrono_literals;
 constexpr std::size_t cMostErrors = std::size_t{64} * 1024;
 /// A flood must not hold up the quit: no more than a full pipe is read after giving up.
 constexpr std::size_t cLastRead = std::size_t{1024} * 1024;
+/// The exit statuses that shells give where there is none.
+constexpr int cCannotStart = 126;
+constexpr int cSignalled = 128;
 constexpr auto cAskPatience = 2000ms;
 constexpr auto cForcePatience = 1000ms;
 
@@ -64,12 +67,15 @@ public:
     bool overflowed() const { return fOutput.overflowed(); }
     QString output() { return fOutput.finish(); }
 
+    QString errors() const {
+        return QString::fromUtf8(fErrors.data(), static_cast<qsizetype>(fErrors.size()));
+    }
+
     /// What the system log shall say of the error output; empty when there was none.
     QString errorLine() const {
         if (fErrors.empty())
             return {};
-        QString line = QStringLiteral("Error output of a shell command: ") +
-                       QString::fromUtf8(fErrors.data(), static_cast<qsizetype>(fErrors.size()));
+        QString line = QStringLiteral("Error output of a shell command: ") + errors();
         while (line.endsWith(u'\n'))
             line.chop(1);
         if (fErrorsLeftOut > 0)
@@ -122,7 +128,7 @@ PosixShellRunner::~PosixShellRunner() {
     endAll();
 }
 
-QString PosixShellRunner::outputWhenRunAsShellCommand(const QString& command) {
+CommandResult PosixShellRunner::run(const QString& command) {
     const std::string text = command.toStdString();
     ShellChild child;
     int failure = 0;
@@ -148,12 +154,12 @@ QString PosixShellRunner::outputWhenRunAsShellCommand(const QString& command) {
         fConsole.log(line);
     if (capture.overflowed())
         fConsole.log(QStringLiteral("Out of memory: the output of a shell command was cut off."));
-    leave(child.pid);
-    return capture.output();
+    const std::optional<int> exitStatus = leave(child.pid);
+    return {capture.output(), capture.errors(), exitStatus};
 }
 
 /// The shell is reaped under the lock, so that `endAll` never sees a number that is free again.
-void PosixShellRunner::leave(pid_t pid) {
+std::optional<int> PosixShellRunner::leave(pid_t pid) {
     siginfo_t ended{};
     const bool givenUp = [this] {
         pollfd giveUp{fGiveUp.get(), POLLIN, 0};
@@ -165,12 +171,16 @@ void PosixShellRunner::leave(pid_t pid) {
         }
     }
     const std::lock_guard lock(fMutex);
+    std::optional<int> exitStatus;
+    if (!givenUp && !fEnding)
+        exitStatus = ended.si_code == CLD_EXITED ? ended.si_status : cSignalled + ended.si_status;
     if (!fEnding) {
         reap(pid, 0);
         std::erase(fSessions, pid);
     }
     --fCallers;
     fLeft.notify_all();
+    return exitStatus;
 }
 
 void PosixShellRunner::endAll() {

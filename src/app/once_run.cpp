@@ -1,0 +1,129 @@
+// One pass with the real adapters and the cycle itself.
+#include "adapters/headless/headless_front.h"
+#include "adapters/posix/local_file_manager.h"
+#include "adapters/posix/posix_shell_runner.h"
+#include "adapters/posix/rotating_log_file.h"
+#include "adapters/posix/stream_console.h"
+#include "adapters/posix/thread_pool_queue.h"
+#include "adapters/qt/file_bundle.h"
+#include "adapters/qt/plist_defaults.h"
+#include "adapters/qt/qt_main_queue.h"
+#include "adapters/qt/signal_pipe.h"
+#include "app/factory_defaults.h"
+#include "app/once.h"
+#include "app/overlay_defaults.h"
+#include "app/pass_recording.h"
+#include "app/places.h"
+#include "ports/problem_alerts.h"
+#include "ports/status_messages.h"
+#include "remote/remote_host_validation.h"
+#include "support/preference_keys.h"
+#include "sync/rsync_command.h"
+#include "sync/sample_path.h"
+#include "sync/sync_cycle.h"
+
+#include <QCoreApplication>
+
+#include <csignal>
+
+namespace kelvo {
+namespace {
+
+/// Nobody looks at a status line or answers an alert here: the outcome says it all.
+class Silence final : public StatusMessages, public ProblemAlerts {
+public:
+    void updateStatusMessage(std::optional<QString>, StatusColor, bool) override {}
+    void showProblemWithBonjourClosure(const QString&, const QString&,
+                                       std::function<void(ModalResponse)>) override {}
+};
+
+/// The parts of one pass, each after those it works with.
+class OncePass {
+public:
+    OncePass() {
+        registerFactoryDefaults(fBundle, fStored, fConsole);
+        fSettings.setObject(prefEnableScanning, true);
+        fSettings.setObject(prefIsScanning, false);
+        for (const int signal : {SIGTERM, SIGINT})
+            fSignalled.push_back(fSignals.catchSignal(signal, [] { QCoreApplication::quit(); }));
+    }
+
+    ~OncePass() { end(); }
+
+    /// The record of the pass.
+    PassRecord run() {
+        // A tag that does not exist would end the program.
+        if (!optionStringForTag(fSettings.integerForKey(prefRsyncCommandOptionTag)))
+            return unableToRun();
+        fSamplePath.updateSampleString();
+        fMainQueue.async([this] {
+            if (fSettings.boolForKey(prefRsyncWithSSH))
+                fCycle.doSyncOnceBonjour();
+            else
+                fCycle.doSyncOnce();
+        });
+        QCoreApplication::exec();
+        end();
+        const std::lock_guard lock(fMutex);
+        return fRecord.value_or(interrupted());
+    }
+
+private:
+    void ended(const PassRecord& record) {
+        const std::lock_guard lock(fMutex);
+        fRecord = record;
+        fMainQueue.async([] { QCoreApplication::quit(); });
+    }
+
+    void end() {
+        fMainQueue.stop();
+        fShell.endAll();
+        fBgQueue.stopAndWait();
+    }
+
+    static PassRecord unableToRun() {
+        PassRecord record;
+        record.began = QDateTime::currentDateTimeUtc();
+        record.cause = PassCause::SettingsMissing;
+        return record;
+    }
+
+    static PassRecord interrupted() {
+        PassRecord record;
+        record.began = QDateTime::currentDateTimeUtc();
+        record.cause = PassCause::Interrupted;
+        return record;
+    }
+
+    std::mutex fMutex;
+    std::optional<PassRecord> fRecord;
+    RotatingLogFile fNoLogFile;
+    StreamConsole fConsole{-1, -1, fNoLogFile};
+    QtMainQueue fMainQueue;
+    SignalPipe fSignals;
+    std::vector<Subscription> fSignalled;
+    PlistDefaults fStored{settingsFile(), fMainQueue, fConsole};
+    OverlayDefaults fSettings{fStored};
+    LocalFileManager fFiles;
+    FileBundle fBundle{resourceFolder()};
+    PosixShellRunner fShell{fConsole};
+    ThreadPoolQueue fBgQueue;
+    PassRecording fPasses{fShell, fMainQueue, fConsole,
+                          [this](const PassRecord& record) { ended(record); }};
+    RsyncCommand fRsyncCommand{fSettings, fConsole};
+    SamplePath fSamplePath{fSettings, fMainQueue};
+    RemoteHostValidation fHostValidation{fSettings, fPasses.shell, fFiles, fConsole};
+    Silence fSilence;
+    HeadlessButton fStartButton{[](Control*) {}};
+    SyncCycle fCycle{{fSettings, fMainQueue, fBgQueue, fPasses.shell, fFiles, fConsole,
+                      fRsyncCommand, fHostValidation, fSilence, fSilence, fStartButton,
+                      &fPasses.journal}};
+};
+
+} // namespace
+
+CommandAnswer runOnce(bool json) {
+    return outcomeOf(OncePass().run(), json);
+}
+
+} // namespace kelvo

@@ -1,0 +1,16 @@
+// Where the program's files lie.
+#pragma once
+
+#include <QString>
+
+namespace kelvo {
+
+QString settingsFile();
+
+/// Beside bin/ in the build tree and installed alike.
+QString resourceFolder();
+
+/// The record of passes, in the user's state folder.
+QString passesFile();
+
+} // namespace kelvo

@@ -1,0 +1,46 @@
+// The commands that read and change settings from a terminal.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <variant>
+
+namespace kelvo {
+
+class UserDefaults;
+
+enum class SettingsVerb { Get, Set, Unset, List };
+
+struct SettingsRequest {
+    SettingsVerb verb = SettingsVerb::List;
+    QString key;
+    QString value;
+};
+
+/// What a command prints, and the program's exit code.
+struct CommandAnswer {
+    int exitCode = 0;
+    QString output; ///< for standard output
+    QString errors; ///< for standard error
+};
+
+inline constexpr int cExitNotSet = 1;
+inline constexpr int cExitNotStored = 1;
+inline constexpr int cExitBadSetting = 2;
+
+/// The request in `arguments` (the program's name first); a text when there is one that is not
+/// complete or not alone; nothing when there is none. A value may begin with "-".
+std::variant<std::monostate, SettingsRequest, QString>
+settingsRequest(const QStringList& arguments);
+
+/// Does what `request` says, for the keys of the preference table only. A value is checked against
+/// the type of its key before anything is changed.
+CommandAnswer answerSettings(const SettingsRequest& request, UserDefaults& defaults);
+
+/// The same on the settings file of this user, the factory values beneath; needs an application
+/// object. What could not be written to the file is an error.
+CommandAnswer runSettingsCommand(const SettingsRequest& request);
+
+} // namespace kelvo

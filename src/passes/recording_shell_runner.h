@@ -1,0 +1,24 @@
+// RecordingShellRunner: a shell runner that lets the journal know how each command ended.
+#pragma once
+
+#include "ports/shell_runner.h"
+
+namespace kelvo {
+
+class CommandRunner;
+class PassJournal;
+
+class RecordingShellRunner final : public ShellRunner {
+public:
+    /// Both outlive the runner.
+    RecordingShellRunner(CommandRunner& commands, PassJournal& journal)
+        : fCommands(commands), fJournal(journal) {}
+
+    QString outputWhenRunAsShellCommand(const QString& command) override;
+
+private:
+    CommandRunner& fCommands;
+    PassJournal& fJournal;
+};
+
+} // namespace kelvo

@@ -1,0 +1,142 @@
+#include "passes/rsync_statistics.h"
+
+#include <QList>
+#include <QString>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace kelvo {
+namespace {
+
+/// The number at the beginning of `text`, however rsync writes it: "1234", "1,234", "1.23M".
+std::optional<qint64> rsyncNumber(QStringView text) {
+    QString digits;
+    qsizetype at = 0;
+    for (; at < text.size() && (text[at].isDigit() || text[at] == u',' || text[at] == u'.'); ++at)
+        digits += text[at];
+    if (digits.isEmpty())
+        return std::nullopt;
+    const qsizetype power = at < text.size() ? QStringView(u"KMGTP").indexOf(text[at]) + 1 : 0;
+    bool valid = false;
+    if (power > 0) {
+        const double value = digits.replace(u',', u'.').toDouble(&valid);
+        const double bytes = std::round(value * std::pow(1000.0, static_cast<double>(power)));
+        return valid && bytes < 9e18 ? std::optional(static_cast<qint64>(bytes)) : std::nullopt;
+    }
+    const qint64 value = digits.remove(u',').remove(u'.').toLongLong(&valid);
+    return valid ? std::optional(value) : std::nullopt;
+}
+
+std::optional<qint64> figureAfter(QStringView line, std::initializer_list<QStringView> labels) {
+    for (const QStringView label : labels) {
+        if (line.startsWith(label))
+            return rsyncNumber(line.sliced(label.size()).trimmed());
+    }
+    return std::nullopt;
+}
+
+/// Whether `command` asks rsync to print a name for each file.
+bool printsNames(QStringView command) {
+    for (const QStringView word : command.split(u' ', Qt::SkipEmptyParts)) {
+        if (word.startsWith(u"--verbose") || word.startsWith(u"--out-format") ||
+            word.startsWith(u"--itemize-changes") || word.startsWith(u"--progress"))
+            return true;
+        const bool shortOptions = word.size() > 1 && word[0] == u'-' && word[1].isLetter();
+        if (!shortOptions)
+            continue;
+        // What follows the letter of -e and -f is their value.
+        const auto end = std::find_if(word.begin() + 1, word.end(),
+                                      [](QChar c) { return c == u'e' || c == u'f'; });
+        if (std::any_of(word.begin() + 1, end,
+                        [](QChar c) { return c == u'v' || c == u'i' || c == u'P'; }))
+            return true;
+    }
+    return false;
+}
+
+/// Lines that rsync prints among the names, and that name no file that came.
+bool isRemark(QStringView line) {
+    static constexpr auto cBeginnings =
+        std::to_array<QStringView>({u"rsync: ",
+                                    u"rsync error:",
+                                    u"rsync warning:",
+                                    u"receiving ",
+                                    u"sent ",
+                                    u"total size ",
+                                    u"created ",
+                                    u"delta-",
+                                    u"skipping ",
+                                    u"file has vanished:",
+                                    u"IO error ",
+                                    u"ssh: ",
+                                    u"deleting ",
+                                    u"building file list",
+                                    u"sending incremental",
+                                    u"Warning: ",
+                                    u"Connection ",
+                                    u"Number of regular files transferred:",
+                                    u"Total transferred file size:",
+                                    u"cd+++",
+                                    u".d"});
+    return std::ranges::any_of(cBeginnings,
+                               [line](QStringView begin) { return line.startsWith(begin); });
+}
+
+bool isName(QStringView line) {
+    // A folder ends in "/"; rsync's progress lines begin with blanks.
+    return !line.isEmpty() && !line[0].isSpace() && !line.endsWith(u'/') && !isRemark(line);
+}
+
+} // namespace
+
+Brought broughtBy(QStringView command, QStringView output) {
+    Brought statistics;
+    std::optional<qint64> received;
+    qint64 names = 0;
+    for (qsizetype begin = 0; begin < output.size();) {
+        qsizetype end = output.indexOf(u'\n', begin);
+        if (end < 0)
+            end = output.size();
+        QStringView line = output.sliced(begin, end - begin);
+        begin = end + 1;
+        if (line.endsWith(u'\r'))
+            line.chop(1);
+        if (const auto files = figureAfter(
+                line, {u"Number of regular files transferred:", u"Number of files transferred:"})) {
+            statistics.files = files;
+            statistics.source = BroughtSource::Statistics;
+        } else if (const auto bytes = figureAfter(line, {u"Total transferred file size:"})) {
+            statistics.bytes = bytes;
+            statistics.source = BroughtSource::Statistics;
+        } else if (line.startsWith(u"sent ")) {
+            const qsizetype at = line.indexOf(u"received ");
+            if (at >= 0)
+                received = rsyncNumber(line.sliced(at + 9));
+        } else if (isName(line)) {
+            ++names;
+        }
+    }
+    if (statistics.source == BroughtSource::Statistics)
+        return statistics;
+    if (printsNames(command))
+        return {BroughtSource::Lines, names, received};
+    return {};
+}
+
+Brought sumOf(const Brought& left, const Brought& right) {
+    if (left.source == BroughtSource::Unknown)
+        return right;
+    if (right.source == BroughtSource::Unknown)
+        return left;
+    const auto sum = [](std::optional<qint64> a, std::optional<qint64> b) {
+        qint64 total = 0;
+        return a && b && !__builtin_add_overflow(*a, *b, &total) ? std::optional(total)
+                                                                 : std::nullopt;
+    };
+    return {std::max(left.source, right.source), sum(left.files, right.files),
+            sum(left.bytes, right.bytes)};
+}
+
+} // namespace kelvo

@@ -1,0 +1,26 @@
+// CommandRunner: runs one shell command line and tells everything about its end.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace kelvo {
+
+struct CommandResult {
+    QString output; ///< as ShellRunner returns it
+    QString errors; ///< the first 64 KiB of the error output
+    /// As a shell reports it: 126 for a command that could not be started, 128 + n for an end by
+    /// signal n. Nothing when the command was given up because the program is quitting.
+    std::optional<int> exitStatus;
+};
+
+class CommandRunner {
+public:
+    virtual ~CommandRunner() = default;
+
+    /// As ShellRunner::outputWhenRunAsShellCommand, the rules for threads and memory included.
+    virtual CommandResult run(const QString& command) = 0;
+};
+
+} // namespace kelvo

@@ -1,0 +1,88 @@
+// PassRecord: what one pass did, command by command, as it is kept and shown.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace kelvo {
+
+enum class PassKind { Plain, Remote };
+
+/// Why a pass went the way it did. The numbers are stored: a new cause gets a new one.
+enum class PassCause {
+    Well = 0,
+    HostNotFound = 1,
+    HostAway = 2,
+    RemoteLoginOff = 3,
+    HostKeyUnknown = 4,
+    HostKeyChanged = 5,
+    KeyRefused = 6,
+    KeyMissing = 7,
+    WrongUser = 8,
+    RsyncMissingThere = 9,
+    RsyncTooOldThere = 10,
+    SourceMissing = 11,
+    SourceNotPermitted = 12,
+    DiskFull = 13,
+    DestinationUnusable = 14, ///< missing, or not writable
+    FilesVanished = 15,
+    FilesNotTaken = 16,
+    CutOff = 17, ///< the transfer began and then stood still or lost its connection
+    ToolMissingHere = 18,
+    CommandNotUnderstood = 19, ///< rsync here refused the command line
+    SettingsMissing = 20,
+    Interrupted = 21, ///< the program ended the commands
+    LoginTalks = 22,  ///< the host prints text at login, which hides its answer
+    Unknown = 23,
+};
+
+/// A long text's beginning and end.
+struct CapturedText {
+    QString head;       ///< the whole text when nothing is left out
+    QString tail;       ///< empty when nothing is left out
+    qint64 leftOut = 0; ///< bytes between the two, as UTF-8
+};
+
+/// How it is known what a command brought.
+enum class BroughtSource {
+    Unknown = 0,    ///< the command did not say
+    Statistics = 1, ///< rsync's own figures
+    Lines = 2,      ///< names that rsync printed were counted
+};
+
+struct Brought {
+    BroughtSource source = BroughtSource::Unknown;
+    std::optional<qint64> files;
+    std::optional<qint64> bytes;
+};
+
+enum class CommandRole { HostCheck = 0, Pull = 1 };
+
+struct CommandRecord {
+    CommandRole role = CommandRole::Pull;
+    QString command;
+    /// As a shell reports it: 126 for a command that could not be started, 128 + n for an end by
+    /// signal n. Nothing when the command was given up at the quit.
+    std::optional<int> exitStatus;
+    double seconds = 0;
+    CapturedText text; ///< standard output, then what else the command wrote to the error stream
+    Brought brought;
+};
+
+struct PassRecord {
+    qint64 id = 0;   ///< given by the store; 0 before
+    QDateTime began; ///< UTC
+    double seconds = 0;
+    PassKind kind = PassKind::Plain;
+    QString verdict; ///< of the host check; empty for a plain pass
+    PassCause cause = PassCause::Unknown;
+    QString lastLine; ///< the last line of the command that decided the cause; may be empty
+    /// The sum of what the commands said; `source` is Unknown when none of them did.
+    Brought brought;
+    std::vector<CommandRecord> commands;
+};
+
+} // namespace kelvo

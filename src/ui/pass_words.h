@@ -1,0 +1,49 @@
+// What people and scripts read about a pass: a sentence, a next step, figures.
+#pragma once
+
+#include "support/pass_record.h"
+
+#include <QString>
+
+namespace kelvo {
+
+/// Causes that call for the same kind of help.
+enum class CauseGroup {
+    Well,
+    Host,
+    HostKey,
+    Login,
+    RemoteSide,
+    ThisSide,
+    Incomplete,
+    CutOff,
+    Settings,
+    Interrupted,
+    Unknown
+};
+
+struct CauseWords {
+    QStringView name;     ///< for scripts; never changes
+    QStringView sentence; ///< what is the matter
+    QStringView nextStep; ///< what to do; empty when all is well
+    CauseGroup group;
+};
+
+CauseWords wordsFor(PassCause cause);
+
+/// The sentence, with the last line behind it where the cause alone says too little.
+QString sentenceFor(const PassRecord& pass);
+
+/// "3 files", "1 file", "nothing new"; "files unknown" when the commands did not say.
+QString filesText(const Brought& brought);
+
+/// "40.0 kB"; empty when it is not known or nothing.
+QString sizeText(const Brought& brought);
+
+/// "4 s", "2 min 5 s", "3 h 20 min".
+QString secondsText(double seconds);
+
+/// "just now", "4 minutes ago", "3 days ago".
+QString agoText(double seconds);
+
+} // namespace kelvo

@@ -1,0 +1,239 @@
+// The record of passes on disk: limits, damage, locks, full disks, two programs.
+#include "adapters/qt/sqlite_pass_store.h"
+#include "fakes/recording_console.h"
+#include "fakes/virtual_queues.h"
+#include "support/wait_until.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sched.h>
+#include <sys/mount.h>
+
+#include <thread>
+
+namespace kelvo {
+namespace {
+
+PassRecord numbered(int number) {
+    PassRecord record;
+    record.began = QDateTime::fromMSecsSinceEpoch(number, Qt::UTC);
+    record.lastLine = QString::number(number);
+    record.commands.push_back({});
+    return record;
+}
+
+class SqlitePassStoreTest : public ::testing::Test {
+protected:
+    std::unique_ptr<SqlitePassStore> openStore(int most = 1000) {
+        return std::make_unique<SqlitePassStore>(path, mainQueue, console, most);
+    }
+
+    QStringList lines(SqlitePassStore& store) {
+        std::optional<QStringList> answer;
+        store.readAll([&](const std::vector<PassRecord>& records) {
+            answer.emplace();
+            for (const PassRecord& record : records)
+                answer->append(record.lastLine);
+        });
+        EXPECT_TRUE(waitUntil([&] {
+            mainQueue.runDue();
+            return answer.has_value();
+        }));
+        return answer.value_or(QStringList());
+    }
+
+    qsizetype logged(const QString& part) const { return console.logged().filter(part).size(); }
+
+    QStringList setAside() const {
+        return QDir(folder.path()).entryList({QStringLiteral("passes.sqlite.corrupt-*")});
+    }
+
+    /// Runs `statements` as another program would, on a connection of its own.
+    void asOther(const QStringList& statements) const {
+        {
+            auto other = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"),
+                                                   QStringLiteral("other program"));
+            other.setDatabaseName(path);
+            ASSERT_TRUE(other.open());
+            for (const QString& statement : statements) {
+                QSqlQuery query(other);
+                ASSERT_TRUE(query.exec(statement)) << statement.toUtf8().constData();
+            }
+        }
+        QSqlDatabase::removeDatabase(QStringLiteral("other program"));
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("passes.sqlite"));
+    VirtualMainQueue mainQueue;
+    RecordingConsole console;
+};
+
+TEST_F(SqlitePassStoreTest, Records_AreThereInTheNextRun) {
+    openStore()->append(numbered(1));
+    EXPECT_EQ(lines(*openStore()), QStringList{QStringLiteral("1")});
+    EXPECT_TRUE(console.logged().isEmpty());
+}
+
+TEST_F(SqlitePassStoreTest, File_IsPrivate) {
+    path = folder.filePath(QStringLiteral("state/passes.sqlite"));
+    openStore()->append(numbered(1));
+    const auto others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
+    EXPECT_FALSE(QFile::permissions(path) & others);
+    EXPECT_FALSE(QFile::permissions(QFileInfo(path).path()) & others);
+}
+
+TEST_F(SqlitePassStoreTest, TooMany_DropsTheOldestWithTheirCommands) {
+    {
+        const auto store = openStore(5);
+        for (int i = 1; i <= 8; ++i)
+            store->append(numbered(i));
+        EXPECT_EQ(lines(*store).join(u' '), QStringLiteral("8 7 6 5 4"));
+    }
+    asOther(
+        {QStringLiteral("CREATE TABLE counted AS SELECT count(*) AS n FROM command"),
+         QStringLiteral("INSERT INTO pass SELECT 100, 0, 0, 0, '', 0, n, 0, 0, 0 FROM counted")});
+    EXPECT_EQ(lines(*openStore()).constFirst(), QStringLiteral("5"));
+}
+
+TEST_F(SqlitePassStoreTest, FileThatIsNoDatabase_IsKeptAsideAndSaid) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("these are my holiday notes, not a database\n");
+    file.close();
+    const auto store = openStore();
+    store->append(numbered(1));
+    EXPECT_EQ(lines(*store), QStringList{QStringLiteral("1")});
+    ASSERT_EQ(setAside().size(), 1);
+    EXPECT_EQ(logged(QStringLiteral("was damaged")), 1);
+    QFile kept(folder.filePath(setAside().constFirst()));
+    ASSERT_TRUE(kept.open(QFile::ReadOnly));
+    EXPECT_TRUE(kept.readAll().startsWith("these are my"));
+}
+
+TEST_F(SqlitePassStoreTest, DamageInTheMiddle_IsKeptAsideToo) {
+    {
+        const auto store = openStore();
+        for (int i = 0; i < 200; ++i)
+            store->append(numbered(i));
+        EXPECT_EQ(lines(*store).size(), 200);
+    }
+    QFile file(path);
+    ASSERT_TRUE(file.open(QFile::ReadWrite));
+    ASSERT_GT(file.size(), 8192);
+    file.seek(4096);
+    file.write(QByteArray(static_cast<qsizetype>(file.size()) - 4096, '\x5a'));
+    file.close();
+    const auto store = openStore();
+    store->append(numbered(1000));
+    EXPECT_EQ(lines(*store), QStringList{QStringLiteral("1000")});
+    EXPECT_EQ(setAside().size(), 1);
+}
+
+TEST_F(SqlitePassStoreTest, FileOfANewerProgram_IsLeftAlone) {
+    openStore()->append(numbered(1));
+    asOther({QStringLiteral("PRAGMA user_version = 99")});
+    const auto store = openStore();
+    store->append(numbered(2));
+    EXPECT_TRUE(lines(*store).isEmpty());
+    EXPECT_EQ(logged(QStringLiteral("a newer Kelvo Mirror")), 1);
+    EXPECT_TRUE(setAside().isEmpty());
+}
+
+TEST_F(SqlitePassStoreTest, PlaceThatCannotBeWritten_IsSaidOnceAndMadeGoodLater) {
+    path = folder.filePath(QStringLiteral("occupied/passes.sqlite"));
+    QFile occupied(folder.filePath(QStringLiteral("occupied")));
+    ASSERT_TRUE(occupied.open(QFile::WriteOnly));
+    occupied.close();
+    const auto store = openStore();
+    std::vector<PassRecord> told;
+    const auto subscription =
+        store->observe([&](const PassRecord& record) { told.push_back(record); });
+    for (int i = 1; i <= 3; ++i)
+        store->append(numbered(i));
+    EXPECT_TRUE(lines(*store).isEmpty());
+    EXPECT_EQ(logged(QStringLiteral("set aside for now")), 1);
+    EXPECT_EQ(told.size(), 3U) << "people see the pass even when it cannot be kept";
+    ASSERT_TRUE(occupied.remove());
+    store->append(numbered(4));
+    EXPECT_EQ(lines(*store).join(u' '), QStringLiteral("4 3 2 1"));
+    EXPECT_EQ(logged(QStringLiteral("works again")), 1);
+    EXPECT_EQ(told.size(), 4U);
+}
+
+TEST_F(SqlitePassStoreTest, LockedFile_CostsTheCallerNothingAndLosesNothing) {
+    openStore()->append(numbered(1));
+    {
+        auto other = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("locker"));
+        other.setDatabaseName(path);
+        ASSERT_TRUE(other.open());
+        QSqlQuery query(other);
+        ASSERT_TRUE(query.exec(QStringLiteral("BEGIN EXCLUSIVE")));
+        const auto store = openStore();
+        const auto before = std::chrono::steady_clock::now();
+        store->append(numbered(2));
+        EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::milliseconds(100));
+        EXPECT_TRUE(waitUntil([&] { return logged(QStringLiteral("set aside for now")) == 1; },
+                              std::chrono::seconds(10)));
+        ASSERT_TRUE(query.exec(QStringLiteral("COMMIT")));
+        store->append(numbered(3));
+        EXPECT_EQ(lines(*store).join(u' '), QStringLiteral("3 2 1"));
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("locker"));
+}
+
+TEST_F(SqlitePassStoreTest, TwoPrograms_ShareOneFile) {
+    const auto left = openStore();
+    const auto right = openStore();
+    for (int i = 0; i < 50; ++i) {
+        left->append(numbered(i));
+        right->append(numbered(i));
+    }
+    EXPECT_TRUE(waitUntil([&] { return lines(*left).size() == 100; }, std::chrono::seconds(10)));
+    EXPECT_EQ(lines(*right).size(), 100);
+    EXPECT_TRUE(console.logged().isEmpty()) << console.logged().join(u'\n').toStdString();
+}
+
+TEST_F(SqlitePassStoreTest, FullDisk_KeepsRecordsInMemoryUntilThereIsRoom) {
+    bool able = false;
+    // Mounts of a thread that has left the others' view are nobody else's.
+    std::thread([&] {
+        const QByteArray target = QFile::encodeName(folder.path());
+        able = ::unshare(CLONE_NEWNS) == 0 &&
+               ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+               ::mount("small", target.constData(), "tmpfs", 0, "size=256k") == 0;
+        if (!able)
+            return;
+        const auto store = openStore();
+        store->append(numbered(1));
+        EXPECT_EQ(lines(*store).size(), 1);
+        QFile filler(folder.filePath(QStringLiteral("filler")));
+        ASSERT_TRUE(filler.open(QFile::WriteOnly | QFile::Unbuffered));
+        while (filler.write(QByteArray(4096, 'x')) == 4096) {
+        }
+        PassRecord large = numbered(2);
+        QString noise;
+        for (quint32 i = 0, seed = 1; i < 30000; ++i, seed = seed * 1664525 + 1013904223)
+            noise += QChar(u'!' + static_cast<char16_t>(seed >> 25));
+        large.commands.front().text.head = noise;
+        store->append(large);
+        EXPECT_EQ(lines(*store).size(), 1);
+        EXPECT_EQ(logged(QStringLiteral("set aside for now")), 1);
+        ASSERT_TRUE(filler.remove());
+        store->append(numbered(3));
+        EXPECT_EQ(lines(*store).join(u' '), QStringLiteral("3 2 1"));
+        EXPECT_TRUE(setAside().isEmpty()) << "a full disk is no damage";
+    }).join();
+    if (!able)
+        GTEST_SKIP() << "root is needed for a small disk";
+}
+
+} // namespace
+} // namespace kelvo

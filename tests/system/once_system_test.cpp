@@ -1,0 +1,133 @@
+// One pass and the settings from a terminal: the built program, real rsync between two folders.
+#include "support/program_profile.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+const QString cProgram = QStringLiteral(KELVO_PROGRAM);
+
+class OnceSystemTest : public ::testing::Test, public ProgramProfile {
+protected:
+    struct Ended {
+        int code;
+        QByteArray output;
+        QByteArray errors;
+    };
+
+    Ended run(const QStringList& arguments) const {
+        QProcess process;
+        process.setProcessEnvironment(environment());
+        process.setStandardInputFile(QProcess::nullDevice());
+        process.start(cProgram, arguments);
+        process.waitForFinished();
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    Ended once() const { return run({QStringLiteral("--once"), QStringLiteral("--json")}); }
+
+    static QJsonObject object(const Ended& ended) {
+        return QJsonDocument::fromJson(ended.output).object();
+    }
+
+    void writeProfile(const QString& key = {}, const QVariant& value = {}) const {
+        QVariantMap profile = plainProfile();
+        if (!key.isEmpty())
+            profile[key] = value;
+        write(settingsFile(), plistText(profile));
+    }
+};
+
+TEST_F(OnceSystemTest, OnePass_BringsTheFilesAndTellsSo) {
+    writeProfile();
+    write(path(QStringLiteral("Camera/a.mov")), QByteArray(5000, 'a'));
+    write(path(QStringLiteral("Incoming/kept.txt")), "mine");
+    const QByteArray settings = contents(settingsFile());
+    const Ended ended = once();
+    EXPECT_EQ(ended.code, 0) << ended.errors.constData();
+    EXPECT_EQ(ended.errors, "");
+    EXPECT_EQ(object(ended).value(u"cause"), QStringLiteral("well"));
+    EXPECT_EQ(object(ended).value(u"files"), 1);
+    EXPECT_EQ(object(ended).value(u"bytes"), 5000);
+    EXPECT_EQ(contents(path(QStringLiteral("Incoming/a.mov"))).size(), 5000);
+    EXPECT_EQ(contents(settingsFile()), settings) << "flags and texts stay in the process";
+    EXPECT_TRUE(QFile::exists(path(QStringLiteral("state/kelvo-mirror/passes.sqlite"))));
+}
+
+TEST_F(OnceSystemTest, MissingSource_IsNamed) {
+    writeProfile(QStringLiteral("prefPath1"), path(QStringLiteral("unplugged")));
+    write(path(QStringLiteral("Incoming/kept.txt")), "mine");
+    const Ended ended = once();
+    EXPECT_EQ(ended.code, 13);
+    EXPECT_EQ(object(ended).value(u"cause"), QStringLiteral("source-missing"));
+    EXPECT_FALSE(object(ended).value(u"nextStep").toString().isEmpty());
+}
+
+TEST_F(OnceSystemTest, NothingSet_IsNamedForPeople) {
+    const Ended ended = run({QStringLiteral("--once")});
+    EXPECT_EQ(ended.code, 17);
+    EXPECT_TRUE(ended.output.contains("\nNext step: ")) << ended.output.constData();
+}
+
+TEST_F(OnceSystemTest, TagThatDoesNotExist_IsNoCrash) {
+    writeProfile(QStringLiteral("prefRsyncCommandOptionTag"), 7);
+    EXPECT_EQ(once().code, 17);
+}
+
+TEST_F(OnceSystemTest, AskedToEnd_EndsItsCommandsAndSaysInterrupted) {
+    writeProfile(QStringLiteral("prefRsyncCommandString1"),
+                 QStringLiteral("echo begun > '%1'; sleep 60").arg(path(QStringLiteral("mark"))));
+    QProcess process;
+    process.setProcessEnvironment(environment());
+    process.start(cProgram, {QStringLiteral("--once"), QStringLiteral("--json")});
+    for (int i = 0; i < 600 && !QFile::exists(path(QStringLiteral("mark"))); ++i)
+        process.waitForFinished(50);
+    process.terminate();
+    ASSERT_TRUE(process.waitForFinished(20000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 18);
+    EXPECT_TRUE(process.readAllStandardOutput().contains("\"interrupted\""));
+}
+
+TEST_F(OnceSystemTest, Settings_AreChangedAndReadFromATerminal) {
+    const QString key = QStringLiteral("prefDelayBetweenScans");
+    EXPECT_EQ(run({QStringLiteral("--get"), key}).output, "30\n") << "the factory value";
+    EXPECT_EQ(run({QStringLiteral("--set"), key, QStringLiteral("-1.5")}).code, 0);
+    EXPECT_EQ(run({QStringLiteral("--get"), key}).output, "-1.5\n");
+    EXPECT_EQ(run({QStringLiteral("--set"), key, QStringLiteral("often")}).code, 2);
+    EXPECT_EQ(run({QStringLiteral("--get"), key}).output, "-1.5\n");
+    EXPECT_EQ(object(run({QStringLiteral("--settings")})).value(key), -1.5);
+    EXPECT_EQ(run({QStringLiteral("--unset"), key}).code, 0);
+    EXPECT_EQ(run({QStringLiteral("--get"), key}).output, "30\n");
+    const Ended unset = run({QStringLiteral("--get"), QStringLiteral("prefPath1")});
+    EXPECT_EQ(unset.code, 1);
+    EXPECT_EQ(unset.output, "");
+    EXPECT_TRUE(unset.errors.contains("prefPath1 is not set"));
+}
+
+TEST_F(OnceSystemTest, SettingsThatCannotBeStored_AreAnError) {
+    write(path(QStringLiteral("config")), "a file where the folder should be");
+    const Ended ended =
+        run({QStringLiteral("--set"), QStringLiteral("prefPath1"), QStringLiteral("/a")});
+    EXPECT_EQ(ended.code, 1);
+    EXPECT_TRUE(ended.errors.contains("could not be stored")) << ended.errors.constData();
+}
+
+TEST_F(OnceSystemTest, CrowdedCommandLines_AreRefused) {
+    for (const QStringList& arguments :
+         {QStringList{QStringLiteral("--once"), QStringLiteral("--headless")},
+          QStringList{QStringLiteral("--json")}, QStringList{QStringLiteral("--set=a")},
+          QStringList{QStringLiteral("--once"), QStringLiteral("--get"), QStringLiteral("a")},
+          QStringList{QStringLiteral("--get")}})
+        EXPECT_EQ(run(arguments).code, 2) << arguments.join(u' ').toStdString();
+    EXPECT_FALSE(QFile::exists(settingsFile()));
+}
+
+} // namespace
+} // namespace kelvo

@@ -1,0 +1,101 @@
+#include "app/once.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+constexpr int cCauses = static_cast<int>(PassCause::Unknown) + 1;
+
+PassRecord passWith(PassCause cause) {
+    PassRecord pass;
+    pass.kind = PassKind::Remote;
+    pass.verdict = QStringLiteral("valid");
+    pass.seconds = 65.2;
+    pass.cause = cause;
+    pass.brought = {BroughtSource::Statistics, 3, 430659};
+    return pass;
+}
+
+TEST(PassWordsTest, EveryCause_HasItsOwnNameSentenceAndNextStep) {
+    QSet<QString> names;
+    QSet<QString> sentences;
+    for (int i = 0; i < cCauses; ++i) {
+        const auto words = wordsFor(static_cast<PassCause>(i));
+        names.insert(words.name.toString());
+        sentences.insert(words.sentence.toString());
+        EXPECT_TRUE(words.sentence.endsWith(u'.')) << i;
+        EXPECT_EQ(words.nextStep.isEmpty(), words.group == CauseGroup::Well) << i;
+    }
+    EXPECT_EQ(names.size(), cCauses);
+    EXPECT_EQ(sentences.size(), cCauses);
+}
+
+TEST(PassWordsTest, UnknownCause_IsToldInTheCommandsOwnWords) {
+    PassRecord pass = passWith(PassCause::Unknown);
+    EXPECT_EQ(sentenceFor(pass), QStringLiteral("Something went wrong."));
+    pass.lastLine = QStringLiteral("closed today");
+    EXPECT_TRUE(sentenceFor(pass).endsWith(QStringLiteral("closed today")));
+}
+
+TEST(PassWordsTest, Figures_ReadWell) {
+    EXPECT_EQ(filesText({BroughtSource::Lines, 1, {}}), QStringLiteral("1 file"));
+    EXPECT_EQ(filesText({BroughtSource::Lines, 0, {}}), QStringLiteral("nothing new"));
+    EXPECT_EQ(filesText({}), QStringLiteral("files unknown"));
+    EXPECT_EQ(sizeText({BroughtSource::Statistics, 1, 40000}), QStringLiteral("40.0 kB"));
+    EXPECT_EQ(sizeText({}), QString());
+    EXPECT_EQ(secondsText(4.4), QStringLiteral("4 s"));
+    EXPECT_EQ(secondsText(125), QStringLiteral("2 min 5 s"));
+    EXPECT_EQ(secondsText(12000), QStringLiteral("3 h 20 min"));
+    EXPECT_EQ(secondsText(-1), QStringLiteral("0 s"));
+    EXPECT_EQ(agoText(59), QStringLiteral("just now"));
+    EXPECT_EQ(agoText(60), QStringLiteral("1 minute ago"));
+    EXPECT_EQ(agoText(4 * 3600), QStringLiteral("4 hours ago"));
+    EXPECT_EQ(agoText(49 * 3600), QStringLiteral("2 days ago"));
+}
+
+TEST(OnceTest, ExitCode_IsOneForEachGroupAndZeroOnlyWhenWell) {
+    QSet<int> codes;
+    QSet<int> groups;
+    for (int i = 0; i < cCauses; ++i) {
+        const auto cause = static_cast<PassCause>(i);
+        const int code = outcomeOf(passWith(cause), false).exitCode;
+        EXPECT_EQ(code == 0, cause == PassCause::Well) << i;
+        EXPECT_TRUE(code != 2 && code != 3) << "those mean something else already";
+        codes.insert(code);
+        groups.insert(static_cast<int>(wordsFor(cause).group));
+    }
+    EXPECT_EQ(codes.size(), groups.size());
+}
+
+TEST(OnceTest, Lines_TellOutcomeAndNextStep) {
+    EXPECT_EQ(outcomeOf(passWith(PassCause::Well), false).output,
+              QStringLiteral("All is well. (3 files, 430.7 kB, 1 min 5 s)\n"));
+    const QString trouble = outcomeOf(passWith(PassCause::HostAway), false).output;
+    EXPECT_TRUE(trouble.startsWith(QStringLiteral("The Mac is away or asleep. (")));
+    EXPECT_TRUE(trouble.contains(QStringLiteral("\nNext step: Wake the Mac")));
+}
+
+TEST(OnceTest, Json_IsOneObjectOnOneLine) {
+    PassRecord pass = passWith(PassCause::DiskFull);
+    pass.brought.bytes.reset();
+    pass.lastLine = QStringLiteral("a \"line\"\nwith ends");
+    const auto answer = outcomeOf(pass, true);
+    EXPECT_EQ(answer.output.count(u'\n'), 1);
+    const QJsonObject object = QJsonDocument::fromJson(answer.output.toUtf8()).object();
+    EXPECT_EQ(object.value(u"verdict"), QStringLiteral("valid"));
+    EXPECT_EQ(object.value(u"cause"), QStringLiteral("disk-full"));
+    EXPECT_FALSE(object.value(u"nextStep").toString().isEmpty());
+    EXPECT_EQ(object.value(u"files"), 3);
+    EXPECT_TRUE(object.value(u"bytes").isNull());
+    EXPECT_EQ(object.value(u"seconds"), 65.2);
+    EXPECT_EQ(object.value(u"exitCode"), answer.exitCode);
+    EXPECT_EQ(object.value(u"lastLine"), pass.lastLine);
+}
+
+} // namespace
+} // namespace kelvo

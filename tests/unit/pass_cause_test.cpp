@@ -1,0 +1,210 @@
+#include "passes/captured_text.h"
+#include "passes/pass_cause.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string>
+
+namespace kelvo {
+namespace {
+
+using enum PassCause;
+
+/// What tests/lab/record-texts recorded, and what each text means.
+const std::map<std::string, PassCause> cRecorded{
+    {"command-not-understood", CommandNotUnderstood},
+    {"cut-off", CutOff},
+    {"cut-off-by-host", CutOff},
+    {"destination-is-file", DestinationUnusable},
+    {"destination-missing", DestinationUnusable},
+    {"destination-read-only", DestinationUnusable},
+    {"disk-full", DiskFull},
+    {"files-not-taken", FilesNotTaken},
+    {"files-vanished", FilesVanished},
+    {"folder-not-permitted", SourceNotPermitted},
+    {"host-away", HostAway},
+    {"host-key-changed", HostKeyChanged},
+    {"host-key-unknown", HostKeyUnknown},
+    {"host-not-found", HostNotFound},
+    {"host-unreachable", HostAway},
+    {"key-missing", KeyMissing},
+    {"key-refused", KeyRefused},
+    {"key-too-open", KeyRefused},
+    {"login-closed", Unknown},
+    {"login-talks", LoginTalks},
+    {"plain-source-missing", SourceMissing},
+    {"plain-well", Well},
+    {"remote-login-off", RemoteLoginOff},
+    {"remote-login-off-between", RemoteLoginOff},
+    {"rsync-missing-there", RsyncMissingThere},
+    {"rsync-too-old-there", RsyncTooOldThere},
+    {"source-missing", SourceMissing},
+    {"source-not-permitted", SourceNotPermitted},
+    {"template-missing", ToolMissingHere},
+    {"tool-missing-here", ToolMissingHere},
+    {"user-unknown", KeyRefused},
+    {"well", Well},
+    {"wrong-user", WrongUser},
+};
+
+CommandRecord recorded(const std::filesystem::path& path) {
+    std::ifstream in(path);
+    std::string role;
+    std::string status;
+    std::string empty;
+    std::getline(in, role);
+    std::getline(in, status);
+    std::getline(in, empty);
+    const std::string text{std::istreambuf_iterator<char>(in), {}};
+    CommandRecord command;
+    command.role = role == "role: check" ? CommandRole::HostCheck : CommandRole::Pull;
+    command.exitStatus = std::stoi(status.substr(std::string("status: ").size()));
+    command.text = capturedText(QString::fromStdString(text));
+    return command;
+}
+
+CommandRecord ended(CommandRole role, std::optional<int> status, const QString& text) {
+    CommandRecord command;
+    command.role = role;
+    command.exitStatus = status;
+    command.text = capturedText(text);
+    return command;
+}
+
+TEST(PassCauseTest, EveryRecordedText_HasItsCause) {
+    std::size_t seen = 0;
+    for (const auto& file : std::filesystem::directory_iterator(KELVO_TEXTS)) {
+        const std::string name = file.path().stem();
+        if (name == "check-well")
+            continue; // judged by its answer, not by its text
+        const auto meaning = cRecorded.find(name);
+        ASSERT_NE(meaning, cRecorded.end()) << name << " has no meaning in the table";
+        EXPECT_EQ(causeOf(recorded(file.path())).cause, meaning->second) << name;
+        ++seen;
+    }
+    EXPECT_EQ(seen, cRecorded.size()) << "texts are missing";
+}
+
+TEST(PassCauseTest, EveryCause_HasAText) {
+    std::map<PassCause, int> texts;
+    for (const auto& [name, cause] : cRecorded)
+        ++texts[cause];
+    for (int i = 0; i <= static_cast<int>(Unknown); ++i) {
+        const auto cause = static_cast<PassCause>(i);
+        if (cause == SettingsMissing || cause == Interrupted)
+            continue; // told by the record itself
+        EXPECT_GE(texts[cause], 1) << "cause " << i;
+    }
+}
+
+TEST(PassCauseTest, MacOfAnotherAge_IsUnderstoodToo) {
+    const auto pull = [](int status, const char* text) {
+        return causeOf(ended(CommandRole::Pull, status, QString::fromUtf8(text))).cause;
+    };
+    EXPECT_EQ(pull(23, "rsync: opendir \"/Users/x/Movies\" failed: Operation not permitted (1)\n"),
+              SourceNotPermitted);
+    EXPECT_EQ(
+        pull(23, "rsync: change_dir \"/Volumes/Out\" failed: No such file or directory (2)\n"),
+        SourceMissing);
+    EXPECT_EQ(pull(30, "nothing that is known\n"), CutOff);
+    EXPECT_EQ(pull(77, "nothing that is known\n"), Unknown);
+    EXPECT_EQ(pull(143, ""), Unknown);
+}
+
+TEST(PassCauseTest, NameOfAFile_IsNoMessage) {
+    const QString names = QStringLiteral("Host key verification failed.mov\n"
+                                         "a: No space left on device (28).mov\n");
+    EXPECT_EQ(causeOf(ended(CommandRole::Pull, 0, names)).cause, Well);
+    EXPECT_EQ(causeOf(ended(CommandRole::Pull, 24,
+                            QString(names + u"rsync warning: some files vanished")))
+                  .cause,
+              FilesVanished);
+}
+
+TEST(PassCauseTest, UnknownText_KeepsItsLastLine) {
+    const auto named = causeOf(
+        ended(CommandRole::HostCheck, 1, QStringLiteral("first\n  It is Sunday here. \n\n")));
+    EXPECT_EQ(named.cause, Unknown);
+    EXPECT_EQ(named.lastLine, QStringLiteral("It is Sunday here."));
+    EXPECT_EQ(causeOf(ended(CommandRole::Pull, 9, QString(5000, u'x'))).lastLine.size(), 300);
+}
+
+TEST(PassCauseTest, CommandGivenUp_MeansInterrupted) {
+    EXPECT_EQ(causeOf(ended(CommandRole::Pull, std::nullopt, {})).cause, Interrupted);
+    EXPECT_EQ(causeOf(ended(CommandRole::HostCheck, std::nullopt, {})).cause, Interrupted);
+}
+
+// -- whole passes
+
+PassRecord remotePass(const QString& verdict, std::vector<CommandRecord> commands) {
+    PassRecord pass;
+    pass.kind = PassKind::Remote;
+    pass.verdict = verdict;
+    pass.commands = std::move(commands);
+    return pass;
+}
+
+TEST(PassCauseTest, ValidHost_IsNotJudgedByItsCheck) {
+    const auto check = ended(CommandRole::HostCheck, 0, QStringLiteral("mediauser\n"));
+    const auto good = ended(CommandRole::Pull, 0, {});
+    EXPECT_EQ(causeOf(remotePass(QStringLiteral("valid"), {check, good, good})).cause, Well);
+    EXPECT_EQ(causeOf(remotePass(QStringLiteral("valid"), {check})).cause, SettingsMissing);
+}
+
+TEST(PassCauseTest, FirstPullInTrouble_NamesThePass) {
+    const auto check = ended(CommandRole::HostCheck, 0, QStringLiteral("mediauser\n"));
+    const auto good = ended(CommandRole::Pull, 0, {});
+    const auto vanished = ended(CommandRole::Pull, 24, {});
+    const auto partial = ended(CommandRole::Pull, 23, {});
+    const QString valid = QStringLiteral("valid");
+    EXPECT_EQ(causeOf(remotePass(valid, {check, good, vanished})).cause, FilesVanished);
+    EXPECT_EQ(causeOf(remotePass(valid, {check, partial, vanished})).cause, FilesNotTaken);
+}
+
+TEST(PassCauseTest, NothingAsked_MeansSettingsAreMissing) {
+    EXPECT_EQ(causeOf(remotePass({}, {})).cause, SettingsMissing);
+    EXPECT_EQ(causeOf(PassRecord()).cause, SettingsMissing);
+}
+
+// -- kept text
+
+TEST(CapturedTextTest, ShortText_IsWhole) {
+    const auto text = capturedText(u"out\n", u"err\n");
+    EXPECT_EQ(text.head, QStringLiteral("out\nerr\n"));
+    EXPECT_EQ(text.leftOut, 0);
+    EXPECT_EQ(linesOf(text), (QStringList{QStringLiteral("out"), QStringLiteral("err")}));
+}
+
+TEST(CapturedTextTest, LongText_KeepsItsEndsAndCountsTheRest) {
+    for (const QString& unit : {QStringLiteral("a"), QStringLiteral("é"), QStringLiteral("映"),
+                                QStringLiteral("\U0001F3AC")}) {
+        const QString whole = unit.repeated(50000);
+        const auto text = capturedText(whole);
+        const qint64 bytes = whole.toUtf8().size();
+        if (text.leftOut == 0) {
+            EXPECT_EQ(text.head, whole);
+            continue;
+        }
+        EXPECT_LE(text.head.toUtf8().size(), cKeptText);
+        EXPECT_GT(text.head.toUtf8().size(), cKeptText - 4);
+        EXPECT_LE(text.tail.toUtf8().size(), cKeptText);
+        EXPECT_GT(text.tail.toUtf8().size(), cKeptText - 4);
+        EXPECT_EQ(text.head.toUtf8().size() + text.tail.toUtf8().size() + text.leftOut, bytes);
+        EXPECT_TRUE(whole.startsWith(text.head) && whole.endsWith(text.tail));
+    }
+}
+
+TEST(CapturedTextTest, ErrorsAfterALongOutput_EndTheTail) {
+    const QString output = QString(100000, u'o');
+    const QString errors = QStringLiteral("the reason\n");
+    const auto text = capturedText(output, errors);
+    EXPECT_TRUE(text.tail.endsWith(errors));
+    EXPECT_EQ(text.head.size() + text.tail.size() + text.leftOut, output.size() + errors.size());
+}
+
+} // namespace
+} // namespace kelvo
