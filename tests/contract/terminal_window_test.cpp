@@ -105,9 +105,8 @@ TEST_F(TerminalWindowTest, EndIsTold_WhileTheWindowStillWaitsForItsKey) {
 TEST_F(TerminalWindowTest, WindowThatIsClosed_IsAnEnd) {
     use({program("one", "shift; \"$@\" & echo $! >'" + at("pid").toLocal8Bit() + "'; wait")});
     open(script("echo up >'" + at("up").toLocal8Bit() + "'; exec sleep 600"));
-    ASSERT_TRUE(waitInLoop([this] {
-        return content("pid").endsWith('\n') && content("up").endsWith('\n');
-    }));
+    ASSERT_TRUE(waitInLoop(
+        [this] { return content("pid").endsWith('\n') && content("up").endsWith('\n'); }));
     const pid_t pid = content("pid").trimmed().toInt();
     EXPECT_TRUE(outcomes.empty());
     // As a terminal does when its window goes: the whole session hears of it.
