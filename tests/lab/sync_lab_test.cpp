@@ -37,7 +37,8 @@ protected:
 
     static void expectOrderlyEnd(RunningProgram& program) {
         EXPECT_EQ(program.stop(), 0) << program.transcript().toStdString();
-        EXPECT_EQ(near(QStringLiteral("pgrep --ns $$ --nslist net -f '[i]d_kelvoRsync'")).output, "")
+        EXPECT_EQ(near(QStringLiteral("pgrep --ns $$ --nslist net -f '[i]d_kelvoRsync'")).output,
+                  "")
             << "a command outlived the program";
     }
 
