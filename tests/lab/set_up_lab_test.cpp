@@ -309,7 +309,7 @@ TEST_F(SetUpLabTest, HostGoneWhileThePasswordIsAsked_IsAnEndToo) {
     ASSERT_TRUE(answers(QStringLiteral("yes"), &hostIsKnown));
     lab({QStringLiteral("sshd"), QStringLiteral("stop")});
     ASSERT_TRUE(answers(QStringLiteral("x"), [] {
-        remote(QStringLiteral("pkill -KILL -x sshd"));
+        remote(QStringLiteral("pkill -KILL --ns $$ --nslist net -x sshd"));
         return near(QStringLiteral("pgrep -x ssh-copy-id")).exitCode != 0;
     }));
     EXPECT_TRUE(logs(QStringLiteral("Connection refused"))) << transcript();
