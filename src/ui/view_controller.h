@@ -95,16 +95,12 @@ public:
 
     /// Takes the keyboard focus away, on the next turn of the main queue.
     void ibSetNoFirstResponder(Control* sender);
-
     /// Ends the program and has it started again.
     void ibQuitAndRelaunch(Control* sender);
-
     /// Sets the start button's title from its state and the kind of pass, later on the main queue.
     void updateStartButton() { fStartButtonTitle.update(); }
-
     /// Stores the template with its option filled in, for display.
     void ibUpdateTabViewItem() { fCommandExample.ibUpdateTabViewItem(); }
-
     void tabViewWillSelect(const std::optional<TabViewItem>& tabViewItem);
     void controlTextDidEndEditing(const TextEditingNotification& obj);
 

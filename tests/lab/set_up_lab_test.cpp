@@ -1,187 +1,8 @@
 // Setting up the remote side by the window alone: a real display, a real terminal, a real sshd.
-#include "lab/lab_fixture.h"
-#include "support/plist_text.h"
-#include "support/virtual_display.h"
-#include "support/wait_until.h"
-
-#include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QStandardPaths>
+#include "lab/set_up_fixture.h"
 
 namespace kelvo {
 namespace {
-
-using namespace std::chrono_literals;
-
-constexpr int cPatience = 20'000; // milliseconds
-const QString cPassword = QStringLiteral("projector");
-const QString cRunning = QStringLiteral("state is now IS RUNNING");
-const QString cKey = QStringLiteral(".ssh/id_kelvoRsync");
-
-class SetUpLabTest : public LabTest {
-protected:
-    void SetUp() override {
-        for (const char* tool : {"Xvfb", "openbox", "xdotool", "maim", "xterm"}) {
-            if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty())
-                GTEST_SKIP() << tool << " is not installed on this machine";
-        }
-        LabTest::SetUp();
-        if (IsSkipped() || HasFatalFailure())
-            return;
-        // Nothing is set up yet: no key, and a host that nobody has seen before.
-        near(QStringLiteral("find .ssh -mindepth 1 -delete"));
-        remote(QStringLiteral("rm -f /Users/mediauser/.ssh/authorized_keys"));
-        display = screen.start();
-        ASSERT_FALSE(display.isEmpty()) << "Xvfb does not come up";
-        QProcessEnvironment desktop = QProcessEnvironment::systemEnvironment();
-        desktop.insert(QStringLiteral("DISPLAY"), display);
-        manager.setProcessEnvironment(desktop);
-        manager.start(QStringLiteral("openbox"), QStringList());
-        ASSERT_TRUE(manager.waitForStarted(cPatience));
-        ASSERT_TRUE(waitUntil(
-            [this] { return !tool("xdotool", {QStringLiteral("getdisplaygeometry")}).isEmpty(); }));
-    }
-
-    void TearDown() override {
-        program.reset();
-        manager.terminate();
-        if (manager.state() != QProcess::NotRunning && !manager.waitForFinished(cPatience))
-            manager.kill();
-    }
-
-    // -- the program
-
-    static QVariantMap firstDay() {
-        return {{QStringLiteral("prefRsyncWithSSH"), true},
-                {QStringLiteral("prefPath2"), cIncoming},
-                {QStringLiteral("mainWindowTab"), QStringLiteral("remote")}};
-    }
-    static QVariantMap hostAndUser() {
-        QVariantMap profile = firstDay();
-        profile[QStringLiteral("prefRemoteBonjourName")] = cRemoteHost;
-        profile[QStringLiteral("prefRemoteUsername")] = cRemoteUser;
-        profile[QStringLiteral("prefRemotePath")] = QStringLiteral("Movies");
-        return profile;
-    }
-
-    /// Starts the program with its window on the display and the keyboard focus in it.
-    void startWindow(const QVariantMap& profile, const QStringList& variables = {}) {
-        writeNear(cNearHome + QStringLiteral("/.config/kelvo-mirror/preferences.plist"),
-                  plistText(profile));
-        program = std::make_unique<RunningProgram>(
-            QStringLiteral(KELVO_LAB_COMMAND),
-            QStringList{QStringLiteral("near"), QStringLiteral("env"),
-                        QString(u"DISPLAY=" + display), QStringLiteral("QT_QPA_PLATFORM=xcb"),
-                        QStringLiteral("DBUS_SESSION_BUS_ADDRESS=disabled:")} +
-                variables + QStringList{QStringLiteral(KELVO_PROGRAM)});
-        ASSERT_TRUE(program->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
-            << program->transcript().toStdString();
-        ASSERT_TRUE(waitUntil([this] { return activeTitle() == u"Kelvo Mirror"; }, 30s));
-    }
-
-    bool prints(const QString& start, double seconds = 60) {
-        return program->waitForLine(start, seconds).has_value();
-    }
-    bool logs(const QString& part, double seconds = 60) {
-        return program
-            ->waitForLine([&](const QString& line) { return line.contains(part); }, seconds)
-            .has_value();
-    }
-    /// The same for the system log.
-    bool tells(const QString& part) {
-        return waitUntil(
-            [&] {
-                program->waitForLine(QStringLiteral("no such line"), 0.05);
-                return program->transcript().contains(part);
-            },
-            60s);
-    }
-    std::string transcript() const { return program->transcript().toStdString(); }
-
-    // -- mouse and keys
-
-    QString tool(const char* name, const QStringList& arguments) const {
-        QProcess process;
-        QProcessEnvironment desktop = QProcessEnvironment::systemEnvironment();
-        desktop.insert(QStringLiteral("DISPLAY"), display);
-        process.setProcessEnvironment(desktop);
-        process.start(QString::fromLatin1(name), arguments);
-        process.waitForFinished(cPatience);
-        return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
-    }
-    void keys(const QStringList& names) const {
-        tool("xdotool",
-             QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("30")} +
-                 names);
-    }
-    void type(const QString& text) const {
-        tool("xdotool",
-             {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("20"), text});
-    }
-    void enter(const QString& text) const {
-        type(text);
-        keys({QStringLiteral("Return")});
-    }
-    /// The start button is the one tall control across the middle of the window.
-    void clickStart() const {
-        const QString place =
-            tool("xdotool", {QStringLiteral("getactivewindow"), QStringLiteral("getwindowgeometry"),
-                             QStringLiteral("--shell")});
-        const auto number = [&](const char* name) {
-            return place.section(QString::fromLatin1(name) + u'=', 1).section(u'\n', 0, 0).toInt();
-        };
-        tool("xdotool",
-             {QStringLiteral("mousemove"), QString::number(number("X") + number("WIDTH") / 2),
-              QString::number(number("Y") + 225), QStringLiteral("click"), QStringLiteral("1")});
-    }
-    QString activeTitle() const {
-        return tool("xdotool",
-                    {QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")});
-    }
-    bool comesToFront(const QString& title) const {
-        return waitUntil([&] { return activeTitle().startsWith(title); }, 30s);
-    }
-    QString terminalWindow() const {
-        return tool("xdotool", {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                QStringLiteral("--class"), QStringLiteral("xterm")})
-            .section(u'\n', 0, 0);
-    }
-    bool terminalComes(bool comes = true) const {
-        return waitUntil([&] { return terminalWindow().isEmpty() != comes; }, 30s);
-    }
-    void keepPicture(const char* name) const {
-        QDir().mkpath(QStringLiteral(KELVO_PICTURES));
-        tool("maim", {QStringLiteral(KELVO_PICTURES "/%1.png").arg(QLatin1StringView(name))});
-    }
-
-    /// Types `text` into the terminal, again from time to time (a question drops what was typed
-    /// before it was asked), until `nearText` succeeds on the near host.
-    static constexpr auto cAnswerPatience = 3s;
-    bool answers(const QString& text, const std::function<bool()>& done) const {
-        for (int round = 0; round < 8; ++round) {
-            enter(text);
-            if (waitUntil(done, cAnswerPatience))
-                return true;
-        }
-        return false;
-    }
-    static bool hostIsKnown() {
-        return near(QStringLiteral("test -s .ssh/known_hosts")).exitCode == 0;
-    }
-    static bool keyIsInstalled() {
-        return remote(QStringLiteral("test -s /Users/mediauser/.ssh/authorized_keys")).exitCode ==
-               0;
-    }
-    static bool bothHalves() {
-        return near(QStringLiteral("test -s %1 -a -s %1.pub").arg(cKey)).exitCode == 0;
-    }
-
-    VirtualDisplay screen;
-    QString display;
-    QProcess manager;
-    std::unique_ptr<RunningProgram> program;
-};
 
 TEST_F(SetUpLabTest, FromNothing_ToARunningPullByTheWindowAlone) {
     startWindow(firstDay());
@@ -228,7 +49,7 @@ TEST_F(SetUpLabTest, FromNothing_ToARunningPullByTheWindowAlone) {
     // And now the movies.
     keys({QStringLiteral("ctrl+1")});
     clickStart();
-    ASSERT_TRUE(prints(cRunning)) << transcript();
+    ASSERT_TRUE(prints(QStringLiteral("state is now IS RUNNING"))) << transcript();
     ASSERT_TRUE(prints(QStringLiteral("result from movie shell command ="))) << transcript();
     keepPicture("set-up-5-running");
     EXPECT_EQ(nearChecksums(cIncoming), moviesOf(remoteChecksums(cRemoteMovies)));
@@ -243,7 +64,7 @@ TEST_F(SetUpLabTest, WrongPassword_StaysInTheTerminalAndTheKeyIsNotAccepted) {
     ASSERT_TRUE(answers(QStringLiteral("yes"), &hostIsKnown));
     // Three wrong ones, and ssh gives up; what is typed after that closes the window.
     ASSERT_TRUE(answers(QStringLiteral("wrong"), [] {
-        return near(QStringLiteral("pgrep -x ssh-copy-id")).exitCode != 0;
+        return near(QStringLiteral("pgrep --ns $$ --nslist net -x ssh-copy-id")).exitCode != 0;
     })) << transcript();
     EXPECT_TRUE(logs(QStringLiteral("username and remote host status ="))) << transcript();
     EXPECT_TRUE(logs(QStringLiteral("Permission denied"))) << transcript();
@@ -309,8 +130,8 @@ TEST_F(SetUpLabTest, HostGoneWhileThePasswordIsAsked_IsAnEndToo) {
     ASSERT_TRUE(answers(QStringLiteral("yes"), &hostIsKnown));
     lab({QStringLiteral("sshd"), QStringLiteral("stop")});
     ASSERT_TRUE(answers(QStringLiteral("x"), [] {
-        remote(QStringLiteral("pkill -KILL --ns $$ --nslist net -x sshd"));
-        return near(QStringLiteral("pgrep -x ssh-copy-id")).exitCode != 0;
+        remote(QStringLiteral("pkill --ns $$ --nslist net -KILL -x sshd"));
+        return near(QStringLiteral("pgrep --ns $$ --nslist net -x ssh-copy-id")).exitCode != 0;
     }));
     EXPECT_TRUE(logs(QStringLiteral("Connection refused"))) << transcript();
     EXPECT_EQ(program->stop(), 0);
@@ -408,119 +229,6 @@ INSTANTIATE_TEST_SUITE_P(
                       ConnectionCase{"IdentityMissing", "rm .ssh/id_kelvoRsync", "",
                                      "Remote-Mac.local", "Oh OH..."}),
     [](const auto& info) { return std::string(info.param.name); });
-
-// -- the share
-
-const QString cFolderAddress =
-    QStringLiteral("file:///run/near/gvfs/smb-share:server=remote-mac.local,share=macintosh%2520hd,"
-                   "user=mediauser/Users/mediauser/Movies\n");
-
-class ShareLabTest : public SetUpLabTest {
-protected:
-    void SetUp() override {
-        SetUpLabTest::SetUp();
-        if (IsSkipped() || HasFatalFailure())
-            return;
-        for (const char* part :
-             {"/usr/libexec/gvfsd-smb", "/usr/libexec/gvfsd-fuse", "/dev/fuse"}) {
-            if (!QFile::exists(QString::fromLatin1(part)))
-                GTEST_SKIP() << part << " is not there on this machine";
-        }
-        const CommandResult shared = share("start");
-        ASSERT_EQ(shared.exitCode, 0) << shared.output.constData();
-        const CommandResult bus =
-            near(QStringLiteral("dbus-daemon --session --fork --print-address 2>/dev/null"));
-        ASSERT_EQ(bus.exitCode, 0) << bus.output.constData();
-        address = QString(u"DBUS_SESSION_BUS_ADDRESS=" +
-                          QString::fromLatin1(bus.output).section(u'\n', 0, 0));
-        // What opens folders here writes down which.
-        near(QStringLiteral("mkdir stand-in && printf '#!/bin/sh\\necho \"$1\" "
-                            ">>/Users/near/opened\\n' >stand-in/xdg-open && "
-                            "chmod 755 stand-in/xdg-open"));
-        startWindow(hostAndUser(), {address, QStringLiteral("PATH=/Users/near/stand-in:/usr/bin:"
-                                                            "/bin:/usr/sbin:/sbin")});
-    }
-    void TearDown() override {
-        SetUpLabTest::TearDown();
-        if (!address.isEmpty())
-            share("stop");
-    }
-
-    static CommandResult share(const char* step) {
-        return remote(QStringLiteral("/lab/remote-host share %1").arg(QLatin1StringView(step)));
-    }
-    /// What was opened so far, a line each.
-    static QByteArray opened() { return near(QStringLiteral("cat opened 2>/dev/null")).output; }
-    static std::function<bool()> opens(const QString& lines) {
-        return [lines] { return opened() == lines.toLatin1(); };
-    }
-
-    QString address;
-};
-
-TEST_F(ShareLabTest, PasswordInTheTerminal_ThenTheFolderOfTheRightShareIsOpened) {
-    const CommandResult other =
-        near(QStringLiteral("printf 'WORKGROUP\\n%1\\n' | env %2 timeout 30 gio mount "
-                            "smb://mediauser@Remote-Mac.local/Other")
-                 .arg(cPassword, address));
-    ASSERT_EQ(other.exitCode, 0) << other.output.constData();
-    keys({QStringLiteral("alt+o")});
-    ASSERT_TRUE(terminalComes()) << transcript();
-    enter(QStringLiteral("WORKGROUP"));
-    ASSERT_TRUE(answers(cPassword, opens(cFolderAddress))) << opened().constData() << transcript();
-    EXPECT_TRUE(near(QStringLiteral("ls /run/near/gvfs/*macintosh*/Users/mediauser/Movies"))
-                    .output.contains("notes.txt"));
-    // Once mounted nothing is asked again.
-    if (!terminalWindow().isEmpty())
-        keys({QStringLiteral("space")});
-    ASSERT_TRUE(terminalComes(false));
-    ASSERT_TRUE(comesToFront(QStringLiteral("Kelvo Mirror")));
-    keys({QStringLiteral("alt+i")});
-    EXPECT_TRUE(waitUntil(opens(QString(cFolderAddress + cFolderAddress)), 30s))
-        << opened().constData() << transcript();
-    EXPECT_TRUE(terminalWindow().isEmpty());
-    EXPECT_EQ(program->stop(), 0);
-}
-
-TEST_F(ShareLabTest, QuestionLeftUnanswered_OpensNoFolderOfThisMachine) {
-    near(QStringLiteral("mkdir -p /Users/mediauser/Movies"));
-    keys({QStringLiteral("alt+o")});
-    ASSERT_TRUE(terminalComes()) << transcript();
-    ASSERT_TRUE(waitUntil(
-        [] { return near(QStringLiteral("pgrep -fx 'gio mount smb:.*'")).exitCode == 0; }, 30s));
-    tool("xdotool", {QStringLiteral("windowclose"), terminalWindow()});
-    EXPECT_TRUE(tells(QStringLiteral("Cannot show \"./Users/mediauser/Movies\""))) << transcript();
-    EXPECT_EQ(opened(), "");
-    EXPECT_EQ(program->stop(), 0);
-}
-
-TEST_F(ShareLabTest, WrongPassword_OpensNoFolder) {
-    keys({QStringLiteral("alt+o")});
-    ASSERT_TRUE(terminalComes()) << transcript();
-    enter(QStringLiteral("WORKGROUP"));
-    // gio asks again and again; an end of input is how a person gives up.
-    ASSERT_TRUE(answers(QStringLiteral("wrong"), [this] {
-        keys({QStringLiteral("ctrl+d")});
-        return near(QStringLiteral("pgrep -fx 'gio mount smb:.*'")).exitCode != 0;
-    }));
-    EXPECT_TRUE(tells(QStringLiteral("Cannot show \"./Users/mediauser/Movies\""))) << transcript();
-    EXPECT_EQ(opened(), "");
-    EXPECT_EQ(program->stop(), 0);
-}
-
-TEST_F(ShareLabTest, ShareThatIsGone_IsSaidInTheTerminalAndOpensNoFolder) {
-    share("stop");
-    keys({QStringLiteral("alt+o")});
-    ASSERT_TRUE(terminalComes()) << transcript();
-    enter(QStringLiteral("WORKGROUP"));
-    ASSERT_TRUE(answers(cPassword, [] {
-        return near(QStringLiteral("pgrep -fx 'gio mount smb:.*'")).exitCode != 0;
-    }));
-    EXPECT_TRUE(tells(QStringLiteral("Cannot show \"./Users/mediauser/Movies\""))) << transcript();
-    EXPECT_EQ(opened(), "");
-    EXPECT_EQ(program->stop(), 0);
-    share("start");
-}
 
 } // namespace
 } // namespace kelvo

@@ -138,7 +138,7 @@ TEST_F(SyncLabTest, SshdStoppedInMidTransfer_NextPassCompletes) {
     ASSERT_EQ(begun.exitCode, 0) << "the transfer did not begin\n"
                                  << program->transcript().toStdString();
     lab({QStringLiteral("sshd"), QStringLiteral("stop")});
-    remote(QStringLiteral("pkill -KILL --ns $$ --nslist net -u mediauser"));
+    remote(QStringLiteral("pkill --ns $$ --nslist net -KILL -u mediauser"));
     EXPECT_EQ(halfFiles(), QStringList());
     ASSERT_TRUE(program->waitForLine(QStringLiteral("status red: "), 30))
         << program->transcript().toStdString();
