@@ -26,7 +26,8 @@ namespace {
 int run(std::span<char*> names) {
     const std::vector<Row> rows{settingsRow(), templateRow(), captureRow(), stallRow(),
                                 passRow(),     restRow(),     filterRow(),  snapshotRow(),
-                                relaunchRow(), sentinelRow(), recordRow(),  activityRow()};
+                                relaunchRow(), sentinelRow(), startRow(),   memoryRow(),
+                                idleRow(),     recordRow(),   activityRow()};
     const bool heading = names.empty() || std::string_view(names.front()) != "--no-heading";
     if (!heading)
         names = names.subspan(1);

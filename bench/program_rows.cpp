@@ -1,6 +1,7 @@
 // The program at work: what a pass costs beyond its commands, and what rest costs.
 #include "adapters/posix/local_file_manager.h"
 #include "adapters/posix/posix_shell_runner.h"
+#include "bench/processor_time.h"
 #include "bench/row.h"
 #include "fakes/fake_front.h"
 #include "fakes/memory_defaults.h"
@@ -17,8 +18,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-
-#include <unistd.h>
 
 #include <chrono>
 #include <cstdio>
@@ -128,17 +127,6 @@ std::optional<std::vector<Figure>> measurePass() {
     return std::vector<Figure>{{"no-change remote pass / its three commands by a bare sh",
                                 median(ours) / median(theirs), 1.03, "x",
                                 sideBySide(median(ours), median(theirs))}};
-}
-
-/// Processor seconds that process `pid` has used, its children left out.
-double processorSeconds(qint64 pid) {
-    QFile file(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    const QByteArray line = file.readAll();
-    const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-    return (fields.value(11).toDouble() + fields.value(12).toDouble()) /
-           static_cast<double>(::sysconf(_SC_CLK_TCK));
 }
 
 std::optional<std::vector<Figure>> measureRest() {

@@ -32,6 +32,9 @@ Row relaunchRow();
 Row sentinelRow();
 Row filterRow();
 Row snapshotRow();
+Row startRow();
+Row memoryRow();
+Row idleRow();
 Row recordRow();
 Row activityRow(); ///< needs a QApplication
 

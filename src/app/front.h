@@ -23,10 +23,12 @@ class FileManager;
 class MainView;
 class OpenPanel;
 class PassStore;
+class Pasteboard;
 class PathControl;
 class SheetOpener;
 class StatusField;
 class StatusMenu;
+class Terminal;
 class UserDefaults;
 class ViewController;
 class WindowController;
@@ -40,6 +42,7 @@ struct FrontParts {
     Workspace& workspace;
     DnssdBrowser& browser;
     StatusMenu& statusMenu;
+    Terminal& terminal; ///< of the desktop; used by a front that has one
     QString logFolder;
     /// Told after each status message whether it is about trouble.
     std::function<void(bool)> trouble;
@@ -55,6 +58,8 @@ struct FrontOutlets {
     AlertPresenter& alertPresenter;
     SheetOpener& sheets;
     OpenPanel& openPanel;
+    Terminal& terminal;
+    Pasteboard& pasteboard;
     ArrayController& fArrayController;
     Button& ibStartButton;
     const Control* ibRevealButton1;

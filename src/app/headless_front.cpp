@@ -3,6 +3,7 @@
 
 #include "adapters/headless/headless_bonjour.h"
 #include "adapters/headless/headless_desktop.h"
+#include "adapters/headless/headless_terminal.h"
 #include "adapters/headless/headless_view.h"
 #include "app/front.h"
 #include "app/main_window_controller.h"
@@ -21,13 +22,14 @@ public:
           fStatusField(std::make_shared<ObservedStatusField>(
               std::make_shared<HeadlessStatusField>(parts.console), parts.trouble)),
           fAlerts(parts.console, parts.mainQueue), fView(parts.console), fSheets(parts.console),
-          fOpenPanel(parts.console), fApplication([] { QCoreApplication::quit(); }) {}
+          fOpenPanel(parts.console), fTerminal(parts.console),
+          fApplication([] { QCoreApplication::quit(); }) {}
 
     Application& application() override { return fApplication; }
     std::shared_ptr<WindowController> windowController() override { return fWindowController; }
     FrontOutlets outlets() override {
-        return {fView,        fAlerts, fSheets, fOpenPanel,   fFoundServices,
-                fStartButton, nullptr, nullptr, fStatusField, fPathControl};
+        return {fView,          fAlerts,      fSheets, fOpenPanel, fTerminal,    fPasteboard,
+                fFoundServices, fStartButton, nullptr, nullptr,    fStatusField, fPathControl};
     }
     void sendActionsTo(ViewController& controller, AppDelegate&) override {
         fController = &controller;
@@ -41,6 +43,8 @@ private:
     HeadlessView fView;
     HeadlessSheetOpener fSheets;
     HeadlessOpenPanel fOpenPanel;
+    HeadlessTerminal fTerminal;
+    HeadlessPasteboard fPasteboard;
     HeadlessArrayController fFoundServices;
     HeadlessApplication fApplication;
     std::shared_ptr<HeadlessPathControl> fPathControl = std::make_shared<HeadlessPathControl>();

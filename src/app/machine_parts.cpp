@@ -1,7 +1,6 @@
 #include "app/machine_parts.h"
 
 #include "adapters/qt/network_information.h"
-#include "adapters/qt/runtime_folder.h"
 #include "adapters/tray/desktop_tray_host.h"
 #include "app/places.h"
 #include "app/version.h"
@@ -15,7 +14,9 @@ MachineParts::MachineParts(bool withTray)
     : console(STDOUT_FILENO, STDERR_FILENO, logFile), defaults(settingsFile(), mainQueue, console),
       bundle(resourceFolder()), shell(console),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
-      systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, bgQueue, console),
+      terminal(temporaryFolder, console),
+      systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, mainQueue,
+                        bgQueue, console),
       singleCopy(runtimeFolder().path, console), dnssdBrowser(console),
       notices([this](const QString& title, const QString& text) {
           if (auto* tray = dynamic_cast<DesktopNotices*>(fStatusMenu.get()))

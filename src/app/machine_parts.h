@@ -4,6 +4,7 @@
 #include "adapters/avahi/avahi_browser.h"
 #include "adapters/headless/headless_status_menu.h"
 #include "adapters/posix/local_checklist_probe.h"
+#include "adapters/posix/local_file_changes.h"
 #include "adapters/posix/local_file_manager.h"
 #include "adapters/posix/local_notification_center.h"
 #include "adapters/posix/posix_sentinel_launcher.h"
@@ -17,9 +18,12 @@
 #include "adapters/qt/file_bundle.h"
 #include "adapters/qt/plist_defaults.h"
 #include "adapters/qt/qt_main_queue.h"
+#include "adapters/qt/runtime_folder.h"
 #include "adapters/qt/signal_pipe.h"
 #include "adapters/qt/single_copy_socket.h"
 #include "adapters/qt/system_information.h"
+#include "adapters/qt/terminal_window.h"
+#include "remote/share_commands.h"
 
 #include <memory>
 
@@ -45,11 +49,15 @@ struct MachineParts {
     PlistDefaults defaults;
     LocalFileManager files;
     LocalChecklistProbe checklistProbe;
+    LocalFileChanges fileChanges;
+    UserTemporaryFolder temporaryFolder;
+    PlatformShareCommands shareCommands;
     FileBundle bundle;
     LocalNotificationCenter notificationCenter;
     PosixShellRunner shell;
     ThreadPoolQueue bgQueue;
     DesktopWorkspace workspace;
+    TerminalWindow terminal;
     LocalSystemInformation systemInformation;
     SingleCopySocket singleCopy;
     SignalPipe signals;

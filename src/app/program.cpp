@@ -18,7 +18,6 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
 #include <QFileInfo>
 
 #include <unistd.h>
@@ -84,13 +83,19 @@ public:
 private:
     Front& front() {
         if (!fFront) {
-            const FrontParts parts{
-                fParts.defaults,     fParts.mainQueue,
-                fParts.console,      fParts.workspace,
-                fParts.dnssdBrowser, fParts.statusMenu(),
-                logFolder(),         [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
-                fPasses.store,       fParts.bgQueue,
-                fParts.files,        fParts.checklistProbe};
+            const FrontParts parts{fParts.defaults,
+                                   fParts.mainQueue,
+                                   fParts.console,
+                                   fParts.workspace,
+                                   fParts.dnssdBrowser,
+                                   fParts.statusMenu(),
+                                   fParts.terminal,
+                                   logFolder(),
+                                   [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
+                                   fPasses.store,
+                                   fParts.bgQueue,
+                                   fParts.files,
+                                   fParts.checklistProbe};
             fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
         }
         return *fFront;
@@ -115,7 +120,11 @@ private:
                                 fParts.dnssdBrowser,
                                 [this] { return fParts.makeNetworkChecker(); },
                                 fStatusMenu,
-                                QDir::tempPath(),
+                                fParts.temporaryFolder,
+                                fParts.fileChanges,
+                                outlets.terminal,
+                                outlets.pasteboard,
+                                fParts.shareCommands,
                                 outlets.view,
                                 outlets.alertPresenter,
                                 outlets.sheets,

@@ -32,7 +32,7 @@ double relaunchInterval(const QVariant& record, unsigned long count, double seco
     const unsigned long index = size - count;
     if (size <= index)
         return seconds;
-    const QVariant date = dates.at(static_cast<qsizetype>(index));
+    const QVariant& date = dates.at(static_cast<qsizetype>(index));
     if (date.typeId() != QMetaType::QDateTime)
         return seconds;
     return static_cast<double>(date.toDateTime().msecsTo(now)) / 1000.0;

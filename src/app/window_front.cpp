@@ -3,6 +3,7 @@
 #include "app/front.h"
 #include "app/main_window_controller.h"
 #include "app/window_actions.h"
+#include "ports/dispatch_queue.h"
 #include "ports/status_menu.h"
 #include "ui/close_policy.h"
 #include "ui/observed_status_field.h"
@@ -44,7 +45,8 @@ public:
           fOpenPanel(fWindow), fFoundServices(fWindow.foundServices()),
           fWindowController(
               std::make_shared<MainWindowController>([this] { fWindow.bringToFront(); })) {
-        fWindow.setWindowIcon(applicationIcon());
+        // Drawing the icon takes a while; the window does not wait for it.
+        parts.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
         fWindow.activityTab().setStore(parts.passes);
         fWindow.setMayClose([this] { return mayClose(); });
     }
@@ -52,8 +54,9 @@ public:
     Application& application() override { return fApplication; }
     std::shared_ptr<WindowController> windowController() override { return fWindowController; }
     FrontOutlets outlets() override {
-        return {fView,        fAlerts,         fSheets,         fOpenPanel,   fFoundServices,
-                fStartButton, &fRevealButton1, &fRevealButton2, fStatusField, fPathControl};
+        return {fView,           fAlerts,         fSheets,        fOpenPanel,
+                fParts.terminal, fPasteboard,     fFoundServices, fStartButton,
+                &fRevealButton1, &fRevealButton2, fStatusField,   fPathControl};
     }
 
     void sendActionsTo(ViewController& controller, AppDelegate& delegate) override {
@@ -114,6 +117,7 @@ private:
     SheetPresenter fAlerts;
     WidgetSheetOpener fSheets;
     WidgetOpenPanel fOpenPanel;
+    WidgetPasteboard fPasteboard;
     ServiceList fFoundServices;
     OnceButtons fOnceButtons;
     std::shared_ptr<MainWindowController> fWindowController;

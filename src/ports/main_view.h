@@ -25,6 +25,15 @@ public:
     /// Shows `text` as the network line; an empty one leaves the line empty.
     virtual void showNetworkStatus(const QString& text) = 0;
 
+    /// Shows whether the connection test is running.
+    virtual void showTesting(bool testing) = 0;
+
+    /// Shows `text` as the state of the key; an empty one leaves the line empty.
+    virtual void showKeyState(const QString& text) = 0;
+
+    /// Plays the alert sound.
+    virtual void beep() = 0;
+
     /// Calls `handler` at each press of the right mouse button in the program's windows, on the
     /// main thread: true when it lies inside `view`. The press goes on to whatever it was meant
     /// for. Once the subscription is gone no new call begins. A view that is gone hears nothing.

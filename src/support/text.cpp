@@ -19,6 +19,29 @@ QString expandingTilde(QStringView path, QStringView home) {
     return path.toString();
 }
 
+QString appendingPathComponent(QStringView path, QStringView component) {
+    QString joined;
+    for (const QChar sign : QString(path % QStringView(u"/") % component)) {
+        if (sign != u'/' || !joined.endsWith(u'/'))
+            joined.append(sign);
+    }
+    if (path.isEmpty() && joined.startsWith(u'/'))
+        joined.remove(0, 1);
+    if (joined.size() > 1 && joined.endsWith(u'/'))
+        joined.chop(1);
+    return joined;
+}
+
+QString insideDoubleQuotes(QStringView text) {
+    QString safe;
+    for (const QChar sign : text) {
+        if (QStringView(u"\\\"$`").contains(sign))
+            safe.append(u'\\');
+        safe.append(sign);
+    }
+    return safe;
+}
+
 QString insideLine(QStringView typeName, QStringView operation, QStringView detail) {
     return QStringView(u"Inside ") % typeName % QStringView(u"->") % operation % detail;
 }

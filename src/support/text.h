@@ -19,6 +19,14 @@ QString withTrailingSlash(QStringView text);
 /// A leading "~" (alone or before "/") becomes `home`; any other path passes unchanged.
 QString expandingTilde(QStringView path, QStringView home);
 
+/// `path` with `component` after it, joined by one "/": runs of "/" become one, none stands at the
+/// end. An empty component adds nothing.
+QString appendingPathComponent(QStringView path, QStringView component);
+
+/// `text` as it stands between double quotes in a shell command: what the shell would read as its
+/// own there gets a backslash.
+QString insideDoubleQuotes(QStringView text);
+
 /// A diagnostic line: "Inside " + type + "->" + operation + detail.
 QString insideLine(QStringView typeName, QStringView operation, QStringView detail = u".......");
 

@@ -4,6 +4,7 @@
 #include "ports/file_manager.h"
 #include "ports/open_panel.h"
 #include "ports/path_control.h"
+#include "ports/temporary_folder.h"
 #include "ports/user_defaults.h"
 #include "ports/workspace.h"
 #include "support/fatal.h"
@@ -71,8 +72,13 @@ void FolderSelection::ibRevealDestPath(Control*) {
 }
 
 void FolderSelection::ibOpenTempFolder(Control*) {
-    printInside(u"ibOpenTempFolder(_:)");
-    fParts.workspace.openUrl(fileUrl(fParts.temporaryDirectory));
+    constexpr QStringView operation = u"ibOpenTempFolder(_:)";
+    printInside(operation);
+    const FolderOrFault folder = fParts.temporaryFolder.temporaryFolder();
+    if (folder.path.isEmpty())
+        printInside(operation, QString(u".......no temporary folder: " + folder.fault));
+    else
+        fParts.workspace.openUrl(fileUrl(folder.path));
 }
 
 void FolderSelection::ibAction1(Control*) {

@@ -13,6 +13,7 @@ class Control;
 class FileManager;
 class OpenPanel;
 class PathControl;
+class TemporaryFolder;
 class UserDefaults;
 class Workspace;
 
@@ -24,7 +25,7 @@ struct FolderSelectionParts {
     Workspace& workspace;
     const FileManager& files;
     std::weak_ptr<PathControl> fNsPathControl1;
-    QString temporaryDirectory; ///< the user's, absolute
+    const TemporaryFolder& temporaryFolder;
 };
 
 /// Main thread only. Each action prints its entry line first. An action on a folder that is not set
@@ -49,7 +50,7 @@ public:
     /// then. A path control that is gone stops the program.
     void ibAction1(Control* sender);
 
-    /// Opens the user's temporary folder in the file browser.
+    /// Opens the user's temporary folder in the file browser; prints why there is none.
     void ibOpenTempFolder(Control* sender);
 
 private:

@@ -136,14 +136,15 @@ QString secondsText(double seconds) {
 }
 
 QString agoText(double seconds) {
+    constexpr qint64 cDay = 86'400;
     const auto whole = static_cast<qint64>(std::clamp(seconds, 0.0, 1e12));
     if (whole < 60)
         return QStringLiteral("just now");
     if (whole < 3600)
         return counted(whole / 60, u"minute ago", u"minutes ago");
-    if (whole < 48 * 3600)
+    if (whole < 2 * cDay)
         return counted(whole / 3600, u"hour ago", u"hours ago");
-    return counted(whole / (24 * 3600), u"day ago", u"days ago");
+    return counted(whole / cDay, u"day ago", u"days ago");
 }
 
 } // namespace kelvo

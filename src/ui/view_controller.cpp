@@ -11,6 +11,7 @@
 #include "support/preference_keys.h"
 #include "support/property_value.h"
 #include "support/text.h"
+#include "ui/key_state_words.h"
 
 namespace kelvo {
 namespace {
@@ -40,14 +41,17 @@ ViewController::ViewController(const ViewControllerParts& parts)
       fAlerts(parts.mainQueue, parts.console, parts.alertPresenter),
       fRsyncCommand(parts.defaults, parts.console), fSamplePath(parts.defaults, parts.mainQueue),
       fHostValidation(parts.defaults, parts.shell, parts.files, parts.console),
+      fKeyState(
+          {parts.defaults, parts.files, parts.mainQueue, parts.bgQueue, fHostValidation,
+           [&view = parts.view](KeyState state) { view.showKeyState(keyStateWords(state)); }}),
       fSyncCycle({parts.defaults, parts.mainQueue, parts.bgQueue, parts.shell, parts.files,
-                  parts.console, fRsyncCommand, fHostValidation, fStatusLine, fAlerts,
+                  parts.console, fRsyncCommand, fKeyState, fStatusLine, fAlerts,
                   parts.ibStartButton, parts.passListener}),
       fRepeatTimer(parts.mainQueue, parts.console),
       fStartButtonTitle(parts.ibStartButton, parts.defaults, parts.mainQueue, parts.console),
       fCommandExample(parts.defaults, fRsyncCommand, parts.console),
       fFolders({parts.defaults, parts.console, parts.openPanel, parts.workspace, parts.files,
-                parts.fNsPathControl1, parts.temporaryDirectory}),
+                parts.fNsPathControl1, parts.temporaryFolder}),
       fRevealButtonWatchers({parts.defaults, parts.console, parts.files, parts.view, fAlerts,
                              parts.workspace, parts.ibRevealButton1, parts.ibRevealButton2}),
       fNetwork({parts.notificationCenter, parts.mainQueue, parts.console, parts.networkBrowser,
@@ -55,6 +59,21 @@ ViewController::ViewController(const ViewControllerParts& parts)
                 [&view = parts.view](const QString& text) { view.showNetworkStatus(text); }}),
       fBonjour({parts.mainQueue, parts.console, parts.dnssdBrowser, parts.sheets,
                 parts.fArrayController}),
+      fTerminalNotice(fAlerts, parts.pasteboard),
+      fCommandFiles({parts.console, parts.files, parts.fileChanges, parts.shell,
+                     parts.temporaryFolder, parts.terminal}),
+      fConnectionTest({parts.defaults, parts.files, parts.console, parts.mainQueue, parts.bgQueue,
+                       parts.shell, fAlerts, parts.shareCommands,
+                       [&view = parts.view](bool testing) { view.showTesting(testing); }}),
+      fProvisioning({parts.defaults, parts.files, parts.console, parts.shell, fKeyState,
+                     fCommandFiles, parts.workspace,
+                     [this](TerminalOutcome outcome, const QString& command) {
+                         scriptEnded(outcome, command);
+                     },
+                     [this] { fKeyState.keysChanged(); }}),
+      fShare({parts.defaults, parts.console, parts.mainQueue, parts.shell, parts.shareCommands,
+              fCommandFiles, parts.workspace, [&view = parts.view] { view.beep(); },
+              [this](const QString& command) { fTerminalNotice.show(command); }}),
       myStatusMenuHandler(parts.statusMenu, parts.console),
       fUsesSSH(parts.defaults.boolForKey(prefRsyncWithSSH)) {}
 
@@ -95,6 +114,7 @@ void ViewController::viewDidLoad() {
     });
     mainQueue.asyncAfter(0.6, [this] { readVersion(); });
     mainQueue.asyncAfter(1.0, [this] { fNetwork.setupNetworkChecker(); });
+    fKeyState.begin();
     fObservations.push_back(fParts.notificationCenter.observe(
         cQuitRelaunchNotification.toString(), [this](const Notification& notification) {
             handleQuitAndRelaunchNotification(notification);
@@ -123,6 +143,16 @@ void ViewController::readVersion() {
         return;
     fParts.console.print(u"Got version = " + *version);
     fParts.defaults.setObject(prefVersionDisplayString, *version);
+}
+
+// -- the remote side
+
+/// Whatever happened in the terminal, only the remote Mac knows what came of it.
+void ViewController::scriptEnded(TerminalOutcome outcome, const QString& command) {
+    if (outcome == TerminalOutcome::NoWindow)
+        fTerminalNotice.show(command);
+    else
+        fKeyState.checkAgain();
 }
 
 // -- settings

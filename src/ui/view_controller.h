@@ -5,7 +5,12 @@
 #include "discovery/network_path_monitoring.h"
 #include "ports/control.h"
 #include "ports/user_defaults.h"
+#include "remote/command_files.h"
+#include "remote/key_state.h"
 #include "remote/remote_host_validation.h"
+#include "remote/smb_share_access.h"
+#include "remote/ssh_connection_test.h"
+#include "remote/ssh_key_provisioning.h"
 #include "sync/repeat_timer_actions.h"
 #include "sync/rsync_command.h"
 #include "sync/sample_path.h"
@@ -18,6 +23,7 @@
 #include "ui/start_button_title.h"
 #include "ui/status_line.h"
 #include "ui/status_menu_handler.h"
+#include "ui/terminal_notice.h"
 #include "ui/view_controller_parts.h"
 
 #include <memory>
@@ -74,18 +80,27 @@ public:
     void ibShowBonjourListInfo(Control*) { fBonjour.ibShowBonjourListInfo(); }
     void ibTestNWBrowser(Control* sender) { fNetwork.ibTestNWBrowser(sender); }
 
+    // The remote side.
+    void ibTestShellCommand(Control*) { fConnectionTest.ibTestShellCommand(); }
+    void ibTestShellCommand222(Control*) { fConnectionTest.ibTestShellCommand222(); }
+    void ibTestShellCommand111(Control*) { fConnectionTest.ibTestShellCommand111(); }
+    bool fBusyFlag3() const { return fConnectionTest.fBusyFlag3(); }
+    void ibGenerateSSHKeyStuff(Control*) { fProvisioning.ibGenerateSSHKeyStuff(); }
+    void createNewPrivatePublicKeys(Control*) { fProvisioning.createNewPrivatePublicKeys(); }
+    void createNewPrivatePublicKeysOLD(Control*) { fProvisioning.createNewPrivatePublicKeysOLD(); }
+    void checkKeyState(Control*) { fKeyState.checkAgain(); }
+    void ibRevealSourcePathSMB(Control*) { fShare.ibRevealSourcePathSMB(); }
+    void ibRevealSourcePathSMBdebug(Control*) { fShare.ibRevealSourcePathSMBdebug(); }
+    void ibRevealSourcePathSMBdebugOLD(Control*) { fShare.ibRevealSourcePathSMBdebugOLD(); }
+
     /// Takes the keyboard focus away, on the next turn of the main queue.
     void ibSetNoFirstResponder(Control* sender);
-
     /// Ends the program and has it started again.
     void ibQuitAndRelaunch(Control* sender);
-
     /// Sets the start button's title from its state and the kind of pass, later on the main queue.
     void updateStartButton() { fStartButtonTitle.update(); }
-
     /// Stores the template with its option filled in, for display.
     void ibUpdateTabViewItem() { fCommandExample.ibUpdateTabViewItem(); }
-
     void tabViewWillSelect(const std::optional<TabViewItem>& tabViewItem);
     void controlTextDidEndEditing(const TextEditingNotification& obj);
 
@@ -101,6 +116,7 @@ private:
     std::function<void()> reactionTo(const DefaultsChange& change);
     void handWindowControllerOver();
     void readVersion();
+    void scriptEnded(TerminalOutcome outcome, const QString& command);
     void handleQuitAndRelaunchNotification(const Notification& notification);
     void setUsesSSH(bool usesSSH);
     void printInside(QStringView operation, QStringView detail = u".......") const;
@@ -111,6 +127,7 @@ private:
     RsyncCommand fRsyncCommand;
     SamplePath fSamplePath;
     RemoteHostValidation fHostValidation;
+    KeyStateWatch fKeyState;
     SyncCycle fSyncCycle;
     RepeatTimerActions fRepeatTimer;
     StartButtonTitle fStartButtonTitle;
@@ -119,6 +136,11 @@ private:
     RevealButtonWatchers fRevealButtonWatchers;
     NetworkPathMonitoring fNetwork;
     BonjourSelection fBonjour;
+    TerminalNotice fTerminalNotice;
+    CommandFiles fCommandFiles;
+    SshConnectionTest fConnectionTest;
+    SshKeyProvisioning fProvisioning;
+    SmbShareAccess fShare;
     KelvoStatusMenuHandler myStatusMenuHandler;
     bool fUsesSSH;
     std::vector<Subscription> fObservations;

@@ -1,8 +1,6 @@
 // ViewControllerParts: what the controller of the main window works with.
 #pragma once
 
-#include <QString>
-
 #include <functional>
 #include <memory>
 
@@ -18,6 +16,7 @@ class Console;
 class Control;
 class DispatchQueue;
 class DnssdBrowser;
+class FileChanges;
 class FileManager;
 class MainView;
 class NetworkBrowser;
@@ -25,13 +24,17 @@ class NetworkChecker;
 class NotificationCenter;
 class OpenPanel;
 class PassListener;
+class Pasteboard;
 class PathControl;
 class RelaunchGuard;
+class ShareCommands;
 class SheetOpener;
 class ShellRunner;
 class StatusField;
 class StatusMenuPresence;
 class StatusMenuWindow;
+class TemporaryFolder;
+class Terminal;
 class UserDefaults;
 class Workspace;
 
@@ -53,7 +56,11 @@ struct ViewControllerParts {
     DnssdBrowser& dnssdBrowser;
     std::function<std::unique_ptr<NetworkChecker>()> makeKelvoSSID;
     StatusMenuPresence& statusMenu;
-    QString temporaryDirectory; ///< the user's, absolute
+    const TemporaryFolder& temporaryFolder;
+    FileChanges& fileChanges;
+    Terminal& terminal;
+    Pasteboard& pasteboard;
+    const ShareCommands& shareCommands;
 
     // What lies in the window.
     MainView& view;

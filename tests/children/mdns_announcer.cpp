@@ -1,6 +1,7 @@
 // Announces SMB services with any bytes for names, until it is ended.
-//   mdns_announcer ADDRESS HOST     names on standard input, one a line, in hexadecimal
+//   mdns_announcer ADDRESS HOST [FROM]     names on standard input, one a line, in hexadecimal
 // Each service runs on HOST.local, which has ADDRESS; "ready" is printed after the first round.
+// FROM is this machine's own address on the network in question, ADDRESS when left out.
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -59,14 +60,16 @@ std::string fromHex(const std::string& digits) {
 
 int main(int argc, char** argv) {
     in_addr address = {};
-    if (argc != 3 || ::inet_pton(AF_INET, argv[1], &address) != 1)
+    in_addr from = {};
+    if (argc < 3 || argc > 4 || ::inet_pton(AF_INET, argv[1], &address) != 1 ||
+        ::inet_pton(AF_INET, argv[argc == 4 ? 3 : 1], &from) != 1)
         return 2;
     const int socket = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
     const int on = 1;
     const int ttl = 255;
     ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
     ::setsockopt(socket, SOL_SOCKET, SO_REUSEPORT, &on, sizeof on);
-    ::setsockopt(socket, IPPROTO_IP, IP_MULTICAST_IF, &address, sizeof address);
+    ::setsockopt(socket, IPPROTO_IP, IP_MULTICAST_IF, &from, sizeof from);
     ::setsockopt(socket, IPPROTO_IP, IP_MULTICAST_TTL, &ttl, sizeof ttl);
     sockaddr_in own = {};
     own.sin_family = AF_INET;

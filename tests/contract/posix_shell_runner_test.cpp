@@ -1,6 +1,7 @@
 #include "adapters/posix/posix_shell_runner.h"
 #include "adapters/posix/unique_fd.h"
 #include "fakes/recording_console.h"
+#include "support/sanitized.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,12 +22,6 @@
 #include <string>
 #include <thread>
 #include <vector>
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool cSanitized = true;
-#else
-constexpr bool cSanitized = false;
-#endif
 
 namespace kelvo {
 namespace {

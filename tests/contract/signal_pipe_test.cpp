@@ -1,4 +1,5 @@
 #include "adapters/qt/signal_pipe.h"
+#include "support/sanitized.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -16,12 +17,6 @@
 #include <memory>
 #include <string>
 #include <thread>
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool cSanitized = true;
-#else
-constexpr bool cSanitized = false;
-#endif
 
 namespace kelvo {
 namespace {

@@ -15,15 +15,20 @@ protected:
     }
 
     ScriptedShell shell;
+    VirtualMainQueue mainQueue;
     ManualBackgroundQueue bgQueue;
     RecordingConsole console;
-    LocalSystemInformation information{QStringLiteral("kelvo-mirror 9.9"), shell, bgQueue, console};
+    LocalSystemInformation information{QStringLiteral("kelvo-mirror 9.9"), shell, mainQueue,
+                                       bgQueue, console};
 };
 
 TEST_F(LocalSystemInformationTest, Nothing_IsAskedOnTheCallersThread) {
     information.logCurrentSystemInfo();
     EXPECT_TRUE(shell.commands().isEmpty());
     EXPECT_TRUE(console.lines().empty());
+    EXPECT_EQ(bgQueue.size(), 0U) << "the start-up comes first";
+    mainQueue.advance(5.0);
+    EXPECT_TRUE(shell.commands().isEmpty());
     EXPECT_EQ(bgQueue.size(), 1U);
 }
 
@@ -34,6 +39,7 @@ TEST_F(LocalSystemInformationTest, Lines_TellProgramSystemDesktopAndTools) {
                    QStringLiteral("rsync  version 3.2.7  protocol version 31\nCopyright\n"));
     shell.answerTo(QStringLiteral("ssh -V"), QStringLiteral("OpenSSH_9.2p1 Debian\n"));
     information.logCurrentSystemInfo();
+    mainQueue.advance(5.0);
     bgQueue.runAll();
     qunsetenv("XDG_CURRENT_DESKTOP");
     qunsetenv("XDG_SESSION_TYPE");
@@ -52,6 +58,7 @@ TEST_F(LocalSystemInformationTest, MissingTools_AreSaidToBeMissing) {
     qunsetenv("XDG_SESSION_TYPE");
     shell.answerTo(QStringLiteral("rsync"), QStringLiteral("sh: 1: /usr/bin/rsync: not found"));
     information.logCurrentSystemInfo();
+    mainQueue.advance(5.0);
     bgQueue.runAll();
     EXPECT_EQ(logged(QStringLiteral("desktop")), u"none");
     EXPECT_EQ(logged(QStringLiteral("rsync")), u"not found");

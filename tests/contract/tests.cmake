@@ -16,9 +16,12 @@ kelvo_tests(contract
     contract/dispatch_queue_contract_test.cpp
     contract/dnssd_browser_contract_test.cpp
     contract/factory_template_test.cpp
+    contract/file_watch_test.cpp
     contract/line_backlog_test.cpp
+    contract/local_file_changes_test.cpp
     contract/local_file_manager_test.cpp
     contract/log_file_contract_test.cpp
+    contract/mac_volume_search_test.cpp
     contract/network_information_test.cpp
     contract/notification_center_contract_test.cpp
     contract/pass_store_contract_test.cpp
@@ -39,11 +42,12 @@ kelvo_tests(contract
     contract/sqlite_pass_store_test.cpp
     contract/stream_console_test.cpp
     contract/system_information_test.cpp
+    contract/terminal_window_test.cpp
     contract/thread_pool_queue_test.cpp
     contract/user_defaults_contract_test.cpp
     contract/utf8_collector_test.cpp
     contract/workspace_contract_test.cpp
-  LINKS kelvo_adapters_qt kelvo_adapters_posix kelvo_bus_testing kelvo_adapters_avahi
+  LINKS kelvo_remote kelvo_adapters_qt kelvo_adapters_posix kelvo_bus_testing kelvo_adapters_avahi
 )
 add_dependencies(contract_tests kelvo_sentinel network_watcher settings_writer zoo)
 target_compile_definitions(contract_tests PRIVATE

@@ -17,6 +17,9 @@ public:
     bool hasWindow() const override { return window; }
     void makeNothingFirstResponder() override { ++focusDropped; }
     void showNetworkStatus(const QString& text) override { networkLines.push_back(text); }
+    void showTesting(bool testing) override { testSigns.push_back(testing); }
+    void showKeyState(const QString& text) override { keyStates.push_back(text); }
+    void beep() override { ++beeps; }
     Subscription monitorRightMouseDown(const Control& view,
                                        std::function<void(bool)> handler) override {
         monitors->emplace(&view, std::move(handler));
@@ -34,7 +37,10 @@ public:
 
     bool window = true;
     int focusDropped = 0;
+    int beeps = 0;
     std::vector<QString> networkLines; ///< every text so far
+    std::vector<bool> testSigns;       ///< every call so far
+    std::vector<QString> keyStates;    ///< every text so far
     std::shared_ptr<std::map<const Control*, std::function<void(bool)>>> monitors =
         std::make_shared<std::map<const Control*, std::function<void(bool)>>>();
 };

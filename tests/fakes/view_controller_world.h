@@ -7,6 +7,7 @@
 #include "fakes/fake_main_view.h"
 #include "fakes/fake_network.h"
 #include "fakes/fake_relaunch_guard.h"
+#include "fakes/fake_remote_side.h"
 #include "fakes/fake_service_table.h"
 #include "fakes/fake_status_menu.h"
 #include "fakes/memory_bundle.h"
@@ -16,6 +17,7 @@
 #include "fakes/scripted_browser.h"
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
+#include "remote/share_commands.h"
 #include "support/preference_keys.h"
 #include "ui/status_menu_presence.h"
 #include "ui/view_controller.h"
@@ -50,6 +52,11 @@ public:
     ManualBackgroundQueue bgQueue;
     ScriptedShell shell;
     FakeFileManager files;
+    FakeFileChanges fileChanges{files};
+    FakeTemporaryFolder temporaryFolder;
+    FakeTerminal terminal;
+    FakePasteboard pasteboard;
+    GioShareCommands shareCommands;
     RecordingConsole console;
     RecordingNotificationCenter notificationCenter;
     MemoryBundle bundle;
@@ -92,7 +99,11 @@ public:
                                        notificationCenter, QStringLiteral("Connected"));
                                },
                                statusMenu,
-                               QStringLiteral("/tmp/of me"),
+                               temporaryFolder,
+                               fileChanges,
+                               terminal,
+                               pasteboard,
+                               shareCommands,
                                view,
                                presenter,
                                sheets,

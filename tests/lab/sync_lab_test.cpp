@@ -37,7 +37,8 @@ protected:
 
     static void expectOrderlyEnd(RunningProgram& program) {
         EXPECT_EQ(program.stop(), 0) << program.transcript().toStdString();
-        EXPECT_EQ(near(QStringLiteral("pgrep -f '[i]d_kelvoRsync'")).output, "")
+        EXPECT_EQ(near(QStringLiteral("pgrep --ns $$ --nslist net -f '[i]d_kelvoRsync'")).output,
+                  "")
             << "a command outlived the program";
     }
 
@@ -137,7 +138,7 @@ TEST_F(SyncLabTest, SshdStoppedInMidTransfer_NextPassCompletes) {
     ASSERT_EQ(begun.exitCode, 0) << "the transfer did not begin\n"
                                  << program->transcript().toStdString();
     lab({QStringLiteral("sshd"), QStringLiteral("stop")});
-    remote(QStringLiteral("pkill -KILL -u mediauser"));
+    remote(QStringLiteral("pkill --ns $$ --nslist net -KILL -u mediauser"));
     EXPECT_EQ(halfFiles(), QStringList());
     ASSERT_TRUE(program->waitForLine(QStringLiteral("status red: "), 30))
         << program->transcript().toStdString();

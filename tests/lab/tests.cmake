@@ -18,10 +18,14 @@ kelvo_tests(lab
     lab/avahi_browser_test.cpp
     lab/lab_fixture.cpp
     lab/lab_host_test.cpp
-    lab/network_lab_test.cpp
     lab/once_lab_test.cpp
     lab/lab_network.cpp
+    lab/network_lab_test.cpp
+    lab/set_up_lab_test.cpp
+    lab/share_lab_test.cpp
     lab/sync_lab_test.cpp
+    lab/watchdog_lab_test.cpp
+    lab/window_lab_test.cpp
   LINKS kelvo_adapters_avahi
   TIMEOUT 180
   PROPERTIES
@@ -34,5 +38,6 @@ target_compile_definitions(lab_tests PRIVATE
   KELVO_ANNOUNCER="$<TARGET_FILE:mdns_announcer>"
   KELVO_LAB_COMMAND="${KELVO_LAB_COMMAND}"
   KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
+  KELVO_PICTURES="${CMAKE_BINARY_DIR}/pictures"
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror")
 add_dependencies(lab_tests network_watcher)

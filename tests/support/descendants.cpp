@@ -26,7 +26,8 @@ std::vector<Descendant> allProcesses() {
         if (!std::ranges::all_of(number, [](char c) { return c >= '0' && c <= '9'; }))
             continue;
         std::ifstream file(entry.path() / "stat");
-        const std::string text{std::istreambuf_iterator<char>(file), {}};
+        std::string text; // Stays empty for a process that goes while it is read.
+        std::getline(file, text, '\0');
         const auto open = text.find('(');
         const auto close = text.rfind(')');
         if (open == std::string::npos || close == std::string::npos)

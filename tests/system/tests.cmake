@@ -8,6 +8,7 @@ target_link_libraries(watched_program PRIVATE kelvo_watchdog kelvo_adapters_qt)
 
 kelvo_tests(system
   SOURCES
+    system/program_signal_test.cpp
     system/once_system_test.cpp
     system/program_test.cpp
     system/tray_system_test.cpp

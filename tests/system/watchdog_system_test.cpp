@@ -1,5 +1,6 @@
 // The watchdog with real signals, real faults and the real sentinel, in a small program of its own.
 #include "support/descendants.h"
+#include "support/sanitized.h"
 #include "support/wait_until.h"
 
 #include <QDir>
@@ -15,15 +16,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstring>
 #include <string>
 #include <vector>
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool cSanitized = true;
-#else
-constexpr bool cSanitized = false;
-#endif
 
 namespace kelvo {
 namespace {
@@ -347,6 +343,30 @@ TEST_F(WatchdogSystemTest, FiftyRounds_LeaveNothingBehind) {
     EXPECT_TRUE(settings().contains("<integer>51</integer>")) << settings().constData();
     endInOrder(last.pid);
     EXPECT_EQ(starts().size(), cRounds + 1);
+}
+
+TEST_F(WatchdogSystemTest, TheProgramItself_IsBackAfterAKillAndGoneWhenAsked) {
+    const QString lines = qEnvironmentVariable("XDG_STATE_HOME") + u"/Kelvo/kelvo-mirror.log";
+    const auto count = [&lines](const char* text) { return contents(lines).count(text); };
+    constexpr const char* cLoaded = "Inside Kelvo_Mirror.ViewController->viewDidLoad().......\n";
+    const auto loadedBefore = count(cLoaded);
+    std::string program = KELVO_PROGRAM;
+    std::string option = "--headless";
+    const std::array<char*, 3> arguments = {program.data(), option.data(), nullptr};
+    pid_t pid = -1;
+    ASSERT_EQ(::posix_spawn(&pid, program.c_str(), nullptr, nullptr, arguments.data(), environ), 0);
+    ASSERT_TRUE(waitUntil([&] { return count(cLoaded) == loadedBefore + 1; }));
+    const auto sentinelId = livingChild(pid, "watchdog");
+    ASSERT_TRUE(sentinelId);
+    ::kill(pid, SIGKILL);
+    EXPECT_EQ(endingSignal(statusOf(pid)), SIGKILL);
+    ASSERT_TRUE(waitUntil([&] { return count(cLoaded) == loadedBefore + 2; }));
+    EXPECT_EQ(count("automatically relaunched due to unexpected termination"), 1);
+    ::kill(*sentinelId, SIGTERM);
+    EXPECT_EQ(exitStatus(statusOf(*sentinelId)), 0) << "the sentinel has become the program";
+    EXPECT_TRUE(allEnd());
+    EXPECT_EQ(count(cLoaded), loadedBefore + 2);
+    EXPECT_EQ(count("Caught Terminated ... terminating."), 1);
 }
 
 } // namespace

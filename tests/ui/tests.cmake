@@ -13,5 +13,7 @@ kelvo_tests(ui WIDGETS
     ui/path_control_view_test.cpp
     ui/sheet_presenter_test.cpp
     ui/tray_icon_test.cpp
-  LINKS kelvo_ui_widgets kelvo_adapters_tray kelvo_bus_testing Qt6::Test
+    ui/widget_main_view_test.cpp
+    ui/window_actions_test.cpp
+  LINKS kelvo_app kelvo_ui_widgets kelvo_adapters_tray kelvo_bus_testing Qt6::Test
 )

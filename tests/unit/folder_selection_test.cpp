@@ -1,6 +1,7 @@
 #include "fakes/fake_desktop.h"
 #include "fakes/fake_file_manager.h"
 #include "fakes/fake_front.h"
+#include "fakes/fake_remote_side.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "support/file_url.h"
@@ -24,8 +25,9 @@ protected:
     FakeWorkspace workspace;
     FakeFileManager files;
     std::shared_ptr<FakePathControl> pathControl = std::make_shared<FakePathControl>();
-    FolderSelection selection{{defaults, console, panel, workspace, files, pathControl,
-                               QStringLiteral("/var/tmp/of me")}};
+    FakeTemporaryFolder temporaryFolder;
+    FolderSelection selection{
+        {defaults, console, panel, workspace, files, pathControl, temporaryFolder}};
 };
 
 // -- choosing
@@ -120,8 +122,19 @@ TEST_F(FolderSelectionTest, RevealOfUnsetFolders_OnlyPrintsTheEntryLines) {
 
 TEST_F(FolderSelectionTest, OpenTempFolder_OpensItsLocation) {
     selection.ibOpenTempFolder(nullptr);
-    EXPECT_EQ(workspace.requests, QStringList{QStringLiteral("openUrl file:///var/tmp/of%20me")});
+    EXPECT_EQ(workspace.requests, QStringList{QStringLiteral("openUrl file:///tmp/of%20me")});
     EXPECT_EQ(console.printed(), QStringList{entry("ibOpenTempFolder(_:)")});
+}
+
+TEST_F(FolderSelectionTest, OpenTempFolder_WithoutOneOpensNothingAndSaysWhy) {
+    temporaryFolder.folder = {{}, QStringLiteral("/tmp/x belongs to somebody else")};
+    selection.ibOpenTempFolder(nullptr);
+    EXPECT_EQ(workspace.requests, QStringList());
+    EXPECT_EQ(console.printed(),
+              (QStringList{entry("ibOpenTempFolder(_:)"),
+                           entry("ibOpenTempFolder(_:)",
+                                 QStringLiteral(".......no temporary folder: /tmp/x belongs to "
+                                                "somebody else"))}));
 }
 
 // -- the path control

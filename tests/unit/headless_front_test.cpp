@@ -1,5 +1,6 @@
 #include "adapters/headless/headless_desktop.h"
 #include "adapters/headless/headless_front.h"
+#include "adapters/headless/headless_terminal.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 
@@ -83,6 +84,16 @@ TEST(HeadlessPathControlTest, Location_IsKeptThoughNobodySeesIt) {
     EXPECT_EQ(control.pathItems().size(), 2U);
     control.setUrl({});
     EXPECT_EQ(control.url(), std::nullopt);
+}
+
+TEST(HeadlessTerminalTest, Command_IsPrintedForSomebodyToRun) {
+    RecordingConsole console;
+    HeadlessTerminal terminal(console);
+    bool ended = false;
+    terminal.openCommandFile(QStringLiteral("/tmp/x.command"), QStringLiteral("echo \"a b\""),
+                             [&ended](TerminalOutcome) { ended = true; });
+    EXPECT_EQ(console.printed(), QStringList{QStringLiteral("terminal: echo \"a b\"")});
+    EXPECT_FALSE(ended);
 }
 
 } // namespace

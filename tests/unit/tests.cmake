@@ -11,6 +11,7 @@ kelvo_tests(unit
     unit/duplicate_check_test.cpp
     unit/folder_selection_test.cpp
     unit/headless_front_test.cpp
+    unit/key_state_test.cpp
     unit/network_path_monitoring_test.cpp
     unit/once_test.cpp
     unit/pass_cause_test.cpp
@@ -22,9 +23,14 @@ kelvo_tests(unit
     unit/property_value_test.cpp
     unit/relaunch_decision_test.cpp
     unit/remote_host_validation_test.cpp
+    unit/remote_side_test.cpp
     unit/repeat_timer_test.cpp
     unit/rsync_command_test.cpp
     unit/service_name_rules_test.cpp
+    unit/share_commands_test.cpp
+    unit/smb_share_access_test.cpp
+    unit/ssh_connection_test_test.cpp
+    unit/ssh_key_provisioning_test.cpp
     unit/status_and_alerts_test.cpp
     unit/status_menu_test.cpp
     unit/stored_value_test.cpp

@@ -39,5 +39,20 @@ TEST(TextTest, OptionalText_TellsNothingFromEmpty) {
     EXPECT_EQ(optionalText(std::nullopt), u"nil");
 }
 
+TEST(TextTest, PathComponents_AreJoinedByOneSlash) {
+    EXPECT_EQ(appendingPathComponent(u"/a", u"b"), u"/a/b");
+    EXPECT_EQ(appendingPathComponent(u"/a/", u"/b//c/"), u"/a/b/c");
+    EXPECT_EQ(appendingPathComponent(u".", u"/Volumes/Macintosh HD"), u"./Volumes/Macintosh HD");
+    EXPECT_EQ(appendingPathComponent(u"/a", u""), u"/a");
+    EXPECT_EQ(appendingPathComponent(u".", u""), u".");
+    EXPECT_EQ(appendingPathComponent(u"/", u""), u"/");
+    EXPECT_EQ(appendingPathComponent(u"", u"b"), u"b");
+}
+
+TEST(TextTest, InsideDoubleQuotes_TheShellReadsNothingAsItsOwn) {
+    EXPECT_EQ(insideDoubleQuotes(u"/Users/ann o'hara/é"), u"/Users/ann o'hara/é");
+    EXPECT_EQ(insideDoubleQuotes(u"a\"b\\c$d`e"), u"a\\\"b\\\\c\\$d\\`e");
+}
+
 } // namespace
 } // namespace kelvo

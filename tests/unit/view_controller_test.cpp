@@ -77,7 +77,10 @@ TEST_F(ViewControllerTest, RemovedKey_IsLoggedAndNothingMore) {
     defaults.removeObject(prefRemoteUsername);
     EXPECT_EQ(console.printed().last(),
               QString(cObserve + u".......UNABLE to get the new value????"));
+    const qsizetype lines = console.printed().size();
+    mainQueue.runDue();
     EXPECT_TRUE(mainQueue.idle());
+    EXPECT_EQ(console.printed().size(), lines);
 }
 
 TEST_F(ViewControllerTest, EnableScanning_SetsTheTitle) {

@@ -1,5 +1,6 @@
 #include "adapters/headless/headless_desktop.h"
 
+#include "adapters/headless/headless_terminal.h"
 #include "ports/console.h"
 
 namespace kelvo {
@@ -11,6 +12,11 @@ OpenPanelAnswer HeadlessOpenPanel::runModal(const OpenPanelOptions& options) {
 
 std::optional<QString> HeadlessPathControl::url() const {
     return fUrl.isEmpty() ? std::nullopt : std::optional(fUrl);
+}
+
+void HeadlessTerminal::openCommandFile(const QString&, const QString& command,
+                                       std::function<void(TerminalOutcome)>) {
+    fConsole.print(u"terminal: " + command);
 }
 
 } // namespace kelvo

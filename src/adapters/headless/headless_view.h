@@ -19,6 +19,9 @@ public:
     bool hasWindow() const override { return false; }
     void makeNothingFirstResponder() override {}
     void showNetworkStatus(const QString& text) override;
+    void showTesting(bool) override {}
+    void showKeyState(const QString&) override {}
+    void beep() override {}
     Subscription monitorRightMouseDown(const Control&, std::function<void(bool)>) override {
         return {};
     }

@@ -47,6 +47,7 @@ bool becomesReadable(int fd, std::chrono::milliseconds patience) {
 /// The child's streams are ours, and its descriptor after them is `readyEnd`.
 pid_t spawn(const std::string& path, std::vector<std::string> texts, int readyEnd) {
     std::vector<char*> arguments;
+    arguments.reserve(texts.size() + 1);
     for (std::string& text : texts)
         arguments.push_back(text.data());
     arguments.push_back(nullptr);

@@ -1,5 +1,6 @@
 #include "adapters/qt/desktop_workspace.h"
 
+#include "adapters/posix/detached_start.h"
 #include "adapters/posix/pidfd.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
@@ -13,11 +14,7 @@
 #include <QSocketNotifier>
 #include <QUrl>
 
-#include <fcntl.h>
-#include <signal.h>
-#include <spawn.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstring>
 #include <map>
@@ -40,33 +37,6 @@ QString reasonOf(int exitCode) {
     default:
         return QStringLiteral("exit code %1").arg(exitCode);
     }
-}
-
-/// Starts `program argument` in a session of its own, with no input and its output thrown away.
-/// Returns its process id, or the negative errno.
-pid_t startDetached(const QByteArray& program, const QByteArray& argument) {
-    posix_spawn_file_actions_t files;
-    ::posix_spawn_file_actions_init(&files);
-    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
-        ::posix_spawn_file_actions_addopen(&files, stream, "/dev/null", O_RDWR, 0);
-    posix_spawnattr_t attributes;
-    ::posix_spawnattr_init(&attributes);
-    sigset_t signals;
-    ::sigfillset(&signals);
-    ::posix_spawnattr_setsigdefault(&attributes, &signals);
-    ::sigemptyset(&signals);
-    ::posix_spawnattr_setsigmask(&attributes, &signals);
-    ::posix_spawnattr_setflags(&attributes,
-                               POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
-    QByteArray name = program;
-    QByteArray what = argument;
-    char* const arguments[] = {name.data(), what.data(), nullptr};
-    pid_t pid = -1;
-    const int fault =
-        ::posix_spawnp(&pid, name.constData(), &files, &attributes, arguments, environ);
-    ::posix_spawnattr_destroy(&attributes);
-    ::posix_spawn_file_actions_destroy(&files);
-    return fault == 0 ? pid : -fault;
 }
 
 QString enclosingFolder(const QString& address) {
@@ -125,7 +95,7 @@ QString DesktopWorkspace::addressOf(const QString& path) const {
 }
 
 void DesktopWorkspace::open(const QString& address) {
-    const pid_t pid = startDetached(fOpener.toLocal8Bit(), address.toUtf8());
+    const pid_t pid = startDetached({fOpener.toLocal8Bit().toStdString(), address.toStdString()});
     if (pid < 0) {
         fConsole.log(u"Cannot open " + address + u": " + fOpener + u": " +
                      QString::fromLocal8Bit(std::strerror(-pid))); // NOLINT(concurrency-mt-unsafe)

@@ -9,9 +9,13 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <fstream>
 #include <linux/netlink.h>
 #include <linux/rtnetlink.h>
 #include <net/if.h>
+#include <net/route.h>
+#include <sstream>
+#include <string>
 #include <utility>
 
 namespace kelvo {
@@ -34,7 +38,8 @@ UniqueFd openSocket() {
     UniqueFd socket(::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC | SOCK_NONBLOCK, NETLINK_ROUTE));
     sockaddr_nl address{};
     address.nl_family = AF_NETLINK;
-    address.nl_groups = RTMGRP_LINK | RTMGRP_IPV4_IFADDR | RTMGRP_IPV6_IFADDR;
+    address.nl_groups = RTMGRP_LINK | RTMGRP_IPV4_IFADDR | RTMGRP_IPV6_IFADDR | RTMGRP_IPV4_ROUTE |
+                        RTMGRP_IPV6_ROUTE;
     if (socket &&
         ::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0)
         socket.reset();
@@ -64,6 +69,32 @@ bool hasUsableLink() {
         found = isUsable(*entry);
     ::freeifaddrs(entries);
     return found;
+}
+
+bool hasDefaultRoute() {
+    std::string line;
+    // Interface, destination, gateway, flags …, each number in hexadecimal.
+    for (std::ifstream routes("/proc/net/route"); std::getline(routes, line);) {
+        std::istringstream fields(line);
+        std::string interface, destination, gateway;
+        unsigned flags = 0;
+        if (fields >> interface >> destination >> gateway >> std::hex >> flags &&
+            destination == "00000000" && (flags & RTF_UP))
+            return true;
+    }
+    // Destination, its length, source, its length, next hop, metric, two counts, flags, interface.
+    for (std::ifstream routes("/proc/net/ipv6_route"); std::getline(routes, line);) {
+        std::istringstream fields(line);
+        std::string destination, length, skipped, interface;
+        unsigned flags = 0;
+        fields >> destination >> length;
+        for (int i = 0; i < 6; ++i)
+            fields >> skipped;
+        if (fields >> std::hex >> flags >> interface && length == "00" && (flags & RTF_UP) &&
+            !(flags & RTF_REJECT) && interface != "lo")
+            return true;
+    }
+    return false;
 }
 
 LinkWatch::LinkWatch(std::function<void()> changed) : fSocket(openSocket()) {

@@ -1,4 +1,4 @@
-// LinkWatch: tells when this machine's network interfaces or their addresses have changed.
+// LinkWatch: tells when this machine's network interfaces, addresses or routes have changed.
 #pragma once
 
 #include "adapters/posix/unique_fd.h"
@@ -14,6 +14,10 @@ namespace kelvo {
 /// address that other machines can reach: any of IPv4, or one of IPv6 beyond the link's own. Any
 /// thread; does not block.
 bool hasUsableLink();
+
+/// Whether the kernel knows a way out of the networks this machine is in. Any thread; does not
+/// block.
+bool hasDefaultRoute();
 
 /// Main thread only. Sleeps in the kernel; nothing ticks.
 class LinkWatch {

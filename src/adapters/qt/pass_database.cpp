@@ -71,7 +71,7 @@ PassDatabase::Outcome PassDatabase::run(const QString& statement) {
 PassDatabase::Outcome PassDatabase::open() {
     if (fDatabase.isOpen())
         return {};
-    if (const Outcome outcome = prepareFile(); !outcome)
+    if (Outcome outcome = prepareFile(); !outcome)
         return outcome;
     fDatabase = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), fConnection);
     fDatabase.setDatabaseName(fPath);
@@ -108,17 +108,17 @@ PassDatabase::Outcome PassDatabase::prepareFile() const {
 PassDatabase::Outcome PassDatabase::prepareTables() {
     // With a log beside the file a record costs no wait for the disk. A file system that cannot
     // have it keeps SQLite's usual way.
-    if (const Outcome outcome = run(QStringLiteral("PRAGMA journal_mode = WAL"));
+    if (Outcome outcome = run(QStringLiteral("PRAGMA journal_mode = WAL"));
         outcome.kind == Outcome::Broken)
         return outcome;
     for (const QString& setting : {QStringLiteral("PRAGMA synchronous = NORMAL"),
                                    QStringLiteral("PRAGMA cache_size = -256")}) {
-        if (const Outcome outcome = run(setting); !outcome)
+        if (Outcome outcome = run(setting); !outcome)
             return outcome;
     }
     QSqlQuery layout(fDatabase);
     layout.exec(QStringLiteral("PRAGMA user_version"));
-    if (const Outcome outcome = outcomeOf(layout); !outcome)
+    if (Outcome outcome = outcomeOf(layout); !outcome)
         return outcome;
     const int found = layout.next() ? layout.value(0).toInt() : 0;
     layout.finish();
@@ -127,7 +127,7 @@ PassDatabase::Outcome PassDatabase::prepareTables() {
     if (found == cLayout)
         return {};
     for (const QString& statement : passTableStatements(cLayout)) {
-        if (const Outcome outcome = run(statement); !outcome) {
+        if (Outcome outcome = run(statement); !outcome) {
             (void)run(QStringLiteral("ROLLBACK"));
             return outcome;
         }
@@ -136,9 +136,9 @@ PassDatabase::Outcome PassDatabase::prepareTables() {
 }
 
 PassDatabase::Outcome PassDatabase::insert(PassRecord& record) {
-    if (const Outcome outcome = open(); !outcome)
+    if (Outcome outcome = open(); !outcome)
         return outcome;
-    if (const Outcome outcome = run(QStringLiteral("BEGIN IMMEDIATE")); !outcome)
+    if (Outcome outcome = run(QStringLiteral("BEGIN IMMEDIATE")); !outcome)
         return outcome;
     Outcome outcome = insertRows(record);
     if (outcome)
@@ -154,25 +154,25 @@ PassDatabase::Outcome PassDatabase::insertRows(PassRecord& record) {
     QSqlQuery pass(fDatabase);
     bindPass(pass, record);
     pass.exec();
-    if (const Outcome outcome = outcomeOf(pass); !outcome)
+    if (Outcome outcome = outcomeOf(pass); !outcome)
         return outcome;
     record.id = pass.lastInsertId().toLongLong();
     QSqlQuery row(fDatabase);
     for (std::size_t i = 0; i < record.commands.size(); ++i) {
         bindCommand(row, record.id, static_cast<int>(i), record.commands[i]);
         row.exec();
-        if (const Outcome outcome = outcomeOf(row); !outcome)
+        if (Outcome outcome = outcomeOf(row); !outcome)
             return outcome;
     }
     for (const QString& statement : dropStatements(fMost)) {
-        if (const Outcome outcome = run(statement); !outcome)
+        if (Outcome outcome = run(statement); !outcome)
             return outcome;
     }
     return {};
 }
 
 PassDatabase::Outcome PassDatabase::readAll(std::vector<PassRecord>& records) {
-    if (const Outcome outcome = open(); !outcome)
+    if (Outcome outcome = open(); !outcome)
         return outcome;
     QSqlQuery query(fDatabase);
     query.setForwardOnly(true);
@@ -183,7 +183,7 @@ PassDatabase::Outcome PassDatabase::readAll(std::vector<PassRecord>& records) {
 }
 
 PassDatabase::Outcome PassDatabase::read(qint64 id, std::optional<PassRecord>& record) {
-    if (const Outcome outcome = open(); !outcome)
+    if (Outcome outcome = open(); !outcome)
         return outcome;
     QSqlQuery query(fDatabase);
     query.setForwardOnly(true);
@@ -194,7 +194,7 @@ PassDatabase::Outcome PassDatabase::read(qint64 id, std::optional<PassRecord>& r
     query.exec(selectCommands(id));
     while (query.next())
         found.commands.push_back(commandFrom(query));
-    const Outcome outcome = outcomeOf(query);
+    Outcome outcome = outcomeOf(query);
     if (outcome)
         record = std::move(found);
     return outcome;

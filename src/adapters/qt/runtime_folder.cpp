@@ -34,20 +34,39 @@ std::string faultOf(const std::string& path) {
     return {};
 }
 
-} // namespace
+/// $XDG_RUNTIME_DIR, when it is the user's own; otherwise empty.
+std::string givenFolder() {
+    std::string given = environmentPath("XDG_RUNTIME_DIR");
+    return !given.empty() && faultOf(given).empty() ? given : std::string();
+}
 
-RuntimeFolder runtimeFolder() {
-    const std::string given = environmentPath("XDG_RUNTIME_DIR");
-    if (!given.empty() && faultOf(given).empty())
-        return {given, {}};
+RuntimeFolder madeFolder(const std::string& path) {
+    if (::mkdir(path.c_str(), S_IRWXU) != 0 && errno != EEXIST)
+        return {{}, path + ": " + std::strerror(errno)}; // NOLINT(concurrency-mt-unsafe)
+    const std::string fault = faultOf(path);
+    return fault.empty() ? RuntimeFolder{path, {}} : RuntimeFolder{{}, fault};
+}
+
+RuntimeFolder folderOfOurOwn() {
     std::string temporary = environmentPath("TMPDIR");
     if (temporary.empty())
         temporary = "/tmp";
-    const std::string own = temporary + "/kelvo-mirror-" + std::to_string(::getuid());
-    if (::mkdir(own.c_str(), S_IRWXU) != 0 && errno != EEXIST)
-        return {{}, own + ": " + std::strerror(errno)}; // NOLINT(concurrency-mt-unsafe)
-    const std::string fault = faultOf(own);
-    return fault.empty() ? RuntimeFolder{own, {}} : RuntimeFolder{{}, fault};
+    return madeFolder(temporary + "/kelvo-mirror-" + std::to_string(::getuid()));
+}
+
+} // namespace
+
+RuntimeFolder runtimeFolder() {
+    const std::string given = givenFolder();
+    return given.empty() ? folderOfOurOwn() : RuntimeFolder{given, {}};
+}
+
+FolderOrFault UserTemporaryFolder::temporaryFolder() const {
+    const std::string given = givenFolder();
+    const RuntimeFolder folder =
+        given.empty() ? folderOfOurOwn() : madeFolder(given + "/kelvo-mirror");
+    return {QString::fromLocal8Bit(folder.path.c_str()),
+            QString::fromLocal8Bit(folder.fault.c_str())};
 }
 
 } // namespace kelvo

@@ -1,5 +1,7 @@
-// The user's folder for what lives only as long as programs run.
+// The user's folders for what lives only as long as programs run.
 #pragma once
+
+#include "ports/temporary_folder.h"
 
 #include <string>
 
@@ -14,5 +16,12 @@ struct RuntimeFolder {
 /// "kelvo-mirror-<user id>" in $TMPDIR or /tmp, made with mode 0700 when missing and refused when
 /// it is anybody else's, open to others, or a link. Touches only local folders. Any thread.
 RuntimeFolder runtimeFolder();
+
+/// "kelvo-mirror" in $XDG_RUNTIME_DIR or "kelvo-mirror-<user id>" in $TMPDIR or /tmp, by the same
+/// rules as above.
+class UserTemporaryFolder final : public TemporaryFolder {
+public:
+    FolderOrFault temporaryFolder() const override;
+};
 
 } // namespace kelvo

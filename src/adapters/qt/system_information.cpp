@@ -13,6 +13,9 @@
 namespace kelvo {
 namespace {
 
+/// Seconds; the window and the set-up of the main view come first.
+constexpr double cAfterTheStart = 2.0;
+
 QString environmentText(const char* name) {
     return qEnvironmentVariable(name).trimmed();
 }
@@ -37,23 +40,27 @@ QString versionFrom(ShellRunner& shell, const QString& command, QStringView star
 } // namespace
 
 LocalSystemInformation::LocalSystemInformation(QString programName, ShellRunner& shell,
-                                               BackgroundQueue& bgQueue, Console& console)
-    : fProgramName(std::move(programName)), fShell(shell), fBgQueue(bgQueue), fConsole(console) {}
+                                               DispatchQueue& mainQueue, BackgroundQueue& bgQueue,
+                                               Console& console)
+    : fProgramName(std::move(programName)), fShell(shell), fMainQueue(mainQueue), fBgQueue(bgQueue),
+      fConsole(console) {}
 
 void LocalSystemInformation::logCurrentSystemInfo() {
-    fBgQueue.async(
-        [name = fProgramName, desktop = desktopText(), &shell = fShell, &console = fConsole] {
-            const auto say = [&console](QStringView what, const QString& value) {
-                console.log(what + u": " + withVisibleControls(value));
-            };
-            say(u"program", name);
-            say(u"system", systemText());
-            say(u"desktop", desktop);
-            say(u"Qt", QString::fromLatin1(qVersion()));
-            say(u"rsync",
-                versionFrom(shell, QStringLiteral("/usr/bin/rsync --version 2>&1"), u"rsync"));
-            say(u"ssh", versionFrom(shell, QStringLiteral("/usr/bin/ssh -V 2>&1"), u"OpenSSH"));
-        });
+    fMainQueue.asyncAfter(cAfterTheStart, [this] {
+        fBgQueue.async(
+            [name = fProgramName, desktop = desktopText(), &shell = fShell, &console = fConsole] {
+                const auto say = [&console](QStringView what, const QString& value) {
+                    console.log(what + u": " + withVisibleControls(value));
+                };
+                say(u"program", name);
+                say(u"system", systemText());
+                say(u"desktop", desktop);
+                say(u"Qt", QString::fromLatin1(qVersion()));
+                say(u"rsync",
+                    versionFrom(shell, QStringLiteral("/usr/bin/rsync --version 2>&1"), u"rsync"));
+                say(u"ssh", versionFrom(shell, QStringLiteral("/usr/bin/ssh -V 2>&1"), u"OpenSSH"));
+            });
+    });
 }
 
 } // namespace kelvo

@@ -9,20 +9,22 @@ namespace kelvo {
 
 class BackgroundQueue;
 class Console;
+class DispatchQueue;
 class ShellRunner;
 
 class LocalSystemInformation final : public SystemInformation {
 public:
     /// `programName` is the program with its version, the first line written. The other parts
-    /// outlive the work that waits on `bgQueue`.
-    LocalSystemInformation(QString programName, ShellRunner& shell, BackgroundQueue& bgQueue,
-                           Console& console);
+    /// outlive the work that waits on the queues. Nothing is asked before the start-up is over.
+    LocalSystemInformation(QString programName, ShellRunner& shell, DispatchQueue& mainQueue,
+                           BackgroundQueue& bgQueue, Console& console);
 
     void logCurrentSystemInfo() override;
 
 private:
     const QString fProgramName;
     ShellRunner& fShell;
+    DispatchQueue& fMainQueue;
     BackgroundQueue& fBgQueue;
     Console& fConsole;
 };

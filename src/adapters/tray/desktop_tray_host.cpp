@@ -48,7 +48,8 @@ int screenNumber() {
 
 DesktopTrayHost::DesktopTrayHost(const QDBusConnection& bus) : fBus(bus) {
     watchBus();
-    watchX11();
+    // Asking the display takes several ways there and back; the window shall not wait for that.
+    QTimer::singleShot(0, this, [this] { watchX11(); });
 }
 
 DesktopTrayHost::~DesktopTrayHost() {

@@ -85,4 +85,27 @@ QIcon statusIcon(StatusMenuState state, const QColor& ink, const QColor& ground)
     return icon;
 }
 
+QIcon startIcon(bool stops, const QPalette& palette) {
+    constexpr int cSide = 32;
+    constexpr qreal cMargin = 6;
+    QIcon icon;
+    for (const auto& [mode, group] : {std::pair(QIcon::Normal, QPalette::Active),
+                                      std::pair(QIcon::Disabled, QPalette::Disabled)}) {
+        QPixmap picture(cSide, cSide);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(palette.color(group, QPalette::ButtonText));
+        constexpr qreal cFar = cSide - cMargin;
+        if (stops)
+            painter.drawRect(QRectF(QPointF(cMargin, cMargin), QPointF(cFar, cFar)));
+        else
+            painter.drawPolygon(QPolygonF(
+                {QPointF(cMargin, cMargin), QPointF(cFar, cSide / 2.0), QPointF(cMargin, cFar)}));
+        icon.addPixmap(picture, mode);
+    }
+    return icon;
+}
+
 } // namespace kelvo

@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QIcon>
+#include <QPalette>
 
 namespace kelvo {
 
@@ -14,5 +15,9 @@ QIcon applicationIcon();
 /// The sign of `state` in `ink`, with a thin rim of `ground` around it, so that it can be read on a
 /// panel of either colour. Signs differ by shape. Main thread; needs a QGuiApplication.
 QIcon statusIcon(StatusMenuState state, const QColor& ink, const QColor& ground);
+
+/// A triangle that starts, or a square that stops, in the colours of `palette`. Main thread; needs
+/// a QGuiApplication.
+QIcon startIcon(bool stops, const QPalette& palette);
 
 } // namespace kelvo

@@ -4,6 +4,7 @@
 #include "support/fatal.h"
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/diagnostics_tab.h"
+#include "ui/widgets/icons.h"
 #include "ui/widgets/remote_tab.h"
 #include "ui/widgets/settings_tab.h"
 #include "ui/widgets/sync_tab.h"
@@ -90,14 +91,14 @@ void MainWindow::setAction(const QString& control, std::function<void()> action)
 }
 
 void MainWindow::showStartIcon() {
-    ibStartButton().setIcon(style()->standardIcon(
-        ibStartButton().isChecked() ? QStyle::SP_MediaStop : QStyle::SP_MediaPlay));
+    ibStartButton().setIcon(startIcon(ibStartButton().isChecked(), palette()));
 }
 
 // -- tabs
 
 std::vector<MainWindow::Tab> MainWindow::tabs() const {
     std::vector<Tab> all;
+    all.reserve(static_cast<std::size_t>(fUi->tabView->count()));
     for (int i = 0; i < fUi->tabView->count(); ++i)
         all.push_back(
             {fUi->tabView->widget(i)->property("identifier").toString(), fUi->tabView->tabText(i)});
@@ -140,6 +141,12 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     }
     keepLook();
     QMainWindow::closeEvent(event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showStartIcon();
 }
 
 void MainWindow::hideEvent(QHideEvent* event) {

@@ -22,12 +22,6 @@ SettingsTab::SettingsTab(Bindings& bindings, QWidget* parent)
     bindings.flag(*fUi->remotePass, prefRsyncWithSSH);
     bindings.flag(*fUi->plainPass, prefRsyncWithSSH, true);
 
-    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    fixed.setPointSizeF(font().pointSizeF());
-    fUi->rsyncTemplate->setFont(fixed);
-    fUi->commandExample->setFont(fixed);
-    fUi->rsyncTemplate->setMinimumHeight(fUi->rsyncTemplate->fontMetrics().lineSpacing() *
-                                         cTemplateLines);
     bindings.text(*fUi->rsyncTemplate, prefRsyncCommandString1);
 
     fUi->optionTag->addItem(tr("Every file that differs"), 100);
@@ -54,5 +48,16 @@ SettingsTab::SettingsTab(Bindings& bindings, QWidget* parent)
 }
 
 SettingsTab::~SettingsTab() = default;
+
+/// Another font costs time and memory that a person who never comes here shall not pay.
+void SettingsTab::showEvent(QShowEvent* event) {
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixed.setPointSizeF(font().pointSizeF());
+    fUi->rsyncTemplate->setFont(fixed);
+    fUi->commandExample->setFont(fixed);
+    fUi->rsyncTemplate->setMinimumHeight(fUi->rsyncTemplate->fontMetrics().lineSpacing() *
+                                         cTemplateLines);
+    QWidget::showEvent(event);
+}
 
 } // namespace kelvo

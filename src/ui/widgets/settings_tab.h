@@ -20,6 +20,9 @@ public:
     explicit SettingsTab(Bindings& bindings, QWidget* parent = nullptr);
     ~SettingsTab() override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     std::unique_ptr<Ui::SettingsTab> fUi;
 };

@@ -22,7 +22,7 @@ StatusFieldView::StatusFieldView(QWidget* parent)
     row->addWidget(fSign);
     row->addWidget(fText, 1);
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    fSign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(side));
+    fSign->setFixedSize(side, side);
     fSign->setAccessibleName(tr("Trouble"));
     QSizePolicy keepsItsPlace = fSign->sizePolicy();
     keepsItsPlace.setRetainSizeWhenHidden(true);
@@ -43,10 +43,21 @@ void StatusFieldView::show(const AttributedString& value) {
     fText->setAlignment(
         (value.alignment == TextAlignment::Centered ? Qt::AlignHCenter : Qt::AlignLeft) |
         Qt::AlignVCenter);
-    fSign->setVisible(fColor == StatusColor::Red);
+    if (fColor == StatusColor::Red)
+        showSign();
+    else
+        fSign->hide();
     applyColor();
     QAccessibleEvent event(fText, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
+}
+
+/// The desktop's sign is looked for at the first trouble: that takes longer than all the window.
+void StatusFieldView::showSign() {
+    if (fSign->pixmap().isNull())
+        fSign->setPixmap(
+            style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(fSign->width()));
+    fSign->show();
 }
 
 void StatusFieldView::clear() {

@@ -23,6 +23,7 @@ protected:
 
 private:
     void applyColor();
+    void showSign();
 
     QLabel* fSign;
     QLabel* fText;

@@ -1,9 +1,11 @@
 #include "ui/widgets/widget_main_view.h"
 
+#include "ui/widgets/remote_tab.h"
 #include "ui/widgets/sync_tab.h"
 #include "ui/widgets/widget_controls.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QMouseEvent>
 
 #include <memory>
@@ -57,6 +59,20 @@ void WidgetMainView::showNetworkStatus(const QString& text) {
         fWindow->syncTab().setNetworkStatus(text);
 }
 
+void WidgetMainView::showTesting(bool testing) {
+    if (fWindow)
+        fWindow->remoteTab().setTesting(testing);
+}
+
+void WidgetMainView::showKeyState(const QString& text) {
+    if (fWindow)
+        fWindow->remoteTab().setKeyState(text);
+}
+
+void WidgetMainView::beep() {
+    QApplication::beep();
+}
+
 Subscription WidgetMainView::monitorRightMouseDown(const Control& view,
                                                    std::function<void(bool)> handler) {
     const auto* control = dynamic_cast<const WidgetControl*>(&view);
@@ -84,6 +100,10 @@ void WidgetApplication::bringToFront() {
 void WidgetApplication::terminate() {
     fWillTerminate();
     QCoreApplication::quit();
+}
+
+void WidgetPasteboard::setString(const QString& text) {
+    QApplication::clipboard()->setText(text);
 }
 
 } // namespace kelvo

@@ -1,8 +1,10 @@
-// WidgetMainView and WidgetApplication: the main window as controllers see it.
+// WidgetMainView, WidgetApplication and WidgetPasteboard: window and desktop as controllers see
+// them.
 #pragma once
 
 #include "ports/application.h"
 #include "ports/main_view.h"
+#include "ports/pasteboard.h"
 #include "ui/widgets/main_window.h"
 
 #include <QPointer>
@@ -16,6 +18,9 @@ public:
     bool hasWindow() const override;
     void makeNothingFirstResponder() override;
     void showNetworkStatus(const QString& text) override;
+    void showTesting(bool testing) override;
+    void showKeyState(const QString& text) override;
+    void beep() override;
 
     /// `view` is a WidgetControl; any other hears nothing.
     Subscription monitorRightMouseDown(const Control& view,
@@ -37,6 +42,11 @@ public:
 private:
     QPointer<MainWindow> fWindow;
     const std::function<void()> fWillTerminate;
+};
+
+class WidgetPasteboard final : public Pasteboard {
+public:
+    void setString(const QString& text) override;
 };
 
 } // namespace kelvo

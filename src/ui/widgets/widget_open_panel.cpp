@@ -51,7 +51,7 @@ OpenPanelAnswer WidgetOpenPanel::runModal(const OpenPanelOptions& options) {
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog) // The main window went while the panel was open.
         return {};
-    const OpenPanelAnswer answer{accepted, accepted ? dialog->selectedFiles() : QStringList()};
+    OpenPanelAnswer answer{accepted, accepted ? dialog->selectedFiles() : QStringList()};
     delete dialog;
     return answer;
 }

@@ -4,8 +4,7 @@
 #include "ports/open_panel.h"
 
 #include <QPointer>
-
-class QWidget;
+#include <QWidget>
 
 namespace kelvo {
 

@@ -1,0 +1,27 @@
+// Terminal: a window in which a person answers what a command asks.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace kelvo {
+
+enum class TerminalOutcome {
+    Ended,    ///< the command has ended, well or badly, or its window was closed
+    NoWindow, ///< the command was never begun
+};
+
+class Terminal {
+public:
+    virtual ~Terminal() = default;
+
+    /// Runs the script at `path` in a terminal window, which stays until a key is pressed after the
+    /// script's end; `command` is what the script says, for those who cannot open windows. Returns
+    /// at once; the window outlives the program. `ended` is called once, later on the main thread,
+    /// when the script has ended; not at all once the terminal object is gone. Main thread.
+    virtual void openCommandFile(const QString& path, const QString& command,
+                                 std::function<void(TerminalOutcome)> ended) = 0;
+};
+
+} // namespace kelvo

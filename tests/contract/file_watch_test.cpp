@@ -1,0 +1,218 @@
+// FileWatch on a real folder, with directory signals and where the kernel refuses them.
+#include "adapters/qt/file_watch.h"
+#include "contract/settings_folder.h"
+#include "support/wait_until.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <cstddef>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <thread>
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// From now on the kernel refuses directory signals to this thread.
+bool refuseDirectorySignals() {
+    std::array<sock_filter, 6> steps{{
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_fcntl, 0, 3),
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, args[1])),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, F_NOTIFY, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EINVAL),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    }};
+    const sock_fprog filter{static_cast<unsigned short>(steps.size()), steps.data()};
+    return ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+           ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
+}
+
+/// How many inotify instances this process holds.
+int inotifyInstances() {
+    int count = 0;
+    for (const QFileInfo& entry : QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::System))
+        count += entry.symLinkTarget().contains(u"inotify") ? 1 : 0;
+    return count;
+}
+
+enum class Kernel { Signals, NoSignals };
+
+class FileWatchTest : public ::testing::TestWithParam<Kernel> {
+protected:
+    void SetUp() override {
+        QDir().mkpath(fFolder.folder());
+        ASSERT_EQ(fWatch.arm(), 0);
+    }
+    void TearDown() override { end(); }
+
+    void begin() {
+        fWaiter = std::jthread([this](const std::stop_token& stop) {
+            if (GetParam() == Kernel::NoSignals && !refuseDirectorySignals())
+                fFilterFailed = true;
+            while (!stop.stop_requested()) {
+                if (fWatch.wait(std::nullopt))
+                    ++fChanges;
+                if (!fWatch.watching())
+                    fError = fWatch.arm();
+                ++fReturns;
+            }
+        });
+    }
+    void end() {
+        fWaiter.request_stop();
+        fWatch.wake();
+        if (fWaiter.joinable())
+            fWaiter.join();
+        EXPECT_FALSE(fFilterFailed);
+    }
+    /// Lets the waiting thread go round once, so that it certainly listens afterwards.
+    void settle() {
+        const int before = fReturns;
+        fWatch.wake();
+        ASSERT_TRUE(waitUntil([&] { return fReturns > before; }));
+    }
+    /// Whether `act` ends the wait with a change.
+    bool isNoticed(const std::function<void()>& act) {
+        settle();
+        const int before = fChanges;
+        act();
+        return waitUntil([&] { return fChanges > before; });
+    }
+
+    /// Writes `times` times to another file in the folder.
+    void writeOther(int times) const {
+        QFile file(fFolder.folder() + QStringLiteral("/other"));
+        ASSERT_TRUE(file.open(QFile::WriteOnly | QFile::Unbuffered));
+        for (int round = 0; round < times; ++round)
+            ASSERT_EQ(file.write("x"), 1);
+    }
+
+    SettingsFolder fFolder;
+    FileWatch fWatch{fFolder.folder().toStdString(), "preferences.plist"};
+    std::atomic<int> fChanges = 0;
+    std::atomic<int> fReturns = 0;
+    std::atomic<int> fError = 0;
+    std::atomic<bool> fFilterFailed = false;
+    std::jthread fWaiter;
+};
+
+TEST_P(FileWatchTest, EachWayToChangeTheFile_IsNoticed) {
+    begin();
+    EXPECT_TRUE(isNoticed([&] { fFolder.write("first"); })) << "put there";
+    EXPECT_TRUE(isNoticed([&] { fFolder.write("second, longer"); })) << "written";
+    EXPECT_TRUE(isNoticed([&] { fFolder.replace({{"a", 1LL}}); })) << "replaced";
+    EXPECT_TRUE(isNoticed([&] { QFile::remove(fFolder.path()); })) << "removed";
+}
+
+TEST_P(FileWatchTest, WritingOfTheSameLengthInQuickSuccession_IsNoticedEachTime) {
+    fFolder.write("0");
+    begin();
+    for (const char* bytes : {"1", "2", "3", "4", "5", "6", "7", "8", "9"})
+        EXPECT_TRUE(isNoticed([&] { fFolder.write(bytes); })) << bytes;
+}
+
+TEST_P(FileWatchTest, ChangeBetweenArmingAndTheFirstWait_IsNoticed) {
+    fFolder.write("between");
+    begin();
+    EXPECT_TRUE(waitUntil([&] { return fChanges == 1; }));
+}
+
+TEST_P(FileWatchTest, WakeUp_IsNoChange) {
+    begin();
+    settle();
+    const int before = fChanges;
+    for (int round = 0; round < 10; ++round)
+        settle();
+    EXPECT_EQ(fChanges, before);
+}
+
+TEST_P(FileWatchTest, WakeUpBeforeTheWait_EndsIt) {
+    fWatch.wake();
+    begin();
+    EXPECT_TRUE(waitUntil([&] { return fReturns > 0; }));
+}
+
+TEST_P(FileWatchTest, OtherFileBesideAFileAtRest_IsNoChange) {
+    fFolder.write("at rest");
+    std::this_thread::sleep_for(2100ms);
+    begin();
+    settle();
+    const int changes = fChanges;
+    const int returns = fReturns;
+    writeOther(1);
+    EXPECT_TRUE(waitUntil([&] { return fReturns > returns; })) << "the wait looks at the file";
+    settle();
+    EXPECT_EQ(fChanges, changes);
+}
+
+TEST_P(FileWatchTest, FolderMovedAwayAndMadeAgain_IsWatchedAgain) {
+    fFolder.write("old");
+    begin();
+    const QString away = fFolder.folder() + QStringLiteral("-old");
+    EXPECT_TRUE(isNoticed([&] { QDir().rename(fFolder.folder(), away); }));
+    EXPECT_TRUE(waitUntil([&] { return fError == ENOENT; }));
+    fFolder.write("new");
+    settle();
+    EXPECT_EQ(fError, 0);
+    EXPECT_TRUE(isNoticed([&] { fFolder.write("newer, longer"); }));
+}
+
+TEST_P(FileWatchTest, FolderRemoved_IsNoLongerWatched) {
+    fFolder.write("old");
+    begin();
+    EXPECT_TRUE(isNoticed([&] { QDir(fFolder.folder()).removeRecursively(); }));
+    EXPECT_TRUE(waitUntil([&] { return fError == ENOENT; }));
+    EXPECT_FALSE(QDir(fFolder.folder()).exists());
+}
+
+TEST_P(FileWatchTest, FlickeringNeighbour_DoesNotHideTheChange) {
+    begin();
+    settle();
+    writeOther(20'000);
+    EXPECT_TRUE(isNoticed([&] { fFolder.write("after the flood"); }));
+}
+
+TEST_P(FileWatchTest, InotifyIsHeld_OnlyWhereSignalsAreRefused) {
+    const int before = inotifyInstances();
+    begin();
+    settle();
+    EXPECT_EQ(inotifyInstances() - before, GetParam() == Kernel::NoSignals ? 1 : 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kernels, FileWatchTest,
+                         ::testing::Values(Kernel::Signals, Kernel::NoSignals),
+                         [](const auto& given) {
+                             return given.param == Kernel::Signals ? "signals" : "inotify";
+                         });
+
+TEST(FileWatchArmTest, NoFolderOrNoneAtAll_IsRefusedWithTheReason) {
+    const SettingsFolder folder;
+    FileWatch missing(folder.folder().toStdString(), "preferences.plist");
+    EXPECT_EQ(missing.arm(), ENOENT);
+    EXPECT_FALSE(missing.watching());
+    folder.write("file");
+    FileWatch file(folder.path().toStdString(), "preferences.plist");
+    EXPECT_EQ(file.arm(), ENOTDIR);
+    EXPECT_FALSE(file.watching());
+    file.wake();
+    EXPECT_FALSE(file.wait(std::nullopt)) << "a wake-up ends the wait all the same";
+    EXPECT_FALSE(file.wait(std::chrono::steady_clock::now() + 10ms)) << "and so does the time";
+}
+
+} // namespace
+} // namespace kelvo

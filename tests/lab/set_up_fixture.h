@@ -1,0 +1,188 @@
+// SetUpLabTest: the program's window on a display of its own, driven by mouse and keys, between two
+// hosts on which nothing is set up yet.
+#pragma once
+
+#include "lab/lab_fixture.h"
+#include "support/plist_text.h"
+#include "support/virtual_display.h"
+#include "support/wait_until.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace kelvo {
+
+using namespace std::chrono_literals;
+
+inline const QString cPassword = QStringLiteral("projector");
+
+class SetUpLabTest : public LabTest {
+protected:
+    static constexpr int cToolPatience = 20'000; // milliseconds
+    static inline const QString cKey = QStringLiteral(".ssh/id_kelvoRsync");
+
+    void SetUp() override {
+        for (const char* tool : {"Xvfb", "openbox", "xdotool", "maim", "xterm"}) {
+            if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty())
+                GTEST_SKIP() << tool << " is not installed on this machine";
+        }
+        LabTest::SetUp();
+        if (IsSkipped() || HasFatalFailure())
+            return;
+        // Nothing is set up yet: no key, and a host that nobody has seen before.
+        near(QStringLiteral("find .ssh -mindepth 1 -delete"));
+        remote(QStringLiteral("rm -f /Users/mediauser/.ssh/authorized_keys"));
+        display = screen.start();
+        ASSERT_FALSE(display.isEmpty()) << "Xvfb does not come up";
+        QProcessEnvironment desktop = QProcessEnvironment::systemEnvironment();
+        desktop.insert(QStringLiteral("DISPLAY"), display);
+        manager.setProcessEnvironment(desktop);
+        manager.start(QStringLiteral("openbox"), QStringList());
+        ASSERT_TRUE(manager.waitForStarted(cToolPatience));
+        ASSERT_TRUE(waitUntil(
+            [this] { return !tool("xdotool", {QStringLiteral("getdisplaygeometry")}).isEmpty(); }));
+    }
+
+    void TearDown() override {
+        program.reset();
+        manager.terminate();
+        if (manager.state() != QProcess::NotRunning && !manager.waitForFinished(cToolPatience))
+            manager.kill();
+    }
+
+    // -- the program
+
+    static QVariantMap firstDay() {
+        return {{QStringLiteral("prefRsyncWithSSH"), true},
+                {QStringLiteral("prefPath2"), cIncoming},
+                {QStringLiteral("mainWindowTab"), QStringLiteral("remote")}};
+    }
+    static QVariantMap hostAndUser() {
+        QVariantMap profile = firstDay();
+        profile[QStringLiteral("prefRemoteBonjourName")] = cRemoteHost;
+        profile[QStringLiteral("prefRemoteUsername")] = cRemoteUser;
+        profile[QStringLiteral("prefRemotePath")] = QStringLiteral("Movies");
+        return profile;
+    }
+
+    /// Starts the program with its window on the display and the keyboard focus in it.
+    void startWindow(const QVariantMap& profile, const QStringList& variables = {}) {
+        writeNear(cNearHome + QStringLiteral("/.config/kelvo-mirror/preferences.plist"),
+                  plistText(profile));
+        program = std::make_unique<RunningProgram>(
+            QStringLiteral(KELVO_LAB_COMMAND),
+            QStringList{QStringLiteral("near"), QStringLiteral("env"),
+                        QString(u"DISPLAY=" + display), QStringLiteral("QT_QPA_PLATFORM=xcb"),
+                        QStringLiteral("DBUS_SESSION_BUS_ADDRESS=disabled:")} +
+                variables + QStringList{QStringLiteral(KELVO_PROGRAM)});
+        ASSERT_TRUE(program->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
+            << program->transcript().toStdString();
+        ASSERT_TRUE(waitUntil([this] { return activeTitle() == u"Kelvo Mirror"; }, 30s));
+    }
+
+    bool prints(const QString& start, double seconds = 60) {
+        return program->waitForLine(start, seconds).has_value();
+    }
+    bool logs(const QString& part, double seconds = 60) {
+        return program
+            ->waitForLine([&](const QString& line) { return line.contains(part); }, seconds)
+            .has_value();
+    }
+    /// The same for the system log.
+    bool tells(const QString& part) {
+        return waitUntil(
+            [&] {
+                program->waitForLine(QStringLiteral("no such line"), 0.05);
+                return program->transcript().contains(part);
+            },
+            60s);
+    }
+    std::string transcript() const { return program->transcript().toStdString(); }
+
+    // -- mouse and keys
+
+    QString tool(const char* name, const QStringList& arguments) const {
+        QProcess process;
+        QProcessEnvironment desktop = QProcessEnvironment::systemEnvironment();
+        desktop.insert(QStringLiteral("DISPLAY"), display);
+        process.setProcessEnvironment(desktop);
+        process.start(QString::fromLatin1(name), arguments);
+        process.waitForFinished(cToolPatience);
+        return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+    }
+    void keys(const QStringList& names) const {
+        tool("xdotool",
+             QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("30")} +
+                 names);
+    }
+    void type(const QString& text) const {
+        tool("xdotool",
+             {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("20"), text});
+    }
+    void enter(const QString& text) const {
+        type(text);
+        keys({QStringLiteral("Return")});
+    }
+    /// The start button is the one tall control across the middle of the window.
+    void clickStart() const {
+        const QString place =
+            tool("xdotool", {QStringLiteral("getactivewindow"), QStringLiteral("getwindowgeometry"),
+                             QStringLiteral("--shell")});
+        const auto number = [&](const char* name) {
+            return place.section(QString::fromLatin1(name) + u'=', 1).section(u'\n', 0, 0).toInt();
+        };
+        tool("xdotool",
+             {QStringLiteral("mousemove"), QString::number(number("X") + number("WIDTH") / 2),
+              QString::number(number("Y") + 225), QStringLiteral("click"), QStringLiteral("1")});
+    }
+    QString activeTitle() const {
+        return tool("xdotool",
+                    {QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")});
+    }
+    bool comesToFront(const QString& title) const {
+        return waitUntil([&] { return activeTitle().startsWith(title); }, 30s);
+    }
+    QString terminalWindow() const {
+        return tool("xdotool", {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                QStringLiteral("--class"), QStringLiteral("xterm")})
+            .section(u'\n', 0, 0);
+    }
+    bool terminalComes(bool comes = true) const {
+        return waitUntil([&] { return terminalWindow().isEmpty() != comes; }, 30s);
+    }
+    void keepPicture(const char* name) const {
+        QDir().mkpath(QStringLiteral(KELVO_PICTURES));
+        tool("maim", {QStringLiteral(KELVO_PICTURES "/%1.png").arg(QLatin1StringView(name))});
+    }
+
+    /// Types `text` into the terminal, again from time to time (a question drops what was typed
+    /// before it was asked), until `nearText` succeeds on the near host.
+    static constexpr auto cAnswerPatience = 3s;
+    bool answers(const QString& text, const std::function<bool()>& done) const {
+        for (int round = 0; round < 8; ++round) {
+            enter(text);
+            if (waitUntil(done, cAnswerPatience))
+                return true;
+        }
+        return false;
+    }
+    static bool hostIsKnown() {
+        return near(QStringLiteral("test -s .ssh/known_hosts")).exitCode == 0;
+    }
+    static bool keyIsInstalled() {
+        return remote(QStringLiteral("test -s /Users/mediauser/.ssh/authorized_keys")).exitCode ==
+               0;
+    }
+    static bool bothHalves() {
+        return near(QStringLiteral("test -s %1 -a -s %1.pub").arg(cKey)).exitCode == 0;
+    }
+
+    VirtualDisplay screen;
+    QString display;
+    QProcess manager;
+    std::unique_ptr<RunningProgram> program;
+};
+
+} // namespace kelvo

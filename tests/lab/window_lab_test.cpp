@@ -1,0 +1,168 @@
+// The real window on the near host: passes and the choice of the remote Mac, all by keyboard.
+#include "lab/lab_fixture.h"
+#include "support/plist_text.h"
+#include "support/virtual_desktop.h"
+#include "support/wait_until.h"
+
+#include <QFile>
+
+namespace kelvo {
+namespace {
+
+constexpr int cPatience = 20'000; // milliseconds
+const QString cSettings = QStringLiteral("/Users/near/.config/kelvo-mirror/preferences.plist");
+
+struct OtherMac {
+    const char* name;
+    const char* host;
+    const char* address;
+};
+constexpr OtherMac cOtherMacs[] = {{"Studio One", "Studio-One", "10.77.0.11"},
+                                   {"Edit Bay", "Edit-Bay", "10.77.0.12"},
+                                   {"Archive", "Archive", "10.77.0.13"}};
+
+class WindowLabTest : public LabTest {
+protected:
+    void SetUp() override {
+        LabTest::SetUp();
+        if (IsSkipped())
+            return;
+        if (const QString missing = VirtualDesktop::missingTool(); !missing.isEmpty())
+            GTEST_SKIP() << missing.toStdString() << " is not installed on this machine";
+        ASSERT_TRUE(screen.start()) << "no display comes up";
+    }
+
+    void TearDown() override {
+        program.reset();
+        for (const auto& announcer : fAnnouncers) {
+            announcer->terminate();
+            if (!announcer->waitForFinished(cPatience))
+                announcer->kill();
+        }
+    }
+
+    void start(const QVariantMap& profile) {
+        writeNear(cSettings, plistText(profile));
+        startAgain();
+    }
+
+    void startAgain() {
+        program = std::make_unique<RunningProgram>(
+            QStringLiteral(KELVO_LAB_COMMAND),
+            QStringList{QStringLiteral("near"), QStringLiteral("env"),
+                        QString(u"DISPLAY=" + screen.name()), QStringLiteral("QT_QPA_PLATFORM=xcb"),
+                        QStringLiteral("DBUS_SESSION_BUS_ADDRESS=disabled:"),
+                        QStringLiteral(KELVO_PROGRAM)});
+    }
+
+    void keepPicture(const char* name) const {
+        EXPECT_TRUE(screen.keepPicture(QStringLiteral(KELVO_PICTURES), name));
+    }
+
+    /// Three more Macs, with names and addresses of their own, by packets on the cable.
+    void announceOthers() {
+        const QString announcer = QStringLiteral("/tmp/mdns_announcer");
+        QFile program(QStringLiteral(KELVO_ANNOUNCER));
+        ASSERT_TRUE(program.open(QFile::ReadOnly));
+        writeRemote(announcer, program.readAll());
+        remote(u"chmod 755 " + announcer);
+        for (const auto& [name, host, address] : cOtherMacs) {
+            auto& process = *fAnnouncers.emplace_back(std::make_unique<QProcess>());
+            process.start(QStringLiteral(KELVO_LAB_COMMAND),
+                          {QStringLiteral("remote"), announcer, QString::fromLatin1(address),
+                           QString::fromLatin1(host), cRemoteAddress});
+            process.write(QByteArray(name).toHex() + '\n');
+            process.closeWriteChannel();
+            while (!process.canReadLine())
+                ASSERT_TRUE(process.waitForReadyRead(cPatience));
+        }
+    }
+
+    VirtualDesktop screen;
+    std::unique_ptr<RunningProgram> program;
+
+private:
+    std::vector<std::unique_ptr<QProcess>> fAnnouncers;
+};
+
+TEST_F(WindowLabTest, AutoStart_PullsWhileTheWindowShowsIt) {
+    start(remoteProfile());
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("result from movie shell command ="), 90))
+        << program->transcript().toStdString();
+    keepPicture("lab-passes");
+    EXPECT_EQ(nearChecksums(cIncoming), moviesOf(remoteChecksums(cRemoteMovies)));
+    EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+}
+
+TEST_F(WindowLabTest, RemoteMac_IsChosenFromTheListByKeyboardAndTheNextStartPullsFromIt) {
+    announceOthers();
+    QVariantMap profile = remoteProfile();
+    profile.remove(QStringLiteral("prefRemoteBonjourName"));
+    profile[QStringLiteral("prefAutoStartScanOnLaunch")] = false;
+    start(profile);
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60));
+    ASSERT_TRUE(screen.becomesActive(QStringLiteral("Kelvo Mirror")));
+    screen.keys({QStringLiteral("ctrl+2"), QStringLiteral("alt+c")});
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("NOW SCANNING"), 20))
+        << program->transcript().toStdString();
+
+    // Every scan adds what has been announced meanwhile.
+    const auto rowsOf = [](const QString& line) { return line.count(u"DNSSD_Service("); };
+    const auto allAreListed = [&] {
+        const auto list = program->waitForLine(
+            [&](const QString& line) {
+                return line.contains(u".......self.fFilteredFoundServicesArray = ") &&
+                       rowsOf(line) == 4;
+            },
+            4);
+        if (!list)
+            screen.keys({QStringLiteral("alt+r")});
+        return list.has_value();
+    };
+    ASSERT_TRUE(waitUntil(allAreListed, std::chrono::seconds(60)))
+        << program->transcript().toStdString();
+    keepPicture("bonjour-sheet");
+
+    screen.type(QStringLiteral("remote"));
+    ASSERT_TRUE(program->waitForLine(
+        QStringLiteral("Inside BonjourViewController->tableViewSelectionDidChange(_:)"), 20));
+    screen.keys({QStringLiteral("Return")});
+    ASSERT_TRUE(
+        program->waitForLine(QStringLiteral("Inside BonjourViewController->ibSelectItem(_:)"), 20));
+    const auto stored = [](const char* text) {
+        return waitUntil([&] { return near(u"cat " + cSettings).output.contains(text); },
+                         std::chrono::seconds(20));
+    };
+    EXPECT_TRUE(stored("<key>prefRemoteBonjourName</key>\n\t<string>Remote-Mac.local</string>"))
+        << near(u"cat " + cSettings).output.toStdString();
+    EXPECT_TRUE(stored("<string>10.77.0.2</string>"));
+    for (const char* key :
+         {"name", "type", "scheme", "domain", "hostTarget", "ip4Address", "macAddress", "fullName",
+          "dateAdded", "interface", "hostPort", "available"})
+        EXPECT_TRUE(
+            stored(qPrintable(QStringLiteral("<key>%1</key>").arg(QLatin1StringView(key)))));
+    EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+
+    near(u"sed -i '/prefAutoStartScanOnLaunch/{n;s/false/true/}' " + cSettings);
+    startAgain();
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("result from movie shell command ="), 90))
+        << program->transcript().toStdString();
+    EXPECT_EQ(nearChecksums(cIncoming), moviesOf(remoteChecksums(cRemoteMovies)));
+    EXPECT_EQ(program->stop(), 0);
+}
+
+TEST_F(WindowLabTest, NetworkLine_FollowsTheCable) {
+    writeNear(cSettings, plistText({}));
+    program = startProgram({});
+    const QString connected = QStringLiteral("network: Connected to the ");
+    const QString nothing = QStringLiteral("network: No network connection");
+    EXPECT_TRUE(program->waitForLine(connected, 30)) << program->transcript().toStdString();
+    lab({QStringLiteral("link"), QStringLiteral("down")});
+    EXPECT_TRUE(program->waitForLine(nothing, 30)) << program->transcript().toStdString();
+    lab({QStringLiteral("link"), QStringLiteral("up")});
+    EXPECT_TRUE(program->waitForLine(connected, 30)) << program->transcript().toStdString();
+    EXPECT_EQ(program->stop(), 0);
+}
+
+} // namespace
+} // namespace kelvo

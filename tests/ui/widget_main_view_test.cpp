@@ -1,0 +1,172 @@
+// The main window as controllers see it, and the dialogs that belong to it.
+#include "fakes/memory_defaults.h"
+#include "fakes/virtual_queues.h"
+#include "ui/widgets/main_window.h"
+#include "ui/widgets/service_list.h"
+#include "ui/widgets/widget_controls.h"
+#include "ui/widgets/widget_main_view.h"
+#include "ui/widgets/widget_open_panel.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+class WidgetMainViewTest : public ::testing::Test {
+protected:
+    WidgetMainViewTest() {
+        window.show();
+        QApplication::setActiveWindow(&window);
+    }
+    QPushButton& button() { return window.button(QStringLiteral("ibRevealButton2")); }
+    void press(Qt::MouseButton mouseButton, const QPoint& place) {
+        QTest::mousePress(window.windowHandle(), mouseButton, Qt::NoModifier, place);
+        QTest::mouseRelease(window.windowHandle(), mouseButton, Qt::NoModifier, place);
+    }
+    QPoint middleOfTheButton() { return button().mapTo(&window, button().rect().center()); }
+
+    MemoryDefaults defaults;
+    VirtualMainQueue mainQueue;
+    MainWindow window{defaults, mainQueue};
+    WidgetMainView view{window};
+};
+
+TEST_F(WidgetMainViewTest, RightPress_IsToldWithWhetherItLiesInside) {
+    const WidgetControl control(button());
+    std::vector<bool> told;
+    Subscription monitor =
+        view.monitorRightMouseDown(control, [&](bool inside) { told.push_back(inside); });
+    press(Qt::RightButton, middleOfTheButton());
+    press(Qt::RightButton, QPoint(5, 60));
+    press(Qt::LeftButton, QPoint(5, 60));
+    EXPECT_EQ(told, (std::vector<bool>{true, false}));
+    monitor = {};
+    press(Qt::RightButton, middleOfTheButton());
+    EXPECT_EQ(told.size(), 2U);
+}
+
+TEST_F(WidgetMainViewTest, LeftClick_StillReachesTheButton) {
+    int clicks = 0;
+    window.setAction(QStringLiteral("ibRevealButton2"), [&] { ++clicks; });
+    const WidgetControl control(button());
+    const Subscription monitor = view.monitorRightMouseDown(control, [](bool) {});
+    press(Qt::LeftButton, middleOfTheButton());
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(WidgetMainViewTest, NothingFirstResponder_TakesTheFocusAway) {
+    window.ibStartButton().setFocus();
+    ASSERT_TRUE(window.ibStartButton().hasFocus());
+    view.makeNothingFirstResponder();
+    EXPECT_FALSE(window.ibStartButton().hasFocus());
+}
+
+TEST_F(WidgetMainViewTest, FieldThatEndedEditing_GivesItsFocusUpOnce) {
+    window.showTab(QStringLiteral("remote"));
+    auto* field = window.findChild<QLineEdit*>(QStringLiteral("remoteUser"));
+    auto* other = window.findChild<QLineEdit*>(QStringLiteral("remotePath"));
+    WidgetTextField text(*field);
+    field->setFocus();
+    text.resignFirstResponder();
+    EXPECT_FALSE(field->hasFocus());
+    other->setFocus();
+    text.resignFirstResponder();
+    EXPECT_TRUE(other->hasFocus()) << "only its own focus";
+}
+
+TEST_F(WidgetMainViewTest, HiddenApplication_ComesBackToTheFront) {
+    int ends = 0;
+    WidgetApplication application(window, [&] { ++ends; });
+    application.hide();
+    EXPECT_FALSE(window.isVisible());
+    application.bringToFront();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(ends, 0);
+}
+
+TEST_F(WidgetMainViewTest, FoundServices_AreRowsOfPlainText) {
+    ServiceList list(window.foundServices());
+    DNSSD_Service service;
+    service.name = QStringLiteral("<b>Mac</b>");
+    service.ip4Address = QStringLiteral("10.0.0.1");
+    list.setContent(DNSSD_Services{service});
+    const QAbstractItemModel& model = *window.foundServices().model();
+    ASSERT_EQ(model.rowCount(), 1);
+    EXPECT_EQ(model.index(0, 0).data().toString(), u"<b>Mac</b>");
+    EXPECT_EQ(list.selectionIndex(), -1);
+    window.foundServices().selectRow(0);
+    EXPECT_EQ(list.selectionIndex(), 0);
+    list.setContent(std::nullopt);
+    EXPECT_EQ(model.rowCount(), 0);
+    EXPECT_EQ(list.content(), std::nullopt);
+}
+
+class WidgetOpenPanelTest : public ::testing::Test {
+protected:
+    WidgetOpenPanelTest() {
+        QDir(folder.path()).mkdir(QStringLiteral("Movies"));
+        QFile file(folder.filePath(QStringLiteral("a.mov")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        parent.show();
+    }
+
+    /// Opens the panel and has `act` do what a person does in it.
+    std::optional<QString> choose(const std::function<void(QFileDialog&)>& act) {
+        QTimer::singleShot(0, &parent, [this, act] {
+            auto* dialog = parent.findChild<QFileDialog*>();
+            ASSERT_TRUE(dialog);
+            title = dialog->windowTitle();
+            act(*dialog);
+        });
+        return panel.selectDirectoryUrl();
+    }
+    static void pressOpen(QFileDialog& dialog) {
+        auto* open = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return open->isEnabled(); }));
+        open->click();
+    }
+
+    const QTemporaryDir folder;
+    QWidget parent;
+    WidgetOpenPanel panel{parent};
+    QString title;
+};
+
+TEST_F(WidgetOpenPanelTest, Folder_IsChosen) {
+    const QString wanted = folder.filePath(QStringLiteral("Movies"));
+    EXPECT_EQ(choose([&](QFileDialog& dialog) {
+                  dialog.selectFile(wanted);
+                  pressOpen(dialog);
+              }),
+              wanted);
+    EXPECT_EQ(title, u"Select Directory");
+}
+
+TEST_F(WidgetOpenPanelTest, File_IsChosenToo) {
+    const QString wanted = folder.filePath(QStringLiteral("a.mov"));
+    EXPECT_EQ(choose([&](QFileDialog& dialog) {
+                  dialog.setDirectory(folder.path());
+                  dialog.selectFile(wanted);
+                  Q_EMIT dialog.currentChanged(wanted);
+                  pressOpen(dialog);
+              }),
+              wanted);
+}
+
+TEST_F(WidgetOpenPanelTest, Cancelled_GivesNothing) {
+    EXPECT_EQ(choose([](QFileDialog& dialog) { dialog.reject(); }), std::nullopt);
+}
+
+} // namespace
+} // namespace kelvo

@@ -1,0 +1,97 @@
+// Every control of the real window wired to the real controller in a pretend world.
+#include "app/window_actions.h"
+#include "fakes/view_controller_world.h"
+#include "ui/widgets/main_window.h"
+#include "ui/widgets/path_control_view.h"
+#include "ui/widgets/widget_button.h"
+#include "ui/widgets/widget_controls.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+class WindowActionsTest : public ::testing::Test, public ViewControllerWorld {
+protected:
+    WindowActionsTest() { load(); }
+
+    void click(const char* name) { mainWindow.button(QString::fromLatin1(name)).click(); }
+    bool printed(const QString& start) const {
+        return !console.printed().filter(start).isEmpty() ||
+               !console.logged().filter(start).isEmpty();
+    }
+
+    MainWindow mainWindow{defaults, mainQueue};
+    std::shared_ptr<WidgetPathControl> shownPath =
+        std::make_shared<WidgetPathControl>(mainWindow.fNsPathControl1());
+    OnceButtons onceButtons = sendWindowActions(mainWindow, controller, workspace, shownPath);
+};
+
+TEST_F(WindowActionsTest, NoButton_IsDead) {
+    for (const QPushButton* found : mainWindow.findChildren<QPushButton*>())
+        EXPECT_TRUE(found->isEnabled()) << qPrintable(found->objectName());
+}
+
+TEST_F(WindowActionsTest, EachButton_RunsTheActionOfItsName) {
+    for (const auto& [name, line] : {std::pair("ibSelectFolder1Action", "ibSelectFolder1Action"),
+                                     std::pair("ibSelectFolder2Action", "ibSelectFolder2Action"),
+                                     std::pair("ibRevealButton1", "ibRevealSourcePath"),
+                                     std::pair("ibRevealButton2", "ibRevealDestPath"),
+                                     std::pair("ibSelectSourceByBonjor", "ibSelectSourceByBonjor"),
+                                     std::pair("ibSelectDestByBonjor", "ibSelectDestByBonjor"),
+                                     std::pair("ibSearchBonjour", "ibSearchBonjour"),
+                                     std::pair("ibTestNWBrowser", "ibTestNWBrowser"),
+                                     std::pair("ibRevealInFinderAction", "ibRevealInFinderAction"),
+                                     std::pair("ibOpenTempFolder", "ibOpenTempFolder"),
+                                     std::pair("ibSetNoFirstResponder", "ibSetNoFirstResponder"),
+                                     std::pair("ibQuitAndRelaunch", "ibQuitAndRelaunch"),
+                                     std::pair("ibRSyncOnce", "ibRSyncOnce"),
+                                     std::pair("ibRSyncOnceBonjour", "ibRSyncOnceBonjour")}) {
+        console.clear();
+        click(name);
+        EXPECT_TRUE(printed(QString(u"->" + QString::fromLatin1(line) + u"(_:)"))) << name;
+    }
+    EXPECT_EQ(watchdog.relaunches, 1);
+}
+
+TEST_F(WindowActionsTest, PartOfTheSourcePath_OpensAndSendsTheControlsAction) {
+    defaults.setObject(prefPath1, QStringLiteral("/Users/me/Movies"));
+    mainQueue.runDue();
+    console.clear();
+    mainWindow.fNsPathControl1().findChild<QToolButton*>(QStringLiteral("part2"))->click();
+    EXPECT_TRUE(printed(QStringLiteral("ibRevealInFinderAction(_:).......sender = ")));
+    EXPECT_EQ(workspace.requests, QStringList{QStringLiteral("openFile /Users/me")});
+}
+
+TEST_F(WindowActionsTest, PartOfTheDestination_Opens) {
+    defaults.setObject(prefPath2, QStringLiteral("/in/box"));
+    mainQueue.runDue();
+    mainWindow.destinationPath().findChild<QToolButton*>(QStringLiteral("part1"))->click();
+    EXPECT_EQ(workspace.requests, QStringList{QStringLiteral("openFile /in")});
+}
+
+TEST_F(WindowActionsTest, TabAndEndOfEditing_ReachTheController) {
+    mainWindow.show();
+    QApplication::setActiveWindow(&mainWindow);
+    mainWindow.showTab(QStringLiteral("prefs"));
+    EXPECT_TRUE(printed(QStringLiteral("tabView(_:willSelect:).......identifier = "
+                                       "Optional(\"prefs\")")));
+    mainWindow.showTab(QStringLiteral("remote"));
+    auto* user = mainWindow.findChild<QLineEdit*>(QStringLiteral("remoteUser"));
+    user->setFocus();
+    QTest::keyClicks(user, QStringLiteral("ann"));
+    QTest::keyClick(user, Qt::Key_Return);
+    EXPECT_TRUE(printed(QStringLiteral("controlTextDidEndEditing(_:)")));
+    EXPECT_TRUE(user->hasFocus());
+    mainQueue.advance(0.1);
+    EXPECT_FALSE(user->hasFocus());
+}
+
+} // namespace
+} // namespace kelvo

@@ -1,0 +1,95 @@
+// The remote side as the main view's controller puts it together.
+#include "fakes/view_controller_world.h"
+#include "ui/key_state_words.h"
+#include "ui/terminal_notice.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+class RemoteSideTest : public ::testing::Test, public ViewControllerWorld {
+protected:
+    RemoteSideTest() {
+        defaults.setObject(prefRemoteUsername, QStringLiteral("ann"));
+        defaults.setObject(prefRemoteBonjourName, QStringLiteral("mac.local"));
+        shell.answerTo(QStringLiteral("ssh-keygen"), [this](const QString&) {
+            files.existing += {QStringLiteral("/Users/localuser/.ssh/id_kelvoRsync"),
+                               QStringLiteral("/Users/localuser/.ssh/id_kelvoRsync.pub")};
+            return QString();
+        });
+        load();
+    }
+    void settle() {
+        for (int turn = 0; turn < 3; ++turn) {
+            bgQueue.runAll();
+            mainQueue.advance(0.2);
+        }
+    }
+    QString shownState() const { return view.keyStates.back(); }
+};
+
+TEST_F(RemoteSideTest, FromNoKeyToAccepted_InWords) {
+    EXPECT_EQ(shownState(), keyStateWords(KeyState::NoKey));
+    shell.answerTo(QStringLiteral("whoami"), QStringLiteral("Permission denied (publickey)."));
+    controller.ibGenerateSSHKeyStuff(nullptr);
+    settle();
+    EXPECT_EQ(shownState(), keyStateWords(KeyState::NotAccepted));
+    shell.answerTo(QStringLiteral("whoami"), QStringLiteral("ann\n"));
+    ASSERT_EQ(terminal.windows.size(), 1U);
+    terminal.windows.front().ended(TerminalOutcome::Ended);
+    EXPECT_EQ(shownState(), keyStateWords(KeyState::Asking));
+    settle();
+    EXPECT_EQ(shownState(), keyStateWords(KeyState::Accepted));
+}
+
+TEST_F(RemoteSideTest, NoTerminal_ShowsTheCommandAndCopiesIt) {
+    controller.ibGenerateSSHKeyStuff(nullptr);
+    const QString command = terminal.windows.front().command;
+    terminal.windows.front().ended(TerminalOutcome::NoWindow);
+    settle();
+    ASSERT_EQ(presenter.alerts.size(), 1U);
+    EXPECT_TRUE(presenter.alerts.front().informativeText.endsWith(QString(u"\n\n" + command)));
+    EXPECT_EQ(presenter.alerts.front().buttons,
+              (QStringList{QStringLiteral("Copy Command"), QStringLiteral("Close")}));
+    presenter.answer(1, cAlertFirstButtonReturn);
+    EXPECT_EQ(pasteboard.held, command);
+}
+
+TEST_F(RemoteSideTest, NoTerminalAndClosed_LeavesTheClipboardAlone) {
+    pasteboard.held = QStringLiteral("before");
+    controller.ibGenerateSSHKeyStuff(nullptr);
+    terminal.windows.front().ended(TerminalOutcome::NoWindow);
+    settle();
+    presenter.answer(1, cAlertSecondButtonReturn);
+    EXPECT_EQ(pasteboard.held, u"before");
+}
+
+TEST_F(RemoteSideTest, Passes_RefreshTheStateOfTheKeyToo) {
+    controller.createNewPrivatePublicKeys(nullptr);
+    settle();
+    EXPECT_EQ(shownState(), keyStateWords(KeyState::NotAsked));
+    shell.answerTo(QStringLiteral("whoami"), QStringLiteral("ann"));
+    defaults.setObject(prefPath2, QStringLiteral("/backup"));
+    button.performClick();
+    settle();
+    EXPECT_EQ(shownState(), keyStateWords(KeyState::Accepted));
+}
+
+TEST_F(RemoteSideTest, ConnectionTest_ShowsItsSignAndItsAlert) {
+    controller.ibTestShellCommand(nullptr);
+    EXPECT_EQ(view.testSigns, std::vector{true});
+    settle();
+    EXPECT_EQ(view.testSigns, (std::vector{true, false}));
+    ASSERT_EQ(presenter.alerts.size(), 1U);
+    EXPECT_EQ(presenter.alerts.front().messageText, u"SUCCESS...");
+}
+
+TEST_F(RemoteSideTest, ShareWithoutAHost_Beeps) {
+    defaults.removeObject(prefRemoteBonjourName);
+    controller.ibRevealSourcePathSMB(nullptr);
+    EXPECT_EQ(view.beeps, 1);
+}
+
+} // namespace
+} // namespace kelvo

@@ -1,0 +1,222 @@
+#include "fakes/fake_desktop.h"
+#include "fakes/fake_remote_side.h"
+#include "fakes/memory_defaults.h"
+#include "fakes/recording_console.h"
+#include "fakes/scripted_shell.h"
+#include "fakes/virtual_queues.h"
+#include "remote/command_files.h"
+#include "remote/smb_share_access.h"
+#include "support/preference_keys.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+const QString cReveal = QStringLiteral("Inside ViewController->ibRevealSourcePathSMB(_:)");
+const QString cDebug = QStringLiteral("Inside ViewController->ibRevealSourcePathSMBdebug(_:)");
+const QString cOlder = QStringLiteral("Inside ViewController->ibRevealSourcePathSMBdebugOLD(_:)");
+const QString cOpenShare =
+    QStringLiteral("open \"smb://ann@Office%20Mac%20Mini._smb._tcp.local/Macintosh%20HD\"");
+const QString cList = QStringLiteral("df -ahY -T smbfs");
+const QString cPick =
+    QStringLiteral("echo \"one\" | awk ' $1 ~ /Office%20Mac%20Mini/ {print $'10'\" \"$'11'}' ");
+
+TEST(VolumePathTest, FirstLineOfAMacintoshVolume_ElseEverything) {
+    EXPECT_EQ(volumePath(QStringLiteral("/Volumes/Data x\n /Volumes/MACINTOSH HD \n"
+                                        "/Volumes/Macintosh HD-2\n")),
+              u"/Volumes/MACINTOSH HD");
+    EXPECT_EQ(volumePath(QStringLiteral(" /Volumes/Data\n/Volumes/Other \n")),
+              u"/Volumes/Data\n/Volumes/Other");
+    EXPECT_EQ(volumePath(QString()), QString());
+}
+
+template <typename Commands>
+class ShareWorld : public ::testing::Test {
+protected:
+    ShareWorld() {
+        defaults.setObject(prefRemoteBonjourName, QStringLiteral("Office-Mac-Mini.local"));
+        defaults.setObject(prefRemoteUsername, QStringLiteral(" ann "));
+        defaults.setObject(prefRemotePath, QStringLiteral("Movies\n"));
+    }
+
+    MemoryDefaults defaults;
+    RecordingConsole console;
+    VirtualMainQueue mainQueue;
+    ScriptedShell shell;
+    Commands commands;
+    FakeFileManager files;
+    FakeFileChanges changes{files};
+    FakeTemporaryFolder folder;
+    FakeTerminal terminal;
+    FakeWorkspace workspace;
+    CommandFiles commandFiles{{console, files, changes, shell, folder, terminal}};
+    int beeps = 0;
+    QStringList withoutWindow;
+    SmbShareAccess share{{defaults, console, mainQueue, shell, commands, commandFiles, workspace,
+                          [this] { ++beeps; },
+                          [this](const QString& command) { withoutWindow.append(command); }}};
+};
+
+class SmbShareAccessTest : public ShareWorld<MacShareCommands> {
+protected:
+    void mount(const QString& picked) {
+        shell.answerTo(QStringLiteral("df -"), QStringLiteral(" one\n"));
+        shell.answerTo(QStringLiteral("awk"), picked);
+    }
+};
+
+TEST_F(SmbShareAccessTest, WithoutAHost_OnlyTheFirstActionBeeps) {
+    defaults.removeObject(prefRemoteBonjourName);
+    share.ibRevealSourcePathSMBdebug();
+    share.ibRevealSourcePathSMBdebugOLD();
+    EXPECT_EQ(beeps, 0);
+    share.ibRevealSourcePathSMB();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_EQ(console.logged(),
+              (QStringList{QString(cDebug + u"......."), QString(cOlder + u"......."),
+                           QString(cReveal + u".......")}));
+}
+
+TEST_F(SmbShareAccessTest, Reveal_OpensTheFolderAndLogsTheAnswer) {
+    shell.answerTo(QStringLiteral("open"), QStringLiteral("no such folder\n"));
+    share.ibRevealSourcePathSMB();
+    const QString command = QStringLiteral(
+        "open \"smb://ann@Office%20Mac%20Mini._smb._tcp.local/Macintosh%20HD/Users/ann/Movies\"");
+    EXPECT_EQ(shell.commands(), QStringList{command});
+    EXPECT_EQ(console.logged(),
+              (QStringList{QString(cReveal + u"......."),
+                           QString(cReveal + u".......cmd to send = [" + command + u']'),
+                           QString(cReveal + u".......response = no such folder\n")}));
+    EXPECT_TRUE(mainQueue.idle());
+}
+
+TEST_F(SmbShareAccessTest, Debug_FindsTheVolumeAndOpensTheFolderThere) {
+    mount(QStringLiteral("/Volumes/Data x\n/Volumes/Macintosh HD\n"));
+    share.ibRevealSourcePathSMBdebug();
+    EXPECT_EQ(shell.commands(), QStringList{cOpenShare});
+    mainQueue.advance(0.499);
+    EXPECT_EQ(shell.commands().size(), 1);
+    mainQueue.advance(0.001);
+    EXPECT_EQ(shell.commands(), (QStringList{cOpenShare, cList, cPick}));
+    mainQueue.advance(0.1);
+    EXPECT_EQ(shell.commands().constLast(), u"open \"./Volumes/Macintosh HD/Users/ann/Movies\"");
+    EXPECT_EQ(
+        console.logged(),
+        (QStringList{
+            QString(cDebug + u"......."), QString(cDebug + u".......response = "),
+            QString(cDebug + u".......response[df -ahY -T smbfs]=  one\n"),
+            QString(cDebug + u".......  domain = Office-Mac-Mini.local"),
+            QString(cDebug + u".......username = ann"),
+            QString(cDebug + u".......volume path = [/Volumes/Data x\n/Volumes/Macintosh HD]"),
+            QString(cDebug + u".......try to open  = [./Volumes/Macintosh HD/Users/ann/Movies]"),
+            QString(cDebug + u".......response = []")}));
+    EXPECT_EQ(console.printed(), QStringList{QString(u"cmdformat = [ " + cPick + u" ]")});
+}
+
+TEST_F(SmbShareAccessTest, Debug_StopsAtAnAnswerOfTheShareAndAtAnEmptyListing) {
+    shell.answerTo(QStringLiteral("smb:"), QStringLiteral("unreachable"));
+    share.ibRevealSourcePathSMBdebug();
+    EXPECT_TRUE(mainQueue.idle());
+    shell.answerTo(QStringLiteral("smb:"), QString());
+    share.ibRevealSourcePathSMBdebug();
+    mainQueue.advance(5.0);
+    EXPECT_EQ(shell.commands(), (QStringList{cOpenShare, cOpenShare, cList}));
+    EXPECT_EQ(console.logged().constLast(), QString(cDebug + u".......username = ann"));
+}
+
+TEST_F(SmbShareAccessTest, DebugWithoutAMatch_OpensTheRelativePathAllTheSame) {
+    mount(QString());
+    share.ibRevealSourcePathSMBdebug();
+    mainQueue.advance(1.0);
+    EXPECT_EQ(shell.commands().constLast(), u"open \"./Users/ann/Movies\"");
+}
+
+TEST_F(SmbShareAccessTest, OlderWay_LooksAtOnceAndJoinsAllLines) {
+    mount(QStringLiteral("/Volumes/Data x\n/Volumes/Macintosh HD\n"));
+    share.ibRevealSourcePathSMBdebugOLD();
+    EXPECT_EQ(shell.commands(), (QStringList{cOpenShare, cList, cPick}));
+    mainQueue.advance(0.099);
+    EXPECT_EQ(shell.commands().size(), 3);
+    mainQueue.advance(0.001);
+    EXPECT_EQ(shell.commands().constLast(),
+              u"open \"./Volumes/Data x\n/Volumes/Macintosh HD/Users/ann/Movies\"");
+    for (const QString& line : console.logged())
+        EXPECT_FALSE(line.contains(u"try to open")) << line.toStdString();
+    EXPECT_EQ(console.logged().constLast(), QString(cOlder + u".......response = []"));
+}
+
+TEST_F(SmbShareAccessTest, OlderWay_GoesOnAfterAnEmptyListing) {
+    share.ibRevealSourcePathSMBdebugOLD();
+    mainQueue.advance(0.1);
+    EXPECT_EQ(shell.commands().size(), 4);
+}
+
+// -- Linux
+
+class GioShareAccessTest : public ShareWorld<GioShareCommands> {
+protected:
+    static constexpr auto cVolume = u"/run/user/1/gvfs/smb-share:server=m,share=macintosh%20hd";
+    static constexpr auto cFolder =
+        u"openFile /run/user/1/gvfs/smb-share:server=m,share=macintosh%20hd/Users/ann/Movies";
+    void mount() {
+        shell.answerTo(QStringLiteral("gio info"), QStringLiteral("local path: …"));
+        shell.answerTo(QStringLiteral("gio mount"), QString());
+        shell.answerTo(QStringLiteral("printf"), QString::fromUtf16(cVolume));
+    }
+};
+
+TEST_F(GioShareAccessTest, Reveal_FindsTheMountedFolder) {
+    mount();
+    share.ibRevealSourcePathSMB();
+    mainQueue.advance(0.1);
+    EXPECT_EQ(workspace.requests, QStringList{QString::fromUtf16(cFolder)});
+    EXPECT_EQ(console.logged().constLast(), QString(cReveal + u".......response = []"));
+}
+
+TEST_F(GioShareAccessTest, Debug_OpensThroughTheDesktop) {
+    mount();
+    share.ibRevealSourcePathSMBdebug();
+    mainQueue.advance(0.6);
+    EXPECT_EQ(workspace.requests, QStringList{QString::fromUtf16(cFolder)});
+}
+
+TEST_F(GioShareAccessTest, PasswordQuestion_IsAskedInATerminalAndThenItGoesOn) {
+    mount();
+    shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("Password: "));
+    share.ibRevealSourcePathSMB();
+    EXPECT_TRUE(workspace.requests.isEmpty());
+    ASSERT_EQ(terminal.windows.size(), 1U);
+    EXPECT_EQ(terminal.windows.front().command,
+              u"gio mount \"smb://ann@Office-Mac-Mini.local/Macintosh%20HD\"");
+    EXPECT_EQ(changes.written.value(terminal.windows.front().path),
+              QString(terminal.windows.front().command + u'\n').toUtf8());
+    terminal.windows.front().ended(TerminalOutcome::Ended);
+    mainQueue.advance(0.1);
+    EXPECT_EQ(workspace.requests, QStringList{QString::fromUtf16(cFolder)});
+}
+
+TEST_F(GioShareAccessTest, PasswordQuestionWithoutATerminal_IsHandedOver) {
+    shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("Password: "));
+    share.ibRevealSourcePathSMBdebug();
+    terminal.windows.front().ended(TerminalOutcome::NoWindow);
+    mainQueue.advance(1.0);
+    EXPECT_EQ(withoutWindow, QStringList{QStringLiteral(
+                                 "gio mount \"smb://ann@Office-Mac-Mini.local/Macintosh%20HD\"")});
+    EXPECT_TRUE(workspace.requests.isEmpty());
+}
+
+TEST_F(GioShareAccessTest, SilentServer_IsInTheLogAndNothingOpens) {
+    shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("no answer within 20 seconds\n"));
+    share.ibRevealSourcePathSMB();
+    mainQueue.advance(1.0);
+    EXPECT_EQ(console.logged().constLast(),
+              QString(cReveal + u".......response = no answer within 20 seconds\n"));
+    EXPECT_TRUE(terminal.windows.empty());
+    EXPECT_TRUE(workspace.requests.isEmpty());
+}
+
+} // namespace
+} // namespace kelvo

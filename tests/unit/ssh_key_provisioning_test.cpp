@@ -1,0 +1,309 @@
+#include "fakes/fake_desktop.h"
+#include "fakes/fake_remote_side.h"
+#include "fakes/memory_defaults.h"
+#include "fakes/recording_console.h"
+#include "fakes/scripted_shell.h"
+#include "ports/host_validator.h"
+#include "remote/command_files.h"
+#include "remote/ssh_key_provisioning.h"
+#include "support/preference_keys.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+using Kind = RecordingConsole::Kind;
+using Lines = std::vector<RecordingConsole::Line>;
+
+const QString cPrivateKey = QStringLiteral("/Users/localuser/.ssh/id_kelvoRsync");
+const QString cPublicKey = QStringLiteral("/Users/localuser/.ssh/id_kelvoRsync.pub");
+const QString cScript = QStringLiteral("/tmp/of me/tempshell.command");
+const QString cInstallation =
+    QStringLiteral("/usr/bin/ssh-copy-id 2>&1 -i \"/Users/localuser/.ssh/id_kelvoRsync\"  "
+                   "\"mediauser@Remote-Mac.local\"");
+const QString cGeneration =
+    QStringLiteral("/usr/bin/ssh-keygen  2>&1 -N \"\" -f \"/Users/localuser/.ssh/id_kelvoRsync\"");
+const QString cChmod = QStringLiteral("/bin/chmod 0755 2>&1 \"/tmp/of me/tempshell.command\"");
+
+class CountingValidator final : public HostValidator {
+public:
+    QString validateRemoteHostWithWhoami(qint64 timeout) override {
+        timeouts.append(timeout);
+        return QStringLiteral("unknownerror");
+    }
+    QList<qint64> timeouts;
+};
+
+class SshKeyProvisioningTest : public ::testing::Test {
+protected:
+    SshKeyProvisioningTest() {
+        defaults.setObject(prefRemoteUsername, QStringLiteral("mediauser"));
+        defaults.setObject(prefRemoteBonjourName, QStringLiteral("Remote-Mac.local"));
+        shell.answerTo(QStringLiteral("ssh-keygen"), [this](const QString&) {
+            files.existing += {cPrivateKey, cPublicKey};
+            return QStringLiteral("Generating\n");
+        });
+    }
+
+    MemoryDefaults defaults;
+    FakeFileManager files;
+    FakeFileChanges changes{files};
+    FakeTemporaryFolder folder;
+    FakeTerminal terminal;
+    FakeWorkspace workspace;
+    RecordingConsole console;
+    ScriptedShell shell;
+    CountingValidator validator;
+    CommandFiles commandFiles{{console, files, changes, shell, folder, terminal}};
+    QStringList ended; ///< the commands whose scripts have ended or found no window
+    int keyChanges = 0;
+    SshKeyProvisioning provisioning{
+        {defaults, files, console, shell, validator, commandFiles, workspace,
+         [this](TerminalOutcome outcome, const QString& command) {
+             ended.append((outcome == TerminalOutcome::Ended ? u"ended " : u"no window ") +
+                          command);
+         },
+         [this] { ++keyChanges; }}};
+};
+
+// -- files
+
+TEST_F(SshKeyProvisioningTest, RemoveIfExists_NothingThereIsFine) {
+    EXPECT_TRUE(commandFiles.removeItemIfExists(cPrivateKey));
+    EXPECT_EQ(console.printed(),
+              (QStringList{QStringLiteral("Inside String->removeItemIfExists()......."),
+                           QStringLiteral("Inside URL->removeItemIfExists().......")}));
+    EXPECT_TRUE(changes.removed.isEmpty());
+}
+
+TEST_F(SshKeyProvisioningTest, RemoveIfExists_SaysWhyItFailed) {
+    files.existing = {cPrivateKey};
+    changes.guarded = cPrivateKey;
+    EXPECT_FALSE(commandFiles.removeItemIfExists(cPrivateKey));
+    EXPECT_EQ(console.printed().constLast(),
+              QString(u"Inside URL->removeItemIfExists().......removeItem ERROR = " + cPrivateKey +
+                      u": Permission denied"));
+    changes.guarded.clear();
+    EXPECT_TRUE(commandFiles.removeItemIfExists(cPrivateKey));
+    EXPECT_EQ(changes.removed, QStringList{cPrivateKey});
+}
+
+TEST_F(SshKeyProvisioningTest, ChmodByTheShell_ShowsCommandAndResult) {
+    shell.answerTo(QStringLiteral("chmod"), QStringLiteral("no\n"));
+    EXPECT_EQ(commandFiles.chmodAsExecutable(cScript), u"no\n");
+    EXPECT_EQ(shell.commands(), QStringList{cChmod});
+    EXPECT_EQ(console.printed(), (QStringList{QString(u"trying command = [" + cChmod + u']'),
+                                              QStringLiteral("terminal chmod result = [no\n]")}));
+}
+
+TEST_F(SshKeyProvisioningTest, ChmodBySystemCall_HandsAFailureBackInDecimal) {
+    EXPECT_EQ(commandFiles.chmodAsExecutableBySystemCall(cScript), QString());
+    changes.modeResult = -1;
+    EXPECT_EQ(commandFiles.chmodAsExecutableBySystemCall(cScript), u"-1");
+    EXPECT_EQ(console.printed(), (QStringList{QStringLiteral("chmod result = [0]"),
+                                              QStringLiteral("chmod result = [-1]")}));
+    EXPECT_EQ(changes.modes,
+              (QList<std::pair<QString, unsigned>>{{cScript, 493U}, {cScript, 493U}}));
+}
+
+TEST_F(SshKeyProvisioningTest, CommandFile_IsWrittenMadeExecutableAndOpened) {
+    EXPECT_TRUE(commandFiles.executeAsCommandFile(QStringLiteral("echo é"), {}));
+    EXPECT_EQ(changes.written.value(cScript), "echo \xc3\xa9\n");
+    EXPECT_EQ(shell.commands(), QStringList{cChmod});
+    ASSERT_EQ(terminal.windows.size(), 1U);
+    EXPECT_EQ(terminal.windows.front().path, cScript);
+    EXPECT_EQ(terminal.windows.front().command, u"echo é");
+    EXPECT_TRUE(commandFiles.executeAsCommandFile(QStringLiteral("second"), {}));
+    EXPECT_EQ(changes.written.value(cScript), "second\n");
+    EXPECT_TRUE(changes.removed.isEmpty()) << "replaced, not removed first";
+}
+
+TEST_F(SshKeyProvisioningTest, CommandFileThatCannotBeWritten_OpensNothing) {
+    changes.guarded = cScript;
+    EXPECT_FALSE(commandFiles.executeAsCommandFile(QStringLiteral("x"), {}));
+    EXPECT_EQ(console.printed(),
+              QStringList{QString(u"ooops bad..." + cScript + u": Permission denied")});
+    EXPECT_TRUE(terminal.windows.empty());
+    EXPECT_TRUE(shell.commands().isEmpty());
+}
+
+TEST_F(SshKeyProvisioningTest, CommandFileWithoutASafeFolder_IsWrittenNowhere) {
+    folder.folder = {{}, QStringLiteral("/tmp/k belongs to somebody else")};
+    EXPECT_FALSE(commandFiles.executeAsCommandFile(QStringLiteral("x"), {}));
+    EXPECT_EQ(console.printed(),
+              QStringList{QStringLiteral("ooops bad.../tmp/k belongs to somebody else")});
+    EXPECT_TRUE(changes.written.isEmpty());
+    EXPECT_TRUE(terminal.windows.empty());
+}
+
+// -- the pair
+
+TEST(KeyCommandsTest, Commands_AreExact) {
+    EXPECT_EQ(keyGenerationCommand(cPrivateKey), cGeneration);
+    EXPECT_EQ(keyInstallationCommand(cPrivateKey, QStringLiteral("mediauser"),
+                                     QStringLiteral("Remote-Mac.local")),
+              cInstallation);
+}
+
+TEST(KeyCommandsTest, BlanksStayInOneWord) {
+    EXPECT_EQ(keyGenerationCommand(QStringLiteral("/a b/k")),
+              u"/usr/bin/ssh-keygen  2>&1 -N \"\" -f \"/a b/k\"");
+    EXPECT_EQ(keyInstallationCommand(QStringLiteral("/a b/k"), QStringLiteral("u v"),
+                                     QStringLiteral("My Mac")),
+              u"/usr/bin/ssh-copy-id 2>&1 -i \"/a b/k\"  \"u v@My Mac\"");
+}
+
+TEST(KeyCommandsTest, NothingIsReadAsTheShellsOwn) {
+    EXPECT_EQ(keyGenerationCommand(QStringLiteral("/a\"b$c`d\\e'f/k")),
+              u"/usr/bin/ssh-keygen  2>&1 -N \"\" -f \"/a\\\"b\\$c\\`d\\\\e'f/k\"");
+    EXPECT_EQ(keyInstallationCommand(QStringLiteral("/k"), QStringLiteral("u"),
+                                     QStringLiteral("$(reboot)")),
+              u"/usr/bin/ssh-copy-id 2>&1 -i \"/k\"  \"u@\\$(reboot)\"");
+}
+
+TEST_F(SshKeyProvisioningTest, NewPair_RemovesBothHalvesAndShowsTheOutput) {
+    files.existing = {cPrivateKey, cPublicKey};
+    provisioning.createNewPrivatePublicKeys();
+    EXPECT_EQ(changes.removed, (QStringList{cPrivateKey, cPublicKey}));
+    EXPECT_EQ(shell.commands(), QStringList{cGeneration});
+    const QString rule(40, u'=');
+    const QString removal = QStringLiteral("Inside String->removeItemIfExists().......");
+    const QString urlRemoval = QStringLiteral("Inside URL->removeItemIfExists().......");
+    const Lines expected{
+        {Kind::Log, QStringLiteral("Inside ViewController->createNewPrivatePublicKeys(_:).......")},
+        {Kind::Print, removal},
+        {Kind::Print, urlRemoval},
+        {Kind::Print, removal},
+        {Kind::Print, urlRemoval},
+        {Kind::Print, QStringLiteral("status1 = true")},
+        {Kind::Print, QStringLiteral("status2 = true")},
+        {Kind::Print, rule},
+        {Kind::Print, QStringLiteral("result = Generating\n")},
+        {Kind::Print, QString(rule + u"\n\n")}};
+    EXPECT_EQ(console.lines(), expected);
+    EXPECT_EQ(keyChanges, 1);
+}
+
+TEST_F(SshKeyProvisioningTest, HalfThatCannotBeRemoved_DoesNotStopTheGeneration) {
+    files.existing = {cPrivateKey, cPublicKey};
+    changes.guarded = cPublicKey;
+    provisioning.createNewPrivatePublicKeys();
+    EXPECT_TRUE(console.printed().contains(QStringLiteral("status1 = true")));
+    EXPECT_TRUE(console.printed().contains(QStringLiteral("status2 = false")));
+    EXPECT_EQ(shell.commands(), QStringList{cGeneration});
+}
+
+TEST_F(SshKeyProvisioningTest, Conditionally_OnlyACompletePairIsKept) {
+    for (const QSet<QString>& there :
+         {QSet<QString>{}, QSet<QString>{cPrivateKey}, QSet<QString>{cPublicKey}}) {
+        files.existing = there;
+        const qsizetype before = shell.commands().size();
+        EXPECT_TRUE(provisioning.createNewPrivatePublicKeysConditionally());
+        EXPECT_EQ(shell.commands().size(), before + 1);
+    }
+    EXPECT_TRUE(provisioning.createNewPrivatePublicKeysConditionally());
+    EXPECT_EQ(shell.commands().size(), 3);
+    EXPECT_EQ(console.logged().constLast(),
+              u"Inside ViewController->createNewPrivatePublicKeysConditionally(_:).......");
+}
+
+TEST_F(SshKeyProvisioningTest, WithoutAHomeFolder_NothingIsMade) {
+    files.home.clear();
+    EXPECT_FALSE(provisioning.createNewPrivatePublicKeysConditionally());
+    provisioning.createNewPrivatePublicKeys();
+    provisioning.createNewPrivatePublicKeysOLD();
+    provisioning.copyPublicKeyToRemoteHost();
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_TRUE(terminal.windows.empty());
+}
+
+// -- the sequence
+
+TEST_F(SshKeyProvisioningTest, Sequence_ValidatesMakesAndInstalls) {
+    provisioning.ibGenerateSSHKeyStuff();
+    EXPECT_EQ(validator.timeouts, QList<qint64>{2});
+    EXPECT_EQ(shell.commands(), (QStringList{cGeneration, cChmod}));
+    ASSERT_EQ(terminal.windows.size(), 1U);
+    EXPECT_EQ(terminal.windows.front().command, cInstallation);
+    EXPECT_EQ(changes.written.value(cScript), QString(cInstallation + u'\n').toUtf8());
+    EXPECT_EQ(console.logged(),
+              (QStringList{
+                  QStringLiteral("Inside ViewController->ibGenerateSSHKeyStuff(_:)......."),
+                  QStringLiteral(
+                      "Inside ViewController->createNewPrivatePublicKeysConditionally(_:)......."),
+                  QStringLiteral("Inside ViewController->createNewPrivatePublicKeys(_:)......."),
+                  QStringLiteral("Inside ViewController->copyPublicKeyToRemoteHost().......")}));
+}
+
+TEST_F(SshKeyProvisioningTest, SequenceWithACompletePair_KeepsIt) {
+    files.existing = {cPrivateKey, cPublicKey};
+    provisioning.ibGenerateSSHKeyStuff();
+    EXPECT_TRUE(changes.removed.isEmpty());
+    EXPECT_EQ(shell.commands(), QStringList{cChmod});
+    EXPECT_EQ(terminal.windows.size(), 1U);
+    EXPECT_EQ(keyChanges, 0);
+}
+
+TEST_F(SshKeyProvisioningTest, SequenceWithoutUserOrHost_MakesThePairAndOpensNothing) {
+    for (const QStringView key : {prefRemoteUsername, prefRemoteBonjourName}) {
+        const QVariant kept = defaults.object(key);
+        defaults.removeObject(key);
+        files.existing.clear();
+        provisioning.ibGenerateSSHKeyStuff();
+        EXPECT_TRUE(files.existing.contains(cPrivateKey));
+        EXPECT_TRUE(changes.written.isEmpty());
+        EXPECT_TRUE(terminal.windows.empty());
+        defaults.setObject(key, kept);
+    }
+}
+
+TEST_F(SshKeyProvisioningTest, OutcomeOfTheWindow_IsPassedOnWithItsCommand) {
+    provisioning.copyPublicKeyToRemoteHost();
+    provisioning.copyPublicKeyToRemoteHost();
+    terminal.windows[0].ended(TerminalOutcome::NoWindow);
+    terminal.windows[1].ended(TerminalOutcome::Ended);
+    EXPECT_EQ(ended, (QStringList{QString(u"no window " + cInstallation),
+                                  QString(u"ended " + cInstallation)}));
+}
+
+// -- the older way
+
+TEST_F(SshKeyProvisioningTest, OlderWay_RemovesTheOldScriptAndShowsTheFolder) {
+    files.existing = {cPrivateKey, cPublicKey, cScript};
+    provisioning.createNewPrivatePublicKeysOLD();
+    EXPECT_EQ(changes.removed, (QStringList{cPrivateKey, cPublicKey, cScript}));
+    const QString command =
+        QStringLiteral("/usr/bin/ssh-keygen -N \"\" -f \"/Users/localuser/.ssh/id_kelvoRsync\"");
+    EXPECT_EQ(changes.written.value(cScript), QString(command + u'\n').toUtf8());
+    EXPECT_TRUE(shell.commands().isEmpty()) << "the terminal runs it";
+    ASSERT_EQ(terminal.windows.size(), 1U);
+    EXPECT_EQ(terminal.windows.front().path, cScript);
+    EXPECT_EQ(workspace.requests, QStringList{QStringLiteral("openUrl file:///tmp/of%20me")});
+    EXPECT_EQ(console.printed().sliced(4),
+              (QStringList{QStringLiteral("status1 = true"), QStringLiteral("status2 = true"),
+                           QStringLiteral("chmod result = [0]"), QString()}));
+}
+
+TEST_F(SshKeyProvisioningTest, OlderWay_StopsAtAScriptThatStays) {
+    files.existing = {cScript};
+    changes.guarded = cScript;
+    provisioning.createNewPrivatePublicKeysOLD();
+    EXPECT_EQ(console.printed().sliced(6),
+              (QStringList{QStringLiteral("ooops -did not delete that file"),
+                           QStringLiteral("hmm... what to do?>>> cant get rid of old file "
+                                          "first......")}));
+    EXPECT_TRUE(terminal.windows.empty());
+    EXPECT_TRUE(workspace.requests.isEmpty());
+}
+
+TEST_F(SshKeyProvisioningTest, OlderWay_StopsWhenItCannotWrite) {
+    changes.guarded = cScript;
+    provisioning.createNewPrivatePublicKeysOLD();
+    EXPECT_EQ(console.printed().constLast(),
+              QString(u"ooops bad..." + cScript + u": Permission denied"));
+    EXPECT_TRUE(terminal.windows.empty());
+}
+
+} // namespace
+} // namespace kelvo
