@@ -145,7 +145,7 @@ CommandResult PosixShellRunner::run(const QString& command) {
     if (failure != 0) {
         fConsole.log(QStringLiteral("Cannot start a shell command: ") +
                      QString::fromLocal8Bit(std::strerror(failure))); // NOLINT
-        return {};
+        return {{}, {}, cCannotStart};
     }
 
     Capture capture(child, fGiveUp.get());
