@@ -13,7 +13,7 @@ protected:
     QStringList texts() {
         QStringList shown;
         for (const QLabel* label : view.findChildren<QLabel*>()) {
-            if (!label->isHidden() && !label->text().isEmpty())
+            if (!label->isHidden() && label->text() != QStringLiteral("•"))
                 shown << label->text();
         }
         return shown;

@@ -4,6 +4,7 @@
 #include "ports/dispatch_queue.h"
 #include "ports/notification_center.h"
 
+#include <QFileInfo>
 #include <QNetworkInformation>
 #include <QObject>
 
@@ -14,10 +15,11 @@ namespace {
 
 constexpr double cSettleSeconds = 0.2;
 
-/// Null where NetworkManager is not at hand. The backend that is left then, GLib's, reads the
-/// kernel's routes and nothing else, for 2 MB of libraries.
+/// Null where NetworkManager is not at hand. Its folder is looked for first, as Qt loads every
+/// backend to find one by its name, GLib's with 2 MB of libraries among them.
 QNetworkInformation* networkService() {
-    return QNetworkInformation::loadBackendByName(u"networkmanager")
+    const bool atHand = QFileInfo::exists(QStringLiteral("/run/NetworkManager"));
+    return atHand && QNetworkInformation::loadBackendByName(u"networkmanager")
                ? QNetworkInformation::instance()
                : nullptr;
 }

@@ -20,11 +20,24 @@ constexpr int cHeadlineInterval = 30'000; // milliseconds
 
 } // namespace
 
-ActivityTab::ActivityTab(QWidget* parent)
-    : QWidget(parent), fUi(std::make_unique<Ui::ActivityTab>()),
-      fRows(new PassRows(style()->standardIcon(QStyle::SP_DialogApplyButton),
-                         style()->standardIcon(QStyle::SP_MessageBoxWarning), this)) {
+ActivityTab::ActivityTab(QWidget* parent) : QWidget(parent) {
+    fHeadlineTimer.setInterval(cHeadlineInterval);
+    connect(&fHeadlineTimer, &QTimer::timeout, this, [this] { showHeadline(); });
+}
+
+ActivityTab::~ActivityTab() = default;
+
+void ActivityTab::setVisible(bool visible) {
+    if (visible && !fUi)
+        build();
+    QWidget::setVisible(visible);
+}
+
+void ActivityTab::build() {
+    fUi = std::make_unique<Ui::ActivityTab>();
     fUi->setupUi(this);
+    fRows = new PassRows(style()->standardIcon(QStyle::SP_DialogApplyButton),
+                         style()->standardIcon(QStyle::SP_MessageBoxWarning), this);
     QHeaderView& columns = *fUi->passes->horizontalHeader();
     fUi->passes->setModel(fRows);
     columns.setSectionResizeMode(QHeaderView::Interactive);
@@ -36,12 +49,10 @@ ActivityTab::ActivityTab(QWidget* parent)
     connect(fUi->passes->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { showSelected(); });
     connect(fRows, &QAbstractItemModel::modelReset, this, [this] { showSelected(); });
-    fHeadlineTimer.setInterval(cHeadlineInterval);
-    connect(&fHeadlineTimer, &QTimer::timeout, this, [this] { showHeadline(); });
+    connect(fUi->copyPass, &QPushButton::clicked, this, [this] { copyPass(); });
+    connect(fUi->exportPasses, &QPushButton::clicked, this, [this] { exportPasses(); });
     showHeadline();
 }
-
-ActivityTab::~ActivityTab() = default;
 
 void ActivityTab::setStore(PassStore& store) {
     fStore = &store;

@@ -18,7 +18,8 @@ class PassRows;
 class PassStore;
 struct PassRecord;
 
-/// Reads the store when it is first shown; follows it from then on.
+/// Empty until it is first shown, for the window comes up sooner without it; then it reads the
+/// store, and follows it from there on.
 class ActivityTab final : public QWidget {
     Q_OBJECT
 public:
@@ -28,27 +29,27 @@ public:
     /// `store` outlives the tab. Called once.
     void setStore(PassStore& store);
 
-    /// The selected pass's text goes to the clipboard.
-    void copyPass();
-
-    /// Asks for a file and writes all passes there as comma-separated values.
-    void exportPasses();
-
-    /// The same to `path`; says under the table how it went.
+    /// Writes all passes to `path` as comma-separated values; says under the table how it went. Not
+    /// before it has been shown.
     void exportTo(const QString& path);
+
+    void setVisible(bool visible) override;
 
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void build();
     void readStore();
     void add(const PassRecord& record);
     void showHeadline();
     void showSelected();
+    void copyPass();
+    void exportPasses();
 
-    std::unique_ptr<Ui::ActivityTab> fUi;
-    PassRows* fRows;
+    std::unique_ptr<Ui::ActivityTab> fUi; ///< none until it is built
+    PassRows* fRows = nullptr;
     QTimer fHeadlineTimer; ///< "minutes ago" grows old
     PassStore* fStore = nullptr;
     bool fRead = false;

@@ -40,8 +40,6 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     addTab(fActivityTab, "activity", tr("Activity"));
     switchOffUntilWired();
     setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
-    setAction(QStringLiteral("copyPass"), [this] { fActivityTab->copyPass(); });
-    setAction(QStringLiteral("exportPasses"), [this] { fActivityTab->exportPasses(); });
     connect(&ibStartButton(), &QPushButton::toggled, this, [this] { showStartIcon(); });
     showStartIcon();
     restoreLook();
