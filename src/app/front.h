@@ -19,7 +19,6 @@ class Console;
 class Control;
 class DispatchQueue;
 class DnssdBrowser;
-class FileManager;
 class MainView;
 class OpenPanel;
 class PassStore;
@@ -48,7 +47,7 @@ struct FrontParts {
     std::function<void(bool)> trouble;
     PassStore& passes;
     BackgroundQueue& bgQueue;
-    const FileManager& files;
+    QString homeDirectory;
     const ChecklistProbe& checklistProbe;
 };
 

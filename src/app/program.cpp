@@ -94,7 +94,7 @@ private:
                                    [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
                                    fPasses.store,
                                    fParts.bgQueue,
-                                   fParts.files,
+                                   fParts.files.homeDirectory(),
                                    fParts.checklistProbe};
             fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
         }

@@ -64,11 +64,15 @@ public:
         fDelegate = &delegate;
         fOnceButtons = sendWindowActions(fWindow, controller, fParts.workspace, fPathControl);
         fWindow.syncTab().checklist().setMend([this](Mend mend) { mendBy(mend); });
-        fChecklist.emplace(Checklist::Parts{fParts.defaults, fParts.mainQueue, fParts.bgQueue,
-                                            fParts.files, fParts.checklistProbe, fParts.passes,
-                                            [this](const std::vector<ChecklistLine>& lines) {
-                                                fWindow.syncTab().checklist().setLines(lines);
-                                            }});
+        fChecklist.emplace(Checklist::Parts{
+            fParts.defaults, fParts.mainQueue, fParts.bgQueue, fParts.homeDirectory,
+            fParts.checklistProbe, fParts.passes, [this](const std::vector<ChecklistLine>& lines) {
+                fWindow.syncTab().checklist().setLines(lines);
+            }});
+        QObject::connect(&fWindow, &MainWindow::activated, &fWindow,
+                         [this] { fChecklist->look(); });
+        QObject::connect(&fWindow, &MainWindow::keyStateShown, &fWindow,
+                         [this](KeyState state) { fChecklist->setKeyState(state); });
         addApplicationMenu(fWindow, controller, delegate, fParts.workspace, fParts.logFolder,
                            [this] { fApplication.terminate(); });
     }
@@ -106,6 +110,7 @@ private:
     ViewController* fController = nullptr;
     AppDelegate* fDelegate = nullptr;
     ClosePolicy fClosePolicy;
+    std::optional<Checklist> fChecklist;
     MainWindow fWindow;
     WidgetMainView fView;
     WidgetApplication fApplication;
@@ -121,7 +126,6 @@ private:
     ServiceList fFoundServices;
     OnceButtons fOnceButtons;
     std::shared_ptr<MainWindowController> fWindowController;
-    std::optional<Checklist> fChecklist;
 };
 
 } // namespace

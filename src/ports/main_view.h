@@ -1,6 +1,7 @@
 // MainView: the content of the main window, as its controller sees it.
 #pragma once
 
+#include "support/key_state.h"
 #include "support/subscription.h"
 
 #include <QString>
@@ -28,8 +29,8 @@ public:
     /// Shows whether the connection test is running.
     virtual void showTesting(bool testing) = 0;
 
-    /// Shows `text` as the state of the key; an empty one leaves the line empty.
-    virtual void showKeyState(const QString& text) = 0;
+    /// Shows what is known of the program's key.
+    virtual void showKeyState(KeyState state) = 0;
 
     /// Plays the alert sound.
     virtual void beep() = 0;

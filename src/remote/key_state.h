@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ports/host_validator.h"
+#include "support/key_state.h"
 #include "support/subscription.h"
 
 #include <functional>
@@ -12,16 +13,6 @@ class BackgroundQueue;
 class DispatchQueue;
 class FileManager;
 class UserDefaults;
-
-enum class KeyState {
-    NoKey,       ///< one half of the pair is missing, or both are
-    HostUnset,   ///< there is a key, but no host or no user to ask
-    NotAsked,    ///< there is a key; this host has not been asked yet
-    Asking,      ///< the host is being asked
-    Accepted,    ///< the host let the user in
-    NotAccepted, ///< it did not, for whatever reason
-    HostAway,    ///< there is no such host on the network, so that nobody knows
-};
 
 /// What `verdict` of a validation says of a key whose files are there or not.
 KeyState keyState(const QString& verdict, bool bothFilesExist);

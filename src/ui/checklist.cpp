@@ -2,10 +2,8 @@
 
 #include "ports/checklist_probe.h"
 #include "ports/dispatch_queue.h"
-#include "ports/file_manager.h"
 #include "ports/pass_store.h"
 #include "ports/user_defaults.h"
-#include "support/key_file.h"
 #include "support/preference_keys.h"
 #include "support/text.h"
 #include "ui/pass_words.h"
@@ -19,9 +17,11 @@ QString text(const UserDefaults& defaults, QStringView key) {
     return trimmedText(defaults.stringForKey(key).value_or(QString()));
 }
 
-bool keyIsNotAccepted(PassCause cause) {
-    return wordsFor(cause).group == CauseGroup::HostKey || cause == PassCause::KeyRefused ||
-           cause == PassCause::WrongUser;
+QString whyNotAccepted(std::optional<PassCause> lastCause) {
+    if (lastCause && (wordsFor(*lastCause).group == CauseGroup::HostKey ||
+                      lastCause == PassCause::KeyRefused || lastCause == PassCause::WrongUser))
+        return wordsFor(*lastCause).sentence.toString();
+    return QStringLiteral("The Mac has not accepted the program's key yet.");
 }
 
 } // namespace
@@ -36,10 +36,10 @@ std::vector<ChecklistLine> checklist(const ChecklistFacts& facts) {
         need(facts.hostChosen, QStringLiteral("No Mac is chosen yet."), Mend::ShowRemoteTab);
         need(facts.userSet, QStringLiteral("The user name on the Mac is missing."),
              Mend::ShowRemoteTab);
-        need(facts.keyThere, QStringLiteral("The program has no ssh key of its own yet."),
+        need(facts.key != KeyState::NoKey,
+             QStringLiteral("The program has no ssh key of its own yet."), Mend::ShowRemoteTab);
+        need(facts.key != KeyState::NotAccepted, whyNotAccepted(facts.lastCause),
              Mend::ShowRemoteTab);
-        if (facts.keyThere && facts.lastCause && keyIsNotAccepted(*facts.lastCause))
-            lines.push_back({wordsFor(*facts.lastCause).sentence.toString(), Mend::ShowRemoteTab});
         need(facts.sshThere, QStringLiteral("ssh is not installed on this machine."),
              Mend::CopyInstallCommand);
     } else {
@@ -78,20 +78,20 @@ Checklist::Checklist(Parts parts) : fParts(std::move(parts)) {
 
 void Checklist::look() {
     const UserDefaults& defaults = fParts.defaults;
-    const QString home = fParts.files.homeDirectory();
     ChecklistFacts facts;
     facts.remote = defaults.boolForKey(prefRsyncWithSSH);
     facts.hostChosen = !text(defaults, prefRemoteBonjourName).isEmpty();
     facts.userSet = !text(defaults, prefRemoteUsername).isEmpty();
+    facts.key = fKey;
     facts.lastCause = fLastCause;
     facts.sourceChosen = !text(defaults, prefPath1).isEmpty();
     const QString destination = text(defaults, prefPath2);
     facts.destinationChosen = !destination.isEmpty();
-    fParts.bgQueue.async([this, facts, destination, home, look = ++fLooks,
-                          alive = std::weak_ptr(fAlive), &files = fParts.files,
-                          &probe = fParts.probe, &mainQueue = fParts.mainQueue]() mutable {
-        facts.keyThere = files.fileExistsAtPath(expandingTilde(cPrivateKeyFile, home));
-        facts.destinationWritable = probe.isWritableFolder(expandingTilde(destination, home));
+    fParts.bgQueue.async([this, facts,
+                          destination = expandingTilde(destination, fParts.homeDirectory),
+                          look = ++fLooks, alive = std::weak_ptr(fAlive), &probe = fParts.probe,
+                          &mainQueue = fParts.mainQueue]() mutable {
+        facts.destinationWritable = probe.isWritableFolder(destination);
         facts.rsyncThere = probe.isProgram(QStringLiteral("/usr/bin/rsync"));
         facts.sshThere = probe.isProgram(QStringLiteral("/usr/bin/ssh"));
         mainQueue.async([this, facts, look, alive] {
@@ -99,6 +99,11 @@ void Checklist::look() {
                 fParts.show(checklist(facts));
         });
     });
+}
+
+void Checklist::setKeyState(KeyState state) {
+    if (state != KeyState::Asking && std::exchange(fKey, state) != state)
+        look();
 }
 
 } // namespace kelvo

@@ -1,6 +1,7 @@
 // Checklist: what is still missing before a pass can go well, in plain words.
 #pragma once
 
+#include "support/key_state.h"
 #include "support/pass_record.h"
 #include "support/subscription.h"
 
@@ -16,7 +17,6 @@ namespace kelvo {
 class BackgroundQueue;
 class ChecklistProbe;
 class DispatchQueue;
-class FileManager;
 class PassStore;
 class UserDefaults;
 
@@ -33,7 +33,7 @@ struct ChecklistFacts {
     bool remote = false; ///< pulls from the Mac
     bool hostChosen = false;
     bool userSet = false;
-    bool keyThere = false;
+    KeyState key = KeyState::NotAsked;
     std::optional<PassCause> lastCause; ///< of the last pass, when there was one
     bool sourceChosen = false;          ///< plain passes
     bool destinationChosen = false;
@@ -56,7 +56,7 @@ public:
         UserDefaults& defaults;
         DispatchQueue& mainQueue;
         BackgroundQueue& bgQueue;
-        const FileManager& files;
+        QString homeDirectory;
         const ChecklistProbe& probe;
         PassStore& passes;
         std::function<void(const std::vector<ChecklistLine>&)> show; ///< main thread
@@ -68,9 +68,13 @@ public:
     /// Looks now; shows later, on the main queue. Main thread; returns at once.
     void look();
 
+    /// What is known of the key; a question that is under way leaves it. Main thread.
+    void setKeyState(KeyState state);
+
 private:
     const Parts fParts;
     std::optional<PassCause> fLastCause;
+    KeyState fKey = KeyState::NotAsked;
     int fLooks = 0;
     std::shared_ptr<int> fAlive = std::make_shared<int>();
     std::vector<Subscription> fObservations;

@@ -1,7 +1,9 @@
 // The state of the program's key in words for people.
 #pragma once
 
-#include "remote/key_state.h"
+#include "support/key_state.h"
+
+#include <QString>
 
 namespace kelvo {
 

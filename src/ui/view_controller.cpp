@@ -11,7 +11,6 @@
 #include "support/preference_keys.h"
 #include "support/property_value.h"
 #include "support/text.h"
-#include "ui/key_state_words.h"
 
 namespace kelvo {
 namespace {
@@ -41,9 +40,8 @@ ViewController::ViewController(const ViewControllerParts& parts)
       fAlerts(parts.mainQueue, parts.console, parts.alertPresenter),
       fRsyncCommand(parts.defaults, parts.console), fSamplePath(parts.defaults, parts.mainQueue),
       fHostValidation(parts.defaults, parts.shell, parts.files, parts.console),
-      fKeyState(
-          {parts.defaults, parts.files, parts.mainQueue, parts.bgQueue, fHostValidation,
-           [&view = parts.view](KeyState state) { view.showKeyState(keyStateWords(state)); }}),
+      fKeyState({parts.defaults, parts.files, parts.mainQueue, parts.bgQueue, fHostValidation,
+                 [&view = parts.view](KeyState state) { view.showKeyState(state); }}),
       fSyncCycle({parts.defaults, parts.mainQueue, parts.bgQueue, parts.shell, parts.files,
                   parts.console, fRsyncCommand, fKeyState, fStatusLine, fAlerts,
                   parts.ibStartButton, parts.passListener}),

@@ -1,10 +1,10 @@
-#include "fakes/fake_file_manager.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
 #include "ports/checklist_probe.h"
 #include "support/preference_keys.h"
 #include "ui/checklist.h"
+#include "ui/pass_words.h"
 
 #include <QSet>
 
@@ -16,7 +16,7 @@ namespace {
 ChecklistFacts wellFacts(bool remote) {
     ChecklistFacts facts;
     facts.remote = remote;
-    facts.hostChosen = facts.userSet = facts.keyThere = remote;
+    facts.hostChosen = facts.userSet = remote;
     facts.sourceChosen = !remote;
     facts.destinationChosen = facts.destinationWritable = facts.rsyncThere = true;
     facts.sshThere = remote;
@@ -39,7 +39,6 @@ TEST(ChecklistTest, EachLack_HasItsLineAndMend) {
     };
     only(true, &ChecklistFacts::hostChosen, Mend::ShowRemoteTab, u"No Mac");
     only(true, &ChecklistFacts::userSet, Mend::ShowRemoteTab, u"user name");
-    only(true, &ChecklistFacts::keyThere, Mend::ShowRemoteTab, u"key");
     only(true, &ChecklistFacts::sshThere, Mend::CopyInstallCommand, u"ssh is not");
     only(true, &ChecklistFacts::rsyncThere, Mend::CopyInstallCommand, u"rsync is not");
     only(false, &ChecklistFacts::sourceChosen, Mend::ChooseSource, u"source");
@@ -47,12 +46,27 @@ TEST(ChecklistTest, EachLack_HasItsLineAndMend) {
     only(true, &ChecklistFacts::destinationWritable, Mend::ChooseDestination, u"written");
 }
 
-TEST(ChecklistTest, KeyThatTheLastPassFoundRefused_IsALine) {
-    ChecklistFacts facts = wellFacts(true);
-    facts.lastCause = PassCause::KeyRefused;
-    ASSERT_EQ(checklist(facts).size(), 1U);
-    facts.lastCause = PassCause::DiskFull;
-    EXPECT_TRUE(checklist(facts).empty());
+TEST(ChecklistTest, Key_IsALineUntilItIsAccepted) {
+    const auto linesFor = [](KeyState key, std::optional<PassCause> lastCause) {
+        ChecklistFacts facts = wellFacts(true);
+        facts.key = key;
+        facts.lastCause = lastCause;
+        QStringList texts;
+        for (const ChecklistLine& line : checklist(facts)) {
+            EXPECT_EQ(line.mend, Mend::ShowRemoteTab);
+            texts << line.text;
+        }
+        return texts;
+    };
+    const QString notAccepted = QStringLiteral("The Mac has not accepted the program's key yet.");
+    EXPECT_EQ(linesFor(KeyState::NoKey, {}),
+              QStringList{QStringLiteral("The program has no ssh key of its own yet.")});
+    EXPECT_EQ(linesFor(KeyState::NotAccepted, {}), QStringList{notAccepted});
+    EXPECT_EQ(linesFor(KeyState::NotAccepted, PassCause::DiskFull), QStringList{notAccepted});
+    EXPECT_EQ(linesFor(KeyState::NotAccepted, PassCause::HostKeyChanged),
+              QStringList{wordsFor(PassCause::HostKeyChanged).sentence.toString()});
+    EXPECT_EQ(linesFor(KeyState::Accepted, PassCause::KeyRefused), QStringList());
+    EXPECT_EQ(linesFor(KeyState::NotAsked, {}), QStringList());
 }
 
 // -- looking
@@ -75,12 +89,11 @@ protected:
     MemoryDefaults defaults;
     VirtualMainQueue mainQueue;
     ManualBackgroundQueue bgQueue;
-    FakeFileManager files;
     FakeProbe probe;
     MemoryPassStore store{mainQueue};
     std::vector<std::vector<ChecklistLine>> shown;
     std::optional<Checklist> list{Checklist::Parts{
-        defaults, mainQueue, bgQueue, files, probe, store,
+        defaults, mainQueue, bgQueue, QStringLiteral("/home/me"), probe, store,
         [this](const std::vector<ChecklistLine>& lines) { shown.push_back(lines); }}};
 };
 
@@ -105,6 +118,21 @@ TEST_F(ChecklistLookTest, SettingThatChanges_IsLookedAtAgain) {
     store.append({});
     settle();
     EXPECT_EQ(shown.back().size(), 1U) << "and after each pass";
+}
+
+TEST_F(ChecklistLookTest, StateOfTheKey_IsLookedAtOnceItIsKnown) {
+    defaults.setObject(prefRsyncWithSSH, true);
+    settle();
+    const std::size_t before = shown.back().size();
+    list->setKeyState(KeyState::NotAccepted);
+    settle();
+    EXPECT_EQ(shown.back().size(), before + 1);
+    list->setKeyState(KeyState::Asking);
+    settle();
+    EXPECT_EQ(shown.back().size(), before + 1) << "a question is no answer";
+    list->setKeyState(KeyState::Accepted);
+    settle();
+    EXPECT_EQ(shown.back().size(), before);
 }
 
 TEST_F(ChecklistLookTest, ChecklistThatIsGone_ShowsNothing) {

@@ -1,6 +1,5 @@
 // The remote side as the main view's controller puts it together.
 #include "fakes/view_controller_world.h"
-#include "ui/key_state_words.h"
 #include "ui/terminal_notice.h"
 
 #include <gtest/gtest.h>
@@ -26,21 +25,21 @@ protected:
             mainQueue.advance(0.2);
         }
     }
-    QString shownState() const { return view.keyStates.back(); }
+    KeyState shownState() const { return view.keyStates.back(); }
 };
 
-TEST_F(RemoteSideTest, FromNoKeyToAccepted_InWords) {
-    EXPECT_EQ(shownState(), keyStateWords(KeyState::NoKey));
+TEST_F(RemoteSideTest, FromNoKeyToAccepted_EachStateIsShown) {
+    EXPECT_EQ(shownState(), KeyState::NoKey);
     shell.answerTo(QStringLiteral("whoami"), QStringLiteral("Permission denied (publickey)."));
     controller.ibGenerateSSHKeyStuff(nullptr);
     settle();
-    EXPECT_EQ(shownState(), keyStateWords(KeyState::NotAccepted));
+    EXPECT_EQ(shownState(), KeyState::NotAccepted);
     shell.answerTo(QStringLiteral("whoami"), QStringLiteral("ann\n"));
     ASSERT_EQ(terminal.windows.size(), 1U);
     terminal.windows.front().ended(TerminalOutcome::Ended);
-    EXPECT_EQ(shownState(), keyStateWords(KeyState::Asking));
+    EXPECT_EQ(shownState(), KeyState::Asking);
     settle();
-    EXPECT_EQ(shownState(), keyStateWords(KeyState::Accepted));
+    EXPECT_EQ(shownState(), KeyState::Accepted);
 }
 
 TEST_F(RemoteSideTest, NoTerminal_ShowsTheCommandAndCopiesIt) {
@@ -68,12 +67,12 @@ TEST_F(RemoteSideTest, NoTerminalAndClosed_LeavesTheClipboardAlone) {
 TEST_F(RemoteSideTest, Passes_RefreshTheStateOfTheKeyToo) {
     controller.createNewPrivatePublicKeys(nullptr);
     settle();
-    EXPECT_EQ(shownState(), keyStateWords(KeyState::NotAsked));
+    EXPECT_EQ(shownState(), KeyState::NotAsked);
     shell.answerTo(QStringLiteral("whoami"), QStringLiteral("ann"));
     defaults.setObject(prefPath2, QStringLiteral("/backup"));
     button.performClick();
     settle();
-    EXPECT_EQ(shownState(), keyStateWords(KeyState::Accepted));
+    EXPECT_EQ(shownState(), KeyState::Accepted);
 }
 
 TEST_F(RemoteSideTest, ConnectionTest_ShowsItsSignAndItsAlert) {

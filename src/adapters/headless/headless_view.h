@@ -20,7 +20,7 @@ public:
     void makeNothingFirstResponder() override {}
     void showNetworkStatus(const QString& text) override;
     void showTesting(bool) override {}
-    void showKeyState(const QString&) override {}
+    void showKeyState(KeyState) override {}
     void beep() override {}
     Subscription monitorRightMouseDown(const Control&, std::function<void(bool)>) override {
         return {};

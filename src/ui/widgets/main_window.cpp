@@ -2,6 +2,7 @@
 
 #include "ports/user_defaults.h"
 #include "support/fatal.h"
+#include "ui/key_state_words.h"
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/icons.h"
@@ -145,6 +146,8 @@ void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         showStartIcon();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        Q_EMIT activated();
 }
 
 void MainWindow::hideEvent(QHideEvent* event) {
@@ -184,6 +187,11 @@ PathControlView& MainWindow::fNsPathControl1() {
 
 PathControlView& MainWindow::destinationPath() {
     return fSyncTab->destinationPath();
+}
+
+void MainWindow::showKeyState(KeyState state) {
+    fRemoteTab->setKeyState(keyStateWords(state));
+    Q_EMIT keyStateShown(state);
 }
 
 QTableView& MainWindow::foundServices() {

@@ -1,6 +1,7 @@
 // MainWindow: the program's one window, with its five tabs.
 #pragma once
 
+#include "support/key_state.h"
 #include "ui/widgets/bindings.h"
 
 #include <QMainWindow>
@@ -54,6 +55,7 @@ public:
     std::vector<Tab> tabs() const;
     int currentTab() const;
     void showTab(int index);
+    void showKeyState(KeyState state);
     void showTab(const QString& identifier);
 
     /// Brings the window to the front, out of hiding and out of its minimised state.
@@ -71,6 +73,9 @@ public:
 
 Q_SIGNALS:
     void tabShown(int index);
+    /// The person has come to the window.
+    void activated();
+    void keyStateShown(KeyState state);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -64,9 +64,9 @@ void WidgetMainView::showTesting(bool testing) {
         fWindow->remoteTab().setTesting(testing);
 }
 
-void WidgetMainView::showKeyState(const QString& text) {
+void WidgetMainView::showKeyState(KeyState state) {
     if (fWindow)
-        fWindow->remoteTab().setKeyState(text);
+        fWindow->showKeyState(state);
 }
 
 void WidgetMainView::beep() {

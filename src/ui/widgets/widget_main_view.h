@@ -19,7 +19,7 @@ public:
     void makeNothingFirstResponder() override;
     void showNetworkStatus(const QString& text) override;
     void showTesting(bool testing) override;
-    void showKeyState(const QString& text) override;
+    void showKeyState(KeyState state) override;
     void beep() override;
 
     /// `view` is a WidgetControl; any other hears nothing.
