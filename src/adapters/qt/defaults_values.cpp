@@ -5,6 +5,16 @@
 #include <utility>
 
 namespace kelvo {
+namespace {
+
+/// A copy that shares nothing with `values`: two threads that shared one map would write to it by
+/// turns, each trusting a count that Qt reads without ordering.
+QVariantMap ownCopy(QVariantMap values) {
+    values.detach();
+    return values;
+}
+
+} // namespace
 
 void applyChanges(QVariantMap& values, const DefaultsChanges& changes) {
     for (auto it = changes.cbegin(); it != changes.cend(); ++it) {
@@ -55,12 +65,12 @@ bool DefaultsValues::hasChanges() const {
 
 QVariantMap DefaultsValues::userValues() const {
     const std::lock_guard lock(fMutex);
-    return fUser;
+    return ownCopy(fUser);
 }
 
 QStringList DefaultsValues::adopt(const QVariantMap& stored) {
     const std::lock_guard lock(fMutex);
-    QVariantMap next = stored;
+    QVariantMap next = ownCopy(stored);
     applyChanges(next, fChanges);
     QStringList changed;
     for (auto it = fUser.cbegin(); it != fUser.cend(); ++it) {
