@@ -30,7 +30,7 @@ QString asJson(const PassRecord& pass, const CauseWords& words) {
 
 QString asLines(const PassRecord& pass, const CauseWords& words) {
     const QString size = sizeText(pass.brought);
-    QString lines = sentenceFor(pass) + u" (" + filesText(pass.brought) +
+    QString lines = sentenceFor(pass) + u" (" + filesText(pass) +
                     (size.isEmpty() ? QString() : QString(u", " + size)) + u", " +
                     secondsText(pass.seconds) + u")\n";
     if (!words.nextStep.isEmpty())

@@ -121,7 +121,7 @@ Brought broughtBy(QStringView command, QStringView output) {
     if (statistics.source == BroughtSource::Statistics)
         return statistics;
     if (printsNames(command))
-        return {BroughtSource::Lines, names, received};
+        return {BroughtSource::Lines, names, names == 0 ? 0 : received};
     return {};
 }
 

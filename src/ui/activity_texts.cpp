@@ -15,9 +15,14 @@ bool isWell(const PassRecord& pass) {
     return pass.cause == PassCause::Well;
 }
 
-QString broughtText(const Brought& brought) {
+QString withSize(const QString& files, const Brought& brought) {
     const QString size = sizeText(brought);
-    return size.isEmpty() ? filesText(brought) : QString(filesText(brought) + u", " + size);
+    return size.isEmpty() ? files : QString(files + u", " + size);
+}
+
+/// ssh ends its lines as a terminal in raw mode wants them.
+QString shownOutput(QString text) {
+    return withVisibleControls(text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 }
 
 QString statusText(const CommandRecord& command) {
@@ -41,11 +46,12 @@ QString commandReport(const CommandRecord& command) {
     QString report = u"$ " + withVisibleControls(command.command) + u"\n(" + statusText(command) +
                      u", " + secondsText(command.seconds);
     if (command.role == CommandRole::Pull)
-        report += u", " + broughtText(command.brought) + u", " + sourceText(command.brought);
-    report += u")\n" + withVisibleControls(command.text.head);
+        report += u", " + withSize(filesText(command.brought), command.brought) + u", " +
+                  sourceText(command.brought);
+    report += u")\n" + shownOutput(command.text.head);
     if (command.text.leftOut > 0)
         report += u"\n… " + QString::number(command.text.leftOut) + u" bytes left out …\n" +
-                  withVisibleControls(command.text.tail);
+                  shownOutput(command.text.tail);
     return report.endsWith(u'\n') ? report : QString(report + u'\n');
 }
 
@@ -92,7 +98,7 @@ QString passReport(const PassRecord& pass) {
         report += u"Next step: " + words.nextStep + u'\n';
     report += (pass.kind == PassKind::Remote ? QStringLiteral("Remote pass, ")
                                              : QStringLiteral("Plain pass, ")) +
-              broughtText(pass.brought) + u", " + secondsText(pass.seconds) + u'\n';
+              withSize(filesText(pass), pass.brought) + u", " + secondsText(pass.seconds) + u'\n';
     for (const CommandRecord& command : pass.commands)
         report += u'\n' + commandReport(command);
     return report;

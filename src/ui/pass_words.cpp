@@ -120,6 +120,11 @@ QString filesText(const Brought& brought) {
                                : counted(*brought.files, u"file", u"files");
 }
 
+QString filesText(const PassRecord& pass) {
+    const bool refused = pass.kind == PassKind::Remote && pass.verdict != u"valid";
+    return refused ? QStringLiteral("no transfer") : filesText(pass.brought);
+}
+
 QString sizeText(const Brought& brought) {
     if (brought.bytes.value_or(0) <= 0)
         return {};

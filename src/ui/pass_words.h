@@ -37,6 +37,9 @@ QString sentenceFor(const PassRecord& pass);
 /// "3 files", "1 file", "nothing new"; "files unknown" when the commands did not say.
 QString filesText(const Brought& brought);
 
+/// The same of a whole pass, which may not have come to a transfer.
+QString filesText(const PassRecord& pass);
+
 /// "40.0 kB"; empty when it is not known or nothing.
 QString sizeText(const Brought& brought);
 

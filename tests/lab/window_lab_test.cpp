@@ -59,6 +59,9 @@ protected:
         EXPECT_TRUE(screen.keepPicture(QStringLiteral(KELVO_PICTURES), name));
     }
 
+    /// In the tab with the passes; its first row lies there with one line of headline and with two.
+    void selectNewestPass() const { screen.click({300, 175}, 1); }
+
     /// Three more Macs, with names and addresses of their own, by packets on the cable.
     void announceOthers() {
         const QString announcer = QStringLiteral("/tmp/mdns_announcer");
@@ -91,6 +94,39 @@ TEST_F(WindowLabTest, AutoStart_PullsWhileTheWindowShowsIt) {
         << program->transcript().toStdString();
     keepPicture("lab-passes");
     EXPECT_EQ(nearChecksums(cIncoming), moviesOf(remoteChecksums(cRemoteMovies)));
+    EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+}
+
+TEST_F(WindowLabTest, ActivityTab_TellsGoodPassesThenTheTroubleAndExportsBoth) {
+    QVariantMap profile = remoteProfile();
+    profile[QStringLiteral("mainWindowTab")] = QStringLiteral("activity");
+    start(profile);
+    const QString passed = QStringLiteral("result from movie shell command =");
+    ASSERT_TRUE(program->waitForLine(passed, 90)) << program->transcript().toStdString();
+    ASSERT_TRUE(program->waitForLine(passed, 30));
+    ASSERT_TRUE(screen.becomesActive(QStringLiteral("Kelvo Mirror")));
+    selectNewestPass();
+    keepPicture("activity-health");
+    lab({QStringLiteral("sshd"), QStringLiteral("stop")});
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("NEED to handle possible ERROR:"), 30))
+        << program->transcript().toStdString();
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("NEED to handle possible ERROR:"), 30));
+    selectNewestPass();
+    keepPicture("activity-trouble");
+
+    const QString list = cNearHome + QStringLiteral("/passes.csv");
+    screen.keys({QStringLiteral("alt+x")});
+    ASSERT_TRUE(screen.becomesActive(QStringLiteral("Export passes")));
+    screen.keys({QStringLiteral("ctrl+a")});
+    screen.type(list);
+    screen.keys({QStringLiteral("Return")});
+    QList<QByteArray> lines;
+    ASSERT_TRUE(waitUntil([&] {
+        lines = near(u"cat " + list).output.trimmed().split('\n');
+        return lines.size() > 3;
+    })) << near(u"cat " + list).output.constData();
+    EXPECT_TRUE(lines[1].contains(",remote,remote-login-off,")) << lines[1].constData();
+    EXPECT_TRUE(lines.last().contains(",remote,well,")) << lines.last().constData();
     EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
 }
 

@@ -33,6 +33,7 @@ protected:
         PassRecord record;
         record.began = QDateTime::currentDateTimeUtc();
         record.kind = PassKind::Remote;
+        record.verdict = QStringLiteral("valid");
         record.cause = cause;
         record.brought = {BroughtSource::Statistics, 3, 3000};
         CommandRecord command;

@@ -52,7 +52,7 @@ TEST(ActivityTextsTest, Report_HoldsEveryCommandAndSpellsControlsOut) {
     check.role = CommandRole::HostCheck;
     check.command = QStringLiteral("ssh it");
     check.exitStatus = 0;
-    check.text.head = QStringLiteral("me\n");
+    check.text.head = QStringLiteral("me\r\n");
     CommandRecord pull;
     pull.command = QStringLiteral("rsync it");
     pull.exitStatus = 23;

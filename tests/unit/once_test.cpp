@@ -43,9 +43,14 @@ TEST(PassWordsTest, UnknownCause_IsToldInTheCommandsOwnWords) {
 }
 
 TEST(PassWordsTest, Figures_ReadWell) {
-    EXPECT_EQ(filesText({BroughtSource::Lines, 1, {}}), QStringLiteral("1 file"));
-    EXPECT_EQ(filesText({BroughtSource::Lines, 0, {}}), QStringLiteral("nothing new"));
-    EXPECT_EQ(filesText({}), QStringLiteral("files unknown"));
+    EXPECT_EQ(filesText(Brought{BroughtSource::Lines, 1, {}}), QStringLiteral("1 file"));
+    EXPECT_EQ(filesText(Brought{BroughtSource::Lines, 0, {}}), QStringLiteral("nothing new"));
+    EXPECT_EQ(filesText(Brought{}), QStringLiteral("files unknown"));
+    PassRecord pass;
+    pass.kind = PassKind::Remote;
+    EXPECT_EQ(filesText(pass), QStringLiteral("no transfer"));
+    pass.verdict = QStringLiteral("valid");
+    EXPECT_EQ(filesText(pass), QStringLiteral("files unknown"));
     EXPECT_EQ(sizeText({BroughtSource::Statistics, 1, 40000}), QStringLiteral("40.0 kB"));
     EXPECT_EQ(sizeText({}), QString());
     EXPECT_EQ(secondsText(4.4), QStringLiteral("4 s"));

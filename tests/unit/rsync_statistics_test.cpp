@@ -44,6 +44,15 @@ TEST(RsyncStatisticsTest, NamesAlone_TellNoBytes) {
     EXPECT_FALSE(brought.bytes.has_value());
 }
 
+TEST(RsyncStatisticsTest, NoNames_AreNoBytes) {
+    const auto brought = broughtBy(u"/usr/bin/rsync -rv a/ b/",
+                                   u"receiving incremental file list\n\n"
+                                   u"sent 20 bytes  received 1,201 bytes  2,442.00 bytes/sec\n"
+                                   u"total size is 80,000  speedup is 65.00\n");
+    EXPECT_EQ(brought.files, 0);
+    EXPECT_EQ(brought.bytes, 0);
+}
+
 TEST(RsyncStatisticsTest, SilentCommand_IsUnknown) {
     for (const QStringView command :
          {u"/usr/bin/rsync -r --times a/ b/", u"/usr/bin/rsync -e v a b",

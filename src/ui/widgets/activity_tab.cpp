@@ -42,7 +42,9 @@ void ActivityTab::build() {
     fUi->passes->setModel(fRows);
     columns.setSectionResizeMode(QHeaderView::Interactive);
     columns.setSectionResizeMode(PassRows::Outcome, QHeaderView::Stretch);
-    columns.resizeSection(PassRows::When, fontMetrics().averageCharWidth() * 20);
+    columns.resizeSection(PassRows::When,
+                          fontMetrics().horizontalAdvance(QStringLiteral("00 May 0000 00:00:00")) *
+                              6 / 5);
     fUi->passes->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
     fUi->passText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     connect(fUi->troubleOnly, &QCheckBox::toggled, fRows, &PassRows::setTroubleOnly);

@@ -84,7 +84,7 @@ QString PassRows::text(const PassRecord& record, int column) const {
     case Outcome:
         return withVisibleControls(sentenceFor(record));
     case Files:
-        return filesText(record.brought);
+        return filesText(record);
     case Size:
         return sizeText(record.brought);
     case Time:
