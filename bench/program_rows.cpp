@@ -49,6 +49,10 @@ public:
         commands.append(command);
         return fShell.outputWhenRunAsShellCommand(command);
     }
+    QString outputWithin(double seconds, const QString& command) override {
+        commands.append(command);
+        return fShell.outputWithin(seconds, command);
+    }
     QStringList commands;
 
 private:

@@ -30,7 +30,13 @@ enum RsyncCode {
     Timeout = 30,
     ConnectTimeout = 35,
 };
-enum ShellStatus { CannotExecute = 126, NotFound = 127, Signalled = 128, SshFailed = 255 };
+enum ShellStatus {
+    TimeIsUp = 124,
+    CannotExecute = 126,
+    NotFound = 127,
+    Signalled = 128,
+    SshFailed = 255
+};
 
 /// A line matches when it begins with the one and holds the other, whatever the case. Without a
 /// beginning it is any line but rsync's own.
@@ -151,7 +157,11 @@ PassCause pullCause(int status, const QStringList& lines) {
     return causeByStatus(status);
 }
 
+/// A host that takes the connection and then keeps silent was falling asleep, whatever ssh had said
+/// before.
 PassCause checkCause(int status, const QStringList& lines) {
+    if (status == TimeIsUp)
+        return HostAway;
     if (const auto cause = causeByLine(lines, cSshRules))
         return *cause;
     if (status == NotFound)

@@ -12,4 +12,11 @@ QString RecordingShellRunner::outputWhenRunAsShellCommand(const QString& command
     return result.output;
 }
 
+QString RecordingShellRunner::outputWithin(double seconds, const QString& command) {
+    const double began = fJournal.seconds();
+    const CommandResult result = fCommands.runWithin(seconds, command);
+    fJournal.commandEnded(command, result, fJournal.seconds() - began);
+    return result.output;
+}
+
 } // namespace kelvo

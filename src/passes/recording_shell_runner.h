@@ -15,6 +15,7 @@ public:
         : fCommands(commands), fJournal(journal) {}
 
     QString outputWhenRunAsShellCommand(const QString& command) override;
+    QString outputWithin(double seconds, const QString& command) override;
 
 private:
     CommandRunner& fCommands;

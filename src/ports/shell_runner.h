@@ -5,6 +5,9 @@
 
 namespace kelvo {
 
+/// Seconds that a bounded command is given beyond the time-out that it names itself.
+inline constexpr double cCommandGrace = 30;
+
 class ShellRunner {
 public:
     virtual ~ShellRunner() = default;
@@ -16,6 +19,13 @@ public:
     /// several at once; peak memory stays under three times the bytes of output.
     /// The command has no terminal and an empty standard input: nothing can wait for a prompt.
     virtual QString outputWhenRunAsShellCommand(const QString& command) = 0;
+
+    /// The same for a command that must not hold its caller for ever. After `seconds` (0 or more)
+    /// everything in the command's session is asked to end, 2 s later forced; what was captured so
+    /// far is returned, about 3 s later at worst, and one line in the system log says so. A process
+    /// that has left the session lives on and is no longer waited for. A command that ends in time
+    /// notices no difference.
+    virtual QString outputWithin(double seconds, const QString& command) = 0;
 };
 
 } // namespace kelvo

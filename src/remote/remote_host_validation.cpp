@@ -2,11 +2,12 @@
 
 #include "ports/console.h"
 #include "ports/file_manager.h"
-#include "ports/shell_runner.h"
 #include "ports/user_defaults.h"
 #include "support/key_file.h"
 #include "support/preference_keys.h"
 #include "support/text.h"
+
+#include <algorithm>
 
 namespace kelvo {
 
@@ -52,7 +53,8 @@ QString RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout) {
     const QString keyPath = expandingTilde(cPrivateKeyFile, fFiles.homeDirectory());
     const QString command = whoamiCommand(timeout, keyPath, QString(*username + u'@' + *host));
     fConsole.print(u"cmd to check valid user and remote host = \n" + command);
-    const QString answer = trimmedText(fShell.outputWhenRunAsShellCommand(command));
+    const double patience = static_cast<double>(timeout) + fGrace;
+    const QString answer = trimmedText(fShell.outputWithin(std::max(patience, 0.0), command));
 
     const QString rule(65, u'=');
     fConsole.print(rule);

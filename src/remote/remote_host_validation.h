@@ -2,12 +2,12 @@
 #pragma once
 
 #include "ports/host_validator.h"
+#include "ports/shell_runner.h"
 
 namespace kelvo {
 
 class Console;
 class FileManager;
-class ShellRunner;
 class UserDefaults;
 
 /// What the answer of `whoami` over ssh means.
@@ -27,9 +27,11 @@ QString whoamiCommand(qint64 timeout, const QString& keyPath, const QString& tar
 
 class RemoteHostValidation final : public HostValidator {
 public:
+    /// ssh's own time-out ends with the exchange of keys; a host that stalls after that is waited
+    /// for `grace` seconds beyond it.
     RemoteHostValidation(UserDefaults& defaults, ShellRunner& shell, FileManager& files,
-                         Console& console)
-        : fDefaults(defaults), fShell(shell), fFiles(files), fConsole(console) {}
+                         Console& console, double grace = cCommandGrace)
+        : fDefaults(defaults), fShell(shell), fFiles(files), fConsole(console), fGrace(grace) {}
 
     QString validateRemoteHostWithWhoami(qint64 timeout) override;
 
@@ -38,6 +40,7 @@ private:
     ShellRunner& fShell;
     FileManager& fFiles;
     Console& fConsole;
+    const double fGrace;
 };
 
 } // namespace kelvo

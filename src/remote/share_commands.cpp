@@ -31,10 +31,12 @@ QString shareAddress(const ShareTarget& target) {
     return u"smb://" + user + percentEncoded(target.host) + u"/Macintosh%20HD";
 }
 
-/// `command`, which is given 20 seconds and then said to have kept silent.
+const QString cTimeout = u"timeout -k 2 " + QString::number(cShareTimeout) + u' ';
+
+/// `command`, which is given its time and then said to have kept silent.
 QString bounded(const QString& command) {
-    return u"timeout -k 2 20 " + command +
-           u" 2>&1 </dev/null; [ $? -ne 124 ] || echo \"no answer within 20 seconds\"";
+    return cTimeout + command + u" 2>&1 </dev/null; [ $? -ne 124 ] || echo \"no answer within " +
+           QString::number(cShareTimeout) + u" seconds\"";
 }
 
 QString singleQuoted(QString text) {
@@ -91,7 +93,7 @@ std::optional<QString> MacShareCommands::openLocalPath(const QString& path) cons
 
 QString GioShareCommands::openShare(const ShareTarget& target) const {
     const QString address = shareAddress(target);
-    return u"timeout -k 2 20 gio info \"" + address + u"\" >/dev/null 2>&1 || { " +
+    return cTimeout + u"gio info \"" + address + u"\" >/dev/null 2>&1 || { " +
            bounded(QString(u"env LC_ALL=C.UTF-8 gio mount \"" + address + u'"')) + u"; }";
 }
 

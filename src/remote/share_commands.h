@@ -1,6 +1,8 @@
 // ShareCommands: the shell texts that mount the remote Mac's share and find it on this machine.
 #pragma once
 
+#include "ports/shell_runner.h"
+
 #include <QString>
 
 #include <optional>
@@ -8,6 +10,10 @@
 namespace kelvo {
 
 class UserDefaults;
+
+/// Seconds: what a call of gio is given by its own text, and what any of these commands is given.
+inline constexpr int cShareTimeout = 20;
+inline constexpr double cSharePatience = cShareTimeout + cCommandGrace;
 
 /// Whose folder on whose share.
 struct ShareTarget {

@@ -19,6 +19,8 @@ namespace {
 
 constexpr QStringView cTypeName = u"ViewController";
 constexpr double cVolumeListDelay = 0.5;
+/// Seconds; the time-out that the command names itself comes first.
+constexpr double cPatience = 5 + cCommandGrace;
 const QString cGoodResponse = QStringLiteral("%@sshgoodresponsestring");
 
 } // namespace
@@ -76,7 +78,7 @@ void SshConnectionTest::ibTestShellCommand222() {
     background(
         fParts.bgQueue, fParts.mainQueue, 0.0,
         [&shell = fParts.shell, command = *command, result] {
-            *result = shell.outputWhenRunAsShellCommand(command);
+            *result = shell.outputWithin(cPatience, command);
         },
         [this, result] { finish(*result); });
 }
@@ -123,7 +125,7 @@ void SshConnectionTest::ibTestShellCommand111() {
     if (!target)
         return;
     const QString command = fParts.commands.openShare(*target);
-    const QString output = fParts.shell.outputWhenRunAsShellCommand(command);
+    const QString output = fParts.shell.outputWithin(cSharePatience, command);
     fParts.console.log(insideLine(
         cTypeName, operation, QString(u".......response[" + command + u"]= [" + output + u"]")));
     if (!output.isEmpty()) {
@@ -134,7 +136,7 @@ void SshConnectionTest::ibTestShellCommand111() {
         const QString listing = fParts.commands.listVolumes(*target);
         fParts.console.log(insideLine(cTypeName, operation,
                                       QString(u".......response[" + listing + u"]= " +
-                                              fParts.shell.outputWhenRunAsShellCommand(listing))));
+                                              fParts.shell.outputWithin(cSharePatience, listing))));
     });
 }
 

@@ -64,7 +64,7 @@ void SshKeyProvisioning::createNewPrivatePublicKeys() {
         return;
     removeBoth(pair);
     const QString output =
-        fParts.shell.outputWhenRunAsShellCommand(keyGenerationCommand(pair.privateKey));
+        fParts.shell.outputWithin(cCommandGrace, keyGenerationCommand(pair.privateKey));
     const QString rule(40, u'=');
     fParts.console.print(rule);
     fParts.console.print(u"result = " + output);

@@ -64,8 +64,8 @@ enum class CommandRole { HostCheck = 0, Pull = 1 };
 struct CommandRecord {
     CommandRole role = CommandRole::Pull;
     QString command;
-    /// As a shell reports it: 126 for a command that could not be started, 128 + n for an end by
-    /// signal n. Nothing when the command was given up at the quit.
+    /// As a shell reports it: 124 for a command whose time was up, 126 for one that could not be
+    /// started, 128 + n for an end by signal n. Nothing when the command was given up at the quit.
     std::optional<int> exitStatus;
     double seconds = 0;
     CapturedText text; ///< standard output, then what else the command wrote to the error stream

@@ -279,6 +279,108 @@ TEST_F(PosixShellRunnerTest, OutOfMemory_CutsTheTextAndSaysSo) {
     EXPECT_EXIT(starve(), testing::ExitedWithCode(0), "");
 }
 
+// -- bounded
+
+constexpr double cShortly = 0.3;
+
+TEST_F(PosixShellRunnerTest, BoundReached_EndsGrandchildrenAndSaysSoOnce) {
+    const CommandResult result = fRunner.runWithin(
+        cShortly, QStringLiteral("set -m; sleep 600 & echo held by $!; echo wrong >&2; sleep 601"));
+    EXPECT_EQ(result.exitStatus, 124);
+    EXPECT_TRUE(result.errors.endsWith(u"wrong\n"));
+    const pid_t grandchild = numberAfter(result.output, QStringLiteral("held by "));
+    ASSERT_GT(grandchild, 0);
+    EXPECT_TRUE(isGone(grandchild));
+    ASSERT_EQ(fConsole.logged().size(), 2);
+    EXPECT_EQ(fConsole.logged().constFirst(),
+              u"A shell command was cut off after 0.3 s: set -m; sleep 600 & echo held by $!; echo "
+              u"wrong >&2; sleep 601");
+    EXPECT_EQ(::waitid(P_ALL, 0, nullptr, WEXITED | WNOHANG), -1) << "nothing is left to reap";
+}
+
+TEST_F(PosixShellRunnerTest, BoundOfNothing_CutsAtOnce) {
+    EXPECT_EQ(fRunner.runWithin(0, QStringLiteral("sleep 600; echo never")).exitStatus, 124);
+    EXPECT_EQ(fRunner.outputWithin(-1, QStringLiteral("sleep 600; echo never")), QString());
+}
+
+TEST_F(PosixShellRunnerTest, BoundReached_ForcesWhatIgnoresTheRequest) {
+    const CommandResult result = fRunner.runWithin(
+        cShortly, QString(u"trap '' TERM; echo shell $$; exec " + zoo(QStringLiteral("stubborn"))));
+    EXPECT_EQ(result.exitStatus, 124);
+    const pid_t stubborn = numberAfter(result.output, QStringLiteral("shell "));
+    ASSERT_GT(stubborn, 0);
+    EXPECT_TRUE(isGone(stubborn));
+}
+
+TEST_F(PosixShellRunnerTest, BoundReached_EndsWhatIsStopped) {
+    const CommandResult result =
+        fRunner.runWithin(cShortly, QStringLiteral("echo shell $$; kill -STOP $$"));
+    EXPECT_EQ(result.exitStatus, 124);
+    EXPECT_TRUE(isGone(numberAfter(result.output, QStringLiteral("shell "))));
+}
+
+TEST_F(PosixShellRunnerTest, BoundReachedWhileOnlyTheOutputIsHeld_KeepsTheShellsOwnStatus) {
+    const CommandResult result =
+        fRunner.runWithin(cShortly, QString(zoo(QStringLiteral("grandchild 60000 away; exit 7"))));
+    EXPECT_EQ(result.exitStatus, 7);
+    const pid_t away = numberAfter(result.output, QStringLiteral("held by "));
+    ASSERT_GT(away, 0);
+    EXPECT_EQ(::kill(away, SIGKILL), 0) << "it left the session, so it is not ours to end";
+}
+
+TEST_F(PosixShellRunnerTest, BoundReached_LeavesOtherCommandsAlone) {
+    Meeting meeting;
+    auto other = start(meeting.announce() + u"sleep 1; echo whole");
+    meeting.wait();
+    EXPECT_EQ(fRunner.runWithin(cShortly, QStringLiteral("sleep 600")).exitStatus, 124);
+    EXPECT_EQ(other.get(), u"whole\n");
+}
+
+TEST_F(PosixShellRunnerTest, EndlessFlood_DoesNotOutrunItsBound) {
+    const CommandResult result =
+        fRunner.runWithin(cShortly, QStringLiteral("while :; do echo more; done"));
+    EXPECT_EQ(result.exitStatus, 124);
+    EXPECT_TRUE(result.output.startsWith(u"more\nmore\n"));
+}
+
+TEST_F(PosixShellRunnerTest, EndAllWhileABoundRuns_GivesNoExitStatus) {
+    Meeting meeting;
+    auto running = std::async(std::launch::async, [&] {
+        return fRunner.runWithin(60, QString(u"echo so far; " + meeting.announce() + u"sleep 60"));
+    });
+    meeting.wait();
+    fRunner.endAll();
+    const CommandResult result = running.get();
+    EXPECT_FALSE(result.exitStatus.has_value());
+    EXPECT_EQ(result.output, u"so far\n");
+}
+
+TEST_F(PosixShellRunnerTest, EndAllAmidManyCuts_LeavesNoCallerBehind) {
+    std::vector<std::future<CommandResult>> results;
+    for (int i = 0; i < 16; ++i) {
+        results.push_back(std::async(std::launch::async, [this, i] {
+            return fRunner.runWithin(0.02 * i,
+                                     QStringLiteral("trap '' TERM; sleep 600; sleep 600"));
+        }));
+    }
+    std::this_thread::sleep_for(150ms);
+    fRunner.endAll();
+    for (auto& result : results) {
+        const auto status = result.get().exitStatus;
+        EXPECT_TRUE(!status || *status == 124) << *status;
+    }
+}
+
+TEST_F(PosixShellRunnerTest, BoundedRunsInTime_LeaveNothingBehind) {
+    const auto open = [] { return QDir(QStringLiteral("/proc/self/fd")).entryList().size(); };
+    fRunner.runWithin(60, QStringLiteral("true"));
+    const auto before = open();
+    for (int i = 0; i < 20; ++i)
+        EXPECT_EQ(fRunner.runWithin(60, QStringLiteral("echo x; exit 5")).exitStatus, 5);
+    EXPECT_EQ(open(), before);
+    EXPECT_TRUE(fConsole.lines().empty());
+}
+
 TEST_F(PosixShellRunnerTest, EndAll_ReturnsWhatWasCapturedAndStartsNothingAfter) {
     Meeting meeting;
     auto text = start(u"echo so far; " + meeting.announce() + u"sleep 60; echo never");

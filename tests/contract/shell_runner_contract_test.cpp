@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -17,6 +18,13 @@ struct Known {
     QString output;
 };
 
+/// A command that would never end, and what it prints before.
+const Known cEndless{QStringLiteral("echo so far; sleep 600 & wait; echo never"),
+                     QStringLiteral("so far\n")};
+constexpr double cPatience = 0.3;
+/// More than any command here takes.
+constexpr double cAmple = 60;
+
 struct RealShell {
     explicit RealShell(const std::vector<Known>&) : fRunner(fConsole) {}
     ShellRunner& runner() { return fRunner; }
@@ -29,6 +37,7 @@ struct FakeShell {
     explicit FakeShell(const std::vector<Known>& script) {
         for (const Known& known : script)
             fRunner.answerTo(known.command, known.output);
+        fRunner.neverEnds(cEndless.command, cEndless.output);
     }
     ShellRunner& runner() { return fRunner; }
 
@@ -55,6 +64,18 @@ TYPED_TEST(ShellRunnerContract, Output_ComesUntrimmedWhateverTheExitStatus) {
     for (const Known& known : this->fScript)
         EXPECT_EQ(this->fShell.runner().outputWhenRunAsShellCommand(known.command), known.output)
             << known.command.toStdString();
+}
+
+TYPED_TEST(ShellRunnerContract, CommandThatEndsInTime_NoticesNoBound) {
+    for (const Known& known : this->fScript)
+        EXPECT_EQ(this->fShell.runner().outputWithin(cAmple, known.command), known.output)
+            << known.command.toStdString();
+}
+
+TYPED_TEST(ShellRunnerContract, CommandThatNeverEnds_GivesWhatItPrintedWithinItsBound) {
+    const auto began = std::chrono::steady_clock::now();
+    EXPECT_EQ(this->fShell.runner().outputWithin(cPatience, cEndless.command), cEndless.output);
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(20));
 }
 
 TYPED_TEST(ShellRunnerContract, EmptyCommand_GivesTheEmptyText) {

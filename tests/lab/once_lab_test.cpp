@@ -28,12 +28,14 @@ protected:
         writeProfile(profile);
     }
 
-    static void expectOnce(const QString& cause, int exitCode) {
+    /// Returns the seconds that it took.
+    static double expectOnce(const QString& cause, int exitCode) {
         const CommandResult result = near(QStringLiteral(KELVO_PROGRAM " --once --json"));
         EXPECT_EQ(result.exitCode, exitCode) << result.output.constData();
         const QJsonObject told = QJsonDocument::fromJson(result.output).object();
         EXPECT_EQ(told.value(u"cause").toString(), cause) << result.output.constData();
         EXPECT_EQ(told.value(u"exitCode"), exitCode);
+        return result.seconds;
     }
 };
 
@@ -53,6 +55,19 @@ TEST_F(OnceLabTest, CableCut_IsHostAway) {
     writeProfile(QStringLiteral("prefRemoteBonjourName"), cRemoteAddress);
     lab({QStringLiteral("link"), QStringLiteral("cut")});
     expectOnce(QStringLiteral("host-away"), 10);
+}
+
+/// The host's side of the connection stops after the keys were exchanged, where ssh waits for ever.
+TEST_F(OnceLabTest, HostAsleepInMidLogin_IsHostAwayWithinTheBound) {
+    writeRemote(QStringLiteral("/Users/mediauser/.ssh/rc"), "kill -STOP $PPID\n");
+    const double seconds = expectOnce(QStringLiteral("host-away"), 10);
+    EXPECT_GT(seconds, 33) << "it did not stall";
+    EXPECT_LT(seconds, 40);
+    EXPECT_EQ(near(QStringLiteral("pgrep --ns $$ --nslist net -f '[i]d_kelvoRsync'")).output, "")
+        << "the check's own ssh is gone";
+    remote(QStringLiteral("rm /Users/mediauser/.ssh/rc; pkill --ns $$ --nslist net -KILL -u "
+                          "mediauser"));
+    expectOnce(QStringLiteral("well"), 0);
 }
 
 TEST_F(OnceLabTest, SshdStopped_IsRemoteLoginOff) {

@@ -115,6 +115,14 @@ TEST(PassCauseTest, MacOfAnotherAge_IsUnderstoodToo) {
     EXPECT_EQ(pull(143, ""), Unknown);
 }
 
+TEST(PassCauseTest, CheckWhoseTimeWasUp_MeansAHostThatIsAwayWhateverItSaid) {
+    for (const char* said : {"", "mediauser\n", "Warning: Identity file x not accessible: no\n"})
+        EXPECT_EQ(causeOf(ended(CommandRole::HostCheck, 124, QString::fromUtf8(said))).cause,
+                  HostAway)
+            << said;
+    EXPECT_EQ(causeOf(ended(CommandRole::Pull, 124, QString())).cause, Unknown);
+}
+
 TEST(PassCauseTest, NameOfAFile_IsNoMessage) {
     const QString names = QStringLiteral("Host key verification failed.mov\n"
                                          "a: No space left on device (28).mov\n");

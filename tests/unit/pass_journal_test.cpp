@@ -28,6 +28,15 @@ public:
         return {{}, {}, 0};
     }
 
+    CommandResult runWithin(double seconds, const QString& command) override {
+        if (command != endless)
+            return run(command);
+        fClock += seconds;
+        return {QStringLiteral("so far\n"), {}, 124};
+    }
+
+    QString endless; ///< this command never ends by itself
+
     std::map<QString, CommandResult> results;
 
 private:
@@ -113,6 +122,20 @@ TEST_F(PassJournalTest, PassesSideBySide_KeepTheirCommandsApart) {
 TEST_F(PassJournalTest, Runner_PassesTheTextOnUntouched) {
     commands.results[QStringLiteral("x")] = {QStringLiteral(" text \n\n"), QStringLiteral("e"), 3};
     EXPECT_EQ(shell.outputWhenRunAsShellCommand(QStringLiteral("x")), QStringLiteral(" text \n\n"));
+}
+
+TEST_F(PassJournalTest, CheckWhoseTimeWasUp_IsWrittenDownAsAHostThatIsAway) {
+    commands.endless = QStringLiteral("ssh whoami");
+    journal.passBegan(PassKind::Remote);
+    EXPECT_EQ(shell.outputWithin(33, commands.endless), QStringLiteral("so far\n"));
+    journal.hostJudged(QStringLiteral("unknownerror"));
+    journal.passEnded();
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].cause, PassCause::HostAway);
+    EXPECT_EQ(records[0].lastLine, QStringLiteral("so far"));
+    ASSERT_EQ(records[0].commands.size(), 1U);
+    EXPECT_EQ(records[0].commands[0].exitStatus, 124);
+    EXPECT_DOUBLE_EQ(records[0].commands[0].seconds, 33);
 }
 
 // -- with the cycle

@@ -127,6 +127,26 @@ TEST_F(RemoteHostValidationTest, KeyFileMissing_HandsBackSshsOwnWords) {
     EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"No Route To Host");
 }
 
+TEST_F(RemoteHostValidationTest, Command_IsBoundedByItsOwnTimeOutAndTheGrace) {
+    validation.validateRemoteHostWithWhoami(3);
+    validation.validateRemoteHostWithWhoami(0);
+    validation.validateRemoteHostWithWhoami(-40);
+    RemoteHostValidation(defaults, shell, files, console, 0.5).validateRemoteHostWithWhoami(2);
+    EXPECT_EQ(shell.bounds(), (std::vector<std::optional<double>>{33.0, 30.0, 0.0, 2.5}));
+}
+
+TEST_F(RemoteHostValidationTest, HostThatStallsInTheLogin_IsJudgedByWhatItSaidSoFar) {
+    shell.neverEnds(QStringLiteral("whoami"), QString());
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"unknownerror");
+    shell.neverEnds(QStringLiteral("whoami"), QStringLiteral("Warning: Identity file x"));
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"checksshkeys");
+    shell.neverEnds(QStringLiteral("whoami"), QStringLiteral("mediauser\n"));
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"valid");
+    files.existing.clear();
+    shell.neverEnds(QStringLiteral("whoami"), QStringLiteral("Welcome\n"));
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"Welcome");
+}
+
 TEST_F(RemoteHostValidationTest, UserOrHostMissing_RunsNothing) {
     for (const QStringView key : {prefRemoteUsername, prefRemoteBonjourName}) {
         const QVariant kept = defaults.object(key);

@@ -103,6 +103,8 @@ TEST_F(SmbShareAccessTest, Debug_FindsTheVolumeAndOpensTheFolderThere) {
     EXPECT_EQ(shell.commands(), (QStringList{cOpenShare, cList, cPick}));
     mainQueue.advance(0.1);
     EXPECT_EQ(shell.commands().constLast(), u"open \"./Volumes/Macintosh HD/Users/ann/Movies\"");
+    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>(4, 50.0))
+        << "the main thread waits for each of them";
     EXPECT_EQ(
         console.logged(),
         (QStringList{

@@ -205,6 +205,15 @@ TEST_F(SshConnectionTestTest, WithoutAHost_RunsTheTemplateItself) {
                                          "%@1@%@2 echo %@sshgoodresponsestring 2>&1")});
 }
 
+TEST_F(SshConnectionTestTest, HostThatNeverEnds_IsCutOffAndTheButtonIsFreeAgain) {
+    shell.neverEnds(QStringLiteral("ssh"), QString());
+    connection.ibTestShellCommand222();
+    bgQueue.runAll();
+    mainQueue.advance(0.1);
+    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{35.0});
+    EXPECT_EQ(busySigns, (std::vector<bool>{true, false}));
+}
+
 // -- the share
 
 TEST_F(SshConnectionTestTest, OpenShare_ListsTheVolumesHalfASecondLater) {
@@ -215,6 +224,7 @@ TEST_F(SshConnectionTestTest, OpenShare_ListsTheVolumesHalfASecondLater) {
     EXPECT_EQ(shell.commands().size(), 1);
     mainQueue.advance(0.001);
     EXPECT_EQ(shell.commands(), (QStringList{cShareCommand, QStringLiteral("df -ahY -T smbfs")}));
+    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>(2, 50.0));
     const QString prefix = QStringLiteral("Inside ViewController->ibTestShellCommand111(_:)");
     EXPECT_EQ(console.logged(),
               (QStringList{QString(prefix + u"......."),

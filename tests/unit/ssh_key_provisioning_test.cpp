@@ -111,6 +111,7 @@ TEST_F(SshKeyProvisioningTest, CommandFile_IsWrittenMadeExecutableAndOpened) {
     EXPECT_TRUE(commandFiles.executeAsCommandFile(QStringLiteral("echo é"), {}));
     EXPECT_EQ(changes.written.value(cScript), "echo \xc3\xa9\n");
     EXPECT_EQ(shell.commands(), QStringList{cChmod});
+    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{30.0});
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().path, cScript);
     EXPECT_EQ(terminal.windows.front().command, u"echo é");
@@ -167,6 +168,7 @@ TEST_F(SshKeyProvisioningTest, NewPair_RemovesBothHalvesAndShowsTheOutput) {
     provisioning.createNewPrivatePublicKeys();
     EXPECT_EQ(changes.removed, (QStringList{cPrivateKey, cPublicKey}));
     EXPECT_EQ(shell.commands(), QStringList{cGeneration});
+    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{30.0});
     const QString rule(40, u'=');
     const QString removal = QStringLiteral("Inside String->removeItemIfExists().......");
     const QString urlRemoval = QStringLiteral("Inside URL->removeItemIfExists().......");

@@ -179,6 +179,7 @@ TEST_F(PlainPassTest, Body_RunsTheFilledTemplateAndPrintsItsOutput) {
     bgQueue.runAll();
     const QString command = QStringLiteral("pull   \"/Volumes/Cam/\" \"/Incoming/\"");
     EXPECT_EQ(shell.commands(), QStringList{command});
+    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{std::nullopt});
     EXPECT_EQ(console.printed().mid(4),
               (QStringList{QString(u"cmd to send = " + command),
                            QStringLiteral("result from shell command =\na.mov\n\n"
@@ -312,6 +313,8 @@ TEST_F(RemotePassTest, Body_ValidatesThenPullsTwice) {
                   QString(u"/usr/bin/rsync " + sshPart +
                           u"  -f '+ */' -f '+ *.[mM][oOpP][vV4]*' -f '- *' -r  --times  "
                           u"--prune-empty-dirs \"mediauser@RemoteMac:Movies/\" \"/Incoming/\" ")}));
+    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>(2, std::nullopt))
+        << "a long transfer is never cut";
     EXPECT_EQ(console.printed().filter(QStringLiteral("result from")),
               (QStringList{QStringLiteral("\n\nresult from shell command =\none\n\n"
                                           "======== done ========"),

@@ -55,8 +55,8 @@ bool carries(pid_t pid, const std::string& mark) {
 
 bool belongs(pid_t pid, const CommandProcesses& commands) {
     const pid_t session = livingSession(pid);
-    return session >= 0 &&
-           (std::ranges::count(commands.sessions, session) > 0 || carries(pid, commands.mark));
+    return session >= 0 && (std::ranges::count(commands.sessions, session) > 0 ||
+                            (!commands.mark.empty() && carries(pid, commands.mark)));
 }
 
 struct Member {

@@ -17,7 +17,7 @@ std::string commandMark(pid_t program);
 /// A process belongs to commands when it runs in one of their sessions or carries their mark.
 struct CommandProcesses {
     std::span<const pid_t> sessions; ///< ids not free for reuse: their leaders are not reaped yet
-    std::string mark;
+    std::string mark;                ///< empty: the sessions alone
 };
 
 /// The living processes (no zombies, not this one) that belong to `commands`. Costs a walk over

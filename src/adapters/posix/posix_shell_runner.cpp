@@ -4,6 +4,7 @@
 #include "adapters/posix/shell_child.h"
 #include "adapters/posix/utf8_collector.h"
 #include "ports/console.h"
+#include "support/plain_line.h"
 
 #include <poll.h>
 #include <signal.h>
@@ -24,14 +25,48 @@ constexpr std::size_t cMostErrors = std::size_t{64} * 1024;
 /// A flood must not hold up the quit: no more than a full pipe is read after giving up.
 constexpr std::size_t cLastRead = std::size_t{1024} * 1024;
 /// The exit statuses that shells give where there is none.
+constexpr int cTimeIsUp = 124;
 constexpr int cCannotStart = 126;
 constexpr int cSignalled = 128;
 constexpr auto cAskPatience = 2000ms;
 constexpr auto cForcePatience = 1000ms;
+constexpr qsizetype cLongestCommandSaid = 300;
 
-void reap(pid_t pid, int options) {
-    while (::waitpid(pid, nullptr, options) < 0 && errno == EINTR) {
+using Clock = std::chrono::steady_clock;
+using Deadline = std::optional<Clock::time_point>;
+
+Deadline deadlineAfter(std::optional<double> seconds) {
+    constexpr double cMost = 1e8; // keeps the sum within what the clock can count
+    if (!seconds)
+        return {};
+    const std::chrono::duration<double> span(std::clamp(*seconds, 0.0, cMost));
+    return Clock::now() + std::chrono::duration_cast<Clock::duration>(span);
+}
+
+/// For poll: rounded up, so that nothing wakes a little too early and turns in a circle.
+int millisecondsUntil(const Deadline& deadline) {
+    constexpr std::int64_t cMost = 3'600'000;
+    if (!deadline)
+        return -1;
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*deadline - Clock::now());
+    return static_cast<int>(std::clamp<std::int64_t>(left.count(), 0, cMost));
+}
+
+/// Whether `pid` was there to be reaped.
+bool reap(pid_t pid, int options) {
+    pid_t reaped = 0;
+    while ((reaped = ::waitpid(pid, nullptr, options)) < 0 && errno == EINTR) {
     }
+    return reaped == pid;
+}
+
+/// How `pid` has ended, which stays to be reaped; `si_pid` is 0 when it has not.
+siginfo_t endOf(pid_t pid, int options) {
+    siginfo_t ended{};
+    while (::waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | WNOWAIT | options) < 0 &&
+           errno == EINTR) {
+    }
+    return ended;
 }
 
 } // namespace
@@ -45,9 +80,12 @@ public:
                    {child.ended.get(), POLLIN, 0},
                    {giveUp, POLLIN, 0}} {}
 
-    void run() {
+    /// Returns at the end of both, or of the program; false when the deadline came first.
+    bool follow(const Deadline& deadline) {
         while (fWatched[Output].fd >= 0 || fWatched[Ended].fd >= 0) {
-            if (::poll(fWatched.data(), fWatched.size(), -1) < 0)
+            if (deadline && Clock::now() >= *deadline)
+                return false;
+            if (::poll(fWatched.data(), fWatched.size(), millisecondsUntil(deadline)) <= 0)
                 continue;
             if (fWatched[Errors].revents != 0)
                 readErrors();
@@ -58,6 +96,11 @@ public:
             if (fWatched[GiveUp].revents != 0)
                 break;
         }
+        return true;
+    }
+
+    /// What is there without waiting for more.
+    void readRest() {
         for (std::size_t got = 0, size = 0; got < cLastRead && (size = readOutput()) > 0;)
             got += size;
         for (std::size_t got = 0, size = 0; got < cLastRead && (size = readErrors()) > 0;)
@@ -128,7 +171,8 @@ PosixShellRunner::~PosixShellRunner() {
     endAll();
 }
 
-CommandResult PosixShellRunner::run(const QString& command) {
+CommandResult PosixShellRunner::runBounded(const QString& command, std::optional<double> seconds) {
+    const Deadline deadline = deadlineAfter(seconds);
     const std::string text = command.toStdString();
     ShellChild child;
     int failure = 0;
@@ -149,35 +193,48 @@ CommandResult PosixShellRunner::run(const QString& command) {
     }
 
     Capture capture(child, fGiveUp.get());
-    capture.run();
+    End end = End::Own;
+    if (!capture.follow(deadline))
+        end = cutOff(child.pid, command, *seconds);
+    capture.readRest();
     if (const QString line = capture.errorLine(); !line.isEmpty())
         fConsole.log(line);
     if (capture.overflowed())
         fConsole.log(QStringLiteral("Out of memory: the output of a shell command was cut off."));
-    const std::optional<int> exitStatus = leave(child.pid);
+    const std::optional<int> exitStatus = leave(child.pid, end);
     return {capture.output(), capture.errors(), exitStatus};
 }
 
-/// The shell is reaped under the lock, so that `endAll` never sees a number that is free again.
-std::optional<int> PosixShellRunner::leave(pid_t pid) {
+/// What has left the session, such as the shared connection that ssh can keep for later, is not
+/// this command's any more.
+PosixShellRunner::End PosixShellRunner::cutOff(pid_t pid, const QString& command, double seconds) {
+    const bool hadEnded = endOf(pid, WNOHANG).si_pid == pid;
+    fConsole.log(u"A shell command was cut off after " + QString::number(seconds) + u" s: " +
+                 withVisibleControls(QStringView(command).left(cLongestCommandSaid)));
+    const CommandProcesses own{{&pid, 1}, {}};
+    if (!endProcesses(own, SIGTERM, cAskPatience))
+        (void)endProcesses(own, SIGKILL, cForcePatience);
+    return hadEnded ? End::Own : End::Cut;
+}
+
+/// The shell is reaped under the lock, so that `endAll` never sees a number that is free again. One
+/// that was cut off and that even the system cannot end yet is left for `endAll` to reap.
+std::optional<int> PosixShellRunner::leave(pid_t pid, End end) {
     siginfo_t ended{};
     const bool givenUp = [this] {
         pollfd giveUp{fGiveUp.get(), POLLIN, 0};
         return ::poll(&giveUp, 1, 0) > 0;
     }();
-    if (!givenUp) {
-        while (::waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | WNOWAIT) < 0 &&
-               errno == EINTR) {
-        }
-    }
+    if (!givenUp && end == End::Own)
+        ended = endOf(pid, 0);
     const std::lock_guard lock(fMutex);
     std::optional<int> exitStatus;
-    if (!givenUp && !fEnding)
+    if (!givenUp && !fEnding && end == End::Cut)
+        exitStatus = cTimeIsUp;
+    else if (!givenUp && !fEnding)
         exitStatus = ended.si_code == CLD_EXITED ? ended.si_status : cSignalled + ended.si_status;
-    if (!fEnding) {
-        reap(pid, 0);
+    if (!fEnding && reap(pid, end == End::Cut ? WNOHANG : 0))
         std::erase(fSessions, pid);
-    }
     --fCallers;
     fLeft.notify_all();
     return exitStatus;
@@ -200,7 +257,7 @@ void PosixShellRunner::endAll() {
     std::unique_lock lock(fMutex);
     fLeft.wait(lock, [this] { return fCallers == 0; });
     for (const pid_t session : sessions)
-        reap(session, WNOHANG);
+        (void)reap(session, WNOHANG);
     fSessions.clear();
 }
 

@@ -9,6 +9,7 @@
 
 #include <condition_variable>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,7 +33,13 @@ public:
     QString outputWhenRunAsShellCommand(const QString& command) override {
         return run(command).output;
     }
-    CommandResult run(const QString& command) override;
+    QString outputWithin(double seconds, const QString& command) override {
+        return runWithin(seconds, command).output;
+    }
+    CommandResult run(const QString& command) override { return runBounded(command, {}); }
+    CommandResult runWithin(double seconds, const QString& command) override {
+        return runBounded(command, seconds);
+    }
 
     /// For an orderly quit: from now on every command returns the empty text at once. Whatever any
     /// command has started and is still there, in its session or in another, is asked to end, 2 s
@@ -43,8 +50,11 @@ public:
 
 private:
     class Capture;
+    enum class End { Own, Cut };
+    CommandResult runBounded(const QString& command, std::optional<double> seconds);
+    End cutOff(pid_t pid, const QString& command, double seconds);
     /// The shell's exit status; nothing when it was given up.
-    std::optional<int> leave(pid_t pid);
+    std::optional<int> leave(pid_t pid, End end);
 
     Console& fConsole;
     const std::vector<std::string> fEnvironment;

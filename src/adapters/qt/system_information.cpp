@@ -33,7 +33,7 @@ QString desktopText() {
 
 /// The first line that `command` prints, when it begins with `start`.
 QString versionFrom(ShellRunner& shell, const QString& command, QStringView start) {
-    const QString line = shell.outputWhenRunAsShellCommand(command).section(u'\n', 0, 0).trimmed();
+    const QString line = shell.outputWithin(cCommandGrace, command).section(u'\n', 0, 0).trimmed();
     return line.startsWith(start) ? line.left(200) : QStringLiteral("not found");
 }
 
