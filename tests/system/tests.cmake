@@ -9,6 +9,7 @@ target_link_libraries(watched_program PRIVATE kelvo_watchdog kelvo_adapters_qt)
 kelvo_tests(system
   SOURCES
     system/hardening_system_test.cpp
+    system/private_files_system_test.cpp
     system/program_signal_test.cpp
     system/once_system_test.cpp
     system/program_test.cpp
