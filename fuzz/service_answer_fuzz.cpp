@@ -1,36 +1,17 @@
 // Any bytes as Avahi could hand them out, through everything up to the record and its log
-// lines; fuzz/CMakeLists.txt says how to run it.
+// lines.
 #include "adapters/avahi/neighbour_table.h"
 #include "adapters/avahi/service_answer.h"
 #include "adapters/avahi/service_table.h"
+#include "discovery/record_texts.h"
+#include "discovery/service_filter.h"
+#include "fuzz_input.h"
 #include "support/service_name_rules.h"
 #include "support/stored_value.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
-
-namespace {
-
-/// The next text of `rest`, up to a zero byte.
-std::string_view nextText(std::string_view& rest) {
-    const std::size_t end = rest.find('\0');
-    const std::string_view text = rest.substr(0, end);
-    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-    return text;
-}
-
-void require(bool condition) {
-    if (!condition)
-        std::abort();
-}
-
-} // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace kelvo;
-    std::string_view rest(reinterpret_cast<const char*>(data), size);
+    std::string_view rest = inputText(data, size);
     ServiceAnswer answer;
     answer.interface = static_cast<quint32>(size);
     answer.name = nextText(rest);
@@ -39,8 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     answer.type = rest.empty() ? "_smb._tcp" : nextText(rest);
     answer.domain = rest.empty() ? "local" : nextText(rest);
 
-    const QString shown = escapedForLog(
-        QString::fromUtf8(answer.name.data(), static_cast<qsizetype>(answer.name.size())));
+    const QString shown = escapedForLog(asText(answer.name));
     require(!shown.contains(u'\n') && !shown.contains(u'\x1b'));
     macAddressIn(QByteArray(rest.data(), static_cast<qsizetype>(rest.size())),
                  QStringLiteral("10.0.0.2"), "eth0");
@@ -55,6 +35,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(record->ip4Address.isEmpty() || isDottedIPv4(record->ip4Address));
     const QVariantMap dictionary = record->asDictionary().value();
     require(dictionary.size() == 12 && sameStoredValue(storedValue(dictionary), dictionary));
+
+    for (const QString& line : {recordText(*record), dictionaryText(dictionary)}) {
+        for (const QChar character : line)
+            require(character.category() != QChar::Other_Control);
+    }
+    QSet<QString> addresses;
+    const Admission admission = admit(*record, addresses);
+    require((admission == Admission::Admitted) == !record->ip4Address.isEmpty());
+    require(admission == Admission::BadKey || admit(*record, addresses) == Admission::Duplicate);
 
     ServiceTable table;
     table.startSearch(record->type);

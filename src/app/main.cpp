@@ -99,7 +99,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo-mirror"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kelvo Mirror"));
-    QApplication::setDesktopFileName(QStringLiteral("kelvo-mirror"));
+    QApplication::setDesktopFileName(QStringLiteral("org.kelvo.KelvoMirror"));
     QApplication::setQuitOnLastWindowClosed(false);
     return run(kelvo::FrontKind::Window);
 }

@@ -171,11 +171,19 @@ PassCause checkCause(int status, const QStringList& lines) {
     return lines.size() == 1 ? WrongUser : LoginTalks;
 }
 
+/// Cut between characters: half a pair is no text that can be shown or stored.
+QString shortened(const QString& line) {
+    const bool splitsPair = line.size() > cLongestLastLine &&
+                            line[cLongestLastLine - 1].isHighSurrogate() &&
+                            line[cLongestLastLine].isLowSurrogate();
+    return line.left(splitsPair ? cLongestLastLine - 1 : cLongestLastLine);
+}
+
 } // namespace
 
 NamedCause causeOf(const CommandRecord& command) {
     const QStringList lines = linesOf(command.text);
-    const QString last = lines.isEmpty() ? QString() : lines.constLast().left(cLongestLastLine);
+    const QString last = lines.isEmpty() ? QString() : shortened(lines.constLast());
     if (!command.exitStatus)
         return {Interrupted, last};
     if (command.role == CommandRole::HostCheck)

@@ -223,6 +223,31 @@ TEST(PlistCodecTest, BinaryThatUnfoldsWithoutEnd_IsAFault) {
     EXPECT_FALSE(plistFault(binaryArrays(3, 2, 999)).isEmpty()) << "no such object";
 }
 
+/// `map` in binary form, with a zero in place of each "Z".
+QByteArray binaryWithZeros(const QVariantMap& map) {
+    const QByteArray xml = encodePlist(map);
+    plist_t node = nullptr;
+    plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &node);
+    char* text = nullptr;
+    std::uint32_t length = 0;
+    plist_to_bin(node, &text, &length);
+    const QByteArray bytes(text, static_cast<qsizetype>(length));
+    free(text); // NOLINT: libplist allocates with malloc
+    plist_free(node);
+    return QByteArray(bytes).replace('Z', '\0');
+}
+
+TEST(PlistCodecTest, BinaryKeyWithAZero_IsAFault) {
+    for (const char* key : {"Z", "keyZ", "a longer key than fifteen, Z", "東京Z"}) {
+        const QVariantMap inner{{QString::fromUtf8(key), true}};
+        EXPECT_FALSE(decodePlist(binaryWithZeros(inner)).root) << key;
+        EXPECT_FALSE(decodePlist(binaryWithZeros({{"in", QVariantList{inner}}})).root) << key;
+    }
+    const DecodedPlist value = decodePlist(binaryWithZeros({{"key", "a Z"}}));
+    ASSERT_TRUE(value.root) << "a value may hold one: " << value.fault.toStdString();
+    EXPECT_EQ(value.root->value(QStringLiteral("key")).toString().size(), 3);
+}
+
 TEST(PlistCodecTest, Noise_NeverCrashes) {
     constexpr unsigned cSeed = 20260321;
     std::mt19937 random(cSeed);

@@ -8,6 +8,8 @@ target_link_libraries(watched_program PRIVATE kelvo_watchdog kelvo_adapters_qt)
 
 kelvo_tests(system
   SOURCES
+    system/hardening_system_test.cpp
+    system/private_files_system_test.cpp
     system/program_signal_test.cpp
     system/once_system_test.cpp
     system/program_test.cpp
@@ -20,6 +22,7 @@ kelvo_tests(system
     ENVIRONMENT LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/support/leaks.supp
 )
 target_compile_definitions(system_tests PRIVATE
+  KELVO_HARDENED_BUILD=$<BOOL:${KELVO_HARDENED}>
   KELVO_PICTURES="${CMAKE_BINARY_DIR}/pictures"
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror"
   KELVO_SENTINEL="$<TARGET_FILE:kelvo_sentinel>"

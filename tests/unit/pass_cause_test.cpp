@@ -139,6 +139,8 @@ TEST(PassCauseTest, UnknownText_KeepsItsLastLine) {
     EXPECT_EQ(named.cause, Unknown);
     EXPECT_EQ(named.lastLine, QStringLiteral("It is Sunday here."));
     EXPECT_EQ(causeOf(ended(CommandRole::Pull, 9, QString(5000, u'x'))).lastLine.size(), 300);
+    const QString pairAtTheCut = QString(299, u'x') + QStringLiteral("🎬 and more");
+    EXPECT_EQ(causeOf(ended(CommandRole::Pull, 9, pairAtTheCut)).lastLine, QString(299, u'x'));
 }
 
 TEST(PassCauseTest, CommandGivenUp_MeansInterrupted) {

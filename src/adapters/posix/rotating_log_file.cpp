@@ -1,5 +1,6 @@
 #include "adapters/posix/rotating_log_file.h"
 
+#include "adapters/posix/private_places.h"
 #include "support/plain_line.h"
 
 #include <spdlog/details/log_msg.h>
@@ -23,14 +24,6 @@ using namespace std::chrono_literals;
 constexpr std::size_t cOlderFiles = 2;
 constexpr auto cPause = 5s;
 constexpr mode_t cFileMode = S_IRUSR | S_IWUSR;
-constexpr mode_t cFolderMode = S_IRWXU;
-
-/// Makes the folders above `path` that are missing.
-void makeFolders(const std::string& path) {
-    for (auto slash = path.find('/', 1); slash != std::string::npos;
-         slash = path.find('/', slash + 1))
-        (void)::mkdir(path.substr(0, slash).c_str(), cFolderMode);
-}
 
 void makePrivate(int fd) {
     struct stat status {};
@@ -98,7 +91,7 @@ void RotatingLogFile::append(const QStringList& pieces) {
 bool RotatingLogFile::open() {
     fNextTry = std::chrono::steady_clock::now() + cPause;
     try {
-        makeFolders(fPath);
+        (void)makePrivateFolders(fPath.substr(0, fPath.rfind('/')));
         fSink = std::make_unique<spdlog::sinks::rotating_file_sink_st>(
             fPath, fFileSize, cOlderFiles, false, privateFiles());
         fSink->set_pattern("%Y-%m-%d %H:%M:%S.%e %v");

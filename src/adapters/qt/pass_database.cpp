@@ -1,9 +1,9 @@
 #include "adapters/qt/pass_database.h"
 
+#include "adapters/posix/private_places.h"
 #include "adapters/posix/unique_fd.h"
 #include "adapters/qt/pass_rows.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSqlError>
@@ -90,15 +90,14 @@ PassDatabase::Outcome PassDatabase::open() {
 
 PassDatabase::Outcome PassDatabase::prepareFile() const {
     const QString folder = QFileInfo(fPath).path();
-    if (!QFileInfo::exists(folder)) {
-        if (!QDir().mkpath(folder))
-            return failed(QStringLiteral("its folder cannot be made"));
-        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
+    if (makePrivateFolders(QFile::encodeName(folder).toStdString()) != 0)
+        return failed(QStringLiteral("its folder cannot be made"));
     const QByteArray path = QFile::encodeName(fPath);
-    // An existing file is left alone: closing it here would end SQLite's locks on it.
-    if (QFileInfo::exists(fPath))
+    // An existing file is not opened: closing it here would end SQLite's locks on it.
+    if (QFileInfo::exists(fPath)) {
+        closeToOthers(path.toStdString());
         return {};
+    }
     const UniqueFd file(::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
     if (!file)
         return failed(QString::fromStdString(std::generic_category().message(errno)));

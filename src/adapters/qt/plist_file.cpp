@@ -1,5 +1,6 @@
 #include "adapters/qt/plist_file.h"
 
+#include "adapters/posix/private_places.h"
 #include "adapters/qt/plist_guard.h"
 
 #include <QFile>
@@ -27,30 +28,6 @@ constexpr int cMostAsides = 1000;
 
 QString reason(int error) {
     return QString::fromStdString(std::generic_category().message(error));
-}
-
-std::string parentOf(const std::string& path) {
-    const std::size_t slash = path.find_last_not_of('/', path.rfind('/'));
-    return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
-}
-
-/// 0 or the errno of the first failure.
-int makeFolders(const std::string& path) {
-    if (::mkdir(path.c_str(), 0700) == 0)
-        return 0;
-    if (errno == ENOENT) {
-        const std::string parent = parentOf(path);
-        if (parent.empty())
-            return ENOENT;
-        if (const int error = makeFolders(parent))
-            return error;
-        return ::mkdir(path.c_str(), 0700) == 0 || errno == EEXIST ? 0 : errno;
-    }
-    struct stat entry {};
-    const int error = errno;
-    if (error == EEXIST && ::stat(path.c_str(), &entry) == 0)
-        return S_ISDIR(entry.st_mode) ? 0 : ENOTDIR;
-    return error;
 }
 
 int writeAll(int descriptor, const QByteArray& bytes) {
@@ -125,7 +102,7 @@ PlistFile::Contents PlistFile::read() const {
 }
 
 QString PlistFile::makeFolder() const {
-    const int error = makeFolders(fFolder);
+    const int error = makePrivateFolders(fFolder);
     return error ? reason(error) : QString();
 }
 
@@ -178,9 +155,12 @@ std::pair<QString, QString> PlistFile::moveAside(const QDateTime& now) {
     for (int attempt = 1; attempt <= cMostAsides && error == EEXIST; ++attempt) {
         const QString target =
             attempt == 1 ? aside : aside + QLatin1Char('-') + QString::number(attempt);
-        error = renameToFreeName(nativePath(), QFile::encodeName(target).toStdString());
-        if (!error)
+        const std::string nativeTarget = QFile::encodeName(target).toStdString();
+        error = renameToFreeName(nativePath(), nativeTarget);
+        if (!error) {
+            closeToOthers(nativeTarget);
             return {target, {}};
+        }
     }
     return {{}, reason(error)};
 }

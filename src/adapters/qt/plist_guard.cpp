@@ -87,9 +87,9 @@ private:
     }
 
     struct Object {
-        std::uint64_t nodes = 1;      ///< what it weighs by itself
-        qsizetype references = 0;     ///< where they begin
-        std::uint64_t referenced = 0; ///< how many there are
+        unsigned kind = 0;       ///< 0 for one that counts nothing
+        qsizetype begin = 0;     ///< of what is counted
+        std::uint64_t count = 0; ///< a dictionary's: keys, and values as many behind them
     };
 
     /// Reads the head of the object at `offset`; refuses one that reaches outside the list.
@@ -115,9 +115,24 @@ private:
             refuse(QStringLiteral("one of its objects is cut"));
             return {};
         }
-        if ((marker >> 4) < cArray)
-            return {1 + count * unit / cBytesPerNode, 0, 0};
-        return {1, at, count * unit / fReferenceSize};
+        return {unsigned{marker} >> 4, at, count};
+    }
+
+    std::uint64_t offsetOf(std::uint64_t index) const {
+        return number(static_cast<qsizetype>(fTable + index * fOffsetSize), fOffsetSize);
+    }
+
+    /// Whether `index` is a text with a zero in it. libplist ends the program at such a key.
+    bool holdsZero(std::uint64_t index) {
+        const Object object = objectAt(offsetOf(index));
+        if (object.kind != cAscii && object.kind != cUtf16)
+            return false;
+        const unsigned unit = unitSize(object.kind);
+        for (std::uint64_t i = 0; i < object.count; ++i) {
+            if (number(object.begin + static_cast<qsizetype>(i * unit), unit) == 0)
+                return true;
+        }
+        return false;
     }
 
     /// How many bytes of the list each counted item of such an object takes; 0: it counts none.
@@ -149,14 +164,19 @@ private:
         if (fNodes[index] != cUnknown)
             return;
         fNodes[index] = cOpen;
-        const std::uint64_t entry = fTable + index * fOffsetSize;
-        const Object object = objectAt(number(static_cast<qsizetype>(entry), fOffsetSize));
-        std::uint64_t nodes = object.nodes;
+        const Object object = objectAt(offsetOf(index));
+        const std::uint64_t bytes = object.count * unitSize(object.kind);
+        const bool container = object.kind >= cArray;
+        std::uint64_t nodes = container ? 1 : 1 + bytes / cBytesPerNode;
         int height = 0;
-        for (std::uint64_t i = 0; i < object.referenced && fFault.isEmpty(); ++i) {
-            const auto at = object.references + static_cast<qsizetype>(i * fReferenceSize);
+        const std::uint64_t referenced = container ? bytes / fReferenceSize : 0;
+        for (std::uint64_t i = 0; i < referenced && fFault.isEmpty(); ++i) {
+            const auto at = object.begin + static_cast<qsizetype>(i * fReferenceSize);
             const std::uint64_t child = number(at, fReferenceSize);
             visit(child, depth + 1);
+            const bool isKey = object.kind == cDictionary && i < object.count;
+            if (isKey && fFault.isEmpty() && holdsZero(child))
+                refuse(QStringLiteral("one of its keys holds a zero"));
             if (!fFault.isEmpty())
                 return;
             nodes += fNodes[child];

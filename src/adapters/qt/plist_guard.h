@@ -13,7 +13,8 @@ inline constexpr qsizetype cLargestPlist = qsizetype{16} * 1024 * 1024;
 /// cLargestPlist, an XML text that does not end with its closing tag (libplist takes one that was
 /// cut right after its root), so many containers that libplist's recursion could exhaust the stack,
 /// and a binary list whose objects refer to each other in circles, too deep, or so often that they
-/// would not fit into memory. Any thread.
+/// would not fit into memory, or with a key that holds a zero, at which libplist ends the program.
+/// Any thread.
 QString plistFault(QByteArrayView bytes);
 
 /// Whether `bytes` begin like a binary property list.

@@ -9,6 +9,7 @@
 #include <poll.h>
 #include <sys/file.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -102,7 +103,9 @@ public:
         fSocket = localSocket();
         // Whoever bound it before has lost the lock.
         ::unlink(address.sun_path);
-        if (!fSocket || ::bind(fSocket.get(), generic(address), sizeof address) != 0 ||
+        // The name takes over the socket's own mode, so that it is never open to others.
+        if (!fSocket || ::fchmod(fSocket.get(), S_IRUSR | S_IWUSR) != 0 ||
+            ::bind(fSocket.get(), generic(address), sizeof address) != 0 ||
             ::listen(fSocket.get(), cMostGuests) != 0)
             return false;
         fPath = address.sun_path;

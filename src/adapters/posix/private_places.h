@@ -1,0 +1,16 @@
+// Folders and files that only their user may enter, whatever the process's mask says.
+#pragma once
+
+#include <string>
+
+namespace kelvo {
+
+/// Makes the folder `path` and those above it that are missing, each 0700; what is there already
+/// keeps its mode. 0, or the errno of the first failure. Any thread.
+int makePrivateFolders(const std::string& path);
+
+/// Takes the ordinary file at `path` away from everybody but its user (0600). What is no ordinary
+/// file, or another user's, stays as it is. Opens nothing, so that no lock on it ends. Any thread.
+void closeToOthers(const std::string& path);
+
+} // namespace kelvo

@@ -1,0 +1,10 @@
+# What is installed, and what desktops read of it. The package itself: ./dev package --test.
+add_test(NAME Install.underADestdir_IsCompleteAndWorks
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/package/destdir-test ${CMAKE_BINARY_DIR})
+add_test(NAME Install.desktopEntry_IsValid
+  COMMAND desktop-file-validate ${CMAKE_SOURCE_DIR}/resources/desktop/org.kelvo.KelvoMirror.desktop)
+add_test(NAME Install.metainfo_IsValid
+  COMMAND appstreamcli validate --no-net
+    ${CMAKE_SOURCE_DIR}/resources/desktop/org.kelvo.KelvoMirror.metainfo.xml)
+set_tests_properties(Install.underADestdir_IsCompleteAndWorks Install.desktopEntry_IsValid
+  Install.metainfo_IsValid PROPERTIES LABELS system TIMEOUT 120)
