@@ -16,6 +16,7 @@ add_executable(mdns_announcer children/mdns_announcer.cpp)
 kelvo_tests(lab
   SOURCES
     lab/avahi_browser_test.cpp
+    lab/hostile_days_test.cpp
     lab/lab_fixture.cpp
     lab/lab_host_test.cpp
     lab/once_lab_test.cpp
