@@ -133,13 +133,14 @@ QVariantMap LabTest::remoteProfile() {
             {QStringLiteral("prefDelayBetweenScans"), 2.0}};
 }
 
-std::unique_ptr<RunningProgram> LabTest::startProgram(const QVariantMap& profile,
-                                                      const QStringList& arguments) {
+std::unique_ptr<RunningProgram> LabTest::startProgramBy(const QStringList& command,
+                                                        const QVariantMap& profile,
+                                                        const QStringList& arguments) {
     writeNear(cNearHome + QStringLiteral("/.config/kelvo-mirror/preferences.plist"),
               plistText(profile));
     return std::make_unique<RunningProgram>(
-        cLabCommand,
-        QStringList{QStringLiteral("near"), cProgram, QStringLiteral("--headless")} + arguments);
+        cLabCommand, QStringList{QStringLiteral("near")} + command +
+                         QStringList{cProgram, QStringLiteral("--headless")} + arguments);
 }
 
 } // namespace kelvo

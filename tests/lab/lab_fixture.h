@@ -52,7 +52,13 @@ protected:
     static QVariantMap remoteProfile();
     /// Starts the built program on the near host with `--headless`, these arguments and settings.
     static std::unique_ptr<RunningProgram> startProgram(const QVariantMap& profile,
-                                                        const QStringList& arguments = {});
+                                                        const QStringList& arguments = {}) {
+        return startProgramBy({}, profile, arguments);
+    }
+    /// The same by way of another command, for example {"env", "NAME=value"}.
+    static std::unique_ptr<RunningProgram> startProgramBy(const QStringList& command,
+                                                          const QVariantMap& profile,
+                                                          const QStringList& arguments = {});
 };
 
 } // namespace kelvo

@@ -12,10 +12,12 @@ set_tests_properties(Lab.up PROPERTIES FIXTURES_SETUP lab)
 set_tests_properties(Lab.down PROPERTIES FIXTURES_CLEANUP lab)
 
 add_executable(mdns_announcer children/mdns_announcer.cpp)
+add_library(moved_clock MODULE lab/moved_clock.cpp)
 
 kelvo_tests(lab
   SOURCES
     lab/avahi_browser_test.cpp
+    lab/hostile_days_test.cpp
     lab/lab_fixture.cpp
     lab/lab_host_test.cpp
     lab/once_lab_test.cpp
@@ -33,9 +35,10 @@ kelvo_tests(lab
     RESOURCE_LOCK lab
     ENVIRONMENT KELVO_LAB=${KELVO_LAB_STATE}
 )
-add_dependencies(lab_tests mdns_announcer)
+add_dependencies(lab_tests mdns_announcer moved_clock)
 target_compile_definitions(lab_tests PRIVATE
   KELVO_ANNOUNCER="$<TARGET_FILE:mdns_announcer>"
+  KELVO_MOVED_CLOCK="$<TARGET_FILE:moved_clock>"
   KELVO_LAB_COMMAND="${KELVO_LAB_COMMAND}"
   KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
   KELVO_PICTURES="${CMAKE_BINARY_DIR}/pictures"
