@@ -20,6 +20,7 @@ class Control;
 class DispatchQueue;
 class DnssdBrowser;
 class FileManager;
+class LoginItem;
 class MainView;
 class OpenPanel;
 class PassStore;
@@ -50,6 +51,7 @@ struct FrontParts {
     BackgroundQueue& bgQueue;
     const FileManager& files;
     const ChecklistProbe& checklistProbe;
+    LoginItem& loginItem;
 };
 
 /// What lies in the front, for the main view's controller.

@@ -21,6 +21,7 @@ class ActivityTab;
 class DispatchQueue;
 class PathControlView;
 class RemoteTab;
+class SettingsTab;
 class StatusFieldView;
 class SyncTab;
 class UserDefaults;
@@ -67,6 +68,7 @@ public:
     SyncTab& syncTab() { return *fSyncTab; }
     RemoteTab& remoteTab() { return *fRemoteTab; }
     ActivityTab& activityTab() { return *fActivityTab; }
+    SettingsTab& settingsTab() { return *fSettingsTab; }
     Bindings& bindings() { return fBindings; }
 
 Q_SIGNALS:
@@ -90,6 +92,7 @@ private:
     SyncTab* fSyncTab;
     RemoteTab* fRemoteTab;
     ActivityTab* fActivityTab;
+    SettingsTab* fSettingsTab;
     QTableView* fFoundServices;
     std::function<bool()> fMayClose;
     std::function<void(const Tab&)> fTabSelected;
