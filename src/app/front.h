@@ -19,6 +19,7 @@ class Console;
 class Control;
 class DispatchQueue;
 class DnssdBrowser;
+class LoginItem;
 class MainView;
 class OpenPanel;
 class PassStore;
@@ -49,6 +50,7 @@ struct FrontParts {
     BackgroundQueue& bgQueue;
     QString homeDirectory;
     const ChecklistProbe& checklistProbe;
+    LoginItem& loginItem;
 };
 
 /// What lies in the front, for the main view's controller.

@@ -6,12 +6,15 @@
 #include "app/version.h"
 #include "ui/widgets/tray_icon.h"
 
+#include <QCoreApplication>
+
 #include <unistd.h>
 
 namespace kelvo {
 
 MachineParts::MachineParts(bool withTray)
     : console(STDOUT_FILENO, STDERR_FILENO, logFile), defaults(settingsFile(), mainQueue, console),
+      loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), fileChanges),
       bundle(resourceFolder()), shell(console),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
       terminal(temporaryFolder, console),

@@ -3,6 +3,7 @@
 
 #include "adapters/avahi/avahi_browser.h"
 #include "adapters/headless/headless_status_menu.h"
+#include "adapters/posix/autostart_entry.h"
 #include "adapters/posix/local_checklist_probe.h"
 #include "adapters/posix/local_file_changes.h"
 #include "adapters/posix/local_file_manager.h"
@@ -50,6 +51,7 @@ struct MachineParts {
     LocalFileManager files;
     LocalChecklistProbe checklistProbe;
     LocalFileChanges fileChanges;
+    AutostartEntry loginItem;
     UserTemporaryFolder temporaryFolder;
     PlatformShareCommands shareCommands;
     FileBundle bundle;

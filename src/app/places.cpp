@@ -11,6 +11,11 @@ QString settingsFile() {
            QStringLiteral("/kelvo-mirror/preferences.plist");
 }
 
+QString autostartFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/autostart");
+}
+
 QString resourceFolder() {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/kelvo-mirror");
 }

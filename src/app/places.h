@@ -7,6 +7,9 @@ namespace kelvo {
 
 QString settingsFile();
 
+/// Where the desktop looks for what to start at login.
+QString autostartFolder();
+
 /// Beside bin/ in the build tree and installed alike.
 QString resourceFolder();
 

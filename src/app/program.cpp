@@ -95,7 +95,8 @@ private:
                                    fPasses.store,
                                    fParts.bgQueue,
                                    fParts.files.homeDirectory(),
-                                   fParts.checklistProbe};
+                                   fParts.checklistProbe,
+                                   fParts.loginItem};
             fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
         }
         return *fFront;

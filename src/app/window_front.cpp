@@ -14,6 +14,7 @@
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/service_list.h"
+#include "ui/widgets/settings_tab.h"
 #include "ui/widgets/sheet_presenter.h"
 #include "ui/widgets/status_field_view.h"
 #include "ui/widgets/sync_tab.h"
@@ -48,6 +49,7 @@ public:
         // Drawing the icon takes a while; the window does not wait for it.
         parts.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
         fWindow.activityTab().setStore(parts.passes);
+        fWindow.settingsTab().setLoginItem(parts.loginItem);
         fWindow.setMayClose([this] { return mayClose(); });
     }
 

@@ -3,3 +3,7 @@ kelvo_tests(architecture
 )
 target_compile_definitions(architecture_tests PRIVATE
   KELVO_SOURCE_FOLDER="${CMAKE_SOURCE_DIR}/src")
+
+add_test(NAME Security.everyNamedTest_IsThere
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/architecture/security-names)
+set_tests_properties(Security.everyNamedTest_IsThere PROPERTIES LABELS architecture TIMEOUT 60)

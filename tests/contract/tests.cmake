@@ -21,6 +21,7 @@ kelvo_tests(contract
     contract/local_file_changes_test.cpp
     contract/local_file_manager_test.cpp
     contract/log_file_contract_test.cpp
+    contract/login_item_contract_test.cpp
     contract/mac_volume_search_test.cpp
     contract/network_information_test.cpp
     contract/notification_center_contract_test.cpp

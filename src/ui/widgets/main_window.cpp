@@ -30,13 +30,13 @@ constexpr QStringView cTabKey = u"mainWindowTab";
 MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     : fDefaults(defaults), fBindings(defaults, mainQueue), fUi(std::make_unique<Ui::MainWindow>()),
       fSyncTab(new SyncTab(fBindings)), fRemoteTab(new RemoteTab(fBindings)),
-      fActivityTab(new ActivityTab) {
+      fActivityTab(new ActivityTab), fSettingsTab(new SettingsTab(fBindings)) {
     fUi->setupUi(this);
     auto* diagnostics = new DiagnosticsTab;
     fFoundServices = &diagnostics->foundServices();
     addTab(fSyncTab, "sync", tr("Sync"));
     addTab(fRemoteTab, "remote", tr("Remote Mac"));
-    addTab(new SettingsTab(fBindings), "prefs", tr("Settings"));
+    addTab(fSettingsTab, "prefs", tr("Settings"));
     addTab(diagnostics, "diagnostics", tr("Diagnostics"));
     addTab(fActivityTab, "activity", tr("Activity"));
     switchOffUntilWired();

@@ -22,6 +22,7 @@ class ActivityTab;
 class DispatchQueue;
 class PathControlView;
 class RemoteTab;
+class SettingsTab;
 class StatusFieldView;
 class SyncTab;
 class UserDefaults;
@@ -69,6 +70,7 @@ public:
     SyncTab& syncTab() { return *fSyncTab; }
     RemoteTab& remoteTab() { return *fRemoteTab; }
     ActivityTab& activityTab() { return *fActivityTab; }
+    SettingsTab& settingsTab() { return *fSettingsTab; }
     Bindings& bindings() { return fBindings; }
 
 Q_SIGNALS:
@@ -95,6 +97,7 @@ private:
     SyncTab* fSyncTab;
     RemoteTab* fRemoteTab;
     ActivityTab* fActivityTab;
+    SettingsTab* fSettingsTab;
     QTableView* fFoundServices;
     std::function<bool()> fMayClose;
     std::function<void(const Tab&)> fTabSelected;

@@ -49,6 +49,21 @@ SettingsTab::SettingsTab(Bindings& bindings, QWidget* parent)
 
 SettingsTab::~SettingsTab() = default;
 
+void SettingsTab::setLoginItem(LoginItem& item) {
+    fLoginItem.emplace(item);
+    connect(fUi->startAtLogin, &QCheckBox::clicked, this,
+            [this](bool on) { showLoginItem(fLoginItem->choose(on)); });
+    if (isVisible())
+        showLoginItem(fLoginItem->look());
+}
+
+void SettingsTab::showLoginItem(const LoginItemSetting::Shown& shown) {
+    fUi->startAtLogin->setChecked(shown.checked);
+    fUi->startAtLogin->setEnabled(shown.enabled);
+    fUi->loginTrouble->setText(shown.trouble);
+    fUi->loginTrouble->setVisible(!shown.trouble.isEmpty());
+}
+
 /// Another font costs time and memory that a person who never comes here shall not pay.
 void SettingsTab::showEvent(QShowEvent* event) {
     QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -57,6 +72,8 @@ void SettingsTab::showEvent(QShowEvent* event) {
     fUi->commandExample->setFont(fixed);
     fUi->rsyncTemplate->setMinimumHeight(fUi->rsyncTemplate->fontMetrics().lineSpacing() *
                                          cTemplateLines);
+    if (fLoginItem)
+        showLoginItem(fLoginItem->look());
     QWidget::showEvent(event);
 }
 

@@ -1,0 +1,160 @@
+// The contract of LoginItem on the fake and on real files, then what only the files have.
+#include "adapters/posix/autostart_entry.h"
+#include "adapters/posix/local_file_changes.h"
+#include "fakes/fake_login_item.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace kelvo {
+namespace {
+
+struct FakeWorld {
+    FakeLoginItem item;
+    void putSomebodyElses() { item.standing = {LoginItemOutcome::SomebodyElses, {}, {}}; }
+};
+
+struct FileWorld {
+    QTemporaryDir folder;
+    LocalFileChanges changes;
+    QString autostart = folder.filePath(QStringLiteral("config/autostart"));
+    QString entry = QString(autostart + u"/org.kelvo.KelvoMirror.desktop");
+    AutostartEntry item{autostart, QStringLiteral("/usr/bin/kelvo-mirror"), changes};
+
+    QByteArray content() const {
+        QFile file(entry);
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("(not there)");
+    }
+    void put(const QByteArray& content) const {
+        QDir().mkpath(autostart);
+        QFile file(entry);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(content);
+    }
+    void putSomebodyElses() const { put("[Desktop Entry]\nExec=mine\n"); }
+    unsigned modeOf(const QString& path) const {
+        struct stat status {};
+        return ::lstat(path.toLocal8Bit().constData(), &status) == 0 ? status.st_mode & 07777U : 0U;
+    }
+};
+
+template <typename World>
+class LoginItemContractTest : public ::testing::Test {
+protected:
+    World world;
+};
+
+using Worlds = ::testing::Types<FakeWorld, FileWorld>;
+TYPED_TEST_SUITE(LoginItemContractTest, Worlds);
+
+TYPED_TEST(LoginItemContractTest, NoEntry_IsOff) {
+    const LoginItem::State state = this->world.item.state();
+    EXPECT_FALSE(state.isOn);
+    EXPECT_TRUE(state.outcome);
+    EXPECT_TRUE(this->world.item.setOn(false)) << "off where there is none is done";
+}
+
+TYPED_TEST(LoginItemContractTest, SwitchedOnAndOff_IsReadAnew) {
+    for (const bool on : {true, true, false, true, false}) {
+        EXPECT_TRUE(this->world.item.setOn(on));
+        EXPECT_EQ(this->world.item.state().isOn, on);
+    }
+}
+
+TYPED_TEST(LoginItemContractTest, SomebodyElses_IsSaidAndStays) {
+    this->world.putSomebodyElses();
+    EXPECT_EQ(this->world.item.state().outcome.kind, LoginItemOutcome::SomebodyElses);
+    EXPECT_FALSE(this->world.item.state().isOn);
+    for (const bool on : {true, false}) {
+        const LoginItemOutcome outcome = this->world.item.setOn(on);
+        EXPECT_EQ(outcome.kind, LoginItemOutcome::SomebodyElses);
+        EXPECT_FALSE(outcome.path.isEmpty());
+    }
+    EXPECT_EQ(this->world.item.state().outcome.kind, LoginItemOutcome::SomebodyElses);
+}
+
+class AutostartEntryTest : public ::testing::Test, public FileWorld {};
+
+TEST_F(AutostartEntryTest, Entry_IsForTheUserAloneAndNothingLiesBesideIt) {
+    const mode_t before = ::umask(0);
+    EXPECT_TRUE(item.setOn(true));
+    ::umask(before);
+    EXPECT_EQ(modeOf(entry), 0600U);
+    EXPECT_EQ(modeOf(autostart), 0700U);
+    EXPECT_EQ(modeOf(folder.filePath(QStringLiteral("config"))), 0700U);
+    EXPECT_EQ(QDir(autostart).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    EXPECT_TRUE(content().startsWith("[Desktop Entry]\n"));
+    EXPECT_TRUE(content().contains("\nExec=\"/usr/bin/kelvo-mirror\"\n"));
+    EXPECT_TRUE(item.setOn(false));
+    EXPECT_FALSE(QFile::exists(entry));
+}
+
+TEST_F(AutostartEntryTest, PathWithOddCharacters_StaysOneWord) {
+    EXPECT_TRUE(autostartText(QStringLiteral("/opt/a b/100%/$x\"`\\k"))
+                    .contains("\nExec=\"/opt/a b/100%%/\\\\$x\\\\\"\\\\`\\\\\\\\k\"\n"));
+    EXPECT_TRUE(autostartText(QStringLiteral("/a\nHidden=true")).contains("\"/a\\nHidden=true\""))
+        << "a line end in the path begins no line of the entry";
+}
+
+TEST_F(AutostartEntryTest, OursSwitchedOffByADesktop_IsOffAndCanBeSwitchedOn) {
+    for (const char* line : {"Hidden=true", "X-GNOME-Autostart-enabled=false"}) {
+        put(autostartText(QStringLiteral("/usr/bin/kelvo-mirror")) + line + '\n');
+        EXPECT_FALSE(item.state().isOn) << line;
+        EXPECT_TRUE(item.state().outcome);
+        EXPECT_TRUE(item.setOn(true));
+        EXPECT_TRUE(item.state().isOn);
+        EXPECT_FALSE(content().contains(line));
+    }
+}
+
+TEST_F(AutostartEntryTest, SomebodyElsesEntry_KeepsItsContent) {
+    putSomebodyElses();
+    const QByteArray before = content();
+    EXPECT_FALSE(item.setOn(true));
+    EXPECT_FALSE(item.setOn(false));
+    EXPECT_EQ(content(), before);
+}
+
+TEST_F(AutostartEntryTest, LinkPipeOrFolderUnderTheName_IsNotOurs) {
+    QDir().mkpath(autostart);
+    const QString target = folder.filePath(QStringLiteral("target"));
+    const QByteArray name = entry.toLocal8Bit();
+    ASSERT_EQ(::symlink(target.toLocal8Bit().constData(), name.constData()), 0);
+    EXPECT_EQ(item.setOn(true).kind, LoginItemOutcome::SomebodyElses);
+    EXPECT_FALSE(QFile::exists(target)) << "nothing is written through a link";
+    ASSERT_EQ(::unlink(name.constData()), 0);
+    ASSERT_EQ(::mkfifo(name.constData(), 0600), 0);
+    EXPECT_EQ(item.setOn(true).kind, LoginItemOutcome::SomebodyElses) << "and it does not wait";
+    ASSERT_EQ(::unlink(name.constData()), 0);
+    ASSERT_EQ(::mkdir(name.constData(), 0700), 0);
+    EXPECT_EQ(item.setOn(false).kind, LoginItemOutcome::SomebodyElses);
+}
+
+TEST_F(AutostartEntryTest, FolderThatCannotBeMade_IsSaidInTheSystemsWords) {
+    QFile inTheWay(folder.filePath(QStringLiteral("config")));
+    ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));
+    inTheWay.close();
+    const LoginItemOutcome outcome = item.setOn(true);
+    EXPECT_EQ(outcome.kind, LoginItemOutcome::Failed);
+    EXPECT_EQ(outcome.reason, QStringLiteral("Not a directory"));
+    EXPECT_EQ(outcome.path, entry);
+}
+
+TEST_F(AutostartEntryTest, FolderThatNobodyCanWrite_LeavesTheEntryAsItWas) {
+    // Nobody, not even root, makes files there.
+    AutostartEntry unwritable(QStringLiteral("/proc/self"), QStringLiteral("/bin/true"), changes);
+    const LoginItemOutcome outcome = unwritable.setOn(true);
+    EXPECT_EQ(outcome.kind, LoginItemOutcome::Failed);
+    EXPECT_FALSE(outcome.reason.isEmpty());
+    EXPECT_FALSE(outcome.reason.contains(u"/proc/self")) << "the path stands in `path`";
+    EXPECT_FALSE(unwritable.state().isOn);
+}
+
+} // namespace
+} // namespace kelvo
