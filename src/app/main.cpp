@@ -8,6 +8,9 @@
 #include <QApplication>
 
 #include <fcntl.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <unistd.h>
 
 #include <cstdio>
@@ -27,6 +30,16 @@ void openStandardStreams() {
     } while (fd >= 0 && fd <= STDERR_FILENO);
     if (fd >= 0)
         ::close(fd);
+}
+
+/// The C library would learn from the first flood of a command's output to keep such buffers in its
+/// heap for good; with a fixed bound each goes back to the system as soon as it is done with.
+void giveLargeBuffersBack() {
+#ifdef __GLIBC__
+    constexpr int cLarge = 256 * 1024;
+    ::mallopt(M_MMAP_THRESHOLD, cLarge);
+    ::mallopt(M_TRIM_THRESHOLD, cLarge);
+#endif
 }
 
 /// Why no window can be opened here; empty when one can.
@@ -65,6 +78,7 @@ int run(kelvo::FrontKind frontKind) {
 
 int main(int argc, char** argv) {
     openStandardStreams();
+    giveLargeBuffersBack();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

@@ -46,7 +46,12 @@ TEST_F(NetworkLabTest, TestOfTheBrowser_FindsTheRemoteMac) {
                             QStringLiteral("--browse")});
     EXPECT_TRUE(browser.waitForLine(QStringLiteral("ready"), 20))
         << browser.transcript().toStdString();
-    EXPECT_TRUE(browser.waitForLine(QStringLiteral("found: Remote Mac._smb._tcp.local.@cable"), 20))
+    EXPECT_TRUE(browser.waitForLine(
+        [](const QString& line) {
+            return line.startsWith(u"found: ") &&
+                   line.contains(u"Remote Mac._smb._tcp.local.@cable");
+        },
+        20))
         << browser.transcript().toStdString();
 }
 

@@ -73,8 +73,7 @@ public:
     const std::vector<Sample>& samples() const { return fSamples; }
     int withoutTools() const { return fWithoutTools; }
 
-private:
-    void take(const std::string& line) {
+    void count(const std::string& line) {
         if (contains(line, "->doSyncOnceBonjour().......NEED to start a scan"))
             ++fCounts.asked;
         else if (contains(line, ".......ALREADY in Middle of a Scan"))
@@ -83,7 +82,12 @@ private:
             ++fCounts.cut;
         else if (line.starts_with("alert: "))
             ++fCounts.alerts;
-        else if (contains(line, "result from movie shell command ="))
+    }
+
+private:
+    void take(const std::string& line) {
+        count(line);
+        if (contains(line, "result from movie shell command ="))
             fLastCommand = true;
         const bool pulled = fLastCommand && contains(line, "======== done ========");
         if (pulled || contains(line, "NEED to handle possible ERROR:")) {
@@ -204,7 +208,7 @@ int soak(int passes, std::uint64_t seed, const std::string& folder, const std::s
     Soak run(world, passes, seed);
     const std::string givenUp = run.run();
     const Counts& counts = run.counts();
-    const int exitCode = world.stop();
+    const int exitCode = world.stop([&run](const std::string& line) { run.count(line); });
 
     printTable(run.samples());
     printDrawn(world.drawn());

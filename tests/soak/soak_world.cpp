@@ -149,10 +149,10 @@ std::optional<std::string> SoakWorld::nextLine(int seconds) {
     }
 }
 
-int SoakWorld::stop() {
+int SoakWorld::stop(const std::function<void(const std::string&)>& line) {
     ::kill(fProgram, SIGTERM);
-    while (nextLine(cStopSeconds)) {
-    }
+    while (const auto last = nextLine(cStopSeconds))
+        line(*last);
     int status = 0;
     pid_t ended = 0;
     for (int tries = 0; ended == 0 && tries < cStopSeconds * 100; ++tries) {

@@ -346,7 +346,7 @@ TEST_F(MainWindowTest, MnemonicsOfATab_AreDifferent) {
 TEST_F(MainWindowTest, TabKey_ReachesEveryControlFromTopToBottom) {
     for (const MainWindow::Tab& tab : window.tabs()) {
         window.showTab(tab.identifier);
-        for (QPushButton* button : window.findChildren<QPushButton*>())
+        for (QAbstractButton* button : window.findChildren<QAbstractButton*>())
             button->setEnabled(true);
         set(prefPath2, QStringLiteral("/a/b"));
         window.show();

@@ -33,7 +33,8 @@ void BusNotices::showNotice(const QString& title, const QString& text) {
     // The body may hold marks; the summary is always plain.
     notify << QStringLiteral("Kelvo Mirror") << quint32{0} << QStringLiteral("kelvo-mirror")
            << title << text.toHtmlEscaped() << QStringList()
-           << QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("org.kelvo.KelvoMirror")}}
+           << QVariantMap{{QStringLiteral("desktop-entry"),
+                           QStringLiteral("org.kelvo.KelvoMirror")}}
            << cAsTheDesktopLikes;
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(notify, cAnswerTimeout), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this,
