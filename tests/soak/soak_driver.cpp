@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <random>
@@ -25,12 +26,13 @@ namespace {
 
 constexpr long cMemoryGrowth = 2048; // KiB
 constexpr int cDescriptorGrowth = 0;
-constexpr int cThreadGrowth = 0;
+constexpr int cThreadGrowth = 1; // one that rests may be on its way out
 /// Three files of 5 MiB, and the line that may stand over the brim of each.
 constexpr long long cLogCap = 3LL * (5 * 1024 + 256) * 1024;
 constexpr int cPatience = 120; // seconds without a line
 constexpr int cSamples = 60;
 constexpr int cRows = 10;
+constexpr int cSkipped = 77;
 
 struct Sample {
     int pass = 0;
@@ -196,12 +198,21 @@ bool judge(const char* what, long long found, long long allowed) {
     return well;
 }
 
+std::string freshFolder(const std::string& parent) {
+    std::string name = parent + "/kelvo-soak.XXXXXX";
+    if (::mkdtemp(name.data()) == nullptr)
+        throw std::runtime_error("no folder can be made in " + parent);
+    return name;
+}
+
 int soak(int passes, std::uint64_t seed, const std::string& folder, const std::string& program,
          const std::string& quickClock) {
     std::printf("soak: %d passes, seed %llu\n", passes, static_cast<unsigned long long>(seed));
     std::fflush(stdout);
-    if (const std::string reason = enterOwnView(); !reason.empty())
-        throw std::runtime_error(reason);
+    if (const std::string reason = enterOwnView(); !reason.empty()) {
+        std::printf("soak: skipped, %s\n", reason.c_str());
+        return cSkipped;
+    }
     SoakWorld world(folder, seed);
     world.start(program, quickClock);
     const pid_t pid = world.program();
@@ -254,9 +265,15 @@ int main(int count, char** arguments) {
         return 2;
     }
     try {
-        return kelvo::soak(std::max(1, std::atoi(arguments[1])),
-                           std::strtoull(arguments[2], nullptr, 10), arguments[3], arguments[4],
-                           arguments[5]);
+        const std::filesystem::path folder = kelvo::freshFolder(arguments[3]);
+        const int result = kelvo::soak(std::max(1, std::atoi(arguments[1])),
+                                       std::strtoull(arguments[2], nullptr, 10), folder,
+                                       arguments[4], arguments[5]);
+        if (result == 1)
+            std::printf("what it left is in %s\n", folder.c_str());
+        else
+            std::filesystem::remove_all(folder);
+        return result;
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "soak: %s\n", failure.what());
         return 1;
