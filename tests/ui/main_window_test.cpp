@@ -1,9 +1,11 @@
+#include "fakes/fake_login_item.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
 #include "support/preference_keys.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/path_control_view.h"
+#include "ui/widgets/settings_tab.h"
 #include "ui/widgets/status_field_view.h"
 #include "ui/widgets/sync_tab.h"
 #include "ui/widgets/widget_button.h"
@@ -28,6 +30,8 @@ namespace {
 
 class MainWindowTest : public ::testing::Test {
 protected:
+    MainWindowTest() { window.settingsTab().setLoginItem(loginItem); }
+
     template <typename Widget>
     Widget* child(const char* name) {
         return window.findChild<Widget*>(QString::fromLatin1(name));
@@ -46,6 +50,7 @@ protected:
         return nullptr;
     }
 
+    FakeLoginItem loginItem;
     MemoryDefaults defaults;
     VirtualMainQueue mainQueue;
     MainWindow window{defaults, mainQueue};
