@@ -37,7 +37,7 @@ bool CommandFiles::removeIfThere(const QString& path) {
 QString CommandFiles::chmodAsExecutable(const QString& path) {
     const QString command = u"/bin/chmod 0755 2>&1 \"" + insideDoubleQuotes(path) + u'"';
     fParts.console.print(u"trying command = [" + command + u']');
-    const QString output = fParts.shell.outputWithin(cCommandGrace, command);
+    QString output = fParts.shell.outputWithin(cCommandGrace, command);
     fParts.console.print(u"terminal chmod result = [" + output + u']');
     return output;
 }

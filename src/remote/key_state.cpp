@@ -41,7 +41,7 @@ void KeyStateWatch::begin() {
 
 QString KeyStateWatch::validateRemoteHostWithWhoami(qint64 timeout) {
     const QString asked = target();
-    const QString verdict = fParts.validator.validateRemoteHostWithWhoami(timeout);
+    QString verdict = fParts.validator.validateRemoteHostWithWhoami(timeout);
     fParts.mainQueue.async([this, asked, verdict] { answered(asked, verdict); });
     return verdict;
 }

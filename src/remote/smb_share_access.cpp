@@ -23,7 +23,7 @@ constexpr QStringView cDebugOLD = u"ibRevealSourcePathSMBdebugOLD(_:)";
 } // namespace
 
 QString volumePath(const QString& picked) {
-    const QString whole = trimmedText(picked);
+    QString whole = trimmedText(picked);
     for (const QString& line : whole.split(u'\n')) {
         if (line.contains(u"macintosh", Qt::CaseInsensitive))
             return trimmedText(line);

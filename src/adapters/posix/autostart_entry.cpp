@@ -20,7 +20,7 @@ namespace kelvo {
 namespace {
 
 /// No entry of ours comes near.
-constexpr std::size_t cLargestEntry = 16 * 1024;
+constexpr std::size_t cLargestEntry = std::size_t{16} * 1024;
 
 QString wordsOf(int error) {
     return QString::fromStdString(std::generic_category().message(error));

@@ -119,7 +119,8 @@ private:
     }
 
     std::uint64_t offsetOf(std::uint64_t index) const {
-        return number(static_cast<qsizetype>(fTable + index * fOffsetSize), fOffsetSize);
+        const std::uint64_t entry = fTable + index * fOffsetSize;
+        return number(static_cast<qsizetype>(entry), fOffsetSize);
     }
 
     /// Whether `index` is a text with a zero in it. libplist ends the program at such a key.
