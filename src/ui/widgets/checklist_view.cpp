@@ -45,6 +45,7 @@ void ChecklistView::setLines(const std::vector<ChecklistLine>& lines) {
         auto* button = new QToolButton;
         button->setText(titleOf(line.mend));
         button->setFocusPolicy(Qt::StrongFocus);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         button->setAccessibleName(QString(titleOf(line.mend) + u": " + line.text));
         if (line.mend == Mend::CopyInstallCommand)
             button->setToolTip(cInstallCommand.toString());
