@@ -33,8 +33,8 @@ public:
     /// passed without one.
     std::optional<std::string> nextLine(int seconds);
 
-    /// Asks for the orderly end and hands on what it still prints. The exit code; -1 when the program
-    /// had to be killed or died by a signal.
+    /// Asks for the orderly end and hands on what it still prints. The exit code; -1 when the
+    /// program had to be killed or died by a signal.
     int stop(const std::function<void(const std::string&)>& line);
 
     /// Whether ssh and rsync are there; the files stay, what they need to run does not.
