@@ -77,17 +77,27 @@ TEST(PlistCodecTest, Empty_ComesBackEmpty) {
     EXPECT_TRUE(decoded.root->isEmpty());
 }
 
-TEST(PlistCodecTest, BinaryForm_IsReadTheSame) {
-    const QVariantMap values = everyKind();
-    const QByteArray xml = encodePlist(values);
+QByteArray binaryForm(const QVariantMap& map) {
+    const QByteArray xml = encodePlist(map);
     plist_t node = nullptr;
     plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &node);
-    char* binary = nullptr;
+    char* text = nullptr;
     std::uint32_t length = 0;
-    plist_to_bin(node, &binary, &length);
-    const QByteArray bytes(binary, static_cast<qsizetype>(length));
-    plist_to_bin_free(binary);
+    plist_to_bin(node, &text, &length);
+    const QByteArray bytes(text, static_cast<qsizetype>(length));
+    plist_to_bin_free(text);
     plist_free(node);
+    return bytes;
+}
+
+/// A zero in place of each "Z".
+QByteArray withZeros(QByteArray bytes) {
+    return bytes.replace('Z', '\0');
+}
+
+TEST(PlistCodecTest, BinaryForm_IsReadTheSame) {
+    const QVariantMap values = everyKind();
+    const QByteArray bytes = binaryForm(values);
     ASSERT_TRUE(isBinaryPlist(bytes));
     const DecodedPlist decoded = decodePlist(bytes);
     ASSERT_TRUE(decoded.root) << decoded.fault.toStdString();
@@ -223,27 +233,13 @@ TEST(PlistCodecTest, BinaryThatUnfoldsWithoutEnd_IsAFault) {
     EXPECT_FALSE(plistFault(binaryArrays(3, 2, 999)).isEmpty()) << "no such object";
 }
 
-/// `map` in binary form, with a zero in place of each "Z".
-QByteArray binaryWithZeros(const QVariantMap& map) {
-    const QByteArray xml = encodePlist(map);
-    plist_t node = nullptr;
-    plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &node);
-    char* text = nullptr;
-    std::uint32_t length = 0;
-    plist_to_bin(node, &text, &length);
-    const QByteArray bytes(text, static_cast<qsizetype>(length));
-    free(text); // NOLINT: libplist allocates with malloc
-    plist_free(node);
-    return QByteArray(bytes).replace('Z', '\0');
-}
-
 TEST(PlistCodecTest, BinaryKeyWithAZero_IsAFault) {
     for (const char* key : {"Z", "keyZ", "a longer key than fifteen, Z", "東京Z"}) {
         const QVariantMap inner{{QString::fromUtf8(key), true}};
-        EXPECT_FALSE(decodePlist(binaryWithZeros(inner)).root) << key;
-        EXPECT_FALSE(decodePlist(binaryWithZeros({{"in", QVariantList{inner}}})).root) << key;
+        EXPECT_FALSE(decodePlist(withZeros(binaryForm(inner))).root) << key;
+        EXPECT_FALSE(decodePlist(withZeros(binaryForm({{"in", QVariantList{inner}}}))).root) << key;
     }
-    const DecodedPlist value = decodePlist(binaryWithZeros({{"key", "a Z"}}));
+    const DecodedPlist value = decodePlist(withZeros(binaryForm({{"key", "a Z"}})));
     ASSERT_TRUE(value.root) << "a value may hold one: " << value.fault.toStdString();
     EXPECT_TRUE(value.root->value(QStringLiteral("key")).toString().startsWith(u"a "));
 }

@@ -1,6 +1,7 @@
 // A library to preload: the time of day is off by as many seconds as the file named by MOVED_CLOCK
 // says, from one moment to the next. Time that only counts runs on as ever.
-#include <dlfcn.h>
+#include "support/beneath.h"
+
 #include <fcntl.h>
 #include <sys/time.h>
 #include <unistd.h>
@@ -25,35 +26,29 @@ bool isOfDay(clockid_t clock) {
     return clock == CLOCK_REALTIME || clock == CLOCK_REALTIME_COARSE;
 }
 
-/// The C library's own operation beneath ours.
-template <typename Operation>
-Operation* own(const char* name) {
-    return reinterpret_cast<Operation*>(::dlsym(RTLD_NEXT, name));
-}
-
 } // namespace
 
 extern "C" {
 
 int clock_gettime(clockid_t clock, timespec* time) {
-    static auto* const beneath = own<int(clockid_t, timespec*)>("clock_gettime");
-    const int result = beneath(clock, time);
+    static auto* const real = kelvo::beneath<int(clockid_t, timespec*)>("clock_gettime");
+    const int result = real(clock, time);
     if (result == 0 && isOfDay(clock))
         time->tv_sec += seconds();
     return result;
 }
 
 int gettimeofday(timeval* time, void* zone) {
-    static auto* const beneath = own<int(timeval*, void*)>("gettimeofday");
-    const int result = beneath(time, zone);
+    static auto* const real = kelvo::beneath<int(timeval*, void*)>("gettimeofday");
+    const int result = real(time, zone);
     if (result == 0)
         time->tv_sec += seconds();
     return result;
 }
 
 time_t time(time_t* result) {
-    static auto* const beneath = own<time_t(time_t*)>("time");
-    const time_t now = beneath(nullptr) + seconds();
+    static auto* const real = kelvo::beneath<time_t(time_t*)>("time");
+    const time_t now = real(nullptr) + seconds();
     if (result != nullptr)
         *result = now;
     return now;

@@ -13,6 +13,7 @@ set_tests_properties(Lab.down PROPERTIES FIXTURES_CLEANUP lab)
 
 add_executable(mdns_announcer children/mdns_announcer.cpp)
 add_library(moved_clock MODULE lab/moved_clock.cpp)
+target_include_directories(moved_clock PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 
 kelvo_tests(lab
   SOURCES

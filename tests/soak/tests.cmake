@@ -1,6 +1,7 @@
 # The long run is `./dev soak`; a short one stands among the tests.
 add_executable(soak_stand_in soak/stand_in.cpp)
 add_library(soak_quick_clock MODULE soak/quick_clock.cpp)
+target_include_directories(soak_quick_clock PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 add_executable(soak_driver soak/process_figures.cpp soak/soak_driver.cpp soak/soak_world.cpp)
 target_include_directories(soak_driver PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(soak_driver PRIVATE kelvo_adapters_posix Qt6::Sql)
