@@ -4,12 +4,9 @@
 
 #include "lab/lab_fixture.h"
 #include "support/plist_text.h"
-#include "support/virtual_display.h"
+#include "support/virtual_desktop.h"
 #include "support/wait_until.h"
 
-#include <QDir>
-#include <QFile>
-#include <QProcess>
 #include <QStandardPaths>
 
 namespace kelvo {
@@ -20,37 +17,23 @@ inline const QString cPassword = QStringLiteral("projector");
 
 class SetUpLabTest : public LabTest {
 protected:
-    static constexpr int cToolPatience = 20'000; // milliseconds
     static inline const QString cKey = QStringLiteral(".ssh/id_kelvoRsync");
 
     void SetUp() override {
-        for (const char* tool : {"Xvfb", "openbox", "xdotool", "maim", "xterm"}) {
-            if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty())
-                GTEST_SKIP() << tool << " is not installed on this machine";
-        }
+        if (const QString missing = VirtualDesktop::missingTool(); !missing.isEmpty())
+            GTEST_SKIP() << missing.toStdString() << " is not installed on this machine";
+        if (QStandardPaths::findExecutable(QStringLiteral("xterm")).isEmpty())
+            GTEST_SKIP() << "xterm is not installed on this machine";
         LabTest::SetUp();
         if (IsSkipped() || HasFatalFailure())
             return;
         // Nothing is set up yet: no key, and a host that nobody has seen before.
         near(QStringLiteral("find .ssh -mindepth 1 -delete"));
         remote(QStringLiteral("rm -f /Users/mediauser/.ssh/authorized_keys"));
-        display = screen.start();
-        ASSERT_FALSE(display.isEmpty()) << "Xvfb does not come up";
-        QProcessEnvironment desktop = QProcessEnvironment::systemEnvironment();
-        desktop.insert(QStringLiteral("DISPLAY"), display);
-        manager.setProcessEnvironment(desktop);
-        manager.start(QStringLiteral("openbox"), QStringList());
-        ASSERT_TRUE(manager.waitForStarted(cToolPatience));
-        ASSERT_TRUE(waitUntil(
-            [this] { return !tool("xdotool", {QStringLiteral("getdisplaygeometry")}).isEmpty(); }));
+        ASSERT_TRUE(screen.start()) << "no display comes up";
     }
 
-    void TearDown() override {
-        program.reset();
-        manager.terminate();
-        if (manager.state() != QProcess::NotRunning && !manager.waitForFinished(cToolPatience))
-            manager.kill();
-    }
+    void TearDown() override { program.reset(); }
 
     // -- the program
 
@@ -74,12 +57,12 @@ protected:
         program = std::make_unique<RunningProgram>(
             QStringLiteral(KELVO_LAB_COMMAND),
             QStringList{QStringLiteral("near"), QStringLiteral("env"),
-                        QString(u"DISPLAY=" + display), QStringLiteral("QT_QPA_PLATFORM=xcb"),
+                        QString(u"DISPLAY=" + screen.name()), QStringLiteral("QT_QPA_PLATFORM=xcb"),
                         QStringLiteral("DBUS_SESSION_BUS_ADDRESS=disabled:")} +
                 variables + QStringList{QStringLiteral(KELVO_PROGRAM)});
         ASSERT_TRUE(program->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
             << program->transcript().toStdString();
-        ASSERT_TRUE(waitUntil([this] { return activeTitle() == u"Kelvo Mirror"; }, 30s));
+        ASSERT_TRUE(waitUntil([this] { return screen.activeTitle() == u"Kelvo Mirror"; }, 30s));
     }
 
     bool prints(const QString& start, double seconds = 60) {
@@ -103,58 +86,35 @@ protected:
 
     // -- mouse and keys
 
-    QString tool(const char* name, const QStringList& arguments) const {
-        QProcess process;
-        QProcessEnvironment desktop = QProcessEnvironment::systemEnvironment();
-        desktop.insert(QStringLiteral("DISPLAY"), display);
-        process.setProcessEnvironment(desktop);
-        process.start(QString::fromLatin1(name), arguments);
-        process.waitForFinished(cToolPatience);
-        return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
-    }
-    void keys(const QStringList& names) const {
-        tool("xdotool",
-             QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("30")} +
-                 names);
-    }
-    void type(const QString& text) const {
-        tool("xdotool",
-             {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("20"), text});
-    }
+    void keys(const QStringList& names) const { screen.keys(names); }
     void enter(const QString& text) const {
-        type(text);
+        screen.type(text);
         keys({QStringLiteral("Return")});
     }
     /// The start button is the one tall control across the middle of the window.
     void clickStart() const {
-        const QString place =
-            tool("xdotool", {QStringLiteral("getactivewindow"), QStringLiteral("getwindowgeometry"),
-                             QStringLiteral("--shell")});
+        const QString place = screen.tool("xdotool", {QStringLiteral("getactivewindow"),
+                                                      QStringLiteral("getwindowgeometry"),
+                                                      QStringLiteral("--shell")});
         const auto number = [&](const char* name) {
             return place.section(QString::fromLatin1(name) + u'=', 1).section(u'\n', 0, 0).toInt();
         };
-        tool("xdotool",
-             {QStringLiteral("mousemove"), QString::number(number("X") + number("WIDTH") / 2),
-              QString::number(number("Y") + 225), QStringLiteral("click"), QStringLiteral("1")});
-    }
-    QString activeTitle() const {
-        return tool("xdotool",
-                    {QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")});
+        screen.click({number("X") + number("WIDTH") / 2, number("Y") + 225}, 1);
     }
     bool comesToFront(const QString& title) const {
-        return waitUntil([&] { return activeTitle().startsWith(title); }, 30s);
+        return waitUntil([&] { return screen.activeTitle().startsWith(title); }, 30s);
     }
     QString terminalWindow() const {
-        return tool("xdotool", {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                QStringLiteral("--class"), QStringLiteral("xterm")})
+        return screen
+            .tool("xdotool", {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                              QStringLiteral("--class"), QStringLiteral("xterm")})
             .section(u'\n', 0, 0);
     }
     bool terminalComes(bool comes = true) const {
         return waitUntil([&] { return terminalWindow().isEmpty() != comes; }, 30s);
     }
     void keepPicture(const char* name) const {
-        QDir().mkpath(QStringLiteral(KELVO_PICTURES));
-        tool("maim", {QStringLiteral(KELVO_PICTURES "/%1.png").arg(QLatin1StringView(name))});
+        EXPECT_TRUE(screen.keepPicture(QStringLiteral(KELVO_PICTURES), name));
     }
 
     /// Types `text` into the terminal, again from time to time (a question drops what was typed
@@ -179,9 +139,7 @@ protected:
         return near(QStringLiteral("test -s %1 -a -s %1.pub").arg(cKey)).exitCode == 0;
     }
 
-    VirtualDisplay screen;
-    QString display;
-    QProcess manager;
+    VirtualDesktop screen;
     std::unique_ptr<RunningProgram> program;
 };
 

@@ -10,7 +10,7 @@ TEST_F(SetUpLabTest, FromNothing_ToARunningPullByTheWindowAlone) {
     keys({QStringLiteral("ctrl+2")});
     keys({QStringLiteral("alt+c")});
     ASSERT_TRUE(comesToFront(QStringLiteral("Choose the Remote Mac")))
-        << activeTitle().toStdString();
+        << screen.activeTitle().toStdString();
     keepPicture("set-up-1-choose");
     const auto chosen = [] {
         return near(QStringLiteral("grep -q Remote-Mac.local "
@@ -77,7 +77,7 @@ TEST_F(SetUpLabTest, TerminalClosedByThePerson_IsNoticed) {
     keys({QStringLiteral("alt+k")});
     ASSERT_TRUE(terminalComes()) << transcript();
     ASSERT_TRUE(logs(QStringLiteral("terminal chmod result = []")));
-    tool("xdotool", {QStringLiteral("windowclose"), terminalWindow()});
+    screen.tool("xdotool", {QStringLiteral("windowclose"), terminalWindow()});
     EXPECT_TRUE(logs(QStringLiteral("username and remote host status ="))) << transcript();
     EXPECT_TRUE(terminalComes(false));
     EXPECT_FALSE(keyIsInstalled());
@@ -91,7 +91,8 @@ TEST_F(SetUpLabTest, NoTerminal_ShowsTheCommandAndOnlyOneHalfOfAPairIsReplaced) 
     startWindow(hostAndUser(), {QStringLiteral("PATH=/Users/near/bare")});
     keys({QStringLiteral("alt+k")});
     ASSERT_TRUE(tells(QStringLiteral("No terminal program could open a window."))) << transcript();
-    ASSERT_TRUE(comesToFront(QStringLiteral("No Terminal Found"))) << activeTitle().toStdString();
+    ASSERT_TRUE(comesToFront(QStringLiteral("No Terminal Found")))
+        << screen.activeTitle().toStdString();
     keepPicture("set-up-no-terminal");
     EXPECT_TRUE(bothHalves());
     EXPECT_NE(near(QStringLiteral("cat %1.pub").arg(cKey)).output, "lone\n");

@@ -1,6 +1,8 @@
 // The remote Mac's share: a real server, mounted through the desktop's own services.
 #include "lab/set_up_fixture.h"
 
+#include <QFile>
+
 namespace kelvo {
 namespace {
 
@@ -85,7 +87,7 @@ TEST_F(ShareLabTest, QuestionLeftUnanswered_OpensNoFolderOfThisMachine) {
                        .exitCode == 0;
         },
         30s));
-    tool("xdotool", {QStringLiteral("windowclose"), terminalWindow()});
+    screen.tool("xdotool", {QStringLiteral("windowclose"), terminalWindow()});
     EXPECT_TRUE(tells(QStringLiteral("Cannot show \"./Users/mediauser/Movies\""))) << transcript();
     EXPECT_EQ(opened(), "");
     EXPECT_EQ(program->stop(), 0);
