@@ -8,3 +8,5 @@ add_test(NAME Install.metainfo_IsValid
     ${CMAKE_SOURCE_DIR}/resources/desktop/org.kelvo.KelvoMirror.metainfo.xml)
 set_tests_properties(Install.underADestdir_IsCompleteAndWorks Install.desktopEntry_IsValid
   Install.metainfo_IsValid PROPERTIES LABELS system TIMEOUT 120)
+set_tests_properties(Install.underADestdir_IsCompleteAndWorks PROPERTIES
+  ENVIRONMENT LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/support/leaks.supp)
