@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
 
@@ -28,6 +29,12 @@ inline void write(const QString& path, const QByteArray& bytes) {
 
 class ProgramProfile {
 public:
+    struct Ended {
+        int code; ///< -1 for one that died by a signal
+        QByteArray output;
+        QByteArray errors;
+    };
+
     ProgramProfile() {
         QDir().mkpath(path(QStringLiteral("home")));
         QDir().mkpath(path(QStringLiteral("run")));
@@ -52,6 +59,16 @@ public:
         for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
             own.remove(QString::fromLatin1(variable));
         return own;
+    }
+
+    Ended runToEnd(const QString& program, const QStringList& arguments) const {
+        QProcess process;
+        process.setProcessEnvironment(environment());
+        process.setStandardInputFile(QProcess::nullDevice());
+        process.start(program, arguments);
+        process.waitForFinished();
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                process.readAllStandardOutput(), process.readAllStandardError()};
     }
 
     /// Passes between the folders "Camera" and "Incoming", from the launch on.

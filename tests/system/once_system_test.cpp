@@ -14,21 +14,7 @@ const QString cProgram = QStringLiteral(KELVO_PROGRAM);
 
 class OnceSystemTest : public ::testing::Test, public ProgramProfile {
 protected:
-    struct Ended {
-        int code;
-        QByteArray output;
-        QByteArray errors;
-    };
-
-    Ended run(const QStringList& arguments) const {
-        QProcess process;
-        process.setProcessEnvironment(environment());
-        process.setStandardInputFile(QProcess::nullDevice());
-        process.start(cProgram, arguments);
-        process.waitForFinished();
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                process.readAllStandardOutput(), process.readAllStandardError()};
-    }
+    Ended run(const QStringList& arguments) const { return runToEnd(cProgram, arguments); }
 
     Ended once() const { return run({QStringLiteral("--once"), QStringLiteral("--json")}); }
 

@@ -21,16 +21,7 @@ protected:
                                                 environment());
     }
 
-    /// Runs the program to its end: exit code, standard output, standard error.
-    std::tuple<int, QByteArray, QByteArray> run(const QStringList& arguments) const {
-        QProcess process;
-        process.setProcessEnvironment(environment());
-        process.setStandardInputFile(QProcess::nullDevice());
-        process.start(cProgram, arguments);
-        process.waitForFinished();
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                process.readAllStandardOutput(), process.readAllStandardError()};
-    }
+    Ended run(const QStringList& arguments) const { return runToEnd(cProgram, arguments); }
 };
 
 TEST_F(ProgramTest, Version_IsPrinted) {
