@@ -54,7 +54,7 @@ public:
     PassRecord run() {
         // A tag that does not exist would end the program.
         if (!optionStringForTag(fSettings.integerForKey(prefRsyncCommandOptionTag)))
-            return unableToRun();
+            return withoutPass(PassCause::SettingsMissing);
         fSamplePath.updateSampleString();
         fMainQueue.async([this] {
             if (fSettings.boolForKey(prefRsyncWithSSH))
@@ -65,7 +65,7 @@ public:
         QCoreApplication::exec();
         end();
         const std::lock_guard lock(fMutex);
-        return fRecord.value_or(interrupted());
+        return fRecord.value_or(withoutPass(PassCause::Interrupted));
     }
 
 private:
@@ -81,17 +81,11 @@ private:
         fBgQueue.stopAndWait();
     }
 
-    static PassRecord unableToRun() {
+    /// What is told when no pass could be begun or ended.
+    static PassRecord withoutPass(PassCause cause) {
         PassRecord record;
         record.began = QDateTime::currentDateTimeUtc();
-        record.cause = PassCause::SettingsMissing;
-        return record;
-    }
-
-    static PassRecord interrupted() {
-        PassRecord record;
-        record.began = QDateTime::currentDateTimeUtc();
-        record.cause = PassCause::Interrupted;
+        record.cause = cause;
         return record;
     }
 

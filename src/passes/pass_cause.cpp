@@ -193,7 +193,7 @@ NamedCause causeOf(const CommandRecord& command) {
 }
 
 NamedCause causeOf(const PassRecord& pass) {
-    const bool checkFailed = pass.kind == PassKind::Remote && pass.verdict != u"valid";
+    const bool checkFailed = endedAtTheCheck(pass);
     bool pulled = false;
     for (const CommandRecord& command : pass.commands) {
         if (command.role == CommandRole::HostCheck) {

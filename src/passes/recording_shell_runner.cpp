@@ -5,18 +5,20 @@
 
 namespace kelvo {
 
-QString RecordingShellRunner::outputWhenRunAsShellCommand(const QString& command) {
+template <typename Run>
+QString RecordingShellRunner::recorded(const QString& command, const Run& run) {
     const double began = fJournal.seconds();
-    const CommandResult result = fCommands.run(command);
+    const CommandResult result = run();
     fJournal.commandEnded(command, result, fJournal.seconds() - began);
     return result.output;
 }
 
+QString RecordingShellRunner::outputWhenRunAsShellCommand(const QString& command) {
+    return recorded(command, [&] { return fCommands.run(command); });
+}
+
 QString RecordingShellRunner::outputWithin(double seconds, const QString& command) {
-    const double began = fJournal.seconds();
-    const CommandResult result = fCommands.runWithin(seconds, command);
-    fJournal.commandEnded(command, result, fJournal.seconds() - began);
-    return result.output;
+    return recorded(command, [&] { return fCommands.runWithin(seconds, command); });
 }
 
 } // namespace kelvo

@@ -18,6 +18,9 @@ public:
     QString outputWithin(double seconds, const QString& command) override;
 
 private:
+    template <typename Run>
+    QString recorded(const QString& command, const Run& run);
+
     CommandRunner& fCommands;
     PassJournal& fJournal;
 };

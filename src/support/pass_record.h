@@ -85,4 +85,9 @@ struct PassRecord {
     std::vector<CommandRecord> commands;
 };
 
+/// Whether the pass ended at the check of its host, before any transfer.
+inline bool endedAtTheCheck(const PassRecord& pass) {
+    return pass.kind == PassKind::Remote && pass.verdict != u"valid";
+}
+
 } // namespace kelvo

@@ -121,8 +121,7 @@ QString filesText(const Brought& brought) {
 }
 
 QString filesText(const PassRecord& pass) {
-    const bool refused = pass.kind == PassKind::Remote && pass.verdict != u"valid";
-    return refused ? QStringLiteral("no transfer") : filesText(pass.brought);
+    return endedAtTheCheck(pass) ? QStringLiteral("no transfer") : filesText(pass.brought);
 }
 
 QString sizeText(const Brought& brought) {
