@@ -1,5 +1,5 @@
 // What it costs to open the tab with the passes.
-#include "adapters/qt/sqlite_pass_store.h"
+#include "adapters/passes/sqlite_pass_store.h"
 #include "bench/row.h"
 #include "bench/run_until.h"
 #include "fakes/recording_console.h"

@@ -1,9 +1,9 @@
 // A flood of output: how fast it is captured, in how much memory, and what the main queue feels.
-#include "adapters/posix/posix_shell_runner.h"
-#include "adapters/posix/rotating_log_file.h"
-#include "adapters/posix/stream_console.h"
-#include "adapters/posix/thread_pool_queue.h"
-#include "adapters/qt/qt_main_queue.h"
+#include "adapters/console/rotating_log_file.h"
+#include "adapters/console/stream_console.h"
+#include "adapters/process/posix_shell_runner.h"
+#include "adapters/process/qt_main_queue.h"
+#include "adapters/process/thread_pool_queue.h"
 #include "bench/row.h"
 #include "fakes/recording_console.h"
 

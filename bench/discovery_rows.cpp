@@ -1,7 +1,7 @@
 // The list of services: one filtering pass, and the main queue's stall when a list is shown.
-#include "adapters/avahi/service_table.h"
-#include "adapters/posix/rotating_log_file.h"
-#include "adapters/posix/stream_console.h"
+#include "adapters/console/rotating_log_file.h"
+#include "adapters/console/stream_console.h"
+#include "adapters/network/service_table.h"
 #include "bench/row.h"
 #include "fakes/fake_service_table.h"
 #include "fakes/memory_defaults.h"

@@ -1,9 +1,9 @@
 // The small figures: one settings write, one filled command.
-#include "adapters/qt/plist_defaults.h"
+#include "adapters/settings/plist_defaults.h"
 #include "bench/row.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "sync/rsync_command.h"
 
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 // The program at work: what a pass costs beyond its commands, and what rest costs.
-#include "adapters/posix/local_file_manager.h"
-#include "adapters/posix/posix_shell_runner.h"
+#include "adapters/process/posix_shell_runner.h"
+#include "adapters/system/local_file_manager.h"
 #include "bench/processor_time.h"
 #include "bench/row.h"
 #include "fakes/fake_front.h"
@@ -10,7 +10,7 @@
 #include "ports/problem_alerts.h"
 #include "ports/status_messages.h"
 #include "remote/remote_host_validation.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "sync/rsync_command.h"
 #include "sync/sync_cycle.h"
 

@@ -1,5 +1,5 @@
 // The watchdog: how fast the program is back after a kill, and what the sentinel costs meanwhile.
-#include "adapters/posix/pidfd.h"
+#include "adapters/system/pidfd.h"
 #include "bench/row.h"
 #include "support/descendants.h"
 

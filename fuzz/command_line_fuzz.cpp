@@ -1,10 +1,10 @@
 // Any command line, its words apart by zero bytes: it is understood or refused in words, and a
 // setting is changed only by a value that it then has.
-#include "app/command_line.h"
+#include "app/commands/command_line.h"
 #include "fakes/memory_defaults.h"
 #include "fuzz_input.h"
+#include "settings/preferences.h"
 #include "support/stored_value.h"
-#include "sync/preferences.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,8 +1,8 @@
 // Any bytes as Avahi could hand them out, through everything up to the record and its log
 // lines.
-#include "adapters/avahi/neighbour_table.h"
-#include "adapters/avahi/service_answer.h"
-#include "adapters/avahi/service_table.h"
+#include "adapters/network/neighbour_table.h"
+#include "adapters/network/service_answer.h"
+#include "adapters/network/service_table.h"
 #include "discovery/record_texts.h"
 #include "discovery/service_filter.h"
 #include "fuzz_input.h"

@@ -1,6 +1,6 @@
 // Any bytes as a settings file: what is read is made of stored values only, reads the same again
 // once it is written, and fits every typed getter.
-#include "adapters/qt/plist_codec.h"
+#include "adapters/settings/plist_codec.h"
 #include "fuzz_input.h"
 #include "support/property_value.h"
 #include "support/stored_value.h"

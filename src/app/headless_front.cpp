@@ -1,10 +1,9 @@
 // The front without a window.
-#include "adapters/headless/headless_front.h"
-
-#include "adapters/headless/headless_bonjour.h"
-#include "adapters/headless/headless_desktop.h"
-#include "adapters/headless/headless_terminal.h"
-#include "adapters/headless/headless_view.h"
+#include "adapters/console/headless_bonjour.h"
+#include "adapters/console/headless_desktop.h"
+#include "adapters/console/headless_outlets.h"
+#include "adapters/console/headless_terminal.h"
+#include "adapters/console/headless_view.h"
 #include "app/front.h"
 #include "app/main_window_controller.h"
 #include "ui/observed_status_field.h"
@@ -28,8 +27,20 @@ public:
     Application& application() override { return fApplication; }
     std::shared_ptr<WindowController> windowController() override { return fWindowController; }
     FrontOutlets outlets() override {
-        return {fView,          fAlerts,      fSheets, fOpenPanel, fTerminal,    fPasteboard,
-                fFoundServices, fStartButton, nullptr, nullptr,    fStatusField, fPathControl};
+        return {
+            .view = fView,
+            .alertPresenter = fAlerts,
+            .sheets = fSheets,
+            .openPanel = fOpenPanel,
+            .terminal = fTerminal,
+            .pasteboard = fPasteboard,
+            .fArrayController = fFoundServices,
+            .ibStartButton = fStartButton,
+            .ibRevealButton1 = nullptr,
+            .ibRevealButton2 = nullptr,
+            .ibStatusTextField = fStatusField,
+            .fNsPathControl1 = fPathControl,
+        };
     }
     void sendActionsTo(ViewController& controller, AppDelegate&) override {
         fController = &controller;

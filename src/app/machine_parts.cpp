@@ -1,7 +1,7 @@
 #include "app/machine_parts.h"
 
-#include "adapters/qt/network_information.h"
-#include "adapters/tray/desktop_tray_host.h"
+#include "adapters/desktop/desktop_tray_host.h"
+#include "adapters/network/network_information.h"
 #include "app/places.h"
 #include "app/version.h"
 #include "ui/widgets/tray_icon.h"

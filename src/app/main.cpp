@@ -1,9 +1,9 @@
 // The way in: reads the command line, then runs the program with a window or without.
-#include "adapters/tray/x_display.h"
-#include "app/command_line.h"
-#include "app/once.h"
+#include "adapters/desktop/x_display.h"
+#include "app/commands/command_line.h"
+#include "app/commands/once.h"
+#include "app/commands/settings_commands.h"
 #include "app/program.h"
-#include "app/settings_commands.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
 // PassRecording: the parts that write down each pass, put together.
 #pragma once
 
-#include "adapters/qt/sqlite_pass_store.h"
+#include "adapters/passes/sqlite_pass_store.h"
 #include "passes/pass_journal.h"
 #include "passes/recording_shell_runner.h"
 

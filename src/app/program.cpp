@@ -1,14 +1,14 @@
 #include "app/program.h"
 
-#include "app/app_delegate.h"
-#include "app/duplicate_check.h"
 #include "app/front.h"
-#include "app/interface_registry.h"
 #include "app/machine_parts.h"
 #include "app/pass_recording.h"
+#include "app/start/app_delegate.h"
+#include "app/start/duplicate_check.h"
+#include "app/start/interface_registry.h"
+#include "app/start/watchdog.h"
+#include "app/start/watchdog_relaunch_guard.h"
 #include "app/version.h"
-#include "app/watchdog.h"
-#include "app/watchdog_relaunch_guard.h"
 #include "ports/application.h"
 #include "ports/network_checker.h"
 #include "ui/pass_notices.h"
@@ -42,12 +42,18 @@ public:
           fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
                       [this] { terminate(); }),
           fDuplicates(fParts.singleCopy, fParts.console, [this] { show(); }),
-          fWatchdog(Watchdog::begin(
-              {fParts.signals, fParts.bundle, fParts.defaults, fParts.console,
-               fParts.sentinelLauncher, fParts.notificationCenter, fParts.mainQueue,
-               QCoreApplication::arguments(), QCoreApplication::applicationPid(),
-               [] { return QDateTime::currentDateTimeUtc(); }, [this] { terminate(); },
-               [this](int status) { leaveAtOnce(status); }})) {
+          fWatchdog(Watchdog::begin({.signals = fParts.signals,
+                                     .bundle = fParts.bundle,
+                                     .defaults = fParts.defaults,
+                                     .console = fParts.console,
+                                     .sentinelLauncher = fParts.sentinelLauncher,
+                                     .notifications = fParts.notificationCenter,
+                                     .mainQueue = fParts.mainQueue,
+                                     .arguments = QCoreApplication::arguments(),
+                                     .processIdentifier = QCoreApplication::applicationPid(),
+                                     .now = [] { return QDateTime::currentDateTimeUtc(); },
+                                     .terminate = [this] { terminate(); },
+                                     .leaveAtOnce = [this](int status) { leaveAtOnce(status); }})) {
         for (const int signal : {SIGTERM, SIGINT})
             fQuitSignals.push_back(fParts.signals.catchSignal(signal, [this] { terminate(); }));
         fStoryboard.add(cMyWindowControllerID, [this] { return front().windowController(); });
@@ -63,13 +69,21 @@ public:
 
     int run() {
         fDelegate.emplace(AppDelegateParts{
-            fParts.console, fParts.logFile, fParts.defaults, fParts.bundle, fRelaunchGuard,
-            fStoryboard, fParts.systemInformation,
-            [this] { fDuplicates.checkForDuplicateRunningInstances(); },
-            [this] {
-                return std::make_unique<KelvoStatusMenuHandler>(fStatusMenu, fParts.console);
-            },
-            runningApplication()});
+            .console = fParts.console,
+            .logger = fParts.logFile,
+            .defaults = fParts.defaults,
+            .mainBundle = fParts.bundle,
+            .watchdog = fRelaunchGuard,
+            .storyboard = fStoryboard,
+            .processInfo = fParts.systemInformation,
+            .checkForDuplicateRunningInstances =
+                [this] { fDuplicates.checkForDuplicateRunningInstances(); },
+            .makeStatusMenuHandler =
+                [this] {
+                    return std::make_unique<KelvoStatusMenuHandler>(fStatusMenu, fParts.console);
+                },
+            .runningApplication = runningApplication(),
+        });
         if (const auto exitCode = fDuplicates.exitCode())
             return *exitCode;
         fDelegate->applicationWillFinishLaunching();
@@ -83,20 +97,22 @@ public:
 private:
     Front& front() {
         if (!fFront) {
-            const FrontParts parts{fParts.defaults,
-                                   fParts.mainQueue,
-                                   fParts.console,
-                                   fParts.workspace,
-                                   fParts.dnssdBrowser,
-                                   fParts.statusMenu(),
-                                   fParts.terminal,
-                                   logFolder(),
-                                   [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
-                                   fPasses.store,
-                                   fParts.bgQueue,
-                                   fParts.files.homeDirectory(),
-                                   fParts.checklistProbe,
-                                   fParts.loginItem};
+            const FrontParts parts{
+                .defaults = fParts.defaults,
+                .mainQueue = fParts.mainQueue,
+                .console = fParts.console,
+                .workspace = fParts.workspace,
+                .browser = fParts.dnssdBrowser,
+                .statusMenu = fParts.statusMenu(),
+                .terminal = fParts.terminal,
+                .logFolder = logFolder(),
+                .trouble = [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
+                .passes = fPasses.store,
+                .bgQueue = fParts.bgQueue,
+                .homeDirectory = fParts.files.homeDirectory(),
+                .checklistProbe = fParts.checklistProbe,
+                .loginItem = fParts.loginItem,
+            };
             fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
         }
         return *fFront;
@@ -104,42 +120,43 @@ private:
 
     std::shared_ptr<ViewController> makeViewController() {
         const FrontOutlets outlets = front().outlets();
-        auto controller = std::make_shared<ViewController>(
-            ViewControllerParts{fParts.defaults,
-                                fParts.mainQueue,
-                                fParts.bgQueue,
-                                fPasses.shell,
-                                fParts.files,
-                                fParts.console,
-                                fParts.notificationCenter,
-                                fParts.bundle,
-                                front().application(),
-                                fRelaunchGuard,
-                                fParts.workspace,
-                                outlets.openPanel,
-                                fParts.networkBrowser,
-                                fParts.dnssdBrowser,
-                                [this] { return fParts.makeNetworkChecker(); },
-                                fStatusMenu,
-                                fParts.temporaryFolder,
-                                fParts.fileChanges,
-                                outlets.terminal,
-                                outlets.pasteboard,
-                                fParts.shareCommands,
-                                outlets.view,
-                                outlets.alertPresenter,
-                                outlets.sheets,
-                                outlets.fArrayController,
-                                outlets.ibStartButton,
-                                outlets.ibRevealButton1,
-                                outlets.ibRevealButton2,
-                                outlets.ibStatusTextField,
-                                outlets.fNsPathControl1,
-                                [this]() -> StatusMenuWindow* {
-                                    WindowController& window = *front().windowController();
-                                    return window.contentViewController() ? &window : nullptr;
-                                },
-                                &fPasses.journal});
+        auto controller = std::make_shared<ViewController>(ViewControllerParts{
+            .defaults = fParts.defaults,
+            .mainQueue = fParts.mainQueue,
+            .bgQueue = fParts.bgQueue,
+            .shell = fPasses.shell,
+            .files = fParts.files,
+            .console = fParts.console,
+            .notificationCenter = fParts.notificationCenter,
+            .bundle = fParts.bundle,
+            .application = front().application(),
+            .watchdog = fRelaunchGuard,
+            .workspace = fParts.workspace,
+            .openPanel = outlets.openPanel,
+            .networkBrowser = fParts.networkBrowser,
+            .dnssdBrowser = fParts.dnssdBrowser,
+            .makeKelvoSSID = [this] { return fParts.makeNetworkChecker(); },
+            .statusMenu = fStatusMenu,
+            .temporaryFolder = fParts.temporaryFolder,
+            .fileChanges = fParts.fileChanges,
+            .terminal = outlets.terminal,
+            .pasteboard = outlets.pasteboard,
+            .shareCommands = fParts.shareCommands,
+            .view = outlets.view,
+            .alertPresenter = outlets.alertPresenter,
+            .sheets = outlets.sheets,
+            .fArrayController = outlets.fArrayController,
+            .ibStartButton = outlets.ibStartButton,
+            .ibRevealButton1 = outlets.ibRevealButton1,
+            .ibRevealButton2 = outlets.ibRevealButton2,
+            .ibStatusTextField = outlets.ibStatusTextField,
+            .fNsPathControl1 = outlets.fNsPathControl1,
+            .windowController = [this]() -> StatusMenuWindow* {
+                WindowController& window = *front().windowController();
+                return window.contentViewController() ? &window : nullptr;
+            },
+            .passListener = &fPasses.journal,
+        });
         front().sendActionsTo(*controller, *fDelegate);
         return controller;
     }

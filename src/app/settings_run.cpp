@@ -1,12 +1,12 @@
 // The settings commands on this user's file.
-#include "adapters/posix/rotating_log_file.h"
-#include "adapters/posix/stream_console.h"
-#include "adapters/qt/file_bundle.h"
-#include "adapters/qt/plist_defaults.h"
-#include "adapters/qt/qt_main_queue.h"
-#include "app/factory_defaults.h"
+#include "adapters/console/rotating_log_file.h"
+#include "adapters/console/stream_console.h"
+#include "adapters/process/qt_main_queue.h"
+#include "adapters/settings/file_bundle.h"
+#include "adapters/settings/plist_defaults.h"
+#include "app/commands/settings_commands.h"
 #include "app/places.h"
-#include "app/settings_commands.h"
+#include "settings/factory_defaults.h"
 #include "support/stored_value.h"
 
 #include <unistd.h>

@@ -1,6 +1,6 @@
 #include "app/window_actions.h"
 
-#include "app/app_delegate.h"
+#include "app/start/app_delegate.h"
 #include "app/version.h"
 #include "ports/workspace.h"
 #include "ui/view_controller.h"

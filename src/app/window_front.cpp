@@ -1,7 +1,7 @@
 // The front with the main window.
-#include "app/app_delegate.h"
 #include "app/front.h"
 #include "app/main_window_controller.h"
+#include "app/start/app_delegate.h"
 #include "app/window_actions.h"
 #include "ports/dispatch_queue.h"
 #include "ports/status_menu.h"
@@ -56,9 +56,20 @@ public:
     Application& application() override { return fApplication; }
     std::shared_ptr<WindowController> windowController() override { return fWindowController; }
     FrontOutlets outlets() override {
-        return {fView,           fAlerts,         fSheets,        fOpenPanel,
-                fParts.terminal, fPasteboard,     fFoundServices, fStartButton,
-                &fRevealButton1, &fRevealButton2, fStatusField,   fPathControl};
+        return {
+            .view = fView,
+            .alertPresenter = fAlerts,
+            .sheets = fSheets,
+            .openPanel = fOpenPanel,
+            .terminal = fParts.terminal,
+            .pasteboard = fPasteboard,
+            .fArrayController = fFoundServices,
+            .ibStartButton = fStartButton,
+            .ibRevealButton1 = &fRevealButton1,
+            .ibRevealButton2 = &fRevealButton2,
+            .ibStatusTextField = fStatusField,
+            .fNsPathControl1 = fPathControl,
+        };
     }
 
     void sendActionsTo(ViewController& controller, AppDelegate& delegate) override {

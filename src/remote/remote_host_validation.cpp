@@ -3,8 +3,8 @@
 #include "ports/console.h"
 #include "ports/file_manager.h"
 #include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
 #include "support/key_file.h"
-#include "support/preference_keys.h"
 #include "support/text.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "remote/share_commands.h"
 
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "support/text.h"
 
 #include <QByteArray>

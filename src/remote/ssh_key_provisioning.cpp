@@ -7,9 +7,9 @@
 #include "ports/user_defaults.h"
 #include "ports/workspace.h"
 #include "remote/command_files.h"
+#include "settings/preference_keys.h"
 #include "support/file_url.h"
 #include "support/key_file.h"
-#include "support/preference_keys.h"
 #include "support/text.h"
 
 #include <utility>

@@ -2,8 +2,8 @@
 
 #include "ports/console.h"
 #include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
 #include "support/fatal.h"
-#include "support/preference_keys.h"
 #include "support/text.h"
 
 namespace kelvo {

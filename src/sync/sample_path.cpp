@@ -2,7 +2,7 @@
 
 #include "ports/dispatch_queue.h"
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 
 namespace kelvo {
 

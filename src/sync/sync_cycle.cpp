@@ -10,9 +10,9 @@
 #include "ports/shell_runner.h"
 #include "ports/status_messages.h"
 #include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
 #include "support/fatal.h"
 #include "support/key_file.h"
-#include "support/preference_keys.h"
 #include "support/text.h"
 #include "sync/rsync_command.h"
 

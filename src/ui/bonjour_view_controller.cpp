@@ -8,8 +8,8 @@
 #include "ports/dnssd_browser.h"
 #include "ports/sheet.h"
 #include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
 #include "support/fatal.h"
-#include "support/preference_keys.h"
 #include "support/text.h"
 
 #include <utility>

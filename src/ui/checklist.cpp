@@ -4,7 +4,7 @@
 #include "ports/dispatch_queue.h"
 #include "ports/pass_store.h"
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "support/text.h"
 #include "ui/pass_words.h"
 

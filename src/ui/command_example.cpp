@@ -2,7 +2,7 @@
 
 #include "ports/console.h"
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "support/text.h"
 #include "sync/rsync_command.h"
 

@@ -7,9 +7,9 @@
 #include "ports/temporary_folder.h"
 #include "ports/user_defaults.h"
 #include "ports/workspace.h"
+#include "settings/preference_keys.h"
 #include "support/fatal.h"
 #include "support/file_url.h"
-#include "support/preference_keys.h"
 #include "support/text.h"
 
 #include <utility>

@@ -5,7 +5,7 @@
 #include "ports/main_view.h"
 #include "ports/user_defaults.h"
 #include "ports/workspace.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "support/text.h"
 #include "ui/alerts.h"
 

@@ -4,7 +4,7 @@
 #include "ports/control.h"
 #include "ports/dispatch_queue.h"
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 
 namespace kelvo {
 namespace {

@@ -3,7 +3,7 @@
 #include "ports/dispatch_queue.h"
 #include "ports/status_field.h"
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 
 #include <utility>
 

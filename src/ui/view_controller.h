@@ -6,10 +6,10 @@
 #include "ports/control.h"
 #include "ports/user_defaults.h"
 #include "remote/command_files.h"
-#include "remote/key_state.h"
+#include "remote/connection_check.h"
+#include "remote/key_state_watch.h"
 #include "remote/remote_host_validation.h"
 #include "remote/smb_share_access.h"
-#include "remote/ssh_connection_test.h"
 #include "remote/ssh_key_provisioning.h"
 #include "sync/repeat_timer_actions.h"
 #include "sync/rsync_command.h"
@@ -138,7 +138,7 @@ private:
     BonjourSelection fBonjour;
     TerminalNotice fTerminalNotice;
     CommandFiles fCommandFiles;
-    SshConnectionTest fConnectionTest;
+    ConnectionCheck fConnectionTest;
     SshKeyProvisioning fProvisioning;
     SmbShareAccess fShare;
     KelvoStatusMenuHandler myStatusMenuHandler;

@@ -2,7 +2,8 @@ kelvo_tests(architecture
   SOURCES architecture/include_arrows_test.cpp
 )
 target_compile_definitions(architecture_tests PRIVATE
-  KELVO_SOURCE_FOLDER="${CMAKE_SOURCE_DIR}/src")
+  KELVO_SOURCE_FOLDER="${CMAKE_SOURCE_DIR}/src"
+  KELVO_ARCHITECTURE="${CMAKE_SOURCE_DIR}/docs/architecture.md")
 
 add_test(NAME Security.everyNamedTest_IsThere
   COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/architecture/security-names)

@@ -1,9 +1,9 @@
 // Prints a line for each message of the network checker, until it is ended. With "--browse" a line
 // for each state and each result of a search for SMB services instead.
-#include "adapters/posix/local_notification_center.h"
-#include "adapters/qt/avahi_network_browser.h"
-#include "adapters/qt/network_information.h"
-#include "adapters/qt/qt_main_queue.h"
+#include "adapters/network/avahi_network_browser.h"
+#include "adapters/network/network_information.h"
+#include "adapters/process/local_notification_center.h"
+#include "adapters/process/qt_main_queue.h"
 
 #include <QCoreApplication>
 

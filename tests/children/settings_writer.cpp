@@ -1,7 +1,7 @@
 // Writes settings as fast as it can, to be killed, or a number of keys beside other writers.
 //   settings_writer generations PATH
 //   settings_writer keys PATH PREFIX COUNT
-#include "adapters/qt/plist_defaults.h"
+#include "adapters/settings/plist_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 

@@ -3,16 +3,16 @@
 // Keeps everything in FOLDER: the settings, "resources" with the sentinel, "log" with the lines,
 // and "starts", a record for each start: process id, how many descriptors it came with, working
 // folder, the variable KELVO_TEST_MARK and the arguments. ACTION is what a start by hand does then.
-#include "adapters/posix/local_notification_center.h"
-#include "adapters/posix/posix_sentinel_launcher.h"
-#include "adapters/posix/posix_shell_runner.h"
-#include "adapters/posix/thread_pool_queue.h"
-#include "adapters/qt/file_bundle.h"
-#include "adapters/qt/plist_defaults.h"
-#include "adapters/qt/qt_main_queue.h"
-#include "adapters/qt/signal_pipe.h"
-#include "app/watchdog.h"
-#include "app/watchdog_relaunch_guard.h"
+#include "adapters/process/local_notification_center.h"
+#include "adapters/process/posix_sentinel_launcher.h"
+#include "adapters/process/posix_shell_runner.h"
+#include "adapters/process/qt_main_queue.h"
+#include "adapters/process/signal_pipe.h"
+#include "adapters/process/thread_pool_queue.h"
+#include "adapters/settings/file_bundle.h"
+#include "adapters/settings/plist_defaults.h"
+#include "app/start/watchdog.h"
+#include "app/start/watchdog_relaunch_guard.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "adapters/qt/avahi_network_browser.h"
+#include "adapters/network/avahi_network_browser.h"
 #include "support/discovery_service.h"
 #include "support/session_bus.h"
 #include "support/wait_in_loop.h"

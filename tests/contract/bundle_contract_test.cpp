@@ -1,5 +1,5 @@
-#include "adapters/qt/file_bundle.h"
-#include "adapters/qt/plist_codec.h"
+#include "adapters/settings/file_bundle.h"
+#include "adapters/settings/plist_codec.h"
 #include "fakes/memory_bundle.h"
 #include "fakes/recording_console.h"
 

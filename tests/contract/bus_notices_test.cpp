@@ -1,4 +1,4 @@
-#include "adapters/qt/bus_notices.h"
+#include "adapters/desktop/bus_notices.h"
 #include "support/notification_service.h"
 #include "support/session_bus.h"
 #include "support/wait_in_loop.h"

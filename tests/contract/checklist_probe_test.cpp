@@ -1,4 +1,4 @@
-#include "adapters/posix/local_checklist_probe.h"
+#include "adapters/system/local_checklist_probe.h"
 
 #include <QFile>
 #include <QTemporaryDir>

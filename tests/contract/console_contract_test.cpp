@@ -1,5 +1,5 @@
-#include "adapters/posix/stream_console.h"
-#include "adapters/posix/unique_fd.h"
+#include "adapters/console/stream_console.h"
+#include "adapters/system/unique_fd.h"
 #include "fakes/memory_log_file.h"
 #include "fakes/recording_console.h"
 

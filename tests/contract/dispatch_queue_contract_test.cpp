@@ -1,4 +1,4 @@
-#include "adapters/qt/qt_main_queue.h"
+#include "adapters/process/qt_main_queue.h"
 #include "fakes/virtual_queues.h"
 
 #include <QCoreApplication>

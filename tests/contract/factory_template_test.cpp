@@ -1,5 +1,5 @@
 // The factory settings as they are delivered, and their rsync template run with the real rsync.
-#include "adapters/qt/file_bundle.h"
+#include "adapters/settings/file_bundle.h"
 #include "support/stored_value.h"
 
 #include <QDateTime>

@@ -1,5 +1,5 @@
 // FileWatch on a real folder, with directory signals and where the kernel refuses them.
-#include "adapters/qt/file_watch.h"
+#include "adapters/settings/file_watch.h"
 #include "contract/settings_folder.h"
 #include "support/wait_until.h"
 

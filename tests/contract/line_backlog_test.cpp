@@ -1,4 +1,4 @@
-#include "adapters/posix/line_backlog.h"
+#include "adapters/console/line_backlog.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "adapters/posix/local_file_changes.h"
-#include "adapters/qt/runtime_folder.h"
+#include "adapters/process/runtime_folder.h"
+#include "adapters/system/local_file_changes.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "adapters/posix/local_file_manager.h"
+#include "adapters/system/local_file_manager.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 // The contract of LoginItem on the fake and on real files, then what only the files have.
-#include "adapters/posix/autostart_entry.h"
-#include "adapters/posix/local_file_changes.h"
+#include "adapters/desktop/autostart_entry.h"
+#include "adapters/system/local_file_changes.h"
 #include "fakes/fake_login_item.h"
 
 #include <QDir>

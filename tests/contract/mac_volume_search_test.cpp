@@ -1,5 +1,5 @@
 // The search for the mounted share as macOS runs it, on recorded listings of its df.
-#include "adapters/posix/posix_shell_runner.h"
+#include "adapters/process/posix_shell_runner.h"
 #include "fakes/recording_console.h"
 #include "remote/share_commands.h"
 #include "remote/smb_share_access.h"

@@ -1,5 +1,5 @@
-#include "adapters/qt/network_information.h"
-#include "adapters/qt/qt_main_queue.h"
+#include "adapters/network/network_information.h"
+#include "adapters/process/qt_main_queue.h"
 #include "fakes/fake_network.h"
 #include "fakes/recording_notification_center.h"
 #include "support/running_program.h"

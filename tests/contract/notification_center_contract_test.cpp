@@ -1,4 +1,4 @@
-#include "adapters/posix/local_notification_center.h"
+#include "adapters/process/local_notification_center.h"
 #include "fakes/recording_notification_center.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // The contract of PassStore, on the fake and on the SQLite file.
-#include "adapters/qt/sqlite_pass_store.h"
+#include "adapters/passes/sqlite_pass_store.h"
 #include "fakes/memory_pass_store.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"

@@ -1,5 +1,5 @@
-#include "adapters/qt/plist_codec.h"
-#include "adapters/qt/plist_guard.h"
+#include "adapters/settings/plist_codec.h"
+#include "adapters/settings/plist_guard.h"
 #include "support/stored_value.h"
 
 #include <QDateTime>

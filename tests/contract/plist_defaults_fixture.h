@@ -1,7 +1,7 @@
 // PlistDefaultsFixture: a settings file, stores on it, and what they said.
 #pragma once
 
-#include "adapters/qt/plist_defaults.h"
+#include "adapters/settings/plist_defaults.h"
 #include "contract/settings_folder.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"

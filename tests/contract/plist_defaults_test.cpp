@@ -1,6 +1,6 @@
 #include "contract/plist_defaults_fixture.h"
+#include "settings/preference_keys.h"
 #include "support/dnssd_service.h"
-#include "support/preference_keys.h"
 
 #include <QDateTime>
 #include <QProcess>

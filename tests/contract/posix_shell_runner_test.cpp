@@ -1,5 +1,5 @@
-#include "adapters/posix/posix_shell_runner.h"
-#include "adapters/posix/unique_fd.h"
+#include "adapters/process/posix_shell_runner.h"
+#include "adapters/system/unique_fd.h"
 #include "fakes/recording_console.h"
 #include "support/sanitized.h"
 

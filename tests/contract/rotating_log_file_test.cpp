@@ -1,4 +1,4 @@
-#include "adapters/posix/rotating_log_file.h"
+#include "adapters/console/rotating_log_file.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "adapters/posix/posix_sentinel_launcher.h"
+#include "adapters/process/posix_sentinel_launcher.h"
 #include "fakes/fake_sentinel_launcher.h"
 #include "support/descendants.h"
 #include "support/wait_until.h"

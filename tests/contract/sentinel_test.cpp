@@ -1,5 +1,5 @@
 // The sentinel by itself: what it takes, what it holds, how it ends.
-#include "adapters/posix/posix_sentinel_launcher.h"
+#include "adapters/process/posix_sentinel_launcher.h"
 #include "sentinel/exit_code.h"
 #include "support/descendants.h"
 #include "support/sanitized.h"

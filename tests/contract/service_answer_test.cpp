@@ -1,7 +1,7 @@
-#include "adapters/avahi/neighbour_table.h"
-#include "adapters/avahi/refused_names.h"
-#include "adapters/avahi/service_answer.h"
-#include "adapters/avahi/service_table.h"
+#include "adapters/network/neighbour_table.h"
+#include "adapters/network/refused_names.h"
+#include "adapters/network/service_answer.h"
+#include "adapters/network/service_table.h"
 #include "fakes/recording_console.h"
 #include "support/stored_value.h"
 

@@ -1,7 +1,7 @@
 // SettingsFolder: a folder of its own for a settings file, and what tests do to such a file.
 #pragma once
 
-#include "adapters/qt/plist_codec.h"
+#include "adapters/settings/plist_codec.h"
 
 #include <QDir>
 #include <QFile>

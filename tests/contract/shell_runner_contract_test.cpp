@@ -1,4 +1,4 @@
-#include "adapters/posix/posix_shell_runner.h"
+#include "adapters/process/posix_shell_runner.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_shell.h"
 

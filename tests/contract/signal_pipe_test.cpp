@@ -1,4 +1,4 @@
-#include "adapters/qt/signal_pipe.h"
+#include "adapters/process/signal_pipe.h"
 #include "support/sanitized.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "adapters/qt/signal_pipe.h"
+#include "adapters/process/signal_pipe.h"
 #include "fakes/fake_signals.h"
 #include "fakes/virtual_queues.h"
 #include "support/wait_in_loop.h"

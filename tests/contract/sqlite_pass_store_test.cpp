@@ -1,5 +1,5 @@
 // The record of passes on disk: limits, damage, locks, full disks, two programs.
-#include "adapters/qt/sqlite_pass_store.h"
+#include "adapters/passes/sqlite_pass_store.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 #include "support/wait_until.h"

@@ -1,4 +1,4 @@
-#include "adapters/qt/system_information.h"
+#include "adapters/desktop/system_information.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"

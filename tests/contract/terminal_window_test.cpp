@@ -1,4 +1,4 @@
-#include "adapters/qt/terminal_window.h"
+#include "adapters/desktop/terminal_window.h"
 #include "fakes/fake_remote_side.h"
 #include "fakes/recording_console.h"
 #include "support/wait_in_loop.h"

@@ -1,8 +1,8 @@
 add_executable(settings_writer children/settings_writer.cpp)
-target_link_libraries(settings_writer PRIVATE kelvo_testing kelvo_adapters_qt)
+target_link_libraries(settings_writer PRIVATE kelvo_testing kelvo_adapters)
 add_executable(zoo children/zoo.cpp)
 add_executable(network_watcher children/network_watcher.cpp)
-target_link_libraries(network_watcher PRIVATE kelvo_adapters_qt)
+target_link_libraries(network_watcher PRIVATE kelvo_adapters)
 
 kelvo_tests(contract
   TIMEOUT 120
@@ -48,7 +48,7 @@ kelvo_tests(contract
     contract/user_defaults_contract_test.cpp
     contract/utf8_collector_test.cpp
     contract/workspace_contract_test.cpp
-  LINKS kelvo_remote kelvo_adapters_qt kelvo_adapters_posix kelvo_bus_testing kelvo_adapters_avahi
+  LINKS kelvo_remote kelvo_adapters kelvo_bus_testing
 )
 add_dependencies(contract_tests kelvo_sentinel network_watcher settings_writer zoo)
 target_compile_definitions(contract_tests PRIVATE

@@ -1,4 +1,4 @@
-#include "adapters/posix/thread_pool_queue.h"
+#include "adapters/process/thread_pool_queue.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "adapters/qt/plist_defaults.h"
+#include "adapters/settings/plist_defaults.h"
 #include "contract/settings_folder.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"

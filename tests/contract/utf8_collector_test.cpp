@@ -1,4 +1,4 @@
-#include "adapters/posix/utf8_collector.h"
+#include "adapters/process/utf8_collector.h"
 
 #include <gtest/gtest.h>
 

@@ -18,7 +18,7 @@
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
 #include "remote/share_commands.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "ui/status_menu_presence.h"
 #include "ui/view_controller.h"
 
@@ -80,40 +80,43 @@ public:
     std::shared_ptr<FakePathControl> pathControl = std::make_shared<FakePathControl>();
     FakeWindowController windowController;
     StatusMenuWindow* window = &windowController;
-    ViewController controller{{defaults,
-                               mainQueue,
-                               bgQueue,
-                               shell,
-                               files,
-                               console,
-                               notificationCenter,
-                               bundle,
-                               application,
-                               watchdog,
-                               workspace,
-                               openPanel,
-                               networkBrowser,
-                               dnssdBrowser,
-                               [this] {
-                                   return std::make_unique<FakeNetworkChecker>(
-                                       notificationCenter, QStringLiteral("Connected"));
-                               },
-                               statusMenu,
-                               temporaryFolder,
-                               fileChanges,
-                               terminal,
-                               pasteboard,
-                               shareCommands,
-                               view,
-                               presenter,
-                               sheets,
-                               foundServices,
-                               button,
-                               &revealButton1,
-                               &revealButton2,
-                               field,
-                               pathControl,
-                               [this] { return window; }}};
+    ViewController controller{{
+        .defaults = defaults,
+        .mainQueue = mainQueue,
+        .bgQueue = bgQueue,
+        .shell = shell,
+        .files = files,
+        .console = console,
+        .notificationCenter = notificationCenter,
+        .bundle = bundle,
+        .application = application,
+        .watchdog = watchdog,
+        .workspace = workspace,
+        .openPanel = openPanel,
+        .networkBrowser = networkBrowser,
+        .dnssdBrowser = dnssdBrowser,
+        .makeKelvoSSID =
+            [this] {
+                return std::make_unique<FakeNetworkChecker>(notificationCenter,
+                                                            QStringLiteral("Connected"));
+            },
+        .statusMenu = statusMenu,
+        .temporaryFolder = temporaryFolder,
+        .fileChanges = fileChanges,
+        .terminal = terminal,
+        .pasteboard = pasteboard,
+        .shareCommands = shareCommands,
+        .view = view,
+        .alertPresenter = presenter,
+        .sheets = sheets,
+        .fArrayController = foundServices,
+        .ibStartButton = button,
+        .ibRevealButton1 = &revealButton1,
+        .ibRevealButton2 = &revealButton2,
+        .ibStatusTextField = field,
+        .fNsPathControl1 = pathControl,
+        .windowController = [this] { return window; },
+    }};
 };
 
 } // namespace kelvo

@@ -1,7 +1,7 @@
 // LabNetwork: the near host's network as this process sees it, with services of the remote host.
 #pragma once
 
-#include "adapters/avahi/avahi_browser.h"
+#include "adapters/network/avahi_browser.h"
 #include "fakes/recording_console.h"
 #include "lab/lab_fixture.h"
 

@@ -1,6 +1,6 @@
 #include "soak/process_figures.h"
 
-#include "adapters/posix/command_processes.h"
+#include "adapters/process/command_processes.h"
 
 #include <filesystem>
 #include <fstream>

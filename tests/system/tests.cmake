@@ -1,10 +1,10 @@
 include(system/setup.cmake)
 
 add_executable(tray_program system/tray_program.cpp)
-target_link_libraries(tray_program PRIVATE kelvo_ui_widgets kelvo_adapters_tray)
+target_link_libraries(tray_program PRIVATE kelvo_ui_widgets kelvo_adapters_desktop)
 
 add_executable(watched_program children/watched_program.cpp)
-target_link_libraries(watched_program PRIVATE kelvo_watchdog kelvo_adapters_qt)
+target_link_libraries(watched_program PRIVATE kelvo_app_start kelvo_adapters)
 
 kelvo_tests(system
   SOURCES

@@ -1,6 +1,6 @@
 // A program with nothing but the tray icon, driven by lines on standard input and heard by lines on
 // standard output, so that tests can look at the real icon on a real display.
-#include "adapters/tray/desktop_tray_host.h"
+#include "adapters/desktop/desktop_tray_host.h"
 #include "ui/widgets/tray_icon.h"
 
 #include <QApplication>

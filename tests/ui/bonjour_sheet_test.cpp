@@ -2,7 +2,7 @@
 #include "fakes/recording_console.h"
 #include "fakes/scripted_browser.h"
 #include "fakes/virtual_queues.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "ui/widgets/bonjour_sheet.h"
 
 #include <QAbstractButton>

@@ -1,7 +1,7 @@
 #include "fakes/fake_login_item.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/path_control_view.h"

@@ -1,5 +1,5 @@
-#include "app/app_delegate.h"
-#include "app/interface_registry.h"
+#include "app/start/app_delegate.h"
+#include "app/start/interface_registry.h"
 #include "fakes/fake_relaunch_guard.h"
 #include "fakes/fake_status_menu.h"
 #include "fakes/memory_bundle.h"

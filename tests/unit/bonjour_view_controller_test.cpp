@@ -3,7 +3,7 @@
 #include "fakes/recording_console.h"
 #include "fakes/scripted_browser.h"
 #include "fakes/virtual_queues.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "support/stored_value.h"
 #include "ui/bonjour_view_controller.h"
 

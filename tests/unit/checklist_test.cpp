@@ -2,7 +2,7 @@
 #include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
 #include "ports/checklist_probe.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "ui/checklist.h"
 #include "ui/pass_words.h"
 

@@ -1,4 +1,4 @@
-#include "app/duplicate_check.h"
+#include "app/start/duplicate_check.h"
 #include "fakes/fake_single_copy.h"
 #include "fakes/recording_console.h"
 

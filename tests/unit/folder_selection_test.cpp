@@ -4,8 +4,8 @@
 #include "fakes/fake_remote_side.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
+#include "settings/preference_keys.h"
 #include "support/file_url.h"
-#include "support/preference_keys.h"
 #include "ui/folder_selection.h"
 
 #include <gtest/gtest.h>

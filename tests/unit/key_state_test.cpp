@@ -1,8 +1,8 @@
 #include "fakes/fake_file_manager.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
-#include "remote/key_state.h"
-#include "support/preference_keys.h"
+#include "remote/key_state_watch.h"
+#include "settings/preference_keys.h"
 #include "ui/key_state_words.h"
 
 #include <QSet>

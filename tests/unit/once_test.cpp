@@ -1,4 +1,4 @@
-#include "app/once.h"
+#include "app/commands/once.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,6 +1,6 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
-#include "sync/preferences.h"
+#include "settings/preferences.h"
 #include "sync/sample_path.h"
 
 #include <QSet>

@@ -1,4 +1,4 @@
-#include "app/relaunch_decision.h"
+#include "app/start/relaunch_decision.h"
 
 #include <gtest/gtest.h>
 

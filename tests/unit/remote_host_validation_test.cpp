@@ -3,7 +3,7 @@
 #include "fakes/recording_console.h"
 #include "fakes/scripted_shell.h"
 #include "remote/remote_host_validation.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 
 #include <gtest/gtest.h>
 

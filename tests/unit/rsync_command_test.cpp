@@ -1,6 +1,6 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "sync/rsync_command.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "app/overlay_defaults.h"
-#include "app/settings_commands.h"
+#include "app/commands/settings_commands.h"
 #include "fakes/memory_defaults.h"
-#include "sync/preferences.h"
+#include "settings/overlay_defaults.h"
+#include "settings/preferences.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,6 +1,6 @@
 #include "fakes/memory_defaults.h"
 #include "remote/share_commands.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 
 #include <gtest/gtest.h>
 

@@ -6,7 +6,7 @@
 #include "fakes/virtual_queues.h"
 #include "remote/command_files.h"
 #include "remote/smb_share_access.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 
 #include <gtest/gtest.h>
 

@@ -6,7 +6,7 @@
 #include "ports/host_validator.h"
 #include "remote/command_files.h"
 #include "remote/ssh_key_provisioning.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 
 #include <gtest/gtest.h>
 

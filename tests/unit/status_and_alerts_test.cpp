@@ -2,7 +2,7 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "ui/alerts.h"
 #include "ui/status_line.h"
 

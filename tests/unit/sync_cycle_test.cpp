@@ -5,7 +5,7 @@
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
 #include "ports/host_validator.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "sync/rsync_command.h"
 #include "sync/sync_cycle.h"
 #include "ui/alerts.h"

@@ -1,5 +1,5 @@
-#include "app/watchdog.h"
-#include "app/watchdog_relaunch_guard.h"
+#include "app/start/watchdog.h"
+#include "app/start/watchdog_relaunch_guard.h"
 #include "fakes/fake_sentinel_launcher.h"
 #include "fakes/fake_signals.h"
 #include "fakes/memory_bundle.h"

@@ -2,7 +2,7 @@
 
 #include "ports/dispatch_queue.h"
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "ui/bonjour_view_controller.h"
 #include "ui/widgets/service_table_view.h"
 #include "ui_bonjour_sheet.h"

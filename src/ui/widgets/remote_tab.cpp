@@ -1,7 +1,7 @@
 #include "ui/widgets/remote_tab.h"
 
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "ui/widgets/bindings.h"
 #include "ui/widgets/source_notice.h"
 #include "ui_remote_tab.h"

@@ -1,7 +1,7 @@
 #include "ui/widgets/settings_tab.h"
 
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 #include "ui/pass_notices.h"
 #include "ui/widgets/bindings.h"
 #include "ui_settings_tab.h"

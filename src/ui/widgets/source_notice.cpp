@@ -1,7 +1,7 @@
 #include "ui/widgets/source_notice.h"
 
 #include "ports/user_defaults.h"
-#include "support/preference_keys.h"
+#include "settings/preference_keys.h"
 
 #include <QCoreApplication>
 

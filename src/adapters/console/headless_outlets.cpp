@@ -1,0 +1,57 @@
+#include "adapters/console/headless_outlets.h"
+
+#include "ports/console.h"
+#include "ports/dispatch_queue.h"
+
+namespace kelvo {
+namespace {
+
+QString onOneLine(QString text) {
+    return text.replace(QStringLiteral("\n"), QStringLiteral("\\n"));
+}
+
+} // namespace
+
+void HeadlessButton::performClick() {
+    fState = 1 - fState;
+    fAction(this);
+}
+
+void HeadlessStatusField::setAttributedStringValue(const AttributedString& value) {
+    fConsole.print(u"status " + colorName(value.foregroundColor) + u": " + onOneLine(value.string));
+}
+
+void HeadlessStatusField::clear() {
+    fConsole.print(u"status " + colorName(StatusColor::Black) + u": ");
+}
+
+SheetId HeadlessAlerts::beginSheet(const Alert& alert, std::function<void(ModalResponse)> handler) {
+    const SheetId sheet = ++fLastSheet;
+    fOpenSheets.emplace(sheet, std::move(handler));
+    printAlert(alert);
+    if (!alert.answersItself)
+        answer(sheet, cAlertFirstButtonReturn);
+    return sheet;
+}
+
+void HeadlessAlerts::endSheet(SheetId sheet) {
+    answer(sheet, cModalResponseStop);
+}
+
+ModalResponse HeadlessAlerts::runModal(const Alert& alert) {
+    printAlert(alert);
+    return cAlertFirstButtonReturn;
+}
+
+void HeadlessAlerts::printAlert(const Alert& alert) {
+    fConsole.print(u"alert: " + onOneLine(alert.messageText) + u" | " +
+                   onOneLine(alert.informativeText));
+}
+
+void HeadlessAlerts::answer(SheetId sheet, ModalResponse response) {
+    auto answered = fOpenSheets.extract(sheet);
+    if (answered)
+        fMainQueue.async([handler = std::move(answered.mapped()), response] { handler(response); });
+}
+
+} // namespace kelvo

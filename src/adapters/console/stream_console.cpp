@@ -1,0 +1,184 @@
+#include "adapters/console/stream_console.h"
+
+#include "adapters/console/line_stream.h"
+#include "ports/log_file.h"
+
+#include <QDateTime>
+
+#include <poll.h>
+#include <pthread.h>
+#include <signal.h>
+#include <sys/eventfd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+constexpr auto cStuck = 1s;
+constexpr auto cLongestEnd = 5s;
+
+QString logPrefix() {
+    return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")) +
+           u" kelvo-mirror[" + QString::number(::getpid()) + u"] ";
+}
+
+/// Whether both descriptors lead to one terminal, pipe or file.
+bool leadToOneFile(int output, int errors) {
+    struct stat first {};
+    struct stat second {};
+    return ::fstat(output, &first) == 0 && ::fstat(errors, &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
+/// Signals are for the other threads; a write to nobody gives an error instead of one.
+void blockSignals() {
+    sigset_t all;
+    ::sigfillset(&all);
+    for (const int fault : {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT})
+        ::sigdelset(&all, fault);
+    ::pthread_sigmask(SIG_BLOCK, &all, nullptr);
+}
+
+} // namespace
+
+/// What the console's thread does, and its own state.
+class StreamConsole::Writer {
+public:
+    Writer(StreamConsole& console, int output, int errors)
+        : fConsole(console), fOutput(output), fErrors(errors) {}
+
+    void run() {
+        blockSignals();
+        while (takeLines()) {
+            if (fFileLine)
+                fConsole.fLogFile.append(*fFileLine);
+            writeWhatGoes();
+        }
+    }
+
+private:
+    /// Gets the next line for each stream that is done with its last one. False when everything is
+    /// written, or given up, and the console ends.
+    bool takeLines() {
+        const std::lock_guard lock(fConsole.fMutex);
+        takeLine(fOutput, fConsole.fOutput);
+        takeLine(fErrors, fConsole.fErrors);
+        fConsole.fFileLines.finished();
+        fFileLine = fConsole.fFileLines.take();
+        if (fConsole.fStopping && !fStopping) {
+            fStopping = true;
+            fStopTime = fProgress = Clock::now();
+        }
+        const bool idle = !fOutput.busy() && !fErrors.busy() && !fFileLine;
+        if (idle)
+            fConsole.fWritten.notify_all();
+        fConsole.fAsleep = patience() != 0;
+        return !fStopping || fFileLine || (!idle && Clock::now() < giveUpTime());
+    }
+
+    static void takeLine(LineStream& stream, LineBacklog& backlog) {
+        if (stream.busy())
+            return;
+        backlog.finished();
+        if (auto line = backlog.take())
+            stream.start(std::move(*line));
+    }
+
+    void writeWhatGoes() {
+        const auto watched = [](const LineStream& stream) {
+            return pollfd{stream.busy() && !stream.gone() ? stream.fd() : -1, POLLOUT, 0};
+        };
+        std::array<pollfd, 3> fds = {watched(fOutput), watched(fErrors),
+                                     pollfd{fConsole.fWakeUp.get(), POLLIN, 0}};
+        (void)::poll(fds.data(), fds.size(), patience());
+        std::uint64_t count = 0;
+        (void)!::read(fConsole.fWakeUp.get(), &count, sizeof count);
+        for (auto [stream, ready] :
+             {std::pair(&fOutput, fds[0].revents != 0), std::pair(&fErrors, fds[1].revents != 0)}) {
+            if (stream->busy() && (ready || stream->gone()) && stream->writeSome())
+                fProgress = Clock::now();
+        }
+    }
+
+    /// For `poll`: milliseconds, -1 for ever.
+    int patience() const {
+        const auto swallows = [](const LineStream& stream) {
+            return stream.busy() && stream.gone();
+        };
+        if (fFileLine || swallows(fOutput) || swallows(fErrors))
+            return 0;
+        if (!fStopping)
+            return -1;
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(giveUpTime() - Clock::now());
+        return static_cast<int>(std::max(left, 0ms).count());
+    }
+
+    Clock::time_point giveUpTime() const {
+        return std::min(fProgress + cStuck, fStopTime + cLongestEnd);
+    }
+
+    StreamConsole& fConsole;
+    LineStream fOutput;
+    LineStream fErrors;
+    std::optional<QStringList> fFileLine;
+    bool fStopping = false;
+    Clock::time_point fStopTime;
+    Clock::time_point fProgress;
+};
+
+StreamConsole::StreamConsole(int output, int errors, LogFile& logFile)
+    : fLogFile(logFile), fOneStream(leadToOneFile(output, errors)),
+      fWakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+      fThread([this, output, errors] { Writer(*this, output, errors).run(); }) {
+    ::pthread_setname_np(fThread.native_handle(), "kelvo-console");
+}
+
+StreamConsole::~StreamConsole() {
+    {
+        const std::lock_guard lock(fMutex);
+        fStopping = true;
+        wake();
+    }
+    fThread.join();
+}
+
+void StreamConsole::print(const QStringList& pieces) {
+    const std::lock_guard lock(fMutex);
+    fOutput.add(pieces);
+    fFileLines.add(pieces);
+    wake();
+}
+
+void StreamConsole::log(const QString& text) {
+    const QString prefix = logPrefix();
+    const std::lock_guard lock(fMutex);
+    (fOneStream ? fOutput : fErrors).add({prefix, text});
+    fFileLines.add({text});
+    wake();
+}
+
+bool StreamConsole::flush(std::chrono::milliseconds timeout) {
+    std::unique_lock lock(fMutex);
+    return fWritten.wait_for(
+        lock, timeout, [this] { return fOutput.empty() && fErrors.empty() && fFileLines.empty(); });
+}
+
+/// The lock is held.
+void StreamConsole::wake() {
+    if (!std::exchange(fAsleep, false))
+        return;
+    const std::uint64_t one = 1;
+    (void)!::write(fWakeUp.get(), &one, sizeof one);
+}
+
+} // namespace kelvo

@@ -1,0 +1,56 @@
+// StreamConsole: diagnostic lines to standard output, the system log's place and the log file.
+#pragma once
+
+#include "adapters/console/line_backlog.h"
+#include "adapters/system/unique_fd.h"
+#include "ports/console.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+namespace kelvo {
+
+class LogFile;
+
+/// Printed lines go to `output`, system log lines to `errors` as
+/// "yyyy-MM-dd HH:mm:ss.zzz kelvo-mirror[pid] text", and both to the log file. A thread of its own
+/// writes; a stream whose reader is slow or gone holds up neither callers nor the other streams.
+/// Where both descriptors lead to one place, the lines stand there whole and in order.
+/// Behind a reader that is stuck at most 64 MiB of text and one line wait for each stream; what
+/// comes then is left out there, and "N lines left out" stands in its place. On a terminal control
+/// characters are spelled out ("\x1b").
+class StreamConsole final : public Console {
+public:
+    /// The descriptors stay open as long as the console; -1 for a stream that does not exist.
+    StreamConsole(int output, int errors, LogFile& logFile);
+
+    /// Writes what waits; a reader that takes nothing for 1 s, or is not done after 5 s, loses it.
+    ~StreamConsole() override;
+
+    using Console::print;
+    void print(const QStringList& pieces) override;
+    void log(const QString& text) override;
+
+    /// Waits until no line waits any more; false when `timeout` came first. Any thread.
+    bool flush(std::chrono::milliseconds timeout);
+
+private:
+    class Writer;
+    void wake();
+
+    LogFile& fLogFile;
+    const bool fOneStream;
+    const UniqueFd fWakeUp;
+    std::mutex fMutex;
+    std::condition_variable fWritten;
+    LineBacklog fOutput;
+    LineBacklog fErrors;
+    LineBacklog fFileLines;
+    bool fStopping = false;
+    bool fAsleep = false;
+    std::thread fThread;
+};
+
+} // namespace kelvo

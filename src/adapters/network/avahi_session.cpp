@@ -1,0 +1,205 @@
+#include "adapters/network/avahi_session.h"
+
+#include "adapters/network/neighbour_table.h"
+#include "adapters/network/service_answer.h"
+#include "ports/console.h"
+#include "support/text.h"
+
+#include <algorithm>
+#include <avahi-common/error.h>
+#include <avahi-common/timeval.h>
+#include <utility>
+
+namespace kelvo {
+namespace {
+
+constexpr double cFirstPause = 0.25;
+constexpr double cLongestPause = 8.0;
+
+std::optional<HeardOver> heardOver(AvahiProtocol protocol) {
+    switch (protocol) {
+    case AVAHI_PROTO_INET:
+        return HeardOver::IPv4;
+    case AVAHI_PROTO_INET6:
+        return HeardOver::IPv6;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+AvahiSession::AvahiSession(const AvahiPoll& poll, ServiceTable& table, Console& console)
+    : fPoll(poll), fTable(table), fConsole(console), fRefused(console),
+      fTimeout(poll.timeout_new(
+          &poll, nullptr,
+          [](AvahiTimeout*, void* self) { static_cast<AvahiSession*>(self)->connect(); }, this)),
+      fResolvers([this](const ResolvedService& service) { serviceResolved(service); }) {}
+
+AvahiSession::~AvahiSession() {
+    disconnect();
+    fPoll.timeout_free(fTimeout);
+}
+
+void AvahiSession::searchAfresh() {
+    fPause = 0;
+    if (fConnected)
+        startBrowser(fClient.get());
+    else
+        connectLater();
+}
+
+// -- the client
+
+void AvahiSession::connect() {
+    fPoll.timeout_update(fTimeout, nullptr);
+    disconnect();
+    int error = 0;
+    AvahiHandle<AvahiClient> client(avahi_client_new(
+        &fPoll, AVAHI_CLIENT_NO_FAIL,
+        [](AvahiClient* changed, AvahiClientState state, void* self) {
+            static_cast<AvahiSession*>(self)->clientChanged(changed, state);
+        },
+        this, &error));
+    if (client) {
+        fClient = std::move(client);
+        return;
+    }
+    tell(QStringLiteral("no message bus to reach the discovery service by"));
+    connectLater();
+}
+
+void AvahiSession::disconnect() {
+    fResolvers.clear();
+    fBrowser.reset();
+    fClient.reset();
+    fConnected = false;
+}
+
+void AvahiSession::connectLater() {
+    timeval due = {};
+    avahi_elapse_time(&due, static_cast<unsigned>(fPause * 1000), 0);
+    fPoll.timeout_update(fTimeout, &due);
+    fPause = std::clamp(fPause * 2, cFirstPause, cLongestPause);
+}
+
+void AvahiSession::clientChanged(AvahiClient* client, AvahiClientState state) {
+    switch (state) {
+    case AVAHI_CLIENT_S_REGISTERING:
+    case AVAHI_CLIENT_S_RUNNING:
+    case AVAHI_CLIENT_S_COLLISION:
+        fPause = 0;
+        if (!fConnected) {
+            fConnected = true;
+            fTold.clear();
+            startBrowser(client);
+        }
+        break;
+    case AVAHI_CLIENT_CONNECTING:
+        fConnected = false;
+        fTable.lose();
+        tell(QStringLiteral("waiting for the discovery service (avahi-daemon)"));
+        break;
+    case AVAHI_CLIENT_FAILURE:
+        // The client cannot be freed from its own callback.
+        fConnected = false;
+        fTable.lose();
+        tell(QString(u"lost the discovery service: " +
+                     QString::fromUtf8(avahi_strerror(avahi_client_errno(client)))));
+        connectLater();
+        break;
+    }
+}
+
+// -- the search
+
+void AvahiSession::startBrowser(AvahiClient* client) {
+    fResolvers.clear();
+    fBrowser.reset();
+    const ServiceSearch search = fTable.search();
+    if (search.type.isEmpty())
+        return;
+    fSearchNumber = search.number;
+    const auto callback = [](AvahiServiceBrowser* browser, AvahiIfIndex interface,
+                             AvahiProtocol protocol, AvahiBrowserEvent event, const char* name,
+                             const char* type, const char* domain, AvahiLookupResultFlags,
+                             void* self) {
+        auto& session = *static_cast<AvahiSession*>(self);
+        switch (event) {
+        case AVAHI_BROWSER_NEW:
+            session.serviceFound(avahi_service_browser_get_client(browser),
+                                 {name, type, domain, interface, protocol});
+            break;
+        case AVAHI_BROWSER_REMOVE:
+            session.serviceVanished({name, type, domain, interface, protocol});
+            break;
+        case AVAHI_BROWSER_ALL_FOR_NOW:
+            session.fTable.settle(session.fSearchNumber);
+            break;
+        case AVAHI_BROWSER_FAILURE:
+            session.tell(QStringLiteral("the search failed and is started again"));
+            session.fConnected = false;
+            session.fTable.lose();
+            session.connectLater();
+            break;
+        case AVAHI_BROWSER_CACHE_EXHAUSTED:
+            break;
+        }
+    };
+    fBrowser.reset(avahi_service_browser_new(client, AVAHI_IF_UNSPEC, AVAHI_PROTO_UNSPEC,
+                                             search.type.toUtf8().constData(), "local",
+                                             AvahiLookupFlags{}, callback, this));
+    if (fBrowser)
+        return;
+    fConnected = false;
+    connectLater();
+}
+
+void AvahiSession::serviceFound(AvahiClient* client, const ServiceQuestion& question) {
+    const auto protocol = heardOver(question.protocol);
+    const auto record = recordFromAnswer({.name = question.name,
+                                          .type = question.type,
+                                          .domain = question.domain,
+                                          .interface = static_cast<quint32>(question.interface)},
+                                         QDateTime::currentDateTimeUtc());
+    if (!record)
+        fRefused.tell(QString::fromStdString(question.name));
+    else if (protocol && fTable.found(*record, *protocol))
+        fResolvers.ask(client, question);
+}
+
+void AvahiSession::serviceVanished(const ServiceQuestion& question) {
+    const auto protocol = heardOver(question.protocol);
+    if (protocol && fTable.vanished(QString::fromStdString(question.name),
+                                    static_cast<quint32>(question.interface), *protocol))
+        fResolvers.forget(question.name, question.interface);
+}
+
+void AvahiSession::serviceResolved(const ResolvedService& service) {
+    char address[AVAHI_ADDRESS_STR_MAX] = {};
+    if (service.address)
+        avahi_address_snprint(address, sizeof address, service.address);
+    auto record = recordFromAnswer({.name = service.name,
+                                    .type = service.type,
+                                    .domain = service.domain,
+                                    .host = service.host ? service.host : "",
+                                    .address = address,
+                                    .interface = static_cast<quint32>(service.interface),
+                                    .port = service.port},
+                                   QDateTime::currentDateTimeUtc());
+    if (!record) {
+        fRefused.tell(
+            QString(QString::fromUtf8(service.name) + u" at " + QString::fromUtf8(service.host)));
+        return;
+    }
+    record->macAddress = macAddressOf(record->ip4Address, record->interface);
+    fTable.resolved(*record);
+}
+
+void AvahiSession::tell(const QString& what) {
+    if (std::exchange(fTold, what) == what)
+        return;
+    fConsole.log(insideLine(u"AvahiBrowser", u"browseForType:", QString(u"......." + what)));
+}
+
+} // namespace kelvo

@@ -1,0 +1,77 @@
+// SqlitePassStore: the records of passes in an SQLite file, on a thread of its own.
+#pragma once
+
+#include "adapters/passes/pass_database.h"
+#include "ports/pass_store.h"
+
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+namespace kelvo {
+
+class Console;
+class DispatchQueue;
+
+/// The file is opened with the first question or record. One that is broken is kept under another
+/// name, `<path>.corrupt-<UTC time>`, and begun anew. Each kind of trouble is said in the log once,
+/// and when it is over.
+class SqlitePassStore final : public PassStore {
+public:
+    /// `mainQueue` and `console` must outlive the store.
+    SqlitePassStore(const QString& path, DispatchQueue& mainQueue, Console& console,
+                    int most = cMostPasses);
+
+    /// Writes what has been appended; questions are not answered any more. Takes some seconds at
+    /// worst, when another program keeps the file locked.
+    ~SqlitePassStore() override;
+
+    void append(const PassRecord& record) override;
+    void readAll(Records answer) override;
+    void read(qint64 id, Record answer) override;
+    Subscription observe(std::function<void(const PassRecord&)> observer) override;
+
+private:
+    using Job = std::function<void(PassDatabase&)>;
+    /// Shared with what waits on the main queue; main thread only, but for `add` and `remove`.
+    struct Audience {
+        std::mutex mutex;
+        std::map<int, std::function<void(const PassRecord&)>> observers;
+        int next = 0;
+        bool gone = false;
+
+        void tell(const PassRecord& record);
+    };
+
+    void post(Job job, bool question);
+    void work();
+    void write(PassDatabase& database, const PassRecord& record);
+    PassDatabase::Outcome insert(PassDatabase& database, PassRecord& record);
+    bool repaired(PassDatabase& database, const PassDatabase::Outcome& outcome);
+    void note(const PassDatabase::Outcome& outcome);
+    void answer(std::function<void()> give);
+    void announce(PassRecord record);
+
+    const QString fPath;
+    const int fMost;
+    DispatchQueue& fMainQueue;
+    Console& fConsole;
+    std::shared_ptr<Audience> fAudience = std::make_shared<Audience>();
+
+    std::mutex fMutex;
+    std::condition_variable fPosted;
+    std::deque<std::pair<Job, bool>> fJobs; ///< true: a question
+    bool fStopping = false;
+
+    // The store's own thread only.
+    std::deque<PassRecord> fUnwritten;
+    QString fTrouble;
+
+    std::thread fThread;
+};
+
+} // namespace kelvo

@@ -1,0 +1,264 @@
+#include "adapters/process/posix_shell_runner.h"
+
+#include "adapters/process/command_processes.h"
+#include "adapters/process/shell_child.h"
+#include "adapters/process/utf8_collector.h"
+#include "ports/console.h"
+#include "support/plain_line.h"
+
+#include <poll.h>
+#include <signal.h>
+#include <sys/eventfd.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::size_t cMostErrors = std::size_t{64} * 1024;
+/// A flood must not hold up the quit: no more than a full pipe is read after giving up.
+constexpr std::size_t cLastRead = std::size_t{1024} * 1024;
+/// The exit statuses that shells give where there is none.
+constexpr int cTimeIsUp = 124;
+constexpr int cCannotStart = 126;
+constexpr int cSignalled = 128;
+constexpr auto cAskPatience = 2000ms;
+constexpr auto cForcePatience = 1000ms;
+constexpr qsizetype cLongestCommandSaid = 300;
+
+using Clock = std::chrono::steady_clock;
+using Deadline = std::optional<Clock::time_point>;
+
+Deadline deadlineAfter(std::optional<double> seconds) {
+    constexpr double cMost = 1e8; // keeps the sum within what the clock can count
+    if (!seconds)
+        return {};
+    const std::chrono::duration<double> span(std::clamp(*seconds, 0.0, cMost));
+    return Clock::now() + std::chrono::duration_cast<Clock::duration>(span);
+}
+
+/// For poll: rounded up, so that nothing wakes a little too early and turns in a circle.
+int millisecondsUntil(const Deadline& deadline) {
+    constexpr std::int64_t cMost = 3'600'000;
+    if (!deadline)
+        return -1;
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*deadline - Clock::now());
+    return static_cast<int>(std::clamp<std::int64_t>(left.count(), 0, cMost));
+}
+
+/// Whether `pid` was there to be reaped.
+bool reap(pid_t pid, int options) {
+    pid_t reaped = 0;
+    while ((reaped = ::waitpid(pid, nullptr, options)) < 0 && errno == EINTR) {
+    }
+    return reaped == pid;
+}
+
+/// How `pid` has ended, which stays to be reaped; `si_pid` is 0 when it has not.
+siginfo_t endOf(pid_t pid, int options) {
+    siginfo_t ended{};
+    while (::waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | WNOWAIT | options) < 0 &&
+           errno == EINTR) {
+    }
+    return ended;
+}
+
+} // namespace
+
+/// One run: reads both streams until the shell has ended and its standard output is closed.
+class PosixShellRunner::Capture {
+public:
+    Capture(const ShellChild& child, int giveUp)
+        : fWatched{{child.output.get(), POLLIN, 0},
+                   {child.errors.get(), POLLIN, 0},
+                   {child.ended.get(), POLLIN, 0},
+                   {giveUp, POLLIN, 0}} {}
+
+    /// Returns at the end of both, or of the program; false when the deadline came first.
+    bool follow(const Deadline& deadline) {
+        while (fWatched[Output].fd >= 0 || fWatched[Ended].fd >= 0) {
+            if (deadline && Clock::now() >= *deadline)
+                return false;
+            if (::poll(fWatched.data(), fWatched.size(), millisecondsUntil(deadline)) <= 0)
+                continue;
+            if (fWatched[Errors].revents != 0)
+                readErrors();
+            if (fWatched[Output].revents != 0)
+                readOutput();
+            if (fWatched[Ended].revents != 0)
+                fWatched[Ended].fd = -1;
+            if (fWatched[GiveUp].revents != 0)
+                break;
+        }
+        return true;
+    }
+
+    /// What is there without waiting for more.
+    void readRest() {
+        for (std::size_t got = 0, size = 0; got < cLastRead && (size = readOutput()) > 0;)
+            got += size;
+        for (std::size_t got = 0, size = 0; got < cLastRead && (size = readErrors()) > 0;)
+            got += size;
+    }
+
+    bool overflowed() const { return fOutput.overflowed(); }
+    QString output() { return fOutput.finish(); }
+
+    QString errors() const {
+        return QString::fromUtf8(fErrors.data(), static_cast<qsizetype>(fErrors.size()));
+    }
+
+    /// What the system log shall say of the error output; empty when there was none.
+    QString errorLine() const {
+        if (fErrors.empty())
+            return {};
+        QString line = QStringLiteral("Error output of a shell command: ") + errors();
+        while (line.endsWith(u'\n'))
+            line.chop(1);
+        if (fErrorsLeftOut > 0)
+            line += u" … (" + QString::number(fErrorsLeftOut) + u" more bytes left out)";
+        return line;
+    }
+
+private:
+    enum { Output, Errors, Ended, GiveUp };
+
+    /// The number of bytes that came; 0 when none is there, with the stream closed at its end.
+    std::size_t readSome(int stream, std::span<char> room) {
+        pollfd& watched = fWatched[static_cast<std::size_t>(stream)];
+        if (watched.fd < 0)
+            return 0;
+        const ssize_t size = ::read(watched.fd, room.data(), room.size());
+        if (size > 0)
+            return static_cast<std::size_t>(size);
+        if (size == 0 || (errno != EAGAIN && errno != EINTR))
+            watched.fd = -1;
+        return 0;
+    }
+
+    std::size_t readOutput() {
+        const std::size_t size = readSome(Output, fOutput.room());
+        fOutput.took(size);
+        return size;
+    }
+
+    std::size_t readErrors() {
+        std::array<char, 4096> room; // NOLINT: filled by read
+        const std::size_t size = readSome(Errors, room);
+        const std::size_t kept = std::min(size, cMostErrors - fErrors.size());
+        fErrors.append(room.data(), kept);
+        fErrorsLeftOut += size - kept;
+        return size;
+    }
+
+    Utf8Collector fOutput;
+    std::string fErrors;
+    std::size_t fErrorsLeftOut = 0;
+    std::vector<pollfd> fWatched;
+};
+
+PosixShellRunner::PosixShellRunner(Console& console)
+    : fConsole(console), fEnvironment(environmentWithoutPrompts()),
+      fGiveUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
+
+PosixShellRunner::~PosixShellRunner() {
+    endAll();
+}
+
+CommandResult PosixShellRunner::runBounded(const QString& command, std::optional<double> seconds) {
+    const Deadline deadline = deadlineAfter(seconds);
+    const std::string text = command.toStdString();
+    ShellChild child;
+    int failure = 0;
+    {
+        const std::lock_guard lock(fMutex);
+        if (fEnding)
+            return {};
+        failure = startShell(text, fEnvironment, child);
+        if (failure == 0) {
+            fSessions.push_back(child.pid);
+            ++fCallers;
+        }
+    }
+    if (failure != 0) {
+        fConsole.log(QStringLiteral("Cannot start a shell command: ") +
+                     QString::fromLocal8Bit(std::strerror(failure))); // NOLINT
+        return {{}, {}, cCannotStart};
+    }
+
+    Capture capture(child, fGiveUp.get());
+    End end = End::Own;
+    if (!capture.follow(deadline))
+        end = cutOff(child.pid, command, *seconds);
+    capture.readRest();
+    if (const QString line = capture.errorLine(); !line.isEmpty())
+        fConsole.log(line);
+    if (capture.overflowed())
+        fConsole.log(QStringLiteral("Out of memory: the output of a shell command was cut off."));
+    const std::optional<int> exitStatus = leave(child.pid, end);
+    return {capture.output(), capture.errors(), exitStatus};
+}
+
+/// What has left the session, such as the shared connection that ssh can keep for later, is not
+/// this command's any more.
+PosixShellRunner::End PosixShellRunner::cutOff(pid_t pid, const QString& command, double seconds) {
+    const bool hadEnded = endOf(pid, WNOHANG).si_pid == pid;
+    fConsole.log(u"A shell command was cut off after " + QString::number(seconds) + u" s: " +
+                 withVisibleControls(QStringView(command).left(cLongestCommandSaid)));
+    const CommandProcesses own{{&pid, 1}, {}};
+    if (!endProcesses(own, SIGTERM, cAskPatience))
+        (void)endProcesses(own, SIGKILL, cForcePatience);
+    return hadEnded ? End::Own : End::Cut;
+}
+
+/// The shell is reaped under the lock, so that `endAll` never sees a number that is free again. One
+/// that was cut off and that even the system cannot end yet is left for `endAll` to reap.
+std::optional<int> PosixShellRunner::leave(pid_t pid, End end) {
+    siginfo_t ended{};
+    const bool givenUp = [this] {
+        pollfd giveUp{fGiveUp.get(), POLLIN, 0};
+        return ::poll(&giveUp, 1, 0) > 0;
+    }();
+    if (!givenUp && end == End::Own)
+        ended = endOf(pid, 0);
+    const std::lock_guard lock(fMutex);
+    std::optional<int> exitStatus;
+    if (!givenUp && !fEnding && end == End::Cut)
+        exitStatus = cTimeIsUp;
+    else if (!givenUp && !fEnding)
+        exitStatus = ended.si_code == CLD_EXITED ? ended.si_status : cSignalled + ended.si_status;
+    if (!fEnding && reap(pid, end == End::Cut ? WNOHANG : 0))
+        std::erase(fSessions, pid);
+    --fCallers;
+    fLeft.notify_all();
+    return exitStatus;
+}
+
+void PosixShellRunner::endAll() {
+    const std::lock_guard once(fEndMutex);
+    std::vector<pid_t> sessions;
+    {
+        const std::lock_guard lock(fMutex);
+        fEnding = true;
+        sessions = fSessions;
+    }
+    const CommandProcesses commands{sessions, commandMark(::getpid())};
+    if (!endProcesses(commands, SIGTERM, cAskPatience))
+        (void)endProcesses(commands, SIGKILL, cForcePatience);
+
+    const std::uint64_t one = 1;
+    (void)!::write(fGiveUp.get(), &one, sizeof one);
+    std::unique_lock lock(fMutex);
+    fLeft.wait(lock, [this] { return fCallers == 0; });
+    for (const pid_t session : sessions)
+        (void)reap(session, WNOHANG);
+    fSessions.clear();
+}
+
+} // namespace kelvo

@@ -1,0 +1,70 @@
+// PosixShellRunner: runs command lines through /bin/sh, each in a session of its own.
+#pragma once
+
+#include "adapters/system/unique_fd.h"
+#include "ports/command_runner.h"
+#include "ports/shell_runner.h"
+
+#include <sys/types.h>
+
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kelvo {
+
+class Console;
+
+/// Commands see the environment as it was when the runner was made, less what could prompt. The
+/// first 64 KiB of a command's error output go to the system log in one line, when it has ended.
+class PosixShellRunner final : public ShellRunner, public CommandRunner {
+public:
+    /// `console` must outlive the runner.
+    explicit PosixShellRunner(Console& console);
+
+    /// As `endAll`.
+    ~PosixShellRunner() override;
+
+    /// A text with U+0000 in it, or one longer than the system passes on (128 KiB), cannot be
+    /// started; that is said in the system log. When memory runs out the text ends there, and that
+    /// is said too.
+    QString outputWhenRunAsShellCommand(const QString& command) override {
+        return run(command).output;
+    }
+    QString outputWithin(double seconds, const QString& command) override {
+        return runWithin(seconds, command).output;
+    }
+    CommandResult run(const QString& command) override { return runBounded(command, {}); }
+    CommandResult runWithin(double seconds, const QString& command) override {
+        return runBounded(command, seconds);
+    }
+
+    /// For an orderly quit: from now on every command returns the empty text at once. Whatever any
+    /// command has started and is still there, in its session or in another, is asked to end, 2 s
+    /// later forced; callers get what was captured so far, even if somebody still holds the output.
+    /// Returns when all callers are on their way, about 3 s later at worst. Any thread but one that
+    /// runs a command; calling it again does nothing.
+    void endAll();
+
+private:
+    class Capture;
+    enum class End { Own, Cut };
+    CommandResult runBounded(const QString& command, std::optional<double> seconds);
+    End cutOff(pid_t pid, const QString& command, double seconds);
+    /// The shell's exit status; nothing when it was given up.
+    std::optional<int> leave(pid_t pid, End end);
+
+    Console& fConsole;
+    const std::vector<std::string> fEnvironment;
+    UniqueFd fGiveUp;
+    std::mutex fEndMutex;
+    std::mutex fMutex;
+    std::condition_variable fLeft;
+    std::vector<pid_t> fSessions;
+    int fCallers = 0;
+    bool fEnding = false;
+};
+
+} // namespace kelvo

@@ -1,0 +1,123 @@
+#include "adapters/process/shell_child.h"
+
+#include "adapters/process/command_processes.h"
+#include "adapters/system/clean_attributes.h"
+#include "adapters/system/pidfd.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <string_view>
+
+namespace kelvo {
+namespace {
+
+constexpr int cPipeSize = 1 << 20;
+constexpr std::array<std::string_view, 4> cLeftOut = {
+    "SSH_ASKPASS=", "GIT_ASKPASS=", "SUDO_ASKPASS=", "SSH_ASKPASS_REQUIRE="};
+
+struct Pipe {
+    UniqueFd read;
+    UniqueFd write;
+};
+
+/// Moves `fd` out of the range of the standard streams, where the child's own come to lie.
+UniqueFd aboveStandardStreams(UniqueFd fd) {
+    if (fd.get() > STDERR_FILENO)
+        return fd;
+    return UniqueFd(::fcntl(fd.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+}
+
+int openPipe(Pipe& made) {
+    std::array<int, 2> ends{};
+    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
+        return errno;
+    made.read = aboveStandardStreams(UniqueFd(ends[0]));
+    made.write = aboveStandardStreams(UniqueFd(ends[1]));
+    if (!made.read || !made.write || ::fcntl(made.read.get(), F_SETFL, O_NONBLOCK) != 0)
+        return errno;
+    return 0;
+}
+
+class FileActions {
+public:
+    FileActions() { ::posix_spawn_file_actions_init(&fActions); }
+    ~FileActions() { ::posix_spawn_file_actions_destroy(&fActions); }
+    FileActions(const FileActions&) = delete;
+    FileActions& operator=(const FileActions&) = delete;
+
+    int connect(int output, int errors) {
+        int failure =
+            ::posix_spawn_file_actions_addopen(&fActions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+        if (failure == 0)
+            failure = ::posix_spawn_file_actions_adddup2(&fActions, output, STDOUT_FILENO);
+        if (failure == 0)
+            failure = ::posix_spawn_file_actions_adddup2(&fActions, errors, STDERR_FILENO);
+        if (failure == 0)
+            failure = ::posix_spawn_file_actions_addclosefrom_np(&fActions, STDERR_FILENO + 1);
+        return failure;
+    }
+    const posix_spawn_file_actions_t* get() const { return &fActions; }
+
+private:
+    posix_spawn_file_actions_t fActions{};
+};
+
+} // namespace
+
+std::vector<std::string> environmentWithoutPrompts() {
+    std::vector<std::string> kept;
+    for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
+        const std::string_view text(*entry);
+        if (std::ranges::none_of(cLeftOut, [&](auto name) { return text.starts_with(name); }))
+            kept.emplace_back(text);
+    }
+    kept.emplace_back("SSH_ASKPASS_REQUIRE=never");
+    kept.push_back(commandMark(::getpid()));
+    return kept;
+}
+
+int startShell(const std::string& command, const std::vector<std::string>& environment,
+               ShellChild& child) {
+    if (command.find('\0') != std::string::npos)
+        return EINVAL;
+    Pipe output;
+    Pipe errors;
+    if (const int failure = openPipe(output))
+        return failure;
+    if (const int failure = openPipe(errors))
+        return failure;
+    // A wide pipe saves turns; where the user's share of pipe memory is spent, the usual one does.
+    (void)::fcntl(output.write.get(), F_SETPIPE_SZ, cPipeSize);
+
+    FileActions actions;
+    if (const int failure = actions.connect(output.write.get(), errors.write.get()))
+        return failure;
+    const CleanAttributes attributes;
+
+    std::string shell = "sh";
+    std::string option = "-c";
+    std::string text = command;
+    const std::array<char*, 4> arguments = {shell.data(), option.data(), text.data(), nullptr};
+    std::vector<char*> variables;
+    variables.reserve(environment.size() + 1);
+    for (const std::string& entry : environment)
+        variables.push_back(const_cast<char*>(entry.c_str()));
+    variables.push_back(nullptr);
+
+    pid_t pid = -1;
+    const int failure = ::posix_spawn(&pid, "/bin/sh", actions.get(), attributes.get(),
+                                      arguments.data(), variables.data());
+    if (failure != 0)
+        return failure;
+    child.pid = pid;
+    child.ended = openProcess(pid);
+    child.output = std::move(output.read);
+    child.errors = std::move(errors.read);
+    return 0;
+}
+
+} // namespace kelvo

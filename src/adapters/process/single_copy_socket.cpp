@@ -1,0 +1,213 @@
+#include "adapters/process/single_copy_socket.h"
+
+#include "adapters/system/unique_fd.h"
+#include "ports/console.h"
+
+#include <QSocketNotifier>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+constexpr std::string_view cRequest = "show\n";
+constexpr std::string_view cAnswer = "shown\n";
+constexpr std::size_t cMostGuests = 16;
+constexpr auto cRetryPause = 50ms;
+
+QString lastFault() {
+    return QString::fromLocal8Bit(std::strerror(errno)); // NOLINT(concurrency-mt-unsafe)
+}
+
+std::optional<sockaddr_un> socketAddress(const std::string& path) {
+    sockaddr_un address{};
+    if (path.size() >= sizeof address.sun_path)
+        return std::nullopt;
+    address.sun_family = AF_UNIX;
+    std::copy(path.begin(), path.end(), address.sun_path);
+    return address;
+}
+
+UniqueFd localSocket() {
+    return UniqueFd(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+}
+
+const sockaddr* generic(const sockaddr_un& address) {
+    return reinterpret_cast<const sockaddr*>(&address);
+}
+
+bool isOurUser(int socket) {
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    return ::getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
+           peer.uid == ::getuid();
+}
+
+/// One attempt to have the other copy show itself.
+bool askOther(const sockaddr_un& address, Clock::time_point deadline) {
+    const UniqueFd socket = localSocket();
+    if (!socket || ::connect(socket.get(), generic(address), sizeof address) != 0 ||
+        !isOurUser(socket.get()) ||
+        ::send(socket.get(), cRequest.data(), cRequest.size(), MSG_NOSIGNAL) !=
+            static_cast<ssize_t>(cRequest.size()))
+        return false;
+    std::string answer;
+    while (answer.size() < cAnswer.size()) {
+        const auto left =
+            std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
+        pollfd source{socket.get(), POLLIN, 0};
+        if (left <= 0 || ::poll(&source, 1, static_cast<int>(left)) <= 0)
+            return false;
+        std::array<char, cAnswer.size()> bytes{};
+        const ssize_t count = ::recv(socket.get(), bytes.data(), bytes.size(), 0);
+        if (count <= 0)
+            return false;
+        answer.append(bytes.data(), static_cast<std::size_t>(count));
+    }
+    return answer == cAnswer;
+}
+
+} // namespace
+
+/// The place of the one copy: its lock, its socket, and those who are connected.
+class SingleCopySocket::Listener {
+public:
+    Listener(UniqueFd lock, std::function<void()> show)
+        : fLock(std::move(lock)), fShow(std::move(show)) {}
+    ~Listener() {
+        if (!fPath.empty())
+            ::unlink(fPath.c_str());
+    }
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+
+    bool listen(const sockaddr_un& address) {
+        fSocket = localSocket();
+        // Whoever bound it before has lost the lock.
+        ::unlink(address.sun_path);
+        // The name takes over the socket's own mode, so that it is never open to others.
+        if (!fSocket || ::fchmod(fSocket.get(), S_IRUSR | S_IWUSR) != 0 ||
+            ::bind(fSocket.get(), generic(address), sizeof address) != 0 ||
+            ::listen(fSocket.get(), cMostGuests) != 0)
+            return false;
+        fPath = address.sun_path;
+        fNotifier = std::make_unique<QSocketNotifier>(fSocket.get(), QSocketNotifier::Read);
+        QObject::connect(fNotifier.get(), &QSocketNotifier::activated, &fContext,
+                         [this] { letIn(); });
+        return true;
+    }
+
+private:
+    struct Guest {
+        UniqueFd socket;
+        std::unique_ptr<QSocketNotifier> notifier;
+        std::string said;
+    };
+
+    void letIn() {
+        UniqueFd socket(::accept4(fSocket.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+        if (!socket || !isOurUser(socket.get()))
+            return;
+        if (fGuests.size() >= cMostGuests)
+            showOut(*fGuests.front());
+        auto guest = std::make_unique<Guest>();
+        guest->socket = std::move(socket);
+        guest->notifier =
+            std::make_unique<QSocketNotifier>(guest->socket.get(), QSocketNotifier::Read);
+        QObject::connect(guest->notifier.get(), &QSocketNotifier::activated, &fContext,
+                         [this, known = guest.get()] { hear(*known); });
+        fGuests.push_back(std::move(guest));
+    }
+
+    void hear(Guest& guest) {
+        std::array<char, cRequest.size() + 1> bytes{};
+        const ssize_t count = ::recv(guest.socket.get(), bytes.data(), bytes.size(), 0);
+        if (count < 0 && (errno == EAGAIN || errno == EINTR))
+            return;
+        if (count > 0)
+            guest.said.append(bytes.data(), static_cast<std::size_t>(count));
+        if (count > 0 && guest.said.size() < cRequest.size() && cRequest.starts_with(guest.said))
+            return;
+        const bool asked = guest.said == cRequest;
+        const UniqueFd socket = std::move(guest.socket);
+        showOut(guest);
+        if (!asked)
+            return;
+        fShow();
+        (void)::send(socket.get(), cAnswer.data(), cAnswer.size(), MSG_NOSIGNAL);
+    }
+
+    void showOut(Guest& guest) {
+        const auto found =
+            std::ranges::find_if(fGuests, [&](const auto& each) { return each.get() == &guest; });
+        // Its notifier may be the one that called.
+        guest.notifier->setEnabled(false);
+        guest.notifier.release()->deleteLater();
+        fGuests.erase(found);
+    }
+
+    UniqueFd fLock;
+    std::function<void()> fShow;
+    UniqueFd fSocket;
+    std::string fPath;
+    QObject fContext;
+    std::unique_ptr<QSocketNotifier> fNotifier;
+    std::vector<std::unique_ptr<Guest>> fGuests;
+};
+
+SingleCopySocket::SingleCopySocket(std::string folder, Console& console,
+                                   std::chrono::milliseconds patience)
+    : fFolder(std::move(folder)), fConsole(console), fPatience(patience) {}
+
+SingleCopySocket::~SingleCopySocket() = default;
+
+SingleCopy::Claim SingleCopySocket::claim(std::function<void()> show) {
+    const auto unguarded = [this](const QString& fault) {
+        fConsole.log(u"Cannot look for another running copy: " + fault);
+        return Claim::Unguarded;
+    };
+    const auto address = socketAddress(fFolder + "/kelvo-mirror.socket");
+    if (fFolder.empty() || !address)
+        return unguarded(QStringLiteral("there is no usable runtime folder"));
+    const std::string lockPath = fFolder + "/kelvo-mirror.lock";
+    UniqueFd lock(::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
+                         S_IRUSR | S_IWUSR));
+    if (!lock)
+        return unguarded(QString::fromStdString(lockPath) + u": " + lastFault());
+
+    const auto deadline = Clock::now() + fPatience;
+    while (::flock(lock.get(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return unguarded(QString::fromStdString(lockPath) + u": " + lastFault());
+        if (askOther(*address, deadline))
+            return Claim::OtherIsShown;
+        if (Clock::now() >= deadline)
+            return Claim::OtherIsSilent;
+        // The other one may be just starting, or just ending.
+        ::poll(nullptr, 0, static_cast<int>(cRetryPause.count()));
+    }
+    fListener = std::make_unique<Listener>(std::move(lock), std::move(show));
+    if (!fListener->listen(*address))
+        fConsole.log(u"Later copies cannot ask this one to show itself: " + lastFault());
+    return Claim::First;
+}
+
+} // namespace kelvo

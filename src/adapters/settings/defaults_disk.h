@@ -1,0 +1,70 @@
+// DefaultsDisk: keeps the settings in memory and the settings file in agreement.
+#pragma once
+
+#include "adapters/settings/defaults_values.h"
+#include "adapters/settings/file_watch.h"
+#include "adapters/settings/plist_file.h"
+#include "ports/console.h"
+
+#include <QStringList>
+
+#include <chrono>
+#include <functional>
+#include <mutex>
+#include <optional>
+#include <thread>
+
+namespace kelvo {
+
+/// A thread of its own writes what has changed in memory and takes over what another program has
+/// written; it sleeps while nothing happens. See plist_defaults.h for the rules of the file.
+class DefaultsDisk {
+public:
+    /// Reads the file into `values`. `announce` is called with the keys that another program has
+    /// changed, on any thread and with no lock held. All references must outlive this object.
+    DefaultsDisk(const QString& path, DefaultsValues& values, Console& console,
+                 std::function<void(const QStringList&)> announce);
+    ~DefaultsDisk();
+
+    /// Says that `values` has a first change. Any thread; returns at once.
+    void wake() noexcept { fWatch.wake(); }
+
+    /// Writes what has changed so far, on this thread, whatever the writing thread does; any
+    /// thread. Returns when it is on disk, or the failure is logged.
+    void flush();
+
+private:
+    using Clock = std::chrono::steady_clock;
+    using Deadline = std::optional<Clock::time_point>;
+
+    void run(const std::stop_token& stop);
+    void load();
+    void watchFolder();
+    bool somethingToWrite() const;
+    Deadline deadline(Deadline firstChange) const;
+    QStringList takeOver();
+    QStringList writeOut();
+    QStringList exchange(std::chrono::milliseconds patience);
+    QString exchangeLocked(std::chrono::milliseconds patience);
+    QString readBase(std::chrono::milliseconds patience);
+    QString moveAside(const QString& fault);
+    QStringList adoptBase();
+    void settle(const QString& failure);
+
+    std::mutex fMutex; ///< for everything below; the watch's wait and wake need none
+    DefaultsValues& fValues;
+    Console& fConsole;
+    std::function<void(const QStringList&)> fAnnounce;
+    PlistFile fFile;
+    FileWatch fWatch;
+    bool fWatchRefused = false;
+    std::optional<QByteArray> fBytes; ///< the file as last read or written; nothing: no file
+    QVariantMap fBase;                ///< the values in fBytes
+    DefaultsChanges fUnwritten;       ///< taken from fValues, but not on disk
+    QString fTrouble;                 ///< why saving fails; empty while it works
+    std::chrono::seconds fRetryDelay{};
+    Clock::time_point fRetryAt;
+    std::jthread fThread;
+};
+
+} // namespace kelvo

@@ -1,0 +1,88 @@
+#include "adapters/settings/defaults_values.h"
+
+#include "support/stored_value.h"
+
+#include <utility>
+
+namespace kelvo {
+namespace {
+
+/// A copy that shares nothing with `values`: two threads that shared one map would write to it by
+/// turns, each trusting a count that Qt reads without ordering.
+QVariantMap ownCopy(QVariantMap values) {
+    values.detach();
+    return values;
+}
+
+} // namespace
+
+void applyChanges(QVariantMap& values, const DefaultsChanges& changes) {
+    for (auto it = changes.cbegin(); it != changes.cend(); ++it) {
+        if (it.value().isValid())
+            values.insert(it.key(), it.value());
+        else
+            values.remove(it.key());
+    }
+}
+
+QVariant DefaultsValues::object(QStringView key) const {
+    const QString name = key.toString();
+    const std::lock_guard lock(fMutex);
+    if (const auto found = fUser.constFind(name); found != fUser.cend())
+        return *found;
+    return fRegistered.value(name);
+}
+
+bool DefaultsValues::change(QStringView key, const QVariant& value) {
+    const QString name = key.toString();
+    const std::lock_guard lock(fMutex);
+    const bool first = fChanges.isEmpty();
+    if (value.isValid())
+        fUser.insert(name, value);
+    else
+        fUser.remove(name);
+    fChanges.insert(name, value);
+    return first;
+}
+
+void DefaultsValues::registerDefaults(const QVariantMap& defaults) {
+    const std::lock_guard lock(fMutex);
+    for (auto it = defaults.cbegin(); it != defaults.cend(); ++it) {
+        if (const QVariant value = storedValue(it.value()); value.isValid())
+            fRegistered.insert(it.key(), value);
+    }
+}
+
+DefaultsChanges DefaultsValues::takeChanges() {
+    const std::lock_guard lock(fMutex);
+    return std::exchange(fChanges, {});
+}
+
+bool DefaultsValues::hasChanges() const {
+    const std::lock_guard lock(fMutex);
+    return !fChanges.isEmpty();
+}
+
+QVariantMap DefaultsValues::userValues() const {
+    const std::lock_guard lock(fMutex);
+    return ownCopy(fUser);
+}
+
+QStringList DefaultsValues::adopt(const QVariantMap& stored) {
+    const std::lock_guard lock(fMutex);
+    QVariantMap next = ownCopy(stored);
+    applyChanges(next, fChanges);
+    QStringList changed;
+    for (auto it = fUser.cbegin(); it != fUser.cend(); ++it) {
+        if (!next.contains(it.key()))
+            changed.append(it.key());
+    }
+    for (auto it = next.cbegin(); it != next.cend(); ++it) {
+        if (!sameStoredValue(fUser.value(it.key()), it.value()))
+            changed.append(it.key());
+    }
+    fUser = std::move(next);
+    return changed;
+}
+
+} // namespace kelvo

@@ -1,0 +1,82 @@
+#include "app/commands/command_line.h"
+
+#include "app/version.h"
+
+#include <QCommandLineParser>
+
+namespace kelvo {
+
+CommandLine parseCommandLine(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Keeps a local folder supplied with movie files from a remote Mac."));
+    const QCommandLineOption headless(
+        QStringLiteral("headless"),
+        QStringLiteral("Run without display, window or tray; status and alerts go to standard "
+                       "output."));
+    QCommandLineOption autorelaunched(QStringLiteral("autorelaunched"));
+    autorelaunched.setFlags(QCommandLineOption::HiddenFromHelp);
+    const QCommandLineOption version({QStringLiteral("V"), QStringLiteral("version")},
+                                     QStringLiteral("Print the version and end."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Print this help and end."));
+    const QCommandLineOption once(
+        QStringLiteral("once"),
+        QStringLiteral(
+            "Run one pass with the stored settings, tell how it went and end with a code "
+            "that names the kind of trouble."));
+    const QCommandLineOption json(QStringLiteral("json"),
+                                  QStringLiteral("With --once: tell it as one JSON object."));
+    const QCommandLineOption get(QStringLiteral("get"), QStringLiteral("Print a setting."),
+                                 QStringLiteral("KEY"));
+    const QCommandLineOption set(QStringLiteral("set"), QStringLiteral("Change a setting."),
+                                 QStringLiteral("KEY> <VALUE"));
+    const QCommandLineOption unset(QStringLiteral("unset"),
+                                   QStringLiteral("Give a setting its factory value back."),
+                                   QStringLiteral("KEY"));
+    const QCommandLineOption settings(QStringLiteral("settings"),
+                                      QStringLiteral("Print all settings as JSON."));
+    parser.addOptions(
+        {headless, once, json, get, set, unset, settings, version, help, autorelaunched});
+
+    const auto refuse = [](const QString& reason) {
+        return CommandLine{LaunchKind::Refuse, false,
+                           QString(u"kelvo-mirror: " + reason + u"\nTry 'kelvo-mirror --help'.\n")};
+    };
+    const auto request = settingsRequest(arguments);
+    if (const auto* problem = std::get_if<QString>(&request))
+        return refuse(*problem);
+    if (const auto* complete = std::get_if<SettingsRequest>(&request)) {
+        CommandLine line{LaunchKind::Settings, false, {}};
+        line.settings = *complete;
+        return line;
+    }
+    if (!parser.parse(arguments))
+        return refuse(parser.errorText());
+    if (!parser.positionalArguments().isEmpty())
+        return refuse(u"unexpected argument '" + parser.positionalArguments().constFirst() + u'\'');
+    if (parser.isSet(help))
+        return {LaunchKind::PrintHelp, false, parser.helpText()};
+    if (parser.isSet(version))
+        return {LaunchKind::PrintVersion, false,
+                QString(u"kelvo-mirror " + QStringView(cVersion) + u'\n')};
+    for (const QCommandLineOption* each : {&get, &set, &unset, &settings}) {
+        if (parser.isSet(*each))
+            return refuse(u"--" + each->names().constFirst() +
+                          u" stands alone, with blanks between its words");
+    }
+    if (parser.isSet(once)) {
+        if (parser.isSet(headless))
+            return refuse(QStringLiteral("--once and --headless do not go together"));
+        CommandLine line{LaunchKind::Once, false, {}};
+        line.json = parser.isSet(json);
+        return line;
+    }
+    if (parser.isSet(json))
+        return refuse(QStringLiteral("--json goes with --once"));
+    return {parser.isSet(headless) ? LaunchKind::Headless : LaunchKind::Window,
+            parser.isSet(autorelaunched),
+            {}};
+}
+
+} // namespace kelvo

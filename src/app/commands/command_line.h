@@ -1,0 +1,24 @@
+// The program's command line.
+#pragma once
+
+#include "app/commands/settings_commands.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace kelvo {
+
+enum class LaunchKind { Window, Headless, Once, Settings, PrintVersion, PrintHelp, Refuse };
+
+struct CommandLine {
+    LaunchKind kind = LaunchKind::Window;
+    bool autorelaunched = false; ///< started again by the sentinel, not by a person
+    QString message;             ///< what to print for PrintVersion, PrintHelp and Refuse
+    bool json = false;           ///< for Once
+    SettingsRequest settings{};  ///< for Settings
+};
+
+/// Reads `arguments`, the program's name first.
+CommandLine parseCommandLine(const QStringList& arguments);
+
+} // namespace kelvo

@@ -1,0 +1,70 @@
+// ConnectionCheck: asks the remote Mac for an answer over ssh and shows the outcome.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace kelvo {
+
+class BackgroundQueue;
+class Console;
+class DispatchQueue;
+class FileManager;
+class GeneralAlerts;
+class ShareCommands;
+class ShellRunner;
+class UserDefaults;
+
+/// Fills the numbered placeholders of `text` from the settings; `text` itself when no host is set.
+/// `home` is the user's home folder. Writes its lines to `console`.
+std::optional<QString> fillInSshParams(const QString& text, const UserDefaults& defaults,
+                                       const QString& home, Console& console);
+
+/// What is wrong according to the output of the test; empty when neither of the two known faults
+/// is named there, which counts as success.
+QString connectionFault(const QString& output);
+
+/// What the test works with; the references outlive it.
+struct ConnectionCheckParts {
+    const UserDefaults& defaults;
+    const FileManager& files;
+    Console& console;
+    DispatchQueue& mainQueue;
+    BackgroundQueue& bgQueue;
+    ShellRunner& shell;
+    GeneralAlerts& alerts;
+    const ShareCommands& commands;
+    /// Receives every value of fBusyFlag3, on the main thread.
+    std::function<void(bool)> showBusy;
+};
+
+/// Main thread only. Both queues must have ended before this is destroyed.
+class ConnectionCheck {
+public:
+    explicit ConnectionCheck(ConnectionCheckParts parts);
+
+    /// The test, under the name of its button.
+    void ibTestShellCommand();
+
+    /// The test: ssh runs in the background, the outcome is an alert. Tests run side by side; each
+    /// has its own alert.
+    void ibTestShellCommand222();
+
+    /// Opens the share and writes down what is mounted 0.5 s later. Blocks while commands run.
+    void ibTestShellCommand111();
+
+    /// Whether a test is running; false as soon as the first of several has ended.
+    bool fBusyFlag3() const { return fBusy; }
+
+private:
+    void setBusyFlag3(bool busy);
+    void finish(const std::optional<QString>& output);
+    std::optional<QString> filledIn(const QString& text) const;
+
+    const ConnectionCheckParts fParts;
+    bool fBusy = false;
+};
+
+} // namespace kelvo

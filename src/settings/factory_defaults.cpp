@@ -1,0 +1,20 @@
+#include "settings/factory_defaults.h"
+
+#include "ports/bundle.h"
+#include "ports/console.h"
+#include "ports/user_defaults.h"
+
+namespace kelvo {
+
+void registerFactoryDefaults(const Bundle& bundle, UserDefaults& defaults, Console& console) {
+    const auto factory = bundle.propertyList(QStringLiteral("FactoryDefaults"));
+    if (!factory) {
+        console.print(
+            QStringLiteral("Oops something went wrong with registering facotry defaults...."));
+        return;
+    }
+    defaults.registerDefaults(*factory);
+    defaults.synchronize();
+}
+
+} // namespace kelvo
