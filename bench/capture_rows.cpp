@@ -59,7 +59,7 @@ double captureSeconds(const QString& command) {
     RecordingConsole console;
     PosixShellRunner runner(console);
     const auto begin = Clock::now();
-    const QString output = runner.outputWhenRunAsShellCommand(command);
+    const QString output = outputWhenRunAsShellCommand(runner, command);
     const double seconds = secondsSince(begin);
     return output.size() == cFlood ? seconds : -1;
 }
@@ -144,7 +144,7 @@ std::optional<std::vector<Figure>> measureStall() {
     Heartbeat heartbeat(mainQueue);
     qsizetype captured = 0;
     bgQueue.async([&] {
-        const QString output = runner.outputWhenRunAsShellCommand(flood.command());
+        const QString output = outputWhenRunAsShellCommand(runner, flood.command());
         captured = output.size();
         console.print({QStringLiteral("result from shell command =\n"), output,
                        QStringLiteral("\n======== done ========")});

@@ -4,8 +4,7 @@
 #include "bench/run_until.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
-#include "passes/pass_journal.h"
-#include "ports/command_runner.h"
+#include "passes/running_pass.h"
 
 #include <QTemporaryDir>
 
@@ -33,28 +32,43 @@ QString pullText(int lines) {
                       .arg(lines);
 }
 
+/// Answers at once: the check, then a pull that tells much, then one that tells nothing.
+class QuickCommands final : public CommandRunner {
+public:
+    CommandResult run(const Command& command) override {
+        if (command.text == u"ssh whoami")
+            return {QStringLiteral("me\n"), {}, 0};
+        return {command.text == u"rsync" ? QString() : fText, {}, 0};
+    }
+
+private:
+    const QString fText = pullText(1000);
+};
+
 std::optional<std::vector<Figure>> measureRecord() {
     const QTemporaryDir folder;
     VirtualMainQueue mainQueue;
     RecordingConsole console;
     SqlitePassStore store(folder.filePath(QStringLiteral("passes.sqlite")), mainQueue, console);
-    PassJournal journal({[] { return QDateTime::currentDateTimeUtc(); }, [] { return 0.0; }},
-                        [&store](const PassRecord& record) { store.append(record); });
+    QuickCommands commands;
+    RunningPasses passes(commands,
+                         {[] { return QDateTime::currentDateTimeUtc(); }, [] { return 0.0; }},
+                         [&store](const PassRecord& record) { store.append(record); });
     int written = 0;
     const auto subscription =
         store.observe([&written](const PassRecord& record) { written += record.id > 0 ? 1 : 0; });
-    const QString text = pullText(1000);
     std::vector<double> onThePass;
     const auto begin = Clock::now();
     for (int i = 0; i < cRecorded; ++i) {
-        const auto pass = Clock::now();
-        journal.passBegan(PassKind::Remote);
-        journal.commandEnded(QStringLiteral("ssh whoami"), {QStringLiteral("me\n"), {}, 0}, 0.1);
-        journal.hostJudged(QStringLiteral("valid"));
-        journal.commandEnded(QStringLiteral("rsync --stats"), {text, {}, 0}, 1);
-        journal.commandEnded(QStringLiteral("rsync"), {{}, {}, 0}, 1);
-        journal.passEnded();
-        onThePass.push_back(since(pass));
+        const auto passBegin = Clock::now();
+        {
+            RunningPass pass(passes, PassKind::Remote);
+            (void)pass.run(CommandRole::HostCheck, {.text = QStringLiteral("ssh whoami")});
+            pass.judged(HostVerdict::Valid);
+            (void)pass.run(CommandRole::Pull, {.text = QStringLiteral("rsync --stats")});
+            (void)pass.run(CommandRole::Pull, {.text = QStringLiteral("rsync")});
+        }
+        onThePass.push_back(since(passBegin));
     }
     if (!runUntil(mainQueue, [&written] { return written == cRecorded; })) {
         std::fprintf(stderr, "Only %d of %d passes were written.\n", written, cRecorded);

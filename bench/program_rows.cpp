@@ -3,16 +3,12 @@
 #include "adapters/system/local_file_manager.h"
 #include "bench/processor_time.h"
 #include "bench/row.h"
+#include "engine/engine.h"
 #include "fakes/fake_front.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
-#include "ports/problem_alerts.h"
-#include "ports/status_messages.h"
-#include "remote/remote_host_validation.h"
 #include "settings/preference_keys.h"
-#include "sync/rsync_command.h"
-#include "sync/sync_cycle.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -35,28 +31,18 @@ double secondsOf(const std::function<void()>& work) {
     return std::chrono::duration<double>(Clock::now() - begin).count();
 }
 
-struct NoMessages final : StatusMessages, ProblemAlerts {
-    void updateStatusMessage(std::optional<QString>, StatusColor, bool) override {}
-    void showProblemWithBonjourClosure(const QString&, const QString&,
-                                       std::function<void(ModalResponse)>) override {}
-};
-
 /// Remembers what it runs.
-class WatchedShell final : public ShellRunner {
+class WatchedCommands final : public CommandRunner {
 public:
-    explicit WatchedShell(ShellRunner& shell) : fShell(shell) {}
-    QString outputWhenRunAsShellCommand(const QString& command) override {
-        commands.append(command);
-        return fShell.outputWhenRunAsShellCommand(command);
+    explicit WatchedCommands(CommandRunner& runner) : fRunner(runner) {}
+    CommandResult run(const Command& command) override {
+        texts.append(command.text);
+        return fRunner.run(command);
     }
-    QString outputWithin(double seconds, const QString& command) override {
-        commands.append(command);
-        return fShell.outputWithin(seconds, command);
-    }
-    QStringList commands;
+    QStringList texts;
 
 private:
-    ShellRunner& fShell;
+    CommandRunner& fRunner;
 };
 
 /// A remote pass by the real engine, real commands and all, on the near host of the lab.
@@ -75,11 +61,11 @@ public:
 
     double seconds() {
         fDefaults.setObject(prefIsScanning, false);
-        fShell.commands.clear();
-        fCycle.doSyncOnceBonjour();
+        fCommands.texts.clear();
+        fEngine.syncCycle.doSyncOnceBonjour();
         return secondsOf([this] { fBgQueue.runOne(); });
     }
-    const QStringList& commands() const { return fShell.commands; }
+    const QStringList& commands() const { return fCommands.texts; }
 
 private:
     MemoryDefaults fDefaults;
@@ -87,14 +73,22 @@ private:
     ManualBackgroundQueue fBgQueue;
     RecordingConsole fConsole;
     PosixShellRunner fRunner{fConsole};
-    WatchedShell fShell{fRunner};
+    WatchedCommands fCommands{fRunner};
     LocalFileManager fFiles;
-    RsyncCommand fCommand{fDefaults, fConsole};
-    RemoteHostValidation fValidation{fDefaults, fShell, fFiles, fConsole};
-    NoMessages fMessages;
     FakeButton fButton;
-    SyncCycle fCycle{{fDefaults, fMainQueue, fBgQueue, fShell, fFiles, fConsole, fCommand,
-                      fValidation, fMessages, fMessages, fButton}};
+    Engine fEngine{{.defaults = fDefaults,
+                    .mainQueue = fMainQueue,
+                    .bgQueue = fBgQueue,
+                    .commands = fCommands,
+                    .files = fFiles,
+                    .console = fConsole,
+                    .clock = {[] { return QDateTime::currentDateTimeUtc(); }, [] { return 0.0; }},
+                    .passEnded = [](const PassRecord&) {}},
+                   {.updateStatusMessage = [](std::optional<QString>, StatusColor, bool) {},
+                    .showProblemWithBonjourClosure = [](const QString&, const QString&,
+                                                        std::function<void(ModalResponse)>) {},
+                    .ibStartButton = fButton},
+                   [](KeyState) {}};
 };
 
 double shellSeconds(const QStringList& commands) {

@@ -1,6 +1,8 @@
 // Front: the face of the program, with a window or without.
 #pragma once
 
+#include "ui/outlets.h"
+
 #include <QString>
 
 #include <functional>
@@ -8,25 +10,15 @@
 
 namespace kelvo {
 
-class AlertPresenter;
 class AppDelegate;
 class Application;
-class ArrayController;
 class BackgroundQueue;
-class Button;
 class ChecklistProbe;
 class Console;
-class Control;
 class DispatchQueue;
 class DnssdBrowser;
 class LoginItem;
-class MainView;
-class OpenPanel;
 class PassStore;
-class Pasteboard;
-class PathControl;
-class SheetOpener;
-class StatusField;
 class StatusMenu;
 class Terminal;
 class UserDefaults;
@@ -53,28 +45,12 @@ struct FrontParts {
     LoginItem& loginItem;
 };
 
-/// What lies in the front, for the main view's controller.
-struct FrontOutlets {
-    MainView& view;
-    AlertPresenter& alertPresenter;
-    SheetOpener& sheets;
-    OpenPanel& openPanel;
-    Terminal& terminal;
-    Pasteboard& pasteboard;
-    ArrayController& fArrayController;
-    Button& ibStartButton;
-    const Control* ibRevealButton1;
-    const Control* ibRevealButton2;
-    std::weak_ptr<StatusField> ibStatusTextField;
-    std::weak_ptr<PathControl> fNsPathControl1;
-};
-
 /// Main thread only. What it hands out lives as long as the front.
 class Front {
 public:
     virtual ~Front() = default;
     virtual Application& application() = 0;
-    virtual FrontOutlets outlets() = 0;
+    virtual Outlets outlets() = 0;
 
     /// The controller of the front's window; the same at each call.
     virtual std::shared_ptr<WindowController> windowController() = 0;

@@ -13,12 +13,11 @@
 namespace kelvo {
 
 MachineParts::MachineParts(bool withTray)
-    : console(STDOUT_FILENO, STDERR_FILENO, logFile), defaults(settingsFile(), mainQueue, console),
+    : PassMachine(STDOUT_FILENO, STDERR_FILENO),
       loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), fileChanges),
-      bundle(resourceFolder()), shell(console),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
       terminal(temporaryFolder, console),
-      systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, mainQueue,
+      systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
       singleCopy(runtimeFolder().path, console), dnssdBrowser(console),
       notices([this](const QString& title, const QString& text) {

@@ -1,9 +1,7 @@
-// MachineParts: the real adapters, each after those it works with.
+// MachineParts: the real adapters of a program with a front, beyond those that passes need.
 #pragma once
 
 #include "adapters/console/headless_status_menu.h"
-#include "adapters/console/rotating_log_file.h"
-#include "adapters/console/stream_console.h"
 #include "adapters/desktop/autostart_entry.h"
 #include "adapters/desktop/bus_notices.h"
 #include "adapters/desktop/desktop_workspace.h"
@@ -13,17 +11,11 @@
 #include "adapters/network/avahi_network_browser.h"
 #include "adapters/process/local_notification_center.h"
 #include "adapters/process/posix_sentinel_launcher.h"
-#include "adapters/process/posix_shell_runner.h"
-#include "adapters/process/qt_main_queue.h"
 #include "adapters/process/runtime_folder.h"
-#include "adapters/process/signal_pipe.h"
 #include "adapters/process/single_copy_socket.h"
-#include "adapters/process/thread_pool_queue.h"
-#include "adapters/settings/file_bundle.h"
-#include "adapters/settings/plist_defaults.h"
 #include "adapters/system/local_checklist_probe.h"
 #include "adapters/system/local_file_changes.h"
-#include "adapters/system/local_file_manager.h"
+#include "app/pass_machine.h"
 #include "remote/share_commands.h"
 
 #include <memory>
@@ -34,7 +26,7 @@ class NetworkChecker;
 class TrayHost;
 
 /// Main thread only; made once the application object exists.
-struct MachineParts {
+struct MachineParts : PassMachine {
     /// `withTray` needs a QApplication.
     explicit MachineParts(bool withTray);
     ~MachineParts();
@@ -44,25 +36,16 @@ struct MachineParts {
     StatusMenu& statusMenu() { return *fStatusMenu; }
     std::unique_ptr<NetworkChecker> makeNetworkChecker();
 
-    RotatingLogFile logFile;
-    StreamConsole console;
-    QtMainQueue mainQueue;
-    PlistDefaults defaults;
-    LocalFileManager files;
     LocalChecklistProbe checklistProbe;
     LocalFileChanges fileChanges;
     AutostartEntry loginItem;
     UserTemporaryFolder temporaryFolder;
     PlatformShareCommands shareCommands;
-    FileBundle bundle;
     LocalNotificationCenter notificationCenter;
-    PosixShellRunner shell;
-    ThreadPoolQueue bgQueue;
     DesktopWorkspace workspace;
     TerminalWindow terminal;
     LocalSystemInformation systemInformation;
     SingleCopySocket singleCopy;
-    SignalPipe signals;
     PosixSentinelLauncher sentinelLauncher;
     AvahiBrowser dnssdBrowser;
     AvahiNetworkBrowser networkBrowser;

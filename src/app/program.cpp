@@ -2,7 +2,6 @@
 
 #include "app/front.h"
 #include "app/machine_parts.h"
-#include "app/pass_recording.h"
 #include "app/start/app_delegate.h"
 #include "app/start/duplicate_check.h"
 #include "app/start/interface_registry.h"
@@ -61,9 +60,7 @@ public:
     }
 
     ~Machine() {
-        fParts.mainQueue.stop();
-        fParts.shell.endAll();
-        fParts.bgQueue.stopAndWait();
+        fParts.end();
         fParts.defaults.synchronize();
     }
 
@@ -107,7 +104,7 @@ private:
                 .terminal = fParts.terminal,
                 .logFolder = logFolder(),
                 .trouble = [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
-                .passes = fPasses.store,
+                .passes = fParts.passes,
                 .bgQueue = fParts.bgQueue,
                 .homeDirectory = fParts.files.homeDirectory(),
                 .checklistProbe = fParts.checklistProbe,
@@ -119,43 +116,24 @@ private:
     }
 
     std::shared_ptr<ViewController> makeViewController() {
-        const FrontOutlets outlets = front().outlets();
         auto controller = std::make_shared<ViewController>(ViewControllerParts{
-            .defaults = fParts.defaults,
-            .mainQueue = fParts.mainQueue,
-            .bgQueue = fParts.bgQueue,
-            .shell = fPasses.shell,
-            .files = fParts.files,
-            .console = fParts.console,
+            .engine = fParts.engineParts(fParts.defaults),
+            .outlets = front().outlets(),
             .notificationCenter = fParts.notificationCenter,
             .bundle = fParts.bundle,
-            .application = front().application(),
             .watchdog = fRelaunchGuard,
             .workspace = fParts.workspace,
-            .openPanel = outlets.openPanel,
             .networkBrowser = fParts.networkBrowser,
             .dnssdBrowser = fParts.dnssdBrowser,
             .makeKelvoSSID = [this] { return fParts.makeNetworkChecker(); },
             .statusMenu = fStatusMenu,
             .temporaryFolder = fParts.temporaryFolder,
             .fileChanges = fParts.fileChanges,
-            .terminal = outlets.terminal,
-            .pasteboard = outlets.pasteboard,
             .shareCommands = fParts.shareCommands,
-            .view = outlets.view,
-            .alertPresenter = outlets.alertPresenter,
-            .sheets = outlets.sheets,
-            .fArrayController = outlets.fArrayController,
-            .ibStartButton = outlets.ibStartButton,
-            .ibRevealButton1 = outlets.ibRevealButton1,
-            .ibRevealButton2 = outlets.ibRevealButton2,
-            .ibStatusTextField = outlets.ibStatusTextField,
-            .fNsPathControl1 = outlets.fNsPathControl1,
             .windowController = [this]() -> StatusMenuWindow* {
                 WindowController& window = *front().windowController();
                 return window.contentViewController() ? &window : nullptr;
             },
-            .passListener = &fPasses.journal,
         });
         front().sendActionsTo(*controller, *fDelegate);
         return controller;
@@ -192,8 +170,7 @@ private:
 
     const FrontKind fKind;
     MachineParts fParts;
-    PassRecording fPasses{fParts.shell, fParts.mainQueue, fParts.console};
-    PassNotices fNotices{fPasses.store, fParts.defaults, fParts.notices};
+    PassNotices fNotices{fParts.passes, fParts.defaults, fParts.notices};
     StatusMenuPresence fStatusMenu;
     WatchdogRelaunchGuard fRelaunchGuard;
     DuplicateCheck fDuplicates;

@@ -55,8 +55,9 @@ public:
 
     Application& application() override { return fApplication; }
     std::shared_ptr<WindowController> windowController() override { return fWindowController; }
-    FrontOutlets outlets() override {
+    Outlets outlets() override {
         return {
+            .application = fApplication,
             .view = fView,
             .alertPresenter = fAlerts,
             .sheets = fSheets,

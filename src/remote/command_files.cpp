@@ -1,9 +1,9 @@
 #include "remote/command_files.h"
 
+#include "ports/command_runner.h"
 #include "ports/console.h"
 #include "ports/file_changes.h"
 #include "ports/file_manager.h"
-#include "ports/shell_runner.h"
 #include "ports/temporary_folder.h"
 #include "support/text.h"
 
@@ -37,7 +37,7 @@ bool CommandFiles::removeIfThere(const QString& path) {
 QString CommandFiles::chmodAsExecutable(const QString& path) {
     const QString command = u"/bin/chmod 0755 2>&1 \"" + insideDoubleQuotes(path) + u'"';
     fParts.console.print(u"trying command = [" + command + u']');
-    QString output = fParts.shell.outputWithin(cCommandGrace, command);
+    QString output = outputWithin(fParts.shell, cCommandGrace, command);
     fParts.console.print(u"terminal chmod result = [" + output + u']');
     return output;
 }

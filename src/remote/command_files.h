@@ -12,7 +12,7 @@ namespace kelvo {
 class Console;
 class FileChanges;
 class FileManager;
-class ShellRunner;
+class CommandRunner;
 class TemporaryFolder;
 
 /// What the steps work with; the references outlive them.
@@ -20,7 +20,7 @@ struct CommandFileParts {
     Console& console;
     const FileManager& files;
     FileChanges& changes;
-    ShellRunner& shell;
+    CommandRunner& shell;
     const TemporaryFolder& temporaryFolder;
     Terminal& terminal;
 };

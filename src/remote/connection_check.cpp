@@ -1,10 +1,10 @@
 #include "remote/connection_check.h"
 
+#include "ports/command_runner.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "ports/file_manager.h"
 #include "ports/general_alerts.h"
-#include "ports/shell_runner.h"
 #include "ports/user_defaults.h"
 #include "remote/share_commands.h"
 #include "settings/preference_keys.h"
@@ -78,7 +78,7 @@ void ConnectionCheck::ibTestShellCommand222() {
     background(
         fParts.bgQueue, fParts.mainQueue, 0.0,
         [&shell = fParts.shell, command = *command, result] {
-            *result = shell.outputWithin(cPatience, command);
+            *result = outputWithin(shell, cPatience, command);
         },
         [this, result] { finish(*result); });
 }
@@ -125,7 +125,7 @@ void ConnectionCheck::ibTestShellCommand111() {
     if (!target)
         return;
     const QString command = fParts.commands.openShare(*target);
-    const QString output = fParts.shell.outputWithin(cSharePatience, command);
+    const QString output = outputWithin(fParts.shell, cSharePatience, command);
     fParts.console.log(insideLine(
         cTypeName, operation, QString(u".......response[" + command + u"]= [" + output + u"]")));
     if (!output.isEmpty()) {
@@ -134,9 +134,10 @@ void ConnectionCheck::ibTestShellCommand111() {
     }
     fParts.mainQueue.asyncAfter(cVolumeListDelay, [this, operation, target] {
         const QString listing = fParts.commands.listVolumes(*target);
-        fParts.console.log(insideLine(cTypeName, operation,
-                                      QString(u".......response[" + listing + u"]= " +
-                                              fParts.shell.outputWithin(cSharePatience, listing))));
+        fParts.console.log(
+            insideLine(cTypeName, operation,
+                       QString(u".......response[" + listing + u"]= " +
+                               outputWithin(fParts.shell, cSharePatience, listing))));
     });
 }
 

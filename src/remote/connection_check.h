@@ -14,7 +14,7 @@ class DispatchQueue;
 class FileManager;
 class GeneralAlerts;
 class ShareCommands;
-class ShellRunner;
+class CommandRunner;
 class UserDefaults;
 
 /// Fills the numbered placeholders of `text` from the settings; `text` itself when no host is set.
@@ -33,7 +33,7 @@ struct ConnectionCheckParts {
     Console& console;
     DispatchQueue& mainQueue;
     BackgroundQueue& bgQueue;
-    ShellRunner& shell;
+    CommandRunner& shell;
     GeneralAlerts& alerts;
     const ShareCommands& commands;
     /// Receives every value of fBusyFlag3, on the main thread.

@@ -4,6 +4,7 @@
 #include "ports/file_manager.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "settings/remote_account.h"
 #include "support/key_file.h"
 #include "support/text.h"
 
@@ -16,14 +17,14 @@ constexpr qint64 cTimeout = 5; // seconds
 
 } // namespace
 
-KeyState keyState(const QString& verdict, bool bothFilesExist) {
-    if (verdict == u"valid")
+KeyState keyState(const HostVerdict& verdict, bool bothFilesExist) {
+    if (verdict == HostVerdict::Valid)
         return KeyState::Accepted;
     if (!bothFilesExist)
         return KeyState::NoKey;
-    if (verdict.isEmpty())
+    if (verdict.text().isEmpty())
         return KeyState::HostUnset;
-    return verdict == u"checkremotehost" ? KeyState::HostAway : KeyState::NotAccepted;
+    return verdict == HostVerdict::CheckRemoteHost ? KeyState::HostAway : KeyState::NotAccepted;
 }
 
 KeyStateWatch::KeyStateWatch(KeyStateParts parts) : fParts(std::move(parts)) {}
@@ -39,11 +40,14 @@ void KeyStateWatch::begin() {
     forget();
 }
 
-QString KeyStateWatch::validateRemoteHostWithWhoami(qint64 timeout) {
-    const QString asked = target();
-    QString verdict = fParts.validator.validateRemoteHostWithWhoami(timeout);
-    fParts.mainQueue.async([this, asked, verdict] { answered(asked, verdict); });
-    return verdict;
+/// An answer about another host than the one that is set now says nothing.
+void KeyStateWatch::answered(const QString& target, const HostVerdict& verdict) {
+    fParts.mainQueue.async([this, target, verdict] {
+        if (target == this->target())
+            fParts.show(keyState(verdict, bothFilesExist()));
+        else
+            forget();
+    });
 }
 
 void KeyStateWatch::checkAgain() {
@@ -59,8 +63,7 @@ void KeyStateWatch::ask() {
     fAskAgain = false;
     fParts.show(KeyState::Asking);
     background(
-        fParts.bgQueue, fParts.mainQueue, 0.0,
-        [this] { (void)validateRemoteHostWithWhoami(cTimeout); },
+        fParts.bgQueue, fParts.mainQueue, 0.0, [this] { fParts.validate(cTimeout); },
         [this] {
             fAsking = false;
             if (fAskAgain)
@@ -75,14 +78,6 @@ void KeyStateWatch::forget() {
         fParts.show(target().isEmpty() ? KeyState::HostUnset : KeyState::NotAsked);
 }
 
-/// An answer about another host than the one that is set now says nothing.
-void KeyStateWatch::answered(const QString& asked, const QString& verdict) {
-    if (asked == target())
-        fParts.show(keyState(verdict, bothFilesExist()));
-    else
-        forget();
-}
-
 bool KeyStateWatch::bothFilesExist() const {
     const QString keyPath = expandingTilde(cPrivateKeyFile, fParts.files.homeDirectory());
     return fParts.files.fileExistsAtPath(keyPath) &&
@@ -90,9 +85,8 @@ bool KeyStateWatch::bothFilesExist() const {
 }
 
 QString KeyStateWatch::target() const {
-    const auto user = fParts.defaults.stringForKey(prefRemoteUsername);
-    const auto host = fParts.defaults.stringForKey(prefRemoteBonjourName);
-    return user && host ? QString(*user + u'@' + *host) : QString();
+    const auto account = remoteAccount(fParts.defaults);
+    return account ? account->destination() : QString();
 }
 
 } // namespace kelvo

@@ -1,7 +1,7 @@
 // KeyStateWatch: keeps what is known of the program's key from the last validation.
 #pragma once
 
-#include "ports/host_validator.h"
+#include "support/host_verdict.h"
 #include "support/key_state.h"
 #include "support/subscription.h"
 
@@ -15,7 +15,7 @@ class FileManager;
 class UserDefaults;
 
 /// What `verdict` of a validation says of a key whose files are there or not.
-KeyState keyState(const QString& verdict, bool bothFilesExist);
+KeyState keyState(const HostVerdict& verdict, bool bothFilesExist);
 
 /// What the watch works with; the references outlive it.
 struct KeyStateParts {
@@ -23,23 +23,29 @@ struct KeyStateParts {
     const FileManager& files;
     DispatchQueue& mainQueue;
     BackgroundQueue& bgQueue;
-    HostValidator& validator;
+    /// Asks the host with this connect time-out in seconds, and blocks; the answer comes by
+    /// `answered`.
+    std::function<void(qint64 timeout)> validate;
     /// Receives every state, on the main thread.
     std::function<void(KeyState)> show;
 };
 
-/// A validator that passes every question on and keeps the answers. Main thread only, except that
-/// validations may run on any thread. Both queues must have ended before this is destroyed.
-class KeyStateWatch final : public HostValidator {
+/// Main thread only, where nothing else is said. Both queues must have ended before this is
+/// destroyed.
+class KeyStateWatch {
 public:
     explicit KeyStateWatch(KeyStateParts parts);
-    ~KeyStateWatch() override;
+    ~KeyStateWatch();
+    KeyStateWatch(const KeyStateWatch&) = delete;
+    KeyStateWatch& operator=(const KeyStateWatch&) = delete;
 
     /// Shows what the files tell now, and again whenever another host or user is set, by which what
     /// an earlier host said is forgotten. Asks nobody. Called once.
     void begin();
 
-    QString validateRemoteHostWithWhoami(qint64 timeout) override;
+    /// A validation has asked `target`, user@host, and this came of it. Any thread; shown later on
+    /// the main thread, unless another target is set by then.
+    void answered(const QString& target, const HostVerdict& verdict);
 
     /// The key files are not what they were: what was known of the old ones is forgotten.
     void keysChanged() { forget(); }
@@ -51,7 +57,6 @@ public:
 private:
     void forget();
     void ask();
-    void answered(const QString& target, const QString& verdict);
     bool bothFilesExist() const;
     QString target() const;
 

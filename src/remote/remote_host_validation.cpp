@@ -3,34 +3,35 @@
 #include "ports/console.h"
 #include "ports/file_manager.h"
 #include "ports/user_defaults.h"
-#include "settings/preference_keys.h"
+#include "settings/remote_account.h"
 #include "support/key_file.h"
 #include "support/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kelvo {
 
-HostVerdict hostVerdict(const QString& answer, const QString& username, bool keyFileExists) {
+JudgedAnswer judgedAnswer(const QString& answer, const QString& username, bool keyFileExists) {
     const QString lowered = answer.toLower();
     if (lowered == username.toLower())
-        return {QStringLiteral("valid"), {}};
+        return {HostVerdict::Valid, {}};
 
     const auto begins = [&lowered](QStringView text) {
         return lowered.startsWith(text.toString().toLower());
     };
     if (!keyFileExists) {
         if (begins(u"Warning: Identity file"))
-            return {QStringLiteral("checksshkeys"), QStringLiteral("missing clients ssh key2...")};
-        return {answer, {}};
+            return {HostVerdict::CheckSshKeys, QStringLiteral("missing clients ssh key2...")};
+        return {HostVerdict::fromText(answer), {}};
     }
     if (begins(u"ssh: could not resolve hostname"))
-        return {QStringLiteral("checkremotehost"), QStringLiteral("remote host not on network")};
+        return {HostVerdict::CheckRemoteHost, QStringLiteral("remote host not on network")};
     if (begins(u"permission denied"))
-        return {QStringLiteral("checkusername"), QStringLiteral("check username...")};
+        return {HostVerdict::CheckUsername, QStringLiteral("check username...")};
     if (begins(u"Warning: Identity file"))
-        return {QStringLiteral("checksshkeys"), QStringLiteral("missing clients ssh key1...")};
-    return {QStringLiteral("unknownerror"), QStringLiteral("Please check some other issue??????")};
+        return {HostVerdict::CheckSshKeys, QStringLiteral("missing clients ssh key1...")};
+    return {HostVerdict::UnknownError, QStringLiteral("Please check some other issue??????")};
 }
 
 QString whoamiCommand(qint64 timeout, const QString& keyPath, const QString& target) {
@@ -40,30 +41,48 @@ QString whoamiCommand(qint64 timeout, const QString& keyPath, const QString& tar
     return command.replace(QStringLiteral("%@2"), target);
 }
 
-QString RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout) {
-    fConsole.log(insideLine(u"ViewController", u"validateRemoteHostWithWhoami(_:)",
-                            QString(u".......timeout = " + QString::number(timeout))));
-    const auto username = fDefaults.stringForKey(prefRemoteUsername);
-    if (!username)
-        return {};
-    const auto host = fDefaults.stringForKey(prefRemoteBonjourName);
-    if (!host)
-        return {};
+RemoteHostValidation::RemoteHostValidation(RemoteHostValidationParts parts)
+    : fParts(std::move(parts)) {}
 
-    const QString keyPath = expandingTilde(cPrivateKeyFile, fFiles.homeDirectory());
-    const QString command = whoamiCommand(timeout, keyPath, QString(*username + u'@' + *host));
-    fConsole.print(u"cmd to check valid user and remote host = \n" + command);
-    const double patience = static_cast<double>(timeout) + fGrace;
-    const QString answer = trimmedText(fShell.outputWithin(std::max(patience, 0.0), command));
+HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout) const {
+    return validateRemoteHostWithWhoami(
+        timeout, [this](const Command& command) { return fParts.commands.run(command); });
+}
+
+HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout,
+                                                               const RunCommand& run) const {
+    QString target;
+    const HostVerdict verdict = ask(timeout, run, target);
+    if (fParts.answered)
+        fParts.answered(target, verdict);
+    return verdict;
+}
+
+HostVerdict RemoteHostValidation::ask(qint64 timeout, const RunCommand& run,
+                                      QString& target) const {
+    Console& console = fParts.console;
+    console.log(insideLine(u"ViewController", u"validateRemoteHostWithWhoami(_:)",
+                           QString(u".......timeout = " + QString::number(timeout))));
+    const auto account = remoteAccount(fParts.defaults);
+    if (!account)
+        return HostVerdict::NotAsked;
+    target = account->destination();
+
+    const QString keyPath = expandingTilde(cPrivateKeyFile, fParts.files.homeDirectory());
+    const QString command = whoamiCommand(timeout, keyPath, target);
+    console.print(u"cmd to check valid user and remote host = \n" + command);
+    const double patience = std::max(static_cast<double>(timeout) + fParts.grace, 0.0);
+    const QString answer = trimmedText(run({.text = command, .seconds = patience}).output);
 
     const QString rule(65, u'=');
-    fConsole.print(rule);
-    fConsole.print(u"\n\nusername and remote host status =\n" + answer);
-    fConsole.print(rule);
+    console.print(rule);
+    console.print(u"\n\nusername and remote host status =\n" + answer);
+    console.print(rule);
 
-    const HostVerdict judged = hostVerdict(answer, *username, fFiles.fileExistsAtPath(keyPath));
+    const JudgedAnswer judged =
+        judgedAnswer(answer, account->user, fParts.files.fileExistsAtPath(keyPath));
     if (!judged.remark.isEmpty())
-        fConsole.print(judged.remark);
+        console.print(judged.remark);
     return judged.verdict;
 }
 

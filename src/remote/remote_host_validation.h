@@ -1,8 +1,10 @@
 // RemoteHostValidation: proves over ssh that the remote account is the one the user typed.
 #pragma once
 
-#include "ports/host_validator.h"
-#include "ports/shell_runner.h"
+#include "ports/command_runner.h"
+#include "support/host_verdict.h"
+
+#include <functional>
 
 namespace kelvo {
 
@@ -11,36 +13,48 @@ class FileManager;
 class UserDefaults;
 
 /// What the answer of `whoami` over ssh means.
-struct HostVerdict {
-    QString verdict;
+struct JudgedAnswer {
+    HostVerdict verdict;
     QString remark; ///< the line for the console; empty when there is none
 
-    bool operator==(const HostVerdict&) const = default;
+    bool operator==(const JudgedAnswer&) const = default;
 };
 
 /// Judges `answer`, the trimmed output of the command. Only its beginning counts, in any letter
 /// case; while the key file is missing an answer of another kind is the verdict itself.
-HostVerdict hostVerdict(const QString& answer, const QString& username, bool keyFileExists);
+JudgedAnswer judgedAnswer(const QString& answer, const QString& username, bool keyFileExists);
 
 /// The command that asks: `timeout` in seconds, `target` as user@host.
 QString whoamiCommand(qint64 timeout, const QString& keyPath, const QString& target);
 
-class RemoteHostValidation final : public HostValidator {
-public:
+/// What the validation works with; the references outlive it.
+struct RemoteHostValidationParts {
+    const UserDefaults& defaults;
+    CommandRunner& commands;
+    const FileManager& files;
+    Console& console;
+    /// Hears each verdict on the thread that asked; `target` is user@host, empty when one of them
+    /// is not set. May be empty.
+    std::function<void(const QString& target, const HostVerdict&)> answered = {};
     /// ssh's own time-out ends with the exchange of keys; a host that stalls after that is waited
-    /// for `grace` seconds beyond it.
-    RemoteHostValidation(UserDefaults& defaults, ShellRunner& shell, FileManager& files,
-                         Console& console, double grace = cCommandGrace)
-        : fDefaults(defaults), fShell(shell), fFiles(files), fConsole(console), fGrace(grace) {}
+    /// for so many seconds beyond it.
+    double grace = cCommandGrace;
+};
 
-    QString validateRemoteHostWithWhoami(qint64 timeout) override;
+/// Any thread.
+class RemoteHostValidation {
+public:
+    explicit RemoteHostValidation(RemoteHostValidationParts parts);
+
+    /// Asks the remote host who we are there. `timeout` is ssh's connect time-out in seconds.
+    /// Blocks. The second form runs its command by `run`.
+    HostVerdict validateRemoteHostWithWhoami(qint64 timeout) const;
+    HostVerdict validateRemoteHostWithWhoami(qint64 timeout, const RunCommand& run) const;
 
 private:
-    UserDefaults& fDefaults;
-    ShellRunner& fShell;
-    FileManager& fFiles;
-    Console& fConsole;
-    const double fGrace;
+    HostVerdict ask(qint64 timeout, const RunCommand& run, QString& target) const;
+
+    const RemoteHostValidationParts fParts;
 };
 
 } // namespace kelvo

@@ -1,7 +1,7 @@
 // ShareCommands: the shell texts that mount the remote Mac's share and find it on this machine.
 #pragma once
 
-#include "ports/shell_runner.h"
+#include "ports/command_runner.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #include "remote/smb_share_access.h"
 
+#include "ports/command_runner.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
-#include "ports/shell_runner.h"
 #include "ports/workspace.h"
 #include "remote/command_files.h"
 #include "support/text.h"
@@ -74,7 +74,7 @@ void SmbShareAccess::ibRevealSourcePathSMBdebugOLD() {
 
 void SmbShareAccess::openShare(QStringView operation, const QString& command,
                                const ShareTarget& target, const std::function<void()>& opened) {
-    const QString output = fParts.shell.outputWithin(cSharePatience, command);
+    const QString output = outputWithin(fParts.shell, cSharePatience, command);
     logInside(operation, QString(u".......response = " + output));
     if (output.isEmpty()) {
         opened();
@@ -94,7 +94,7 @@ void SmbShareAccess::openShare(QStringView operation, const QString& command,
 
 void SmbShareAccess::findFolder(QStringView operation, const ShareTarget& target, Search search) {
     const QString list = fParts.commands.listVolumes(target);
-    const QString listing = fParts.shell.outputWithin(cSharePatience, list);
+    const QString listing = outputWithin(fParts.shell, cSharePatience, list);
     logInside(operation, QString(u".......response[" + list + u"]= " + listing));
     logInside(operation, QString(u".......  domain = " + target.host));
     logInside(operation, QString(u".......username = " + target.user));
@@ -103,7 +103,7 @@ void SmbShareAccess::findFolder(QStringView operation, const ShareTarget& target
 
     const QString pick = fParts.commands.pickVolume(trimmedText(listing), target);
     fParts.console.print(u"cmdformat = [ " + pick + u" ]");
-    const QString picked = trimmedText(fParts.shell.outputWithin(cSharePatience, pick));
+    const QString picked = trimmedText(outputWithin(fParts.shell, cSharePatience, pick));
     logInside(operation, QString(u".......volume path = [" + picked + u']'));
 
     const QString volume = search == Search::Newer ? volumePath(picked) : picked;
@@ -118,7 +118,7 @@ void SmbShareAccess::openFolder(QStringView operation, const QString& path) {
     const auto command = fParts.commands.openLocalPath(path);
     QString output;
     if (command)
-        output = fParts.shell.outputWithin(cSharePatience, *command);
+        output = outputWithin(fParts.shell, cSharePatience, *command);
     else
         fParts.workspace.openFile(path);
     logInside(operation, QString(u".......response = [" + output + u']'));

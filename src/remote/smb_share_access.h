@@ -14,7 +14,7 @@ namespace kelvo {
 class CommandFiles;
 class Console;
 class DispatchQueue;
-class ShellRunner;
+class CommandRunner;
 class UserDefaults;
 class Workspace;
 
@@ -27,7 +27,7 @@ struct SmbShareAccessParts {
     const UserDefaults& defaults;
     Console& console;
     DispatchQueue& mainQueue;
-    ShellRunner& shell;
+    CommandRunner& shell;
     const ShareCommands& commands;
     CommandFiles& commandFiles;
     Workspace& workspace;

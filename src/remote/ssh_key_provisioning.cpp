@@ -1,9 +1,8 @@
 #include "remote/ssh_key_provisioning.h"
 
+#include "ports/command_runner.h"
 #include "ports/console.h"
 #include "ports/file_manager.h"
-#include "ports/host_validator.h"
-#include "ports/shell_runner.h"
 #include "ports/user_defaults.h"
 #include "ports/workspace.h"
 #include "remote/command_files.h"
@@ -38,7 +37,7 @@ SshKeyProvisioning::SshKeyProvisioning(SshKeyProvisioningParts parts) : fParts(s
 
 void SshKeyProvisioning::ibGenerateSSHKeyStuff() {
     logEntry(u"ibGenerateSSHKeyStuff(_:)");
-    (void)fParts.validator.validateRemoteHostWithWhoami(cTraceTimeout);
+    fParts.validate(cTraceTimeout);
     (void)createNewPrivatePublicKeysConditionally();
     copyPublicKeyToRemoteHost();
 }
@@ -64,7 +63,7 @@ void SshKeyProvisioning::createNewPrivatePublicKeys() {
         return;
     removeBoth(pair);
     const QString output =
-        fParts.shell.outputWithin(cCommandGrace, keyGenerationCommand(pair.privateKey));
+        outputWithin(fParts.shell, cCommandGrace, keyGenerationCommand(pair.privateKey));
     const QString rule(40, u'=');
     fParts.console.print(rule);
     fParts.console.print(u"result = " + output);

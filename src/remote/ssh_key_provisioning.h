@@ -12,8 +12,7 @@ namespace kelvo {
 class CommandFiles;
 class Console;
 class FileManager;
-class HostValidator;
-class ShellRunner;
+class CommandRunner;
 class UserDefaults;
 class Workspace;
 
@@ -28,8 +27,9 @@ struct SshKeyProvisioningParts {
     const UserDefaults& defaults;
     const FileManager& files;
     Console& console;
-    ShellRunner& shell;
-    HostValidator& validator;
+    CommandRunner& shell;
+    /// Asks the remote host with this connect time-out in seconds, and blocks.
+    std::function<void(qint64 timeout)> validate;
     CommandFiles& commandFiles;
     Workspace& workspace;
     /// A script that was opened in a terminal has ended, or no terminal could be opened for

@@ -1,6 +1,8 @@
 // PassRecord: what one pass did, command by command, as it is kept and shown.
 #pragma once
 
+#include "support/host_verdict.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -77,7 +79,7 @@ struct PassRecord {
     QDateTime began; ///< UTC
     double seconds = 0;
     PassKind kind = PassKind::Plain;
-    QString verdict; ///< of the host check; empty for a plain pass
+    HostVerdict verdict; ///< of the host check; nobody is asked for a plain pass
     PassCause cause = PassCause::Unknown;
     QString lastLine; ///< the last line of the command that decided the cause; may be empty
     /// The sum of what the commands said; `source` is Unknown when none of them did.
@@ -87,7 +89,7 @@ struct PassRecord {
 
 /// Whether the pass ended at the check of its host, before any transfer.
 inline bool endedAtTheCheck(const PassRecord& pass) {
-    return pass.kind == PassKind::Remote && pass.verdict != u"valid";
+    return pass.kind == PassKind::Remote && pass.verdict != HostVerdict::Valid;
 }
 
 } // namespace kelvo

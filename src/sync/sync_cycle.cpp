@@ -1,16 +1,13 @@
 #include "sync/sync_cycle.h"
 
+#include "passes/running_pass.h"
 #include "ports/console.h"
 #include "ports/control.h"
 #include "ports/dispatch_queue.h"
 #include "ports/file_manager.h"
-#include "ports/host_validator.h"
-#include "ports/pass_listener.h"
-#include "ports/problem_alerts.h"
-#include "ports/shell_runner.h"
-#include "ports/status_messages.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "settings/remote_account.h"
 #include "support/fatal.h"
 #include "support/key_file.h"
 #include "support/text.h"
@@ -23,15 +20,12 @@ constexpr qint64 cMaxBadWhoamiCount = 10;
 constexpr qint64 cValidationTimeout = 3; // seconds
 constexpr double cPauseAfterPass = 1.0;
 
-constexpr QStringView cValidVerdict = u"valid";
-constexpr QStringView cMissingKeysVerdict = u"checksshkeys";
-
-QString alertTextFor(const QString& verdict) {
-    if (verdict == cMissingKeysVerdict)
+QString alertTextFor(const HostVerdict& verdict) {
+    if (verdict == HostVerdict::CheckSshKeys)
         return QStringLiteral(
             "Missing ssh keys -\nPlease generate ssh keys\n and \n try again...\n");
     return u"Please make sure remote host is on this network\nor\nPlease check username...\n\n" +
-           verdict + u'\n';
+           verdict.text() + u'\n';
 }
 
 qint64 addOne(std::atomic<qint64>& count) {
@@ -118,31 +112,25 @@ SyncCycle::Permission SyncCycle::permissionToStart(QStringView operation) const 
     return Permission::Granted;
 }
 
-void SyncCycle::runInBackground(PassKind kind, Pass body) {
+void SyncCycle::runInBackground(PassKind kind, Body body) {
     fParts.bgQueue.async([this, kind, body] {
-        if (fParts.passListener)
-            fParts.passListener->passBegan(kind);
-        (this->*body)();
-        if (fParts.passListener)
-            fParts.passListener->passEnded();
+        RunningPass pass(fParts.passes, kind);
+        (this->*body)(pass);
     });
 }
 
 // -- the plain pass
 
-void SyncCycle::runPlainPass() {
-    const auto source = trimmedPath(prefPath1);
-    if (!source)
-        return;
-    const auto destination = trimmedPath(prefPath2);
-    if (!destination)
+void SyncCycle::runPlainPass(RunningPass& pass) {
+    const auto paths = plainPaths(fParts.defaults);
+    if (!paths)
         return;
     markScanning();
-    const QString command =
-        fParts.rsyncCommand.fillInParams(rsyncTemplate(), {source, destination, std::nullopt});
+    const QString command = fParts.rsyncCommand.fillInParams(
+        rsyncTemplate(), {paths->source, paths->destination, std::nullopt});
     fParts.console.print(u"cmd to send = " + command);
     printResult(u"result from shell command =\n",
-                fParts.shell.outputWhenRunAsShellCommand(command));
+                pass.run(CommandRole::Pull, {.text = command}).output);
     fParts.mainQueue.asyncAfter(cPauseAfterPass, [this] {
         fParts.defaults.setObject(prefIsScanning, false);
         scheduleAfterRest(&SyncCycle::doSyncOnce);
@@ -151,46 +139,43 @@ void SyncCycle::runPlainPass() {
 
 // -- the remote pass
 
-void SyncCycle::runRemotePass() {
+void SyncCycle::runRemotePass(RunningPass& pass) {
     const QString keyPath = keyFilePath();
-    const QString verdict = validateRemoteHost();
-    if (fParts.passListener)
-        fParts.passListener->hostJudged(verdict);
-    if (verdict == cValidVerdict)
-        pullFromRemote(keyPath);
+    const HostVerdict verdict = validateRemoteHost(pass);
+    pass.judged(verdict);
+    if (verdict == HostVerdict::Valid)
+        pullFromRemote(pass, keyPath);
     else
-        handleFailedValidation(verdict == cMissingKeysVerdict ? verdict : QString());
+        handleFailedValidation(verdict == HostVerdict::CheckSshKeys ? verdict : HostVerdict());
 }
 
-QString SyncCycle::validateRemoteHost() {
-    if (!fParts.defaults.stringForKey(prefRemoteUsername) ||
-        !fParts.defaults.stringForKey(prefRemoteBonjourName))
-        return {};
-    return fParts.hostValidator.validateRemoteHostWithWhoami(cValidationTimeout);
+HostVerdict SyncCycle::validateRemoteHost(RunningPass& pass) const {
+    if (!remoteAccount(fParts.defaults))
+        return HostVerdict::NotAsked;
+    return fParts.validateRemoteHost(cValidationTimeout, [&pass](const Command& command) {
+        return pass.run(CommandRole::HostCheck, command);
+    });
 }
 
-void SyncCycle::pullFromRemote(const QString& keyPath) {
-    const auto source = trimmedPath(prefSampleRemoteFullPath);
-    if (!source)
-        return;
-    const auto destination = trimmedPath(prefPath2);
-    if (!destination)
+void SyncCycle::pullFromRemote(RunningPass& pass, const QString& keyPath) {
+    const auto paths = remotePaths(fParts.defaults);
+    if (!paths)
         return;
     markScanning();
     const auto pull = [&](const QString& command, QStringView heading) {
-        printResult(heading,
-                    fParts.shell.outputWhenRunAsShellCommand(
-                        fParts.rsyncCommand.fillInParams(command, {source, destination, keyPath})));
+        const QString filled =
+            fParts.rsyncCommand.fillInParams(command, {paths->source, paths->destination, keyPath});
+        printResult(heading, pass.run(CommandRole::Pull, {.text = filled}).output);
     };
     pull(rsyncTemplate(), u"\n\nresult from shell command =\n");
     pull(cMovieCommandTemplate.toString(), u"\n\nresult from movie shell command =\n");
     attemptToRescanAgain();
 }
 
-void SyncCycle::handleFailedValidation(const QString& verdict) {
+void SyncCycle::handleFailedValidation(const HostVerdict& verdict) {
     const QString rule(65, u'=');
     fParts.console.print(rule);
-    fParts.console.print(u"NEED to handle possible ERROR:\n" + verdict);
+    fParts.console.print(u"NEED to handle possible ERROR:\n" + verdict.text());
     fParts.console.print(rule);
 
     const qint64 count = addOne(fBadWhoamiCount);
@@ -209,7 +194,7 @@ void SyncCycle::giveUp(const QString& alertText) {
         showStatus(std::nullopt);
     });
     fParts.mainQueue.asyncAfter(0.1, [this, alertText] {
-        fParts.problemAlerts.showProblemWithBonjourClosure(
+        fParts.view.showProblemWithBonjourClosure(
             QStringLiteral("Unable to Reach Remote Host"), alertText,
             [this](ModalResponse response) { handleProblemAnswer(response); });
     });
@@ -237,7 +222,7 @@ void SyncCycle::attemptToRescanAgain() {
     });
 }
 
-void SyncCycle::scheduleAfterRest(Pass next) {
+void SyncCycle::scheduleAfterRest(Start next) {
     const double delay = fParts.defaults.doubleForKey(prefDelayBetweenScans);
     fParts.mainQueue.asyncAfter(delay > 0.0 ? delay : cFallbackDelayBetweenScans,
                                 [this, next] { (this->*next)(); });
@@ -248,15 +233,10 @@ void SyncCycle::markScanning() {
 }
 
 void SyncCycle::clickStartButton() {
-    fParts.ibStartButton.performClick();
+    fParts.view.ibStartButton.performClick();
 }
 
 // -- reading settings, telling people
-
-std::optional<QString> SyncCycle::trimmedPath(QStringView key) const {
-    const auto path = fParts.defaults.stringForKey(key);
-    return path ? std::optional(trimmedText(*path)) : std::nullopt;
-}
 
 QString SyncCycle::rsyncTemplate() const {
     return fParts.defaults.stringForKey(prefRsyncCommandString1)
@@ -276,7 +256,7 @@ void SyncCycle::printResult(QStringView heading, const QString& output) const {
 }
 
 void SyncCycle::showStatus(std::optional<QString> mesg, StatusColor color) {
-    fParts.statusMessages.updateStatusMessage(std::move(mesg), color, true);
+    fParts.view.updateStatusMessage(std::move(mesg), color, true);
 }
 
 } // namespace kelvo

@@ -1,6 +1,7 @@
 // SyncCycle: runs one rsync pass after another, with a rest between them, while syncing is on.
 #pragma once
 
+#include "ports/command_runner.h"
 #include "support/alert.h"
 #include "support/pass_record.h"
 #include "support/status_color.h"
@@ -8,6 +9,7 @@
 #include <QString>
 
 #include <atomic>
+#include <functional>
 #include <optional>
 
 namespace kelvo {
@@ -18,28 +20,36 @@ class Console;
 class Control;
 class DispatchQueue;
 class FileManager;
-class HostValidator;
-class PassListener;
-class ProblemAlerts;
 class RsyncCommand;
-class ShellRunner;
-class StatusMessages;
+class RunningPass;
+class RunningPasses;
 class UserDefaults;
+
+/// What people see and do of the cycle. The first two: any thread; they return at once.
+struct CycleView {
+    /// Shows `mesg`, centred when asked for; none clears the line.
+    std::function<void(std::optional<QString> mesg, StatusColor color, bool docenter)>
+        updateStatusMessage;
+    /// Shows the self-closing alert; `completion` gets its answers on the main thread, perhaps
+    /// more than one.
+    std::function<void(const QString& message, const QString& text,
+                       std::function<void(ModalResponse)> completion)>
+        showProblemWithBonjourClosure;
+    Button& ibStartButton; ///< clicked by the cycle to switch syncing off and on again
+};
 
 /// Everything the cycle works with; all of it outlives the cycle.
 struct SyncCycleParts {
     UserDefaults& defaults;
     DispatchQueue& mainQueue;
     BackgroundQueue& bgQueue;
-    ShellRunner& shell;
-    FileManager& files;
+    RunningPasses& passes;
+    const FileManager& files;
     Console& console;
     const RsyncCommand& rsyncCommand;
-    HostValidator& hostValidator;
-    StatusMessages& statusMessages;
-    ProblemAlerts& problemAlerts;
-    Button& ibStartButton; ///< clicked by the cycle to switch syncing off and on again
-    PassListener* passListener = nullptr; ///< hears of each pass; may be missing
+    /// Asks the remote host by `run`, with ssh's connect time-out in seconds. Blocks; any thread.
+    std::function<HostVerdict(qint64 timeout, const RunCommand& run)> validateRemoteHost;
+    CycleView view;
 };
 
 /// A pass schedules its successor; what prefEnableScanning and prefIsScanning say is asked at the
@@ -68,28 +78,27 @@ public:
     qint64 badWhoamiCount() const { return fBadWhoamiCount; }
 
 private:
-    using Pass = void (SyncCycle::*)();
+    using Start = void (SyncCycle::*)();
+    using Body = void (SyncCycle::*)(RunningPass&);
     enum class Permission { Granted, SwitchedOff, Busy };
 
     bool storeStateOf(Control* sender, QStringView operation);
     Permission permissionToStart(QStringView operation) const;
-    /// Runs `body` on the background queue, its begin and end told to the listener.
-    void runInBackground(PassKind kind, Pass body);
-    void runPlainPass();
-    void runRemotePass();
-    void pullFromRemote(const QString& keyPath);
-    void handleFailedValidation(const QString& verdict);
+    void runInBackground(PassKind kind, Body body);
+    void runPlainPass(RunningPass& pass);
+    void runRemotePass(RunningPass& pass);
+    HostVerdict validateRemoteHost(RunningPass& pass) const;
+    void pullFromRemote(RunningPass& pass, const QString& keyPath);
+    void handleFailedValidation(const HostVerdict& verdict);
     void giveUp(const QString& alertText);
     void handleProblemAnswer(ModalResponse response);
     void attemptToRescanAgain();
-    void scheduleAfterRest(Pass next);
+    void scheduleAfterRest(Start next);
     void markScanning();
     void clickStartButton();
 
-    std::optional<QString> trimmedPath(QStringView key) const;
     QString rsyncTemplate() const;
     QString keyFilePath() const;
-    QString validateRemoteHost();
     void logInside(QStringView operation, QStringView detail) const;
     void printResult(QStringView heading, const QString& output) const;
     void showStatus(std::optional<QString> mesg, StatusColor color = StatusColor::Black);

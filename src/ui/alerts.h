@@ -2,7 +2,6 @@
 #pragma once
 
 #include "ports/general_alerts.h"
-#include "ports/problem_alerts.h"
 
 namespace kelvo {
 
@@ -11,7 +10,7 @@ class Console;
 class DispatchQueue;
 
 /// A sheet that is due while there is no main window stops the program.
-class Alerts final : public GeneralAlerts, public ProblemAlerts {
+class Alerts final : public GeneralAlerts {
 public:
     Alerts(DispatchQueue& mainQueue, Console& console, AlertPresenter& presenter)
         : fMainQueue(mainQueue), fConsole(console), fPresenter(presenter) {}
@@ -26,8 +25,11 @@ public:
     /// The problem alert, built and not shown. Main thread.
     std::optional<Alert> showProblemWithBonjourNew(const QString& message, const QString& text);
 
+    /// Shows the self-closing alert 0.1 s from now. `completion` runs on the main thread, more than
+    /// once: with the user's answer if there is one, and always with cAlertFirstButtonReturn about
+    /// 6.1 s after the alert appeared. Any thread; returns at once.
     void showProblemWithBonjourClosure(const QString& message, const QString& text,
-                                       AlertCompletion completion) override;
+                                       AlertCompletion completion);
 
 private:
     void printEntry(QStringView operation);

@@ -1,9 +1,12 @@
 // StatusLine: brings status messages to the status field.
 #pragma once
 
-#include "ports/status_messages.h"
+#include "support/status_color.h"
+
+#include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace kelvo {
 
@@ -11,13 +14,14 @@ class DispatchQueue;
 class StatusField;
 class UserDefaults;
 
-class StatusLine final : public StatusMessages {
+class StatusLine {
 public:
     /// A field that is gone when a message is due drops the message.
     StatusLine(UserDefaults& defaults, DispatchQueue& mainQueue, std::weak_ptr<StatusField> field);
 
-    void updateStatusMessage(std::optional<QString> mesg, StatusColor color,
-                             bool docenter) override;
+    /// Shows `mesg` in `color`, centred when asked for, 0.1 s from now; no `mesg` clears the line.
+    /// The saved status text is wiped with it. Any thread; returns at once.
+    void updateStatusMessage(std::optional<QString> mesg, StatusColor color, bool docenter);
 
 private:
     UserDefaults& fDefaults;

@@ -12,6 +12,8 @@
 #include "support/property_value.h"
 #include "support/text.h"
 
+#include <utility>
+
 namespace kelvo {
 namespace {
 
@@ -36,126 +38,119 @@ QString objectText(const void* object, QStringView type) {
 } // namespace
 
 ViewController::ViewController(const ViewControllerParts& parts)
-    : fParts(parts), fStatusLine(parts.defaults, parts.mainQueue, parts.ibStatusTextField),
-      fAlerts(parts.mainQueue, parts.console, parts.alertPresenter),
-      fRsyncCommand(parts.defaults, parts.console), fSamplePath(parts.defaults, parts.mainQueue),
-      fHostValidation(parts.defaults, parts.shell, parts.files, parts.console),
-      fKeyState({
-          .defaults = parts.defaults,
-          .files = parts.files,
-          .mainQueue = parts.mainQueue,
-          .bgQueue = parts.bgQueue,
-          .validator = fHostValidation,
-          .show = [&view = parts.view](KeyState state) { view.showKeyState(state); },
-      }),
-      fSyncCycle({
-          .defaults = parts.defaults,
-          .mainQueue = parts.mainQueue,
-          .bgQueue = parts.bgQueue,
-          .shell = parts.shell,
-          .files = parts.files,
-          .console = parts.console,
-          .rsyncCommand = fRsyncCommand,
-          .hostValidator = fKeyState,
-          .statusMessages = fStatusLine,
-          .problemAlerts = fAlerts,
-          .ibStartButton = parts.ibStartButton,
-          .passListener = parts.passListener,
-      }),
-      fRepeatTimer(parts.mainQueue, parts.console),
-      fStartButtonTitle(parts.ibStartButton, parts.defaults, parts.mainQueue, parts.console),
-      fCommandExample(parts.defaults, fRsyncCommand, parts.console),
+    : fParts(parts),
+      fStatusLine(parts.engine.defaults, parts.engine.mainQueue, parts.outlets.ibStatusTextField),
+      fAlerts(parts.engine.mainQueue, parts.engine.console, parts.outlets.alertPresenter),
+      fEngine(parts.engine,
+              {.updateStatusMessage =
+                   [this](std::optional<QString> mesg, StatusColor color, bool docenter) {
+                       fStatusLine.updateStatusMessage(std::move(mesg), color, docenter);
+                   },
+               .showProblemWithBonjourClosure =
+                   [this](const QString& message, const QString& text, AlertCompletion completion) {
+                       fAlerts.showProblemWithBonjourClosure(message, text, std::move(completion));
+                   },
+               .ibStartButton = parts.outlets.ibStartButton},
+              [&view = parts.outlets.view](KeyState state) { view.showKeyState(state); }),
+      fRepeatTimer(parts.engine.mainQueue, parts.engine.console),
+      fStartButtonTitle(parts.outlets.ibStartButton, parts.engine.defaults, parts.engine.mainQueue,
+                        parts.engine.console),
+      fCommandExample(parts.engine.defaults, fEngine.rsyncCommand, parts.engine.console),
       fFolders({
-          .defaults = parts.defaults,
-          .console = parts.console,
-          .openPanel = parts.openPanel,
+          .defaults = parts.engine.defaults,
+          .console = parts.engine.console,
+          .openPanel = parts.outlets.openPanel,
           .workspace = parts.workspace,
-          .files = parts.files,
-          .fNsPathControl1 = parts.fNsPathControl1,
+          .files = parts.engine.files,
+          .fNsPathControl1 = parts.outlets.fNsPathControl1,
           .temporaryFolder = parts.temporaryFolder,
       }),
       fRevealButtonWatchers({
-          .defaults = parts.defaults,
-          .console = parts.console,
-          .files = parts.files,
-          .view = parts.view,
+          .defaults = parts.engine.defaults,
+          .console = parts.engine.console,
+          .files = parts.engine.files,
+          .view = parts.outlets.view,
           .alerts = fAlerts,
           .workspace = parts.workspace,
-          .ibRevealButton1 = parts.ibRevealButton1,
-          .ibRevealButton2 = parts.ibRevealButton2,
+          .ibRevealButton1 = parts.outlets.ibRevealButton1,
+          .ibRevealButton2 = parts.outlets.ibRevealButton2,
       }),
       fNetwork({
           .notificationCenter = parts.notificationCenter,
-          .mainQueue = parts.mainQueue,
-          .console = parts.console,
+          .mainQueue = parts.engine.mainQueue,
+          .console = parts.engine.console,
           .browser = parts.networkBrowser,
           .makeKelvoSSID = parts.makeKelvoSSID,
           .showNetworkStatus =
-              [&view = parts.view](const QString& text) { view.showNetworkStatus(text); },
+              [&view = parts.outlets.view](const QString& text) { view.showNetworkStatus(text); },
       }),
       fBonjour({
-          .mainQueue = parts.mainQueue,
-          .console = parts.console,
+          .mainQueue = parts.engine.mainQueue,
+          .console = parts.engine.console,
           .browser = parts.dnssdBrowser,
-          .sheets = parts.sheets,
-          .fArrayController = parts.fArrayController,
+          .sheets = parts.outlets.sheets,
+          .fArrayController = parts.outlets.fArrayController,
       }),
-      fTerminalNotice(fAlerts, parts.pasteboard), fCommandFiles({
-                                                      .console = parts.console,
-                                                      .files = parts.files,
-                                                      .changes = parts.fileChanges,
-                                                      .shell = parts.shell,
-                                                      .temporaryFolder = parts.temporaryFolder,
-                                                      .terminal = parts.terminal,
-                                                  }),
+      fTerminalNotice(fAlerts, parts.outlets.pasteboard),
+      fCommandFiles({
+          .console = parts.engine.console,
+          .files = parts.engine.files,
+          .changes = parts.fileChanges,
+          .shell = parts.engine.commands,
+          .temporaryFolder = parts.temporaryFolder,
+          .terminal = parts.outlets.terminal,
+      }),
       fConnectionTest({
-          .defaults = parts.defaults,
-          .files = parts.files,
-          .console = parts.console,
-          .mainQueue = parts.mainQueue,
-          .bgQueue = parts.bgQueue,
-          .shell = parts.shell,
+          .defaults = parts.engine.defaults,
+          .files = parts.engine.files,
+          .console = parts.engine.console,
+          .mainQueue = parts.engine.mainQueue,
+          .bgQueue = parts.engine.bgQueue,
+          .shell = parts.engine.commands,
           .alerts = fAlerts,
           .commands = parts.shareCommands,
-          .showBusy = [&view = parts.view](bool testing) { view.showTesting(testing); },
+          .showBusy = [&view = parts.outlets.view](bool testing) { view.showTesting(testing); },
       }),
       fProvisioning({
-          .defaults = parts.defaults,
-          .files = parts.files,
-          .console = parts.console,
-          .shell = parts.shell,
-          .validator = fKeyState,
+          .defaults = parts.engine.defaults,
+          .files = parts.engine.files,
+          .console = parts.engine.console,
+          .shell = parts.engine.commands,
+          .validate =
+              [this](qint64 timeout) {
+                  (void)fEngine.hostValidation.validateRemoteHostWithWhoami(timeout);
+              },
           .commandFiles = fCommandFiles,
           .workspace = parts.workspace,
           .scriptEnded = [this](TerminalOutcome outcome,
                                 const QString& command) { scriptEnded(outcome, command); },
-          .keysChanged = [this] { fKeyState.keysChanged(); },
+          .keysChanged = [this] { fEngine.keyState.keysChanged(); },
       }),
       fShare({
-          .defaults = parts.defaults,
-          .console = parts.console,
-          .mainQueue = parts.mainQueue,
-          .shell = parts.shell,
+          .defaults = parts.engine.defaults,
+          .console = parts.engine.console,
+          .mainQueue = parts.engine.mainQueue,
+          .shell = parts.engine.commands,
           .commands = parts.shareCommands,
           .commandFiles = fCommandFiles,
           .workspace = parts.workspace,
-          .beep = [&view = parts.view] { view.beep(); },
+          .beep = [&view = parts.outlets.view] { view.beep(); },
           .noTerminal = [this](const QString& command) { fTerminalNotice.show(command); },
       }),
-      myStatusMenuHandler(parts.statusMenu, parts.console),
-      fUsesSSH(parts.defaults.boolForKey(prefRsyncWithSSH)) {}
+      myStatusMenuHandler(parts.statusMenu, parts.engine.console),
+      fUsesSSH(parts.engine.defaults.boolForKey(prefRsyncWithSSH)) {}
 
 void ViewController::viewDidLoad() {
-    UserDefaults& defaults = fParts.defaults;
-    DispatchQueue& mainQueue = fParts.mainQueue;
+    UserDefaults& defaults = fParts.engine.defaults;
+    DispatchQueue& mainQueue = fParts.engine.mainQueue;
     printInside(cViewDidLoad);
     mainQueue.asyncAfter(0.5, [this] { fRepeatTimer.setupRepeatTimer(); });
 
     myStatusMenuHandler.setupStatusMenuStuff();
-    fParts.console.print(u"self.ibRevealButton1 = " +
-                         objectText(fParts.ibRevealButton1, u"NSButton"));
-    fParts.console.print(u"self.ibRevealButton2 = " +
-                         objectText(fParts.ibRevealButton2, u"NSButton"));
+    fParts.engine.console.print(u"self.ibRevealButton1 = " +
+                                objectText(fParts.outlets.ibRevealButton1, u"NSButton"));
+    fParts.engine.console.print(u"self.ibRevealButton2 = " +
+                                objectText(fParts.outlets.ibRevealButton2, u"NSButton"));
     mainQueue.asyncAfter(1.0, [this] { fRevealButtonWatchers.install(); });
 
     defaults.setObject(prefIsScanning, false);
@@ -164,12 +159,12 @@ void ViewController::viewDidLoad() {
     observe(prefEnableScanning);
 
     if (defaults.boolForKey(prefAutoStartScanOnLaunch))
-        mainQueue.asyncAfter(1.0, [this] { fParts.ibStartButton.performClick(); });
+        mainQueue.asyncAfter(1.0, [this] { fParts.outlets.ibStartButton.performClick(); });
     mainQueue.asyncAfter(0.6, [this] {
-        if (fParts.defaults.boolForKey(prefHideOnLaunch))
-            fParts.application.hide();
+        if (fParts.engine.defaults.boolForKey(prefHideOnLaunch))
+            fParts.outlets.application.hide();
         else
-            fParts.application.bringToFront();
+            fParts.outlets.application.bringToFront();
     });
     mainQueue.asyncAfter(cWindowRetryDelay, [this] { handWindowControllerOver(); });
 
@@ -177,12 +172,12 @@ void ViewController::viewDidLoad() {
         for (const QStringView key :
              {prefRemoteUsername, prefRemoteBonjourName, prefRemotePath, prefRsyncWithSSH})
             observe(key);
-        fSamplePath.updateSampleString();
-        setUsesSSH(fParts.defaults.boolForKey(prefRsyncWithSSH));
+        fEngine.samplePath.updateSampleString();
+        setUsesSSH(fParts.engine.defaults.boolForKey(prefRsyncWithSSH));
     });
     mainQueue.asyncAfter(0.6, [this] { readVersion(); });
     mainQueue.asyncAfter(1.0, [this] { fNetwork.setupNetworkChecker(); });
-    fKeyState.begin();
+    fEngine.keyState.begin();
     fObservations.push_back(fParts.notificationCenter.observe(
         cQuitRelaunchNotification.toString(), [this](const Notification& notification) {
             handleQuitAndRelaunchNotification(notification);
@@ -197,7 +192,8 @@ QString ViewController::description() const {
 void ViewController::handWindowControllerOver() {
     StatusMenuWindow* controller = fParts.windowController();
     if (!controller) {
-        fParts.mainQueue.asyncAfter(cWindowRetryDelay, [this] { handWindowControllerOver(); });
+        fParts.engine.mainQueue.asyncAfter(cWindowRetryDelay,
+                                           [this] { handWindowControllerOver(); });
         return;
     }
     printInside(cViewDidLoad, QString(u".......self.view.window?.windowController = " +
@@ -206,11 +202,11 @@ void ViewController::handWindowControllerOver() {
 }
 
 void ViewController::readVersion() {
-    const auto version = fParts.bundle.getFullVersionString(fParts.console);
+    const auto version = fParts.bundle.getFullVersionString(fParts.engine.console);
     if (!version)
         return;
-    fParts.console.print(u"Got version = " + *version);
-    fParts.defaults.setObject(prefVersionDisplayString, *version);
+    fParts.engine.console.print(u"Got version = " + *version);
+    fParts.engine.defaults.setObject(prefVersionDisplayString, *version);
 }
 
 // -- the remote side
@@ -220,13 +216,13 @@ void ViewController::scriptEnded(TerminalOutcome outcome, const QString& command
     if (outcome == TerminalOutcome::NoWindow)
         fTerminalNotice.show(command);
     else
-        fKeyState.checkAgain();
+        fEngine.keyState.checkAgain();
 }
 
 // -- settings
 
 void ViewController::observe(QStringView key) {
-    fObservations.push_back(fParts.defaults.observe(
+    fObservations.push_back(fParts.engine.defaults.observe(
         key, [this](const DefaultsChange& change) { observeValue(change); }));
 }
 
@@ -241,8 +237,8 @@ void ViewController::observeValue(const DefaultsChange& change) {
         printInside(operation, u".......UNABLE to get the new value????");
         return;
     }
-    fParts.console.print(u"New value => " + newValue);
-    fParts.mainQueue.asyncAfter(cReactionDelay, reactionTo(change));
+    fParts.engine.console.print(u"New value => " + newValue);
+    fParts.engine.mainQueue.asyncAfter(cReactionDelay, reactionTo(change));
 }
 
 std::function<void()> ViewController::reactionTo(const DefaultsChange& change) {
@@ -251,7 +247,7 @@ std::function<void()> ViewController::reactionTo(const DefaultsChange& change) {
             fStartButtonTitle.showRunning(isRunning);
         };
     if (change.key == prefRemoteUsername)
-        return [this] { fSamplePath.updateSampleString(); };
+        return [this] { fEngine.samplePath.updateSampleString(); };
     if (change.key == prefRsyncWithSSH)
         return [this] { updateStartButton(); };
     return [this] { ibUpdateTabViewItem(); };
@@ -286,14 +282,15 @@ void ViewController::controlTextDidEndEditing(const TextEditingNotification& obj
                         objectText(obj.object.get(), field ? u"NSTextField" : u"NSControl")));
     printInside(operation, QString(u".......obj.userInfo = " + userInfoText(obj.userInfo)));
     if (field)
-        fParts.mainQueue.asyncAfter(cReactionDelay, [field] { field->resignFirstResponder(); });
+        fParts.engine.mainQueue.asyncAfter(cReactionDelay,
+                                           [field] { field->resignFirstResponder(); });
 }
 
 void ViewController::ibSetNoFirstResponder(Control*) {
     printInside(u"ibSetNoFirstResponder(_:)");
-    fParts.mainQueue.async([this] {
-        if (fParts.view.hasWindow())
-            fParts.view.makeNothingFirstResponder();
+    fParts.engine.mainQueue.async([this] {
+        if (fParts.outlets.view.hasWindow())
+            fParts.outlets.view.makeNothingFirstResponder();
     });
 }
 
@@ -311,7 +308,7 @@ void ViewController::ibQuitAndRelaunch(Control*) {
 }
 
 void ViewController::printInside(QStringView operation, QStringView detail) const {
-    fParts.console.print(insideLine(cViewControllerTypeName, operation, detail));
+    fParts.engine.console.print(insideLine(cViewControllerTypeName, operation, detail));
 }
 
 } // namespace kelvo

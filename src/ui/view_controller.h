@@ -3,34 +3,61 @@
 
 #include "discovery/bonjour_selection.h"
 #include "discovery/network_path_monitoring.h"
+#include "engine/engine.h"
 #include "ports/control.h"
 #include "ports/user_defaults.h"
 #include "remote/command_files.h"
 #include "remote/connection_check.h"
-#include "remote/key_state_watch.h"
-#include "remote/remote_host_validation.h"
 #include "remote/smb_share_access.h"
 #include "remote/ssh_key_provisioning.h"
 #include "sync/repeat_timer_actions.h"
-#include "sync/rsync_command.h"
-#include "sync/sample_path.h"
-#include "sync/sync_cycle.h"
 #include "ui/alerts.h"
 #include "ui/command_example.h"
 #include "ui/folder_selection.h"
 #include "ui/interface_controllers.h"
+#include "ui/outlets.h"
 #include "ui/reveal_button_watchers.h"
 #include "ui/start_button_title.h"
 #include "ui/status_line.h"
 #include "ui/status_menu_handler.h"
 #include "ui/terminal_notice.h"
-#include "ui/view_controller_parts.h"
 
 #include <memory>
 #include <optional>
 #include <vector>
 
 namespace kelvo {
+
+class Bundle;
+class DnssdBrowser;
+class FileChanges;
+class NetworkBrowser;
+class NetworkChecker;
+class NotificationCenter;
+class RelaunchGuard;
+class ShareCommands;
+class StatusMenuPresence;
+class TemporaryFolder;
+class Workspace;
+
+/// What the controller works with; all of it outlives the controller.
+struct ViewControllerParts {
+    EngineParts engine;
+    Outlets outlets;
+    NotificationCenter& notificationCenter;
+    const Bundle& bundle;
+    RelaunchGuard& watchdog;
+    Workspace& workspace;
+    NetworkBrowser& networkBrowser;
+    DnssdBrowser& dnssdBrowser;
+    std::function<std::unique_ptr<NetworkChecker>()> makeKelvoSSID;
+    StatusMenuPresence& statusMenu;
+    const TemporaryFolder& temporaryFolder;
+    FileChanges& fileChanges;
+    const ShareCommands& shareCommands;
+    /// The controller of the view's window; nothing as long as there is none.
+    std::function<StatusMenuWindow*()> windowController;
+};
 
 /// A tab that is about to be shown.
 struct TabViewItem {
@@ -57,9 +84,9 @@ public:
     QString description() const override;
 
     // The start button and its kin.
-    void ibStartRSyncProcess(Control* sender) { fSyncCycle.ibStartRSyncProcess(sender); }
-    void ibRSyncOnce(Control* sender) { fSyncCycle.ibRSyncOnce(sender); }
-    void ibRSyncOnceBonjour(Control* sender) { fSyncCycle.ibRSyncOnceBonjour(sender); }
+    void ibStartRSyncProcess(Control* sender) { fEngine.syncCycle.ibStartRSyncProcess(sender); }
+    void ibRSyncOnce(Control* sender) { fEngine.syncCycle.ibRSyncOnce(sender); }
+    void ibRSyncOnceBonjour(Control* sender) { fEngine.syncCycle.ibRSyncOnceBonjour(sender); }
     void ibSuspendTimer(Control*) { fRepeatTimer.ibSuspendTimer(); }
     void ibResumeTimer(Control*) { fRepeatTimer.ibResumeTimer(); }
     void ibKillTimer(Control*) { fRepeatTimer.ibKillTimer(); }
@@ -88,7 +115,7 @@ public:
     void ibGenerateSSHKeyStuff(Control*) { fProvisioning.ibGenerateSSHKeyStuff(); }
     void createNewPrivatePublicKeys(Control*) { fProvisioning.createNewPrivatePublicKeys(); }
     void createNewPrivatePublicKeysOLD(Control*) { fProvisioning.createNewPrivatePublicKeysOLD(); }
-    void checkKeyState(Control*) { fKeyState.checkAgain(); }
+    void checkKeyState(Control*) { fEngine.keyState.checkAgain(); }
     void ibRevealSourcePathSMB(Control*) { fShare.ibRevealSourcePathSMB(); }
     void ibRevealSourcePathSMBdebug(Control*) { fShare.ibRevealSourcePathSMBdebug(); }
     void ibRevealSourcePathSMBdebugOLD(Control*) { fShare.ibRevealSourcePathSMBdebugOLD(); }
@@ -105,7 +132,7 @@ public:
     void controlTextDidEndEditing(const TextEditingNotification& obj);
 
     // What the tray menu asks for.
-    void clickStartButton() override { fParts.ibStartButton.performClick(); }
+    void clickStartButton() override { fParts.outlets.ibStartButton.performClick(); }
     void quitAndRelaunch() override { ibQuitAndRelaunch(nullptr); }
 
     Alerts& alerts() { return fAlerts; }
@@ -124,11 +151,7 @@ private:
     const ViewControllerParts fParts;
     StatusLine fStatusLine;
     Alerts fAlerts;
-    RsyncCommand fRsyncCommand;
-    SamplePath fSamplePath;
-    RemoteHostValidation fHostValidation;
-    KeyStateWatch fKeyState;
-    SyncCycle fSyncCycle;
+    Engine fEngine;
     RepeatTimerActions fRepeatTimer;
     StartButtonTitle fStartButtonTitle;
     CommandExample fCommandExample;

@@ -102,7 +102,8 @@ private:
             setAndDo([] { ::raise(SIGINT); });
         else if (action == u"command")
             fBgQueue.async([this] {
-                fShell.outputWhenRunAsShellCommand(
+                outputWhenRunAsShellCommand(
+                    fShell,
                     QString(u"cd '" + fFolder +
                             u"'; cat /proc/self/status > status; setsid sh -c 'trap \"\" TERM INT; "
                             u"while :; do echo x >> orphan; sleep 0.01; done' & "

@@ -31,8 +31,9 @@ protected:
     QString picked(const QStringList& volumes) {
         const ShareTarget target{QStringLiteral("Office-Mac-Mini.local"), QStringLiteral("ann"),
                                  QStringLiteral("Movies")};
-        return trimmedText(shell.outputWhenRunAsShellCommand(MacShareCommands().pickVolume(
-            trimmedText(QString(cHeader + volumes.join(QString()))), target)));
+        return trimmedText(outputWhenRunAsShellCommand(
+            shell, MacShareCommands().pickVolume(
+                       trimmedText(QString(cHeader + volumes.join(QString()))), target)));
     }
 
     RecordingConsole console;

@@ -17,7 +17,7 @@ PassRecord samplePass(int number) {
     record.began = QDateTime::fromMSecsSinceEpoch(1'700'000'000'000 + number * 1000LL, Qt::UTC);
     record.seconds = 1.5 + number;
     record.kind = PassKind::Remote;
-    record.verdict = QStringLiteral("valid");
+    record.verdict = HostVerdict::Valid;
     record.cause = PassCause::FilesNotTaken;
     record.lastLine = QStringLiteral("pass %1 – “映画”").arg(number);
     record.brought = {BroughtSource::Statistics, number, std::nullopt};
@@ -39,7 +39,7 @@ void expectSame(const PassRecord& left, const PassRecord& right) {
     EXPECT_EQ(left.began, right.began);
     EXPECT_DOUBLE_EQ(left.seconds, right.seconds);
     EXPECT_EQ(left.kind, right.kind);
-    EXPECT_EQ(left.verdict, right.verdict);
+    EXPECT_EQ(left.verdict.text(), right.verdict.text());
     EXPECT_EQ(left.cause, right.cause);
     EXPECT_EQ(left.lastLine, right.lastLine);
     EXPECT_EQ(left.brought.source, right.brought.source);

@@ -34,7 +34,11 @@ QString zoo(const QString& animal) {
 
 class PosixShellRunnerTest : public testing::Test {
 protected:
-    QString run(const QString& command) { return fRunner.outputWhenRunAsShellCommand(command); }
+    CommandResult resultOf(const QString& command) { return fRunner.run({.text = command}); }
+    CommandResult resultWithin(double seconds, const QString& command) {
+        return fRunner.run({.text = command, .seconds = seconds});
+    }
+    QString run(const QString& command) { return outputWhenRunAsShellCommand(fRunner, command); }
 
     std::future<QString> start(const QString& command) {
         return std::async(std::launch::async, [this, command] { return run(command); });
@@ -86,17 +90,17 @@ pid_t numberAfter(const QString& text, const QString& word) {
 
 TEST_F(PosixShellRunnerTest, ExitStatus_IsToldAsAShellWouldTellIt) {
     const auto statusOf = [this](const char* command) {
-        return fRunner.run(QString::fromLatin1(command)).exitStatus;
+        return resultOf(QString::fromLatin1(command)).exitStatus;
     };
     EXPECT_EQ(statusOf("true"), 0);
     EXPECT_EQ(statusOf("exit 23"), 23);
     EXPECT_EQ(statusOf("/no/such/program"), 127);
     EXPECT_EQ(statusOf("kill -TERM $$"), 128 + SIGTERM);
-    EXPECT_EQ(fRunner.run(QString(200000, u'x')).exitStatus, 126) << "longer than can be passed on";
+    EXPECT_EQ(resultOf(QString(200000, u'x')).exitStatus, 126) << "longer than can be passed on";
 }
 
 TEST_F(PosixShellRunnerTest, ErrorOutput_IsToldApart) {
-    const CommandResult result = fRunner.run(QStringLiteral("echo out; echo err >&2; exit 3"));
+    const CommandResult result = resultOf(QStringLiteral("echo out; echo err >&2; exit 3"));
     EXPECT_EQ(result.output, QStringLiteral("out\n"));
     EXPECT_EQ(result.errors, QStringLiteral("err\n"));
     EXPECT_EQ(result.exitStatus, 3);
@@ -104,12 +108,12 @@ TEST_F(PosixShellRunnerTest, ErrorOutput_IsToldApart) {
 
 TEST_F(PosixShellRunnerTest, CommandGivenUp_HasNoExitStatus) {
     Meeting meeting;
-    auto running = std::async(
-        std::launch::async, [&] { return fRunner.run(QString(meeting.announce() + u"sleep 60")); });
+    auto running = std::async(std::launch::async,
+                              [&] { return resultOf(QString(meeting.announce() + u"sleep 60")); });
     meeting.wait();
     fRunner.endAll();
     EXPECT_FALSE(running.get().exitStatus.has_value());
-    EXPECT_FALSE(fRunner.run(QStringLiteral("true")).exitStatus.has_value());
+    EXPECT_FALSE(resultOf(QStringLiteral("true")).exitStatus.has_value());
 }
 
 TEST_F(PosixShellRunnerTest, SilentCommand_GivesTheEmptyText) {
@@ -189,7 +193,8 @@ TEST_F(PosixShellRunnerTest, Environment_LeavesNothingThatPrompts) {
     ::setenv("SSH_ASKPASS_REQUIRE", "force", 1);
     ::setenv("DISPLAY", ":77", 1);
     PosixShellRunner runner(fConsole);
-    EXPECT_EQ(runner.outputWhenRunAsShellCommand(
+    EXPECT_EQ(outputWhenRunAsShellCommand(
+                  runner,
                   QStringLiteral("echo $SSH_ASKPASS_REQUIRE [$SSH_ASKPASS$GIT_ASKPASS] $DISPLAY")),
               u"never [] :77\n");
     for (const char* name : {"SSH_ASKPASS", "GIT_ASKPASS", "SSH_ASKPASS_REQUIRE", "DISPLAY"})
@@ -271,7 +276,7 @@ TEST_F(PosixShellRunnerTest, OutOfMemory_CutsTheTextAndSaysSo) {
         ::setrlimit(RLIMIT_AS, &little);
         RecordingConsole console;
         PosixShellRunner runner(console);
-        const QString text = runner.outputWhenRunAsShellCommand(zoo(QStringLiteral("flood 300")));
+        const QString text = outputWhenRunAsShellCommand(runner, zoo(QStringLiteral("flood 300")));
         const bool cut = text.startsWith(u"0123456789abcde\n") && text.size() < 300 * 1024 * 1024;
         const bool said = console.logged().join(u'|').contains(u"Out of memory");
         std::_Exit(cut && said ? 0 : 1);
@@ -284,7 +289,7 @@ TEST_F(PosixShellRunnerTest, OutOfMemory_CutsTheTextAndSaysSo) {
 constexpr double cShortly = 0.3;
 
 TEST_F(PosixShellRunnerTest, BoundReached_EndsGrandchildrenAndSaysSoOnce) {
-    const CommandResult result = fRunner.runWithin(
+    const CommandResult result = resultWithin(
         cShortly, QStringLiteral("set -m; sleep 600 & echo held by $!; echo wrong >&2; sleep 601"));
     EXPECT_EQ(result.exitStatus, 124);
     EXPECT_TRUE(result.errors.endsWith(u"wrong\n"));
@@ -299,12 +304,12 @@ TEST_F(PosixShellRunnerTest, BoundReached_EndsGrandchildrenAndSaysSoOnce) {
 }
 
 TEST_F(PosixShellRunnerTest, BoundOfNothing_CutsAtOnce) {
-    EXPECT_EQ(fRunner.runWithin(0, QStringLiteral("sleep 600; echo never")).exitStatus, 124);
-    EXPECT_EQ(fRunner.outputWithin(-1, QStringLiteral("sleep 600; echo never")), QString());
+    EXPECT_EQ(resultWithin(0, QStringLiteral("sleep 600; echo never")).exitStatus, 124);
+    EXPECT_EQ(outputWithin(fRunner, -1, QStringLiteral("sleep 600; echo never")), QString());
 }
 
 TEST_F(PosixShellRunnerTest, BoundReached_ForcesWhatIgnoresTheRequest) {
-    const CommandResult result = fRunner.runWithin(
+    const CommandResult result = resultWithin(
         cShortly, QString(u"trap '' TERM; echo shell $$; exec " + zoo(QStringLiteral("stubborn"))));
     EXPECT_EQ(result.exitStatus, 124);
     const pid_t stubborn = numberAfter(result.output, QStringLiteral("shell "));
@@ -314,14 +319,14 @@ TEST_F(PosixShellRunnerTest, BoundReached_ForcesWhatIgnoresTheRequest) {
 
 TEST_F(PosixShellRunnerTest, BoundReached_EndsWhatIsStopped) {
     const CommandResult result =
-        fRunner.runWithin(cShortly, QStringLiteral("echo shell $$; kill -STOP $$"));
+        resultWithin(cShortly, QStringLiteral("echo shell $$; kill -STOP $$"));
     EXPECT_EQ(result.exitStatus, 124);
     EXPECT_TRUE(isGone(numberAfter(result.output, QStringLiteral("shell "))));
 }
 
 TEST_F(PosixShellRunnerTest, BoundReachedWhileOnlyTheOutputIsHeld_KeepsTheShellsOwnStatus) {
     const CommandResult result =
-        fRunner.runWithin(cShortly, QString(zoo(QStringLiteral("grandchild 60000 away; exit 7"))));
+        resultWithin(cShortly, QString(zoo(QStringLiteral("grandchild 60000 away; exit 7"))));
     EXPECT_EQ(result.exitStatus, 7);
     const pid_t away = numberAfter(result.output, QStringLiteral("held by "));
     ASSERT_GT(away, 0);
@@ -332,13 +337,13 @@ TEST_F(PosixShellRunnerTest, BoundReached_LeavesOtherCommandsAlone) {
     Meeting meeting;
     auto other = start(meeting.announce() + u"sleep 1; echo whole");
     meeting.wait();
-    EXPECT_EQ(fRunner.runWithin(cShortly, QStringLiteral("sleep 600")).exitStatus, 124);
+    EXPECT_EQ(resultWithin(cShortly, QStringLiteral("sleep 600")).exitStatus, 124);
     EXPECT_EQ(other.get(), u"whole\n");
 }
 
 TEST_F(PosixShellRunnerTest, EndlessFlood_DoesNotOutrunItsBound) {
     const CommandResult result =
-        fRunner.runWithin(cShortly, QStringLiteral("while :; do echo more; done"));
+        resultWithin(cShortly, QStringLiteral("while :; do echo more; done"));
     EXPECT_EQ(result.exitStatus, 124);
     EXPECT_TRUE(result.output.startsWith(u"more\nmore\n"));
 }
@@ -346,7 +351,7 @@ TEST_F(PosixShellRunnerTest, EndlessFlood_DoesNotOutrunItsBound) {
 TEST_F(PosixShellRunnerTest, EndAllWhileABoundRuns_GivesNoExitStatus) {
     Meeting meeting;
     auto running = std::async(std::launch::async, [&] {
-        return fRunner.runWithin(60, QString(u"echo so far; " + meeting.announce() + u"sleep 60"));
+        return resultWithin(60, QString(u"echo so far; " + meeting.announce() + u"sleep 60"));
     });
     meeting.wait();
     fRunner.endAll();
@@ -359,8 +364,7 @@ TEST_F(PosixShellRunnerTest, EndAllAmidManyCuts_LeavesNoCallerBehind) {
     std::vector<std::future<CommandResult>> results;
     for (int i = 0; i < 16; ++i) {
         results.push_back(std::async(std::launch::async, [this, i] {
-            return fRunner.runWithin(0.02 * i,
-                                     QStringLiteral("trap '' TERM; sleep 600; sleep 600"));
+            return resultWithin(0.02 * i, QStringLiteral("trap '' TERM; sleep 600; sleep 600"));
         }));
     }
     std::this_thread::sleep_for(150ms);
@@ -373,10 +377,10 @@ TEST_F(PosixShellRunnerTest, EndAllAmidManyCuts_LeavesNoCallerBehind) {
 
 TEST_F(PosixShellRunnerTest, BoundedRunsInTime_LeaveNothingBehind) {
     const auto open = [] { return QDir(QStringLiteral("/proc/self/fd")).entryList().size(); };
-    fRunner.runWithin(60, QStringLiteral("true"));
+    resultWithin(60, QStringLiteral("true"));
     const auto before = open();
     for (int i = 0; i < 20; ++i)
-        EXPECT_EQ(fRunner.runWithin(60, QStringLiteral("echo x; exit 5")).exitStatus, 5);
+        EXPECT_EQ(resultWithin(60, QStringLiteral("echo x; exit 5")).exitStatus, 5);
     EXPECT_EQ(open(), before);
     EXPECT_TRUE(fConsole.lines().empty());
 }
@@ -443,7 +447,7 @@ TEST_F(PosixShellRunnerTest, Destruction_EndsWhatRuns) {
     Meeting meeting;
     auto runner = std::make_unique<PosixShellRunner>(fConsole);
     auto text = std::async(std::launch::async, [&runner = *runner, &meeting] {
-        return runner.outputWhenRunAsShellCommand(u"echo $$; " + meeting.announce() + u"sleep 60");
+        return outputWhenRunAsShellCommand(runner, u"echo $$; " + meeting.announce() + u"sleep 60");
     });
     meeting.wait();
     runner.reset();

@@ -1,7 +1,7 @@
 // ScriptedShell: answers commands from a script and remembers what it was asked.
 #pragma once
 
-#include "ports/shell_runner.h"
+#include "ports/command_runner.h"
 
 #include <QStringList>
 
@@ -14,7 +14,7 @@
 
 namespace kelvo {
 
-class ScriptedShell final : public ShellRunner {
+class ScriptedShell final : public CommandRunner {
 public:
     using Answer = std::function<QString(const QString& command)>;
 
@@ -33,16 +33,16 @@ public:
         fRules.push_back({part, [soFar](const QString&) { return soFar; }, true});
     }
 
-    QString outputWhenRunAsShellCommand(const QString& command) override {
-        const Rule rule = ruleFor(command, std::nullopt);
-        if (rule.endless)
+    CommandResult run(const Command& command) override {
+        const Rule rule = ruleFor(command);
+        if (rule.endless && !command.seconds)
             throw std::logic_error("nobody bounded a command that never ends");
-        return rule.answer ? rule.answer(command) : QString();
-    }
-
-    QString outputWithin(double seconds, const QString& command) override {
-        const Rule rule = ruleFor(command, seconds);
-        return rule.answer ? rule.answer(command) : QString();
+        CommandResult result{.output = rule.answer ? rule.answer(command.text) : QString(),
+                             .errors = {},
+                             .exitStatus = rule.endless ? 124 : 0};
+        if (command.received && !result.output.isEmpty())
+            command.received(result.output.toUtf8());
+        return result;
     }
 
     QStringList commands() const {
@@ -63,13 +63,13 @@ private:
         bool endless = false;
     };
 
-    Rule ruleFor(const QString& command, std::optional<double> seconds) {
+    Rule ruleFor(const Command& command) {
         const std::lock_guard lock(fMutex);
-        fCommands.append(command);
-        fBounds.push_back(seconds);
+        fCommands.append(command.text);
+        fBounds.push_back(command.seconds);
         Rule found;
         for (const Rule& rule : fRules) {
-            if (command.contains(rule.part))
+            if (command.text.contains(rule.part))
                 found = rule;
         }
         return found;

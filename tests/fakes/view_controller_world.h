@@ -47,6 +47,8 @@ public:
         console.clear();
     }
 
+    QDateTime now{QDate(2026, 3, 1), QTime(12, 0), Qt::UTC};
+    double seconds = 100; ///< of the clock of passes
     MemoryDefaults defaults;
     VirtualMainQueue mainQueue;
     ManualBackgroundQueue bgQueue;
@@ -80,19 +82,33 @@ public:
     std::shared_ptr<FakePathControl> pathControl = std::make_shared<FakePathControl>();
     FakeWindowController windowController;
     StatusMenuWindow* window = &windowController;
+    std::vector<PassRecord> passes; ///< every record so far
     ViewController controller{{
-        .defaults = defaults,
-        .mainQueue = mainQueue,
-        .bgQueue = bgQueue,
-        .shell = shell,
-        .files = files,
-        .console = console,
+        .engine = {.defaults = defaults,
+                   .mainQueue = mainQueue,
+                   .bgQueue = bgQueue,
+                   .commands = shell,
+                   .files = files,
+                   .console = console,
+                   .clock = {[this] { return now; }, [this] { return seconds; }},
+                   .passEnded = [this](const PassRecord& pass) { passes.push_back(pass); }},
+        .outlets = {.application = application,
+                    .view = view,
+                    .alertPresenter = presenter,
+                    .sheets = sheets,
+                    .openPanel = openPanel,
+                    .terminal = terminal,
+                    .pasteboard = pasteboard,
+                    .fArrayController = foundServices,
+                    .ibStartButton = button,
+                    .ibRevealButton1 = &revealButton1,
+                    .ibRevealButton2 = &revealButton2,
+                    .ibStatusTextField = field,
+                    .fNsPathControl1 = pathControl},
         .notificationCenter = notificationCenter,
         .bundle = bundle,
-        .application = application,
         .watchdog = watchdog,
         .workspace = workspace,
-        .openPanel = openPanel,
         .networkBrowser = networkBrowser,
         .dnssdBrowser = dnssdBrowser,
         .makeKelvoSSID =
@@ -103,18 +119,7 @@ public:
         .statusMenu = statusMenu,
         .temporaryFolder = temporaryFolder,
         .fileChanges = fileChanges,
-        .terminal = terminal,
-        .pasteboard = pasteboard,
         .shareCommands = shareCommands,
-        .view = view,
-        .alertPresenter = presenter,
-        .sheets = sheets,
-        .fArrayController = foundServices,
-        .ibStartButton = button,
-        .ibRevealButton1 = &revealButton1,
-        .ibRevealButton2 = &revealButton2,
-        .ibStatusTextField = field,
-        .fNsPathControl1 = pathControl,
         .windowController = [this] { return window; },
     }};
 };

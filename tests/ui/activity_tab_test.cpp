@@ -33,7 +33,7 @@ protected:
         PassRecord record;
         record.began = QDateTime::currentDateTimeUtc();
         record.kind = PassKind::Remote;
-        record.verdict = QStringLiteral("valid");
+        record.verdict = HostVerdict::Valid;
         record.cause = cause;
         record.brought = {BroughtSource::Statistics, 3, 3000};
         CommandRecord command;

@@ -1,7 +1,10 @@
 #include "fakes/fake_file_manager.h"
 #include "fakes/memory_defaults.h"
+#include "fakes/recording_console.h"
+#include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
 #include "remote/key_state_watch.h"
+#include "remote/remote_host_validation.h"
 #include "settings/preference_keys.h"
 #include "ui/key_state_words.h"
 
@@ -13,14 +16,19 @@ namespace kelvo {
 namespace {
 
 TEST(KeyStateTest, Verdicts_TellWhatIsKnown) {
-    EXPECT_EQ(keyState(QStringLiteral("valid"), true), KeyState::Accepted);
-    EXPECT_EQ(keyState(QStringLiteral("checkusername"), true), KeyState::NotAccepted);
-    EXPECT_EQ(keyState(QStringLiteral("unknownerror"), true), KeyState::NotAccepted);
-    EXPECT_EQ(keyState(QStringLiteral("checkremotehost"), true), KeyState::HostAway);
-    EXPECT_EQ(keyState(QString(), true), KeyState::HostUnset);
-    EXPECT_EQ(keyState(QStringLiteral("checksshkeys"), false), KeyState::NoKey);
-    EXPECT_EQ(keyState(QStringLiteral("Permission denied."), false), KeyState::NoKey);
-    EXPECT_EQ(keyState(QString(), false), KeyState::NoKey);
+    EXPECT_EQ(keyState(HostVerdict::fromText(QStringLiteral("valid")), true), KeyState::Accepted);
+    EXPECT_EQ(keyState(HostVerdict::fromText(QStringLiteral("checkusername")), true),
+              KeyState::NotAccepted);
+    EXPECT_EQ(keyState(HostVerdict::fromText(QStringLiteral("unknownerror")), true),
+              KeyState::NotAccepted);
+    EXPECT_EQ(keyState(HostVerdict::fromText(QStringLiteral("checkremotehost")), true),
+              KeyState::HostAway);
+    EXPECT_EQ(keyState(HostVerdict::NotAsked, true), KeyState::HostUnset);
+    EXPECT_EQ(keyState(HostVerdict::fromText(QStringLiteral("checksshkeys")), false),
+              KeyState::NoKey);
+    EXPECT_EQ(keyState(HostVerdict::fromText(QStringLiteral("Permission denied.")), false),
+              KeyState::NoKey);
+    EXPECT_EQ(keyState(HostVerdict::NotAsked, false), KeyState::NoKey);
 }
 
 TEST(KeyStateTest, EveryState_HasItsOwnWords) {
@@ -31,22 +39,15 @@ TEST(KeyStateTest, EveryState_HasItsOwnWords) {
     EXPECT_FALSE(words.contains(QString()));
 }
 
-class ScriptedValidator final : public HostValidator {
-public:
-    QString validateRemoteHostWithWhoami(qint64 timeout) override {
-        timeouts.append(timeout);
-        return verdict;
-    }
-    QString verdict = QStringLiteral("valid");
-    QList<qint64> timeouts;
-};
-
 class KeyStateWatchTest : public ::testing::Test {
 protected:
     KeyStateWatchTest() {
         defaults.setObject(prefRemoteUsername, QStringLiteral("ann"));
         defaults.setObject(prefRemoteBonjourName, QStringLiteral("mac.local"));
         makeBoth();
+        shell.answerTo(QStringLiteral("whoami"), [this](const QString&) {
+            return defaults.stringForKey(prefRemoteUsername).value_or(QString());
+        });
     }
     void makeBoth() {
         files.existing = {QStringLiteral("/Users/localuser/.ssh/id_kelvoRsync"),
@@ -62,10 +63,25 @@ protected:
     FakeFileManager files;
     VirtualMainQueue mainQueue;
     ManualBackgroundQueue bgQueue;
-    ScriptedValidator validator;
+    ScriptedShell shell;
+    RecordingConsole console;
     std::vector<KeyState> shown;
-    KeyStateWatch watch{{defaults, files, mainQueue, bgQueue, validator,
-                         [this](KeyState state) { shown.push_back(state); }}};
+    RemoteHostValidation validation{
+        {.defaults = defaults,
+         .commands = shell,
+         .files = files,
+         .console = console,
+         .answered = [this](const QString& target, const HostVerdict& verdict) {
+             watch.answered(target, verdict);
+         }}};
+    KeyStateWatch watch{
+        {.defaults = defaults,
+         .files = files,
+         .mainQueue = mainQueue,
+         .bgQueue = bgQueue,
+         .validate =
+             [this](qint64 timeout) { (void)validation.validateRemoteHostWithWhoami(timeout); },
+         .show = [this](KeyState state) { shown.push_back(state); }}};
 };
 
 TEST_F(KeyStateWatchTest, Begin_LooksAtFilesAndSettingsOnly) {
@@ -78,13 +94,13 @@ TEST_F(KeyStateWatchTest, Begin_LooksAtFilesAndSettingsOnly) {
     defaults.removeObject(prefRemoteUsername);
     settle();
     EXPECT_EQ(shown.back(), KeyState::HostUnset);
-    EXPECT_TRUE(validator.timeouts.isEmpty());
+    EXPECT_TRUE(shell.commands().isEmpty());
 }
 
 TEST_F(KeyStateWatchTest, EveryValidation_IsPassedOnAndRemembered) {
-    validator.verdict = QStringLiteral("checkusername");
-    EXPECT_EQ(watch.validateRemoteHostWithWhoami(3), u"checkusername");
-    EXPECT_EQ(validator.timeouts, QList<qint64>{3});
+    shell.answerTo(QStringLiteral("whoami"), QStringLiteral("Permission denied."));
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), HostVerdict::CheckUsername);
+    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{33.0});
     EXPECT_TRUE(shown.empty()) << "told on the main queue";
     settle();
     EXPECT_EQ(shown, std::vector{KeyState::NotAccepted});
@@ -93,7 +109,7 @@ TEST_F(KeyStateWatchTest, EveryValidation_IsPassedOnAndRemembered) {
 TEST_F(KeyStateWatchTest, CheckAgain_AsksInTheBackground) {
     watch.checkAgain();
     EXPECT_EQ(shown, std::vector{KeyState::Asking});
-    EXPECT_TRUE(validator.timeouts.isEmpty());
+    EXPECT_TRUE(shell.commands().isEmpty());
     settle();
     EXPECT_EQ(shown, (std::vector{KeyState::Asking, KeyState::Accepted}));
 }
@@ -107,7 +123,7 @@ TEST_F(KeyStateWatchTest, CheckWhileAsking_WaitsForItsEnd) {
     mainQueue.runDue();
     EXPECT_EQ(shown.back(), KeyState::Asking);
     settle();
-    EXPECT_EQ(validator.timeouts.size(), 2);
+    EXPECT_EQ(shell.commands().size(), 2);
     EXPECT_EQ(shown.back(), KeyState::Accepted);
     EXPECT_EQ(bgQueue.size(), 0U);
 }

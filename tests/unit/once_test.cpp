@@ -14,7 +14,7 @@ constexpr int cCauses = static_cast<int>(PassCause::Unknown) + 1;
 PassRecord passWith(PassCause cause) {
     PassRecord pass;
     pass.kind = PassKind::Remote;
-    pass.verdict = QStringLiteral("valid");
+    pass.verdict = HostVerdict::Valid;
     pass.seconds = 65.2;
     pass.cause = cause;
     pass.brought = {BroughtSource::Statistics, 3, 430659};
@@ -49,7 +49,7 @@ TEST(PassWordsTest, Figures_ReadWell) {
     PassRecord pass;
     pass.kind = PassKind::Remote;
     EXPECT_EQ(filesText(pass), QStringLiteral("no transfer"));
-    pass.verdict = QStringLiteral("valid");
+    pass.verdict = HostVerdict::Valid;
     EXPECT_EQ(filesText(pass), QStringLiteral("files unknown"));
     EXPECT_EQ(sizeText({BroughtSource::Statistics, 1, 40000}), QStringLiteral("40.0 kB"));
     EXPECT_EQ(sizeText({}), QString());

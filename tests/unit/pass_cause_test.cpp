@@ -153,7 +153,7 @@ TEST(PassCauseTest, CommandGivenUp_MeansInterrupted) {
 PassRecord remotePass(const QString& verdict, std::vector<CommandRecord> commands) {
     PassRecord pass;
     pass.kind = PassKind::Remote;
-    pass.verdict = verdict;
+    pass.verdict = HostVerdict::fromText(verdict);
     pass.commands = std::move(commands);
     return pass;
 }

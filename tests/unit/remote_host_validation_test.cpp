@@ -22,10 +22,10 @@ class HostVerdictTest : public ::testing::TestWithParam<VerdictCase> {};
 
 TEST_P(HostVerdictTest, Answer_HasItsVerdictAndRemark) {
     const VerdictCase& expected = GetParam();
-    EXPECT_EQ(
-        hostVerdict(QString::fromUtf8(expected.answer), QStringLiteral("Bob"),
-                    expected.keyFileExists),
-        (HostVerdict{QString::fromUtf8(expected.verdict), QString::fromUtf8(expected.remark)}));
+    EXPECT_EQ(judgedAnswer(QString::fromUtf8(expected.answer), QStringLiteral("Bob"),
+                           expected.keyFileExists),
+              (JudgedAnswer{HostVerdict::fromText(QString::fromUtf8(expected.verdict)),
+                            QString::fromUtf8(expected.remark)}));
 }
 
 constexpr const char* cIdentityWarning =
@@ -78,7 +78,8 @@ protected:
     ScriptedShell shell;
     FakeFileManager files;
     RecordingConsole console;
-    RemoteHostValidation validation{defaults, shell, files, console};
+    RemoteHostValidation validation{
+        {.defaults = defaults, .commands = shell, .files = files, .console = console}};
 };
 
 TEST_F(RemoteHostValidationTest, Command_IsExact) {
@@ -98,7 +99,7 @@ TEST_F(RemoteHostValidationTest, Command_QuotesBlanksAndTakesAnyTimeout) {
 
 TEST_F(RemoteHostValidationTest, ConsoleLines_StandInOrder) {
     shell.answerTo(QStringLiteral("whoami"), QStringLiteral(" \nPermission denied.\n"));
-    EXPECT_EQ(validation.validateRemoteHostWithWhoami(2), u"checkusername");
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(2).text(), u"checkusername");
     using Kind = RecordingConsole::Kind;
     const QString rule(65, u'=');
     const std::vector<RecordingConsole::Line> expected{
@@ -117,34 +118,36 @@ TEST_F(RemoteHostValidationTest, ConsoleLines_StandInOrder) {
 
 TEST_F(RemoteHostValidationTest, Valid_AddsNoRemark) {
     shell.answerTo(QStringLiteral("whoami"), QStringLiteral("MediaUser\n"));
-    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"valid");
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3).text(), u"valid");
     EXPECT_EQ(console.printed().size(), 4);
 }
 
 TEST_F(RemoteHostValidationTest, KeyFileMissing_HandsBackSshsOwnWords) {
     files.existing.clear();
     shell.answerTo(QStringLiteral("whoami"), QStringLiteral("No Route To Host\n"));
-    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"No Route To Host");
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3).text(), u"No Route To Host");
 }
 
 TEST_F(RemoteHostValidationTest, Command_IsBoundedByItsOwnTimeOutAndTheGrace) {
     validation.validateRemoteHostWithWhoami(3);
     validation.validateRemoteHostWithWhoami(0);
     validation.validateRemoteHostWithWhoami(-40);
-    RemoteHostValidation(defaults, shell, files, console, 0.5).validateRemoteHostWithWhoami(2);
+    (void)RemoteHostValidation(
+        {.defaults = defaults, .commands = shell, .files = files, .console = console, .grace = 0.5})
+        .validateRemoteHostWithWhoami(2);
     EXPECT_EQ(shell.bounds(), (std::vector<std::optional<double>>{33.0, 30.0, 0.0, 2.5}));
 }
 
 TEST_F(RemoteHostValidationTest, HostThatStallsInTheLogin_IsJudgedByWhatItSaidSoFar) {
     shell.neverEnds(QStringLiteral("whoami"), QString());
-    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"unknownerror");
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3).text(), u"unknownerror");
     shell.neverEnds(QStringLiteral("whoami"), QStringLiteral("Warning: Identity file x"));
-    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"checksshkeys");
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3).text(), u"checksshkeys");
     shell.neverEnds(QStringLiteral("whoami"), QStringLiteral("mediauser\n"));
-    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"valid");
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3).text(), u"valid");
     files.existing.clear();
     shell.neverEnds(QStringLiteral("whoami"), QStringLiteral("Welcome\n"));
-    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"Welcome");
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3).text(), u"Welcome");
 }
 
 TEST_F(RemoteHostValidationTest, UserOrHostMissing_RunsNothing) {
@@ -152,7 +155,7 @@ TEST_F(RemoteHostValidationTest, UserOrHostMissing_RunsNothing) {
         const QVariant kept = defaults.object(key);
         defaults.removeObject(key);
         console.clear();
-        EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), u"");
+        EXPECT_EQ(validation.validateRemoteHostWithWhoami(3).text(), u"");
         EXPECT_EQ(console.lines().size(), 1U) << "the entry line alone";
         defaults.setObject(key, kept);
     }

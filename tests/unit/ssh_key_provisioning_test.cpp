@@ -3,7 +3,6 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_shell.h"
-#include "ports/host_validator.h"
 #include "remote/command_files.h"
 #include "remote/ssh_key_provisioning.h"
 #include "settings/preference_keys.h"
@@ -26,15 +25,6 @@ const QString cGeneration =
     QStringLiteral("/usr/bin/ssh-keygen  2>&1 -N \"\" -f \"/Users/localuser/.ssh/id_kelvoRsync\"");
 const QString cChmod = QStringLiteral("/bin/chmod 0755 2>&1 \"/tmp/of me/tempshell.command\"");
 
-class CountingValidator final : public HostValidator {
-public:
-    QString validateRemoteHostWithWhoami(qint64 timeout) override {
-        timeouts.append(timeout);
-        return QStringLiteral("unknownerror");
-    }
-    QList<qint64> timeouts;
-};
-
 class SshKeyProvisioningTest : public ::testing::Test {
 protected:
     SshKeyProvisioningTest() {
@@ -54,17 +44,24 @@ protected:
     FakeWorkspace workspace;
     RecordingConsole console;
     ScriptedShell shell;
-    CountingValidator validator;
+    QList<qint64> timeouts; ///< of every question so far
     CommandFiles commandFiles{{console, files, changes, shell, folder, terminal}};
     QStringList ended; ///< the commands whose scripts have ended or found no window
     int keyChanges = 0;
     SshKeyProvisioning provisioning{
-        {defaults, files, console, shell, validator, commandFiles, workspace,
-         [this](TerminalOutcome outcome, const QString& command) {
-             ended.append((outcome == TerminalOutcome::Ended ? u"ended " : u"no window ") +
-                          command);
-         },
-         [this] { ++keyChanges; }}};
+        {.defaults = defaults,
+         .files = files,
+         .console = console,
+         .shell = shell,
+         .validate = [this](qint64 timeout) { timeouts.append(timeout); },
+         .commandFiles = commandFiles,
+         .workspace = workspace,
+         .scriptEnded =
+             [this](TerminalOutcome outcome, const QString& command) {
+                 ended.append((outcome == TerminalOutcome::Ended ? u"ended " : u"no window ") +
+                              command);
+             },
+         .keysChanged = [this] { ++keyChanges; }}};
 };
 
 // -- files
@@ -224,7 +221,7 @@ TEST_F(SshKeyProvisioningTest, WithoutAHomeFolder_NothingIsMade) {
 
 TEST_F(SshKeyProvisioningTest, Sequence_ValidatesMakesAndInstalls) {
     provisioning.ibGenerateSSHKeyStuff();
-    EXPECT_EQ(validator.timeouts, QList<qint64>{2});
+    EXPECT_EQ(timeouts, QList<qint64>{2});
     EXPECT_EQ(shell.commands(), (QStringList{cGeneration, cChmod}));
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().command, cInstallation);

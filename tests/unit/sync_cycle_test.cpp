@@ -4,7 +4,7 @@
 #include "fakes/recording_console.h"
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
-#include "ports/host_validator.h"
+#include "passes/running_pass.h"
 #include "settings/preference_keys.h"
 #include "sync/rsync_command.h"
 #include "sync/sync_cycle.h"
@@ -22,15 +22,14 @@ const QString cTrying = QStringLiteral("Trying to rsync From Destination to Sour
 const QString cResting = QStringLiteral("Resting a bit ...");
 const QString cMovieRules = QStringLiteral("-f '+ */'");
 
-class ScriptedValidator final : public HostValidator {
-public:
-    QString validateRemoteHostWithWhoami(qint64 timeout) override {
+struct ScriptedValidator {
+    HostVerdict validate(qint64 timeout) {
         timeouts.push_back(timeout);
         if (verdicts.empty())
-            return usual;
+            return HostVerdict::fromText(usual);
         const QString verdict = verdicts.front();
         verdicts.pop_front();
-        return verdict;
+        return HostVerdict::fromText(verdict);
     }
 
     QString usual = QStringLiteral("valid");
@@ -105,8 +104,30 @@ protected:
     FakeAlertPresenter presenter;
     Alerts alerts{mainQueue, console, presenter};
     FakeButton button;
-    SyncCycle cycle{{defaults, mainQueue, bgQueue, shell, files, console, rsyncCommand, validator,
-                     statusLine, alerts, button}};
+    std::vector<PassRecord> records;
+    RunningPasses passes{shell,
+                         {[] { return QDateTime(); }, [] { return 0.0; }},
+                         [this](const PassRecord& record) { records.push_back(record); }};
+    SyncCycle cycle{
+        {.defaults = defaults,
+         .mainQueue = mainQueue,
+         .bgQueue = bgQueue,
+         .passes = passes,
+         .files = files,
+         .console = console,
+         .rsyncCommand = rsyncCommand,
+         .validateRemoteHost = [this](qint64 timeout,
+                                      const RunCommand&) { return validator.validate(timeout); },
+         .view = {
+             .updateStatusMessage =
+                 [this](std::optional<QString> mesg, StatusColor color, bool docenter) {
+                     statusLine.updateStatusMessage(std::move(mesg), color, docenter);
+                 },
+             .showProblemWithBonjourClosure =
+                 [this](const QString& message, const QString& text, AlertCompletion completion) {
+                     alerts.showProblemWithBonjourClosure(message, text, std::move(completion));
+                 },
+             .ibStartButton = button}}};
 };
 
 // -- the actions

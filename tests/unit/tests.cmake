@@ -16,7 +16,7 @@ kelvo_tests(unit
     unit/network_path_monitoring_test.cpp
     unit/once_test.cpp
     unit/pass_cause_test.cpp
-    unit/pass_journal_test.cpp
+    unit/running_pass_test.cpp
     unit/pass_notices_test.cpp
     unit/plain_line_test.cpp
     unit/rsync_statistics_test.cpp

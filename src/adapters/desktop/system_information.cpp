@@ -1,8 +1,8 @@
 #include "adapters/desktop/system_information.h"
 
+#include "ports/command_runner.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
-#include "ports/shell_runner.h"
 #include "support/plain_line.h"
 
 #include <QStringList>
@@ -32,14 +32,14 @@ QString desktopText() {
 }
 
 /// The first line that `command` prints, when it begins with `start`.
-QString versionFrom(ShellRunner& shell, const QString& command, QStringView start) {
-    const QString line = shell.outputWithin(cCommandGrace, command).section(u'\n', 0, 0).trimmed();
+QString versionFrom(CommandRunner& shell, const QString& command, QStringView start) {
+    const QString line = outputWithin(shell, cCommandGrace, command).section(u'\n', 0, 0).trimmed();
     return line.startsWith(start) ? line.left(200) : QStringLiteral("not found");
 }
 
 } // namespace
 
-LocalSystemInformation::LocalSystemInformation(QString programName, ShellRunner& shell,
+LocalSystemInformation::LocalSystemInformation(QString programName, CommandRunner& shell,
                                                DispatchQueue& mainQueue, BackgroundQueue& bgQueue,
                                                Console& console)
     : fProgramName(std::move(programName)), fShell(shell), fMainQueue(mainQueue), fBgQueue(bgQueue),

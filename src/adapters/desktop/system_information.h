@@ -10,20 +10,20 @@ namespace kelvo {
 class BackgroundQueue;
 class Console;
 class DispatchQueue;
-class ShellRunner;
+class CommandRunner;
 
 class LocalSystemInformation final : public SystemInformation {
 public:
     /// `programName` is the program with its version, the first line written. The other parts
     /// outlive the work that waits on the queues. Nothing is asked before the start-up is over.
-    LocalSystemInformation(QString programName, ShellRunner& shell, DispatchQueue& mainQueue,
+    LocalSystemInformation(QString programName, CommandRunner& shell, DispatchQueue& mainQueue,
                            BackgroundQueue& bgQueue, Console& console);
 
     void logCurrentSystemInfo() override;
 
 private:
     const QString fProgramName;
-    ShellRunner& fShell;
+    CommandRunner& fShell;
     DispatchQueue& fMainQueue;
     BackgroundQueue& fBgQueue;
     Console& fConsole;

@@ -92,7 +92,7 @@ void bindPass(QSqlQuery& query, const PassRecord& record) {
     query.addBindValue(record.began.toMSecsSinceEpoch());
     query.addBindValue(record.seconds);
     query.addBindValue(static_cast<int>(record.kind));
-    query.addBindValue(text(record.verdict));
+    query.addBindValue(text(record.verdict.text()));
     query.addBindValue(static_cast<int>(record.cause));
     query.addBindValue(text(record.lastLine));
     addBrought(query, record.brought);
@@ -120,7 +120,7 @@ PassRecord passFrom(const QSqlQuery& query) {
     record.seconds = query.value(2).toDouble();
     record.kind = query.value(3).toInt() == static_cast<int>(PassKind::Remote) ? PassKind::Remote
                                                                                : PassKind::Plain;
-    record.verdict = query.value(4).toString();
+    record.verdict = HostVerdict::fromText(query.value(4).toString());
     const int cause = query.value(5).toInt();
     const bool known = cause >= 0 && cause <= static_cast<int>(PassCause::Unknown);
     record.cause = known ? static_cast<PassCause>(cause) : PassCause::Unknown;

@@ -74,11 +74,12 @@ siginfo_t endOf(pid_t pid, int options) {
 /// One run: reads both streams until the shell has ended and its standard output is closed.
 class PosixShellRunner::Capture {
 public:
-    Capture(const ShellChild& child, int giveUp)
-        : fWatched{{child.output.get(), POLLIN, 0},
-                   {child.errors.get(), POLLIN, 0},
-                   {child.ended.get(), POLLIN, 0},
-                   {giveUp, POLLIN, 0}} {}
+    Capture(const ShellChild& child, int giveUp,
+            const std::function<void(QByteArrayView)>& received)
+        : fReceived(received), fWatched{{child.output.get(), POLLIN, 0},
+                                        {child.errors.get(), POLLIN, 0},
+                                        {child.ended.get(), POLLIN, 0},
+                                        {giveUp, POLLIN, 0}} {}
 
     /// Returns at the end of both, or of the program; false when the deadline came first.
     bool follow(const Deadline& deadline) {
@@ -143,7 +144,10 @@ private:
     }
 
     std::size_t readOutput() {
-        const std::size_t size = readSome(Output, fOutput.room());
+        const std::span<char> room = fOutput.room();
+        const std::size_t size = readSome(Output, room);
+        if (size > 0 && fReceived)
+            fReceived(QByteArrayView(room.data(), static_cast<qsizetype>(size)));
         fOutput.took(size);
         return size;
     }
@@ -157,6 +161,7 @@ private:
         return size;
     }
 
+    const std::function<void(QByteArrayView)>& fReceived;
     Utf8Collector fOutput;
     std::string fErrors;
     std::size_t fErrorsLeftOut = 0;
@@ -171,9 +176,9 @@ PosixShellRunner::~PosixShellRunner() {
     endAll();
 }
 
-CommandResult PosixShellRunner::runBounded(const QString& command, std::optional<double> seconds) {
-    const Deadline deadline = deadlineAfter(seconds);
-    const std::string text = command.toStdString();
+CommandResult PosixShellRunner::run(const Command& command) {
+    const Deadline deadline = deadlineAfter(command.seconds);
+    const std::string text = command.text.toStdString();
     ShellChild child;
     int failure = 0;
     {
@@ -192,10 +197,10 @@ CommandResult PosixShellRunner::runBounded(const QString& command, std::optional
         return {{}, {}, cCannotStart};
     }
 
-    Capture capture(child, fGiveUp.get());
+    Capture capture(child, fGiveUp.get(), command.received);
     End end = End::Own;
     if (!capture.follow(deadline))
-        end = cutOff(child.pid, command, *seconds);
+        end = cutOff(child.pid, command);
     capture.readRest();
     if (const QString line = capture.errorLine(); !line.isEmpty())
         fConsole.log(line);
@@ -207,10 +212,11 @@ CommandResult PosixShellRunner::runBounded(const QString& command, std::optional
 
 /// What has left the session, such as the shared connection that ssh can keep for later, is not
 /// this command's any more.
-PosixShellRunner::End PosixShellRunner::cutOff(pid_t pid, const QString& command, double seconds) {
+PosixShellRunner::End PosixShellRunner::cutOff(pid_t pid, const Command& command) {
     const bool hadEnded = endOf(pid, WNOHANG).si_pid == pid;
-    fConsole.log(u"A shell command was cut off after " + QString::number(seconds) + u" s: " +
-                 withVisibleControls(QStringView(command).left(cLongestCommandSaid)));
+    fConsole.log(u"A shell command was cut off after " + QString::number(*command.seconds) +
+                 u" s: " +
+                 withVisibleControls(QStringView(command.text).left(cLongestCommandSaid)));
     const CommandProcesses own{{&pid, 1}, {}};
     if (!endProcesses(own, SIGTERM, cAskPatience))
         (void)endProcesses(own, SIGKILL, cForcePatience);

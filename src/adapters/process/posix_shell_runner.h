@@ -3,7 +3,6 @@
 
 #include "adapters/system/unique_fd.h"
 #include "ports/command_runner.h"
-#include "ports/shell_runner.h"
 
 #include <sys/types.h>
 
@@ -19,7 +18,7 @@ class Console;
 
 /// Commands see the environment as it was when the runner was made, less what could prompt. The
 /// first 64 KiB of a command's error output go to the system log in one line, when it has ended.
-class PosixShellRunner final : public ShellRunner, public CommandRunner {
+class PosixShellRunner final : public CommandRunner {
 public:
     /// `console` must outlive the runner.
     explicit PosixShellRunner(Console& console);
@@ -30,16 +29,7 @@ public:
     /// A text with U+0000 in it, or one longer than the system passes on (128 KiB), cannot be
     /// started; that is said in the system log. When memory runs out the text ends there, and that
     /// is said too.
-    QString outputWhenRunAsShellCommand(const QString& command) override {
-        return run(command).output;
-    }
-    QString outputWithin(double seconds, const QString& command) override {
-        return runWithin(seconds, command).output;
-    }
-    CommandResult run(const QString& command) override { return runBounded(command, {}); }
-    CommandResult runWithin(double seconds, const QString& command) override {
-        return runBounded(command, seconds);
-    }
+    CommandResult run(const Command& command) override;
 
     /// For an orderly quit: from now on every command returns the empty text at once. Whatever any
     /// command has started and is still there, in its session or in another, is asked to end, 2 s
@@ -51,8 +41,7 @@ public:
 private:
     class Capture;
     enum class End { Own, Cut };
-    CommandResult runBounded(const QString& command, std::optional<double> seconds);
-    End cutOff(pid_t pid, const QString& command, double seconds);
+    End cutOff(pid_t pid, const Command& command);
     /// The shell's exit status; nothing when it was given up.
     std::optional<int> leave(pid_t pid, End end);
 

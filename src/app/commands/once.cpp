@@ -16,7 +16,7 @@ QString asJson(const PassRecord& pass, const CauseWords& words) {
          pass.kind == PassKind::Remote ? QStringLiteral("remote") : QStringLiteral("plain")},
         {QStringLiteral("began"), pass.began.toString(Qt::ISODateWithMs)},
         {QStringLiteral("seconds"), pass.seconds},
-        {QStringLiteral("verdict"), pass.verdict},
+        {QStringLiteral("verdict"), pass.verdict.text()},
         {QStringLiteral("cause"), words.name.toString()},
         {QStringLiteral("message"), words.sentence.toString()},
         {QStringLiteral("nextStep"), words.nextStep.toString()},

@@ -27,7 +27,7 @@ constexpr double cAmple = 60;
 
 struct RealShell {
     explicit RealShell(const std::vector<Known>&) : fRunner(fConsole) {}
-    ShellRunner& runner() { return fRunner; }
+    CommandRunner& runner() { return fRunner; }
 
     RecordingConsole fConsole;
     PosixShellRunner fRunner;
@@ -39,13 +39,13 @@ struct FakeShell {
             fRunner.answerTo(known.command, known.output);
         fRunner.neverEnds(cEndless.command, cEndless.output);
     }
-    ShellRunner& runner() { return fRunner; }
+    CommandRunner& runner() { return fRunner; }
 
     ScriptedShell fRunner;
 };
 
 template <typename Shell>
-class ShellRunnerContract : public testing::Test {
+class CommandRunnerContract : public testing::Test {
 protected:
     const std::vector<Known> fScript = {
         {QStringLiteral("printf ' \\n a b\\t\\n\\n'"), QStringLiteral(" \n a b\t\n\n")},
@@ -58,38 +58,62 @@ protected:
 };
 
 using Shells = testing::Types<FakeShell, RealShell>;
-TYPED_TEST_SUITE(ShellRunnerContract, Shells);
+TYPED_TEST_SUITE(CommandRunnerContract, Shells);
 
-TYPED_TEST(ShellRunnerContract, Output_ComesUntrimmedWhateverTheExitStatus) {
+TYPED_TEST(CommandRunnerContract, Output_ComesUntrimmedWhateverTheExitStatus) {
     for (const Known& known : this->fScript)
-        EXPECT_EQ(this->fShell.runner().outputWhenRunAsShellCommand(known.command), known.output)
+        EXPECT_EQ(outputWhenRunAsShellCommand(this->fShell.runner(), known.command), known.output)
             << known.command.toStdString();
 }
 
-TYPED_TEST(ShellRunnerContract, CommandThatEndsInTime_NoticesNoBound) {
+TYPED_TEST(CommandRunnerContract, CommandThatEndsInTime_NoticesNoBound) {
     for (const Known& known : this->fScript)
-        EXPECT_EQ(this->fShell.runner().outputWithin(cAmple, known.command), known.output)
+        EXPECT_EQ(outputWithin(this->fShell.runner(), cAmple, known.command), known.output)
             << known.command.toStdString();
 }
 
-TYPED_TEST(ShellRunnerContract, CommandThatNeverEnds_GivesWhatItPrintedWithinItsBound) {
+TYPED_TEST(CommandRunnerContract, CommandThatNeverEnds_GivesWhatItPrintedWithinItsBound) {
     const auto began = std::chrono::steady_clock::now();
-    EXPECT_EQ(this->fShell.runner().outputWithin(cPatience, cEndless.command), cEndless.output);
+    EXPECT_EQ(outputWithin(this->fShell.runner(), cPatience, cEndless.command), cEndless.output);
     EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(20));
 }
 
-TYPED_TEST(ShellRunnerContract, EmptyCommand_GivesTheEmptyText) {
-    EXPECT_TRUE(this->fShell.runner().outputWhenRunAsShellCommand(QString()).isEmpty());
+TYPED_TEST(CommandRunnerContract, EmptyCommand_GivesTheEmptyText) {
+    EXPECT_TRUE(outputWhenRunAsShellCommand(this->fShell.runner(), QString()).isEmpty());
 }
 
-TYPED_TEST(ShellRunnerContract, SeveralThreads_EachGetsItsOwnOutput) {
+TYPED_TEST(CommandRunnerContract, Receiver_GetsTheBytesOnTheCallersThreadBeforeTheEnd) {
+    const Known& known = this->fScript.front();
+    const auto caller = std::this_thread::get_id();
+    QByteArray received;
+    bool ended = false;
+    const CommandResult result =
+        this->fShell.runner().run({.text = known.command, .received = [&](QByteArrayView bytes) {
+                                       EXPECT_EQ(std::this_thread::get_id(), caller);
+                                       EXPECT_FALSE(ended);
+                                       received.append(bytes);
+                                   }});
+    ended = true;
+    EXPECT_EQ(received, known.output.toUtf8());
+    EXPECT_EQ(result.output, known.output);
+    EXPECT_EQ(result.exitStatus, 0);
+}
+
+TYPED_TEST(CommandRunnerContract, Result_TellsThatTheTimeWasUp) {
+    const CommandResult result =
+        this->fShell.runner().run({.text = cEndless.command, .seconds = cPatience});
+    EXPECT_EQ(result.exitStatus, 124);
+    EXPECT_EQ(result.output, cEndless.output);
+}
+
+TYPED_TEST(CommandRunnerContract, SeveralThreads_EachGetsItsOwnOutput) {
     std::vector<std::thread> threads;
     std::vector<int> right(8, 0);
     for (std::size_t i = 0; i < right.size(); ++i) {
         threads.emplace_back([&, i] {
             const Known& known = this->fScript[i % this->fScript.size()];
             for (int round = 0; round < 5; ++round)
-                right[i] += this->fShell.runner().outputWhenRunAsShellCommand(known.command) ==
+                right[i] += outputWhenRunAsShellCommand(this->fShell.runner(), known.command) ==
                             known.output;
         });
     }

@@ -1,0 +1,44 @@
+#include "app/pass_machine.h"
+
+#include "app/places.h"
+
+#include <chrono>
+#include <utility>
+
+namespace kelvo {
+
+PassMachine::PassMachine(int output, int errors)
+    : console(output, errors, logFile), defaults(settingsFile(), mainQueue, console),
+      bundle(resourceFolder()), commands(console), passes(passesFile(), mainQueue, console) {}
+
+EngineParts PassMachine::engineParts(UserDefaults& settings,
+                                     std::function<void(const PassRecord&)> ended) {
+    return {
+        .defaults = settings,
+        .mainQueue = mainQueue,
+        .bgQueue = bgQueue,
+        .commands = commands,
+        .files = files,
+        .console = console,
+        .clock = {.now = [] { return QDateTime::currentDateTimeUtc(); },
+                  .seconds =
+                      [] {
+                          const auto now = std::chrono::steady_clock::now().time_since_epoch();
+                          return std::chrono::duration<double>(now).count();
+                      }},
+        .passEnded =
+            [this, ended = std::move(ended)](const PassRecord& record) {
+                passes.append(record);
+                if (ended)
+                    ended(record);
+            },
+    };
+}
+
+void PassMachine::end() {
+    mainQueue.stop();
+    commands.endAll();
+    bgQueue.stopAndWait();
+}
+
+} // namespace kelvo

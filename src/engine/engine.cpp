@@ -1,0 +1,40 @@
+#include "engine/engine.h"
+
+#include <utility>
+
+namespace kelvo {
+
+Engine::Engine(const EngineParts& parts, const CycleView& view,
+               std::function<void(KeyState)> showKeyState)
+    : passes(parts.commands, parts.clock, parts.passEnded),
+      rsyncCommand(parts.defaults, parts.console), samplePath(parts.defaults, parts.mainQueue),
+      hostValidation(
+          {.defaults = parts.defaults,
+           .commands = parts.commands,
+           .files = parts.files,
+           .console = parts.console,
+           .answered = [this](const QString& target,
+                              const HostVerdict& verdict) { keyState.answered(target, verdict); }}),
+      keyState({.defaults = parts.defaults,
+                .files = parts.files,
+                .mainQueue = parts.mainQueue,
+                .bgQueue = parts.bgQueue,
+                .validate =
+                    [this](qint64 timeout) {
+                        (void)hostValidation.validateRemoteHostWithWhoami(timeout);
+                    },
+                .show = std::move(showKeyState)}),
+      syncCycle({.defaults = parts.defaults,
+                 .mainQueue = parts.mainQueue,
+                 .bgQueue = parts.bgQueue,
+                 .passes = passes,
+                 .files = parts.files,
+                 .console = parts.console,
+                 .rsyncCommand = rsyncCommand,
+                 .validateRemoteHost =
+                     [this](qint64 timeout, const RunCommand& run) {
+                         return hostValidation.validateRemoteHostWithWhoami(timeout, run);
+                     },
+                 .view = view}) {}
+
+} // namespace kelvo

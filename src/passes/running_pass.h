@@ -1,0 +1,76 @@
+// RunningPass: one pass from its begin to its record.
+#pragma once
+
+#include "ports/command_runner.h"
+#include "support/pass_record.h"
+
+#include <functional>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+namespace kelvo {
+
+class RunningPass;
+
+struct PassClock {
+    std::function<QDateTime()> now;
+    std::function<double()> seconds; ///< since any fixed moment; never goes back
+};
+
+/// What can be seen of a pass while it runs.
+struct PassUnderWay {
+    PassKind kind = PassKind::Plain;
+    QDateTime began;                 ///< UTC
+    std::optional<CommandRole> role; ///< of the command that runs at the moment, if one does
+    QString command;
+};
+
+/// The passes that run now. Any thread; several passes may run at the same time.
+class RunningPasses {
+public:
+    /// `commands` outlives the passes. The clock's functions and `ended` are called on the pass's
+    /// thread; `ended` gets each record, complete but for its number, when its pass has ended.
+    RunningPasses(CommandRunner& commands, PassClock clock,
+                  std::function<void(const PassRecord&)> ended);
+
+    /// Oldest first.
+    std::vector<PassUnderWay> underWay() const;
+
+private:
+    friend RunningPass;
+
+    CommandRunner& fCommands;
+    const PassClock fClock;
+    const std::function<void(const PassRecord&)> fEnded;
+    mutable std::mutex fMutex;
+    std::vector<const RunningPass*> fPasses;
+};
+
+/// Begins when it is made and ends when it goes. Commands may run on any thread, one at a time.
+class RunningPass {
+public:
+    /// `passes` outlives the pass.
+    RunningPass(RunningPasses& passes, PassKind kind);
+
+    /// The pass has run its last command: hands the record over.
+    ~RunningPass();
+    RunningPass(const RunningPass&) = delete;
+    RunningPass& operator=(const RunningPass&) = delete;
+
+    /// Runs `command` as CommandRunner does and writes it down.
+    CommandResult run(CommandRole role, const Command& command);
+
+    /// Remote passes only: what the host check came to.
+    void judged(const HostVerdict& verdict) { fRecord.verdict = verdict; }
+
+private:
+    friend RunningPasses;
+
+    RunningPasses& fPasses;
+    PassRecord fRecord;
+    const double fBegan;
+    PassUnderWay fNow; ///< guarded by the mutex of all passes
+};
+
+} // namespace kelvo

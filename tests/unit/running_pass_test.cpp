@@ -1,0 +1,230 @@
+#include "engine/engine.h"
+#include "fakes/view_controller_world.h"
+#include "passes/running_pass.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <thread>
+
+namespace kelvo {
+namespace {
+
+const QString cStatistics = QStringLiteral("one.mov\n\nNumber of regular files transferred: 1\n"
+                                           "Total transferred file size: 40,000 bytes\n");
+
+/// Commands take time on the test's clock and end as told.
+class ScriptedCommands final : public CommandRunner {
+public:
+    explicit ScriptedCommands(double& clock) : fClock(clock) {}
+
+    CommandResult run(const Command& command) override {
+        if (whileRunning)
+            whileRunning();
+        if (command.text == endless) {
+            fClock += command.seconds.value_or(0);
+            return {QStringLiteral("so far\n"), {}, 124};
+        }
+        fClock += 2.5;
+        for (const auto& [part, result] : results) {
+            if (command.text.contains(part))
+                return result;
+        }
+        return {{}, {}, 0};
+    }
+
+    std::function<void()> whileRunning;
+    QString endless; ///< this command never ends by itself
+
+    std::map<QString, CommandResult> results;
+
+private:
+    double& fClock;
+};
+
+class RunningPassTest : public ::testing::Test {
+protected:
+    static CommandResult run(RunningPass& pass, const char* command,
+                             CommandRole role = CommandRole::Pull) {
+        return pass.run(role, {.text = QString::fromLatin1(command)});
+    }
+
+    double clock = 100;
+    const QDateTime noon{QDate(2026, 3, 1), QTime(12, 0), Qt::UTC};
+    std::vector<PassRecord> records;
+    ScriptedCommands commands{clock};
+    RunningPasses passes{commands,
+                         {[this] { return noon; }, [this] { return clock; }},
+                         [this](const PassRecord& record) { records.push_back(record); }};
+};
+
+TEST_F(RunningPassTest, RemotePass_IsWrittenDownWhole) {
+    commands.results[QStringLiteral("whoami")] = {QStringLiteral("mediauser\n"), {}, 0};
+    commands.results[QStringLiteral("first")] = {cStatistics, {}, 0};
+    commands.results[QStringLiteral("second")] = {{}, QStringLiteral("oops\n"), 24};
+    {
+        RunningPass pass(passes, PassKind::Remote);
+        run(pass, "ssh whoami", CommandRole::HostCheck);
+        pass.judged(HostVerdict::Valid);
+        run(pass, "first --stats");
+        run(pass, "second");
+        EXPECT_TRUE(records.empty());
+    }
+
+    ASSERT_EQ(records.size(), 1U);
+    const PassRecord& record = records.front();
+    EXPECT_EQ(record.began, noon);
+    EXPECT_DOUBLE_EQ(record.seconds, 7.5);
+    EXPECT_EQ(record.kind, PassKind::Remote);
+    EXPECT_EQ(record.verdict, HostVerdict::Valid);
+    EXPECT_EQ(record.cause, PassCause::FilesVanished);
+    EXPECT_EQ(record.lastLine, QStringLiteral("oops"));
+    EXPECT_EQ(record.brought.files, 1);
+    EXPECT_EQ(record.brought.bytes, 40000);
+    ASSERT_EQ(record.commands.size(), 3U);
+    EXPECT_EQ(record.commands[0].role, CommandRole::HostCheck);
+    EXPECT_EQ(record.commands[0].text.head, QStringLiteral("mediauser\n"));
+    EXPECT_EQ(record.commands[1].role, CommandRole::Pull);
+    EXPECT_DOUBLE_EQ(record.commands[1].seconds, 2.5);
+    EXPECT_EQ(record.commands[2].exitStatus, 24);
+    EXPECT_EQ(record.commands[2].text.head, QStringLiteral("oops\n"));
+    EXPECT_EQ(record.commands[2].brought.source, BroughtSource::Unknown);
+}
+
+TEST_F(RunningPassTest, PassWithoutACommand_LacksItsSettings) {
+    { const RunningPass pass(passes, PassKind::Plain); }
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_TRUE(records.front().commands.empty());
+    EXPECT_EQ(records.front().cause, PassCause::SettingsMissing);
+}
+
+TEST_F(RunningPassTest, PassesSideBySide_KeepTheirCommandsApart) {
+    {
+        RunningPass mine(passes, PassKind::Plain);
+        run(mine, "mine");
+        std::thread other([this] {
+            RunningPass theirs(passes, PassKind::Remote);
+            run(theirs, "theirs");
+        });
+        other.join();
+    }
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[0].commands.at(0).command, QStringLiteral("theirs"));
+    EXPECT_EQ(records[1].commands.at(0).command, QStringLiteral("mine"));
+    EXPECT_EQ(records[1].commands.size(), 1U);
+}
+
+TEST_F(RunningPassTest, CommandRunOnAnotherThread_BelongsToItsPass) {
+    {
+        RunningPass pass(passes, PassKind::Plain);
+        std::thread([&pass] { run(pass, "elsewhere"); }).join();
+    }
+    ASSERT_EQ(records.size(), 1U);
+    ASSERT_EQ(records[0].commands.size(), 1U);
+    EXPECT_EQ(records[0].commands[0].command, QStringLiteral("elsewhere"));
+}
+
+TEST_F(RunningPassTest, PassesUnderWay_TellWhatRunsSinceWhen) {
+    EXPECT_TRUE(passes.underWay().empty());
+    std::vector<PassUnderWay> seen;
+    commands.whileRunning = [&] { seen = passes.underWay(); };
+    {
+        RunningPass pass(passes, PassKind::Remote);
+        run(pass, "ssh whoami", CommandRole::HostCheck);
+        ASSERT_EQ(seen.size(), 1U);
+        EXPECT_EQ(seen[0].kind, PassKind::Remote);
+        EXPECT_EQ(seen[0].began, noon);
+        EXPECT_EQ(seen[0].role, CommandRole::HostCheck);
+        EXPECT_EQ(seen[0].command, QStringLiteral("ssh whoami"));
+        const RunningPass second(passes, PassKind::Plain);
+        run(pass, "pull");
+        ASSERT_EQ(seen.size(), 2U);
+        EXPECT_EQ(seen[0].role, CommandRole::Pull);
+        EXPECT_EQ(seen[0].command, QStringLiteral("pull"));
+        EXPECT_FALSE(seen[1].role.has_value());
+        EXPECT_FALSE(passes.underWay()[0].role.has_value()) << "between two commands";
+    }
+    EXPECT_TRUE(passes.underWay().empty());
+}
+
+TEST_F(RunningPassTest, Result_IsHandedBackUntouched) {
+    commands.results[QStringLiteral("x")] = {QStringLiteral(" text \n\n"), QStringLiteral("e"), 3};
+    RunningPass pass(passes, PassKind::Plain);
+    const CommandResult result = run(pass, "x");
+    EXPECT_EQ(result.output, QStringLiteral(" text \n\n"));
+    EXPECT_EQ(result.errors, QStringLiteral("e"));
+    EXPECT_EQ(result.exitStatus, 3);
+}
+
+TEST_F(RunningPassTest, CheckWhoseTimeWasUp_IsWrittenDownAsAHostThatIsAway) {
+    commands.endless = QStringLiteral("ssh whoami");
+    {
+        RunningPass pass(passes, PassKind::Remote);
+        const CommandResult result =
+            pass.run(CommandRole::HostCheck, {.text = commands.endless, .seconds = 33});
+        EXPECT_EQ(result.output, QStringLiteral("so far\n"));
+        pass.judged(HostVerdict::UnknownError);
+    }
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].cause, PassCause::HostAway);
+    EXPECT_EQ(records[0].lastLine, QStringLiteral("so far"));
+    ASSERT_EQ(records[0].commands.size(), 1U);
+    EXPECT_EQ(records[0].commands[0].exitStatus, 124);
+    EXPECT_DOUBLE_EQ(records[0].commands[0].seconds, 33);
+}
+
+// -- with the cycle
+
+TEST(RecordedCycleTest, RemotePassWithoutAHost_IsHandedOverWithoutACommand) {
+    ViewControllerWorld world;
+    world.button.performClick();
+    world.defaults.setObject(prefIsScanning, false);
+    world.controller.ibRSyncOnceBonjour(&world.button);
+    world.bgQueue.runAll(); // neither user nor host is set
+    ASSERT_EQ(world.passes.size(), 1U);
+    EXPECT_EQ(world.passes[0].kind, PassKind::Remote);
+    EXPECT_EQ(world.passes[0].verdict, HostVerdict::NotAsked);
+    EXPECT_TRUE(world.passes[0].commands.empty());
+}
+
+TEST(RecordedCycleTest, RemotePass_KnowsTheRoleOfEachCommand) {
+    ViewControllerWorld world;
+    world.defaults.setObject(prefIsScanning, false);
+    world.defaults.setObject(prefRemoteUsername, QStringLiteral("ann"));
+    world.defaults.setObject(prefRemoteBonjourName, QStringLiteral("mac.local"));
+    world.defaults.setObject(prefSampleRemoteFullPath, QStringLiteral("ann@mac.local:Movies"));
+    world.defaults.setObject(prefPath2, QStringLiteral("/b"));
+    world.shell.answerTo(QStringLiteral("whoami"), QStringLiteral("ann\n"));
+    world.button.performClick();
+    world.bgQueue.runAll();
+    ASSERT_EQ(world.passes.size(), 1U);
+    const PassRecord& pass = world.passes[0];
+    EXPECT_EQ(pass.verdict, HostVerdict::Valid);
+    ASSERT_EQ(pass.commands.size(), 3U);
+    EXPECT_EQ(pass.commands[0].role, CommandRole::HostCheck);
+    EXPECT_TRUE(pass.commands[0].command.contains(u"whoami"));
+    EXPECT_EQ(pass.commands[1].role, CommandRole::Pull);
+    EXPECT_EQ(pass.commands[2].role, CommandRole::Pull);
+}
+
+TEST(RecordedCycleTest, PlainPass_EndsWithItsBody) {
+    ViewControllerWorld world;
+    world.defaults.setObject(prefRsyncWithSSH, false);
+    world.defaults.setObject(prefIsScanning, false);
+    world.defaults.setObject(prefPath1, QStringLiteral("/a"));
+    world.defaults.setObject(prefPath2, QStringLiteral("/b"));
+    world.defaults.setObject(prefRsyncCommandString1, QStringLiteral("cp %@1 %@2"));
+    world.shell.answerTo(QStringLiteral("cp"), [&](const QString&) {
+        EXPECT_TRUE(world.passes.empty()) << "the pass is under way";
+        return QString();
+    });
+    world.button.performClick();
+    world.bgQueue.runAll();
+    ASSERT_EQ(world.passes.size(), 1U);
+    EXPECT_EQ(world.passes[0].kind, PassKind::Plain);
+    ASSERT_EQ(world.passes[0].commands.size(), 1U);
+    EXPECT_EQ(world.passes[0].commands[0].command, QStringLiteral("cp /a/ /b/"));
+}
+
+} // namespace
+} // namespace kelvo
