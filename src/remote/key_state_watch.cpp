@@ -4,6 +4,7 @@
 #include "ports/file_manager.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "settings/remote_account.h"
 #include "support/key_file.h"
 #include "support/text.h"
 
@@ -90,9 +91,8 @@ bool KeyStateWatch::bothFilesExist() const {
 }
 
 QString KeyStateWatch::target() const {
-    const auto user = fParts.defaults.stringForKey(prefRemoteUsername);
-    const auto host = fParts.defaults.stringForKey(prefRemoteBonjourName);
-    return user && host ? QString(*user + u'@' + *host) : QString();
+    const auto account = remoteAccount(fParts.defaults);
+    return account ? account->destination() : QString();
 }
 
 } // namespace kelvo

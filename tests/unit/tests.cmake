@@ -23,6 +23,7 @@ kelvo_tests(unit
     unit/preferences_test.cpp
     unit/property_value_test.cpp
     unit/relaunch_decision_test.cpp
+    unit/remote_account_test.cpp
     unit/remote_host_validation_test.cpp
     unit/remote_side_test.cpp
     unit/repeat_timer_test.cpp
