@@ -23,37 +23,29 @@ QVariantMap allOf(const UserDefaults& defaults) {
     return all;
 }
 
-const Preference* known(const QString& key) {
-    for (const Preference& each : preferenceTable()) {
-        if (each.key == key)
-            return &each;
-    }
-    return nullptr;
-}
-
 void checkSet(const SettingsRequest& request, const CommandAnswer& answer,
               const QVariantMap& before, UserDefaults& defaults) {
-    const Preference* const preference = known(request.key);
+    const Preference* const row = preference(request.key);
     const QVariantMap after = allOf(defaults);
     if (answer.exitCode != 0) {
         require(answer.exitCode == cExitBadSetting && sameStoredValue(before, after));
         return;
     }
-    require(preference != nullptr && answer.output.isEmpty());
+    require(row != nullptr && answer.output.isEmpty());
     const CommandAnswer read = answerSettings({SettingsVerb::Get, request.key, {}}, defaults);
     require(read.exitCode == 0 && read.output.endsWith(u'\n'));
-    if (preference->type == PreferenceType::String)
+    if (row->type == PreferenceType::String)
         require(read.output == QString(request.value + u'\n'));
-    if (preference->type == PreferenceType::Bool)
+    if (row->type == PreferenceType::Bool)
         require(read.output == u"true\n" || read.output == u"false\n");
     // What is printed is taken again, and stands for the same value.
-    const QVariant value = defaults.object(preference->key);
+    const QVariant value = defaults.object(row->key);
     require(sameStoredValue(storedValue(value), value));
     const CommandAnswer again =
         answerSettings({SettingsVerb::Set, request.key, read.output.chopped(1)}, defaults);
-    require(again.exitCode == 0 && sameStoredValue(defaults.object(preference->key), value));
+    require(again.exitCode == 0 && sameStoredValue(defaults.object(row->key), value));
     (void)answerSettings({SettingsVerb::Unset, request.key, {}}, defaults);
-    require(!defaults.object(preference->key).isValid());
+    require(!defaults.object(row->key).isValid());
 }
 
 void checkRequest(const SettingsRequest& request) {

@@ -6,7 +6,7 @@
 #include "ports/user_defaults.h"
 #include "ports/workspace.h"
 #include "remote/command_files.h"
-#include "settings/preference_keys.h"
+#include "settings/remote_account.h"
 #include "support/file_url.h"
 #include "support/key_file.h"
 #include "support/text.h"
@@ -28,9 +28,9 @@ QString keyGenerationCommand(const QString& keyPath) {
     return u"/usr/bin/ssh-keygen  2>&1 -N \"\" -f \"" + insideDoubleQuotes(keyPath) + u'"';
 }
 
-QString keyInstallationCommand(const QString& keyPath, const QString& user, const QString& host) {
+QString keyInstallationCommand(const QString& keyPath, const RemoteAccount& account) {
     return u"/usr/bin/ssh-copy-id 2>&1 -i \"" + insideDoubleQuotes(keyPath) + u"\"  \"" +
-           insideDoubleQuotes(QString(user + u'@' + host)) + u'"';
+           insideDoubleQuotes(account.destination()) + u'"';
 }
 
 SshKeyProvisioning::SshKeyProvisioning(SshKeyProvisioningParts parts) : fParts(std::move(parts)) {}
@@ -91,12 +91,11 @@ SshKeyProvisioning::KeyPair SshKeyProvisioning::keyPair() const {
 
 void SshKeyProvisioning::copyPublicKeyToRemoteHost() {
     logEntry(u"copyPublicKeyToRemoteHost()");
-    const auto user = fParts.defaults.stringForKey(prefRemoteUsername);
-    const auto host = fParts.defaults.stringForKey(prefRemoteBonjourName);
+    const auto account = remoteAccount(fParts.defaults);
     const QString privateKey = keyPair().privateKey;
-    if (!user || !host || privateKey.isEmpty())
+    if (!account || privateKey.isEmpty())
         return;
-    const QString command = keyInstallationCommand(privateKey, *user, *host);
+    const QString command = keyInstallationCommand(privateKey, *account);
     (void)fParts.commandFiles.executeAsCommandFile(command, tellOf(command));
 }
 

@@ -15,12 +15,13 @@ class FileManager;
 class CommandRunner;
 class UserDefaults;
 class Workspace;
+struct RemoteAccount;
 
 /// Makes the pair at `keyPath`, without a pass phrase.
 QString keyGenerationCommand(const QString& keyPath);
 
 /// Installs the public half of `keyPath`; asks for the password on a terminal.
-QString keyInstallationCommand(const QString& keyPath, const QString& user, const QString& host);
+QString keyInstallationCommand(const QString& keyPath, const RemoteAccount& account);
 
 /// What the provisioning works with; the references outlive it.
 struct SshKeyProvisioningParts {

@@ -3,10 +3,13 @@
 #include "ports/bundle.h"
 #include "ports/console.h"
 #include "ports/user_defaults.h"
+#include "settings/preferences.h"
 
 namespace kelvo {
 
 void registerFactoryDefaults(const Bundle& bundle, UserDefaults& defaults, Console& console) {
+    defaults.registerDefaults(
+        {{prefShowNotices.toString(), factoryValue(*preference(prefShowNotices))}});
     const auto factory = bundle.propertyList(QStringLiteral("FactoryDefaults"));
     if (!factory) {
         console.print(

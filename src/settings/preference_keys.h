@@ -26,6 +26,11 @@ inline constexpr QStringView prefStatusTextfieldString = u"prefStatusTextfieldSt
 inline constexpr QStringView prefVersionDisplayString = u"prefVersionDisplayString";
 inline constexpr QStringView prefAutoStartScanOnLaunch = u"prefAutoStartScanOnLaunch";
 inline constexpr QStringView prefHideOnLaunch = u"prefHideOnLaunch";
+inline constexpr QStringView prefShowNotices = u"showNotices";
+inline constexpr QStringView prefMainWindowSize = u"mainWindowSize";
+inline constexpr QStringView prefMainWindowTab = u"mainWindowTab";
+inline constexpr QStringView prefRecentLaunchDates = u"recentLaunchDates";
+inline constexpr QStringView prefRelaunchGivenUp = u"relaunchGivenUp";
 
 /// The template text that a pass runs when prefRsyncCommandString1 is missing.
 inline constexpr QStringView cMissingRsyncCommandString1 =

@@ -1,65 +1,111 @@
 #include "settings/preferences.h"
 
+#include <algorithm>
 #include <array>
+#include <type_traits>
 
 namespace kelvo {
 namespace {
 
+using enum PreferenceKind;
 using enum PreferenceType;
 
-constexpr QStringView cControl = u"control";
+constexpr std::monostate cNone;
+
+/// Movies only; half a file waits where neither a player nor the next pass looks for one.
+constexpr QStringView cFactoryTemplate =
+    u"/usr/bin/rsync 2>&1 %@98 %@99 -r --times --prune-empty-dirs --partial-dir=.kelvo-partial "
+    u"--stats --out-format=%n -f '- .kelvo-partial/' -f '+ */' -f '+ *.[mM][oO][vV]' "
+    u"-f '+ *.[mM][pP]4' -f '+ *.[mM]4[vV]' -f '+ *.[mM][kK][vV]' -f '+ *.[aA][vV][iI]' "
+    u"-f '+ *.[mM][pP][gG]' -f '+ *.[mM][pP][eE][gG]' -f '+ *.[wW][eE][bB][mM]' "
+    u"-f '+ *.[mM][tT][sS]' -f '- *' \"%@1\" \"%@2\"";
 
 constexpr auto cTable = std::to_array<Preference>({
-    {prefEnableScanning, Bool, u"syncing is switched on (stored as the button's state 0 or 1)",
-     u"off", u"SyncCycle, ViewController", u"SyncCycle, ViewController"},
-    {prefIsScanning, Bool, u"a pass is in progress", u"no", u"SyncCycle, ViewController",
-     u"SyncCycle"},
-    {prefDelayBetweenScans, Double, u"rest between two passes, seconds", u"3.0", cControl,
-     u"SyncCycle"},
-    {prefRsyncCommandString1, String, u"the rsync command template",
-     u"the text Unable-To-Find-prefRsyncCommandString1", cControl, u"SyncCycle, ViewController"},
-    {prefRsyncCommandStringExample, String, u"the template with its option filled in, for display",
-     u"empty", u"ViewController", cControl},
-    {prefRsyncCommandOptionTag, Integer, u"which rsync option the template gets",
-     u"0, which is invalid", cControl, u"RsyncCommand, ViewController"},
-    {prefRsyncWithSSH, Bool, u"pull from the remote host instead of copying between folders here",
-     u"no", cControl, u"SyncCycle, ViewController"},
-    {prefPath1, String, u"source folder of the plain pass", u"the pass ends silently",
-     u"FolderSelection", u"SyncCycle, ViewController, FolderSelection"},
-    {prefPath2, String, u"destination folder of both passes", u"the pass ends silently",
-     u"FolderSelection", u"SyncCycle, FolderSelection"},
-    {prefRemoteUsername, String, u"account on the remote host", u"no sample path, no validation",
-     cControl,
-     u"SamplePath, RemoteHostValidation, ConnectionCheck, SshKeyProvisioning, SmbShareAccess"},
-    {prefRemoteBonjourName, String, u"name of the remote host", u"no sample path, no validation",
-     u"BonjourViewController",
-     u"SamplePath, SyncCycle, RemoteHostValidation, ConnectionCheck, SshKeyProvisioning, "
-     u"SmbShareAccess"},
-    {prefRemotePath, String, u"folder on the remote host to pull from", u"no sample path", cControl,
-     u"SamplePath, ConnectionCheck, SmbShareAccess, FolderSelection"},
-    {prefSampleRemoteFullPath, String, u"remote source in rsync form: user@host:path",
-     u"the pass ends silently", u"SamplePath", u"SyncCycle"},
-    {prefRemoteDnssdServiceData, Dictionary, u"the chosen service's record", u"none",
-     u"BonjourViewController", u"BonjourViewController"},
-    {prefScanningBonjour, Bool, u"the Bonjour list is browsing", u"no", u"BonjourViewController",
-     cControl},
-    {prefSelectedValidRow, Bool, u"a usable row of the Bonjour list is selected", u"no",
-     u"BonjourViewController", cControl},
-    {perfFirstLineMessage, String, u"first line above the Bonjour list", u"empty",
-     u"BonjourViewController", cControl},
-    {prefStatusTextfieldString, String, u"saved text of the status line, wiped by every message",
-     u"empty", u"StatusLine", cControl},
-    {prefVersionDisplayString, String, u"version text for display", u"empty", u"ViewController",
-     cControl},
-    {prefAutoStartScanOnLaunch, Bool, u"start syncing after launch", u"no", cControl,
-     u"ViewController"},
-    {prefHideOnLaunch, Bool, u"hide the window after launch", u"no", cControl, u"ViewController"},
+    {prefEnableScanning, State, Bool, cNone, u"Sync", u"Syncing is switched on."},
+    {prefIsScanning, State, Bool, cNone, u"Sync", u"A pass is in progress."},
+    {prefDelayBetweenScans, Setting, Double, 30.0, u"Settings",
+     u"The rest between two passes, in seconds; 0 or less counts as 3."},
+    {prefRsyncCommandString1, Setting, String, cFactoryTemplate, u"Settings",
+     u"The rsync command of a pass: %@1 stands for the source, %@2 for the destination, %@98 for "
+     u"the options of ssh, %@99 for the option."},
+    {prefRsyncCommandStringExample, State, String, cNone, u"Settings",
+     u"The rsync command with its option filled in."},
+    {prefRsyncCommandOptionTag, Setting, Integer, qint64{100}, u"Settings",
+     u"Which files a pass touches: 100 or 105 every file that differs, 101 only files newer than "
+     u"here (--update), 102 only files not here yet (--ignore-existing)."},
+    {prefRsyncWithSSH, Setting, Bool, true, u"Settings",
+     u"Passes pull from the remote Mac; otherwise they copy between two folders here."},
+    {prefPath1, Setting, String, cNone, u"Sync",
+     u"The source folder of passes between two folders here."},
+    {prefPath2, Setting, String, cNone, u"Sync", u"The destination folder of all passes."},
+    {prefRemoteUsername, Setting, String, cNone, u"Remote Mac", u"The account on the remote Mac."},
+    {prefRemoteBonjourName, Setting, String, cNone, u"Remote Mac",
+     u"The host name of the remote Mac."},
+    {prefRemotePath, Setting, String, u"Movies", u"Remote Mac",
+     u"The folder on the remote Mac that passes pull from."},
+    {prefSampleRemoteFullPath, State, String, cNone, u"Remote Mac",
+     u"The source of the passes that pull, as rsync takes it: user@host:folder."},
+    {prefRemoteDnssdServiceData,
+     Setting,
+     Dictionary,
+     cNone,
+     {},
+     u"What the network said of the Mac that was chosen in the list of Macs."},
+    {prefScanningBonjour, State, Bool, cNone, {}, u"The list of Macs is searching."},
+    {prefSelectedValidRow, State, Bool, cNone, {}, u"A Mac is selected in the list of Macs."},
+    {perfFirstLineMessage, State, String, cNone, {}, u"The line above the list of Macs."},
+    {prefStatusTextfieldString,
+     State,
+     String,
+     cNone,
+     {},
+     u"A text for the status line; every status message takes it away."},
+    {prefVersionDisplayString, State, String, cNone, u"Settings", u"The program's version."},
+    {prefAutoStartScanOnLaunch, Setting, Bool, false, u"Settings",
+     u"Syncing begins when the program starts."},
+    {prefHideOnLaunch, Setting, Bool, false, u"Settings",
+     u"The window is hidden when the program starts."},
+    {prefShowNotices, Setting, Bool, true, u"Settings",
+     u"A notice on the desktop tells when passes turn bad and when they are well again."},
+    {prefMainWindowSize, State, String, cNone, {}, u"The window's last size."},
+    {prefMainWindowTab, State, String, cNone, {}, u"The window's last tab."},
+    {prefRecentLaunchDates,
+     State,
+     Dates,
+     cNone,
+     {},
+     u"When the program was started again after unexpected ends."},
+    {prefRelaunchGivenUp,
+     State,
+     Bool,
+     cNone,
+     {},
+     u"The program ended unexpectedly too often and is not started again any more."},
 });
 
 } // namespace
 
 std::span<const Preference> preferenceTable() {
     return cTable;
+}
+
+const Preference* preference(QStringView key) {
+    const auto* const found = std::ranges::find(cTable, key, &Preference::key);
+    return found == cTable.end() ? nullptr : found;
+}
+
+QVariant factoryValue(const Preference& preference) {
+    return std::visit(
+        [](const auto& value) -> QVariant {
+            using Value = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<Value, std::monostate>)
+                return {};
+            else if constexpr (std::is_same_v<Value, QStringView>)
+                return value.toString();
+            else
+                return value;
+        },
+        preference.factory);
 }
 
 } // namespace kelvo

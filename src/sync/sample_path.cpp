@@ -3,17 +3,17 @@
 #include "ports/dispatch_queue.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "settings/remote_account.h"
 
 namespace kelvo {
 
 void SamplePath::updateSampleString() {
     fMainQueue.async([&defaults = fDefaults] {
-        const auto user = defaults.stringForKey(prefRemoteUsername);
-        const auto host = defaults.stringForKey(prefRemoteBonjourName);
+        const auto account = remoteAccount(defaults);
         const auto path = defaults.stringForKey(prefRemotePath);
-        if (user && host && path)
+        if (account && path)
             defaults.setObject(prefSampleRemoteFullPath,
-                               QString(*user + u'@' + *host + u':' + *path));
+                               QString(account->destination() + u':' + *path));
     });
 }
 

@@ -38,15 +38,15 @@ FolderSelection::FolderSelection(FolderSelectionParts parts) : fParts(std::move(
 
 void FolderSelection::ibSelectFolder1Action(Control*) {
     printInside(u"ibSelectFolder1Action(_:)");
-    selectFolder(u"1");
+    selectFolder(prefPath1);
 }
 
 void FolderSelection::ibSelectFolder2Action(Control*) {
     printInside(u"ibSelectFolder2Action(_:)");
-    selectFolder(u"2");
+    selectFolder(prefPath2);
 }
 
-void FolderSelection::selectFolder(QStringView suffix) {
+void FolderSelection::selectFolder(QStringView key) {
     fParts.console.print(QStringLiteral("openDocument ViewController"));
     const auto path = fParts.openPanel.selectDirectoryUrl();
     if (!path) {
@@ -54,7 +54,7 @@ void FolderSelection::selectFolder(QStringView suffix) {
         return;
     }
     fParts.console.print(u"file selected: " + *path);
-    fParts.defaults.setObject(QString(u"prefPath" + suffix), *path);
+    fParts.defaults.setObject(key, *path);
 }
 
 // -- showing

@@ -54,7 +54,7 @@ public:
     void ibOpenTempFolder(Control* sender);
 
 private:
-    void selectFolder(QStringView suffix);
+    void selectFolder(QStringView key);
     QString fileLocation(QStringView path) const;
     void printInside(QStringView operation, QStringView detail = u".......") const;
 

@@ -3,6 +3,7 @@
 #include "ports/desktop_notices.h"
 #include "ports/pass_store.h"
 #include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
 #include "ui/pass_words.h"
 
 namespace kelvo {
@@ -15,18 +16,16 @@ bool saysNothing(PassCause cause) {
 
 } // namespace
 
-PassNotices::PassNotices(PassStore& store, UserDefaults& defaults, DesktopNotices& notices)
+PassNotices::PassNotices(PassStore& store, const UserDefaults& defaults, DesktopNotices& notices)
     : fDefaults(defaults), fNotices(notices),
-      fObservation(store.observe([this](const PassRecord& pass) { heard(pass); })) {
-    defaults.registerDefaults({{cShowNoticesKey.toString(), true}});
-}
+      fObservation(store.observe([this](const PassRecord& pass) { heard(pass); })) {}
 
 void PassNotices::heard(const PassRecord& pass) {
     const bool trouble = pass.cause != PassCause::Well;
     if (trouble == fTrouble || saysNothing(pass.cause))
         return;
     fTrouble = trouble;
-    if (!fDefaults.boolForKey(cShowNoticesKey))
+    if (!fDefaults.boolForKey(prefShowNotices))
         return;
     // The words are the program's own: nothing that a host said is shown on the desktop.
     const CauseWords words = wordsFor(pass.cause);

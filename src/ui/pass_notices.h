@@ -3,8 +3,6 @@
 
 #include "support/subscription.h"
 
-#include <QStringView>
-
 namespace kelvo {
 
 class DesktopNotices;
@@ -12,19 +10,16 @@ class PassStore;
 class UserDefaults;
 struct PassRecord;
 
-/// Whether notices are shown; kept beside the settings, true at first.
-inline constexpr QStringView cShowNoticesKey = u"showNotices";
-
 /// Main thread only. What the passes of an earlier run were is not asked.
 class PassNotices {
 public:
-    /// All three outlive it. Registers the first value of its key.
-    PassNotices(PassStore& store, UserDefaults& defaults, DesktopNotices& notices);
+    /// All three outlive it. Shows nothing while prefShowNotices is false.
+    PassNotices(PassStore& store, const UserDefaults& defaults, DesktopNotices& notices);
 
 private:
     void heard(const PassRecord& pass);
 
-    UserDefaults& fDefaults;
+    const UserDefaults& fDefaults;
     DesktopNotices& fNotices;
     bool fTrouble = false;
     Subscription fObservation;

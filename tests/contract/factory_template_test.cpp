@@ -1,5 +1,6 @@
 // The factory settings as they are delivered, and their rsync template run with the real rsync.
 #include "adapters/settings/file_bundle.h"
+#include "settings/preferences.h"
 #include "support/stored_value.h"
 
 #include <QDateTime>
@@ -33,8 +34,21 @@ TEST(FactoryDefaultsTest, Values_HaveTheirTypes) {
         {"prefRemotePath", "Movies"},
         {"prefAutoStartScanOnLaunch", false},
         {"prefHideOnLaunch", false},
+        {"showNotices", true},
     };
     EXPECT_TRUE(sameStoredValue(values, expected)) << ::testing::PrintToString(QVariant(values));
+}
+
+TEST(FactoryDefaultsTest, Values_AreThoseOfTheTable) {
+    QVariantMap expected;
+    for (const Preference& each : preferenceTable()) {
+        if (const QVariant value = factoryValue(each); value.isValid())
+            expected.insert(each.key.toString(), value);
+    }
+    const QVariantMap values = factoryDefaults();
+    EXPECT_TRUE(sameStoredValue(values, expected))
+        << ::testing::PrintToString(QVariant(values)) << "\nin the table:\n"
+        << ::testing::PrintToString(QVariant(expected));
 }
 
 TEST(FactoryDefaultsTest, Info_NamesTheProgramAndItsVersion) {

@@ -3,6 +3,7 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
+#include "settings/overlay_defaults.h"
 #include "support/stored_value.h"
 #include "support/wait_until.h"
 
@@ -53,6 +54,21 @@ private:
         std::make_unique<PlistDefaults>(fFolder.path(), fMain, fConsole);
 };
 
+class OverlayStore {
+public:
+    UserDefaults& defaults() { return *fOverlay; }
+    VirtualMainQueue& main() { return fMain; }
+    void changeByAnotherProgram(const QString& key, const QVariant& value) {
+        fBeneath.changeByAnotherProgram(fMain, key, value);
+    }
+    void destroy() { fOverlay.reset(); }
+
+private:
+    VirtualMainQueue fMain;
+    MemoryDefaults fBeneath;
+    std::unique_ptr<OverlayDefaults> fOverlay = std::make_unique<OverlayDefaults>(fBeneath);
+};
+
 const QString cKey = QStringLiteral("prefPath1");
 const QString cOther = QStringLiteral("prefPath2");
 
@@ -70,12 +86,14 @@ protected:
     Store fStore;
 };
 
-using Stores = ::testing::Types<MemoryStore, PlistStore>;
+using Stores = ::testing::Types<MemoryStore, PlistStore, OverlayStore>;
 class StoreNames {
 public:
     template <typename Store>
     static std::string GetName(int) {
-        return std::is_same_v<Store, MemoryStore> ? "Memory" : "Plist";
+        if (std::is_same_v<Store, MemoryStore>)
+            return "Memory";
+        return std::is_same_v<Store, PlistStore> ? "Plist" : "Overlay";
     }
 };
 TYPED_TEST_SUITE(UserDefaultsContractTest, Stores, StoreNames);

@@ -11,6 +11,7 @@ kelvo_tests(ui WIDGETS
     ui/icons_test.cpp
     ui/main_window_test.cpp
     ui/path_control_view_test.cpp
+    ui/settings_places_test.cpp
     ui/settings_tab_test.cpp
     ui/sheet_presenter_test.cpp
     ui/tray_icon_test.cpp

@@ -174,6 +174,7 @@ TEST_F(AppDelegateTest, MissingOrBrokenFactoryDefaults_CostALineAndNothingElse) 
     EXPECT_EQ(lines().indexOf(oops), 6);
     EXPECT_EQ(lines().count(oops), 1);
     EXPECT_EQ(defaults.synchronized(), 0);
+    EXPECT_TRUE(defaults.boolForKey(u"showNotices"));
     EXPECT_TRUE(lines().contains(QStringLiteral("(window shown)")));
     EXPECT_EQ(menu.visible(), StatusMenuState::Off);
 }

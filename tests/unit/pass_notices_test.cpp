@@ -2,6 +2,7 @@
 #include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
 #include "ports/desktop_notices.h"
+#include "settings/preference_keys.h"
 #include "ui/pass_notices.h"
 #include "ui/pass_words.h"
 
@@ -31,7 +32,7 @@ protected:
 
     VirtualMainQueue mainQueue;
     MemoryPassStore store{mainQueue};
-    MemoryDefaults defaults;
+    MemoryDefaults defaults{{{prefShowNotices.toString(), true}}};
     RecordingNotices desktop;
     PassNotices notices{store, defaults, desktop};
 };
@@ -65,10 +66,10 @@ TEST_F(PassNoticesTest, PassesThatSayNothing_ChangeNoMind) {
 }
 
 TEST_F(PassNoticesTest, SwitchedOff_KeepsStillButKeepsCount) {
-    defaults.setObject(cShowNoticesKey, false);
+    defaults.setObject(prefShowNotices, false);
     pass(PassCause::KeyMissing);
     EXPECT_TRUE(desktop.shown.isEmpty());
-    defaults.setObject(cShowNoticesKey, true);
+    defaults.setObject(prefShowNotices, true);
     pass(PassCause::KeyMissing);
     EXPECT_TRUE(desktop.shown.isEmpty()) << "the trouble is no news any more";
     pass(PassCause::Well);

@@ -3,27 +3,148 @@
 #include "settings/preferences.h"
 #include "sync/sample_path.h"
 
-#include <QSet>
+#include <QFile>
+#include <QRegularExpression>
+#include <QStringList>
 
 #include <gtest/gtest.h>
 
 namespace kelvo {
 namespace {
 
-TEST(PreferencesTest, Table_HoldsEveryKeyOnceWithAllItsColumns) {
-    QSet<QString> keys;
-    for (const Preference& preference : preferenceTable()) {
-        EXPECT_FALSE(preference.meaning.isEmpty() || preference.fallback.isEmpty() ||
-                     preference.writers.isEmpty() || preference.readers.isEmpty())
-            << qPrintable(preference.key.toString());
-        keys.insert(preference.key.toString());
-    }
-    EXPECT_EQ(keys.size(), 21);
-    EXPECT_EQ(preferenceTable().size(), 21U);
+QStringList keysOfTable() {
+    QStringList keys;
+    for (const Preference& each : preferenceTable())
+        keys.append(each.key.toString());
+    return keys;
 }
 
-TEST(PreferencesTest, FirstLineMessage_KeepsItsSpelling) {
-    EXPECT_EQ(perfFirstLineMessage, u"perfFirstLineMessage");
+QString contentOf(const char* path) {
+    QFile file(QString::fromLocal8Bit(path));
+    EXPECT_TRUE(file.open(QFile::ReadOnly)) << path;
+    return QString::fromUtf8(file.readAll());
+}
+
+TEST(PreferencesTest, Keys_AreStoredAsTheyAreSpelledHere) {
+    const QStringList stored{
+        "prefEnableScanning",
+        "prefIsScanning",
+        "prefDelayBetweenScans",
+        "prefRsyncCommandString1",
+        "prefRsyncCommandStringExample",
+        "prefRsyncCommandOptionTag",
+        "prefRsyncWithSSH",
+        "prefPath1",
+        "prefPath2",
+        "prefRemoteUsername",
+        "prefRemoteBonjourName",
+        "prefRemotePath",
+        "prefSampleRemoteFullPath",
+        "prefRemoteDnssdServiceData",
+        "prefScanningBonjour",
+        "prefSelectedValidRow",
+        "perfFirstLineMessage",
+        "prefStatusTextfieldString",
+        "prefVersionDisplayString",
+        "prefAutoStartScanOnLaunch",
+        "prefHideOnLaunch",
+        "showNotices",
+        "mainWindowSize",
+        "mainWindowTab",
+        "recentLaunchDates",
+        "relaunchGivenUp",
+    };
+    EXPECT_EQ(keysOfTable(), stored) << keysOfTable().join(u' ').toStdString();
+}
+
+TEST(PreferencesTest, Table_HoldsEveryKeyConstantInOrder) {
+    static const QRegularExpression constant(QStringLiteral("QStringView p\\w+ = u\"(\\w+)\";"));
+    QStringList keys;
+    const QString header = contentOf(KELVO_PREFERENCE_KEYS);
+    for (auto found = constant.globalMatch(header); found.hasNext();)
+        keys.append(found.next().captured(1));
+    EXPECT_EQ(keysOfTable(), keys) << keys.join(u' ').toStdString();
+}
+
+TEST(PreferencesTest, FactoryValue_HasTheTypeOfItsKey) {
+    int values = 0;
+    for (const Preference& each : preferenceTable()) {
+        const QVariant value = factoryValue(each);
+        if (!value.isValid())
+            continue;
+        ++values;
+        QMetaType::Type type = QMetaType::UnknownType;
+        switch (each.type) {
+        case PreferenceType::Bool:
+            type = QMetaType::Bool;
+            break;
+        case PreferenceType::Integer:
+            type = QMetaType::LongLong;
+            break;
+        case PreferenceType::Double:
+            type = QMetaType::Double;
+            break;
+        case PreferenceType::String:
+            type = QMetaType::QString;
+            break;
+        case PreferenceType::Dictionary:
+        case PreferenceType::Dates:
+            break;
+        }
+        EXPECT_EQ(value.typeId(), type) << each.key.toString().toStdString();
+        EXPECT_EQ(each.kind, PreferenceKind::Setting) << each.key.toString().toStdString();
+    }
+    EXPECT_GT(values, 0);
+}
+
+// -- the manual
+
+/// `text` as the manual's source has it, so that it is shown and copied as it is.
+QString roff(QString text) {
+    return text.replace(u'\\', QStringLiteral("\\e"))
+        .replace(u'-', QStringLiteral("\\-"))
+        .replace(u'\'', QStringLiteral("\\(aq"));
+}
+
+QString wordsFor(PreferenceType type) {
+    switch (type) {
+    case PreferenceType::Bool:
+        return QStringLiteral("true or false");
+    case PreferenceType::Integer:
+        return QStringLiteral("a whole number");
+    case PreferenceType::Double:
+        return QStringLiteral("a number");
+    case PreferenceType::String:
+        return QStringLiteral("a text");
+    case PreferenceType::Dictionary:
+        return QStringLiteral("a JSON object");
+    case PreferenceType::Dates:
+        return QStringLiteral("dates");
+    }
+    return {};
+}
+
+QString entriesFor(PreferenceKind kind) {
+    QString entries;
+    for (const Preference& each : preferenceTable()) {
+        if (each.kind != kind)
+            continue;
+        entries += u".TP\n.BR " + each.key + u" \" (" + wordsFor(each.type) + u")\"\n" +
+                   roff(each.purpose.toString()) + u'\n';
+        if (!each.shownOn.isEmpty())
+            entries += u"Shown on the tab " + each.shownOn + u".\n";
+        if (const QVariant factory = factoryValue(each); factory.isValid())
+            entries += u".br\nFactory value: " + roff(factory.toString()) + u'\n';
+    }
+    return entries;
+}
+
+TEST(PreferencesTest, Manual_SaysWhatTheTableSays) {
+    const QString expected = u".SH SETTINGS\n" + entriesFor(PreferenceKind::Setting) +
+                             u".SS Written by the program as it runs\n" +
+                             entriesFor(PreferenceKind::State) + u".SH FILES\n";
+    EXPECT_TRUE(contentOf(KELVO_MANUAL).contains(expected)) << "it should say:\n"
+                                                            << expected.toStdString();
 }
 
 class SamplePathTest : public ::testing::Test {

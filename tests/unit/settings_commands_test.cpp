@@ -3,6 +3,7 @@
 #include "settings/overlay_defaults.h"
 #include "settings/preferences.h"
 
+#include <QDateTime>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -52,12 +53,16 @@ Sample sampleFor(const Preference& preference) {
                 QVariantMap{{QStringLiteral("name"), QStringLiteral("Mac")}},
                 "{\"name\":\"Mac\"}\n",
                 {QStringLiteral("[]"), QStringLiteral("{"), QStringLiteral("Mac")}};
+    case PreferenceType::Dates:
+        break;
     }
     return {};
 }
 
 TEST_F(SettingsCommandsTest, EveryKey_IsSetPrintedAndUnset) {
     for (const Preference& each : preferenceTable()) {
+        if (each.type == PreferenceType::Dates)
+            continue; // has a case of its own
         const Sample sample = sampleFor(each);
         const std::string name = each.key.toUtf8().toStdString();
         EXPECT_EQ(get(each.key).exitCode, cExitNotSet) << name;
@@ -69,6 +74,26 @@ TEST_F(SettingsCommandsTest, EveryKey_IsSetPrintedAndUnset) {
                   0);
         EXPECT_FALSE(defaults.object(each.key).isValid()) << name;
     }
+}
+
+TEST_F(SettingsCommandsTest, Dates_ArePrintedAndUnsetButNeverSet) {
+    const QVariantList dates{QDateTime(QDate(2026, 3, 29), QTime(1, 30, 7), Qt::UTC),
+                             QDateTime(QDate(2026, 3, 29), QTime(1, 30, 9), Qt::UTC)};
+    EXPECT_EQ(get(prefRecentLaunchDates).exitCode, cExitNotSet);
+    defaults.setObject(prefRecentLaunchDates, dates);
+    EXPECT_EQ(get(prefRecentLaunchDates).output,
+              QStringLiteral("[\"2026-03-29T01:30:07.000Z\",\"2026-03-29T01:30:09.000Z\"]\n"));
+    const auto answer = set(prefRecentLaunchDates, "[]");
+    EXPECT_EQ(answer.exitCode, cExitBadSetting);
+    EXPECT_EQ(answer.errors, QStringLiteral("kelvo-mirror: '[]' does not fit: recentLaunchDates "
+                                            "takes no value from outside; it can be unset\n"));
+    EXPECT_EQ(defaults.object(prefRecentLaunchDates), QVariant(dates));
+    EXPECT_EQ(answerSettings({SettingsVerb::Unset, prefRecentLaunchDates.toString(), {}}, defaults)
+                  .exitCode,
+              0);
+    EXPECT_FALSE(defaults.object(prefRecentLaunchDates).isValid());
+    defaults.setObject(prefRecentLaunchDates, true);
+    EXPECT_EQ(get(prefRecentLaunchDates).exitCode, cExitNotSet) << "no list";
 }
 
 TEST_F(SettingsCommandsTest, BadValue_IsRefusedAndChangesNothing) {
@@ -152,6 +177,32 @@ TEST(OverlayDefaultsTest, Changes_StayInTheOverlay) {
     EXPECT_EQ(stored.integerForKey(u"b"), 2);
     stored.setObject(u"c", 9);
     EXPECT_EQ(overlay.integerForKey(u"c"), 9);
+}
+
+TEST(OverlayDefaultsTest, ObserversBeneath_HearNothingOfTheOverlay) {
+    MemoryDefaults stored;
+    OverlayDefaults overlay(stored);
+    int told = 0;
+    const auto beneath = stored.observe(u"a", [&](const DefaultsChange&) { ++told; });
+    overlay.setObject(u"a", 1);
+    overlay.removeObject(u"a");
+    EXPECT_EQ(told, 0);
+    EXPECT_TRUE(stored.changes().empty());
+}
+
+TEST(OverlayDefaultsTest, ChangeBeneath_IsToldWhileItShowsThrough) {
+    MemoryDefaults stored;
+    OverlayDefaults overlay(stored);
+    std::vector<std::optional<QVariant>> seen;
+    const auto watch = overlay.observe(
+        u"a", [&](const DefaultsChange& change) { seen.push_back(change.newValue); });
+    stored.setObject(u"a", "beneath");
+    overlay.setObject(u"a", "own");
+    stored.setObject(u"a", "hidden");
+    overlay.removeObject(u"a");
+    stored.setObject(u"a", "hidden");
+    EXPECT_EQ(seen, (std::vector<std::optional<QVariant>>{QVariant("beneath"), QVariant("own"),
+                                                          std::nullopt}));
 }
 
 } // namespace

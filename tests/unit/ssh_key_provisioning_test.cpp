@@ -6,6 +6,7 @@
 #include "remote/command_files.h"
 #include "remote/ssh_key_provisioning.h"
 #include "settings/preference_keys.h"
+#include "settings/remote_account.h"
 
 #include <gtest/gtest.h>
 
@@ -139,24 +140,24 @@ TEST_F(SshKeyProvisioningTest, CommandFileWithoutASafeFolder_IsWrittenNowhere) {
 
 TEST(KeyCommandsTest, Commands_AreExact) {
     EXPECT_EQ(keyGenerationCommand(cPrivateKey), cGeneration);
-    EXPECT_EQ(keyInstallationCommand(cPrivateKey, QStringLiteral("mediauser"),
-                                     QStringLiteral("Remote-Mac.local")),
+    EXPECT_EQ(keyInstallationCommand(cPrivateKey, {.user = QStringLiteral("mediauser"),
+                                                   .host = QStringLiteral("Remote-Mac.local")}),
               cInstallation);
 }
 
 TEST(KeyCommandsTest, BlanksStayInOneWord) {
     EXPECT_EQ(keyGenerationCommand(QStringLiteral("/a b/k")),
               u"/usr/bin/ssh-keygen  2>&1 -N \"\" -f \"/a b/k\"");
-    EXPECT_EQ(keyInstallationCommand(QStringLiteral("/a b/k"), QStringLiteral("u v"),
-                                     QStringLiteral("My Mac")),
+    EXPECT_EQ(keyInstallationCommand(QStringLiteral("/a b/k"), {.user = QStringLiteral("u v"),
+                                                                .host = QStringLiteral("My Mac")}),
               u"/usr/bin/ssh-copy-id 2>&1 -i \"/a b/k\"  \"u v@My Mac\"");
 }
 
 TEST(KeyCommandsTest, NothingIsReadAsTheShellsOwn) {
     EXPECT_EQ(keyGenerationCommand(QStringLiteral("/a\"b$c`d\\e'f/k")),
               u"/usr/bin/ssh-keygen  2>&1 -N \"\" -f \"/a\\\"b\\$c\\`d\\\\e'f/k\"");
-    EXPECT_EQ(keyInstallationCommand(QStringLiteral("/k"), QStringLiteral("u"),
-                                     QStringLiteral("$(reboot)")),
+    EXPECT_EQ(keyInstallationCommand(QStringLiteral("/k"), {.user = QStringLiteral("u"),
+                                                            .host = QStringLiteral("$(reboot)")}),
               u"/usr/bin/ssh-copy-id 2>&1 -i \"/k\"  \"u@\\$(reboot)\"");
 }
 

@@ -23,6 +23,7 @@ kelvo_tests(unit
     unit/preferences_test.cpp
     unit/property_value_test.cpp
     unit/relaunch_decision_test.cpp
+    unit/remote_account_test.cpp
     unit/remote_host_validation_test.cpp
     unit/remote_side_test.cpp
     unit/repeat_timer_test.cpp
@@ -46,3 +47,6 @@ kelvo_tests(unit
 # Not for the whole target: its precompiled headers serve every label.
 set_source_files_properties(unit/pass_cause_test.cpp unit/rsync_statistics_test.cpp PROPERTIES
   COMPILE_DEFINITIONS "KELVO_TEXTS=\"${CMAKE_CURRENT_SOURCE_DIR}/texts\"")
+set_source_files_properties(unit/preferences_test.cpp PROPERTIES COMPILE_DEFINITIONS
+  "KELVO_PREFERENCE_KEYS=\"${CMAKE_SOURCE_DIR}/src/settings/preference_keys.h\";\
+KELVO_MANUAL=\"${CMAKE_SOURCE_DIR}/docs/man/kelvo-mirror.1\"")

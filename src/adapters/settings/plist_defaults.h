@@ -2,11 +2,11 @@
 #pragma once
 
 #include "adapters/settings/defaults_disk.h"
-#include "adapters/settings/defaults_observers.h"
 #include "adapters/settings/defaults_values.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "ports/user_defaults.h"
+#include "settings/defaults_observers.h"
 
 #include <memory>
 

@@ -6,22 +6,16 @@
 #include "support/stored_value.h"
 #include "sync/rsync_command.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
 #include <cmath>
 
 namespace kelvo {
 namespace {
 
 using Checked = std::variant<QVariant, QString>; ///< a value, or why the text is none
-
-const Preference* preference(const QString& key) {
-    const auto table = preferenceTable();
-    const auto found = std::ranges::find(table, key, &Preference::key);
-    return found == table.end() ? nullptr : &*found;
-}
 
 Checked boolFrom(const QString& text) {
     const QString lowered = text.toLower();
@@ -75,8 +69,10 @@ Checked checkedValue(const Preference& preference, const QString& text) {
         return QVariant(text);
     case PreferenceType::Dictionary:
         return dictionaryFrom(text);
+    case PreferenceType::Dates:
+        break;
     }
-    return QStringLiteral("nothing");
+    return QStringLiteral("no value from outside; it can be unset");
 }
 
 /// The value as its type has it; null when it is not set or does not fit.
@@ -99,6 +95,10 @@ QJsonValue jsonValue(const Preference& preference, const UserDefaults& defaults)
         if (const auto dictionary = dictionaryValue(value))
             return QJsonObject::fromVariantMap(*dictionary);
         break;
+    case PreferenceType::Dates:
+        if (value.typeId() == QMetaType::QVariantList)
+            return QJsonArray::fromVariantList(value.toList());
+        break;
     }
     return QJsonValue::Null;
 }
@@ -108,6 +108,8 @@ QString plainText(const QJsonValue& value) {
         return value.toString();
     if (value.isObject())
         return QString::fromUtf8(QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact));
+    if (value.isArray())
+        return QString::fromUtf8(QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact));
     return value.toVariant().toString();
 }
 

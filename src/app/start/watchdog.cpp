@@ -8,6 +8,7 @@
 #include "ports/sentinel_launcher.h"
 #include "ports/signals.h"
 #include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
 
 #include <csignal>
 #include <cstring>
@@ -22,9 +23,6 @@ namespace {
 
 constexpr QStringView cSentinelName = u"watchdog";
 constexpr QStringView cAutorelaunched = u"--autorelaunched";
-constexpr QStringView cRecentLaunchDates = u"recentLaunchDates";
-/// Present while the program runs unwatched because it was started again too often.
-constexpr QStringView cRelaunchGivenUp = u"relaunchGivenUp";
 
 constexpr int cLastCrashSignal = 15;
 
@@ -83,7 +81,7 @@ public:
                             const RelaunchGuard::Escape& escape) {
         const QDateTime now = fParts.now();
         if (isOrdinaryStart(count, fParts.arguments.contains(cAutorelaunched))) {
-            fParts.defaults.removeObject(cRecentLaunchDates);
+            fParts.defaults.removeObject(prefRecentLaunchDates);
             if (forgetGivingUp())
                 fParts.console.log(
                     QStringLiteral("relaunching was given up before this start by hand; unexpected "
@@ -93,13 +91,13 @@ public:
         }
         fParts.console.log(
             QStringLiteral("automatically relaunched due to unexpected termination"));
-        const RelaunchDecision decision =
-            decideRelaunch(fParts.defaults.object(cRecentLaunchDates), count, seconds, escape, now);
+        const RelaunchDecision decision = decideRelaunch(
+            fParts.defaults.object(prefRecentLaunchDates), count, seconds, escape, now);
         if (decision.line)
             fParts.console.log(*decision.line);
-        fParts.defaults.setObject(cRecentLaunchDates, decision.record);
+        fParts.defaults.setObject(prefRecentLaunchDates, decision.record);
         if (!decision.keepRunning) {
-            fParts.defaults.setObject(cRelaunchGivenUp, true);
+            fParts.defaults.setObject(prefRelaunchGivenUp, true);
             return;
         }
         (void)forgetGivingUp();
@@ -176,9 +174,9 @@ private:
     }
 
     bool forgetGivingUp() {
-        if (!fParts.defaults.object(cRelaunchGivenUp).isValid())
+        if (!fParts.defaults.object(prefRelaunchGivenUp).isValid())
             return false;
-        fParts.defaults.removeObject(cRelaunchGivenUp);
+        fParts.defaults.removeObject(prefRelaunchGivenUp);
         return true;
     }
 

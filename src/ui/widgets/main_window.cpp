@@ -1,6 +1,7 @@
 #include "ui/widgets/main_window.h"
 
 #include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
 #include "support/fatal.h"
 #include "ui/key_state_words.h"
 #include "ui/widgets/activity_tab.h"
@@ -19,14 +20,6 @@
 #include <utility>
 
 namespace kelvo {
-namespace {
-
-/// How the window looked last, kept beside the settings: "<width>x<height>", and the tab.
-constexpr QStringView cSizeKey = u"mainWindowSize";
-constexpr QStringView cTabKey = u"mainWindowTab";
-
-} // namespace
-
 MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     : fDefaults(defaults), fBindings(defaults, mainQueue), fUi(std::make_unique<Ui::MainWindow>()),
       fSyncTab(new SyncTab(fBindings)), fRemoteTab(new RemoteTab(fBindings)),
@@ -45,7 +38,7 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     showStartIcon();
     restoreLook();
     connect(fUi->tabView, &QTabWidget::currentChanged, this, [this](int index) {
-        fDefaults.setObject(cTabKey, tabs()[static_cast<std::size_t>(index)].identifier);
+        fDefaults.setObject(prefMainWindowTab, tabs()[static_cast<std::size_t>(index)].identifier);
         Q_EMIT tabShown(index);
         if (fTabSelected)
             fTabSelected(tabs()[static_cast<std::size_t>(index)]);
@@ -156,19 +149,20 @@ void MainWindow::hideEvent(QHideEvent* event) {
 }
 
 void MainWindow::restoreLook() {
-    const QStringList sides = fDefaults.stringForKey(cSizeKey).value_or(QString()).split(u'x');
+    const QStringList sides =
+        fDefaults.stringForKey(prefMainWindowSize).value_or(QString()).split(u'x');
     const QSize wanted(sides.value(0).toInt(), sides.value(1).toInt());
     if (wanted.width() > 0 && wanted.height() > 0) {
         const QSize room = screen()->availableSize();
         resize(wanted.boundedTo(room).expandedTo(minimumSizeHint()));
     }
-    showTab(fDefaults.stringForKey(cTabKey).value_or(QString()));
+    showTab(fDefaults.stringForKey(prefMainWindowTab).value_or(QString()));
 }
 
 void MainWindow::keepLook() {
     const QString now = QString::number(width()) + u'x' + QString::number(height());
-    if (!isMaximized() && fDefaults.stringForKey(cSizeKey) != now)
-        fDefaults.setObject(cSizeKey, now);
+    if (!isMaximized() && fDefaults.stringForKey(prefMainWindowSize) != now)
+        fDefaults.setObject(prefMainWindowSize, now);
 }
 
 // -- what others look at

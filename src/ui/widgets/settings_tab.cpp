@@ -2,7 +2,6 @@
 
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
-#include "ui/pass_notices.h"
 #include "ui/widgets/bindings.h"
 #include "ui_settings_tab.h"
 
@@ -39,7 +38,7 @@ SettingsTab::SettingsTab(Bindings& bindings, QWidget* parent)
     bindings.number(*fUi->delayBetweenScans, prefDelayBetweenScans);
     bindings.flag(*fUi->autoStart, prefAutoStartScanOnLaunch);
     bindings.flag(*fUi->hideOnLaunch, prefHideOnLaunch);
-    bindings.flag(*fUi->showNotices, cShowNoticesKey);
+    bindings.flag(*fUi->showNotices, prefShowNotices);
     bindings.follow(*this, {prefVersionDisplayString}, [this, &defaults] {
         const QString version = defaults.stringForKey(prefVersionDisplayString).value_or(QString());
         fUi->versionText->setFullText(version.isEmpty() ? QString()

@@ -1,4 +1,4 @@
-#include "adapters/settings/defaults_observers.h"
+#include "settings/defaults_observers.h"
 
 namespace kelvo {
 
