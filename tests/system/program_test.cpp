@@ -34,6 +34,7 @@ TEST_F(ProgramTest, Version_IsPrinted) {
 TEST_F(ProgramTest, Help_NamesEveryOptionForPeople) {
     const auto [code, output, errors] = run({QStringLiteral("--help")});
     EXPECT_EQ(code, 0);
+    EXPECT_TRUE(output.startsWith("Usage: kelvo-mirror [options]\n")) << output.constData();
     EXPECT_TRUE(output.contains("--headless") && output.contains("--version"));
     EXPECT_FALSE(output.contains("autorelaunched"));
 }

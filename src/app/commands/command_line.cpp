@@ -6,6 +6,16 @@
 
 namespace kelvo {
 
+namespace {
+
+/// The parser takes the program's name from an application object or says that it has none.
+QString helpText(const QCommandLineParser& parser) {
+    const QString text = parser.helpText();
+    return u"Usage: kelvo-mirror" + text.sliced(text.indexOf(u" [options]"));
+}
+
+} // namespace
+
 CommandLine parseCommandLine(const QStringList& arguments) {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -56,7 +66,7 @@ CommandLine parseCommandLine(const QStringList& arguments) {
     if (!parser.positionalArguments().isEmpty())
         return refuse(u"unexpected argument '" + parser.positionalArguments().constFirst() + u'\'');
     if (parser.isSet(help))
-        return {LaunchKind::PrintHelp, false, parser.helpText()};
+        return {LaunchKind::PrintHelp, false, helpText(parser)};
     if (parser.isSet(version))
         return {LaunchKind::PrintVersion, false,
                 QString(u"kelvo-mirror " + QStringView(cVersion) + u'\n')};
