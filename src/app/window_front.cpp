@@ -76,7 +76,7 @@ public:
         fController = &controller;
         fDelegate = &delegate;
         fOnceButtons = sendWindowActions(fWindow, controller, fParts.workspace, fPathControl);
-        fWindow.syncTab().checklist().setMend([this](Mend mend) { mendBy(mend); });
+        fWindow.syncTab().checklist().setRemedyChosen([this](Remedy remedy) { apply(remedy); });
         fChecklist.emplace(Checklist::Parts{
             fParts.defaults, fParts.mainQueue, fParts.bgQueue, fParts.homeDirectory,
             fParts.checklistProbe, fParts.passes, [this](const std::vector<ChecklistLine>& lines) {
@@ -91,18 +91,18 @@ public:
     }
 
 private:
-    void mendBy(Mend mend) {
-        switch (mend) {
-        case Mend::ShowRemoteTab:
+    void apply(Remedy remedy) {
+        switch (remedy) {
+        case Remedy::ShowRemoteTab:
             fWindow.showTab(QStringLiteral("remote"));
             break;
-        case Mend::ChooseSource:
+        case Remedy::ChooseSource:
             fWindow.button(QStringLiteral("ibSelectFolder1Action")).click();
             break;
-        case Mend::ChooseDestination:
+        case Remedy::ChooseDestination:
             fWindow.button(QStringLiteral("ibSelectFolder2Action")).click();
             break;
-        case Mend::CopyInstallCommand:
+        case Remedy::CopyInstallCommand:
             QGuiApplication::clipboard()->setText(cInstallCommand.toString());
             break;
         }
