@@ -83,7 +83,6 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
     OnceButtons onceButtons;
     for (const Wire& wire : cOnceButtons) {
         const QString name = QString::fromLatin1(wire.control);
-        window.setAction(name, [] {});
         onceButtons.push_back(std::make_unique<WidgetButton>(
             window.button(name), [&controller, action = wire.action](Control* sender) {
                 (controller.*action)(sender);
