@@ -11,7 +11,6 @@
 #include "adapters/desktop/terminal_window.h"
 #include "adapters/network/avahi_browser.h"
 #include "adapters/network/avahi_network_browser.h"
-#include "adapters/process/local_notification_center.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/posix_shell_runner.h"
 #include "adapters/process/qt_main_queue.h"
@@ -25,6 +24,7 @@
 #include "adapters/system/local_file_changes.h"
 #include "adapters/system/local_file_manager.h"
 #include "remote/share_commands.h"
+#include "support/notification_center.h"
 
 #include <memory>
 
@@ -55,7 +55,7 @@ struct MachineParts {
     UserTemporaryFolder temporaryFolder;
     PlatformShareCommands shareCommands;
     FileBundle bundle;
-    LocalNotificationCenter notificationCenter;
+    NotificationCenter notificationCenter;
     PosixShellRunner shell;
     ThreadPoolQueue bgQueue;
     DesktopWorkspace workspace;

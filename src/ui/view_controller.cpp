@@ -5,10 +5,9 @@
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "ports/main_view.h"
-#include "ports/notification_center.h"
-#include "ports/notification_text.h"
 #include "ports/relaunch_guard.h"
 #include "settings/preference_keys.h"
+#include "support/notification_center.h"
 #include "support/property_value.h"
 #include "support/text.h"
 

@@ -3,7 +3,6 @@
 // Keeps everything in FOLDER: the settings, "resources" with the sentinel, "log" with the lines,
 // and "starts", a record for each start: process id, how many descriptors it came with, working
 // folder, the variable KELVO_TEST_MARK and the arguments. ACTION is what a start by hand does then.
-#include "adapters/process/local_notification_center.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/posix_shell_runner.h"
 #include "adapters/process/qt_main_queue.h"
@@ -13,6 +12,7 @@
 #include "adapters/settings/plist_defaults.h"
 #include "app/start/watchdog.h"
 #include "app/start/watchdog_relaunch_guard.h"
+#include "support/notification_center.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -123,7 +123,7 @@ private:
     QtMainQueue fMainQueue;
     PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), fMainQueue, fConsole};
     FileBundle fBundle{fFolder + QStringLiteral("/resources")};
-    LocalNotificationCenter fCenter;
+    NotificationCenter fCenter;
     PosixShellRunner fShell{fConsole};
     ThreadPoolQueue fBgQueue;
     SignalPipe fSignals;

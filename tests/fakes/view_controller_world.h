@@ -13,12 +13,12 @@
 #include "fakes/memory_bundle.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
-#include "fakes/recording_notification_center.h"
 #include "fakes/scripted_browser.h"
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
 #include "remote/share_commands.h"
 #include "settings/preference_keys.h"
+#include "support/notification_center.h"
 #include "ui/status_menu_presence.h"
 #include "ui/view_controller.h"
 
@@ -58,7 +58,7 @@ public:
     FakePasteboard pasteboard;
     GioShareCommands shareCommands;
     RecordingConsole console;
-    RecordingNotificationCenter notificationCenter;
+    NotificationCenter notificationCenter;
     MemoryBundle bundle;
     FakeApplication application;
     FakeRelaunchGuard watchdog;

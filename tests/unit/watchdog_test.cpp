@@ -5,8 +5,8 @@
 #include "fakes/memory_bundle.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
-#include "fakes/recording_notification_center.h"
 #include "fakes/virtual_queues.h"
+#include "support/notification_center.h"
 
 #include <gtest/gtest.h>
 
@@ -68,7 +68,7 @@ protected:
     MemoryDefaults defaults;
     RecordingConsole console;
     FakeSentinelLauncher launcher;
-    RecordingNotificationCenter center;
+    NotificationCenter center;
     int terminations = 0;
     std::vector<int> left;
     int synchronizedWhenLeft = 0;
@@ -334,12 +334,15 @@ TEST_F(WatchdogTest, StopKeepingUsRunning_AsksTheSentinelToEnd) {
 
 TEST_F(WatchdogTest, QuitAndRelaunch_StartsASentinelAndLeavesWithTheSettingsSafe) {
     begin();
+    bool told = false;
+    const Subscription observer = center.observe(cWillTerminateNotification.toString(),
+                                                 [&](const Notification&) { told = true; });
     Watchdog::quitAndRelaunch();
     EXPECT_EQ(launcher.sentinels.size(), 1U);
     EXPECT_EQ(launcher.sentinels.at(0)->requests, 0);
     EXPECT_EQ(left, std::vector<int>{0});
     EXPECT_EQ(synchronizedWhenLeft, 1);
-    EXPECT_TRUE(center.posted().empty()) << "no orderly end is told";
+    EXPECT_FALSE(told) << "no orderly end is told";
 }
 
 TEST_F(WatchdogTest, RelaunchGuard_IsTheWatchdog) {

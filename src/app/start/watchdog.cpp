@@ -4,10 +4,10 @@
 #include "ports/bundle.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
-#include "ports/notification_center.h"
 #include "ports/sentinel_launcher.h"
 #include "ports/signals.h"
 #include "ports/user_defaults.h"
+#include "support/notification_center.h"
 
 #include <csignal>
 #include <cstring>
