@@ -21,17 +21,15 @@ class DispatchQueue;
 class DnssdBrowser;
 class LoginItem;
 class MainView;
+class MainWindowController;
 class OpenPanel;
 class PassStore;
-class Pasteboard;
 class PathControl;
-class SheetOpener;
 class StatusField;
 class StatusMenu;
 class Terminal;
 class UserDefaults;
 class ViewController;
-class WindowController;
 class Workspace;
 
 /// What a front works with; all of it outlives the front.
@@ -44,8 +42,6 @@ struct FrontParts {
     StatusMenu& statusMenu;
     Terminal& terminal; ///< of the desktop; used by a front that has one
     QString logFolder;
-    /// Told after each status message whether it is about trouble.
-    std::function<void(bool)> trouble;
     PassStore& passes;
     BackgroundQueue& bgQueue;
     QString homeDirectory;
@@ -57,10 +53,10 @@ struct FrontParts {
 struct FrontOutlets {
     MainView& view;
     AlertPresenter& alertPresenter;
-    SheetOpener& sheets;
+    std::function<bool(QStringView)> presentSheet;
     OpenPanel& openPanel;
     Terminal& terminal;
-    Pasteboard& pasteboard;
+    std::function<void(const QString&)> copyText;
     ArrayController& fArrayController;
     Button& ibStartButton;
     const Control* ibRevealButton1;
@@ -77,7 +73,7 @@ public:
     virtual FrontOutlets outlets() = 0;
 
     /// The controller of the front's window; the same at each call.
-    virtual std::shared_ptr<WindowController> windowController() = 0;
+    virtual std::shared_ptr<MainWindowController> windowController() = 0;
 
     /// From now on controls and menus send their actions there. Both outlive the front's event
     /// loop.

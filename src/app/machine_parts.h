@@ -60,7 +60,7 @@ struct MachineParts {
     ThreadPoolQueue bgQueue;
     DesktopWorkspace workspace;
     TerminalWindow terminal;
-    LocalSystemInformation systemInformation;
+    SystemInformation systemInformation;
     SingleCopySocket singleCopy;
     SignalPipe signals;
     PosixSentinelLauncher sentinelLauncher;

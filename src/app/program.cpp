@@ -7,10 +7,10 @@
 #include "app/start/duplicate_check.h"
 #include "app/start/interface_registry.h"
 #include "app/start/watchdog.h"
-#include "app/start/watchdog_relaunch_guard.h"
 #include "app/version.h"
 #include "ports/application.h"
 #include "ports/network_checker.h"
+#include "ui/main_window_controller.h"
 #include "ui/pass_notices.h"
 #include "ui/status_menu_handler.h"
 #include "ui/status_menu_presence.h"
@@ -73,9 +73,9 @@ public:
             .logger = fParts.logFile,
             .defaults = fParts.defaults,
             .mainBundle = fParts.bundle,
-            .watchdog = fRelaunchGuard,
+            .autoRelaunchUnless = Watchdog::autoRelaunchUnless,
             .storyboard = fStoryboard,
-            .processInfo = fParts.systemInformation,
+            .logCurrentSystemInfo = [this] { fParts.systemInformation.logCurrentSystemInfo(); },
             .checkForDuplicateRunningInstances =
                 [this] { fDuplicates.checkForDuplicateRunningInstances(); },
             .makeStatusMenuHandler =
@@ -87,9 +87,7 @@ public:
         if (const auto exitCode = fDuplicates.exitCode())
             return *exitCode;
         fDelegate->applicationWillFinishLaunching();
-        fDelegate->applicationDidFinishLaunching();
         const int exitCode = QCoreApplication::exec();
-        fDelegate->applicationWillTerminate();
         fParts.notificationCenter.post(cWillTerminateNotification.toString());
         return exitCode;
     }
@@ -106,7 +104,6 @@ private:
                 .statusMenu = fParts.statusMenu(),
                 .terminal = fParts.terminal,
                 .logFolder = logFolder(),
-                .trouble = [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
                 .passes = fPasses.store,
                 .bgQueue = fParts.bgQueue,
                 .homeDirectory = fParts.files.homeDirectory(),
@@ -130,7 +127,7 @@ private:
             .notificationCenter = fParts.notificationCenter,
             .bundle = fParts.bundle,
             .application = front().application(),
-            .watchdog = fRelaunchGuard,
+            .quitAndRelaunch = Watchdog::quitAndRelaunch,
             .workspace = fParts.workspace,
             .openPanel = outlets.openPanel,
             .networkBrowser = fParts.networkBrowser,
@@ -140,19 +137,19 @@ private:
             .temporaryFolder = fParts.temporaryFolder,
             .fileChanges = fParts.fileChanges,
             .terminal = outlets.terminal,
-            .pasteboard = outlets.pasteboard,
+            .copyText = outlets.copyText,
             .shareCommands = fParts.shareCommands,
             .view = outlets.view,
             .alertPresenter = outlets.alertPresenter,
-            .sheets = outlets.sheets,
+            .presentSheet = outlets.presentSheet,
             .fArrayController = outlets.fArrayController,
             .ibStartButton = outlets.ibStartButton,
             .ibRevealButton1 = outlets.ibRevealButton1,
             .ibRevealButton2 = outlets.ibRevealButton2,
             .ibStatusTextField = outlets.ibStatusTextField,
             .fNsPathControl1 = outlets.fNsPathControl1,
-            .windowController = [this]() -> StatusMenuWindow* {
-                WindowController& window = *front().windowController();
+            .windowController = [this]() -> MainWindowController* {
+                MainWindowController& window = *front().windowController();
                 return window.contentViewController() ? &window : nullptr;
             },
             .passListener = &fPasses.journal,
@@ -195,7 +192,6 @@ private:
     PassRecording fPasses{fParts.shell, fParts.mainQueue, fParts.console};
     PassNotices fNotices{fPasses.store, fParts.defaults, fParts.notices};
     StatusMenuPresence fStatusMenu;
-    WatchdogRelaunchGuard fRelaunchGuard;
     DuplicateCheck fDuplicates;
     std::vector<Subscription> fQuitSignals; ///< for a program that nobody watches
     Subscription fWatchdog;

@@ -97,9 +97,8 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
     QObject::connect(&window.destinationPath(), &PathControlView::partClicked, &window,
                      [&workspace](const QString& path) { workspace.openFile(path); });
 
-    window.bindings().setEditingEnded([&controller](QWidget& field) {
-        controller.controlTextDidEndEditing({std::make_shared<WidgetTextField>(field), {}});
-    });
+    window.bindings().setEditingEnded(
+        [&controller](QWidget& field) { controller.controlTextDidEndEditing(textField(field)); });
     window.setTabSelected(
         [&controller](const MainWindow::Tab& tab) { controller.tabViewWillSelect(item(tab)); });
     return onceButtons;

@@ -3,6 +3,7 @@
 
 #include "ports/status_messages.h"
 
+#include <functional>
 #include <memory>
 
 namespace kelvo {
@@ -13,8 +14,11 @@ class UserDefaults;
 
 class StatusLine final : public StatusMessages {
 public:
-    /// A field that is gone when a message is due drops the message.
-    StatusLine(UserDefaults& defaults, DispatchQueue& mainQueue, std::weak_ptr<StatusField> field);
+    /// A field that is gone when a message is due drops the message. `trouble`, if any, is told
+    /// after the field has shown a message: true for red, false for black and for clearing. It
+    /// outlives what waits on the main queue.
+    StatusLine(UserDefaults& defaults, DispatchQueue& mainQueue, std::weak_ptr<StatusField> field,
+               std::function<void(bool)> trouble = {});
 
     void updateStatusMessage(std::optional<QString> mesg, StatusColor color,
                              bool docenter) override;
@@ -23,6 +27,7 @@ private:
     UserDefaults& fDefaults;
     DispatchQueue& fMainQueue;
     std::weak_ptr<StatusField> ibStatusTextField;
+    std::function<void(bool)> fTrouble;
 };
 
 } // namespace kelvo

@@ -5,11 +5,11 @@
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "ports/main_view.h"
-#include "ports/relaunch_guard.h"
 #include "settings/preference_keys.h"
 #include "support/notification_center.h"
 #include "support/property_value.h"
 #include "support/text.h"
+#include "ui/main_window_controller.h"
 
 namespace kelvo {
 namespace {
@@ -35,7 +35,9 @@ QString objectText(const void* object, QStringView type) {
 } // namespace
 
 ViewController::ViewController(const ViewControllerParts& parts)
-    : fParts(parts), fStatusLine(parts.defaults, parts.mainQueue, parts.ibStatusTextField),
+    : fParts(parts),
+      fStatusLine(parts.defaults, parts.mainQueue, parts.ibStatusTextField,
+                  [&menu = parts.statusMenu](bool trouble) { menu.setTrouble(trouble); }),
       fAlerts(parts.mainQueue, parts.console, parts.alertPresenter),
       fRsyncCommand(parts.defaults, parts.console), fSamplePath(parts.defaults, parts.mainQueue),
       fHostValidation(parts.defaults, parts.shell, parts.files, parts.console),
@@ -96,17 +98,17 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .mainQueue = parts.mainQueue,
           .console = parts.console,
           .browser = parts.dnssdBrowser,
-          .sheets = parts.sheets,
+          .presentSheet = parts.presentSheet,
           .fArrayController = parts.fArrayController,
       }),
-      fTerminalNotice(fAlerts, parts.pasteboard), fCommandFiles({
-                                                      .console = parts.console,
-                                                      .files = parts.files,
-                                                      .changes = parts.fileChanges,
-                                                      .shell = parts.shell,
-                                                      .temporaryFolder = parts.temporaryFolder,
-                                                      .terminal = parts.terminal,
-                                                  }),
+      fTerminalNotice(fAlerts, parts.copyText), fCommandFiles({
+                                                    .console = parts.console,
+                                                    .files = parts.files,
+                                                    .changes = parts.fileChanges,
+                                                    .shell = parts.shell,
+                                                    .temporaryFolder = parts.temporaryFolder,
+                                                    .terminal = parts.terminal,
+                                                }),
       fConnectionTest({
           .defaults = parts.defaults,
           .files = parts.files,
@@ -114,8 +116,11 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .mainQueue = parts.mainQueue,
           .bgQueue = parts.bgQueue,
           .shell = parts.shell,
-          .alerts = fAlerts,
           .commands = parts.shareCommands,
+          .showAlert =
+              [this](const QString& message, const QString& text, AlertCompletion completion) {
+                  fAlerts.showAlertWithClosure(message, text, std::nullopt, std::move(completion));
+              },
           .showBusy = [&view = parts.view](bool testing) { view.showTesting(testing); },
       }),
       fProvisioning({
@@ -141,8 +146,7 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .beep = [&view = parts.view] { view.beep(); },
           .noTerminal = [this](const QString& command) { fTerminalNotice.show(command); },
       }),
-      myStatusMenuHandler(parts.statusMenu, parts.console),
-      fUsesSSH(parts.defaults.boolForKey(prefRsyncWithSSH)) {}
+      myStatusMenuHandler(parts.statusMenu, parts.console) {}
 
 void ViewController::viewDidLoad() {
     UserDefaults& defaults = fParts.defaults;
@@ -177,7 +181,7 @@ void ViewController::viewDidLoad() {
              {prefRemoteUsername, prefRemoteBonjourName, prefRemotePath, prefRsyncWithSSH})
             observe(key);
         fSamplePath.updateSampleString();
-        setUsesSSH(fParts.defaults.boolForKey(prefRsyncWithSSH));
+        fStartButtonTitle.showKindOfPass(fParts.defaults.boolForKey(prefRsyncWithSSH));
     });
     mainQueue.asyncAfter(0.6, [this] { readVersion(); });
     mainQueue.asyncAfter(1.0, [this] { fNetwork.setupNetworkChecker(); });
@@ -194,7 +198,7 @@ QString ViewController::description() const {
 }
 
 void ViewController::handWindowControllerOver() {
-    StatusMenuWindow* controller = fParts.windowController();
+    MainWindowController* controller = fParts.windowController();
     if (!controller) {
         fParts.mainQueue.asyncAfter(cWindowRetryDelay, [this] { handWindowControllerOver(); });
         return;
@@ -256,11 +260,6 @@ std::function<void()> ViewController::reactionTo(const DefaultsChange& change) {
     return [this] { ibUpdateTabViewItem(); };
 }
 
-void ViewController::setUsesSSH(bool usesSSH) {
-    fUsesSSH = usesSSH;
-    fStartButtonTitle.showKindOfPass(usesSSH);
-}
-
 // -- tabs and focus
 
 void ViewController::tabViewWillSelect(const std::optional<TabViewItem>& tabViewItem) {
@@ -277,13 +276,13 @@ void ViewController::tabViewWillSelect(const std::optional<TabViewItem>& tabView
         ibUpdateTabViewItem();
 }
 
-void ViewController::controlTextDidEndEditing(const TextEditingNotification& obj) {
+void ViewController::controlTextDidEndEditing(const std::shared_ptr<Control>& object) {
     constexpr QStringView operation = u"controlTextDidEndEditing(_:)";
-    const auto field = std::dynamic_pointer_cast<TextField>(obj.object);
+    const auto field = std::dynamic_pointer_cast<TextField>(object);
     printInside(operation,
                 QString(u".......obj.object   = " +
-                        objectText(obj.object.get(), field ? u"NSTextField" : u"NSControl")));
-    printInside(operation, QString(u".......obj.userInfo = " + userInfoText(obj.userInfo)));
+                        objectText(object.get(), field ? u"NSTextField" : u"NSControl")));
+    printInside(operation, u".......obj.userInfo = nil");
     if (field)
         fParts.mainQueue.asyncAfter(cReactionDelay, [field] { field->resignFirstResponder(); });
 }
@@ -306,7 +305,7 @@ void ViewController::handleQuitAndRelaunchNotification(const Notification& notif
 
 void ViewController::ibQuitAndRelaunch(Control*) {
     printInside(u"ibQuitAndRelaunch(_:)");
-    fParts.watchdog.quitAndRelaunch();
+    fParts.quitAndRelaunch();
 }
 
 void ViewController::printInside(QStringView operation, QStringView detail) const {

@@ -38,12 +38,6 @@ struct TabViewItem {
     std::optional<QString> identifier;
 };
 
-/// A person has finished editing the text of `object`.
-struct TextEditingNotification {
-    std::shared_ptr<Control> object;
-    QVariantMap userInfo;
-};
-
 /// Main thread only; settings may change on any thread. Both queues must have ended before the
 /// controller is destroyed: what waits there belongs to it.
 class ViewController final : public MainViewController {
@@ -84,7 +78,6 @@ public:
     void ibTestShellCommand(Control*) { fConnectionTest.ibTestShellCommand(); }
     void ibTestShellCommand222(Control*) { fConnectionTest.ibTestShellCommand222(); }
     void ibTestShellCommand111(Control*) { fConnectionTest.ibTestShellCommand111(); }
-    bool fBusyFlag3() const { return fConnectionTest.fBusyFlag3(); }
     void ibGenerateSSHKeyStuff(Control*) { fProvisioning.ibGenerateSSHKeyStuff(); }
     void createNewPrivatePublicKeys(Control*) { fProvisioning.createNewPrivatePublicKeys(); }
     void createNewPrivatePublicKeysOLD(Control*) { fProvisioning.createNewPrivatePublicKeysOLD(); }
@@ -102,13 +95,12 @@ public:
     /// Stores the template with its option filled in, for display.
     void ibUpdateTabViewItem() { fCommandExample.ibUpdateTabViewItem(); }
     void tabViewWillSelect(const std::optional<TabViewItem>& tabViewItem);
-    void controlTextDidEndEditing(const TextEditingNotification& obj);
+    /// A person has finished editing the text of `object`.
+    void controlTextDidEndEditing(const std::shared_ptr<Control>& object);
 
     // What the tray menu asks for.
     void clickStartButton() override { fParts.ibStartButton.performClick(); }
     void quitAndRelaunch() override { ibQuitAndRelaunch(nullptr); }
-
-    Alerts& alerts() { return fAlerts; }
 
 private:
     void observe(QStringView key);
@@ -118,7 +110,6 @@ private:
     void readVersion();
     void scriptEnded(TerminalOutcome outcome, const QString& command);
     void handleQuitAndRelaunchNotification(const Notification& notification);
-    void setUsesSSH(bool usesSSH);
     void printInside(QStringView operation, QStringView detail = u".......") const;
 
     const ViewControllerParts fParts;
@@ -142,7 +133,6 @@ private:
     SshKeyProvisioning fProvisioning;
     SmbShareAccess fShare;
     KelvoStatusMenuHandler myStatusMenuHandler;
-    bool fUsesSSH;
     std::vector<Subscription> fObservations;
 };
 

@@ -1,6 +1,8 @@
 // ViewControllerParts: what the controller of the main window works with.
 #pragma once
 
+#include <QString>
+
 #include <functional>
 #include <memory>
 
@@ -19,20 +21,17 @@ class DnssdBrowser;
 class FileChanges;
 class FileManager;
 class MainView;
+class MainWindowController;
 class NetworkBrowser;
 class NetworkChecker;
 class NotificationCenter;
 class OpenPanel;
 class PassListener;
-class Pasteboard;
 class PathControl;
-class RelaunchGuard;
 class ShareCommands;
-class SheetOpener;
 class ShellRunner;
 class StatusField;
 class StatusMenuPresence;
-class StatusMenuWindow;
 class TemporaryFolder;
 class Terminal;
 class UserDefaults;
@@ -49,7 +48,7 @@ struct ViewControllerParts {
     NotificationCenter& notificationCenter;
     const Bundle& bundle;
     Application& application;
-    RelaunchGuard& watchdog;
+    std::function<void()> quitAndRelaunch; ///< ends the program and has it started again
     Workspace& workspace;
     OpenPanel& openPanel;
     NetworkBrowser& networkBrowser;
@@ -59,13 +58,15 @@ struct ViewControllerParts {
     const TemporaryFolder& temporaryFolder;
     FileChanges& fileChanges;
     Terminal& terminal;
-    Pasteboard& pasteboard;
+    std::function<void(const QString&)> copyText; ///< to the clipboard
     const ShareCommands& shareCommands;
 
     // What lies in the window.
     MainView& view;
     AlertPresenter& alertPresenter;
-    SheetOpener& sheets;
+    /// Makes the sheet of this identifier afresh and shows it; returns at once, the sheet closes
+    /// itself. False when there is no such sheet.
+    std::function<bool(QStringView)> presentSheet;
     ArrayController& fArrayController; ///< what the main view's own search found
     Button& ibStartButton;
     const Control* ibRevealButton1;
@@ -73,7 +74,7 @@ struct ViewControllerParts {
     std::weak_ptr<StatusField> ibStatusTextField;
     std::weak_ptr<PathControl> fNsPathControl1;
     /// The controller of the view's window; nothing as long as there is none.
-    std::function<StatusMenuWindow*()> windowController;
+    std::function<MainWindowController*()> windowController;
     PassListener* passListener = nullptr; ///< hears of each pass; may be missing
 };
 

@@ -11,7 +11,6 @@
 #include "adapters/settings/file_bundle.h"
 #include "adapters/settings/plist_defaults.h"
 #include "app/start/watchdog.h"
-#include "app/start/watchdog_relaunch_guard.h"
 #include "support/notification_center.h"
 
 #include <QCoreApplication>
@@ -63,7 +62,7 @@ public:
             {fSignals, fBundle, fDefaults, fConsole, fLauncher, fCenter, fMainQueue, fArguments,
              ::getpid(), QDateTime::currentDateTimeUtc, [] { QCoreApplication::quit(); },
              [](int status) { ::_exit(status); }});
-        fGuard.autoRelaunchUnless(4, 30.0, [](unsigned long, double) { return false; });
+        Watchdog::autoRelaunchUnless(4, 30.0, [](unsigned long, double) { return false; });
         fMainQueue.async([this, action] {
             fDefaults.setObject(u"starts", fDefaults.integerForKey(u"starts") + 1);
             if (fArguments.contains(QStringLiteral("clear-record")))
@@ -97,7 +96,7 @@ private:
         else if (action == u"trap")
             __builtin_trap();
         else if (action == u"quit-and-relaunch")
-            setAndDo([this] { fGuard.quitAndRelaunch(); });
+            setAndDo([this] { Watchdog::quitAndRelaunch(); });
         else if (action == u"interrupt")
             setAndDo([] { ::raise(SIGINT); });
         else if (action == u"command")
@@ -128,7 +127,6 @@ private:
     ThreadPoolQueue fBgQueue;
     SignalPipe fSignals;
     PosixSentinelLauncher fLauncher;
-    WatchdogRelaunchGuard fGuard;
 };
 
 } // namespace

@@ -6,9 +6,7 @@
 #include "fakes/fake_front.h"
 #include "fakes/fake_main_view.h"
 #include "fakes/fake_network.h"
-#include "fakes/fake_relaunch_guard.h"
 #include "fakes/fake_remote_side.h"
-#include "fakes/fake_service_table.h"
 #include "fakes/fake_status_menu.h"
 #include "fakes/memory_bundle.h"
 #include "fakes/memory_defaults.h"
@@ -18,16 +16,13 @@
 #include "fakes/virtual_queues.h"
 #include "remote/share_commands.h"
 #include "settings/preference_keys.h"
+#include "support/array_controller.h"
 #include "support/notification_center.h"
+#include "ui/main_window_controller.h"
 #include "ui/status_menu_presence.h"
 #include "ui/view_controller.h"
 
 namespace kelvo {
-
-struct FakeWindowController final : StatusMenuWindow {
-    void showWindow() override { ++shown; }
-    int shown = 0;
-};
 
 class ViewControllerWorld {
 public:
@@ -55,19 +50,18 @@ public:
     FakeFileChanges fileChanges{files};
     FakeTemporaryFolder temporaryFolder;
     FakeTerminal terminal;
-    FakePasteboard pasteboard;
+    QString clipboard;
     GioShareCommands shareCommands;
     RecordingConsole console;
     NotificationCenter notificationCenter;
     MemoryBundle bundle;
     FakeApplication application;
-    FakeRelaunchGuard watchdog;
+    int relaunches = 0;
     FakeWorkspace workspace;
     FakeOpenPanel openPanel;
     FakeNetworkBrowser networkBrowser;
     ScriptedBrowser dnssdBrowser;
-    FakeSheetOpener sheets;
-    FakeArrayController foundServices;
+    ArrayController foundServices;
     FakeTrayHost tray;
     FakeStatusMenu menu{tray};
     StatusMenuPresence statusMenu{menu, defaults, mainQueue, [] {}};
@@ -78,8 +72,9 @@ public:
     FakeButton revealButton2;
     std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
     std::shared_ptr<FakePathControl> pathControl = std::make_shared<FakePathControl>();
-    FakeWindowController windowController;
-    StatusMenuWindow* window = &windowController;
+    int windowShown = 0;
+    MainWindowController windowController{[this] { ++windowShown; }};
+    MainWindowController* window = &windowController;
     ViewController controller{{
         .defaults = defaults,
         .mainQueue = mainQueue,
@@ -90,7 +85,7 @@ public:
         .notificationCenter = notificationCenter,
         .bundle = bundle,
         .application = application,
-        .watchdog = watchdog,
+        .quitAndRelaunch = [this] { ++relaunches; },
         .workspace = workspace,
         .openPanel = openPanel,
         .networkBrowser = networkBrowser,
@@ -104,11 +99,11 @@ public:
         .temporaryFolder = temporaryFolder,
         .fileChanges = fileChanges,
         .terminal = terminal,
-        .pasteboard = pasteboard,
+        .copyText = [this](const QString& text) { clipboard = text; },
         .shareCommands = shareCommands,
         .view = view,
         .alertPresenter = presenter,
-        .sheets = sheets,
+        .presentSheet = [](QStringView) { return true; },
         .fArrayController = foundServices,
         .ibStartButton = button,
         .ibRevealButton1 = &revealButton1,

@@ -1,5 +1,4 @@
 #include "app/start/watchdog.h"
-#include "app/start/watchdog_relaunch_guard.h"
 #include "fakes/fake_sentinel_launcher.h"
 #include "fakes/fake_signals.h"
 #include "fakes/memory_bundle.h"
@@ -60,7 +59,7 @@ protected:
     static QString description(int number) { return QString::fromLocal8Bit(::strsignal(number)); }
     void willTerminate() { center.post(cWillTerminateNotification.toString()); }
 
-    const RelaunchGuard::Escape never = [](unsigned long, double) { return false; };
+    const RelaunchEscape never = [](unsigned long, double) { return false; };
     QDateTime now = QDateTime::fromString(QStringLiteral("2024-05-06T07:08:09Z"), Qt::ISODate);
     VirtualMainQueue queue;
     FakeSignals signals{queue};
@@ -345,12 +344,11 @@ TEST_F(WatchdogTest, QuitAndRelaunch_StartsASentinelAndLeavesWithTheSettingsSafe
     EXPECT_FALSE(told) << "no orderly end is told";
 }
 
-TEST_F(WatchdogTest, RelaunchGuard_IsTheWatchdog) {
+TEST_F(WatchdogTest, QuitAndRelaunchWhileWatched_NeedsNoSecondSentinel) {
     begin();
-    WatchdogRelaunchGuard guard;
-    guard.autoRelaunchUnless(4, 30.0, never);
+    Watchdog::autoRelaunchUnless(4, 30.0, never);
     EXPECT_EQ(launcher.sentinels.size(), 1U);
-    guard.quitAndRelaunch();
+    Watchdog::quitAndRelaunch();
     EXPECT_EQ(launcher.sentinels.size(), 1U);
     EXPECT_EQ(left, std::vector<int>{0});
 }

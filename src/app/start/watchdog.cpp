@@ -1,6 +1,5 @@
 #include "app/start/watchdog.h"
 
-#include "app/start/relaunch_decision.h"
 #include "ports/bundle.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
@@ -79,8 +78,7 @@ public:
             fTaskWatchdog->terminate();
     }
 
-    void autoRelaunchUnless(unsigned long count, double seconds,
-                            const RelaunchGuard::Escape& escape) {
+    void autoRelaunchUnless(unsigned long count, double seconds, const RelaunchEscape& escape) {
         const QDateTime now = fParts.now();
         if (isOrdinaryStart(count, fParts.arguments.contains(cAutorelaunched))) {
             fParts.defaults.removeObject(cRecentLaunchDates);
@@ -240,7 +238,7 @@ void Watchdog::stopKeepingUsRunning() {
 }
 
 void Watchdog::autoRelaunchUnless(unsigned long count, double seconds,
-                                  const RelaunchGuard::Escape& escape) {
+                                  const RelaunchEscape& escape) {
     if (const auto state = current())
         state->autoRelaunchUnless(count, seconds, escape);
 }
