@@ -3,10 +3,10 @@
 #include "adapters/console/stream_console.h"
 #include "adapters/network/service_table.h"
 #include "bench/row.h"
-#include "fakes/fake_service_table.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
 #include "ports/dnssd_browser.h"
+#include "support/array_controller.h"
 #include "ui/bonjour_view_controller.h"
 
 #include <fcntl.h>
@@ -74,10 +74,17 @@ private:
     FilledBrowser fBrowser;
     MemoryDefaults fDefaults;
     VirtualMainQueue fMainQueue;
-    std::shared_ptr<FakeArrayController> fRows = std::make_shared<FakeArrayController>();
-    std::shared_ptr<BonjourViewController> fController = BonjourViewController::make(
-        {fDefaults, fMainQueue, fConsole, fBrowser, std::make_shared<FakeSheet>(), fRows,
-         std::make_shared<FakeTableView>(*fRows)});
+    std::shared_ptr<ArrayController> fRows = std::make_shared<ArrayController>();
+    std::shared_ptr<BonjourViewController> fController = BonjourViewController::make({
+        .defaults = fDefaults,
+        .mainQueue = fMainQueue,
+        .console = fConsole,
+        .browser = fBrowser,
+        .fArrayController = fRows,
+        .selectedRow = [] { return -1; },
+        .dismiss = [] {},
+        .beep = [] {},
+    });
 };
 
 std::optional<std::vector<Figure>> measureFilter() {

@@ -18,12 +18,12 @@ class Console;
 class DispatchQueue;
 class DnssdBrowser;
 class LoginItem;
+class MainWindowController;
 class PassStore;
 class StatusMenu;
 class Terminal;
 class UserDefaults;
 class ViewController;
-class WindowController;
 class Workspace;
 
 /// What a front works with; all of it outlives the front.
@@ -36,8 +36,6 @@ struct FrontParts {
     StatusMenu& statusMenu;
     Terminal& terminal; ///< of the desktop; used by a front that has one
     QString logFolder;
-    /// Told after each status message whether it is about trouble.
-    std::function<void(bool)> trouble;
     PassStore& passes;
     BackgroundQueue& bgQueue;
     QString homeDirectory;
@@ -53,7 +51,7 @@ public:
     virtual Outlets outlets() = 0;
 
     /// The controller of the front's window; the same at each call.
-    virtual std::shared_ptr<WindowController> windowController() = 0;
+    virtual std::shared_ptr<MainWindowController> windowController() = 0;
 
     /// From now on controls and menus send their actions there. Both outlive the front's event
     /// loop.

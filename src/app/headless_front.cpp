@@ -1,12 +1,11 @@
 // The front without a window.
-#include "adapters/console/headless_bonjour.h"
 #include "adapters/console/headless_desktop.h"
 #include "adapters/console/headless_outlets.h"
 #include "adapters/console/headless_terminal.h"
 #include "adapters/console/headless_view.h"
 #include "app/front.h"
-#include "app/main_window_controller.h"
-#include "ui/observed_status_field.h"
+#include "support/array_controller.h"
+#include "ui/main_window_controller.h"
 #include "ui/view_controller.h"
 
 #include <QCoreApplication>
@@ -18,23 +17,22 @@ class HeadlessFront final : public Front {
 public:
     explicit HeadlessFront(const FrontParts& parts)
         : fStartButton([this](Control* sender) { fController->ibStartRSyncProcess(sender); }),
-          fStatusField(std::make_shared<ObservedStatusField>(
-              std::make_shared<HeadlessStatusField>(parts.console), parts.trouble)),
-          fAlerts(parts.console, parts.mainQueue), fView(parts.console), fSheets(parts.console),
-          fOpenPanel(parts.console), fTerminal(parts.console),
-          fApplication([] { QCoreApplication::quit(); }) {}
+          fStatusField(std::make_shared<HeadlessStatusField>(parts.console)),
+          fAlerts(parts.console, parts.mainQueue), fView(parts.console), fOpenPanel(parts.console),
+          fTerminal(parts.console), fApplication([] { QCoreApplication::quit(); }) {}
 
     Application& application() override { return fApplication; }
-    std::shared_ptr<WindowController> windowController() override { return fWindowController; }
+    std::shared_ptr<MainWindowController> windowController() override { return fWindowController; }
     Outlets outlets() override {
         return {
             .application = fApplication,
             .view = fView,
             .alertPresenter = fAlerts,
-            .sheets = fSheets,
+            .presentSheet =
+                [this](QStringView identifier) { return fView.presentSheet(identifier); },
             .openPanel = fOpenPanel,
             .terminal = fTerminal,
-            .pasteboard = fPasteboard,
+            .copyText = [](const QString&) {},
             .fArrayController = fFoundServices,
             .ibStartButton = fStartButton,
             .ibRevealButton1 = nullptr,
@@ -50,14 +48,12 @@ public:
 private:
     ViewController* fController = nullptr;
     HeadlessButton fStartButton;
-    std::shared_ptr<ObservedStatusField> fStatusField;
+    std::shared_ptr<HeadlessStatusField> fStatusField;
     HeadlessAlerts fAlerts;
     HeadlessView fView;
-    HeadlessSheetOpener fSheets;
     HeadlessOpenPanel fOpenPanel;
     HeadlessTerminal fTerminal;
-    HeadlessPasteboard fPasteboard;
-    HeadlessArrayController fFoundServices;
+    ArrayController fFoundServices;
     HeadlessApplication fApplication;
     std::shared_ptr<HeadlessPathControl> fPathControl = std::make_shared<HeadlessPathControl>();
     std::shared_ptr<MainWindowController> fWindowController =

@@ -9,7 +9,6 @@
 #include "adapters/desktop/terminal_window.h"
 #include "adapters/network/avahi_browser.h"
 #include "adapters/network/avahi_network_browser.h"
-#include "adapters/process/local_notification_center.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/runtime_folder.h"
 #include "adapters/process/single_copy_socket.h"
@@ -17,6 +16,7 @@
 #include "adapters/system/local_file_changes.h"
 #include "app/pass_machine.h"
 #include "remote/share_commands.h"
+#include "support/notification_center.h"
 
 #include <memory>
 
@@ -41,10 +41,10 @@ struct MachineParts : PassMachine {
     AutostartEntry loginItem;
     UserTemporaryFolder temporaryFolder;
     PlatformShareCommands shareCommands;
-    LocalNotificationCenter notificationCenter;
+    NotificationCenter notificationCenter;
     DesktopWorkspace workspace;
     TerminalWindow terminal;
-    LocalSystemInformation systemInformation;
+    SystemInformation systemInformation;
     SingleCopySocket singleCopy;
     PosixSentinelLauncher sentinelLauncher;
     AvahiBrowser dnssdBrowser;

@@ -6,10 +6,10 @@
 #include "app/start/duplicate_check.h"
 #include "app/start/interface_registry.h"
 #include "app/start/watchdog.h"
-#include "app/start/watchdog_relaunch_guard.h"
 #include "app/version.h"
 #include "ports/application.h"
 #include "ports/network_checker.h"
+#include "ui/main_window_controller.h"
 #include "ui/pass_notices.h"
 #include "ui/status_menu_handler.h"
 #include "ui/status_menu_presence.h"
@@ -70,9 +70,9 @@ public:
             .logger = fParts.logFile,
             .defaults = fParts.defaults,
             .mainBundle = fParts.bundle,
-            .watchdog = fRelaunchGuard,
+            .autoRelaunchUnless = Watchdog::autoRelaunchUnless,
             .storyboard = fStoryboard,
-            .processInfo = fParts.systemInformation,
+            .logCurrentSystemInfo = [this] { fParts.systemInformation.logCurrentSystemInfo(); },
             .checkForDuplicateRunningInstances =
                 [this] { fDuplicates.checkForDuplicateRunningInstances(); },
             .makeStatusMenuHandler =
@@ -84,9 +84,7 @@ public:
         if (const auto exitCode = fDuplicates.exitCode())
             return *exitCode;
         fDelegate->applicationWillFinishLaunching();
-        fDelegate->applicationDidFinishLaunching();
         const int exitCode = QCoreApplication::exec();
-        fDelegate->applicationWillTerminate();
         fParts.notificationCenter.post(cWillTerminateNotification.toString());
         return exitCode;
     }
@@ -103,7 +101,6 @@ private:
                 .statusMenu = fParts.statusMenu(),
                 .terminal = fParts.terminal,
                 .logFolder = logFolder(),
-                .trouble = [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
                 .passes = fParts.passes,
                 .bgQueue = fParts.bgQueue,
                 .homeDirectory = fParts.files.homeDirectory(),
@@ -121,7 +118,7 @@ private:
             .outlets = front().outlets(),
             .notificationCenter = fParts.notificationCenter,
             .bundle = fParts.bundle,
-            .watchdog = fRelaunchGuard,
+            .quitAndRelaunch = Watchdog::quitAndRelaunch,
             .workspace = fParts.workspace,
             .networkBrowser = fParts.networkBrowser,
             .dnssdBrowser = fParts.dnssdBrowser,
@@ -130,8 +127,8 @@ private:
             .temporaryFolder = fParts.temporaryFolder,
             .fileChanges = fParts.fileChanges,
             .shareCommands = fParts.shareCommands,
-            .windowController = [this]() -> StatusMenuWindow* {
-                WindowController& window = *front().windowController();
+            .windowController = [this]() -> MainWindowController* {
+                MainWindowController& window = *front().windowController();
                 return window.contentViewController() ? &window : nullptr;
             },
         });
@@ -172,7 +169,6 @@ private:
     MachineParts fParts;
     PassNotices fNotices{fParts.passes, fParts.defaults, fParts.notices};
     StatusMenuPresence fStatusMenu;
-    WatchdogRelaunchGuard fRelaunchGuard;
     DuplicateCheck fDuplicates;
     std::vector<Subscription> fQuitSignals; ///< for a program that nobody watches
     Subscription fWatchdog;

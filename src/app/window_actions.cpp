@@ -83,7 +83,6 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
     OnceButtons onceButtons;
     for (const Wire& wire : cOnceButtons) {
         const QString name = QString::fromLatin1(wire.control);
-        window.setAction(name, [] {});
         onceButtons.push_back(std::make_unique<WidgetButton>(
             window.button(name), [&controller, action = wire.action](Control* sender) {
                 (controller.*action)(sender);
@@ -98,9 +97,8 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
     QObject::connect(&window.destinationPath(), &PathControlView::partClicked, &window,
                      [&workspace](const QString& path) { workspace.openFile(path); });
 
-    window.bindings().setEditingEnded([&controller](QWidget& field) {
-        controller.controlTextDidEndEditing({std::make_shared<WidgetTextField>(field), {}});
-    });
+    window.bindings().setEditingEnded(
+        [&controller](QWidget& field) { controller.controlTextDidEndEditing(textField(field)); });
     window.setTabSelected(
         [&controller](const MainWindow::Tab& tab) { controller.tabViewWillSelect(item(tab)); });
     return onceButtons;

@@ -1,12 +1,12 @@
 // The front with the main window.
 #include "app/front.h"
-#include "app/main_window_controller.h"
 #include "app/start/app_delegate.h"
 #include "app/window_actions.h"
 #include "ports/dispatch_queue.h"
 #include "ports/status_menu.h"
+#include "support/array_controller.h"
 #include "ui/close_policy.h"
-#include "ui/observed_status_field.h"
+#include "ui/main_window_controller.h"
 #include "ui/view_controller.h"
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/bonjour_sheet.h"
@@ -38,32 +38,36 @@ public:
                        [this](Control* sender) { fController->ibStartRSyncProcess(sender); }),
           fRevealButton1(fWindow.button(QStringLiteral("ibRevealButton1"))),
           fRevealButton2(fWindow.button(QStringLiteral("ibRevealButton2"))),
-          fStatusField(std::make_shared<ObservedStatusField>(
-              std::make_shared<WidgetStatusField>(fWindow.ibStatusTextField()), parts.trouble)),
+          fStatusField(std::make_shared<WidgetStatusField>(fWindow.ibStatusTextField())),
           fPathControl(std::make_shared<WidgetPathControl>(fWindow.fNsPathControl1())),
-          fAlerts(fWindow),
-          fSheets(fWindow, {parts.defaults, parts.mainQueue, parts.console, parts.browser}),
-          fOpenPanel(fWindow), fFoundServices(fWindow.foundServices()),
+          fAlerts(fWindow), fOpenPanel(fWindow),
           fWindowController(
               std::make_shared<MainWindowController>([this] { fWindow.bringToFront(); })) {
         // Drawing the icon takes a while; the window does not wait for it.
         parts.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
+        showServices(fFoundServices, fWindow.foundServices());
         fWindow.activityTab().setStore(parts.passes);
         fWindow.settingsTab().setLoginItem(parts.loginItem);
         fWindow.setMayClose([this] { return mayClose(); });
     }
 
     Application& application() override { return fApplication; }
-    std::shared_ptr<WindowController> windowController() override { return fWindowController; }
+    std::shared_ptr<MainWindowController> windowController() override { return fWindowController; }
     Outlets outlets() override {
         return {
             .application = fApplication,
             .view = fView,
             .alertPresenter = fAlerts,
-            .sheets = fSheets,
+            .presentSheet =
+                [this](QStringView identifier) {
+                    return presentSheet(
+                        identifier,
+                        {fParts.defaults, fParts.mainQueue, fParts.console, fParts.browser},
+                        fWindow);
+                },
             .openPanel = fOpenPanel,
             .terminal = fParts.terminal,
-            .pasteboard = fPasteboard,
+            .copyText = copyText,
             .fArrayController = fFoundServices,
             .ibStartButton = fStartButton,
             .ibRevealButton1 = &fRevealButton1,
@@ -77,12 +81,19 @@ public:
         fController = &controller;
         fDelegate = &delegate;
         fOnceButtons = sendWindowActions(fWindow, controller, fParts.workspace, fPathControl);
-        fWindow.syncTab().checklist().setMend([this](Mend mend) { mendBy(mend); });
+        fWindow.syncTab().checklist().setRemedyChosen([this](Remedy remedy) { apply(remedy); });
         fChecklist.emplace(Checklist::Parts{
-            fParts.defaults, fParts.mainQueue, fParts.bgQueue, fParts.homeDirectory,
-            fParts.checklistProbe, fParts.passes, [this](const std::vector<ChecklistLine>& lines) {
-                fWindow.syncTab().checklist().setLines(lines);
-            }});
+            .defaults = fParts.defaults,
+            .mainQueue = fParts.mainQueue,
+            .bgQueue = fParts.bgQueue,
+            .homeDirectory = fParts.homeDirectory,
+            .probe = fParts.checklistProbe,
+            .passes = fParts.passes,
+            .show =
+                [this](const std::vector<ChecklistLine>& lines) {
+                    fWindow.syncTab().checklist().setLines(lines);
+                },
+        });
         QObject::connect(&fWindow, &MainWindow::activated, &fWindow,
                          [this] { fChecklist->look(); });
         QObject::connect(&fWindow, &MainWindow::keyStateShown, &fWindow,
@@ -92,19 +103,21 @@ public:
     }
 
 private:
-    void mendBy(Mend mend) {
-        switch (mend) {
-        case Mend::ShowRemoteTab:
+    static void copyText(const QString& text) { QGuiApplication::clipboard()->setText(text); }
+
+    void apply(Remedy remedy) {
+        switch (remedy) {
+        case Remedy::ShowRemoteTab:
             fWindow.showTab(QStringLiteral("remote"));
             break;
-        case Mend::ChooseSource:
+        case Remedy::ChooseSource:
             fWindow.button(QStringLiteral("ibSelectFolder1Action")).click();
             break;
-        case Mend::ChooseDestination:
+        case Remedy::ChooseDestination:
             fWindow.button(QStringLiteral("ibSelectFolder2Action")).click();
             break;
-        case Mend::CopyInstallCommand:
-            QGuiApplication::clipboard()->setText(cInstallCommand.toString());
+        case Remedy::CopyInstallCommand:
+            copyText(cInstallCommand.toString());
             break;
         }
     }
@@ -125,19 +138,17 @@ private:
     AppDelegate* fDelegate = nullptr;
     ClosePolicy fClosePolicy;
     std::optional<Checklist> fChecklist;
+    ArrayController fFoundServices; ///< told of the table's selection until the window is gone
     MainWindow fWindow;
     WidgetMainView fView;
     WidgetApplication fApplication;
     WidgetButton fStartButton;
     WidgetControl fRevealButton1;
     WidgetControl fRevealButton2;
-    std::shared_ptr<ObservedStatusField> fStatusField;
+    std::shared_ptr<WidgetStatusField> fStatusField;
     std::shared_ptr<WidgetPathControl> fPathControl;
     SheetPresenter fAlerts;
-    WidgetSheetOpener fSheets;
     WidgetOpenPanel fOpenPanel;
-    WidgetPasteboard fPasteboard;
-    ServiceList fFoundServices;
     OnceButtons fOnceButtons;
     std::shared_ptr<MainWindowController> fWindowController;
 };

@@ -1,11 +1,10 @@
 #include "discovery/bonjour_selection.h"
 
 #include "discovery/record_texts.h"
-#include "ports/array_controller.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "ports/dnssd_browser.h"
-#include "ports/sheet_opener.h"
+#include "support/array_controller.h"
 #include "support/fatal.h"
 #include "support/text.h"
 
@@ -19,7 +18,7 @@ constexpr QStringView cSeparator = u"\n=========================================
 
 void BonjourSelection::ibSelectSourceByBonjor() {
     printInside(u"ibSelectSourceByBonjor(_:)");
-    if (!fParts.sheets.presentSheet(cBonjourSheet))
+    if (!fParts.presentSheet(cBonjourVCstoryboardID))
         stopProgram("Unable to instantiate ViewController in Main.storyboard!");
 }
 

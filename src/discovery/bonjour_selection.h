@@ -3,7 +3,9 @@
 
 #include "support/dnssd_service.h"
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace kelvo {
 
@@ -11,14 +13,14 @@ class ArrayController;
 class Console;
 class DispatchQueue;
 class DnssdBrowser;
-class SheetOpener;
 
 /// Everything it works with; all of it outlives this.
 struct BonjourSelectionParts {
     DispatchQueue& mainQueue;
     Console& console;
     DnssdBrowser& browser;
-    SheetOpener& sheets;
+    /// Makes the sheet of this identifier afresh and shows it; false when there is no such sheet.
+    std::function<bool(QStringView)> presentSheet;
     ArrayController& fArrayController; ///< the main view's own list
 };
 
@@ -26,7 +28,7 @@ struct BonjourSelectionParts {
 /// belongs to it.
 class BonjourSelection {
 public:
-    explicit BonjourSelection(const BonjourSelectionParts& parts) : fParts(parts) {}
+    explicit BonjourSelection(BonjourSelectionParts parts) : fParts(std::move(parts)) {}
     BonjourSelection(const BonjourSelection&) = delete;
     BonjourSelection& operator=(const BonjourSelection&) = delete;
 

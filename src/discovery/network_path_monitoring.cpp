@@ -4,7 +4,7 @@
 #include "ports/dispatch_queue.h"
 #include "ports/network_browser.h"
 #include "ports/network_checker.h"
-#include "ports/notification_text.h"
+#include "support/notification_center.h"
 #include "support/text.h"
 
 #include <utility>
@@ -32,8 +32,6 @@ NetworkPathMonitoring::~NetworkPathMonitoring() = default;
 // -- the status line
 
 void NetworkPathMonitoring::setupNetworkChecker() {
-    if (!fParts.systemWatchesPaths)
-        return;
     fKelvoSSID = fParts.makeKelvoSSID();
     if (!fKelvoSSID)
         return;
@@ -54,27 +52,16 @@ void NetworkPathMonitoring::handleNWPathMonitorNotification(const Notification& 
                 u".......notification.userInfo = Optional<Dictionary<AnyHashable, Any>>");
     const QVariant message = notification.userInfo.value(cReachabilityMessage.toString());
     fParts.mainQueue.asyncAfter(cStatusDelay, [this, message] {
-        setNetworkStatus({});
+        fParts.showNetworkStatus({});
         if (message.typeId() == QMetaType::QString)
-            setNetworkStatus(message.toString());
+            fParts.showNetworkStatus(message.toString());
     });
-}
-
-void NetworkPathMonitoring::setNetworkStatus(const QString& status) {
-    fStatus = status;
-    if (fParts.showNetworkStatus)
-        fParts.showNetworkStatus(fStatus);
 }
 
 // -- the test of the browser
 
 void NetworkPathMonitoring::ibTestNWBrowser(Control*) {
-    constexpr QStringView operation = u"ibTestNWBrowser(_:)";
-    printInside(operation);
-    if (!fParts.systemWatchesPaths) {
-        printInside(operation, u".......OLD !!!!");
-        return;
-    }
+    printInside(u"ibTestNWBrowser(_:)");
     fParts.browser.start(
         {QStringLiteral("_smb._tcp"), QStringLiteral("local."), true},
         [this](const NetworkBrowserState& state) {

@@ -29,10 +29,8 @@ struct NetworkPathMonitoringParts {
     NetworkBrowser& browser;
     /// May answer with nothing: then nothing is watched.
     std::function<std::unique_ptr<NetworkChecker>()> makeKelvoSSID;
-    /// Receives every value of fNetworkStatusString, on the main thread.
+    /// Receives the text of the network line whenever it is set, on the main thread.
     std::function<void(const QString&)> showNetworkStatus;
-    /// False on systems too old to watch the network path.
-    bool systemWatchesPaths = true;
 };
 
 /// Main thread only, except that notifications may arrive on any thread. The main queue must have
@@ -54,16 +52,11 @@ public:
     /// Looks for SMB services and prints what there is, from now on at every change.
     void ibTestNWBrowser(Control* sender);
 
-    /// The last message; empty while a new one is awaited.
-    const QString& fNetworkStatusString() const { return fStatus; }
-
 private:
-    void setNetworkStatus(const QString& status);
     void gather(const QStringList& endpoints);
     void printInside(QStringView operation, QStringView detail = u".......") const;
 
     const NetworkPathMonitoringParts fParts;
-    QString fStatus;
     std::optional<QStringList> fFoundItemsFromBonjour;
     Subscription fObservation;
     std::unique_ptr<NetworkChecker> fKelvoSSID; ///< ends before the observation does

@@ -3,6 +3,9 @@
 
 #include <QString>
 
+#include <functional>
+#include <utility>
+
 namespace kelvo {
 
 /// Anything a user can act on. Main thread only.
@@ -23,10 +26,15 @@ public:
 };
 
 /// A field that text is typed into. Main thread only.
-class TextField : public Control {
+class TextField final : public Control {
 public:
-    /// Gives the keyboard focus up, if it has it.
-    virtual void resignFirstResponder() = 0;
+    /// `resign` gives the keyboard focus up, if the field has it; nothing for one that is gone.
+    explicit TextField(std::function<void()> resign) : fResign(std::move(resign)) {}
+
+    void resignFirstResponder() { fResign(); }
+
+private:
+    const std::function<void()> fResign;
 };
 
 } // namespace kelvo

@@ -4,7 +4,6 @@
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "ports/file_manager.h"
-#include "ports/general_alerts.h"
 #include "ports/user_defaults.h"
 #include "remote/share_commands.h"
 #include "settings/preference_keys.h"
@@ -67,7 +66,7 @@ void ConnectionCheck::ibTestShellCommand() {
 
 void ConnectionCheck::ibTestShellCommand222() {
     fParts.console.log(insideLine(cTypeName, u"ibTestShellCommand222(_:)"));
-    setBusyFlag3(true);
+    fParts.showBusy(true);
     const auto command =
         filledIn(QStringLiteral("ssh -i %@4 -o BatchMode=yes -o ConnectTimeout=5 %@1@%@2 echo "
                                 "%@sshgoodresponsestring 2>&1"));
@@ -85,7 +84,7 @@ void ConnectionCheck::ibTestShellCommand222() {
 
 void ConnectionCheck::finish(const std::optional<QString>& output) {
     if (!output) {
-        setBusyFlag3(false);
+        fParts.showBusy(false);
         return;
     }
     fParts.console.print(u"got back:\n" + trimmedText(*output));
@@ -98,22 +97,16 @@ void ConnectionCheck::finish(const std::optional<QString>& output) {
     const QString fault = connectionFault(*output);
     if (!fault.isEmpty())
         fParts.console.print(fault);
-    fParts.alerts.showAlertWithClosure(
-        fault.isEmpty() ? QStringLiteral("SUCCESS...") : QStringLiteral("Oh OH..."),
-        fault.isEmpty() ? QStringLiteral("remote seem to be alive?...") : fault, std::nullopt,
-        [&console = fParts.console](ModalResponse response) {
-            console.print(u"response = " + QString::number(response));
-        });
-    setBusyFlag3(false);
+    fParts.showAlert(fault.isEmpty() ? QStringLiteral("SUCCESS...") : QStringLiteral("Oh OH..."),
+                     fault.isEmpty() ? QStringLiteral("remote seem to be alive?...") : fault,
+                     [&console = fParts.console](ModalResponse response) {
+                         console.print(u"response = " + QString::number(response));
+                     });
+    fParts.showBusy(false);
 }
 
 std::optional<QString> ConnectionCheck::filledIn(const QString& text) const {
     return fillInSshParams(text, fParts.defaults, fParts.files.homeDirectory(), fParts.console);
-}
-
-void ConnectionCheck::setBusyFlag3(bool busy) {
-    fBusy = busy;
-    fParts.showBusy(busy);
 }
 
 // -- the share

@@ -1,6 +1,8 @@
 // ConnectionCheck: asks the remote Mac for an answer over ssh and shows the outcome.
 #pragma once
 
+#include "support/alert.h"
+
 #include <QString>
 
 #include <functional>
@@ -12,7 +14,6 @@ class BackgroundQueue;
 class Console;
 class DispatchQueue;
 class FileManager;
-class GeneralAlerts;
 class ShareCommands;
 class CommandRunner;
 class UserDefaults;
@@ -34,9 +35,12 @@ struct ConnectionCheckParts {
     DispatchQueue& mainQueue;
     BackgroundQueue& bgQueue;
     CommandRunner& shell;
-    GeneralAlerts& alerts;
     const ShareCommands& commands;
-    /// Receives every value of fBusyFlag3, on the main thread.
+    /// Shows an alert with a title, a text and one button a little later; returns at once.
+    std::function<void(const QString&, const QString&, std::function<void(ModalResponse)>)>
+        showAlert;
+    /// Receives true when a test begins and false as soon as the first of several has ended, on the
+    /// main thread.
     std::function<void(bool)> showBusy;
 };
 
@@ -55,16 +59,11 @@ public:
     /// Opens the share and writes down what is mounted 0.5 s later. Blocks while commands run.
     void ibTestShellCommand111();
 
-    /// Whether a test is running; false as soon as the first of several has ended.
-    bool fBusyFlag3() const { return fBusy; }
-
 private:
-    void setBusyFlag3(bool busy);
     void finish(const std::optional<QString>& output);
     std::optional<QString> filledIn(const QString& text) const;
 
     const ConnectionCheckParts fParts;
-    bool fBusy = false;
 };
 
 } // namespace kelvo

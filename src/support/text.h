@@ -10,6 +10,9 @@ namespace kelvo {
 /// The name under which the main view controller signs its diagnostic lines.
 inline constexpr QStringView cViewControllerTypeName = u"Kelvo_Mirror.ViewController";
 
+/// The identifier of the list of services in the interface.
+inline constexpr QStringView cBonjourVCstoryboardID = u"BonjourVCstoryboardID";
+
 /// `text` without the Unicode white space and line ends around it.
 QString trimmedText(QStringView text);
 

@@ -1,7 +1,13 @@
 // Alerts: every question and warning that the program puts to its user.
 #pragma once
 
-#include "ports/general_alerts.h"
+#include "support/alert.h"
+
+#include <QList>
+#include <QMap>
+
+#include <functional>
+#include <optional>
 
 namespace kelvo {
 
@@ -9,15 +15,22 @@ class AlertPresenter;
 class Console;
 class DispatchQueue;
 
+/// A button of the alert; only the entry "title" is read.
+using ButtonDescription = QMap<QString, QString>;
+using AlertCompletion = std::function<void(ModalResponse)>;
+
 /// A sheet that is due while there is no main window stops the program.
-class Alerts final : public GeneralAlerts {
+class Alerts {
 public:
     Alerts(DispatchQueue& mainQueue, Console& console, AlertPresenter& presenter)
         : fMainQueue(mainQueue), fConsole(console), fPresenter(presenter) {}
 
+    /// Shows a critical sheet 0.1 s from now; a description without "title" adds no button, no
+    /// button at all leaves the default one. `completion` gets the answer on the main thread.
+    /// Any thread; returns at once.
     void showAlertWithClosure(const QString& message, const std::optional<QString>& text,
                               const std::optional<QList<ButtonDescription>>& buttons,
-                              AlertCompletion completion) override;
+                              AlertCompletion completion);
 
     /// Asks how to reveal a folder; true for "Open in Finder" only. Main thread; blocks.
     bool showChoices(const QString& message, const QString& text);

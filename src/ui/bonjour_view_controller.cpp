@@ -2,13 +2,12 @@
 
 #include "discovery/record_texts.h"
 #include "discovery/service_filter.h"
-#include "ports/array_controller.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "ports/dnssd_browser.h"
-#include "ports/sheet.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "support/array_controller.h"
 #include "support/fatal.h"
 #include "support/text.h"
 
@@ -30,11 +29,6 @@ const DNSSD_Service& entryAt(const DNSSD_Services& records, qsizetype row) {
     return records.at(row);
 }
 
-QString numberOrNil(const QList<qsizetype>& indexes) {
-    return indexes.isEmpty() ? QStringLiteral("nil")
-                             : QString(u"Optional(" + QString::number(indexes.constFirst()) + u')');
-}
-
 QString stringEntry(const QVariantMap& dictionary, const QString& key) {
     return plainText(dictionary.value(key).toString());
 }
@@ -51,11 +45,7 @@ BonjourViewController::BonjourViewController(BonjourViewControllerParts parts)
 
 void BonjourViewController::viewDidLoad() {
     printInside(u"viewDidLoad()");
-    tableView().setDelegate(weak_from_this());
-    tableView().setDoubleAction([weak = weak_from_this()] {
-        if (const auto self = weak.lock())
-            self->handleDoubleClick();
-    });
+    requireTable();
     after(cFirstScanDelay, &BonjourViewController::ibSearchBonjour);
 }
 
@@ -79,7 +69,7 @@ void BonjourViewController::ibSearchBonjour() {
 void BonjourViewController::ibShowBonjourListInfo() {
     constexpr QStringView operation = u"ibShowBonjourListInfo(_:)";
     print(u"self.fFoundServicesArray[" + countText(fFoundServicesArray) + u"] item");
-    print(u"self.fTableView.selectedRow =>>>    " + QString::number(tableView().selectedRow()));
+    print(u"self.fTableView.selectedRow =>>>    " + QString::number(selectedRow()));
     for (int time = 0; time < 2; ++time)
         printInside(operation, QString(u".......self.fArrayController.selectedObjects = " +
                                        selectedObjectsText()));
@@ -141,7 +131,7 @@ void BonjourViewController::updateFilteredArray() {
 
 void BonjourViewController::ibSelectItem() {
     constexpr QStringView operation = u"ibSelectItem(_:)";
-    const qsizetype row = tableView().selectedRow();
+    const qsizetype row = selectedRow();
     printInside(operation);
     printInside(operation, QString(u".......self.fArrayController.selectionIndex = [" +
                                    QString::number(arrayController().selectionIndex()) + u']'));
@@ -151,17 +141,17 @@ void BonjourViewController::ibSelectItem() {
     printInside(operation,
                 QString(u".......          self.fTableView.selectedRow = " + QString::number(row)));
     if (row < 0) {
-        fParts.sheet->beep();
+        fParts.beep();
         return;
     }
-    if (const auto records = arrayController().arrangedObjects()) {
+    if (const auto records = arrayController().content()) {
         const DNSSD_Service& record = entryAt(*records, row);
         printInside(operation, QString(u".......selected obj = " + recordText(record)));
         storeChoice(record);
     }
     for (int time = 0; time < 2; ++time)
         print(cEmptyLines.toString());
-    fParts.sheet->dismiss();
+    fParts.dismiss();
 }
 
 void BonjourViewController::storeChoice(const DNSSD_Service& record) {
@@ -186,26 +176,28 @@ void BonjourViewController::handleDoubleClick() {
 
 // -- the table's questions
 
-qsizetype BonjourViewController::numberOfRows(TableView&) {
+qsizetype BonjourViewController::numberOfRows() {
     printInside(u"numberOfRows(in:)");
     return fFoundServicesArray ? fFoundServicesArray->size() : 0;
 }
 
-void BonjourViewController::tableViewDidClick(TableView&, const QString& tableColumn) {
+void BonjourViewController::tableViewDidClick(const QString& tableColumn) {
     printInside(u"tableView(_:didClick:)", QString(u".......tableColumn = " + tableColumn));
 }
 
-void BonjourViewController::tableViewSelectionDidChange(const TableViewNotification& notification) {
+void BonjourViewController::tableViewSelectionDidChange(const QString& notification,
+                                                        std::optional<qsizetype> selectedRow) {
     constexpr QStringView operation = u"tableViewSelectionDidChange(_:)";
-    printInside(operation, QString(u".......notification = " + notification.name));
-    const TableView* table = notification.object;
-    if (!table)
+    printInside(operation, QString(u".......notification = " + notification));
+    if (!selectedRow)
         return;
-    const qsizetype row = table->selectedRow();
+    const qsizetype row = *selectedRow;
     printInside(operation, QString(u".......obj.selectedRow = " + QString::number(row)));
-    printInside(operation, QString(u".......obj.selectedRowIndexes.first = " +
-                                   numberOrNil(table->selectedRowIndexes())));
-    const auto records = arrayController().arrangedObjects();
+    printInside(operation,
+                QString(u".......obj.selectedRowIndexes.first = " +
+                        (row < 0 ? QStringLiteral("nil")
+                                 : QString(u"Optional(" + QString::number(row) + u')'))));
+    const auto records = arrayController().content();
     if (!records)
         return;
     if (row >= 0)
@@ -217,7 +209,6 @@ void BonjourViewController::tableViewSelectionDidChange(const TableViewNotificat
 // -- flags that the sheet shows
 
 void BonjourViewController::setScanningBonjour(bool scanning) {
-    fScanningBonjour = scanning;
     printInside(u"fScanningBonjour");
     if (scanning)
         print(QStringLiteral("NOW SCANNING"));
@@ -229,7 +220,6 @@ void BonjourViewController::setScanningBonjour(bool scanning) {
 }
 
 void BonjourViewController::setDidSelectRow(bool selected) {
-    fDidSelectRow = selected;
     printInside(u"fDidSelectRow");
     fParts.defaults.setObject(prefSelectedValidRow, selected);
 }
@@ -242,14 +232,18 @@ ArrayController& BonjourViewController::arrayController() const {
     return *fParts.fArrayController;
 }
 
-TableView& BonjourViewController::tableView() const {
-    if (!fParts.fTableView)
+void BonjourViewController::requireTable() const {
+    if (!fParts.selectedRow)
         stopProgram("The list of services has no table.");
-    return *fParts.fTableView;
+}
+
+qsizetype BonjourViewController::selectedRow() const {
+    requireTable();
+    return fParts.selectedRow();
 }
 
 QString BonjourViewController::selectedObjectsText() const {
-    const auto records = arrayController().arrangedObjects();
+    const auto records = arrayController().content();
     const qsizetype index = arrayController().selectionIndex();
     return records && index >= 0 && index < records->size()
                ? listText(DNSSD_Services{records->at(index)})

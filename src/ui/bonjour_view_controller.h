@@ -1,12 +1,12 @@
 // BonjourViewController: the sheet in which the remote computer is chosen, without any widget.
 #pragma once
 
-#include "ports/table_view.h"
 #include "support/dnssd_service.h"
 
 #include <QMap>
 #include <QSet>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -16,29 +16,29 @@ class ArrayController;
 class Console;
 class DispatchQueue;
 class DnssdBrowser;
-class Sheet;
 class UserDefaults;
 
 /// What the controller works with. The references outlive everything that waits on the main queue;
-/// the rest lives as long as the controller. A missing outlet stops the program once it is needed.
+/// the rest, what lies in the sheet, outlives the sheet: then no row is selected and nothing is
+/// done. A missing array controller or table stops the program once it is needed.
 struct BonjourViewControllerParts {
     UserDefaults& defaults;
     DispatchQueue& mainQueue;
     Console& console;
     DnssdBrowser& browser;
-    std::shared_ptr<Sheet> sheet;
     std::shared_ptr<ArrayController> fArrayController;
-    std::shared_ptr<TableView> fTableView;
+    std::function<qsizetype()> selectedRow; ///< of the table, counted from 0, or -1
+    std::function<void()> dismiss;          ///< closes the sheet; one that is closed is no error
+    std::function<void()> beep;
 };
 
 /// Main thread only. Made afresh for each sheet. Work on the main queue keeps the controller alive:
 /// a scan runs to its end even when the sheet is closed before.
-class BonjourViewController final : public TableViewDelegate,
-                                    public std::enable_shared_from_this<BonjourViewController> {
+class BonjourViewController final : public std::enable_shared_from_this<BonjourViewController> {
 public:
     static std::shared_ptr<BonjourViewController> make(BonjourViewControllerParts parts);
 
-    /// Takes charge of the table and starts the first scan 0.1 s later. Called once.
+    /// Starts the first scan 0.1 s later. Called once, when the sheet is shown.
     void viewDidLoad();
 
     /// Starts a scan: the list is ready after 1.5 s and final after 2.0 s. Computers that are
@@ -58,20 +58,26 @@ public:
     /// when none is selected. A selected row that the list does not have stops the program.
     void ibSelectItem();
 
+    /// A double click, or Return, on a row.
     void handleDoubleClick();
 
-    bool scanningBonjour() const { return fScanningBonjour; }
-    bool didSelectRow() const { return fDidSelectRow; }
+    /// How many rows the table has; asked when the rows have changed.
+    qsizetype numberOfRows();
 
-    qsizetype numberOfRows(TableView& tableView) override;
-    void tableViewDidClick(TableView& tableView, const QString& tableColumn) override;
-    void tableViewSelectionDidChange(const TableViewNotification& notification) override;
+    /// The header of `tableColumn` was clicked.
+    void tableViewDidClick(const QString& tableColumn);
+
+    /// Another row, or none, is selected now, says `notification`. `selectedRow` is the sender's;
+    /// nothing when the sender is no table.
+    void tableViewSelectionDidChange(const QString& notification,
+                                     std::optional<qsizetype> selectedRow);
 
 private:
     explicit BonjourViewController(BonjourViewControllerParts parts);
 
     ArrayController& arrayController() const;
-    TableView& tableView() const;
+    void requireTable() const;
+    qsizetype selectedRow() const;
     void setScanningBonjour(bool scanning);
     void setDidSelectRow(bool selected);
     void storeChoice(const DNSSD_Service& record);
@@ -87,8 +93,6 @@ private:
     QSet<QString> fUniqueIP4Address;
     QMap<QString, QVariantMap> fFilteredTable; ///< the last dictionary seen, by address
     DNSSD_Services fFilteredFoundServicesArray;
-    bool fDidSelectRow = false;
-    bool fScanningBonjour = false;
 };
 
 } // namespace kelvo

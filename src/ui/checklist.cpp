@@ -28,33 +28,33 @@ QString whyNotAccepted(std::optional<PassCause> lastCause) {
 
 std::vector<ChecklistLine> checklist(const ChecklistFacts& facts) {
     std::vector<ChecklistLine> lines;
-    const auto need = [&lines](bool isThere, const QString& words, Mend mend) {
+    const auto need = [&lines](bool isThere, const QString& words, Remedy remedy) {
         if (!isThere)
-            lines.push_back({words, mend});
+            lines.push_back({words, remedy});
     };
     if (facts.remote) {
-        need(facts.hostChosen, QStringLiteral("No Mac is chosen yet."), Mend::ShowRemoteTab);
+        need(facts.hostChosen, QStringLiteral("No Mac is chosen yet."), Remedy::ShowRemoteTab);
         need(facts.userSet, QStringLiteral("The user name on the Mac is missing."),
-             Mend::ShowRemoteTab);
+             Remedy::ShowRemoteTab);
         need(facts.key != KeyState::NoKey,
-             QStringLiteral("The program has no ssh key of its own yet."), Mend::ShowRemoteTab);
+             QStringLiteral("The program has no ssh key of its own yet."), Remedy::ShowRemoteTab);
         need(facts.key != KeyState::NotAccepted, whyNotAccepted(facts.lastCause),
-             Mend::ShowRemoteTab);
+             Remedy::ShowRemoteTab);
         need(facts.sshThere, QStringLiteral("ssh is not installed on this machine."),
-             Mend::CopyInstallCommand);
+             Remedy::CopyInstallCommand);
     } else {
         need(facts.sourceChosen, QStringLiteral("No source folder is chosen yet."),
-             Mend::ChooseSource);
+             Remedy::ChooseSource);
     }
     if (!facts.destinationChosen)
         lines.push_back(
-            {QStringLiteral("No destination folder is chosen yet."), Mend::ChooseDestination});
+            {QStringLiteral("No destination folder is chosen yet."), Remedy::ChooseDestination});
     else
         need(facts.destinationWritable,
              QStringLiteral("The destination folder is missing or cannot be written."),
-             Mend::ChooseDestination);
+             Remedy::ChooseDestination);
     need(facts.rsyncThere, QStringLiteral("rsync is not installed on this machine."),
-         Mend::CopyInstallCommand);
+         Remedy::CopyInstallCommand);
     return lines;
 }
 

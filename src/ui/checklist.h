@@ -20,12 +20,12 @@ class DispatchQueue;
 class PassStore;
 class UserDefaults;
 
-/// What mends a line.
-enum class Mend { ShowRemoteTab, ChooseSource, ChooseDestination, CopyInstallCommand };
+/// What a person can do about a line.
+enum class Remedy { ShowRemoteTab, ChooseSource, ChooseDestination, CopyInstallCommand };
 
 struct ChecklistLine {
     QString text;
-    Mend mend;
+    Remedy remedy;
 };
 
 /// What is known about the things that a pass needs.

@@ -1,7 +1,5 @@
-// The controllers that the interface is made of, as the start-up knows them.
+// The controllers that the interface is made of, as the start-up and the tray menu know them.
 #pragma once
-
-#include "ui/status_menu_targets.h"
 
 #include <QString>
 
@@ -17,21 +15,16 @@ public:
 };
 
 /// The controller of the main view.
-class MainViewController : public InterfaceController, public StatusMenuMainView {
+class MainViewController : public InterfaceController {
 public:
     /// The view has been loaded: sets everything going. Called once, by the window controller.
     virtual void viewDidLoad() = 0;
-};
 
-/// The controller of the main window; showWindow brings the window to the front.
-class WindowController : public InterfaceController, public StatusMenuWindow {
-public:
-    /// Nothing before one was set.
-    virtual MainViewController* contentViewController() const = 0;
+    /// Does what a click on the start button does.
+    virtual void clickStartButton() = 0;
 
-    /// Puts the controller's view into the window and loads it: calls viewDidLoad before it
-    /// returns. The controller outlives this one, or the window is gone before it.
-    virtual void setContentViewController(MainViewController& controller) = 0;
+    /// Ends the program in order and has it started again.
+    virtual void quitAndRelaunch() = 0;
 };
 
 } // namespace kelvo

@@ -1,6 +1,8 @@
 // Outlets: what lies in the front, with a window or without, for the main view's controller.
 #pragma once
 
+#include <QString>
+
 #include <functional>
 #include <memory>
 
@@ -13,9 +15,7 @@ class Button;
 class Control;
 class MainView;
 class OpenPanel;
-class Pasteboard;
 class PathControl;
-class SheetOpener;
 class StatusField;
 class Terminal;
 
@@ -24,11 +24,13 @@ struct Outlets {
     Application& application;
     MainView& view;
     AlertPresenter& alertPresenter;
-    SheetOpener& sheets;
+    /// Makes the sheet of this identifier afresh and shows it; returns at once, the sheet closes
+    /// itself. False when there is no such sheet.
+    std::function<bool(QStringView)> presentSheet;
     OpenPanel& openPanel;
     Terminal& terminal;
-    Pasteboard& pasteboard;
-    ArrayController& fArrayController; ///< what the main view's own search found
+    std::function<void(const QString&)> copyText; ///< to the clipboard
+    ArrayController& fArrayController;            ///< what the main view's own search found
     Button& ibStartButton;
     const Control* ibRevealButton1 = nullptr;
     const Control* ibRevealButton2 = nullptr;

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -16,8 +17,11 @@ class UserDefaults;
 
 class StatusLine {
 public:
-    /// A field that is gone when a message is due drops the message.
-    StatusLine(UserDefaults& defaults, DispatchQueue& mainQueue, std::weak_ptr<StatusField> field);
+    /// A field that is gone when a message is due drops the message. `trouble`, if any, is told
+    /// after the field has shown a message: true for red, false for black and for clearing. It
+    /// outlives what waits on the main queue.
+    StatusLine(UserDefaults& defaults, DispatchQueue& mainQueue, std::weak_ptr<StatusField> field,
+               std::function<void(bool)> trouble = {});
 
     /// Shows `mesg` in `color`, centred when asked for, 0.1 s from now; no `mesg` clears the line.
     /// The saved status text is wiped with it. Any thread; returns at once.
@@ -27,6 +31,7 @@ private:
     UserDefaults& fDefaults;
     DispatchQueue& fMainQueue;
     std::weak_ptr<StatusField> ibStatusTextField;
+    std::function<void(bool)> fTrouble;
 };
 
 } // namespace kelvo

@@ -2,7 +2,6 @@
 
 #include "ports/console.h"
 #include "support/text.h"
-#include "ui/status_menu_presence.h"
 
 namespace kelvo {
 namespace {
@@ -15,11 +14,11 @@ KelvoStatusMenuHandler::~KelvoStatusMenuHandler() {
     fPresence.remove(fTargets);
 }
 
-void KelvoStatusMenuHandler::setWindowController(StatusMenuWindow* controller) {
+void KelvoStatusMenuHandler::setWindowController(MainWindowController* controller) {
     fTargets.fWindowController = controller;
 }
 
-void KelvoStatusMenuHandler::setMainVC(StatusMenuMainView* mainVC) {
+void KelvoStatusMenuHandler::setMainVC(MainViewController* mainVC) {
     fTargets.fMainVC = mainVC;
 }
 

@@ -3,7 +3,7 @@
 #include "ports/dispatch_queue.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
-#include "ui/status_menu_targets.h"
+#include "ui/main_window_controller.h"
 
 #include <algorithm>
 #include <utility>

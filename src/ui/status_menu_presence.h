@@ -10,8 +10,15 @@
 namespace kelvo {
 
 class DispatchQueue;
+class MainViewController;
+class MainWindowController;
 class UserDefaults;
-struct StatusMenuTargets;
+
+/// What the menu acts on, as one handler was given it; both may be missing.
+struct StatusMenuTargets {
+    MainWindowController* fWindowController = nullptr;
+    MainViewController* fMainVC = nullptr;
+};
 
 /// Trouble goes before a pass in progress, and that before the switch: switching off during a pass
 /// leaves the pass running to its end.

@@ -1,7 +1,6 @@
 #include "ui/terminal_notice.h"
 
-#include "ports/general_alerts.h"
-#include "ports/pasteboard.h"
+#include "ui/alerts.h"
 
 namespace kelvo {
 
@@ -12,9 +11,9 @@ void TerminalNotice::show(const QString& command) {
     fAlerts.showAlertWithClosure(
         QStringLiteral("No Terminal Found"),
         QString(u"Please run this command in a terminal and answer what it asks:\n\n" + command),
-        buttons, [&pasteboard = fPasteboard, command](ModalResponse response) {
+        buttons, [copyText = fCopyText, command](ModalResponse response) {
             if (response == cAlertFirstButtonReturn)
-                pasteboard.setString(command);
+                copyText(command);
         });
 }
 

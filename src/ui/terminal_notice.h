@@ -3,23 +3,25 @@
 
 #include <QString>
 
+#include <functional>
+#include <utility>
+
 namespace kelvo {
 
-class GeneralAlerts;
-class Pasteboard;
+class Alerts;
 
 class TerminalNotice {
 public:
-    /// Both outlive the notice and the alerts it shows.
-    TerminalNotice(GeneralAlerts& alerts, Pasteboard& pasteboard)
-        : fAlerts(alerts), fPasteboard(pasteboard) {}
+    /// `alerts` outlives the notice; `copyText` puts a text on the clipboard.
+    TerminalNotice(Alerts& alerts, std::function<void(const QString&)> copyText)
+        : fAlerts(alerts), fCopyText(std::move(copyText)) {}
 
     /// Shows `command` in an alert that can copy it. Main thread; returns at once.
     void show(const QString& command);
 
 private:
-    GeneralAlerts& fAlerts;
-    Pasteboard& fPasteboard;
+    Alerts& fAlerts;
+    const std::function<void(const QString&)> fCopyText;
 };
 
 } // namespace kelvo

@@ -5,12 +5,11 @@
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "ports/main_view.h"
-#include "ports/notification_center.h"
-#include "ports/notification_text.h"
-#include "ports/relaunch_guard.h"
 #include "settings/preference_keys.h"
+#include "support/notification_center.h"
 #include "support/property_value.h"
 #include "support/text.h"
+#include "ui/main_window_controller.h"
 
 #include <utility>
 
@@ -39,7 +38,8 @@ QString objectText(const void* object, QStringView type) {
 
 ViewController::ViewController(const ViewControllerParts& parts)
     : fParts(parts),
-      fStatusLine(parts.engine.defaults, parts.engine.mainQueue, parts.outlets.ibStatusTextField),
+      fStatusLine(parts.engine.defaults, parts.engine.mainQueue, parts.outlets.ibStatusTextField,
+                  [&menu = parts.statusMenu](bool trouble) { menu.setTrouble(trouble); }),
       fAlerts(parts.engine.mainQueue, parts.engine.console, parts.outlets.alertPresenter),
       fEngine(parts.engine,
               {.updateStatusMessage =
@@ -88,10 +88,10 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .mainQueue = parts.engine.mainQueue,
           .console = parts.engine.console,
           .browser = parts.dnssdBrowser,
-          .sheets = parts.outlets.sheets,
+          .presentSheet = parts.outlets.presentSheet,
           .fArrayController = parts.outlets.fArrayController,
       }),
-      fTerminalNotice(fAlerts, parts.outlets.pasteboard),
+      fTerminalNotice(fAlerts, parts.outlets.copyText),
       fCommandFiles({
           .console = parts.engine.console,
           .files = parts.engine.files,
@@ -107,8 +107,11 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .mainQueue = parts.engine.mainQueue,
           .bgQueue = parts.engine.bgQueue,
           .shell = parts.engine.commands,
-          .alerts = fAlerts,
           .commands = parts.shareCommands,
+          .showAlert =
+              [this](const QString& message, const QString& text, AlertCompletion completion) {
+                  fAlerts.showAlertWithClosure(message, text, std::nullopt, std::move(completion));
+              },
           .showBusy = [&view = parts.outlets.view](bool testing) { view.showTesting(testing); },
       }),
       fProvisioning({
@@ -137,8 +140,7 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .beep = [&view = parts.outlets.view] { view.beep(); },
           .noTerminal = [this](const QString& command) { fTerminalNotice.show(command); },
       }),
-      myStatusMenuHandler(parts.statusMenu, parts.engine.console),
-      fUsesSSH(parts.engine.defaults.boolForKey(prefRsyncWithSSH)) {}
+      myStatusMenuHandler(parts.statusMenu, parts.engine.console) {}
 
 void ViewController::viewDidLoad() {
     UserDefaults& defaults = fParts.engine.defaults;
@@ -173,7 +175,7 @@ void ViewController::viewDidLoad() {
              {prefRemoteUsername, prefRemoteBonjourName, prefRemotePath, prefRsyncWithSSH})
             observe(key);
         fEngine.samplePath.updateSampleString();
-        setUsesSSH(fParts.engine.defaults.boolForKey(prefRsyncWithSSH));
+        fStartButtonTitle.showKindOfPass(fParts.engine.defaults.boolForKey(prefRsyncWithSSH));
     });
     mainQueue.asyncAfter(0.6, [this] { readVersion(); });
     mainQueue.asyncAfter(1.0, [this] { fNetwork.setupNetworkChecker(); });
@@ -190,7 +192,7 @@ QString ViewController::description() const {
 }
 
 void ViewController::handWindowControllerOver() {
-    StatusMenuWindow* controller = fParts.windowController();
+    MainWindowController* controller = fParts.windowController();
     if (!controller) {
         fParts.engine.mainQueue.asyncAfter(cWindowRetryDelay,
                                            [this] { handWindowControllerOver(); });
@@ -253,11 +255,6 @@ std::function<void()> ViewController::reactionTo(const DefaultsChange& change) {
     return [this] { ibUpdateTabViewItem(); };
 }
 
-void ViewController::setUsesSSH(bool usesSSH) {
-    fUsesSSH = usesSSH;
-    fStartButtonTitle.showKindOfPass(usesSSH);
-}
-
 // -- tabs and focus
 
 void ViewController::tabViewWillSelect(const std::optional<TabViewItem>& tabViewItem) {
@@ -274,13 +271,13 @@ void ViewController::tabViewWillSelect(const std::optional<TabViewItem>& tabView
         ibUpdateTabViewItem();
 }
 
-void ViewController::controlTextDidEndEditing(const TextEditingNotification& obj) {
+void ViewController::controlTextDidEndEditing(const std::shared_ptr<Control>& object) {
     constexpr QStringView operation = u"controlTextDidEndEditing(_:)";
-    const auto field = std::dynamic_pointer_cast<TextField>(obj.object);
+    const auto field = std::dynamic_pointer_cast<TextField>(object);
     printInside(operation,
                 QString(u".......obj.object   = " +
-                        objectText(obj.object.get(), field ? u"NSTextField" : u"NSControl")));
-    printInside(operation, QString(u".......obj.userInfo = " + userInfoText(obj.userInfo)));
+                        objectText(object.get(), field ? u"NSTextField" : u"NSControl")));
+    printInside(operation, u".......obj.userInfo = nil");
     if (field)
         fParts.engine.mainQueue.asyncAfter(cReactionDelay,
                                            [field] { field->resignFirstResponder(); });
@@ -304,7 +301,7 @@ void ViewController::handleQuitAndRelaunchNotification(const Notification& notif
 
 void ViewController::ibQuitAndRelaunch(Control*) {
     printInside(u"ibQuitAndRelaunch(_:)");
-    fParts.watchdog.quitAndRelaunch();
+    fParts.quitAndRelaunch();
 }
 
 void ViewController::printInside(QStringView operation, QStringView detail) const {

@@ -31,10 +31,10 @@ namespace kelvo {
 class Bundle;
 class DnssdBrowser;
 class FileChanges;
+class MainWindowController;
 class NetworkBrowser;
 class NetworkChecker;
 class NotificationCenter;
-class RelaunchGuard;
 class ShareCommands;
 class StatusMenuPresence;
 class TemporaryFolder;
@@ -46,7 +46,7 @@ struct ViewControllerParts {
     Outlets outlets;
     NotificationCenter& notificationCenter;
     const Bundle& bundle;
-    RelaunchGuard& watchdog;
+    std::function<void()> quitAndRelaunch; ///< ends the program and has it started again
     Workspace& workspace;
     NetworkBrowser& networkBrowser;
     DnssdBrowser& dnssdBrowser;
@@ -56,19 +56,13 @@ struct ViewControllerParts {
     FileChanges& fileChanges;
     const ShareCommands& shareCommands;
     /// The controller of the view's window; nothing as long as there is none.
-    std::function<StatusMenuWindow*()> windowController;
+    std::function<MainWindowController*()> windowController;
 };
 
 /// A tab that is about to be shown.
 struct TabViewItem {
     QString label;
     std::optional<QString> identifier;
-};
-
-/// A person has finished editing the text of `object`.
-struct TextEditingNotification {
-    std::shared_ptr<Control> object;
-    QVariantMap userInfo;
 };
 
 /// Main thread only; settings may change on any thread. Both queues must have ended before the
@@ -111,7 +105,6 @@ public:
     void ibTestShellCommand(Control*) { fConnectionTest.ibTestShellCommand(); }
     void ibTestShellCommand222(Control*) { fConnectionTest.ibTestShellCommand222(); }
     void ibTestShellCommand111(Control*) { fConnectionTest.ibTestShellCommand111(); }
-    bool fBusyFlag3() const { return fConnectionTest.fBusyFlag3(); }
     void ibGenerateSSHKeyStuff(Control*) { fProvisioning.ibGenerateSSHKeyStuff(); }
     void createNewPrivatePublicKeys(Control*) { fProvisioning.createNewPrivatePublicKeys(); }
     void createNewPrivatePublicKeysOLD(Control*) { fProvisioning.createNewPrivatePublicKeysOLD(); }
@@ -129,13 +122,12 @@ public:
     /// Stores the template with its option filled in, for display.
     void ibUpdateTabViewItem() { fCommandExample.ibUpdateTabViewItem(); }
     void tabViewWillSelect(const std::optional<TabViewItem>& tabViewItem);
-    void controlTextDidEndEditing(const TextEditingNotification& obj);
+    /// A person has finished editing the text of `object`.
+    void controlTextDidEndEditing(const std::shared_ptr<Control>& object);
 
     // What the tray menu asks for.
     void clickStartButton() override { fParts.outlets.ibStartButton.performClick(); }
     void quitAndRelaunch() override { ibQuitAndRelaunch(nullptr); }
-
-    Alerts& alerts() { return fAlerts; }
 
 private:
     void observe(QStringView key);
@@ -145,7 +137,6 @@ private:
     void readVersion();
     void scriptEnded(TerminalOutcome outcome, const QString& command);
     void handleQuitAndRelaunchNotification(const Notification& notification);
-    void setUsesSSH(bool usesSSH);
     void printInside(QStringView operation, QStringView detail = u".......") const;
 
     const ViewControllerParts fParts;
@@ -165,7 +156,6 @@ private:
     SshKeyProvisioning fProvisioning;
     SmbShareAccess fShare;
     KelvoStatusMenuHandler myStatusMenuHandler;
-    bool fUsesSSH;
     std::vector<Subscription> fObservations;
 };
 

@@ -2,8 +2,8 @@
 // for each state and each result of a search for SMB services instead.
 #include "adapters/network/avahi_network_browser.h"
 #include "adapters/network/network_information.h"
-#include "adapters/process/local_notification_center.h"
 #include "adapters/process/qt_main_queue.h"
+#include "support/notification_center.h"
 
 #include <QCoreApplication>
 
@@ -32,7 +32,7 @@ int browse() {
 }
 
 int watch() {
-    kelvo::LocalNotificationCenter center;
+    kelvo::NotificationCenter center;
     kelvo::QtMainQueue mainQueue;
     const kelvo::Subscription observation = center.observe(
         kelvo::cNWPathMonitorNotification.toString(), [](const kelvo::Notification& notification) {

@@ -3,7 +3,6 @@
 // Keeps everything in FOLDER: the settings, "resources" with the sentinel, "log" with the lines,
 // and "starts", a record for each start: process id, how many descriptors it came with, working
 // folder, the variable KELVO_TEST_MARK and the arguments. ACTION is what a start by hand does then.
-#include "adapters/process/local_notification_center.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/posix_shell_runner.h"
 #include "adapters/process/qt_main_queue.h"
@@ -12,7 +11,7 @@
 #include "adapters/settings/file_bundle.h"
 #include "adapters/settings/plist_defaults.h"
 #include "app/start/watchdog.h"
-#include "app/start/watchdog_relaunch_guard.h"
+#include "support/notification_center.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -63,7 +62,7 @@ public:
             {fSignals, fBundle, fDefaults, fConsole, fLauncher, fCenter, fMainQueue, fArguments,
              ::getpid(), QDateTime::currentDateTimeUtc, [] { QCoreApplication::quit(); },
              [](int status) { ::_exit(status); }});
-        fGuard.autoRelaunchUnless(4, 30.0, [](unsigned long, double) { return false; });
+        Watchdog::autoRelaunchUnless(4, 30.0, [](unsigned long, double) { return false; });
         fMainQueue.async([this, action] {
             fDefaults.setObject(u"starts", fDefaults.integerForKey(u"starts") + 1);
             if (fArguments.contains(QStringLiteral("clear-record")))
@@ -97,7 +96,7 @@ private:
         else if (action == u"trap")
             __builtin_trap();
         else if (action == u"quit-and-relaunch")
-            setAndDo([this] { fGuard.quitAndRelaunch(); });
+            setAndDo([this] { Watchdog::quitAndRelaunch(); });
         else if (action == u"interrupt")
             setAndDo([] { ::raise(SIGINT); });
         else if (action == u"command")
@@ -124,12 +123,11 @@ private:
     QtMainQueue fMainQueue;
     PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), fMainQueue, fConsole};
     FileBundle fBundle{fFolder + QStringLiteral("/resources")};
-    LocalNotificationCenter fCenter;
+    NotificationCenter fCenter;
     PosixShellRunner fShell{fConsole};
     ThreadPoolQueue fBgQueue;
     SignalPipe fSignals;
     PosixSentinelLauncher fLauncher;
-    WatchdogRelaunchGuard fGuard;
 };
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "adapters/network/network_information.h"
 #include "adapters/process/qt_main_queue.h"
 #include "fakes/fake_network.h"
-#include "fakes/recording_notification_center.h"
+#include "support/notification_center.h"
 #include "support/running_program.h"
 #include "support/wait_in_loop.h"
 
@@ -11,6 +11,9 @@
 #include <QProcess>
 
 #include <gtest/gtest.h>
+
+#include <mutex>
+#include <vector>
 
 namespace kelvo {
 namespace {
@@ -29,6 +32,27 @@ TEST(ReachabilityMessageTest, Table) {
     EXPECT_EQ(reachabilityMessage(true, NetworkReach::NothingBeyond), cLocal);
 }
 
+/// What a checker posts.
+class PostedMessages {
+public:
+    explicit PostedMessages(NotificationCenter& center)
+        : fObservation(center.observe(cNWPathMonitorNotification.toString(),
+                                      [this](const Notification& notification) {
+                                          const std::lock_guard lock(fMutex);
+                                          fPosted.push_back(notification);
+                                      })) {}
+
+    std::vector<Notification> all() const {
+        const std::lock_guard lock(fMutex);
+        return fPosted;
+    }
+
+private:
+    mutable std::mutex fMutex;
+    std::vector<Notification> fPosted;
+    Subscription fObservation;
+};
+
 struct FakeChecker {
     std::unique_ptr<NetworkChecker> make(NotificationCenter& center) {
         return std::make_unique<FakeNetworkChecker>(center, cFull);
@@ -44,7 +68,8 @@ struct RealChecker {
 template <typename Kind>
 class NetworkCheckerContractTest : public ::testing::Test {
 protected:
-    RecordingNotificationCenter center;
+    NotificationCenter center;
+    PostedMessages posted{center};
     Kind kind;
 };
 using Kinds = ::testing::Types<FakeChecker, RealChecker>;
@@ -53,12 +78,12 @@ TYPED_TEST_SUITE(NetworkCheckerContractTest, Kinds);
 TYPED_TEST(NetworkCheckerContractTest, PresentState_IsPostedOnceAfterTheStart) {
     const auto checker = this->kind.make(this->center);
     QCoreApplication::processEvents();
-    EXPECT_TRUE(this->center.posted().empty());
+    EXPECT_TRUE(this->posted.all().empty());
     checker->checknetwork2();
     checker->checknetwork2();
-    ASSERT_TRUE(waitInLoop([this] { return !this->center.posted().empty(); }));
-    EXPECT_FALSE(waitInLoop([this] { return this->center.posted().size() > 1; }, 1));
-    const Notification posted = this->center.posted().front();
+    ASSERT_TRUE(waitInLoop([this] { return !this->posted.all().empty(); }));
+    EXPECT_FALSE(waitInLoop([this] { return this->posted.all().size() > 1; }, 1));
+    const Notification posted = this->posted.all().front();
     EXPECT_EQ(posted.name, u"NWPathMonitorNotification");
     const QVariant message = posted.userInfo.value(QStringLiteral("reachabilitymessage"));
     EXPECT_TRUE((QStringList{cNothing, cLocal, cFull}).contains(message.toString()))
@@ -66,13 +91,14 @@ TYPED_TEST(NetworkCheckerContractTest, PresentState_IsPostedOnceAfterTheStart) {
 }
 
 TEST(KelvoSSIDTest, DestroyedBeforeItsFirstLook_PostsNothing) {
-    RecordingNotificationCenter center;
+    NotificationCenter center;
+    const PostedMessages posted(center);
     QtMainQueue mainQueue;
     {
         KelvoSSID checker(center, mainQueue);
         checker.checknetwork2();
     }
-    EXPECT_FALSE(waitInLoop([&] { return !center.posted().empty(); }, 1));
+    EXPECT_FALSE(waitInLoop([&] { return !posted.all().empty(); }, 1));
 }
 
 /// How often the threads of a process have gone to sleep so far.

@@ -8,7 +8,7 @@
 namespace kelvo {
 namespace {
 
-class LocalSystemInformationTest : public ::testing::Test {
+class SystemInformationTest : public ::testing::Test {
 protected:
     QString logged(const QString& what) const {
         return console.logged().filter(QString(what + u": ")).value(0).mid(what.size() + 2);
@@ -18,11 +18,11 @@ protected:
     VirtualMainQueue mainQueue;
     ManualBackgroundQueue bgQueue;
     RecordingConsole console;
-    LocalSystemInformation information{QStringLiteral("kelvo-mirror 9.9"), shell, mainQueue,
-                                       bgQueue, console};
+    SystemInformation information{QStringLiteral("kelvo-mirror 9.9"), shell, mainQueue, bgQueue,
+                                  console};
 };
 
-TEST_F(LocalSystemInformationTest, Nothing_IsAskedOnTheCallersThread) {
+TEST_F(SystemInformationTest, Nothing_IsAskedOnTheCallersThread) {
     information.logCurrentSystemInfo();
     EXPECT_TRUE(shell.commands().isEmpty());
     EXPECT_TRUE(console.lines().empty());
@@ -32,7 +32,7 @@ TEST_F(LocalSystemInformationTest, Nothing_IsAskedOnTheCallersThread) {
     EXPECT_EQ(bgQueue.size(), 1U);
 }
 
-TEST_F(LocalSystemInformationTest, Lines_TellProgramSystemDesktopAndTools) {
+TEST_F(SystemInformationTest, Lines_TellProgramSystemDesktopAndTools) {
     qputenv("XDG_CURRENT_DESKTOP", "GNOME\x1b");
     qputenv("XDG_SESSION_TYPE", "wayland");
     shell.answerTo(QStringLiteral("rsync"),
@@ -53,7 +53,7 @@ TEST_F(LocalSystemInformationTest, Lines_TellProgramSystemDesktopAndTools) {
     EXPECT_TRUE(console.printed().isEmpty());
 }
 
-TEST_F(LocalSystemInformationTest, MissingTools_AreSaidToBeMissing) {
+TEST_F(SystemInformationTest, MissingTools_AreSaidToBeMissing) {
     qunsetenv("XDG_CURRENT_DESKTOP");
     qunsetenv("XDG_SESSION_TYPE");
     shell.answerTo(QStringLiteral("rsync"), QStringLiteral("sh: 1: /usr/bin/rsync: not found"));

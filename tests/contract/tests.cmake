@@ -24,7 +24,6 @@ kelvo_tests(contract
     contract/login_item_contract_test.cpp
     contract/mac_volume_search_test.cpp
     contract/network_information_test.cpp
-    contract/notification_center_contract_test.cpp
     contract/pass_store_contract_test.cpp
     contract/plist_codec_test.cpp
     contract/plist_defaults_faults_test.cpp

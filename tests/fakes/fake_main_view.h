@@ -54,10 +54,4 @@ public:
     std::vector<std::string> requests; ///< every request so far
 };
 
-class FakeTextField final : public TextField {
-public:
-    void resignFirstResponder() override { ++resigned; }
-    int resigned = 0;
-};
-
 } // namespace kelvo

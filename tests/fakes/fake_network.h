@@ -3,7 +3,7 @@
 
 #include "ports/network_browser.h"
 #include "ports/network_checker.h"
-#include "ports/notification_center.h"
+#include "support/notification_center.h"
 
 #include <functional>
 #include <utility>

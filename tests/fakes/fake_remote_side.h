@@ -1,10 +1,9 @@
-// FakeTerminal, FakePasteboard, FakeFileChanges and FakeTemporaryFolder: what setting up the remote
-// side works with, as tests look at it and answer for it.
+// FakeTerminal, FakeFileChanges and FakeTemporaryFolder: what setting up the remote side works
+// with, as tests look at it and answer for it.
 #pragma once
 
 #include "fakes/fake_file_manager.h"
 #include "ports/file_changes.h"
-#include "ports/pasteboard.h"
 #include "ports/temporary_folder.h"
 #include "ports/terminal.h"
 
@@ -30,12 +29,6 @@ public:
     }
 
     std::vector<Window> windows; ///< everything opened so far
-};
-
-class FakePasteboard final : public Pasteboard {
-public:
-    void setString(const QString& text) override { held = text; }
-    QString held;
 };
 
 /// Files in memory, seen by `files` too.

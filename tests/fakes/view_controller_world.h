@@ -6,28 +6,23 @@
 #include "fakes/fake_front.h"
 #include "fakes/fake_main_view.h"
 #include "fakes/fake_network.h"
-#include "fakes/fake_relaunch_guard.h"
 #include "fakes/fake_remote_side.h"
-#include "fakes/fake_service_table.h"
 #include "fakes/fake_status_menu.h"
 #include "fakes/memory_bundle.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
-#include "fakes/recording_notification_center.h"
 #include "fakes/scripted_browser.h"
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
 #include "remote/share_commands.h"
 #include "settings/preference_keys.h"
+#include "support/array_controller.h"
+#include "support/notification_center.h"
+#include "ui/main_window_controller.h"
 #include "ui/status_menu_presence.h"
 #include "ui/view_controller.h"
 
 namespace kelvo {
-
-struct FakeWindowController final : StatusMenuWindow {
-    void showWindow() override { ++shown; }
-    int shown = 0;
-};
 
 class ViewControllerWorld {
 public:
@@ -57,19 +52,18 @@ public:
     FakeFileChanges fileChanges{files};
     FakeTemporaryFolder temporaryFolder;
     FakeTerminal terminal;
-    FakePasteboard pasteboard;
+    QString clipboard;
     GioShareCommands shareCommands;
     RecordingConsole console;
-    RecordingNotificationCenter notificationCenter;
+    NotificationCenter notificationCenter;
     MemoryBundle bundle;
     FakeApplication application;
-    FakeRelaunchGuard watchdog;
+    int relaunches = 0;
     FakeWorkspace workspace;
     FakeOpenPanel openPanel;
     FakeNetworkBrowser networkBrowser;
     ScriptedBrowser dnssdBrowser;
-    FakeSheetOpener sheets;
-    FakeArrayController foundServices;
+    ArrayController foundServices;
     FakeTrayHost tray;
     FakeStatusMenu menu{tray};
     StatusMenuPresence statusMenu{menu, defaults, mainQueue, [] {}};
@@ -80,8 +74,9 @@ public:
     FakeButton revealButton2;
     std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
     std::shared_ptr<FakePathControl> pathControl = std::make_shared<FakePathControl>();
-    FakeWindowController windowController;
-    StatusMenuWindow* window = &windowController;
+    int windowShown = 0;
+    MainWindowController windowController{[this] { ++windowShown; }};
+    MainWindowController* window = &windowController;
     std::vector<PassRecord> passes; ///< every record so far
     ViewController controller{{
         .engine = {.defaults = defaults,
@@ -95,10 +90,10 @@ public:
         .outlets = {.application = application,
                     .view = view,
                     .alertPresenter = presenter,
-                    .sheets = sheets,
+                    .presentSheet = [](QStringView) { return true; },
                     .openPanel = openPanel,
                     .terminal = terminal,
-                    .pasteboard = pasteboard,
+                    .copyText = [this](const QString& text) { clipboard = text; },
                     .fArrayController = foundServices,
                     .ibStartButton = button,
                     .ibRevealButton1 = &revealButton1,
@@ -107,7 +102,7 @@ public:
                     .fNsPathControl1 = pathControl},
         .notificationCenter = notificationCenter,
         .bundle = bundle,
-        .watchdog = watchdog,
+        .quitAndRelaunch = [this] { ++relaunches; },
         .workspace = workspace,
         .networkBrowser = networkBrowser,
         .dnssdBrowser = dnssdBrowser,

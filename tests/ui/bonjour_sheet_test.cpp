@@ -3,6 +3,7 @@
 #include "fakes/scripted_browser.h"
 #include "fakes/virtual_queues.h"
 #include "settings/preference_keys.h"
+#include "support/text.h"
 #include "ui/widgets/bonjour_sheet.h"
 
 #include <QAbstractButton>
@@ -32,9 +33,13 @@ protected:
         browser.announce(service);
     }
 
+    bool present(QStringView identifier = cBonjourVCstoryboardID) {
+        return presentSheet(identifier, {defaults, mainQueue, console, browser}, window);
+    }
+
     /// Opens the sheet and lets its first scan run to the end.
     void open() {
-        ASSERT_TRUE(opener.presentSheet(cBonjourSheet));
+        ASSERT_TRUE(present());
         mainQueue.advance(2.1);
     }
 
@@ -62,11 +67,10 @@ protected:
     RecordingConsole console;
     ScriptedBrowser browser;
     QWidget window;
-    WidgetSheetOpener opener{window, {defaults, mainQueue, console, browser}};
 };
 
 TEST_F(BonjourSheetTest, UnknownSheet_IsNotThere) {
-    EXPECT_FALSE(opener.presentSheet(u"AnotherSheet"));
+    EXPECT_FALSE(present(u"AnotherSheet"));
     EXPECT_EQ(sheet(), nullptr);
 }
 
@@ -84,7 +88,7 @@ TEST_F(BonjourSheetTest, Rows_AreNameAddressAndHostAsPlainTextNewestFirst) {
 }
 
 TEST_F(BonjourSheetTest, Scanning_IsSaidAndShown) {
-    ASSERT_TRUE(opener.presentSheet(cBonjourSheet));
+    ASSERT_TRUE(present());
     mainQueue.advance(0.2);
     EXPECT_EQ(child<QLabel>("firstLineMessage")->text(),
               u"Please Wait - Scanning for smb machines on network...");
@@ -184,12 +188,18 @@ TEST_F(BonjourSheetTest, Rescan_KeepsTheSelectedComputerSelected) {
 
 TEST_F(BonjourSheetTest, ClosedInMidScan_TheScanEndsQuietly) {
     announce(QStringLiteral("First"), QStringLiteral("10.0.0.2"));
-    ASSERT_TRUE(opener.presentSheet(cBonjourSheet));
+    ASSERT_TRUE(present());
     mainQueue.advance(0.5);
     button("cancelButton")->click();
     EXPECT_EQ(sheet(), nullptr);
     mainQueue.advance(5);
     EXPECT_TRUE(mainQueue.idle());
+    EXPECT_TRUE(
+        console.printed().contains(QStringLiteral("self.fTableView.selectedRow =>>>    -1")));
+    EXPECT_EQ(console.printed().count(
+                  QStringLiteral("Inside BonjourViewController->numberOfRows(in:).......")),
+              3)
+        << "at each setting of the rows";
     EXPECT_EQ(defaults.object(prefScanningBonjour), QVariant(false));
 }
 

@@ -24,26 +24,26 @@ protected:
 };
 
 TEST_F(ChecklistViewTest, LinesStandWithTheirButtons) {
-    std::vector<Mend> mended;
-    view.setMend([&mended](Mend mend) { mended.push_back(mend); });
+    std::vector<Remedy> chosen;
+    view.setRemedyChosen([&chosen](Remedy remedy) { chosen.push_back(remedy); });
     EXPECT_TRUE(view.isHidden()) << "nothing is known yet";
-    view.setLines({{QStringLiteral("<b>one</b>"), Mend::ShowRemoteTab},
-                   {QStringLiteral("two"), Mend::ChooseDestination}});
+    view.setLines({{QStringLiteral("<b>one</b>"), Remedy::ShowRemoteTab},
+                   {QStringLiteral("two"), Remedy::ChooseDestination}});
     EXPECT_FALSE(view.isHidden());
     EXPECT_EQ(texts(), (QStringList{QStringLiteral("<b>one</b>"), QStringLiteral("two")}));
     for (QToolButton* button : view.findChildren<QToolButton*>()) {
         EXPECT_FALSE(button->accessibleName().isEmpty());
         button->click();
     }
-    EXPECT_EQ(mended, (std::vector{Mend::ShowRemoteTab, Mend::ChooseDestination}));
+    EXPECT_EQ(chosen, (std::vector{Remedy::ShowRemoteTab, Remedy::ChooseDestination}));
 }
 
 TEST_F(ChecklistViewTest, AllWell_TakesTheLinesAway) {
-    view.setLines({{QStringLiteral("one"), Mend::ChooseSource}});
+    view.setLines({{QStringLiteral("one"), Remedy::ChooseSource}});
     view.setLines({});
     EXPECT_TRUE(view.isHidden());
     EXPECT_TRUE(texts().isEmpty());
-    view.setLines({{QStringLiteral("two"), Mend::ChooseSource}});
+    view.setLines({{QStringLiteral("two"), Remedy::ChooseSource}});
     EXPECT_EQ(texts(), QStringList{QStringLiteral("two")});
 }
 

@@ -1,6 +1,7 @@
 // The main window as controllers see it, and the dialogs that belong to it.
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
+#include "support/array_controller.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/service_list.h"
 #include "ui/widgets/widget_controls.h"
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -76,12 +78,12 @@ TEST_F(WidgetMainViewTest, FieldThatEndedEditing_GivesItsFocusUpOnce) {
     window.showTab(QStringLiteral("remote"));
     auto* field = window.findChild<QLineEdit*>(QStringLiteral("remoteUser"));
     auto* other = window.findChild<QLineEdit*>(QStringLiteral("remotePath"));
-    WidgetTextField text(*field);
+    const auto text = textField(*field);
     field->setFocus();
-    text.resignFirstResponder();
+    text->resignFirstResponder();
     EXPECT_FALSE(field->hasFocus());
     other->setFocus();
-    text.resignFirstResponder();
+    text->resignFirstResponder();
     EXPECT_TRUE(other->hasFocus()) << "only its own focus";
 }
 
@@ -96,7 +98,8 @@ TEST_F(WidgetMainViewTest, HiddenApplication_ComesBackToTheFront) {
 }
 
 TEST_F(WidgetMainViewTest, FoundServices_AreRowsOfPlainText) {
-    ServiceList list(window.foundServices());
+    ArrayController list;
+    showServices(list, window.foundServices());
     DNSSD_Service service;
     service.name = QStringLiteral("<b>Mac</b>");
     service.ip4Address = QStringLiteral("10.0.0.1");

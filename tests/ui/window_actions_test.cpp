@@ -57,7 +57,7 @@ TEST_F(WindowActionsTest, EachButton_RunsTheActionOfItsName) {
         click(name);
         EXPECT_TRUE(printed(QString(u"->" + QString::fromLatin1(line) + u"(_:)"))) << name;
     }
-    EXPECT_EQ(watchdog.relaunches, 1);
+    EXPECT_EQ(relaunches, 1);
 }
 
 TEST_F(WindowActionsTest, PartOfTheSourcePath_OpensAndSendsTheControlsAction) {

@@ -1,14 +1,13 @@
 #include "app/start/app_delegate.h"
 #include "app/start/interface_registry.h"
-#include "fakes/fake_relaunch_guard.h"
 #include "fakes/fake_status_menu.h"
 #include "fakes/memory_bundle.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/memory_log_file.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
-#include "ports/system_information.h"
-#include "ui/interface_controllers.h"
+#include "support/text.h"
+#include "ui/main_window_controller.h"
 #include "ui/status_menu_handler.h"
 #include "ui/status_menu_presence.h"
 
@@ -35,37 +34,14 @@ private:
     Console& fConsole;
 };
 
-class FakeWindow final : public WindowController {
-public:
-    explicit FakeWindow(Console& console) : fConsole(console) {}
-    QString description() const override { return QStringLiteral("<window>"); }
-    void showWindow() override { fConsole.print(QStringLiteral("(window shown)")); }
-    MainViewController* contentViewController() const override { return fContent; }
-    void setContentViewController(MainViewController& controller) override {
-        fContent = &controller;
-        controller.viewDidLoad();
-    }
-
-private:
-    Console& fConsole;
-    MainViewController* fContent = nullptr;
-};
-
-class FakeSystemInformation final : public SystemInformation {
-public:
-    explicit FakeSystemInformation(Console& console) : fConsole(console) {}
-    void logCurrentSystemInfo() override { fConsole.log(QStringLiteral("(system)")); }
-
-private:
-    Console& fConsole;
-};
-
 class AppDelegateTest : public ::testing::Test {
 protected:
     AppDelegateTest() {
         storyboard.add(cMyWindowControllerID, [this] {
             ++windowsMade;
-            return std::make_shared<FakeWindow>(console);
+            auto made = makeWindow();
+            window = made->description();
+            return made;
         });
         storyboard.add(cMyViewControllerID, [this] {
             ++viewsMade;
@@ -78,17 +54,33 @@ protected:
         tray.setPresent(true);
     }
 
+    std::shared_ptr<MainWindowController> makeWindow() {
+        return std::make_shared<MainWindowController>(
+            [this] { console.print(QStringLiteral("(window shown)")); });
+    }
     std::unique_ptr<AppDelegate> makeDelegate() {
         return std::make_unique<AppDelegate>(AppDelegateParts{
-            console, logFile, defaults, bundle, watchdog, storyboard, systemInformation,
-            [this] { console.log(QStringLiteral("(duplicates)")); },
-            [this] {
-                ++handlersMade;
-                auto made = std::make_unique<KelvoStatusMenuHandler>(presence, console);
-                handler = made->description();
-                return made;
-            },
-            QStringLiteral("<this process>")});
+            .console = console,
+            .logger = logFile,
+            .defaults = defaults,
+            .mainBundle = bundle,
+            .autoRelaunchUnless =
+                [this](unsigned long count, double seconds, const RelaunchEscape& escape) {
+                    requests.push_back({count, seconds, escape});
+                },
+            .storyboard = storyboard,
+            .logCurrentSystemInfo = [this] { console.log(QStringLiteral("(system)")); },
+            .checkForDuplicateRunningInstances =
+                [this] { console.log(QStringLiteral("(duplicates)")); },
+            .makeStatusMenuHandler =
+                [this] {
+                    ++handlersMade;
+                    auto made = std::make_unique<KelvoStatusMenuHandler>(presence, console);
+                    handler = made->description();
+                    return made;
+                },
+            .runningApplication = QStringLiteral("<this process>"),
+        });
     }
     std::unique_ptr<AppDelegate> launched() {
         auto delegate = makeDelegate();
@@ -109,14 +101,19 @@ protected:
     MemoryLogFile logFile;
     MemoryDefaults defaults;
     MemoryBundle bundle;
-    FakeRelaunchGuard watchdog;
+    struct Request {
+        unsigned long count;
+        double seconds;
+        RelaunchEscape escape;
+    };
+    std::vector<Request> requests; ///< every request to the watchdog so far
     InterfaceRegistry storyboard;
-    FakeSystemInformation systemInformation{console};
     FakeTrayHost tray;
     FakeStatusMenu menu{tray};
     VirtualMainQueue mainQueue;
     StatusMenuPresence presence{menu, defaults, mainQueue, [] {}};
     QString handler;
+    QString window;
     int windowsMade = 0;
     int viewsMade = 0;
     int handlersMade = 0;
@@ -124,8 +121,6 @@ protected:
 
 TEST_F(AppDelegateTest, WholeStart_PrintsItsLinesInOrder) {
     auto delegate = launched();
-    delegate->applicationDidFinishLaunching();
-    delegate->applicationWillTerminate();
     delegate.reset();
     const QString in = QStringLiteral("Inside Kelvo_Mirror.AppDelegate->");
     const QString launching = in + QStringLiteral("applicationWillFinishLaunching(_:)");
@@ -142,7 +137,7 @@ TEST_F(AppDelegateTest, WholeStart_PrintsItsLinesInOrder) {
         in + QStringLiteral("ibActionFromDelegate(_:).......Setting UP watchdog..."),
         in + QStringLiteral("myStatusMenuHandler.......created handler = ") + handler,
         launching + QStringLiteral(".......created self.myStatusMenuHandler = ") + handler,
-        in + QStringLiteral("fWindowController.......controller = <window>"),
+        in + QStringLiteral("fWindowController.......controller = ") + window,
         in + QStringLiteral("fWindowControllernil"),
         QStringLiteral("(view loaded)"),
         launching + QStringLiteral(".......LSUIElement = TRUE..."),
@@ -162,7 +157,7 @@ TEST_F(AppDelegateTest, Init_OpensTheLogAndRegistersTheFactoryDefaults) {
               QStringList{QStringLiteral("x")});
     EXPECT_EQ(defaults.doubleForKey(u"prefDelayBetweenScans"), 30.0);
     EXPECT_EQ(defaults.synchronized(), 1);
-    EXPECT_TRUE(watchdog.requests.empty());
+    EXPECT_TRUE(requests.empty());
     EXPECT_EQ(windowsMade + viewsMade + handlersMade, 0);
 }
 
@@ -209,16 +204,18 @@ TEST_F(AppDelegateTest, UnwritableLog_IsSaidAndTheStartGoesOn) {
         void append(const QStringList&) override {}
     };
     UnwritableLog unwritable;
-    const AppDelegate delegate({console,
-                                unwritable,
-                                defaults,
-                                bundle,
-                                watchdog,
-                                storyboard,
-                                systemInformation,
-                                [] {},
-                                {},
-                                {}});
+    const AppDelegate delegate({
+        .console = console,
+        .logger = unwritable,
+        .defaults = defaults,
+        .mainBundle = bundle,
+        .autoRelaunchUnless = {},
+        .storyboard = storyboard,
+        .logCurrentSystemInfo = [] {},
+        .checkForDuplicateRunningInstances = [] {},
+        .makeStatusMenuHandler = {},
+        .runningApplication = {},
+    });
     EXPECT_TRUE(
         lines().contains(QStringLiteral("log: Cannot write the log file /unwritable/Kelvo")));
     EXPECT_EQ(defaults.synchronized(), 1);
@@ -227,8 +224,8 @@ TEST_F(AppDelegateTest, UnwritableLog_IsSaidAndTheStartGoesOn) {
 TEST_F(AppDelegateTest, Watchdog_AllowsFourRelaunchesInHalfAMinuteWithoutEscape) {
     const auto delegate = launched();
     delegate->ibActionFromDelegate(nullptr);
-    ASSERT_EQ(watchdog.requests.size(), 2U);
-    for (const FakeRelaunchGuard::Request& request : watchdog.requests) {
+    ASSERT_EQ(requests.size(), 2U);
+    for (const Request& request : requests) {
         EXPECT_EQ(request.count, 4UL);
         EXPECT_EQ(request.seconds, 30.0);
         ASSERT_TRUE(request.escape);
@@ -239,7 +236,7 @@ TEST_F(AppDelegateTest, Watchdog_AllowsFourRelaunchesInHalfAMinuteWithoutEscape)
 
 TEST_F(AppDelegateTest, Controllers_AreMadeOnceAndWiredToTheHandler) {
     const auto delegate = launched();
-    WindowController& window = delegate->fWindowController();
+    MainWindowController& window = delegate->fWindowController();
     MainViewController& view = delegate->fViewController();
     EXPECT_EQ(window.contentViewController(), &view);
     EXPECT_EQ(delegate->myStatusMenuHandler().fWindowController(), &window);
@@ -247,13 +244,6 @@ TEST_F(AppDelegateTest, Controllers_AreMadeOnceAndWiredToTheHandler) {
     EXPECT_EQ(windowsMade, 1);
     EXPECT_EQ(viewsMade, 1);
     EXPECT_EQ(handlersMade, 1);
-}
-
-TEST_F(AppDelegateTest, ObjcObject_IsMadeOnFirstUseAndKept) {
-    const auto delegate = makeDelegate();
-    QVariantMap& object = delegate->myobjcObject();
-    EXPECT_TRUE(object.isEmpty());
-    EXPECT_EQ(&delegate->myobjcObject(), &object);
 }
 
 TEST_F(AppDelegateTest, StatusItemActions_ShowAndRemoveTheIcon) {
@@ -278,7 +268,7 @@ TEST_F(AppDelegateTest, QuitAndRelaunchAction_OnlyRemovesTheIcon) {
     console.clear();
     delegate->ibQuitAndRelaunch(nullptr);
     EXPECT_EQ(menu.visible(), std::nullopt);
-    EXPECT_EQ(watchdog.relaunches, 0);
+    EXPECT_EQ(requests.size(), 1U) << "no more than at the launch";
     EXPECT_EQ(lines(), QStringList{QStringLiteral(
                            "Inside Kelvo_Mirror.AppDelegate->ibQuitAndRelaunch(_:)..........")});
 }
@@ -297,9 +287,6 @@ TEST_F(AppDelegateTest, LastWindowClosed_LeavesTheProgramRunning) {
     EXPECT_EQ(lines(), QStringList{QStringLiteral(
                            "Inside Kelvo_Mirror.AppDelegate->"
                            "applicationShouldTerminateAfterLastWindowClosed(_:).......")});
-    console.clear();
-    EXPECT_TRUE(delegate->applicationSupportsSecureRestorableState());
-    EXPECT_TRUE(lines().isEmpty());
 }
 
 TEST_F(AppDelegateTest, WindowControllerOfAnotherClass_StopsTheProgram) {
@@ -311,7 +298,7 @@ TEST_F(AppDelegateTest, WindowControllerOfAnotherClass_StopsTheProgram) {
 }
 
 TEST_F(AppDelegateTest, ViewControllerOfAnotherClass_StopsTheProgramInTheSameWords) {
-    storyboard.add(cMyViewControllerID, [this] { return std::make_shared<FakeWindow>(console); });
+    storyboard.add(cMyViewControllerID, [this] { return makeWindow(); });
     EXPECT_EXIT(launched(), ::testing::KilledBySignal(SIGILL), cWrongController);
 }
 
@@ -320,7 +307,6 @@ TEST_F(AppDelegateTest, ViewControllerOfAnotherClass_StopsTheProgramInTheSameWor
 TEST(InterfaceRegistryTest, Main_KnowsItsIdentifiersOnly) {
     RecordingConsole console;
     InterfaceRegistry storyboard;
-    EXPECT_EQ(storyboard.name(), u"Main");
     for (const QStringView identifier :
          {QStringView(u"MyWindowControllerID"), QStringView(u"MyViewControllerID"),
           QStringView(u"BonjourVCstoryboardID")}) {
@@ -328,7 +314,7 @@ TEST(InterfaceRegistryTest, Main_KnowsItsIdentifiersOnly) {
         storyboard.add(identifier, [&] { return std::make_shared<FakeMainView>(console); });
         EXPECT_NE(storyboard.instantiateController(identifier), nullptr);
         EXPECT_NE(storyboard.instantiate<MainViewController>(identifier), nullptr);
-        EXPECT_EQ(storyboard.instantiate<WindowController>(identifier), nullptr);
+        EXPECT_EQ(storyboard.instantiate<MainWindowController>(identifier), nullptr);
     }
     EXPECT_EQ(storyboard.instantiateController(u"Other"), nullptr);
 }

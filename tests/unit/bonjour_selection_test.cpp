@@ -1,11 +1,11 @@
-#include "adapters/console/headless_bonjour.h"
+#include "adapters/console/headless_view.h"
 #include "discovery/bonjour_selection.h"
 #include "discovery/record_texts.h"
 #include "discovery/service_filter.h"
-#include "fakes/fake_service_table.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_browser.h"
 #include "fakes/virtual_queues.h"
+#include "support/array_controller.h"
 
 #include <gtest/gtest.h>
 
@@ -23,6 +23,10 @@ DNSSD_Service service(const QString& name, const QString& address) {
 
 class BonjourSelectionTest : public ::testing::Test {
 protected:
+    BonjourSelectionTest() {
+        rows.setShow([this] { ++contentSet; });
+    }
+
     /// What is printed after the count line and the devices' lines.
     static QStringList closing(const QString& content) {
         const QString rule = QStringLiteral("\n===============================================");
@@ -43,22 +47,34 @@ protected:
     VirtualMainQueue mainQueue;
     RecordingConsole console;
     ScriptedBrowser browser;
-    FakeSheetOpener sheets;
-    FakeArrayController rows;
-    BonjourSelection selection{{mainQueue, console, browser, sheets, rows}};
+    QStringList presented; ///< every sheet so far
+    bool available = true;
+    ArrayController rows;
+    int contentSet = 0;
+    BonjourSelection selection{{
+        .mainQueue = mainQueue,
+        .console = console,
+        .browser = browser,
+        .presentSheet =
+            [this](QStringView identifier) {
+                presented.append(identifier.toString());
+                return available;
+            },
+        .fArrayController = rows,
+    }};
 };
 
 TEST_F(BonjourSelectionTest, SelectSource_OpensASheetEachTime) {
     selection.ibSelectSourceByBonjor();
     selection.ibSelectSourceByBonjor();
-    EXPECT_EQ(sheets.presented, (QStringList{"BonjourVCstoryboardID", "BonjourVCstoryboardID"}));
+    EXPECT_EQ(presented, (QStringList{"BonjourVCstoryboardID", "BonjourVCstoryboardID"}));
     EXPECT_EQ(console.printed(),
               (QStringList{"Inside ViewController->ibSelectSourceByBonjor(_:).......",
                            "Inside ViewController->ibSelectSourceByBonjor(_:)......."}));
 }
 
 TEST_F(BonjourSelectionTest, NoSuchSheet_StopsTheProgram) {
-    sheets.available = false;
+    available = false;
     EXPECT_DEATH(selection.ibSelectSourceByBonjor(),
                  "Unable to instantiate ViewController in Main.storyboard!");
 }
@@ -67,7 +83,7 @@ TEST_F(BonjourSelectionTest, SelectDestination_OnlyLeavesALine) {
     selection.ibSelectDestByBonjor();
     EXPECT_EQ(console.printed(),
               QStringList{"Inside ViewController->ibSelectDestByBonjor(_:)......."});
-    EXPECT_TRUE(sheets.presented.isEmpty());
+    EXPECT_TRUE(presented.isEmpty());
     EXPECT_TRUE(mainQueue.idle());
 }
 
@@ -78,7 +94,7 @@ TEST_F(BonjourSelectionTest, Search_ShowsEverythingAfterOneSecond) {
     selection.ibSearchBonjour();
     EXPECT_EQ(browser.browsed, QStringList{"_smb"});
     mainQueue.advance(0.99);
-    EXPECT_EQ(rows.contentSet, 0);
+    EXPECT_EQ(contentSet, 0);
     mainQueue.advance(0.01);
     EXPECT_EQ(rows.content(), std::optional(browser.services()));
     EXPECT_EQ(console.printed(),
@@ -95,7 +111,7 @@ TEST_F(BonjourSelectionTest, Search_ShowsEverythingAfterOneSecond) {
 TEST_F(BonjourSelectionTest, BeforeAnyScan_TheListIsEmptied) {
     selection.ibShowBonjourListInfo();
     EXPECT_EQ(rows.content(), std::nullopt);
-    EXPECT_EQ(rows.contentSet, 1);
+    EXPECT_EQ(contentSet, 1);
     EXPECT_EQ(console.printed(),
               QStringList{"self.fFoundServicesArray[nil] item"} + closing(QStringLiteral("nil")));
 }
@@ -109,9 +125,15 @@ TEST_F(BonjourSelectionTest, NothingFound_IsAnEmptyList) {
 }
 
 TEST_F(BonjourSelectionTest, WithoutAWindow_TheSheetIsOnlySpokenOf) {
-    HeadlessSheetOpener noSheets(console);
-    HeadlessArrayController noRows;
-    BonjourSelection headless({mainQueue, console, browser, noSheets, noRows});
+    HeadlessView view(console);
+    ArrayController noRows;
+    BonjourSelection headless({
+        .mainQueue = mainQueue,
+        .console = console,
+        .browser = browser,
+        .presentSheet = [&](QStringView identifier) { return view.presentSheet(identifier); },
+        .fArrayController = noRows,
+    });
     headless.ibSelectSourceByBonjor();
     EXPECT_EQ(console.printed().constLast(),
               u"There is no window to show the sheet BonjourVCstoryboardID on.");
@@ -120,7 +142,7 @@ TEST_F(BonjourSelectionTest, WithoutAWindow_TheSheetIsOnlySpokenOf) {
     mainQueue.advance(1);
     EXPECT_EQ(noRows.content(), std::optional(browser.services()));
     EXPECT_EQ(noRows.selectionIndex(), -1);
-    EXPECT_FALSE(noSheets.presentSheet(u"AnotherSheet"));
+    EXPECT_FALSE(view.presentSheet(u"AnotherSheet"));
 }
 
 TEST(ServiceFilterTest, FirstRecordOfAnAddress_IsAdmitted) {

@@ -1,9 +1,9 @@
-#include "fakes/fake_service_table.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_browser.h"
 #include "fakes/virtual_queues.h"
 #include "settings/preference_keys.h"
+#include "support/array_controller.h"
 #include "support/stored_value.h"
 #include "ui/bonjour_view_controller.h"
 
@@ -32,11 +32,25 @@ DNSSD_Service computer(int number) {
 
 class BonjourViewControllerTest : public ::testing::Test {
 protected:
-    BonjourViewControllerTest() { table->setDelegate(controller); }
+    BonjourViewControllerParts parts() {
+        rows->setShow([this] { ++contentSet; });
+        return {
+            .defaults = defaults,
+            .mainQueue = mainQueue,
+            .console = console,
+            .browser = browser,
+            .fArrayController = rows,
+            .selectedRow = [rows = rows] { return rows->selectionIndex(); },
+            .dismiss = [this] { ++dismissed; },
+            .beep = [this] { ++beeps; },
+        };
+    }
+    std::shared_ptr<BonjourViewController> make() { return BonjourViewController::make(parts()); }
 
-    std::shared_ptr<BonjourViewController> make() {
-        return BonjourViewController::make(
-            {defaults, mainQueue, console, browser, sheet, rows, table});
+    /// A person selects another row.
+    void select(qsizetype row) {
+        rows->setSelectionIndex(row);
+        controller->tableViewSelectionDidChange(QStringLiteral("SelectionDidChange"), row);
     }
 
     /// One scan to its end.
@@ -60,61 +74,60 @@ protected:
     VirtualMainQueue mainQueue;
     RecordingConsole console;
     ScriptedBrowser browser;
-    std::shared_ptr<FakeSheet> sheet = std::make_shared<FakeSheet>();
-    std::shared_ptr<FakeArrayController> rows = std::make_shared<FakeArrayController>();
-    std::shared_ptr<FakeTableView> table = std::make_shared<FakeTableView>(*rows);
+    int dismissed = 0;
+    int beeps = 0;
+    int contentSet = 0;
+    std::shared_ptr<ArrayController> rows = std::make_shared<ArrayController>();
     std::shared_ptr<BonjourViewController> controller = make();
 };
 
 // -- the scan
 
-TEST_F(BonjourViewControllerTest, Loaded_TakesTheTableAndScansAfterATenthOfASecond) {
-    table->setDelegate({});
+TEST_F(BonjourViewControllerTest, Loaded_ScansAfterATenthOfASecond) {
     controller->viewDidLoad();
-    EXPECT_EQ(table->delegate.lock(), controller);
     EXPECT_EQ(console.printed(), QStringList{line(u"viewDidLoad().......")});
     mainQueue.advance(0.099);
     EXPECT_TRUE(browser.browsed.isEmpty());
     mainQueue.advance(0.001);
     EXPECT_EQ(browser.browsed, QStringList{"_smb"});
-    table->doubleAction();
+    controller->handleDoubleClick();
     EXPECT_EQ(count(line(u"handleDoubleClick().......")), 1);
-    EXPECT_EQ(sheet->beeps, 1);
+    EXPECT_EQ(beeps, 1);
 }
 
 TEST_F(BonjourViewControllerTest, Timeline_OfOneScan) {
     browser.announce(computer(1));
     controller->ibSearchBonjour();
     EXPECT_EQ(browser.browsed, QStringList{"_smb"});
-    EXPECT_FALSE(controller->scanningBonjour());
+    EXPECT_FALSE(defaults.boolForKey(prefScanningBonjour));
     EXPECT_FALSE(defaults.object(prefScanningBonjour).isValid());
 
     mainQueue.advance(0.1);
-    EXPECT_TRUE(controller->scanningBonjour());
+    EXPECT_TRUE(defaults.boolForKey(prefScanningBonjour));
     EXPECT_EQ(defaults.object(prefScanningBonjour), QVariant(true));
     EXPECT_EQ(defaults.stringForKey(perfFirstLineMessage), cScanning);
 
     mainQueue.advance(0.899);
     browser.announce(computer(2));
-    EXPECT_EQ(rows->contentSet, 0);
+    EXPECT_EQ(contentSet, 0);
     mainQueue.advance(0.001); // 1.0 s: the browser is read
-    EXPECT_EQ(rows->contentSet, 1);
+    EXPECT_EQ(contentSet, 1);
     EXPECT_EQ(rows->content(), std::optional(DNSSD_Services()));
     browser.announce(computer(3));
 
     mainQueue.advance(0.499);
-    EXPECT_TRUE(controller->scanningBonjour());
+    EXPECT_TRUE(defaults.boolForKey(prefScanningBonjour));
     mainQueue.advance(0.001); // 1.5 s: filtered, and no longer scanning
     EXPECT_EQ(shownNames(), (QStringList{"Mac 2", "Mac 1"}));
-    EXPECT_FALSE(controller->scanningBonjour());
+    EXPECT_FALSE(defaults.boolForKey(prefScanningBonjour));
     EXPECT_EQ(defaults.object(prefScanningBonjour), QVariant(false));
     EXPECT_EQ(defaults.stringForKey(perfFirstLineMessage), u"Bonjour List...");
-    EXPECT_EQ(rows->contentSet, 2);
+    EXPECT_EQ(contentSet, 2);
 
     mainQueue.advance(0.499);
-    EXPECT_EQ(rows->contentSet, 2);
+    EXPECT_EQ(contentSet, 2);
     mainQueue.advance(0.001); // 2.0 s: filtered again, to the same end
-    EXPECT_EQ(rows->contentSet, 3);
+    EXPECT_EQ(contentSet, 3);
     EXPECT_EQ(shownNames(), (QStringList{"Mac 2", "Mac 1"}));
     EXPECT_TRUE(mainQueue.idle());
 }
@@ -158,7 +171,7 @@ TEST_F(BonjourViewControllerTest, EveryLine_OfAFirstScan) {
 TEST_F(BonjourViewControllerTest, SecondScan_LogsTheRowsOfTheFirst) {
     browser.announce(service(QStringLiteral("My Mac"), QStringLiteral("10.0.0.2")));
     scan();
-    rows->selected = 0;
+    rows->setSelectionIndex(0);
     console.clear();
     scan();
     const QString dictionary = QStringLiteral(
@@ -196,8 +209,6 @@ TEST_F(BonjourViewControllerTest, ClosedSheet_LetsTheScanRunToItsEnd) {
     EXPECT_TRUE(alive.expired());
     EXPECT_EQ(defaults.object(prefScanningBonjour), QVariant(false));
     EXPECT_EQ(shownNames(), QStringList{"Mac 1"});
-    table->doubleAction(); // nobody is left to act
-    EXPECT_EQ(sheet->beeps, 0);
 }
 
 // -- one row an address
@@ -255,8 +266,7 @@ TEST_F(BonjourViewControllerTest, SecondScan_AddsOnTopAndForgetsNothing) {
 TEST_F(BonjourViewControllerTest, FreshSheet_StartsWithAnEmptyMemory) {
     browser.announce(computer(1));
     scan();
-    rows = std::make_shared<FakeArrayController>();
-    table = std::make_shared<FakeTableView>(*rows);
+    rows = std::make_shared<ArrayController>();
     controller = make();
     scan();
     EXPECT_EQ(shownNames(), QStringList{"Mac 1"});
@@ -276,7 +286,7 @@ TEST_F(BonjourViewControllerTest, Confirmed_StoresHostNameAndRecordAndCloses) {
     mac.hostTarget = QStringLiteral("elsewhere.local");
     browser.announce(mac);
     scan();
-    table->select(0);
+    select(0);
     EXPECT_EQ(defaults.object(prefSelectedValidRow), QVariant(true));
     console.clear();
     controller->ibSelectItem();
@@ -285,8 +295,8 @@ TEST_F(BonjourViewControllerTest, Confirmed_StoresHostNameAndRecordAndCloses) {
     ASSERT_TRUE(stored);
     EXPECT_EQ(stored->size(), 12);
     EXPECT_TRUE(sameStoredValue(*stored, *rows->content()->constFirst().asDictionary()));
-    EXPECT_EQ(sheet->dismissed, 1);
-    EXPECT_EQ(sheet->beeps, 0);
+    EXPECT_EQ(dismissed, 1);
+    EXPECT_EQ(beeps, 0);
     const QString record = QStringLiteral("DNSSD_Service(My Mac, elsewhere.local, 10.0.0.2)");
     EXPECT_EQ(console.printed(),
               (QStringList{
@@ -307,7 +317,7 @@ TEST_F(BonjourViewControllerTest, Confirmed_StoresHostNameAndRecordAndCloses) {
 TEST_F(BonjourViewControllerTest, EveryBlankOfAName_BecomesAHyphen) {
     browser.announce(service(QStringLiteral(" Studio  Mac Pro "), QStringLiteral("10.0.0.2")));
     scan();
-    table->select(0);
+    select(0);
     controller->handleDoubleClick();
     EXPECT_EQ(defaults.stringForKey(prefRemoteBonjourName), u"-Studio--Mac-Pro-.local");
 }
@@ -316,7 +326,7 @@ TEST_F(BonjourViewControllerTest, SecondRow_IsTheRecordThatIsStored) {
     browser.announce(computer(1));
     browser.announce(computer(2));
     scan();
-    table->select(1);
+    select(1);
     controller->ibSelectItem();
     EXPECT_EQ(defaults.stringForKey(prefRemoteBonjourName), u"Mac-1.local");
 }
@@ -326,36 +336,38 @@ TEST_F(BonjourViewControllerTest, NothingSelected_BeepsAndStoresNothing) {
     scan();
     const auto before = defaults.changes();
     controller->ibSelectItem();
-    EXPECT_EQ(sheet->beeps, 1);
-    EXPECT_EQ(sheet->dismissed, 0);
+    EXPECT_EQ(beeps, 1);
+    EXPECT_EQ(dismissed, 0);
     EXPECT_EQ(defaults.changes(), before);
 }
 
 TEST_F(BonjourViewControllerTest, RowsThatCannotBeRead_StillCloseTheSheet) {
     browser.announce(computer(1));
     scan();
-    rows->selected = 0;
-    rows->readable = false;
+    rows->setSelectionIndex(0);
+    rows->setContent(std::nullopt);
     const auto before = defaults.changes();
     controller->ibSelectItem();
-    EXPECT_EQ(sheet->dismissed, 1);
+    EXPECT_EQ(dismissed, 1);
     EXPECT_EQ(defaults.changes(), before);
 }
 
 TEST_F(BonjourViewControllerTest, RowPastTheEnd_StopsTheProgram) {
     browser.announce(computer(1));
     scan();
-    rows->selected = 1;
+    rows->setSelectionIndex(1);
     EXPECT_DEATH(controller->ibSelectItem(), "past the end");
-    EXPECT_DEATH(controller->tableViewSelectionDidChange({QString(), table.get()}), "past the end");
+    EXPECT_DEATH(controller->tableViewSelectionDidChange(QString(), 1), "past the end");
 }
 
 TEST_F(BonjourViewControllerTest, MissingOutlet_StopsTheProgram) {
-    const auto withoutRows =
-        BonjourViewController::make({defaults, mainQueue, console, browser, sheet, nullptr, table});
+    BonjourViewControllerParts noRows = parts();
+    noRows.fArrayController = nullptr;
+    const auto withoutRows = BonjourViewController::make(noRows);
     EXPECT_DEATH(withoutRows->ibUpdateFilteredList(), "array controller");
-    const auto withoutTable =
-        BonjourViewController::make({defaults, mainQueue, console, browser, sheet, rows, nullptr});
+    BonjourViewControllerParts noTable = parts();
+    noTable.selectedRow = nullptr;
+    const auto withoutTable = BonjourViewController::make(noTable);
     EXPECT_DEATH(withoutTable->viewDidLoad(), "no table");
 }
 
@@ -365,10 +377,10 @@ TEST_F(BonjourViewControllerTest, Selection_IsTrackedAndLogged) {
     browser.announce(computer(1));
     scan();
     console.clear();
-    table->select(0);
-    EXPECT_TRUE(controller->didSelectRow());
-    table->select(-1);
-    EXPECT_FALSE(controller->didSelectRow());
+    select(0);
+    EXPECT_TRUE(defaults.boolForKey(prefSelectedValidRow));
+    select(-1);
+    EXPECT_FALSE(defaults.boolForKey(prefSelectedValidRow));
     EXPECT_EQ(defaults.object(prefSelectedValidRow), QVariant(false));
     const QString label = QStringLiteral("tableViewSelectionDidChange(_:)");
     EXPECT_EQ(console.printed(),
@@ -388,22 +400,22 @@ TEST_F(BonjourViewControllerTest, Selection_IsTrackedAndLogged) {
 TEST_F(BonjourViewControllerTest, SelectionWithoutTableOrRows_IsNotTracked) {
     scan();
     console.clear();
-    controller->tableViewSelectionDidChange({QStringLiteral("other"), nullptr});
+    controller->tableViewSelectionDidChange(QStringLiteral("other"), std::nullopt);
     EXPECT_EQ(console.printed(),
               QStringList{line(u"tableViewSelectionDidChange(_:).......notification = other")});
-    rows->readable = false;
-    table->select(0);
+    rows->setContent(std::nullopt);
+    select(0);
     EXPECT_FALSE(defaults.object(prefSelectedValidRow).isValid());
 }
 
 TEST_F(BonjourViewControllerTest, NumberOfRows_CountsTheFilteredList) {
-    EXPECT_EQ(controller->numberOfRows(*table), 0);
+    EXPECT_EQ(controller->numberOfRows(), 0);
     browser.announce(computer(1));
     browser.announce(computer(2));
     scan();
     console.clear();
-    EXPECT_EQ(controller->numberOfRows(*table), 2);
-    controller->tableViewDidClick(*table, QStringLiteral("name"));
+    EXPECT_EQ(controller->numberOfRows(), 2);
+    controller->tableViewDidClick(QStringLiteral("name"));
     EXPECT_EQ(console.printed(),
               (QStringList{line(u"numberOfRows(in:)......."),
                            line(u"tableView(_:didClick:).......tableColumn = name")}));

@@ -28,22 +28,22 @@ TEST(ChecklistTest, AllWell_HasNoLine) {
     EXPECT_TRUE(checklist(wellFacts(false)).empty());
 }
 
-TEST(ChecklistTest, EachLack_HasItsLineAndMend) {
-    const auto only = [](bool remote, bool ChecklistFacts::*fact, Mend mend, QStringView word) {
+TEST(ChecklistTest, EachLack_HasItsLineAndRemedy) {
+    const auto only = [](bool remote, bool ChecklistFacts::*fact, Remedy remedy, QStringView word) {
         ChecklistFacts facts = wellFacts(remote);
         facts.*fact = false;
         const auto lines = checklist(facts);
         ASSERT_EQ(lines.size(), 1U) << word.toUtf8().constData();
-        EXPECT_EQ(lines[0].mend, mend);
+        EXPECT_EQ(lines[0].remedy, remedy);
         EXPECT_TRUE(lines[0].text.contains(word)) << lines[0].text.toStdString();
     };
-    only(true, &ChecklistFacts::hostChosen, Mend::ShowRemoteTab, u"No Mac");
-    only(true, &ChecklistFacts::userSet, Mend::ShowRemoteTab, u"user name");
-    only(true, &ChecklistFacts::sshThere, Mend::CopyInstallCommand, u"ssh is not");
-    only(true, &ChecklistFacts::rsyncThere, Mend::CopyInstallCommand, u"rsync is not");
-    only(false, &ChecklistFacts::sourceChosen, Mend::ChooseSource, u"source");
-    only(true, &ChecklistFacts::destinationChosen, Mend::ChooseDestination, u"chosen yet");
-    only(true, &ChecklistFacts::destinationWritable, Mend::ChooseDestination, u"written");
+    only(true, &ChecklistFacts::hostChosen, Remedy::ShowRemoteTab, u"No Mac");
+    only(true, &ChecklistFacts::userSet, Remedy::ShowRemoteTab, u"user name");
+    only(true, &ChecklistFacts::sshThere, Remedy::CopyInstallCommand, u"ssh is not");
+    only(true, &ChecklistFacts::rsyncThere, Remedy::CopyInstallCommand, u"rsync is not");
+    only(false, &ChecklistFacts::sourceChosen, Remedy::ChooseSource, u"source");
+    only(true, &ChecklistFacts::destinationChosen, Remedy::ChooseDestination, u"chosen yet");
+    only(true, &ChecklistFacts::destinationWritable, Remedy::ChooseDestination, u"written");
 }
 
 TEST(ChecklistTest, Key_IsALineUntilItIsAccepted) {
@@ -53,7 +53,7 @@ TEST(ChecklistTest, Key_IsALineUntilItIsAccepted) {
         facts.lastCause = lastCause;
         QStringList texts;
         for (const ChecklistLine& line : checklist(facts)) {
-            EXPECT_EQ(line.mend, Mend::ShowRemoteTab);
+            EXPECT_EQ(line.remedy, Remedy::ShowRemoteTab);
             texts << line.text;
         }
         return texts;

@@ -53,8 +53,20 @@ protected:
     Alerts alerts{mainQueue, console, presenter};
     MacShareCommands commands;
     std::vector<bool> busySigns;
-    ConnectionCheck connection{{defaults, files, console, mainQueue, bgQueue, shell, alerts,
-                                commands, [this](bool busy) { busySigns.push_back(busy); }}};
+    ConnectionCheck connection{{
+        .defaults = defaults,
+        .files = files,
+        .console = console,
+        .mainQueue = mainQueue,
+        .bgQueue = bgQueue,
+        .shell = shell,
+        .commands = commands,
+        .showAlert =
+            [this](const QString& message, const QString& text, AlertCompletion completion) {
+                alerts.showAlertWithClosure(message, text, std::nullopt, std::move(completion));
+            },
+        .showBusy = [this](bool busy) { busySigns.push_back(busy); },
+    }};
 };
 
 // -- filling in
@@ -171,11 +183,11 @@ TEST_F(ConnectionCheckTest, Answer_IsPrinted) {
 
 TEST_F(ConnectionCheckTest, Busy_UntilTheAlertIsAskedFor) {
     connection.ibTestShellCommand222();
-    EXPECT_TRUE(connection.fBusyFlag3());
+    EXPECT_TRUE(busySigns.back());
     bgQueue.runAll();
-    EXPECT_TRUE(connection.fBusyFlag3());
+    EXPECT_TRUE(busySigns.back());
     mainQueue.runDue();
-    EXPECT_FALSE(connection.fBusyFlag3());
+    EXPECT_FALSE(busySigns.back());
     EXPECT_TRUE(presenter.alerts.empty()) << "the alert is due a tenth of a second later";
     EXPECT_EQ(busySigns, (std::vector{true, false}));
 }
@@ -189,7 +201,7 @@ TEST_F(ConnectionCheckTest, TwoTests_HaveTheirOwnAnswers) {
     connection.ibTestShellCommand222();
     bgQueue.runOne();
     mainQueue.runDue();
-    EXPECT_FALSE(connection.fBusyFlag3()) << "at the first of the two";
+    EXPECT_FALSE(busySigns.back()) << "at the first of the two";
     bgQueue.runOne();
     mainQueue.advance(0.2);
     ASSERT_EQ(presenter.alerts.size(), 2U);

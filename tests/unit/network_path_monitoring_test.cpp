@@ -1,9 +1,8 @@
 #include "discovery/network_path_monitoring.h"
 #include "fakes/fake_network.h"
 #include "fakes/recording_console.h"
-#include "fakes/recording_notification_center.h"
 #include "fakes/virtual_queues.h"
-#include "ports/notification_text.h"
+#include "support/notification_center.h"
 
 #include <gtest/gtest.h>
 
@@ -31,15 +30,19 @@ protected:
                     checker = fresh.get();
                     return fresh;
                 },
-                [this](const QString& status) { shown.append(status); }};
+                [this](const QString& text) {
+                    status = text;
+                    shown.append(text);
+                }};
     }
 
-    RecordingNotificationCenter center;
+    NotificationCenter center;
     VirtualMainQueue mainQueue;
     RecordingConsole console;
     FakeNetworkBrowser browser;
     FakeNetworkChecker* checker = nullptr;
     int made = 0;
+    QString status; ///< shown last
     QStringList shown;
     NetworkPathMonitoring monitoring{parts()};
 };
@@ -49,7 +52,7 @@ TEST_F(NetworkPathMonitoringTest, SetUp_ListensBeforeItStartsTheChecker) {
     EXPECT_EQ(console.printed().first(), u"great got self.fKelvoSSID...");
     EXPECT_EQ(made, 1);
     mainQueue.advance(0.1);
-    EXPECT_EQ(monitoring.fNetworkStatusString(), u"first");
+    EXPECT_EQ(status, u"first");
 }
 
 TEST_F(NetworkPathMonitoringTest, Message_PassesThroughEmptyATenthOfASecondLater) {
@@ -58,7 +61,7 @@ TEST_F(NetworkPathMonitoringTest, Message_PassesThroughEmptyATenthOfASecondLater
     shown.clear();
     checker->say(QStringLiteral("second"));
     mainQueue.advance(0.099);
-    EXPECT_EQ(monitoring.fNetworkStatusString(), u"first");
+    EXPECT_EQ(status, u"first");
     EXPECT_TRUE(shown.isEmpty());
     mainQueue.advance(0.001);
     EXPECT_EQ(shown, (QStringList{QString(), QStringLiteral("second")}));
@@ -92,11 +95,11 @@ TEST_F(NetworkPathMonitoringTest, NotificationWithoutAUsableMessage_LeavesNoText
           QVariantMap{{cKey, QVariantList{QStringLiteral("x")}}}}) {
         checker->say(QStringLiteral("before"));
         mainQueue.advance(0.1);
-        ASSERT_EQ(monitoring.fNetworkStatusString(), u"before");
+        ASSERT_EQ(status, u"before");
         shown.clear();
         center.post(cName, info);
         mainQueue.advance(0.1);
-        EXPECT_EQ(monitoring.fNetworkStatusString(), QString());
+        EXPECT_EQ(status, QString());
         EXPECT_EQ(shown, QStringList{QString()});
     }
     EXPECT_TRUE(
@@ -114,23 +117,7 @@ TEST_F(NetworkPathMonitoringTest, TwoNotificationsWithinTheDelay_EndAsTheSecond)
     mainQueue.advance(0.1);
     EXPECT_EQ(shown,
               (QStringList{QString(), QStringLiteral("down"), QString(), QStringLiteral("up")}));
-    EXPECT_EQ(monitoring.fNetworkStatusString(), u"up");
-}
-
-TEST_F(NetworkPathMonitoringTest, OldSystem_WatchesNothing) {
-    NetworkPathMonitoringParts old = parts();
-    old.systemWatchesPaths = false;
-    NetworkPathMonitoring onOldSystem(old);
-    onOldSystem.setupNetworkChecker();
-    center.post(cName, {{cKey, QStringLiteral("x")}});
-    onOldSystem.ibTestNWBrowser(nullptr);
-    mainQueue.advance(1);
-    EXPECT_EQ(made, 0);
-    EXPECT_TRUE(shown.isEmpty());
-    EXPECT_TRUE(browser.searches.empty());
-    EXPECT_EQ(console.printed(),
-              (QStringList{entry("ibTestNWBrowser(_:)"),
-                           entry("ibTestNWBrowser(_:)", QStringLiteral(".......OLD !!!!"))}));
+    EXPECT_EQ(status, u"up");
 }
 
 TEST_F(NetworkPathMonitoringTest, NoChecker_MeansNoSubscription) {

@@ -42,7 +42,7 @@ class RelaunchDecisionTest : public ::testing::TestWithParam<Case> {};
 TEST_P(RelaunchDecisionTest, Case_IsDecided) {
     const Case& given = GetParam();
     std::vector<std::pair<unsigned long, double>> asked;
-    RelaunchGuard::Escape escape;
+    RelaunchEscape escape;
     if (given.escape)
         escape = [&](unsigned long count, double interval) {
             asked.emplace_back(count, interval);

@@ -52,16 +52,16 @@ TEST_F(RemoteSideTest, NoTerminal_ShowsTheCommandAndCopiesIt) {
     EXPECT_EQ(presenter.alerts.front().buttons,
               (QStringList{QStringLiteral("Copy Command"), QStringLiteral("Close")}));
     presenter.answer(1, cAlertFirstButtonReturn);
-    EXPECT_EQ(pasteboard.held, command);
+    EXPECT_EQ(clipboard, command);
 }
 
 TEST_F(RemoteSideTest, NoTerminalAndClosed_LeavesTheClipboardAlone) {
-    pasteboard.held = QStringLiteral("before");
+    clipboard = QStringLiteral("before");
     controller.ibGenerateSSHKeyStuff(nullptr);
     terminal.windows.front().ended(TerminalOutcome::NoWindow);
     settle();
     presenter.answer(1, cAlertSecondButtonReturn);
-    EXPECT_EQ(pasteboard.held, u"before");
+    EXPECT_EQ(clipboard, u"before");
 }
 
 TEST_F(RemoteSideTest, Passes_RefreshTheStateOfTheKeyToo) {

@@ -5,7 +5,7 @@
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 #include "settings/preference_keys.h"
-#include "ui/observed_status_field.h"
+#include "ui/main_window_controller.h"
 #include "ui/status_line.h"
 #include "ui/status_menu_handler.h"
 #include "ui/status_menu_presence.h"
@@ -17,12 +17,14 @@ namespace {
 
 using enum StatusMenuState;
 
-struct FakeWindow final : StatusMenuWindow {
-    void showWindow() override { ++shows; }
+struct ShownWindow {
     int shows = 0;
+    MainWindowController controller{[this] { ++shows; }};
 };
 
-struct FakeMainView final : StatusMenuMainView {
+struct FakeMainView final : MainViewController {
+    QString description() const override { return {}; }
+    void viewDidLoad() override {}
     void clickStartButton() override { ++clicks; }
     void quitAndRelaunch() override { ++relaunches; }
     int clicks = 0;
@@ -110,13 +112,13 @@ TEST_F(KelvoStatusMenuHandlerTest, DelegateFunctions_OnlyPrintTheirLines) {
 }
 
 TEST_F(KelvoStatusMenuHandlerTest, Properties_ReadBack) {
-    FakeWindow window;
+    ShownWindow window;
     FakeMainView mainView;
     EXPECT_EQ(delegates.fWindowController(), nullptr);
     EXPECT_EQ(delegates.fMainVC(), nullptr);
-    delegates.setWindowController(&window);
+    delegates.setWindowController(&window.controller);
     delegates.setMainVC(&mainView);
-    EXPECT_EQ(delegates.fWindowController(), &window);
+    EXPECT_EQ(delegates.fWindowController(), &window.controller);
     EXPECT_EQ(delegates.fMainVC(), &mainView);
     EXPECT_EQ(views.fMainVC(), nullptr);
 }
@@ -128,12 +130,12 @@ TEST_F(KelvoStatusMenuHandlerTest, Description_NamesTypeAndTellsHandlersApart) {
 }
 
 TEST_F(StatusMenuPresenceTest, Entries_ReachTheTargetsOfWhicheverHandlerHasThem) {
-    FakeWindow window;
+    ShownWindow window;
     FakeMainView mainView;
     delegates.setupStatusMenuStuff();
     views.setupStatusMenuStuff();
     delegates.setMainVC(&mainView);
-    views.setWindowController(&window);
+    views.setWindowController(&window.controller);
     menu.choose(&StatusMenuActions::showWindow);
     menu.choose(&StatusMenuActions::startOrStop);
     menu.choose(&StatusMenuActions::quitAndRelaunch);
@@ -145,9 +147,9 @@ TEST_F(StatusMenuPresenceTest, Entries_ReachTheTargetsOfWhicheverHandlerHasThem)
 }
 
 TEST_F(StatusMenuPresenceTest, TwoHandlersWithTheSameWindow_ShowItOnce) {
-    FakeWindow window;
+    ShownWindow window;
     for (auto* handler : {&delegates, &views}) {
-        handler->setWindowController(&window);
+        handler->setWindowController(&window.controller);
         handler->setupStatusMenuStuff();
     }
     menu.choose(&StatusMenuActions::showWindow);
@@ -163,10 +165,10 @@ TEST_F(StatusMenuPresenceTest, MissingTargets_MakeAnEntryDoNothing) {
 }
 
 TEST_F(StatusMenuPresenceTest, RemovedHandler_IsNotActedOn) {
-    FakeWindow first;
-    FakeWindow second;
-    delegates.setWindowController(&first);
-    views.setWindowController(&second);
+    ShownWindow first;
+    ShownWindow second;
+    delegates.setWindowController(&first.controller);
+    views.setWindowController(&second.controller);
     delegates.setupStatusMenuStuff();
     views.setupStatusMenuStuff();
     delegates.removeStatusMenuStuff();
@@ -232,15 +234,14 @@ TEST_F(StatusMenuPresenceTest, Destroyed_HidesAndLetsGoOfTheSettings) {
     EXPECT_EQ(menu.visible(), std::nullopt);
 }
 
-class ObservedStatusFieldTest : public StatusMenuTest {
+class StatusLineTroubleTest : public StatusMenuTest {
 protected:
     std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
-    std::shared_ptr<StatusField> observed = std::make_shared<ObservedStatusField>(
-        field, [this](bool trouble) { presence.setTrouble(trouble); });
-    StatusLine line{defaults, mainQueue, observed};
+    StatusLine line{defaults, mainQueue, field,
+                    [this](bool trouble) { presence.setTrouble(trouble); }};
 };
 
-TEST_F(ObservedStatusFieldTest, RedMessage_IsShownAndMeansTrouble) {
+TEST_F(StatusLineTroubleTest, RedMessage_IsShownAndMeansTrouble) {
     delegates.setupStatusMenuStuff();
     line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
     EXPECT_EQ(menu.visible(), Off);
@@ -250,7 +251,7 @@ TEST_F(ObservedStatusFieldTest, RedMessage_IsShownAndMeansTrouble) {
     EXPECT_EQ(field->shown.back().foregroundColor, StatusColor::Red);
 }
 
-TEST_F(ObservedStatusFieldTest, BlackMessageOrClear_EndsTheTrouble) {
+TEST_F(StatusLineTroubleTest, BlackMessageOrClear_EndsTheTrouble) {
     delegates.setupStatusMenuStuff();
     for (const auto& mesg : {std::optional(QStringLiteral("fine")), std::optional<QString>()}) {
         line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
@@ -263,7 +264,7 @@ TEST_F(ObservedStatusFieldTest, BlackMessageOrClear_EndsTheTrouble) {
     EXPECT_EQ(field->shown.size(), 4U);
 }
 
-TEST_F(ObservedStatusFieldTest, TroubleBeforeSetUp_IsRemembered) {
+TEST_F(StatusLineTroubleTest, TroubleBeforeSetUp_IsRemembered) {
     line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
     mainQueue.advance(0.1);
     delegates.setupStatusMenuStuff();

@@ -14,6 +14,7 @@ kelvo_tests(unit
     unit/key_state_test.cpp
     unit/login_item_setting_test.cpp
     unit/network_path_monitoring_test.cpp
+    unit/notification_center_test.cpp
     unit/once_test.cpp
     unit/pass_cause_test.cpp
     unit/running_pass_test.cpp

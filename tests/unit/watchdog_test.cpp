@@ -1,12 +1,11 @@
 #include "app/start/watchdog.h"
-#include "app/start/watchdog_relaunch_guard.h"
 #include "fakes/fake_sentinel_launcher.h"
 #include "fakes/fake_signals.h"
 #include "fakes/memory_bundle.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
-#include "fakes/recording_notification_center.h"
 #include "fakes/virtual_queues.h"
+#include "support/notification_center.h"
 
 #include <gtest/gtest.h>
 
@@ -60,7 +59,7 @@ protected:
     static QString description(int number) { return QString::fromLocal8Bit(::strsignal(number)); }
     void willTerminate() { center.post(cWillTerminateNotification.toString()); }
 
-    const RelaunchGuard::Escape never = [](unsigned long, double) { return false; };
+    const RelaunchEscape never = [](unsigned long, double) { return false; };
     QDateTime now = QDateTime::fromString(QStringLiteral("2024-05-06T07:08:09Z"), Qt::ISODate);
     VirtualMainQueue queue;
     FakeSignals signals{queue};
@@ -68,7 +67,7 @@ protected:
     MemoryDefaults defaults;
     RecordingConsole console;
     FakeSentinelLauncher launcher;
-    RecordingNotificationCenter center;
+    NotificationCenter center;
     int terminations = 0;
     std::vector<int> left;
     int synchronizedWhenLeft = 0;
@@ -334,20 +333,22 @@ TEST_F(WatchdogTest, StopKeepingUsRunning_AsksTheSentinelToEnd) {
 
 TEST_F(WatchdogTest, QuitAndRelaunch_StartsASentinelAndLeavesWithTheSettingsSafe) {
     begin();
+    bool told = false;
+    const Subscription observer = center.observe(cWillTerminateNotification.toString(),
+                                                 [&](const Notification&) { told = true; });
     Watchdog::quitAndRelaunch();
     EXPECT_EQ(launcher.sentinels.size(), 1U);
     EXPECT_EQ(launcher.sentinels.at(0)->requests, 0);
     EXPECT_EQ(left, std::vector<int>{0});
     EXPECT_EQ(synchronizedWhenLeft, 1);
-    EXPECT_TRUE(center.posted().empty()) << "no orderly end is told";
+    EXPECT_FALSE(told) << "no orderly end is told";
 }
 
-TEST_F(WatchdogTest, RelaunchGuard_IsTheWatchdog) {
+TEST_F(WatchdogTest, QuitAndRelaunchWhileWatched_NeedsNoSecondSentinel) {
     begin();
-    WatchdogRelaunchGuard guard;
-    guard.autoRelaunchUnless(4, 30.0, never);
+    Watchdog::autoRelaunchUnless(4, 30.0, never);
     EXPECT_EQ(launcher.sentinels.size(), 1U);
-    guard.quitAndRelaunch();
+    Watchdog::quitAndRelaunch();
     EXPECT_EQ(launcher.sentinels.size(), 1U);
     EXPECT_EQ(left, std::vector<int>{0});
 }

@@ -1,7 +1,6 @@
-// Terminal and clipboard where there is no desktop.
+// HeadlessTerminal: the terminal where there is no desktop.
 #pragma once
 
-#include "ports/pasteboard.h"
 #include "ports/terminal.h"
 
 namespace kelvo {
@@ -18,12 +17,6 @@ public:
 
 private:
     Console& fConsole;
-};
-
-/// Keeps nothing: there is nowhere to paste.
-class HeadlessPasteboard final : public Pasteboard {
-public:
-    void setString(const QString&) override {}
 };
 
 } // namespace kelvo

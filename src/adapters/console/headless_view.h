@@ -22,6 +22,10 @@ public:
     void showTesting(bool) override {}
     void showKeyState(KeyState) override {}
     void beep() override {}
+
+    /// Says that there is no window for the sheet; false for one that no window has either.
+    bool presentSheet(QStringView identifier);
+
     Subscription monitorRightMouseDown(const Control&, std::function<void(bool)>) override {
         return {};
     }

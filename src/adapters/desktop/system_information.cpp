@@ -39,13 +39,13 @@ QString versionFrom(CommandRunner& shell, const QString& command, QStringView st
 
 } // namespace
 
-LocalSystemInformation::LocalSystemInformation(QString programName, CommandRunner& shell,
-                                               DispatchQueue& mainQueue, BackgroundQueue& bgQueue,
-                                               Console& console)
+SystemInformation::SystemInformation(QString programName, CommandRunner& shell,
+                                     DispatchQueue& mainQueue, BackgroundQueue& bgQueue,
+                                     Console& console)
     : fProgramName(std::move(programName)), fShell(shell), fMainQueue(mainQueue), fBgQueue(bgQueue),
       fConsole(console) {}
 
-void LocalSystemInformation::logCurrentSystemInfo() {
+void SystemInformation::logCurrentSystemInfo() {
     fMainQueue.asyncAfter(cAfterTheStart, [this] {
         fBgQueue.async(
             [name = fProgramName, desktop = desktopText(), &shell = fShell, &console = fConsole] {

@@ -1,7 +1,5 @@
-// LocalSystemInformation: what this machine runs, asked in the background.
+// SystemInformation: what this machine runs, asked in the background.
 #pragma once
-
-#include "ports/system_information.h"
 
 #include <QString>
 
@@ -12,14 +10,16 @@ class Console;
 class DispatchQueue;
 class CommandRunner;
 
-class LocalSystemInformation final : public SystemInformation {
+class SystemInformation {
 public:
     /// `programName` is the program with its version, the first line written. The other parts
     /// outlive the work that waits on the queues. Nothing is asked before the start-up is over.
-    LocalSystemInformation(QString programName, CommandRunner& shell, DispatchQueue& mainQueue,
-                           BackgroundQueue& bgQueue, Console& console);
+    SystemInformation(QString programName, CommandRunner& shell, DispatchQueue& mainQueue,
+                      BackgroundQueue& bgQueue, Console& console);
 
-    void logCurrentSystemInfo() override;
+    /// Writes a line each about the system, the desktop and the tools the program needs to the
+    /// system log, soon: it returns at once. What cannot be found out is said so. Main thread.
+    void logCurrentSystemInfo();
 
 private:
     const QString fProgramName;

@@ -2,7 +2,7 @@
 
 #include "adapters/network/link_watch.h"
 #include "ports/dispatch_queue.h"
-#include "ports/notification_center.h"
+#include "support/notification_center.h"
 
 #include <QFileInfo>
 #include <QNetworkInformation>

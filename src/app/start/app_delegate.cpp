@@ -4,12 +4,10 @@
 #include "ports/bundle.h"
 #include "ports/console.h"
 #include "ports/log_file.h"
-#include "ports/relaunch_guard.h"
-#include "ports/system_information.h"
 #include "settings/factory_defaults.h"
 #include "support/fatal.h"
 #include "support/text.h"
-#include "ui/interface_controllers.h"
+#include "ui/main_window_controller.h"
 #include "ui/status_menu_handler.h"
 
 #include <utility>
@@ -52,7 +50,7 @@ void AppDelegate::doBasicStartUpStuff() {
         cTypeName, operation,
         QString(u"...Trying to Launch -> NSRunningApplication: " + fParts.runningApplication)));
     fParts.checkForDuplicateRunningInstances();
-    fParts.processInfo.logCurrentSystemInfo();
+    fParts.logCurrentSystemInfo();
     fParts.console.log(insideLine(cTypeName, operation, u"...Done..."));
 }
 
@@ -67,7 +65,7 @@ void AppDelegate::applicationWillFinishLaunching() {
     printInside(operation,
                 QString(u".......created self.myStatusMenuHandler = " + handler.description()));
 
-    WindowController& window = fWindowController();
+    MainWindowController& window = fWindowController();
     printInside(u"fWindowController", QString(u".......controller = " + window.description()));
     printInside(u"fWindowController", optionalDescription(window.contentViewController()));
     MainViewController& mainView = fViewController();
@@ -83,9 +81,8 @@ void AppDelegate::applicationWillFinishLaunching() {
                                                 : u".......LSUIElement = FALSE...");
 
     window.showWindow();
-    const auto* handlersView = dynamic_cast<const InterfaceController*>(handler.fMainVC());
     printInside(operation, QString(u"..........self.myStatusMenuHandler?.fMainVC = " +
-                                   optionalDescription(handlersView)));
+                                   optionalDescription(handler.fMainVC())));
     ibSetupStatusItemStuff(nullptr);
 }
 
@@ -98,8 +95,8 @@ bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() {
 
 void AppDelegate::ibActionFromDelegate(Control*) {
     printInside(u"ibActionFromDelegate(_:)", u".......Setting UP watchdog...");
-    fParts.watchdog.autoRelaunchUnless(cMostRelaunches, cRelaunchInterval,
-                                       [](unsigned long, double) { return false; });
+    fParts.autoRelaunchUnless(cMostRelaunches, cRelaunchInterval,
+                              [](unsigned long, double) { return false; });
 }
 
 void AppDelegate::ibSetupStatusItemStuff(Control*) {
@@ -119,10 +116,10 @@ void AppDelegate::ibQuitAndRelaunch(Control*) {
 
 // -- what is made on first use
 
-WindowController& AppDelegate::fWindowController() {
+MainWindowController& AppDelegate::fWindowController() {
     if (!fLazyWindowController) {
         fLazyWindowController =
-            fParts.storyboard.instantiate<WindowController>(cMyWindowControllerID);
+            fParts.storyboard.instantiate<MainWindowController>(cMyWindowControllerID);
         if (!fLazyWindowController)
             stopProgram(cWrongController);
     }
@@ -146,12 +143,6 @@ KelvoStatusMenuHandler& AppDelegate::myStatusMenuHandler() {
                     QString(u".......created handler = " + fLazyStatusMenuHandler->description()));
     }
     return *fLazyStatusMenuHandler;
-}
-
-QVariantMap& AppDelegate::myobjcObject() {
-    if (!fLazyObjcObject)
-        fLazyObjcObject.emplace();
-    return *fLazyObjcObject;
 }
 
 void AppDelegate::printInside(QStringView operation, QStringView detail) const {

@@ -1,13 +1,13 @@
 // AppDelegate: brings the program up in order, and answers the menus that belong to no view.
 #pragma once
 
+#include "app/start/relaunch_decision.h"
+
 #include <QString>
 #include <QStringView>
-#include <QVariantMap>
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 namespace kelvo {
 
@@ -18,10 +18,8 @@ class InterfaceRegistry;
 class KelvoStatusMenuHandler;
 class LogFile;
 class MainViewController;
-class RelaunchGuard;
-class SystemInformation;
+class MainWindowController;
 class UserDefaults;
-class WindowController;
 
 /// What the delegate works with; the references outlive it.
 struct AppDelegateParts {
@@ -29,9 +27,11 @@ struct AppDelegateParts {
     LogFile& logger;
     UserDefaults& defaults;
     const Bundle& mainBundle;
-    RelaunchGuard& watchdog;
+    /// Has the program started again whenever it ends by surprise, unless it was started again so
+    /// many times within so many seconds and the escape does not answer true.
+    std::function<void(unsigned long, double, const RelaunchEscape&)> autoRelaunchUnless;
     const InterfaceRegistry& storyboard;
-    SystemInformation& processInfo;
+    std::function<void()> logCurrentSystemInfo; ///< writes what the program runs on, soon
     std::function<void()> checkForDuplicateRunningInstances;
     std::function<std::unique_ptr<KelvoStatusMenuHandler>()> makeStatusMenuHandler;
     QString runningApplication; ///< how this process reads in a diagnostic line
@@ -49,12 +49,9 @@ public:
 
     /// Sets up the watchdog, makes the controllers, shows the window and then the tray icon.
     void applicationWillFinishLaunching();
-    void applicationDidFinishLaunching() {}
-    void applicationWillTerminate() {}
 
     /// False: closing the window leaves the program running in the tray.
     bool applicationShouldTerminateAfterLastWindowClosed();
-    bool applicationSupportsSecureRestorableState() const { return true; }
 
     /// Sets up the watchdog: four relaunches within 30 s are the last.
     void ibActionFromDelegate(Control* sender);
@@ -66,11 +63,9 @@ public:
     void ibQuitAndRelaunch(Control* sender);
 
     /// A controller of the wrong class, or none, stops the program.
-    WindowController& fWindowController();
+    MainWindowController& fWindowController();
     MainViewController& fViewController();
     KelvoStatusMenuHandler& myStatusMenuHandler();
-    /// Empty, and of no use to the start-up.
-    QVariantMap& myobjcObject();
 
 private:
     void doBasicStartUpStuff();
@@ -78,9 +73,8 @@ private:
 
     const AppDelegateParts fParts;
     std::shared_ptr<MainViewController> fLazyViewController;
-    std::shared_ptr<WindowController> fLazyWindowController;
+    std::shared_ptr<MainWindowController> fLazyWindowController;
     std::unique_ptr<KelvoStatusMenuHandler> fLazyStatusMenuHandler;
-    std::optional<QVariantMap> fLazyObjcObject;
 };
 
 } // namespace kelvo

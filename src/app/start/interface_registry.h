@@ -12,19 +12,13 @@ namespace kelvo {
 
 class InterfaceController;
 
-inline constexpr QStringView cMainStoryboard = u"Main";
 inline constexpr QStringView cMyWindowControllerID = u"MyWindowControllerID";
 inline constexpr QStringView cMyViewControllerID = u"MyViewControllerID";
-inline constexpr QStringView cBonjourVCstoryboardID = u"BonjourVCstoryboardID";
 
 /// Main thread only.
 class InterfaceRegistry {
 public:
     using Maker = std::function<std::shared_ptr<InterfaceController>()>;
-
-    explicit InterfaceRegistry(QStringView name = cMainStoryboard) : fName(name.toString()) {}
-
-    const QString& name() const { return fName; }
 
     /// From now on `maker` makes the controllers of `identifier`; an earlier one is forgotten.
     void add(QStringView identifier, Maker maker);
@@ -39,7 +33,6 @@ public:
     }
 
 private:
-    const QString fName;
     std::map<QString, Maker, std::less<>> fMakers;
 };
 

@@ -39,7 +39,7 @@ double relaunchInterval(const QVariant& record, unsigned long count, double seco
 }
 
 RelaunchDecision decideRelaunch(const QVariant& record, unsigned long count, double seconds,
-                                const RelaunchGuard::Escape& escape, const QDateTime& now) {
+                                const RelaunchEscape& escape, const QDateTime& now) {
     RelaunchDecision decision;
     if (record.typeId() == QMetaType::QVariantList)
         decision.record = record.toList();

@@ -1,15 +1,17 @@
 // Whether the program keeps itself running after it was started again, as pure functions.
 #pragma once
 
-#include "ports/relaunch_guard.h"
-
 #include <QDateTime>
 #include <QString>
 #include <QVariant>
 
+#include <functional>
 #include <optional>
 
 namespace kelvo {
+
+/// True keeps relaunching on, although `count` relaunches came within `interval` seconds.
+using RelaunchEscape = std::function<bool(unsigned long count, double interval)>;
 
 /// A start by a person, or by anything else but the sentinel: the record begins anew.
 bool isOrdinaryStart(unsigned long count, bool autorelaunched);
@@ -28,6 +30,6 @@ struct RelaunchDecision {
 /// Decides after a relaunch: on, unless the last `count` relaunches came within `seconds` and
 /// `escape`, asked only then (or when `count` is 0), is empty or answers false.
 RelaunchDecision decideRelaunch(const QVariant& record, unsigned long count, double seconds,
-                                const RelaunchGuard::Escape& escape, const QDateTime& now);
+                                const RelaunchEscape& escape, const QDateTime& now);
 
 } // namespace kelvo

@@ -1,14 +1,13 @@
 #include "app/start/watchdog.h"
 
-#include "app/start/relaunch_decision.h"
 #include "ports/bundle.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
-#include "ports/notification_center.h"
 #include "ports/sentinel_launcher.h"
 #include "ports/signals.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "support/notification_center.h"
 
 #include <csignal>
 #include <cstring>
@@ -77,8 +76,7 @@ public:
             fTaskWatchdog->terminate();
     }
 
-    void autoRelaunchUnless(unsigned long count, double seconds,
-                            const RelaunchGuard::Escape& escape) {
+    void autoRelaunchUnless(unsigned long count, double seconds, const RelaunchEscape& escape) {
         const QDateTime now = fParts.now();
         if (isOrdinaryStart(count, fParts.arguments.contains(cAutorelaunched))) {
             fParts.defaults.removeObject(prefRecentLaunchDates);
@@ -238,7 +236,7 @@ void Watchdog::stopKeepingUsRunning() {
 }
 
 void Watchdog::autoRelaunchUnless(unsigned long count, double seconds,
-                                  const RelaunchGuard::Escape& escape) {
+                                  const RelaunchEscape& escape) {
     if (const auto state = current())
         state->autoRelaunchUnless(count, seconds, escape);
 }

@@ -1,7 +1,7 @@
 // Watchdog: keeps the program running, turns signals into reactions, ends it to be started anew.
 #pragma once
 
-#include "ports/relaunch_guard.h"
+#include "app/start/relaunch_decision.h"
 #include "support/subscription.h"
 
 #include <QDateTime>
@@ -70,7 +70,7 @@ public:
     /// adds to the record and keeps us running, unless `count` relaunches came within `seconds` and
     /// `escape` (may be empty) does not answer true. With a `count` of 0 every start is judged.
     static void autoRelaunchUnless(unsigned long count, double seconds,
-                                   const RelaunchGuard::Escape& escape);
+                                   const RelaunchEscape& escape);
 
     /// Keeps us running, brings the settings to disk and leaves at once with status 0, for the
     /// sentinel to start the program again. Returns only if `leaveAtOnce` does.

@@ -3,19 +3,22 @@
 #include "ports/dispatch_queue.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "support/array_controller.h"
+#include "support/text.h"
 #include "ui/bonjour_view_controller.h"
-#include "ui/widgets/service_table_view.h"
 #include "ui_bonjour_sheet.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QPointer>
+
+#include <algorithm>
 
 namespace kelvo {
 
 BonjourSheet::BonjourSheet(const BonjourSheetParts& parts, QWidget* parent)
     : QDialog(parent), fParts(parts), fUi(std::make_unique<Ui::BonjourSheet>()),
-      fOutlets(std::make_shared<ServiceTableView>(*this)),
-      fController(BonjourViewController::make({parts.defaults, parts.mainQueue, parts.console,
-                                               parts.browser, fOutlets, fOutlets, fOutlets})) {
+      fRecords(std::make_shared<ArrayController>()), fController(makeController()) {
     fUi->setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
@@ -25,9 +28,9 @@ BonjourSheet::BonjourSheet(const BonjourSheetParts& parts, QWidget* parent)
     table.horizontalHeader()->resizeSection(0, 200);
     table.horizontalHeader()->resizeSection(1, 120);
     connect(&table, &QTableView::doubleClicked, this,
-            [outlets = fOutlets] { outlets->doubleClicked(); });
+            [controller = fController] { controller->handleDoubleClick(); });
     connect(table.horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) {
-        fOutlets->headerClicked(
+        fController->tableViewDidClick(
             fRows.headerData(section, Qt::Horizontal, Qt::DisplayRole).toString());
     });
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -48,7 +51,36 @@ BonjourSheet::BonjourSheet(const BonjourSheetParts& parts, QWidget* parent)
     table.setFocus();
 }
 
-BonjourSheet::~BonjourSheet() = default;
+BonjourSheet::~BonjourSheet() {
+    fRecords->setSelectionIndex(-1);
+}
+
+/// The controller outlives the sheet while a scan runs, and what it works with so does too.
+std::shared_ptr<BonjourViewController> BonjourSheet::makeController() {
+    const QPointer<BonjourSheet> self(this);
+    const auto controller = BonjourViewController::make({
+        .defaults = fParts.defaults,
+        .mainQueue = fParts.mainQueue,
+        .console = fParts.console,
+        .browser = fParts.browser,
+        .fArrayController = fRecords,
+        .selectedRow = [self]() -> qsizetype { return self ? self->selectedRow() : -1; },
+        .dismiss =
+            [self] {
+                if (self)
+                    self->accept();
+            },
+        .beep = [] { QApplication::beep(); },
+    });
+    fRecords->setShow([self, weak = std::weak_ptr(controller), &records = *fRecords] {
+        DNSSD_Services shown = records.content().value_or(DNSSD_Services());
+        if (const auto alive = weak.lock())
+            shown.resize(std::min(shown.size(), alive->numberOfRows()));
+        if (self)
+            self->setRecords(shown);
+    });
+    return controller;
+}
 
 void BonjourSheet::present() {
     show();
@@ -75,7 +107,9 @@ int BonjourSheet::selectedRow() const {
 }
 
 void BonjourSheet::selectionChanged() {
-    fOutlets->selectionChanged();
+    const int row = selectedRow();
+    fRecords->setSelectionIndex(row);
+    fController->tableViewSelectionDidChange(QStringLiteral("TableViewSelectionDidChange"), row);
     showState();
 }
 
@@ -96,10 +130,10 @@ void BonjourSheet::showState() {
         fUi->fTableView->setFocus();
 }
 
-bool WidgetSheetOpener::presentSheet(QStringView identifier) {
-    if (identifier != cBonjourSheet || !fMainWindow)
+bool presentSheet(QStringView identifier, const BonjourSheetParts& parts, QWidget& mainWindow) {
+    if (identifier != cBonjourVCstoryboardID)
         return false;
-    auto* sheet = new BonjourSheet(fParts, fMainWindow);
+    auto* sheet = new BonjourSheet(parts, &mainWindow);
     sheet->present();
     return true;
 }

@@ -1,15 +1,12 @@
 // BonjourSheet: the list of computers from which the remote Mac is chosen.
 #pragma once
 
-#include "ports/sheet_opener.h"
 #include "support/dnssd_service.h"
 #include "support/subscription.h"
 #include "ui/widgets/service_rows.h"
 
 #include <QDialog>
-#include <QPointer>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -19,11 +16,11 @@ class BonjourSheet;
 
 namespace kelvo {
 
+class ArrayController;
 class BonjourViewController;
 class Console;
 class DispatchQueue;
 class DnssdBrowser;
-class ServiceTableView;
 class UserDefaults;
 
 /// What the sheet and its controller work with; all of it outlives them.
@@ -45,7 +42,7 @@ public:
     void present();
 
 private:
-    friend class ServiceTableView;
+    std::shared_ptr<BonjourViewController> makeController();
     void setRecords(const DNSSD_Services& records);
     int selectedRow() const;
     void selectionChanged();
@@ -55,22 +52,13 @@ private:
     std::unique_ptr<Ui::BonjourSheet> fUi;
     ServiceRows fRows;
     bool fFilled = false; ///< a list was shown, if only an empty one
-    std::shared_ptr<ServiceTableView> fOutlets;
-    std::shared_ptr<BonjourViewController> fController;
+    const std::shared_ptr<ArrayController> fRecords;
+    const std::shared_ptr<BonjourViewController> fController;
     std::vector<Subscription> fObservations;
 };
 
-/// Opens the program's sheets on the main window; nothing but the list of computers so far.
-class WidgetSheetOpener final : public SheetOpener {
-public:
-    WidgetSheetOpener(QWidget& mainWindow, const BonjourSheetParts& parts)
-        : fMainWindow(&mainWindow), fParts(parts) {}
-
-    bool presentSheet(QStringView identifier) override;
-
-private:
-    QPointer<QWidget> fMainWindow;
-    const BonjourSheetParts fParts;
-};
+/// Makes the sheet of this identifier afresh and shows it on `mainWindow`; returns at once, the
+/// sheet closes itself. False when there is no such sheet. Main thread.
+bool presentSheet(QStringView identifier, const BonjourSheetParts& parts, QWidget& mainWindow);
 
 } // namespace kelvo

@@ -7,14 +7,14 @@
 namespace kelvo {
 namespace {
 
-QString titleOf(Mend mend) {
-    switch (mend) {
-    case Mend::ShowRemoteTab:
+QString titleOf(Remedy remedy) {
+    switch (remedy) {
+    case Remedy::ShowRemoteTab:
         return ChecklistView::tr("Show Remote Mac");
-    case Mend::ChooseSource:
-    case Mend::ChooseDestination:
+    case Remedy::ChooseSource:
+    case Remedy::ChooseDestination:
         return ChecklistView::tr("Choose…");
-    case Mend::CopyInstallCommand:
+    case Remedy::CopyInstallCommand:
         return ChecklistView::tr("Copy the command");
     }
     return {};
@@ -43,15 +43,15 @@ void ChecklistView::setLines(const std::vector<ChecklistLine>& lines) {
         text->setTextFormat(Qt::PlainText);
         text->setWordWrap(true);
         auto* button = new QToolButton;
-        button->setText(titleOf(line.mend));
+        button->setText(titleOf(line.remedy));
         button->setFocusPolicy(Qt::StrongFocus);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        button->setAccessibleName(QString(titleOf(line.mend) + u": " + line.text));
-        if (line.mend == Mend::CopyInstallCommand)
+        button->setAccessibleName(QString(titleOf(line.remedy) + u": " + line.text));
+        if (line.remedy == Remedy::CopyInstallCommand)
             button->setToolTip(cInstallCommand.toString());
-        connect(button, &QToolButton::clicked, this, [this, mend = line.mend] {
-            if (fMend)
-                fMend(mend);
+        connect(button, &QToolButton::clicked, this, [this, remedy = line.remedy] {
+            if (fRemedyChosen)
+                fRemedyChosen(remedy);
         });
         fRows->addWidget(sign, row, 0);
         fRows->addWidget(text, row, 1);

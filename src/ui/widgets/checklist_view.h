@@ -1,4 +1,4 @@
-// ChecklistView: the lines of the checklist, each with the button that mends it.
+// ChecklistView: the lines of the checklist, each with the button for its remedy.
 #pragma once
 
 #include "ui/checklist.h"
@@ -15,14 +15,14 @@ class ChecklistView final : public QFrame {
 public:
     explicit ChecklistView(QWidget* parent = nullptr);
 
-    /// What the buttons do.
-    void setMend(std::function<void(Mend)> mend) { fMend = std::move(mend); }
+    /// From now on a click on a line's button calls `chosen`.
+    void setRemedyChosen(std::function<void(Remedy)> chosen) { fRemedyChosen = std::move(chosen); }
 
     void setLines(const std::vector<ChecklistLine>& lines);
 
 private:
     QGridLayout* fRows;
-    std::function<void(Mend)> fMend;
+    std::function<void(Remedy)> fRemedyChosen;
 };
 
 } // namespace kelvo

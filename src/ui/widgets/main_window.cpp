@@ -32,7 +32,9 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     addTab(fSettingsTab, "prefs", tr("Settings"));
     addTab(diagnostics, "diagnostics", tr("Diagnostics"));
     addTab(fActivityTab, "activity", tr("Activity"));
-    switchOffUntilWired();
+    for (QPushButton* button : findChildren<QPushButton*>())
+        button->setToolTip(button->accessibleDescription());
+    ibStartButton().setToolTip({}); // Its title says it all.
     setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
     connect(&ibStartButton(), &QPushButton::toggled, this, [this] { showStartIcon(); });
     showStartIcon();
@@ -59,15 +61,6 @@ void MainWindow::addTab(QWidget* tab, const char* identifier, const QString& lab
 
 // -- actions
 
-void MainWindow::switchOffUntilWired() {
-    for (QPushButton* button : findChildren<QPushButton*>()) {
-        button->setEnabled(false);
-        button->setToolTip(tr("Not part of this version yet"));
-    }
-    ibStartButton().setEnabled(true);
-    ibStartButton().setToolTip({});
-}
-
 QPushButton& MainWindow::button(const QString& control) {
     auto* found = findChild<QPushButton*>(control);
     if (found == nullptr)
@@ -76,10 +69,7 @@ QPushButton& MainWindow::button(const QString& control) {
 }
 
 void MainWindow::setAction(const QString& control, std::function<void()> action) {
-    QPushButton& found = button(control);
-    found.setEnabled(true);
-    found.setToolTip(found.accessibleDescription());
-    connect(&found, &QPushButton::clicked, this, std::move(action));
+    connect(&button(control), &QPushButton::clicked, this, std::move(action));
 }
 
 void MainWindow::showStartIcon() {

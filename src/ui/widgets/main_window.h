@@ -40,8 +40,8 @@ public:
     MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue);
     ~MainWindow() override;
 
-    /// Has the button named `control` call `action` at each click and switches it on; until then it
-    /// is off and says why. A name without a button is a programming error and ends the program.
+    /// Has the button named `control` call `action` at each click. A name without a button is a
+    /// programming error and ends the program.
     void setAction(const QString& control, std::function<void()> action);
 
     /// A button by name, for whoever needs its state. As above for a name without a button.
@@ -86,7 +86,6 @@ protected:
 
 private:
     void addTab(QWidget* tab, const char* identifier, const QString& label);
-    void switchOffUntilWired();
     void restoreLook();
     void keepLook();
     void showStartIcon();

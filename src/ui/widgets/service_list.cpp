@@ -1,26 +1,30 @@
 #include "ui/widgets/service_list.h"
 
+#include "support/array_controller.h"
+#include "ui/widgets/service_rows.h"
+
 #include <QHeaderView>
+#include <QPointer>
+#include <QTableView>
 
 namespace kelvo {
 
-ServiceList::ServiceList(QTableView& table) : fTable(&table), fRows(new ServiceRows(&table)) {
-    table.setModel(fRows);
+void showServices(ArrayController& records, QTableView& table) {
+    auto* rows = new ServiceRows(&table);
+    table.setModel(rows);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
     table.setSelectionMode(QAbstractItemView::SingleSelection);
     table.setTabKeyNavigation(false);
     table.verticalHeader()->hide();
     table.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-}
-
-void ServiceList::setContent(const std::optional<DNSSD_Services>& content) {
-    fContent = content;
-    if (fRows)
-        fRows->setRecords(content.value_or(DNSSD_Services()));
-}
-
-qsizetype ServiceList::selectionIndex() const {
-    return fTable && fTable->currentIndex().isValid() ? fTable->currentIndex().row() : -1;
+    QObject::connect(table.selectionModel(), &QItemSelectionModel::currentRowChanged, &table,
+                     [&records](const QModelIndex& row) { records.setSelectionIndex(row.row()); });
+    records.setShow([&records, rows = QPointer(rows)] {
+        if (!rows)
+            return;
+        rows->setRecords(records.content().value_or(DNSSD_Services()));
+        records.setSelectionIndex(-1);
+    });
 }
 
 } // namespace kelvo

@@ -1,28 +1,14 @@
-// ServiceList: the records that a table on the main window shows.
+// How a table on the main window shows the records of an array controller.
 #pragma once
 
-#include "ports/array_controller.h"
-#include "ui/widgets/service_rows.h"
-
-#include <QPointer>
-#include <QTableView>
+class QTableView;
 
 namespace kelvo {
 
-/// The table may go first.
-class ServiceList final : public ArrayController {
-public:
-    explicit ServiceList(QTableView& table);
+class ArrayController;
 
-    void setContent(const std::optional<DNSSD_Services>& content) override;
-    std::optional<DNSSD_Services> content() const override { return fContent; }
-    std::optional<DNSSD_Services> arrangedObjects() const override { return fContent; }
-    qsizetype selectionIndex() const override;
-
-private:
-    QPointer<QTableView> fTable;
-    QPointer<ServiceRows> fRows; ///< owned by the table
-    std::optional<DNSSD_Services> fContent;
-};
+/// From now on `table` shows the records and writes its selection back. The table may go first; the
+/// records outlive it.
+void showServices(ArrayController& records, QTableView& table);
 
 } // namespace kelvo

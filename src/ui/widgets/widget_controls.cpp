@@ -6,9 +6,11 @@
 
 namespace kelvo {
 
-void WidgetTextField::resignFirstResponder() {
-    if (fField && fField->hasFocus())
-        fField->clearFocus();
+std::shared_ptr<TextField> textField(QWidget& field) {
+    return std::make_shared<TextField>([guard = QPointer(&field)] {
+        if (guard && guard->hasFocus())
+            guard->clearFocus();
+    });
 }
 
 void WidgetPathControl::setUrl(const QString& url) {

@@ -7,7 +7,7 @@
 
 #include <QPointer>
 
-#include <utility>
+#include <memory>
 
 class QWidget;
 
@@ -25,15 +25,8 @@ private:
     QPointer<QWidget> fWidget;
 };
 
-/// A text field; one that is gone has no focus to give up.
-class WidgetTextField final : public TextField {
-public:
-    explicit WidgetTextField(QWidget& field) : fField(&field) {}
-    void resignFirstResponder() override;
-
-private:
-    QPointer<QWidget> fField;
-};
+/// The text field `field`, which may go first.
+std::shared_ptr<TextField> textField(QWidget& field);
 
 /// A path control; one that is gone shows nothing.
 class WidgetPathControl final : public PathControl {

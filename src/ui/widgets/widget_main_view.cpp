@@ -5,7 +5,6 @@
 #include "ui/widgets/widget_controls.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QMouseEvent>
 
 #include <memory>
@@ -100,10 +99,6 @@ void WidgetApplication::bringToFront() {
 void WidgetApplication::terminate() {
     fWillTerminate();
     QCoreApplication::quit();
-}
-
-void WidgetPasteboard::setString(const QString& text) {
-    QApplication::clipboard()->setText(text);
 }
 
 } // namespace kelvo

@@ -1,10 +1,8 @@
-// WidgetMainView, WidgetApplication and WidgetPasteboard: window and desktop as controllers see
-// them.
+// WidgetMainView and WidgetApplication: the window and the program as controllers see them.
 #pragma once
 
 #include "ports/application.h"
 #include "ports/main_view.h"
-#include "ports/pasteboard.h"
 #include "ui/widgets/main_window.h"
 
 #include <QPointer>
@@ -42,11 +40,6 @@ public:
 private:
     QPointer<MainWindow> fWindow;
     const std::function<void()> fWillTerminate;
-};
-
-class WidgetPasteboard final : public Pasteboard {
-public:
-    void setString(const QString& text) override;
 };
 
 } // namespace kelvo

@@ -7,6 +7,7 @@
 #include <QVariant>
 
 #include <functional>
+#include <memory>
 
 namespace kelvo {
 
@@ -16,18 +17,30 @@ struct Notification {
 };
 using NotificationHandler = std::function<void(const Notification&)>;
 
+/// Subscriptions may outlive the centre.
 class NotificationCenter {
 public:
-    virtual ~NotificationCenter() = default;
+    NotificationCenter();
 
     /// Calls every observer of `name`, in the order of registration, on this thread, before it
     /// returns. Any thread. Without observers nothing happens.
-    virtual void post(const QString& name, const QVariantMap& userInfo = {}) = 0;
+    void post(const QString& name, const QVariantMap& userInfo = {});
 
     /// `handler` is called for each later post of `name`. It may post, and end subscriptions, its
     /// own too; an observer added meanwhile hears from the next post on. Once the subscription is
     /// gone no new call begins; one that another thread has begun is not waited for.
-    virtual Subscription observe(const QString& name, NotificationHandler handler) = 0;
+    Subscription observe(const QString& name, NotificationHandler handler);
+
+private:
+    struct Observers;
+    std::shared_ptr<Observers> fObservers;
 };
+
+/// How information reads in a diagnostic line: `Optional([AnyHashable("key"): "text"])`, or `nil`
+/// for none.
+QString userInfoText(const QVariantMap& userInfo);
+
+/// The same of a notification: `name = …, object = nil, userInfo = …`.
+QString notificationText(const Notification& notification);
 
 } // namespace kelvo

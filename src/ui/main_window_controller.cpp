@@ -1,12 +1,10 @@
-#include "app/main_window_controller.h"
+#include "ui/main_window_controller.h"
 
 namespace kelvo {
 
 QString MainWindowController::description() const {
     return QStringLiteral("<NSWindowController: 0x") +
-           QString::number(reinterpret_cast<quintptr>(static_cast<const WindowController*>(this)),
-                           16) +
-           u'>';
+           QString::number(reinterpret_cast<quintptr>(this), 16) + u'>';
 }
 
 void MainWindowController::setContentViewController(MainViewController& controller) {
