@@ -3,45 +3,14 @@
 
 #include "ui/outlets.h"
 
-#include <QString>
-
-#include <functional>
 #include <memory>
 
 namespace kelvo {
 
 class AppDelegate;
-class Application;
-class BackgroundQueue;
-class ChecklistProbe;
-class Console;
-class DispatchQueue;
-class DnssdBrowser;
-class LoginItem;
 class MainWindowController;
-class PassStore;
-class StatusMenu;
-class Terminal;
-class UserDefaults;
 class ViewController;
-class Workspace;
-
-/// What a front works with; all of it outlives the front.
-struct FrontParts {
-    UserDefaults& defaults;
-    DispatchQueue& mainQueue;
-    Console& console;
-    Workspace& workspace;
-    DnssdBrowser& browser;
-    StatusMenu& statusMenu;
-    Terminal& terminal; ///< of the desktop; used by a front that has one
-    QString logFolder;
-    PassStore& passes;
-    BackgroundQueue& bgQueue;
-    QString homeDirectory;
-    const ChecklistProbe& checklistProbe;
-    LoginItem& loginItem;
-};
+struct MachineParts;
 
 /// Main thread only. What it hands out lives as long as the front.
 class Front {
@@ -58,10 +27,10 @@ public:
     virtual void sendActionsTo(ViewController& controller, AppDelegate& delegate) = 0;
 };
 
-/// Everything is one line on standard output.
-std::unique_ptr<Front> makeHeadlessFront(const FrontParts& parts);
+/// Everything is one line on standard output. `machine` outlives the front.
+std::unique_ptr<Front> makeHeadlessFront(MachineParts& machine);
 
-/// The main window; needs a QApplication.
-std::unique_ptr<Front> makeWindowFront(const FrontParts& parts);
+/// The main window; needs a QApplication. `machine` outlives the front.
+std::unique_ptr<Front> makeWindowFront(MachineParts& machine);
 
 } // namespace kelvo

@@ -4,6 +4,7 @@
 #include "adapters/console/headless_terminal.h"
 #include "adapters/console/headless_view.h"
 #include "app/front.h"
+#include "app/machine_parts.h"
 #include "support/array_controller.h"
 #include "ui/main_window_controller.h"
 #include "ui/view_controller.h"
@@ -15,11 +16,12 @@ namespace {
 
 class HeadlessFront final : public Front {
 public:
-    explicit HeadlessFront(const FrontParts& parts)
+    explicit HeadlessFront(MachineParts& machine)
         : fStartButton([this](Control* sender) { fController->ibStartRSyncProcess(sender); }),
-          fStatusField(std::make_shared<HeadlessStatusField>(parts.console)),
-          fAlerts(parts.console, parts.mainQueue), fView(parts.console), fOpenPanel(parts.console),
-          fTerminal(parts.console), fApplication([] { QCoreApplication::quit(); }) {}
+          fStatusField(std::make_shared<HeadlessStatusField>(machine.console)),
+          fAlerts(machine.console, machine.mainQueue), fView(machine.console),
+          fOpenPanel(machine.console), fTerminal(machine.console),
+          fApplication([] { QCoreApplication::quit(); }) {}
 
     Application& application() override { return fApplication; }
     std::shared_ptr<MainWindowController> windowController() override { return fWindowController; }
@@ -62,8 +64,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<Front> makeHeadlessFront(const FrontParts& parts) {
-    return std::make_unique<HeadlessFront>(parts);
+std::unique_ptr<Front> makeHeadlessFront(MachineParts& machine) {
+    return std::make_unique<HeadlessFront>(machine);
 }
 
 } // namespace kelvo

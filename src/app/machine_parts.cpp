@@ -7,6 +7,7 @@
 #include "ui/widgets/tray_icon.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <unistd.h>
 
@@ -36,6 +37,10 @@ MachineParts::~MachineParts() = default;
 
 std::unique_ptr<NetworkChecker> MachineParts::makeNetworkChecker() {
     return std::make_unique<KelvoSSID>(notificationCenter, mainQueue);
+}
+
+QString MachineParts::logFolder() const {
+    return QFileInfo(logFile.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo"))).path();
 }
 
 } // namespace kelvo

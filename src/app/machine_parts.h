@@ -35,6 +35,8 @@ struct MachineParts : PassMachine {
 
     StatusMenu& statusMenu() { return *fStatusMenu; }
     std::unique_ptr<NetworkChecker> makeNetworkChecker();
+    /// Where the log file lies.
+    QString logFolder() const;
 
     LocalChecklistProbe checklistProbe;
     LocalFileChanges fileChanges;

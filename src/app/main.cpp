@@ -69,11 +69,6 @@ int printAnswer(const kelvo::CommandAnswer& answer) {
     return answer.exitCode == 0 && !printed ? 1 : answer.exitCode;
 }
 
-int run(kelvo::FrontKind frontKind) {
-    kelvo::Program program(frontKind);
-    return program.run();
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -100,7 +95,7 @@ int main(int argc, char** argv) {
     }
     case kelvo::LaunchKind::Headless: {
         const QCoreApplication application(argc, argv);
-        return run(kelvo::FrontKind::Headless);
+        return kelvo::runProgram(kelvo::FrontKind::Headless);
     }
     case kelvo::LaunchKind::Window:
         break;
@@ -115,5 +110,5 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName(QStringLiteral("Kelvo Mirror"));
     QApplication::setDesktopFileName(QStringLiteral("org.kelvo.KelvoMirror"));
     QApplication::setQuitOnLastWindowClosed(false);
-    return run(kelvo::FrontKind::Window);
+    return kelvo::runProgram(kelvo::FrontKind::Window);
 }

@@ -17,7 +17,6 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QFileInfo>
 
 #include <unistd.h>
 
@@ -31,12 +30,10 @@ using namespace std::chrono_literals;
 /// How long a leave at once waits for the last lines to be written.
 constexpr auto cLastLines = 200ms;
 
-} // namespace
-
 /// The program's own parts, on top of those of the machine.
-class Program::Machine {
+class Program {
 public:
-    explicit Machine(FrontKind kind)
+    explicit Program(FrontKind kind)
         : fKind(kind), fParts(kind == FrontKind::Window),
           fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
                       [this] { terminate(); }),
@@ -59,7 +56,10 @@ public:
         fStoryboard.add(cMyViewControllerID, [this] { return makeViewController(); });
     }
 
-    ~Machine() {
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    ~Program() {
         fParts.end();
         fParts.defaults.synchronize();
     }
@@ -92,22 +92,8 @@ public:
 private:
     Front& front() {
         if (!fFront) {
-            const FrontParts parts{
-                .defaults = fParts.defaults,
-                .mainQueue = fParts.mainQueue,
-                .console = fParts.console,
-                .workspace = fParts.workspace,
-                .browser = fParts.dnssdBrowser,
-                .statusMenu = fParts.statusMenu(),
-                .terminal = fParts.terminal,
-                .logFolder = logFolder(),
-                .passes = fParts.passes,
-                .bgQueue = fParts.bgQueue,
-                .homeDirectory = fParts.files.homeDirectory(),
-                .checklistProbe = fParts.checklistProbe,
-                .loginItem = fParts.loginItem,
-            };
-            fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
+            fFront =
+                fKind == FrontKind::Window ? makeWindowFront(fParts) : makeHeadlessFront(fParts);
         }
         return *fFront;
     }
@@ -154,11 +140,6 @@ private:
         ::_exit(status);
     }
 
-    QString logFolder() const {
-        return QFileInfo(fParts.logFile.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")))
-            .path();
-    }
-
     static QString runningApplication() {
         return QStringLiteral("<NSRunningApplication: kelvo-mirror %1 - %2>")
             .arg(cVersion)
@@ -177,12 +158,10 @@ private:
     std::optional<AppDelegate> fDelegate;
 };
 
-Program::Program(FrontKind frontKind) : fMachine(std::make_unique<Machine>(frontKind)) {}
+} // namespace
 
-Program::~Program() = default;
-
-int Program::run() {
-    return fMachine->run();
+int runProgram(FrontKind kind) {
+    return Program(kind).run();
 }
 
 } // namespace kelvo

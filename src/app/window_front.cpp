@@ -1,5 +1,6 @@
 // The front with the main window.
 #include "app/front.h"
+#include "app/machine_parts.h"
 #include "app/start/app_delegate.h"
 #include "app/window_actions.h"
 #include "ports/dispatch_queue.h"
@@ -31,8 +32,8 @@ namespace {
 
 class WindowFront final : public Front {
 public:
-    explicit WindowFront(const FrontParts& parts)
-        : fParts(parts), fWindow(parts.defaults, parts.mainQueue), fView(fWindow),
+    explicit WindowFront(MachineParts& machine)
+        : fMachine(machine), fWindow(machine.defaults, machine.mainQueue), fView(fWindow),
           fApplication(fWindow, [this] { fClosePolicy.programQuits(); }),
           fStartButton(fWindow.ibStartButton(),
                        [this](Control* sender) { fController->ibStartRSyncProcess(sender); }),
@@ -44,10 +45,10 @@ public:
           fWindowController(
               std::make_shared<MainWindowController>([this] { fWindow.bringToFront(); })) {
         // Drawing the icon takes a while; the window does not wait for it.
-        parts.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
+        machine.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
         showServices(fFoundServices, fWindow.foundServices());
-        fWindow.activityTab().setStore(parts.passes);
-        fWindow.settingsTab().setLoginItem(parts.loginItem);
+        fWindow.activityTab().setStore(machine.passes);
+        fWindow.settingsTab().setLoginItem(machine.loginItem);
         fWindow.setMayClose([this] { return mayClose(); });
     }
 
@@ -60,13 +61,13 @@ public:
             .alertPresenter = fAlerts,
             .presentSheet =
                 [this](QStringView identifier) {
-                    return presentSheet(
-                        identifier,
-                        {fParts.defaults, fParts.mainQueue, fParts.console, fParts.browser},
-                        fWindow);
+                    return presentSheet(identifier,
+                                        {fMachine.defaults, fMachine.mainQueue, fMachine.console,
+                                         fMachine.dnssdBrowser},
+                                        fWindow);
                 },
             .openPanel = fOpenPanel,
-            .terminal = fParts.terminal,
+            .terminal = fMachine.terminal,
             .copyText = copyText,
             .fArrayController = fFoundServices,
             .ibStartButton = fStartButton,
@@ -80,15 +81,15 @@ public:
     void sendActionsTo(ViewController& controller, AppDelegate& delegate) override {
         fController = &controller;
         fDelegate = &delegate;
-        fOnceButtons = sendWindowActions(fWindow, controller, fParts.workspace, fPathControl);
+        fOnceButtons = sendWindowActions(fWindow, controller, fMachine.workspace, fPathControl);
         fWindow.syncTab().checklist().setRemedyChosen([this](Remedy remedy) { apply(remedy); });
         fChecklist.emplace(Checklist::Parts{
-            .defaults = fParts.defaults,
-            .mainQueue = fParts.mainQueue,
-            .bgQueue = fParts.bgQueue,
-            .homeDirectory = fParts.homeDirectory,
-            .probe = fParts.checklistProbe,
-            .passes = fParts.passes,
+            .defaults = fMachine.defaults,
+            .mainQueue = fMachine.mainQueue,
+            .bgQueue = fMachine.bgQueue,
+            .homeDirectory = fMachine.files.homeDirectory(),
+            .probe = fMachine.checklistProbe,
+            .passes = fMachine.passes,
             .show =
                 [this](const std::vector<ChecklistLine>& lines) {
                     fWindow.syncTab().checklist().setLines(lines);
@@ -98,7 +99,7 @@ public:
                          [this] { fChecklist->look(); });
         QObject::connect(&fWindow, &MainWindow::keyStateShown, &fWindow,
                          [this](KeyState state) { fChecklist->setKeyState(state); });
-        addApplicationMenu(fWindow, controller, delegate, fParts.workspace, fParts.logFolder,
+        addApplicationMenu(fWindow, controller, delegate, fMachine.workspace, fMachine.logFolder(),
                            [this] { fApplication.terminate(); });
     }
 
@@ -124,7 +125,7 @@ private:
 
     bool mayClose() {
         std::optional<ModalResponse> answer;
-        if (const auto note = fClosePolicy.noteBeforeClosing(fParts.statusMenu.isReachable()))
+        if (const auto note = fClosePolicy.noteBeforeClosing(fMachine.statusMenu().isReachable()))
             answer = fAlerts.runModal(*note);
         const CloseResult result = fClosePolicy.result(answer);
         if (result == CloseResult::Hide && fDelegate &&
@@ -133,7 +134,7 @@ private:
         return result != CloseResult::KeepOpen;
     }
 
-    const FrontParts fParts;
+    MachineParts& fMachine;
     ViewController* fController = nullptr;
     AppDelegate* fDelegate = nullptr;
     ClosePolicy fClosePolicy;
@@ -155,8 +156,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<Front> makeWindowFront(const FrontParts& parts) {
-    return std::make_unique<WindowFront>(parts);
+std::unique_ptr<Front> makeWindowFront(MachineParts& machine) {
+    return std::make_unique<WindowFront>(machine);
 }
 
 } // namespace kelvo
