@@ -14,11 +14,11 @@ class Application;
 class ArrayController;
 class BackgroundQueue;
 class Button;
-class ChecklistProbe;
 class Console;
 class Control;
 class DispatchQueue;
 class DnssdBrowser;
+class FileManager;
 class LoginItem;
 class MainView;
 class OpenPanel;
@@ -48,8 +48,7 @@ struct FrontParts {
     std::function<void(bool)> trouble;
     PassStore& passes;
     BackgroundQueue& bgQueue;
-    QString homeDirectory;
-    const ChecklistProbe& checklistProbe;
+    const FileManager& files;
     LoginItem& loginItem;
 };
 

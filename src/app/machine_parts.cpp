@@ -2,6 +2,7 @@
 
 #include "adapters/desktop/desktop_tray_host.h"
 #include "adapters/network/network_information.h"
+#include "adapters/system/private_places.h"
 #include "app/places.h"
 #include "app/version.h"
 #include "ui/widgets/tray_icon.h"
@@ -14,10 +15,9 @@ namespace kelvo {
 
 MachineParts::MachineParts(bool withTray)
     : console(STDOUT_FILENO, STDERR_FILENO, logFile), defaults(settingsFile(), mainQueue, console),
-      loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), fileChanges),
+      loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files),
       bundle(resourceFolder()), shell(console),
-      workspace(mainQueue, bgQueue, console, files.homeDirectory()),
-      terminal(temporaryFolder, console),
+      workspace(mainQueue, bgQueue, console, files.homeDirectory()), terminal(files, console),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, mainQueue,
                         bgQueue, console),
       singleCopy(runtimeFolder().path, console), dnssdBrowser(console),

@@ -15,14 +15,11 @@
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/posix_shell_runner.h"
 #include "adapters/process/qt_main_queue.h"
-#include "adapters/process/runtime_folder.h"
 #include "adapters/process/signal_pipe.h"
 #include "adapters/process/single_copy_socket.h"
 #include "adapters/process/thread_pool_queue.h"
 #include "adapters/settings/file_bundle.h"
 #include "adapters/settings/plist_defaults.h"
-#include "adapters/system/local_checklist_probe.h"
-#include "adapters/system/local_file_changes.h"
 #include "adapters/system/local_file_manager.h"
 #include "remote/share_commands.h"
 
@@ -49,10 +46,7 @@ struct MachineParts {
     QtMainQueue mainQueue;
     PlistDefaults defaults;
     LocalFileManager files;
-    LocalChecklistProbe checklistProbe;
-    LocalFileChanges fileChanges;
     AutostartEntry loginItem;
-    UserTemporaryFolder temporaryFolder;
     PlatformShareCommands shareCommands;
     FileBundle bundle;
     LocalNotificationCenter notificationCenter;

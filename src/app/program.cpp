@@ -109,8 +109,7 @@ private:
                 .trouble = [this](bool trouble) { fStatusMenu.setTrouble(trouble); },
                 .passes = fPasses.store,
                 .bgQueue = fParts.bgQueue,
-                .homeDirectory = fParts.files.homeDirectory(),
-                .checklistProbe = fParts.checklistProbe,
+                .files = fParts.files,
                 .loginItem = fParts.loginItem,
             };
             fFront = fKind == FrontKind::Window ? makeWindowFront(parts) : makeHeadlessFront(parts);
@@ -137,8 +136,6 @@ private:
             .dnssdBrowser = fParts.dnssdBrowser,
             .makeKelvoSSID = [this] { return fParts.makeNetworkChecker(); },
             .statusMenu = fStatusMenu,
-            .temporaryFolder = fParts.temporaryFolder,
-            .fileChanges = fParts.fileChanges,
             .terminal = outlets.terminal,
             .pasteboard = outlets.pasteboard,
             .shareCommands = fParts.shareCommands,

@@ -77,11 +77,11 @@ public:
         fDelegate = &delegate;
         fOnceButtons = sendWindowActions(fWindow, controller, fParts.workspace, fPathControl);
         fWindow.syncTab().checklist().setMend([this](Mend mend) { mendBy(mend); });
-        fChecklist.emplace(Checklist::Parts{
-            fParts.defaults, fParts.mainQueue, fParts.bgQueue, fParts.homeDirectory,
-            fParts.checklistProbe, fParts.passes, [this](const std::vector<ChecklistLine>& lines) {
-                fWindow.syncTab().checklist().setLines(lines);
-            }});
+        fChecklist.emplace(Checklist::Parts{fParts.defaults, fParts.mainQueue, fParts.bgQueue,
+                                            fParts.files, fParts.passes,
+                                            [this](const std::vector<ChecklistLine>& lines) {
+                                                fWindow.syncTab().checklist().setLines(lines);
+                                            }});
         QObject::connect(&fWindow, &MainWindow::activated, &fWindow,
                          [this] { fChecklist->look(); });
         QObject::connect(&fWindow, &MainWindow::keyStateShown, &fWindow,

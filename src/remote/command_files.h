@@ -10,18 +10,14 @@
 namespace kelvo {
 
 class Console;
-class FileChanges;
 class FileManager;
 class ShellRunner;
-class TemporaryFolder;
 
 /// What the steps work with; the references outlive them.
 struct CommandFileParts {
     Console& console;
-    const FileManager& files;
-    FileChanges& changes;
+    FileManager& files;
     ShellRunner& shell;
-    const TemporaryFolder& temporaryFolder;
     Terminal& terminal;
 };
 

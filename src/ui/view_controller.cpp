@@ -72,7 +72,6 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .workspace = parts.workspace,
           .files = parts.files,
           .fNsPathControl1 = parts.fNsPathControl1,
-          .temporaryFolder = parts.temporaryFolder,
       }),
       fRevealButtonWatchers({
           .defaults = parts.defaults,
@@ -103,9 +102,7 @@ ViewController::ViewController(const ViewControllerParts& parts)
       fTerminalNotice(fAlerts, parts.pasteboard), fCommandFiles({
                                                       .console = parts.console,
                                                       .files = parts.files,
-                                                      .changes = parts.fileChanges,
                                                       .shell = parts.shell,
-                                                      .temporaryFolder = parts.temporaryFolder,
                                                       .terminal = parts.terminal,
                                                   }),
       fConnectionTest({

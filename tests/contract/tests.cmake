@@ -11,14 +11,13 @@ kelvo_tests(contract
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
     contract/bus_notices_test.cpp
-    contract/checklist_probe_test.cpp
     contract/console_contract_test.cpp
     contract/dispatch_queue_contract_test.cpp
     contract/dnssd_browser_contract_test.cpp
     contract/factory_template_test.cpp
+    contract/file_manager_contract_test.cpp
     contract/file_watch_test.cpp
     contract/line_backlog_test.cpp
-    contract/local_file_changes_test.cpp
     contract/local_file_manager_test.cpp
     contract/log_file_contract_test.cpp
     contract/login_item_contract_test.cpp

@@ -52,8 +52,6 @@ public:
     ManualBackgroundQueue bgQueue;
     ScriptedShell shell;
     FakeFileManager files;
-    FakeFileChanges fileChanges{files};
-    FakeTemporaryFolder temporaryFolder;
     FakeTerminal terminal;
     FakePasteboard pasteboard;
     GioShareCommands shareCommands;
@@ -101,8 +99,6 @@ public:
                                                             QStringLiteral("Connected"));
             },
         .statusMenu = statusMenu,
-        .temporaryFolder = temporaryFolder,
-        .fileChanges = fileChanges,
         .terminal = terminal,
         .pasteboard = pasteboard,
         .shareCommands = shareCommands,

@@ -2,6 +2,7 @@
 
 #include "adapters/system/unique_fd.h"
 #include "ports/console.h"
+#include "support/system_error_text.h"
 
 #include <QSocketNotifier>
 
@@ -16,7 +17,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -34,7 +34,7 @@ constexpr std::size_t cMostGuests = 16;
 constexpr auto cRetryPause = 50ms;
 
 QString lastFault() {
-    return QString::fromLocal8Bit(std::strerror(errno)); // NOLINT(concurrency-mt-unsafe)
+    return systemErrorText(errno);
 }
 
 std::optional<sockaddr_un> socketAddress(const std::string& path) {

@@ -8,9 +8,9 @@
 #include "ports/sentinel_launcher.h"
 #include "ports/signals.h"
 #include "ports/user_defaults.h"
+#include "support/system_error_text.h"
 
 #include <csignal>
-#include <cstring>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -44,8 +44,7 @@ public:
         Subscription source = fParts.signals.catchSignal(number, std::move(handler), error);
         if (error != 0)
             fParts.console.log(QStringLiteral("tried to ignore %1 but got '%2'")
-                                   .arg(description(number),
-                                        QString::fromLocal8Bit(std::strerror(error)))); // NOLINT
+                                   .arg(description(number), systemErrorText(error)));
         return source;
     }
 
