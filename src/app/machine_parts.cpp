@@ -20,7 +20,7 @@ MachineParts::MachineParts(bool withTray)
       workspace(mainQueue, bgQueue, console, files.homeDirectory()), terminal(files, console),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), shell, mainQueue,
                         bgQueue, console),
-      singleCopy(runtimeFolder().path, console), dnssdBrowser(console),
+      singleCopy(runtimeFolder().path, console), dnssdBrowser(console, mainQueue),
       notices([this](const QString& title, const QString& text) {
           if (auto* tray = dynamic_cast<DesktopNotices*>(fStatusMenu.get()))
               tray->showNotice(title, text);

@@ -10,7 +10,6 @@
 #include "adapters/desktop/system_information.h"
 #include "adapters/desktop/terminal_window.h"
 #include "adapters/network/avahi_browser.h"
-#include "adapters/network/avahi_network_browser.h"
 #include "adapters/process/local_notification_center.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/posix_shell_runner.h"
@@ -59,7 +58,6 @@ struct MachineParts {
     SignalPipe signals;
     PosixSentinelLauncher sentinelLauncher;
     AvahiBrowser dnssdBrowser;
-    AvahiNetworkBrowser networkBrowser;
     BusNotices notices;
 
 private:

@@ -132,7 +132,6 @@ private:
             .watchdog = fRelaunchGuard,
             .workspace = fParts.workspace,
             .openPanel = outlets.openPanel,
-            .networkBrowser = fParts.networkBrowser,
             .dnssdBrowser = fParts.dnssdBrowser,
             .makeKelvoSSID = [this] { return fParts.makeNetworkChecker(); },
             .statusMenu = fStatusMenu,

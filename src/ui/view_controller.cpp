@@ -87,7 +87,7 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .notificationCenter = parts.notificationCenter,
           .mainQueue = parts.mainQueue,
           .console = parts.console,
-          .browser = parts.networkBrowser,
+          .browser = parts.dnssdBrowser,
           .makeKelvoSSID = parts.makeKelvoSSID,
           .showNetworkStatus =
               [&view = parts.view](const QString& text) { view.showNetworkStatus(text); },

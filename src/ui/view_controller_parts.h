@@ -18,7 +18,6 @@ class DispatchQueue;
 class DnssdBrowser;
 class FileManager;
 class MainView;
-class NetworkBrowser;
 class NetworkChecker;
 class NotificationCenter;
 class OpenPanel;
@@ -50,7 +49,6 @@ struct ViewControllerParts {
     RelaunchGuard& watchdog;
     Workspace& workspace;
     OpenPanel& openPanel;
-    NetworkBrowser& networkBrowser;
     DnssdBrowser& dnssdBrowser;
     std::function<std::unique_ptr<NetworkChecker>()> makeKelvoSSID;
     StatusMenuPresence& statusMenu;

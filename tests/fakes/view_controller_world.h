@@ -62,7 +62,6 @@ public:
     FakeRelaunchGuard watchdog;
     FakeWorkspace workspace;
     FakeOpenPanel openPanel;
-    FakeNetworkBrowser networkBrowser;
     ScriptedBrowser dnssdBrowser;
     FakeSheetOpener sheets;
     FakeArrayController foundServices;
@@ -91,7 +90,6 @@ public:
         .watchdog = watchdog,
         .workspace = workspace,
         .openPanel = openPanel,
-        .networkBrowser = networkBrowser,
         .dnssdBrowser = dnssdBrowser,
         .makeKelvoSSID =
             [this] {

@@ -2,6 +2,7 @@
 #include "fakes/fake_network.h"
 #include "fakes/recording_console.h"
 #include "fakes/recording_notification_center.h"
+#include "fakes/scripted_browser.h"
 #include "fakes/virtual_queues.h"
 #include "ports/notification_text.h"
 
@@ -37,7 +38,7 @@ protected:
     RecordingNotificationCenter center;
     VirtualMainQueue mainQueue;
     RecordingConsole console;
-    FakeNetworkBrowser browser;
+    ScriptedBrowser browser;
     FakeNetworkChecker* checker = nullptr;
     int made = 0;
     QStringList shown;
@@ -160,7 +161,7 @@ TEST_F(NetworkPathMonitoringTest, Destroyed_HearsNothingMore) {
 TEST_F(NetworkPathMonitoringTest, TestBrowser_LooksForSmbWithPeersIncluded) {
     monitoring.ibTestNWBrowser(nullptr);
     ASSERT_EQ(browser.searches.size(), 1U);
-    const NetworkBrowserRequest& request = browser.searches[0].request;
+    const EndpointRequest& request = browser.searches[0].request;
     EXPECT_EQ(request.type, u"_smb._tcp");
     EXPECT_EQ(request.domain, u"local.");
     EXPECT_TRUE(request.includePeerToPeer);
@@ -170,9 +171,9 @@ TEST_F(NetworkPathMonitoringTest, TestBrowser_LooksForSmbWithPeersIncluded) {
 TEST_F(NetworkPathMonitoringTest, BrowserStates_PrintOnlyReadyAndFailed) {
     monitoring.ibTestNWBrowser(nullptr);
     console.clear();
-    using Kind = NetworkBrowserState::Kind;
+    using Kind = EndpointSearchState::Kind;
     for (const Kind kind : {Kind::Setup, Kind::Waiting, Kind::Ready, Kind::Failed, Kind::Cancelled})
-        browser.searches[0].state({kind, QStringLiteral("no daemon")});
+        browser.searches[0].listener.stateChanged({kind, QStringLiteral("no daemon")});
     EXPECT_EQ(console.printed(),
               (QStringList{QStringLiteral("ready"), QStringLiteral("error: no daemon")}));
 }
@@ -181,8 +182,9 @@ TEST_F(NetworkPathMonitoringTest, Results_GrowWithEveryChangeOfEverySearch) {
     monitoring.ibTestNWBrowser(nullptr);
     monitoring.ibTestNWBrowser(nullptr);
     console.clear();
-    browser.searches[0].results({QStringLiteral("A._smb._tcp.local."), QStringLiteral("B \"b\"")});
-    browser.searches[1].results({QStringLiteral("C")});
+    browser.searches[0].listener.endpointsChanged(
+        {QStringLiteral("A._smb._tcp.local."), QStringLiteral("B \"b\"")});
+    browser.searches[1].listener.endpointsChanged({QStringLiteral("C")});
     const QStringList bars{QStringLiteral("==============================bbb"),
                            QStringLiteral("==============================111"),
                            QStringLiteral("==============================222")};
@@ -195,7 +197,7 @@ TEST_F(NetworkPathMonitoringTest, Results_GrowWithEveryChangeOfEverySearch) {
 
 TEST_F(NetworkPathMonitoringTest, EmptyResults_PrintAnEmptyList) {
     monitoring.ibTestNWBrowser(nullptr);
-    browser.searches[0].results({});
+    browser.searches[0].listener.endpointsChanged({});
     EXPECT_EQ(console.printed().at(3), u"[]");
 }
 
