@@ -1,9 +1,6 @@
 // The front without a window.
-#include "adapters/console/headless_bonjour.h"
 #include "adapters/console/headless_desktop.h"
 #include "adapters/console/headless_outlets.h"
-#include "adapters/console/headless_terminal.h"
-#include "adapters/console/headless_view.h"
 #include "app/front.h"
 #include "app/main_window_controller.h"
 #include "ui/observed_status_field.h"

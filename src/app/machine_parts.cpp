@@ -22,12 +22,14 @@ MachineParts::MachineParts(bool withTray)
                         bgQueue, console),
       singleCopy(runtimeFolder().path, console), dnssdBrowser(console, mainQueue),
       notices([this](const QString& title, const QString& text) {
-          if (auto* tray = dynamic_cast<DesktopNotices*>(fStatusMenu.get()))
-              tray->showNotice(title, text);
+          if (fTrayIcon)
+              fTrayIcon->showNotice(title, text);
       }) {
     if (withTray) {
         fTrayHost = std::make_unique<DesktopTrayHost>();
-        fStatusMenu = std::make_unique<TrayIcon>(*fTrayHost);
+        auto icon = std::make_unique<TrayIcon>(*fTrayHost);
+        fTrayIcon = icon.get();
+        fStatusMenu = std::move(icon);
     } else {
         fStatusMenu = std::make_unique<HeadlessStatusMenu>();
     }

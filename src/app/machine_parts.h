@@ -1,7 +1,7 @@
 // MachineParts: the real adapters, each after those it works with.
 #pragma once
 
-#include "adapters/console/headless_status_menu.h"
+#include "adapters/console/headless_desktop.h"
 #include "adapters/console/rotating_log_file.h"
 #include "adapters/console/stream_console.h"
 #include "adapters/desktop/autostart_entry.h"
@@ -28,6 +28,7 @@ namespace kelvo {
 
 class NetworkChecker;
 class TrayHost;
+class TrayIcon;
 
 /// Main thread only; made once the application object exists.
 struct MachineParts {
@@ -63,6 +64,7 @@ struct MachineParts {
 private:
     std::unique_ptr<TrayHost> fTrayHost;
     std::unique_ptr<StatusMenu> fStatusMenu;
+    TrayIcon* fTrayIcon = nullptr; ///< the status menu, where there is a tray
 };
 
 } // namespace kelvo

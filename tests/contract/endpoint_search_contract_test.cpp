@@ -7,6 +7,7 @@
 #include "support/discovery_service.h"
 #include "support/session_bus.h"
 #include "support/wait_in_loop.h"
+#include "support/wait_until.h"
 
 #include <QDBusConnectionInterface>
 
@@ -46,6 +47,7 @@ class ScriptedNetwork {
 public:
     QString prepare() { return {}; }
     DnssdBrowser& browser() { return *fBrowser; }
+    bool wasAsked() const { return !fBrowser->searches.empty(); }
     void destroyBrowser() { fBrowser.reset(); }
     void setRunning(bool running) { fBrowser->setRunning(running); }
     bool becomes(const std::function<bool()>& condition, int = 0) {
@@ -72,6 +74,10 @@ public:
         return theirs.get().isConnected() ? QString() : QStringLiteral("no message bus");
     }
     DnssdBrowser& browser() { return *fBrowser; }
+    /// Nothing is told before the event loop runs.
+    bool wasAsked() const {
+        return waitUntil([this] { return !service.asked().isEmpty(); });
+    }
     void destroyBrowser() { fBrowser.reset(); }
     void setRunning(bool running) { EXPECT_TRUE(running ? service.appear() : service.disappear()); }
     bool becomes(const std::function<bool()>& condition, int seconds = 20) {
@@ -201,6 +207,7 @@ TYPED_TEST(EndpointSearchContractTest, ServiceRestarted_IsSearchedAfresh) {
 TYPED_TEST(EndpointSearchContractTest, Destroyed_TellsNothingMore) {
     this->network.setRunning(true);
     this->search(this->heard);
+    ASSERT_TRUE(this->network.wasAsked());
     this->network.destroyBrowser();
     (void)this->network.becomes([&] { return !this->heard.states.isEmpty(); }, 1);
     EXPECT_TRUE(this->heard.states.isEmpty());
@@ -273,6 +280,7 @@ TEST_F(AvahiEndpointSearchTest, BothProtocolsOfAnInterface_AreOneEndpoint) {
     network.tell(QStringLiteral("ItemNew"), 999'999, 0, QStringLiteral("B\n\x1b"));
     EXPECT_TRUE(
         lastResultIs(QStringLiteral("A._smb._tcp.local.@lo | B\\x0a\\x1b._smb._tcp.local.")));
+    EXPECT_EQ(heard.results.at(1), u"A._smb._tcp.local.@lo") << "heard over both";
 }
 
 TEST_F(AvahiEndpointSearchTest, FoundBeforeTheAnswer_IsNotLost) {

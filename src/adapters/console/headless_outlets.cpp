@@ -12,6 +12,11 @@ QString onOneLine(QString text) {
 
 } // namespace
 
+void HeadlessView::showNetworkStatus(const QString& text) {
+    if (!text.isEmpty())
+        fConsole.print(u"network: " + text);
+}
+
 void HeadlessButton::performClick() {
     fState = 1 - fState;
     fAction(this);
@@ -52,6 +57,15 @@ void HeadlessAlerts::answer(SheetId sheet, ModalResponse response) {
     auto answered = fOpenSheets.extract(sheet);
     if (answered)
         fMainQueue.async([handler = std::move(answered.mapped()), response] { handler(response); });
+}
+
+std::optional<QString> HeadlessPathControl::url() const {
+    return fUrl.isEmpty() ? std::nullopt : std::optional(fUrl);
+}
+
+bool HeadlessSheetOpener::presentSheet(QStringView identifier) {
+    fConsole.print(QString(u"There is no window to show the sheet " + identifier + u" on."));
+    return identifier == cBonjourSheet;
 }
 
 } // namespace kelvo

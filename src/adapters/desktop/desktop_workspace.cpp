@@ -1,6 +1,6 @@
 #include "adapters/desktop/desktop_workspace.h"
 
-#include "adapters/process/detached_start.h"
+#include "adapters/system/detached_start.h"
 #include "adapters/system/pidfd.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"

@@ -1,6 +1,6 @@
 #include "adapters/desktop/terminal_window.h"
 
-#include "adapters/process/detached_start.h"
+#include "adapters/system/detached_start.h"
 #include "adapters/system/pidfd.h"
 #include "ports/console.h"
 #include "ports/file_manager.h"

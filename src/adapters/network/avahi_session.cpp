@@ -1,7 +1,6 @@
 #include "adapters/network/avahi_session.h"
 
 #include "adapters/network/neighbour_table.h"
-#include "adapters/network/service_answer.h"
 #include "ports/console.h"
 #include "support/text.h"
 

@@ -3,8 +3,8 @@
 
 #include "adapters/network/avahi_handles.h"
 #include "adapters/network/endpoint_search.h"
-#include "adapters/network/refused_names.h"
 #include "adapters/network/resolver_pool.h"
+#include "adapters/network/service_answer.h"
 #include "adapters/network/service_table.h"
 
 namespace kelvo {

@@ -1,9 +1,10 @@
 #include "adapters/passes/pass_database.h"
 
-#include "adapters/passes/pass_columns.h"
+#include "adapters/passes/pass_statements.h"
 #include "adapters/system/private_places.h"
 #include "adapters/system/unique_fd.h"
 #include "support/system_error_text.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSqlError>

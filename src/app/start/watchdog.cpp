@@ -186,7 +186,7 @@ private:
     std::once_flag fKeepOnce;
     std::optional<std::map<QString, Subscription>> fSignalSources;
     std::mutex fMutex; ///< for what follows
-    std::unique_ptr<SentinelTask> fTaskWatchdog;
+    std::optional<SentinelTask> fTaskWatchdog;
     Subscription fWillTerminate;
 };
 
