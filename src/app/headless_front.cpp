@@ -1,8 +1,6 @@
 // The front without a window.
 #include "adapters/console/headless_desktop.h"
 #include "adapters/console/headless_outlets.h"
-#include "adapters/console/headless_terminal.h"
-#include "adapters/console/headless_view.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
 #include "support/array_controller.h"

@@ -2,6 +2,7 @@
 
 #include "adapters/desktop/desktop_tray_host.h"
 #include "adapters/network/network_information.h"
+#include "adapters/system/private_places.h"
 #include "app/places.h"
 #include "app/version.h"
 #include "ui/widgets/tray_icon.h"
@@ -15,19 +16,20 @@ namespace kelvo {
 
 MachineParts::MachineParts(bool withTray)
     : PassMachine(STDOUT_FILENO, STDERR_FILENO),
-      loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), fileChanges),
-      workspace(mainQueue, bgQueue, console, files.homeDirectory()),
-      terminal(temporaryFolder, console),
+      loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files),
+      workspace(mainQueue, bgQueue, console, files.homeDirectory()), terminal(files, console),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
-      singleCopy(runtimeFolder().path, console), dnssdBrowser(console),
+      singleCopy(runtimeFolder().path, console), dnssdBrowser(console, mainQueue),
       notices([this](const QString& title, const QString& text) {
-          if (auto* tray = dynamic_cast<DesktopNotices*>(fStatusMenu.get()))
-              tray->showNotice(title, text);
+          if (fTrayIcon)
+              fTrayIcon->showNotice(title, text);
       }) {
     if (withTray) {
         fTrayHost = std::make_unique<DesktopTrayHost>();
-        fStatusMenu = std::make_unique<TrayIcon>(*fTrayHost);
+        auto icon = std::make_unique<TrayIcon>(*fTrayHost);
+        fTrayIcon = icon.get();
+        fStatusMenu = std::move(icon);
     } else {
         fStatusMenu = std::make_unique<HeadlessStatusMenu>();
     }

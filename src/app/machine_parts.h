@@ -1,19 +1,15 @@
 // MachineParts: the real adapters of a program with a front, beyond those that passes need.
 #pragma once
 
-#include "adapters/console/headless_status_menu.h"
+#include "adapters/console/headless_desktop.h"
 #include "adapters/desktop/autostart_entry.h"
 #include "adapters/desktop/bus_notices.h"
 #include "adapters/desktop/desktop_workspace.h"
 #include "adapters/desktop/system_information.h"
 #include "adapters/desktop/terminal_window.h"
 #include "adapters/network/avahi_browser.h"
-#include "adapters/network/avahi_network_browser.h"
 #include "adapters/process/posix_sentinel_launcher.h"
-#include "adapters/process/runtime_folder.h"
 #include "adapters/process/single_copy_socket.h"
-#include "adapters/system/local_checklist_probe.h"
-#include "adapters/system/local_file_changes.h"
 #include "app/pass_machine.h"
 #include "remote/share_commands.h"
 #include "support/notification_center.h"
@@ -24,6 +20,7 @@ namespace kelvo {
 
 class NetworkChecker;
 class TrayHost;
+class TrayIcon;
 
 /// Main thread only; made once the application object exists.
 struct MachineParts : PassMachine {
@@ -38,10 +35,7 @@ struct MachineParts : PassMachine {
     /// Where the log file lies.
     QString logFolder() const;
 
-    LocalChecklistProbe checklistProbe;
-    LocalFileChanges fileChanges;
     AutostartEntry loginItem;
-    UserTemporaryFolder temporaryFolder;
     PlatformShareCommands shareCommands;
     NotificationCenter notificationCenter;
     DesktopWorkspace workspace;
@@ -50,12 +44,12 @@ struct MachineParts : PassMachine {
     SingleCopySocket singleCopy;
     PosixSentinelLauncher sentinelLauncher;
     AvahiBrowser dnssdBrowser;
-    AvahiNetworkBrowser networkBrowser;
     BusNotices notices;
 
 private:
     std::unique_ptr<TrayHost> fTrayHost;
     std::unique_ptr<StatusMenu> fStatusMenu;
+    TrayIcon* fTrayIcon = nullptr; ///< the status menu, where there is a tray
 };
 
 } // namespace kelvo

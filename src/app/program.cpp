@@ -106,12 +106,9 @@ private:
             .bundle = fParts.bundle,
             .quitAndRelaunch = Watchdog::quitAndRelaunch,
             .workspace = fParts.workspace,
-            .networkBrowser = fParts.networkBrowser,
             .dnssdBrowser = fParts.dnssdBrowser,
             .makeKelvoSSID = [this] { return fParts.makeNetworkChecker(); },
             .statusMenu = fStatusMenu,
-            .temporaryFolder = fParts.temporaryFolder,
-            .fileChanges = fParts.fileChanges,
             .shareCommands = fParts.shareCommands,
             .windowController = [this]() -> MainWindowController* {
                 MainWindowController& window = *front().windowController();

@@ -87,8 +87,7 @@ public:
             .defaults = fMachine.defaults,
             .mainQueue = fMachine.mainQueue,
             .bgQueue = fMachine.bgQueue,
-            .homeDirectory = fMachine.files.homeDirectory(),
-            .probe = fMachine.checklistProbe,
+            .files = fMachine.files,
             .passes = fMachine.passes,
             .show =
                 [this](const std::vector<ChecklistLine>& lines) {

@@ -2,7 +2,7 @@
 
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
-#include "ports/network_browser.h"
+#include "ports/dnssd_browser.h"
 #include "ports/network_checker.h"
 #include "support/notification_center.h"
 #include "support/text.h"
@@ -62,15 +62,18 @@ void NetworkPathMonitoring::handleNWPathMonitorNotification(const Notification& 
 
 void NetworkPathMonitoring::ibTestNWBrowser(Control*) {
     printInside(u"ibTestNWBrowser(_:)");
-    fParts.browser.start(
-        {QStringLiteral("_smb._tcp"), QStringLiteral("local."), true},
-        [this](const NetworkBrowserState& state) {
-            if (state.kind == NetworkBrowserState::Kind::Failed)
-                fParts.console.print(u"error: " + state.errorText);
-            else if (state.kind == NetworkBrowserState::Kind::Ready)
-                fParts.console.print(QStringLiteral("ready"));
-        },
-        [this](const QStringList& endpoints) { gather(endpoints); });
+    const auto printState = [this](const EndpointSearchState& state) {
+        if (state.kind == EndpointSearchState::Kind::Failed)
+            fParts.console.print(u"error: " + state.errorText);
+        else if (state.kind == EndpointSearchState::Kind::Ready)
+            fParts.console.print(QStringLiteral("ready"));
+    };
+    fParts.browser.searchEndpoints(
+        {.type = QStringLiteral("_smb._tcp"),
+         .domain = QStringLiteral("local."),
+         .includePeerToPeer = true},
+        {.stateChanged = printState,
+         .endpointsChanged = [this](const QStringList& endpoints) { gather(endpoints); }});
 }
 
 void NetworkPathMonitoring::gather(const QStringList& endpoints) {

@@ -16,7 +16,7 @@ namespace kelvo {
 class Console;
 class Control;
 class DispatchQueue;
-class NetworkBrowser;
+class DnssdBrowser;
 class NetworkChecker;
 class NotificationCenter;
 struct Notification;
@@ -26,7 +26,7 @@ struct NetworkPathMonitoringParts {
     NotificationCenter& notificationCenter;
     DispatchQueue& mainQueue;
     Console& console;
-    NetworkBrowser& browser;
+    DnssdBrowser& browser;
     /// May answer with nothing: then nothing is watched.
     std::function<std::unique_ptr<NetworkChecker>()> makeKelvoSSID;
     /// Receives the text of the network line whenever it is set, on the main thread.

@@ -4,10 +4,31 @@
 #include "support/dnssd_service.h"
 
 #include <QString>
+#include <QStringList>
+
+#include <functional>
 
 namespace kelvo {
 
-/// One browser is shared by all who look. Main thread only; neither operation waits for anything.
+struct EndpointRequest {
+    QString type;   ///< "_smb._tcp"
+    QString domain; ///< "local."
+    bool includePeerToPeer = false;
+};
+
+struct EndpointSearchState {
+    enum class Kind { Setup, Ready, Waiting, Failed, Cancelled } kind = Kind::Setup;
+    QString errorText; ///< for people, when Failed
+};
+
+/// Hears of one search for endpoints.
+struct EndpointListener {
+    std::function<void(const EndpointSearchState&)> stateChanged;
+    /// Receives the debug description of every endpoint there is, in the order of discovery.
+    std::function<void(const QStringList& endpoints)> endpointsChanged;
+};
+
+/// One browser is shared by all who look. Main thread only; no operation waits for anything.
 class DnssdBrowser {
 public:
     virtual ~DnssdBrowser() = default;
@@ -24,6 +45,14 @@ public:
     /// and so do all while the discovery service is away. Names that must not reach a shell are
     /// left out and logged once.
     virtual DNSSD_Services services() const = 0;
+
+    /// Begins one more search of its own, for a person who tests the network; it goes on as long as
+    /// this browser lives and resolves nothing. The listener is told later on the main thread: of
+    /// each change of state, and at each change of what is found of all there is. Without a
+    /// discovery service the search fails; it is ready as soon as there is one, waits while that is
+    /// away again, and nothing counts as found meanwhile. Once the browser is destroyed nothing is
+    /// told.
+    virtual void searchEndpoints(const EndpointRequest& request, EndpointListener listener) = 0;
 };
 
 } // namespace kelvo

@@ -5,7 +5,8 @@
 #include <QStringList>
 
 #include <functional>
-#include <memory>
+#include <optional>
+#include <utility>
 
 namespace kelvo {
 
@@ -13,10 +14,17 @@ namespace kelvo {
 /// not end the sentinel. One that was asked to end before is waited for, a second at most.
 class SentinelTask {
 public:
-    virtual ~SentinelTask() = default;
+    /// The launcher's way to ask; what it holds on to watches the sentinel.
+    explicit SentinelTask(std::function<void()> terminate) : fTerminate(std::move(terminate)) {}
+
+    SentinelTask(SentinelTask&&) = default;
+    SentinelTask& operator=(SentinelTask&&) = default;
 
     /// Asks the sentinel to end and returns at once. One that has ended is left alone. Any thread.
-    virtual void terminate() = 0;
+    void terminate() const { fTerminate(); }
+
+private:
+    std::function<void()> fTerminate;
 };
 
 class SentinelLauncher {
@@ -34,8 +42,8 @@ public:
     /// this process, and no terminal or signal meant for this process reaches it. `terminated` (may
     /// be empty) is called once, when it has ended, on a thread of the launcher's own. Nothing
     /// when it cannot be started. Any thread.
-    virtual std::unique_ptr<SentinelTask> launch(const QString& path, const QStringList& arguments,
-                                                 Terminated terminated) = 0;
+    virtual std::optional<SentinelTask> launch(const QString& path, const QStringList& arguments,
+                                               Terminated terminated) = 0;
 };
 
 } // namespace kelvo

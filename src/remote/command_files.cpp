@@ -2,9 +2,7 @@
 
 #include "ports/command_runner.h"
 #include "ports/console.h"
-#include "ports/file_changes.h"
 #include "ports/file_manager.h"
-#include "ports/temporary_folder.h"
 #include "support/text.h"
 
 #include <utility>
@@ -27,7 +25,7 @@ bool CommandFiles::removeIfThere(const QString& path) {
     fParts.console.print(insideLine(u"URL", operation));
     if (!fParts.files.fileExistsAtPath(path))
         return true;
-    const FileFault fault = fParts.changes.removeItem(path);
+    const FileFault fault = fParts.files.removeItem(path);
     if (fault)
         fParts.console.print(
             insideLine(u"URL", operation, QString(u".......removeItem ERROR = " + *fault)));
@@ -43,7 +41,7 @@ QString CommandFiles::chmodAsExecutable(const QString& path) {
 }
 
 QString CommandFiles::chmodAsExecutableBySystemCall(const QString& path) {
-    const QString result = QString::number(fParts.changes.changeMode(path, cExecutable));
+    const QString result = QString::number(fParts.files.changeMode(path, cExecutable));
     fParts.console.print(u"chmod result = [" + result + u']');
     return result == u"0" ? QString() : result;
 }
@@ -64,7 +62,7 @@ void CommandFiles::openScript(const QString& path, const QString& command,
 }
 
 QString CommandFiles::scriptPath() {
-    const FolderOrFault folder = fParts.temporaryFolder.temporaryFolder();
+    const FolderOrFault folder = fParts.files.temporaryFolder();
     if (!folder.path.isEmpty())
         return appendingPathComponent(folder.path, cScriptName);
     fParts.console.print(u"ooops bad..." + folder.fault);
@@ -72,14 +70,14 @@ QString CommandFiles::scriptPath() {
 }
 
 bool CommandFiles::writeScript(const QString& path, const QString& command) {
-    const FileFault fault = fParts.changes.writeAtomically(path, QString(command + u'\n').toUtf8());
+    const FileFault fault = fParts.files.writeAtomically(path, QString(command + u'\n').toUtf8());
     if (fault)
         fParts.console.print(u"ooops bad..." + *fault);
     return !fault;
 }
 
 bool CommandFiles::removeOldScript(const QString& path) {
-    if (!fParts.files.fileExistsAtPath(path) || !fParts.changes.removeItem(path))
+    if (!fParts.files.fileExistsAtPath(path) || !fParts.files.removeItem(path))
         return true;
     fParts.console.print(QStringLiteral("ooops -did not delete that file"));
     fParts.console.print(

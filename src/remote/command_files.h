@@ -10,18 +10,14 @@
 namespace kelvo {
 
 class Console;
-class FileChanges;
 class FileManager;
 class CommandRunner;
-class TemporaryFolder;
 
 /// What the steps work with; the references outlive them.
 struct CommandFileParts {
     Console& console;
-    const FileManager& files;
-    FileChanges& changes;
+    FileManager& files;
     CommandRunner& shell;
-    const TemporaryFolder& temporaryFolder;
     Terminal& terminal;
 };
 

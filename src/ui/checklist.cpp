@@ -1,7 +1,7 @@
 #include "ui/checklist.h"
 
-#include "ports/checklist_probe.h"
 #include "ports/dispatch_queue.h"
+#include "ports/file_manager.h"
 #include "ports/pass_store.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
@@ -88,12 +88,12 @@ void Checklist::look() {
     const QString destination = text(defaults, prefPath2);
     facts.destinationChosen = !destination.isEmpty();
     fParts.bgQueue.async([this, facts,
-                          destination = expandingTilde(destination, fParts.homeDirectory),
-                          look = ++fLooks, alive = std::weak_ptr(fAlive), &probe = fParts.probe,
+                          destination = expandingTilde(destination, fParts.files.homeDirectory()),
+                          look = ++fLooks, alive = std::weak_ptr(fAlive), &files = fParts.files,
                           &mainQueue = fParts.mainQueue]() mutable {
-        facts.destinationWritable = probe.isWritableFolder(destination);
-        facts.rsyncThere = probe.isProgram(QStringLiteral("/usr/bin/rsync"));
-        facts.sshThere = probe.isProgram(QStringLiteral("/usr/bin/ssh"));
+        facts.destinationWritable = files.isWritableFolder(destination);
+        facts.rsyncThere = files.isProgram(QStringLiteral("/usr/bin/rsync"));
+        facts.sshThere = files.isProgram(QStringLiteral("/usr/bin/ssh"));
         mainQueue.async([this, facts, look, alive] {
             if (!alive.expired() && look == fLooks)
                 fParts.show(checklist(facts));

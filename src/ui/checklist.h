@@ -15,8 +15,8 @@
 namespace kelvo {
 
 class BackgroundQueue;
-class ChecklistProbe;
 class DispatchQueue;
+class FileManager;
 class PassStore;
 class UserDefaults;
 
@@ -56,8 +56,7 @@ public:
         UserDefaults& defaults;
         DispatchQueue& mainQueue;
         BackgroundQueue& bgQueue;
-        QString homeDirectory;
-        const ChecklistProbe& probe;
+        const FileManager& files;
         PassStore& passes;
         std::function<void(const std::vector<ChecklistLine>&)> show; ///< main thread
     };

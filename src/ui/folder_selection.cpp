@@ -4,7 +4,6 @@
 #include "ports/file_manager.h"
 #include "ports/open_panel.h"
 #include "ports/path_control.h"
-#include "ports/temporary_folder.h"
 #include "ports/user_defaults.h"
 #include "ports/workspace.h"
 #include "settings/preference_keys.h"
@@ -74,7 +73,7 @@ void FolderSelection::ibRevealDestPath(Control*) {
 void FolderSelection::ibOpenTempFolder(Control*) {
     constexpr QStringView operation = u"ibOpenTempFolder(_:)";
     printInside(operation);
-    const FolderOrFault folder = fParts.temporaryFolder.temporaryFolder();
+    const FolderOrFault folder = fParts.files.temporaryFolder();
     if (folder.path.isEmpty())
         printInside(operation, QString(u".......no temporary folder: " + folder.fault));
     else

@@ -13,7 +13,6 @@ class Control;
 class FileManager;
 class OpenPanel;
 class PathControl;
-class TemporaryFolder;
 class UserDefaults;
 class Workspace;
 
@@ -23,9 +22,8 @@ struct FolderSelectionParts {
     Console& console;
     OpenPanel& openPanel;
     Workspace& workspace;
-    const FileManager& files;
+    FileManager& files;
     std::weak_ptr<PathControl> fNsPathControl1;
-    const TemporaryFolder& temporaryFolder;
 };
 
 /// Main thread only. Each action prints its entry line first. An action on a folder that is not set

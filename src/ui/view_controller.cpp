@@ -63,7 +63,6 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .workspace = parts.workspace,
           .files = parts.engine.files,
           .fNsPathControl1 = parts.outlets.fNsPathControl1,
-          .temporaryFolder = parts.temporaryFolder,
       }),
       fRevealButtonWatchers({
           .defaults = parts.engine.defaults,
@@ -79,7 +78,7 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .notificationCenter = parts.notificationCenter,
           .mainQueue = parts.engine.mainQueue,
           .console = parts.engine.console,
-          .browser = parts.networkBrowser,
+          .browser = parts.dnssdBrowser,
           .makeKelvoSSID = parts.makeKelvoSSID,
           .showNetworkStatus =
               [&view = parts.outlets.view](const QString& text) { view.showNetworkStatus(text); },
@@ -95,9 +94,7 @@ ViewController::ViewController(const ViewControllerParts& parts)
       fCommandFiles({
           .console = parts.engine.console,
           .files = parts.engine.files,
-          .changes = parts.fileChanges,
           .shell = parts.engine.commands,
-          .temporaryFolder = parts.temporaryFolder,
           .terminal = parts.outlets.terminal,
       }),
       fConnectionTest({

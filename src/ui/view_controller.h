@@ -30,14 +30,11 @@ namespace kelvo {
 
 class Bundle;
 class DnssdBrowser;
-class FileChanges;
 class MainWindowController;
-class NetworkBrowser;
 class NetworkChecker;
 class NotificationCenter;
 class ShareCommands;
 class StatusMenuPresence;
-class TemporaryFolder;
 class Workspace;
 
 /// What the controller works with; all of it outlives the controller.
@@ -48,12 +45,9 @@ struct ViewControllerParts {
     const Bundle& bundle;
     std::function<void()> quitAndRelaunch; ///< ends the program and has it started again
     Workspace& workspace;
-    NetworkBrowser& networkBrowser;
     DnssdBrowser& dnssdBrowser;
     std::function<std::unique_ptr<NetworkChecker>()> makeKelvoSSID;
     StatusMenuPresence& statusMenu;
-    const TemporaryFolder& temporaryFolder;
-    FileChanges& fileChanges;
     const ShareCommands& shareCommands;
     /// The controller of the view's window; nothing as long as there is none.
     std::function<MainWindowController*()> windowController;

@@ -1,9 +1,10 @@
 // Prints a line for each message of the network checker, until it is ended. With "--browse" a line
 // for each state and each result of a search for SMB services instead.
-#include "adapters/network/avahi_network_browser.h"
+#include "adapters/network/avahi_browser.h"
 #include "adapters/network/network_information.h"
 #include "adapters/process/qt_main_queue.h"
 #include "support/notification_center.h"
+#include "fakes/recording_console.h"
 
 #include <QCoreApplication>
 
@@ -17,17 +18,21 @@ void printLine(const QString& line) {
 }
 
 int browse() {
-    kelvo::AvahiNetworkBrowser browser;
-    browser.start(
-        {QStringLiteral("_smb._tcp"), QStringLiteral("local."), true},
-        [](const kelvo::NetworkBrowserState& state) {
-            printLine(state.kind == kelvo::NetworkBrowserState::Kind::Ready
-                          ? QStringLiteral("ready")
-                          : QString(u"not ready: " + state.errorText));
-        },
-        [](const QStringList& endpoints) {
-            printLine(u"found: " + endpoints.join(QStringLiteral(" | ")));
-        });
+    kelvo::RecordingConsole console;
+    kelvo::QtMainQueue mainQueue;
+    kelvo::AvahiBrowser browser(console, mainQueue);
+    const auto printState = [](const kelvo::EndpointSearchState& state) {
+        printLine(state.kind == kelvo::EndpointSearchState::Kind::Ready
+                      ? QStringLiteral("ready")
+                      : QString(u"not ready: " + state.errorText));
+    };
+    const auto printEndpoints = [](const QStringList& endpoints) {
+        printLine(u"found: " + endpoints.join(QStringLiteral(" | ")));
+    };
+    browser.searchEndpoints({.type = QStringLiteral("_smb._tcp"),
+                             .domain = QStringLiteral("local."),
+                             .includePeerToPeer = true},
+                            {.stateChanged = printState, .endpointsChanged = printEndpoints});
     return QCoreApplication::exec();
 }
 

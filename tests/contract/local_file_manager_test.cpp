@@ -7,37 +7,40 @@
 #include <gtest/gtest.h>
 
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kelvo {
 namespace {
 
+unsigned modeOf(const QString& path) {
+    struct stat entry {};
+    return ::lstat(path.toLocal8Bit().constData(), &entry) == 0 ? entry.st_mode & 07777U : 0U;
+}
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("(not there)");
+}
+
+void put(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write(content);
+}
+
 class LocalFileManagerTest : public ::testing::Test {
 protected:
     void TearDown() override { qputenv("HOME", fHome); }
+
+    QString at(const char* name) const { return fFolder.filePath(QString::fromUtf8(name)); }
 
     const QByteArray fHome = qgetenv("HOME");
     LocalFileManager fManager;
     QTemporaryDir fFolder;
 };
 
-TEST_F(LocalFileManagerTest, FileExists_FilesFoldersAndWhatLinksLeadTo) {
-    const QString file = fFolder.filePath(QStringLiteral("a file é"));
-    const QString link = fFolder.filePath(QStringLiteral("link"));
-    EXPECT_FALSE(fManager.fileExistsAtPath(file));
-    ASSERT_TRUE(QFile::link(file, link));
-    EXPECT_FALSE(fManager.fileExistsAtPath(link)) << "leads nowhere yet";
-    QFile created(file);
-    ASSERT_TRUE(created.open(QFile::WriteOnly));
-    EXPECT_TRUE(fManager.fileExistsAtPath(file));
-    EXPECT_TRUE(fManager.fileExistsAtPath(link));
-    EXPECT_TRUE(fManager.fileExistsAtPath(fFolder.path()));
-    EXPECT_FALSE(fManager.fileExistsAtPath(file + QStringLiteral("/below")));
-}
-
-TEST_F(LocalFileManagerTest, FileExists_OddPathsAreNoFiles) {
-    EXPECT_FALSE(fManager.fileExistsAtPath(QString()));
-    EXPECT_FALSE(fManager.fileExistsAtPath(fFolder.path() + QChar(u'\0') + QStringLiteral("x")));
+TEST_F(LocalFileManagerTest, FileExists_LongPathIsNoFile) {
     EXPECT_FALSE(fManager.fileExistsAtPath(QString(10'000, u'x')));
 }
 
@@ -57,6 +60,76 @@ TEST_F(LocalFileManagerTest, Home_WithoutTheVariableIsTheAccounts) {
     EXPECT_EQ(fManager.homeDirectory(), expected);
     qputenv("HOME", "");
     EXPECT_EQ(fManager.homeDirectory(), expected);
+}
+
+TEST_F(LocalFileManagerTest, WriteThatFails_LeavesTheOldFileAndNothingBeside) {
+    ASSERT_TRUE(QDir().mkdir(at("script")));
+    put(at("script/inside"), "x");
+    const FileFault fault = fManager.writeAtomically(at("script"), "new\n");
+    ASSERT_TRUE(fault.has_value());
+    EXPECT_TRUE(fault->startsWith(at("script"))) << fault->toStdString();
+    EXPECT_EQ(contentOf(at("script/inside")), "x");
+    EXPECT_EQ(QDir(fFolder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{QStringLiteral("script")});
+    EXPECT_EQ(fManager.writeAtomically(at("no folder/script"), "x"),
+              QString(at("no folder/script") + u": No such file or directory"));
+}
+
+// -- the folder of the scripts
+
+class TemporaryFolderTest : public LocalFileManagerTest {
+protected:
+    TemporaryFolderTest() {
+        qputenv("TMPDIR", fFolder.path().toLocal8Bit());
+        qunsetenv("XDG_RUNTIME_DIR");
+    }
+    ~TemporaryFolderTest() override {
+        qputenv("TMPDIR", fTmpdir);
+        qputenv("XDG_RUNTIME_DIR", fRuntime);
+    }
+    QString own() const { return at("kelvo-mirror-") + QString::number(::getuid()); }
+
+    const QByteArray fTmpdir = qgetenv("TMPDIR");
+    const QByteArray fRuntime = qgetenv("XDG_RUNTIME_DIR");
+};
+
+TEST_F(TemporaryFolderTest, Folder_IsMadeForTheUserAlone) {
+    EXPECT_EQ(fManager.temporaryFolder().path, own());
+    EXPECT_EQ(modeOf(own()), 0700U);
+    EXPECT_EQ(fManager.temporaryFolder().path, own()) << "the same at the next time";
+    ASSERT_TRUE(QDir(own()).removeRecursively());
+    EXPECT_EQ(fManager.temporaryFolder().path, own()) << "and again when it was cleaned away";
+}
+
+TEST_F(TemporaryFolderTest, FolderOfTheSession_IsPreferred) {
+    ASSERT_TRUE(QDir().mkdir(at("session")));
+    ASSERT_EQ(::chmod(at("session").toLocal8Bit().constData(), 0700), 0);
+    qputenv("XDG_RUNTIME_DIR", at("session").toLocal8Bit());
+    EXPECT_EQ(fManager.temporaryFolder().path, at("session/kelvo-mirror"));
+    EXPECT_EQ(modeOf(at("session/kelvo-mirror")), 0700U);
+    ASSERT_EQ(::chmod(at("session").toLocal8Bit().constData(), 0755), 0);
+    EXPECT_EQ(fManager.temporaryFolder().path, own()) << "open to others";
+}
+
+TEST_F(TemporaryFolderTest, WhatSomebodyElsePrepared_IsRefused) {
+    ASSERT_TRUE(QDir().mkdir(at("elsewhere")));
+    ASSERT_TRUE(QFile::link(at("elsewhere"), own()));
+    FolderOrFault found = fManager.temporaryFolder();
+    EXPECT_EQ(found.path, QString());
+    EXPECT_EQ(found.fault, QString(own() + u" is not a folder"));
+
+    QFile::remove(own());
+    ASSERT_TRUE(QDir().mkdir(own()));
+    ASSERT_EQ(::chmod(own().toLocal8Bit().constData(), 0777), 0);
+    found = fManager.temporaryFolder();
+    EXPECT_EQ(found.path, QString());
+    EXPECT_EQ(found.fault, QString(own() + u" is open to others"));
+
+    if (::getuid() != 0)
+        GTEST_SKIP() << "only root can give a folder away";
+    ASSERT_EQ(::chmod(own().toLocal8Bit().constData(), 0700), 0);
+    ASSERT_EQ(::chown(own().toLocal8Bit().constData(), 12345, 12345), 0);
+    EXPECT_EQ(fManager.temporaryFolder().fault, QString(own() + u" belongs to somebody else"));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // The contract of LoginItem on the fake and on real files, then what only the files have.
 #include "adapters/desktop/autostart_entry.h"
-#include "adapters/system/local_file_changes.h"
+#include "adapters/system/local_file_manager.h"
 #include "fakes/fake_login_item.h"
 
 #include <QDir>
@@ -22,10 +22,10 @@ struct FakeWorld {
 
 struct FileWorld {
     QTemporaryDir folder;
-    LocalFileChanges changes;
+    LocalFileManager files;
     QString autostart = folder.filePath(QStringLiteral("config/autostart"));
     QString entry = QString(autostart + u"/org.kelvo.KelvoMirror.desktop");
-    AutostartEntry item{autostart, QStringLiteral("/usr/bin/kelvo-mirror"), changes};
+    AutostartEntry item{autostart, QStringLiteral("/usr/bin/kelvo-mirror"), files};
 
     QByteArray content() const {
         QFile file(entry);
@@ -148,7 +148,7 @@ TEST_F(AutostartEntryTest, FolderThatCannotBeMade_IsSaidInTheSystemsWords) {
 
 TEST_F(AutostartEntryTest, FolderThatNobodyCanWrite_LeavesTheEntryAsItWas) {
     // Nobody, not even root, makes files there.
-    AutostartEntry unwritable(QStringLiteral("/proc/self"), QStringLiteral("/bin/true"), changes);
+    AutostartEntry unwritable(QStringLiteral("/proc/self"), QStringLiteral("/bin/true"), files);
     const LoginItemOutcome outcome = unwritable.setOn(true);
     EXPECT_EQ(outcome.kind, LoginItemOutcome::Failed);
     EXPECT_FALSE(outcome.reason.isEmpty());

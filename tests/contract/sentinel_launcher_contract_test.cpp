@@ -73,7 +73,7 @@ private:
 template <typename World>
 class SentinelLauncherContractTest : public testing::Test {
 protected:
-    std::unique_ptr<SentinelTask> launch() {
+    std::optional<SentinelTask> launch() {
         return fWorld.launcher().launch(fWorld.program(), {QString::number(::getpid())},
                                         [this](int exitCode) {
                                             fExitCode = exitCode;
@@ -107,15 +107,14 @@ TYPED_TEST(SentinelLauncherContractTest, OnlyAFileThatMayBeRun_IsExecutable) {
 
 TYPED_TEST(SentinelLauncherContractTest, WhatCannotBeStarted_IsNoTask) {
     for (const QString& path : {this->fWorld.plainFile(), QStringLiteral("/nothing/here")}) {
-        EXPECT_EQ(this->fWorld.launcher().launch(path, {}, [this](int) { ++this->fEnds; }),
-                  nullptr);
+        EXPECT_FALSE(this->fWorld.launcher().launch(path, {}, [this](int) { ++this->fEnds; }));
     }
     EXPECT_EQ(this->fEnds, 0);
 }
 
 TYPED_TEST(SentinelLauncherContractTest, Terminate_EndsItAndTheEndIsToldOnce) {
     const auto task = this->launch();
-    ASSERT_NE(task, nullptr);
+    ASSERT_TRUE(task);
     EXPECT_EQ(this->fWorld.living(), 1U);
     task->terminate();
     this->fWorld.letEnd();
@@ -153,7 +152,7 @@ TYPED_TEST(SentinelLauncherContractTest, EndOfTheTask_LeavesTheSentinelRunningAn
 TYPED_TEST(SentinelLauncherContractTest, NobodyToTell_IsNoMatter) {
     auto task = this->fWorld.launcher().launch(this->fWorld.program(),
                                                {QString::number(::getpid())}, nullptr);
-    ASSERT_NE(task, nullptr);
+    ASSERT_TRUE(task);
     task->terminate();
     task.reset();
     EXPECT_EQ(this->fWorld.living(), 0U);

@@ -62,7 +62,7 @@ protected:
     }
 
     PosixSentinelLauncher fLauncher;
-    std::unique_ptr<SentinelTask> fTask;
+    std::optional<SentinelTask> fTask;
 };
 
 TEST_F(SentinelTest, AnythingButOneProcessId_IsRefused) {

@@ -1,5 +1,4 @@
 #include "adapters/network/neighbour_table.h"
-#include "adapters/network/refused_names.h"
 #include "adapters/network/service_answer.h"
 #include "adapters/network/service_table.h"
 #include "fakes/recording_console.h"

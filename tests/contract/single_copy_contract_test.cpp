@@ -1,5 +1,5 @@
-#include "adapters/process/runtime_folder.h"
 #include "adapters/process/single_copy_socket.h"
+#include "adapters/system/private_places.h"
 #include "adapters/system/unique_fd.h"
 #include "fakes/fake_single_copy.h"
 #include "fakes/recording_console.h"

@@ -1,5 +1,5 @@
 #include "adapters/desktop/terminal_window.h"
-#include "fakes/fake_remote_side.h"
+#include "fakes/fake_file_manager.h"
 #include "fakes/recording_console.h"
 #include "support/wait_in_loop.h"
 
@@ -20,8 +20,8 @@ namespace {
 /// keyboard of a file.
 class TerminalWindowTest : public ::testing::Test {
 protected:
-    TerminalWindowTest() { folder.folder = {fFolder.filePath(QStringLiteral("t")), {}}; }
-    void SetUp() override { ASSERT_TRUE(QDir().mkdir(folder.folder.path)); }
+    TerminalWindowTest() { files.temporary = {fFolder.filePath(QStringLiteral("t")), {}}; }
+    void SetUp() override { ASSERT_TRUE(QDir().mkdir(files.temporary.path)); }
 
     QString at(const char* name) const { return fFolder.filePath(QString::fromUtf8(name)); }
     QByteArray content(const char* name) const {
@@ -55,15 +55,15 @@ protected:
                                   [this](TerminalOutcome outcome) { outcomes.push_back(outcome); });
     }
     void use(std::vector<TerminalProgram> programs) {
-        terminal = std::make_unique<TerminalWindow>(folder, console, std::move(programs));
+        terminal = std::make_unique<TerminalWindow>(files, console, std::move(programs));
     }
     bool comesTo(TerminalOutcome outcome) {
         return waitInLoop([this] { return !outcomes.empty(); }) && outcomes == std::vector{outcome};
     }
-    bool nothingLeftBehind() const { return QDir(folder.folder.path).isEmpty(); }
+    bool nothingLeftBehind() const { return QDir(files.temporary.path).isEmpty(); }
 
     QTemporaryDir fFolder;
-    FakeTemporaryFolder folder;
+    FakeFileManager files;
     RecordingConsole console;
     std::vector<TerminalOutcome> outcomes;
     std::unique_ptr<TerminalWindow> terminal;
@@ -144,7 +144,7 @@ TEST_F(TerminalWindowTest, NoProgramAtAll_IsSaid) {
 }
 
 TEST_F(TerminalWindowTest, NoSafeFolder_IsSaid) {
-    folder.folder = {{}, QStringLiteral("/tmp/k belongs to somebody else")};
+    files.temporary = {{}, QStringLiteral("/tmp/k belongs to somebody else")};
     use({program("one", window())});
     open(script("true"));
     EXPECT_TRUE(comesTo(TerminalOutcome::NoWindow));

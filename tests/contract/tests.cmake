@@ -2,23 +2,22 @@ add_executable(settings_writer children/settings_writer.cpp)
 target_link_libraries(settings_writer PRIVATE kelvo_testing kelvo_adapters)
 add_executable(zoo children/zoo.cpp)
 add_executable(network_watcher children/network_watcher.cpp)
-target_link_libraries(network_watcher PRIVATE kelvo_adapters)
+target_link_libraries(network_watcher PRIVATE kelvo_adapters kelvo_fakes)
 
 kelvo_tests(contract
   TIMEOUT 120
   SOURCES
-    contract/avahi_network_browser_test.cpp
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
     contract/bus_notices_test.cpp
-    contract/checklist_probe_test.cpp
     contract/console_contract_test.cpp
     contract/dispatch_queue_contract_test.cpp
     contract/dnssd_browser_contract_test.cpp
+    contract/endpoint_search_contract_test.cpp
     contract/factory_template_test.cpp
+    contract/file_manager_contract_test.cpp
     contract/file_watch_test.cpp
     contract/line_backlog_test.cpp
-    contract/local_file_changes_test.cpp
     contract/local_file_manager_test.cpp
     contract/log_file_contract_test.cpp
     contract/login_item_contract_test.cpp

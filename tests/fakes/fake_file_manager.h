@@ -1,19 +1,91 @@
-// FakeFileManager: a home folder and a set of existing paths.
+// FakeFileManager: files, folders and links in memory.
 #pragma once
 
 #include "ports/file_manager.h"
 
+#include <QMap>
 #include <QSet>
+#include <QStringList>
+
+#include <algorithm>
+#include <utility>
 
 namespace kelvo {
 
 class FakeFileManager final : public FileManager {
 public:
-    bool fileExistsAtPath(const QString& path) const override { return existing.contains(path); }
+    bool fileExistsAtPath(const QString& path) const override {
+        return existing.contains(followed(path)) || folders.contains(followed(path));
+    }
+    bool isProgram(const QString& path) const override { return programs.contains(followed(path)); }
+    bool isWritableFolder(const QString& path) const override {
+        return path != guarded && folders.contains(followed(path));
+    }
     QString homeDirectory() const override { return home; }
+    FolderOrFault temporaryFolder() override {
+        if (!temporary.path.isEmpty() && !folders.contains(temporary.path)) {
+            folders.insert(temporary.path);
+            modes.append({temporary.path, 0700});
+        }
+        return temporary;
+    }
+
+    FileFault removeItem(const QString& path) override {
+        if (const auto fault = faultAt(path))
+            return fault;
+        if (folders.contains(path) && !isEmpty(path))
+            return QString(path + u": Directory not empty");
+        if (!existing.remove(path) && !folders.remove(path) && links.remove(path) == 0)
+            return QString(path + u": No such file or directory");
+        written.remove(path);
+        programs.remove(path);
+        removed.append(path);
+        return {};
+    }
+    FileFault writeAtomically(const QString& path, const QByteArray& content) override {
+        if (const auto fault = faultAt(path))
+            return fault;
+        if (folders.contains(path))
+            return QString(path + u": Is a directory");
+        links.remove(path);
+        programs.remove(path);
+        existing.insert(path);
+        written[path] = content;
+        modes.append({path, 0600});
+        return {};
+    }
+    int changeMode(const QString& path, unsigned mode) override {
+        modes.append({followed(path), mode});
+        if (!fileExistsAtPath(path))
+            return -1;
+        if ((mode & 0100U) != 0 && existing.contains(followed(path)))
+            programs.insert(followed(path));
+        return modeResult;
+    }
 
     QString home = QStringLiteral("/Users/localuser");
-    QSet<QString> existing;
+    FolderOrFault temporary{QStringLiteral("/tmp/of me"), {}};
+    QSet<QString> existing;            ///< files
+    QMap<QString, QByteArray> written; ///< what files hold that were written
+    QSet<QString> programs;            ///< the files that may be run
+    QSet<QString> folders;
+    QMap<QString, QString> links;              ///< where they lead
+    QStringList removed;                       ///< every path so far
+    QList<std::pair<QString, unsigned>> modes; ///< every one given so far
+    int modeResult = 0;
+    QString guarded; ///< nothing changes at this path
+
+private:
+    QString followed(const QString& path) const { return links.value(path, path); }
+    FileFault faultAt(const QString& path) const {
+        if (path.isEmpty() || path.contains(QChar(u'\0')))
+            return QString(path + u": Invalid argument");
+        return path == guarded ? FileFault(QString(path + u": Permission denied")) : FileFault();
+    }
+    bool isEmpty(const QString& folder) const {
+        const auto inside = [&](const QString& path) { return path.startsWith(folder + u'/'); };
+        return std::ranges::none_of(existing, inside) && std::ranges::none_of(folders, inside);
+    }
 };
 
 } // namespace kelvo

@@ -1,13 +1,10 @@
-// FakeNetworkChecker and FakeNetworkBrowser: a network that tests switch on and off.
+// FakeNetworkChecker: a network that tests switch on and off.
 #pragma once
 
-#include "ports/network_browser.h"
 #include "ports/network_checker.h"
 #include "support/notification_center.h"
 
-#include <functional>
 #include <utility>
-#include <vector>
 
 namespace kelvo {
 
@@ -33,22 +30,6 @@ private:
     NotificationCenter& fCenter;
     QString fMessage;
     bool fWatching = false;
-};
-
-class FakeNetworkBrowser final : public NetworkBrowser {
-public:
-    struct Search {
-        NetworkBrowserRequest request;
-        StateHandler state;
-        ResultsHandler results;
-    };
-
-    void start(const NetworkBrowserRequest& request, StateHandler stateHandler,
-               ResultsHandler resultsHandler) override {
-        searches.push_back({request, std::move(stateHandler), std::move(resultsHandler)});
-    }
-
-    std::vector<Search> searches; ///< every search so far; its handlers are the test's to call
 };
 
 } // namespace kelvo

@@ -31,13 +31,16 @@ public:
 
     bool isExecutable(const QString& path) const override { return executable.contains(path); }
 
-    std::unique_ptr<SentinelTask> launch(const QString& path, const QStringList& arguments,
-                                         Terminated terminated) override {
+    std::optional<SentinelTask> launch(const QString& path, const QStringList& arguments,
+                                       Terminated terminated) override {
         if (!executable.contains(path) || failing)
-            return nullptr;
+            return std::nullopt;
         sentinels.push_back(
             std::make_shared<Sentinel>(Sentinel{path, arguments, std::move(terminated)}));
-        return std::make_unique<Task>(sentinels.back());
+        return SentinelTask([watch = std::make_shared<Watch>(sentinels.back())] {
+            if (!watch->sentinel->ended)
+                ++watch->sentinel->requests;
+        });
     }
 
     QSet<QString> executable;
@@ -45,23 +48,17 @@ public:
     std::vector<std::shared_ptr<Sentinel>> sentinels;
 
 private:
-    class Task final : public SentinelTask {
-    public:
-        explicit Task(std::shared_ptr<Sentinel> sentinel) : fSentinel(std::move(sentinel)) {}
-        ~Task() override {
-            if (fSentinel->requests > 0)
-                fSentinel->end(0);
-            fSentinel->terminated = nullptr;
+    struct Watch {
+        explicit Watch(std::shared_ptr<Sentinel> watched) : sentinel(std::move(watched)) {}
+        ~Watch() {
+            if (sentinel->requests > 0)
+                sentinel->end(0);
+            sentinel->terminated = nullptr;
         }
-        Task(const Task&) = delete;
-        Task& operator=(const Task&) = delete;
-        void terminate() override {
-            if (!fSentinel->ended)
-                ++fSentinel->requests;
-        }
+        Watch(const Watch&) = delete;
+        Watch& operator=(const Watch&) = delete;
 
-    private:
-        const std::shared_ptr<Sentinel> fSentinel;
+        const std::shared_ptr<Sentinel> sentinel;
     };
 };
 

@@ -7,6 +7,8 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace kelvo {
@@ -22,6 +24,9 @@ public:
         lookAgain();
     }
     DNSSD_Services services() const override { return fListed; }
+    void searchEndpoints(const EndpointRequest& request, EndpointListener listener) override {
+        searches.push_back({request, std::move(listener), {}, {}});
+    }
 
     /// A service appears, or answers otherwise from now on; found at once if it is looked for.
     void announce(const DNSSD_Service& service) {
@@ -32,6 +37,22 @@ public:
             fAnnounced.append(service);
         if (!fType.isEmpty() && fRunning)
             list(service);
+    }
+
+    /// What the main thread does at last: the listeners hear of what has changed for them.
+    void tellListeners() {
+        using Kind = EndpointSearchState::Kind;
+        const QStringList now = endpoints();
+        for (Search& search : searches) {
+            if (std::exchange(search.toldEndpoints, now) != now)
+                search.listener.endpointsChanged(now);
+            const bool wasTold = search.toldState.has_value();
+            const Kind kind = fRunning                                       ? Kind::Ready
+                              : !wasTold || search.toldState == Kind::Failed ? Kind::Failed
+                                                                             : Kind::Waiting;
+            if (std::exchange(search.toldState, kind) != kind)
+                search.listener.stateChanged({kind, QStringLiteral("no discovery service")});
+        }
     }
 
     void withdraw(const QString& name) {
@@ -53,9 +74,26 @@ public:
     QStringList browsed; ///< every type asked for so far
     QStringList refused; ///< names that were left out
 
+    struct Search {
+        EndpointRequest request;
+        EndpointListener listener; ///< the test's to call, or tellListeners'
+        std::optional<EndpointSearchState::Kind> toldState;
+        QStringList toldEndpoints;
+    };
+    std::vector<Search> searches; ///< for endpoints, every one so far
+
 private:
     static bool isSame(const DNSSD_Service& one, const DNSSD_Service& other) {
         return one.name == other.name && one.interface == other.interface;
+    }
+
+    QStringList endpoints() const {
+        QStringList found;
+        for (const DNSSD_Service& service : fAnnounced) {
+            if (fRunning)
+                found.append(service.name + u'.' + service.type + u'.' + service.domain + u'.');
+        }
+        return found;
     }
 
     void lookAgain() {

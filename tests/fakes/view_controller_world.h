@@ -49,8 +49,6 @@ public:
     ManualBackgroundQueue bgQueue;
     ScriptedShell shell;
     FakeFileManager files;
-    FakeFileChanges fileChanges{files};
-    FakeTemporaryFolder temporaryFolder;
     FakeTerminal terminal;
     QString clipboard;
     GioShareCommands shareCommands;
@@ -61,7 +59,6 @@ public:
     int relaunches = 0;
     FakeWorkspace workspace;
     FakeOpenPanel openPanel;
-    FakeNetworkBrowser networkBrowser;
     ScriptedBrowser dnssdBrowser;
     ArrayController foundServices;
     FakeTrayHost tray;
@@ -104,7 +101,6 @@ public:
         .bundle = bundle,
         .quitAndRelaunch = [this] { ++relaunches; },
         .workspace = workspace,
-        .networkBrowser = networkBrowser,
         .dnssdBrowser = dnssdBrowser,
         .makeKelvoSSID =
             [this] {
@@ -112,8 +108,6 @@ public:
                                                             QStringLiteral("Connected"));
             },
         .statusMenu = statusMenu,
-        .temporaryFolder = temporaryFolder,
-        .fileChanges = fileChanges,
         .shareCommands = shareCommands,
         .windowController = [this] { return window; },
     }};

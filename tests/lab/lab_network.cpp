@@ -60,7 +60,7 @@ QString LabNetwork::prepare() {
     if (!holder.open(QFile::ReadOnly))
         return QStringLiteral("KELVO_LAB does not name the lab's state folder");
     enterNearHost(holder.readAll().trimmed());
-    fBrowser = std::make_unique<AvahiBrowser>(fConsole);
+    fBrowser = std::make_unique<AvahiBrowser>(fConsole, fMainQueue);
     return {};
 }
 

@@ -3,6 +3,7 @@
 
 #include "adapters/network/avahi_browser.h"
 #include "fakes/recording_console.h"
+#include "fakes/virtual_queues.h"
 #include "lab/lab_fixture.h"
 
 #include <QProcess>
@@ -52,6 +53,7 @@ private:
 
     int fOwnNetwork = -1;
     RecordingConsole fConsole;
+    VirtualMainQueue fMainQueue;
     QProcess fAnnouncer;
     std::unique_ptr<AvahiBrowser> fBrowser;
 };

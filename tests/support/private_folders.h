@@ -5,7 +5,8 @@
 
 namespace kelvo {
 
-/// Points HOME, the XDG folders and TMPDIR into `home`. Called before any thread is started.
+/// Points HOME, the XDG folders, TMPDIR and the system bus into `home`; nobody serves that bus yet.
+/// Called before any thread is started.
 void usePrivateFolders(const QTemporaryDir& home);
 
 } // namespace kelvo

@@ -9,10 +9,12 @@ constexpr int cPatience = 20'000; // milliseconds
 
 } // namespace
 
-PrivateBus::PrivateBus() {
-    fDaemon.start(QStringLiteral("dbus-daemon"),
-                  {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                   QStringLiteral("--print-address=1")});
+PrivateBus::PrivateBus(const QString& address) {
+    QStringList options{QStringLiteral("--session"), QStringLiteral("--nofork"),
+                        QStringLiteral("--print-address=1")};
+    if (!address.isEmpty())
+        options.append(u"--address=" + address);
+    fDaemon.start(QStringLiteral("dbus-daemon"), options);
     if (!fDaemon.waitForStarted(cPatience))
         return;
     while (!fDaemon.canReadLine() && fDaemon.waitForReadyRead(cPatience)) {

@@ -11,7 +11,8 @@ namespace kelvo {
 /// A bus daemon of the test's own; ends with this object.
 class PrivateBus {
 public:
-    PrivateBus();
+    /// At an address of its own choice if `address` is empty.
+    explicit PrivateBus(const QString& address = {});
     ~PrivateBus();
 
     /// Empty when no bus daemon could be started.

@@ -1,4 +1,4 @@
-#include "adapters/console/headless_view.h"
+#include "adapters/console/headless_outlets.h"
 #include "discovery/bonjour_selection.h"
 #include "discovery/record_texts.h"
 #include "discovery/service_filter.h"

@@ -1,12 +1,10 @@
+#include "fakes/fake_file_manager.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
-#include "ports/checklist_probe.h"
 #include "settings/preference_keys.h"
 #include "ui/checklist.h"
 #include "ui/pass_words.h"
-
-#include <QSet>
 
 #include <gtest/gtest.h>
 
@@ -71,15 +69,11 @@ TEST(ChecklistTest, Key_IsALineUntilItIsAccepted) {
 
 // -- looking
 
-struct FakeProbe final : ChecklistProbe {
-    bool isProgram(const QString& path) const override { return programs.contains(path); }
-    bool isWritableFolder(const QString& path) const override { return folders.contains(path); }
-    QSet<QString> programs{QStringLiteral("/usr/bin/rsync"), QStringLiteral("/usr/bin/ssh")};
-    QSet<QString> folders;
-};
-
 class ChecklistLookTest : public ::testing::Test {
 protected:
+    ChecklistLookTest() {
+        files.programs = {QStringLiteral("/usr/bin/rsync"), QStringLiteral("/usr/bin/ssh")};
+    }
     void settle() {
         mainQueue.runDue();
         bgQueue.runAll();
@@ -89,11 +83,11 @@ protected:
     MemoryDefaults defaults;
     VirtualMainQueue mainQueue;
     ManualBackgroundQueue bgQueue;
-    FakeProbe probe;
+    FakeFileManager files;
     MemoryPassStore store{mainQueue};
     std::vector<std::vector<ChecklistLine>> shown;
     std::optional<Checklist> list{Checklist::Parts{
-        defaults, mainQueue, bgQueue, QStringLiteral("/home/me"), probe, store,
+        defaults, mainQueue, bgQueue, files, store,
         [this](const std::vector<ChecklistLine>& lines) { shown.push_back(lines); }}};
 };
 
@@ -108,13 +102,13 @@ TEST_F(ChecklistLookTest, DiskIsAskedInTheBackground) {
 
 TEST_F(ChecklistLookTest, SettingThatChanges_IsLookedAtAgain) {
     settle();
-    probe.folders.insert(QStringLiteral("/in"));
+    files.folders.insert(QStringLiteral("/in"));
     defaults.setObject(prefPath1, QStringLiteral("/out"));
     defaults.setObject(prefPath2, QStringLiteral("/in"));
     settle();
     EXPECT_TRUE(shown.back().empty());
     EXPECT_EQ(shown.size(), 2U) << "of two looks at once only the later is shown";
-    probe.folders.clear();
+    files.folders.clear();
     store.append({});
     settle();
     EXPECT_EQ(shown.back().size(), 1U) << "and after each pass";

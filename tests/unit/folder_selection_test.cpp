@@ -1,7 +1,6 @@
 #include "fakes/fake_desktop.h"
 #include "fakes/fake_file_manager.h"
 #include "fakes/fake_front.h"
-#include "fakes/fake_remote_side.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "settings/preference_keys.h"
@@ -25,9 +24,7 @@ protected:
     FakeWorkspace workspace;
     FakeFileManager files;
     std::shared_ptr<FakePathControl> pathControl = std::make_shared<FakePathControl>();
-    FakeTemporaryFolder temporaryFolder;
-    FolderSelection selection{
-        {defaults, console, panel, workspace, files, pathControl, temporaryFolder}};
+    FolderSelection selection{{defaults, console, panel, workspace, files, pathControl}};
 };
 
 // -- choosing
@@ -127,7 +124,7 @@ TEST_F(FolderSelectionTest, OpenTempFolder_OpensItsLocation) {
 }
 
 TEST_F(FolderSelectionTest, OpenTempFolder_WithoutOneOpensNothingAndSaysWhy) {
-    temporaryFolder.folder = {{}, QStringLiteral("/tmp/x belongs to somebody else")};
+    files.temporary = {{}, QStringLiteral("/tmp/x belongs to somebody else")};
     selection.ibOpenTempFolder(nullptr);
     EXPECT_EQ(workspace.requests, QStringList());
     EXPECT_EQ(console.printed(),

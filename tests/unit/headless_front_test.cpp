@@ -1,6 +1,5 @@
 #include "adapters/console/headless_desktop.h"
 #include "adapters/console/headless_outlets.h"
-#include "adapters/console/headless_terminal.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 

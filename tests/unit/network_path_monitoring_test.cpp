@@ -1,6 +1,7 @@
 #include "discovery/network_path_monitoring.h"
 #include "fakes/fake_network.h"
 #include "fakes/recording_console.h"
+#include "fakes/scripted_browser.h"
 #include "fakes/virtual_queues.h"
 #include "support/notification_center.h"
 
@@ -39,7 +40,7 @@ protected:
     NotificationCenter center;
     VirtualMainQueue mainQueue;
     RecordingConsole console;
-    FakeNetworkBrowser browser;
+    ScriptedBrowser browser;
     FakeNetworkChecker* checker = nullptr;
     int made = 0;
     QString status; ///< shown last
@@ -147,7 +148,7 @@ TEST_F(NetworkPathMonitoringTest, Destroyed_HearsNothingMore) {
 TEST_F(NetworkPathMonitoringTest, TestBrowser_LooksForSmbWithPeersIncluded) {
     monitoring.ibTestNWBrowser(nullptr);
     ASSERT_EQ(browser.searches.size(), 1U);
-    const NetworkBrowserRequest& request = browser.searches[0].request;
+    const EndpointRequest& request = browser.searches[0].request;
     EXPECT_EQ(request.type, u"_smb._tcp");
     EXPECT_EQ(request.domain, u"local.");
     EXPECT_TRUE(request.includePeerToPeer);
@@ -157,9 +158,9 @@ TEST_F(NetworkPathMonitoringTest, TestBrowser_LooksForSmbWithPeersIncluded) {
 TEST_F(NetworkPathMonitoringTest, BrowserStates_PrintOnlyReadyAndFailed) {
     monitoring.ibTestNWBrowser(nullptr);
     console.clear();
-    using Kind = NetworkBrowserState::Kind;
+    using Kind = EndpointSearchState::Kind;
     for (const Kind kind : {Kind::Setup, Kind::Waiting, Kind::Ready, Kind::Failed, Kind::Cancelled})
-        browser.searches[0].state({kind, QStringLiteral("no daemon")});
+        browser.searches[0].listener.stateChanged({kind, QStringLiteral("no daemon")});
     EXPECT_EQ(console.printed(),
               (QStringList{QStringLiteral("ready"), QStringLiteral("error: no daemon")}));
 }
@@ -168,8 +169,9 @@ TEST_F(NetworkPathMonitoringTest, Results_GrowWithEveryChangeOfEverySearch) {
     monitoring.ibTestNWBrowser(nullptr);
     monitoring.ibTestNWBrowser(nullptr);
     console.clear();
-    browser.searches[0].results({QStringLiteral("A._smb._tcp.local."), QStringLiteral("B \"b\"")});
-    browser.searches[1].results({QStringLiteral("C")});
+    browser.searches[0].listener.endpointsChanged(
+        {QStringLiteral("A._smb._tcp.local."), QStringLiteral("B \"b\"")});
+    browser.searches[1].listener.endpointsChanged({QStringLiteral("C")});
     const QStringList bars{QStringLiteral("==============================bbb"),
                            QStringLiteral("==============================111"),
                            QStringLiteral("==============================222")};
@@ -182,7 +184,7 @@ TEST_F(NetworkPathMonitoringTest, Results_GrowWithEveryChangeOfEverySearch) {
 
 TEST_F(NetworkPathMonitoringTest, EmptyResults_PrintAnEmptyList) {
     monitoring.ibTestNWBrowser(nullptr);
-    browser.searches[0].results({});
+    browser.searches[0].listener.endpointsChanged({});
     EXPECT_EQ(console.printed().at(3), u"[]");
 }
 

@@ -1,4 +1,5 @@
 #include "fakes/fake_desktop.h"
+#include "fakes/fake_file_manager.h"
 #include "fakes/fake_remote_side.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
@@ -46,11 +47,10 @@ protected:
     ScriptedShell shell;
     Commands commands;
     FakeFileManager files;
-    FakeFileChanges changes{files};
-    FakeTemporaryFolder folder;
     FakeTerminal terminal;
     FakeWorkspace workspace;
-    CommandFiles commandFiles{{console, files, changes, shell, folder, terminal}};
+    CommandFiles commandFiles{
+        {.console = console, .files = files, .shell = shell, .terminal = terminal}};
     int beeps = 0;
     QStringList withoutWindow;
     SmbShareAccess share{{defaults, console, mainQueue, shell, commands, commandFiles, workspace,
@@ -193,7 +193,7 @@ TEST_F(GioShareAccessTest, PasswordQuestion_IsAskedInATerminalAndThenItGoesOn) {
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().command,
               u"gio mount \"smb://ann@Office-Mac-Mini.local/Macintosh%20HD\"");
-    EXPECT_EQ(changes.written.value(terminal.windows.front().path),
+    EXPECT_EQ(files.written.value(terminal.windows.front().path),
               QString(terminal.windows.front().command + u'\n').toUtf8());
     terminal.windows.front().ended(TerminalOutcome::Ended);
     mainQueue.advance(0.1);

@@ -1,4 +1,5 @@
 #include "fakes/fake_desktop.h"
+#include "fakes/fake_file_manager.h"
 #include "fakes/fake_remote_side.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
@@ -39,14 +40,13 @@ protected:
 
     MemoryDefaults defaults;
     FakeFileManager files;
-    FakeFileChanges changes{files};
-    FakeTemporaryFolder folder;
     FakeTerminal terminal;
     FakeWorkspace workspace;
     RecordingConsole console;
     ScriptedShell shell;
     QList<qint64> timeouts; ///< of every question so far
-    CommandFiles commandFiles{{console, files, changes, shell, folder, terminal}};
+    CommandFiles commandFiles{
+        {.console = console, .files = files, .shell = shell, .terminal = terminal}};
     QStringList ended; ///< the commands whose scripts have ended or found no window
     int keyChanges = 0;
     SshKeyProvisioning provisioning{
@@ -72,19 +72,19 @@ TEST_F(SshKeyProvisioningTest, RemoveIfExists_NothingThereIsFine) {
     EXPECT_EQ(console.printed(),
               (QStringList{QStringLiteral("Inside String->removeItemIfExists()......."),
                            QStringLiteral("Inside URL->removeItemIfExists().......")}));
-    EXPECT_TRUE(changes.removed.isEmpty());
+    EXPECT_TRUE(files.removed.isEmpty());
 }
 
 TEST_F(SshKeyProvisioningTest, RemoveIfExists_SaysWhyItFailed) {
     files.existing = {cPrivateKey};
-    changes.guarded = cPrivateKey;
+    files.guarded = cPrivateKey;
     EXPECT_FALSE(commandFiles.removeItemIfExists(cPrivateKey));
     EXPECT_EQ(console.printed().constLast(),
               QString(u"Inside URL->removeItemIfExists().......removeItem ERROR = " + cPrivateKey +
                       u": Permission denied"));
-    changes.guarded.clear();
+    files.guarded.clear();
     EXPECT_TRUE(commandFiles.removeItemIfExists(cPrivateKey));
-    EXPECT_EQ(changes.removed, QStringList{cPrivateKey});
+    EXPECT_EQ(files.removed, QStringList{cPrivateKey});
 }
 
 TEST_F(SshKeyProvisioningTest, ChmodByTheShell_ShowsCommandAndResult) {
@@ -96,30 +96,30 @@ TEST_F(SshKeyProvisioningTest, ChmodByTheShell_ShowsCommandAndResult) {
 }
 
 TEST_F(SshKeyProvisioningTest, ChmodBySystemCall_HandsAFailureBackInDecimal) {
+    files.existing = {cScript};
     EXPECT_EQ(commandFiles.chmodAsExecutableBySystemCall(cScript), QString());
-    changes.modeResult = -1;
+    files.modeResult = -1;
     EXPECT_EQ(commandFiles.chmodAsExecutableBySystemCall(cScript), u"-1");
     EXPECT_EQ(console.printed(), (QStringList{QStringLiteral("chmod result = [0]"),
                                               QStringLiteral("chmod result = [-1]")}));
-    EXPECT_EQ(changes.modes,
-              (QList<std::pair<QString, unsigned>>{{cScript, 493U}, {cScript, 493U}}));
+    EXPECT_EQ(files.modes, (QList<std::pair<QString, unsigned>>{{cScript, 493U}, {cScript, 493U}}));
 }
 
 TEST_F(SshKeyProvisioningTest, CommandFile_IsWrittenMadeExecutableAndOpened) {
     EXPECT_TRUE(commandFiles.executeAsCommandFile(QStringLiteral("echo é"), {}));
-    EXPECT_EQ(changes.written.value(cScript), "echo \xc3\xa9\n");
+    EXPECT_EQ(files.written.value(cScript), "echo \xc3\xa9\n");
     EXPECT_EQ(shell.commands(), QStringList{cChmod});
     EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{30.0});
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().path, cScript);
     EXPECT_EQ(terminal.windows.front().command, u"echo é");
     EXPECT_TRUE(commandFiles.executeAsCommandFile(QStringLiteral("second"), {}));
-    EXPECT_EQ(changes.written.value(cScript), "second\n");
-    EXPECT_TRUE(changes.removed.isEmpty()) << "replaced, not removed first";
+    EXPECT_EQ(files.written.value(cScript), "second\n");
+    EXPECT_TRUE(files.removed.isEmpty()) << "replaced, not removed first";
 }
 
 TEST_F(SshKeyProvisioningTest, CommandFileThatCannotBeWritten_OpensNothing) {
-    changes.guarded = cScript;
+    files.guarded = cScript;
     EXPECT_FALSE(commandFiles.executeAsCommandFile(QStringLiteral("x"), {}));
     EXPECT_EQ(console.printed(),
               QStringList{QString(u"ooops bad..." + cScript + u": Permission denied")});
@@ -128,11 +128,11 @@ TEST_F(SshKeyProvisioningTest, CommandFileThatCannotBeWritten_OpensNothing) {
 }
 
 TEST_F(SshKeyProvisioningTest, CommandFileWithoutASafeFolder_IsWrittenNowhere) {
-    folder.folder = {{}, QStringLiteral("/tmp/k belongs to somebody else")};
+    files.temporary = {{}, QStringLiteral("/tmp/k belongs to somebody else")};
     EXPECT_FALSE(commandFiles.executeAsCommandFile(QStringLiteral("x"), {}));
     EXPECT_EQ(console.printed(),
               QStringList{QStringLiteral("ooops bad.../tmp/k belongs to somebody else")});
-    EXPECT_TRUE(changes.written.isEmpty());
+    EXPECT_TRUE(files.written.isEmpty());
     EXPECT_TRUE(terminal.windows.empty());
 }
 
@@ -164,7 +164,7 @@ TEST(KeyCommandsTest, NothingIsReadAsTheShellsOwn) {
 TEST_F(SshKeyProvisioningTest, NewPair_RemovesBothHalvesAndShowsTheOutput) {
     files.existing = {cPrivateKey, cPublicKey};
     provisioning.createNewPrivatePublicKeys();
-    EXPECT_EQ(changes.removed, (QStringList{cPrivateKey, cPublicKey}));
+    EXPECT_EQ(files.removed, (QStringList{cPrivateKey, cPublicKey}));
     EXPECT_EQ(shell.commands(), QStringList{cGeneration});
     EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{30.0});
     const QString rule(40, u'=');
@@ -187,7 +187,7 @@ TEST_F(SshKeyProvisioningTest, NewPair_RemovesBothHalvesAndShowsTheOutput) {
 
 TEST_F(SshKeyProvisioningTest, HalfThatCannotBeRemoved_DoesNotStopTheGeneration) {
     files.existing = {cPrivateKey, cPublicKey};
-    changes.guarded = cPublicKey;
+    files.guarded = cPublicKey;
     provisioning.createNewPrivatePublicKeys();
     EXPECT_TRUE(console.printed().contains(QStringLiteral("status1 = true")));
     EXPECT_TRUE(console.printed().contains(QStringLiteral("status2 = false")));
@@ -226,7 +226,7 @@ TEST_F(SshKeyProvisioningTest, Sequence_ValidatesMakesAndInstalls) {
     EXPECT_EQ(shell.commands(), (QStringList{cGeneration, cChmod}));
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().command, cInstallation);
-    EXPECT_EQ(changes.written.value(cScript), QString(cInstallation + u'\n').toUtf8());
+    EXPECT_EQ(files.written.value(cScript), QString(cInstallation + u'\n').toUtf8());
     EXPECT_EQ(console.logged(),
               (QStringList{
                   QStringLiteral("Inside ViewController->ibGenerateSSHKeyStuff(_:)......."),
@@ -239,7 +239,7 @@ TEST_F(SshKeyProvisioningTest, Sequence_ValidatesMakesAndInstalls) {
 TEST_F(SshKeyProvisioningTest, SequenceWithACompletePair_KeepsIt) {
     files.existing = {cPrivateKey, cPublicKey};
     provisioning.ibGenerateSSHKeyStuff();
-    EXPECT_TRUE(changes.removed.isEmpty());
+    EXPECT_TRUE(files.removed.isEmpty());
     EXPECT_EQ(shell.commands(), QStringList{cChmod});
     EXPECT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(keyChanges, 0);
@@ -252,7 +252,7 @@ TEST_F(SshKeyProvisioningTest, SequenceWithoutUserOrHost_MakesThePairAndOpensNot
         files.existing.clear();
         provisioning.ibGenerateSSHKeyStuff();
         EXPECT_TRUE(files.existing.contains(cPrivateKey));
-        EXPECT_TRUE(changes.written.isEmpty());
+        EXPECT_TRUE(files.written.isEmpty());
         EXPECT_TRUE(terminal.windows.empty());
         defaults.setObject(key, kept);
     }
@@ -272,10 +272,10 @@ TEST_F(SshKeyProvisioningTest, OutcomeOfTheWindow_IsPassedOnWithItsCommand) {
 TEST_F(SshKeyProvisioningTest, OlderWay_RemovesTheOldScriptAndShowsTheFolder) {
     files.existing = {cPrivateKey, cPublicKey, cScript};
     provisioning.createNewPrivatePublicKeysOLD();
-    EXPECT_EQ(changes.removed, (QStringList{cPrivateKey, cPublicKey, cScript}));
+    EXPECT_EQ(files.removed, (QStringList{cPrivateKey, cPublicKey, cScript}));
     const QString command =
         QStringLiteral("/usr/bin/ssh-keygen -N \"\" -f \"/Users/localuser/.ssh/id_kelvoRsync\"");
-    EXPECT_EQ(changes.written.value(cScript), QString(command + u'\n').toUtf8());
+    EXPECT_EQ(files.written.value(cScript), QString(command + u'\n').toUtf8());
     EXPECT_TRUE(shell.commands().isEmpty()) << "the terminal runs it";
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().path, cScript);
@@ -287,7 +287,7 @@ TEST_F(SshKeyProvisioningTest, OlderWay_RemovesTheOldScriptAndShowsTheFolder) {
 
 TEST_F(SshKeyProvisioningTest, OlderWay_StopsAtAScriptThatStays) {
     files.existing = {cScript};
-    changes.guarded = cScript;
+    files.guarded = cScript;
     provisioning.createNewPrivatePublicKeysOLD();
     EXPECT_EQ(console.printed().sliced(6),
               (QStringList{QStringLiteral("ooops -did not delete that file"),
@@ -298,7 +298,7 @@ TEST_F(SshKeyProvisioningTest, OlderWay_StopsAtAScriptThatStays) {
 }
 
 TEST_F(SshKeyProvisioningTest, OlderWay_StopsWhenItCannotWrite) {
-    changes.guarded = cScript;
+    files.guarded = cScript;
     provisioning.createNewPrivatePublicKeysOLD();
     EXPECT_EQ(console.printed().constLast(),
               QString(u"ooops bad..." + cScript + u": Permission denied"));

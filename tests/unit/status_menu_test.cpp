@@ -1,4 +1,4 @@
-#include "adapters/console/headless_status_menu.h"
+#include "adapters/console/headless_desktop.h"
 #include "fakes/fake_front.h"
 #include "fakes/fake_status_menu.h"
 #include "fakes/memory_defaults.h"

@@ -1,6 +1,5 @@
 #include "adapters/console/headless_desktop.h"
 
-#include "adapters/console/headless_terminal.h"
 #include "ports/console.h"
 
 namespace kelvo {
@@ -8,10 +7,6 @@ namespace kelvo {
 OpenPanelAnswer HeadlessOpenPanel::runModal(const OpenPanelOptions& options) {
     fConsole.log(options.title + u": there is no window to choose in.");
     return {};
-}
-
-std::optional<QString> HeadlessPathControl::url() const {
-    return fUrl.isEmpty() ? std::nullopt : std::optional(fUrl);
 }
 
 void HeadlessTerminal::openCommandFile(const QString&, const QString& command,

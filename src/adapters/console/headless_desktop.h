@@ -1,12 +1,41 @@
-// The desktop's controls where there is no desktop: nobody can choose, nobody sees the path.
+// The desktop where there is none: nobody can choose or answer, and each says so or keeps
+// still.
 #pragma once
 
+#include "ports/application.h"
 #include "ports/open_panel.h"
-#include "ports/path_control.h"
+#include "ports/status_menu.h"
+#include "ports/terminal.h"
+
+#include <functional>
+#include <utility>
 
 namespace kelvo {
 
 class Console;
+
+class HeadlessApplication final : public Application {
+public:
+    /// `quit` asks for the orderly end.
+    explicit HeadlessApplication(std::function<void()> quit) : fQuit(std::move(quit)) {}
+
+    void hide() override {}
+    void bringToFront() override {}
+    void terminate() override { fQuit(); }
+
+private:
+    const std::function<void()> fQuit;
+};
+
+/// No icon, no menu, never reachable.
+class HeadlessStatusMenu final : public StatusMenu {
+public:
+    void setActions(StatusMenuActions) override {}
+    void show(StatusMenuState) override {}
+    void setStartTitle(const QString&) override {}
+    void hide() override {}
+    bool isReachable() const override { return false; }
+};
 
 /// Every panel counts as cancelled, and a line in the system log says why.
 class HeadlessOpenPanel final : public OpenPanel {
@@ -19,15 +48,16 @@ private:
     Console& fConsole;
 };
 
-/// Keeps the location it was given.
-class HeadlessPathControl final : public PathControl {
+/// Prints "terminal: <command>" for somebody to run it by hand, and never learns of its end.
+class HeadlessTerminal final : public Terminal {
 public:
-    void setUrl(const QString& url) override { fUrl = url; }
-    std::optional<QString> url() const override;
-    std::vector<Item> pathItems() const override { return pathItemsOf(fUrl); }
+    explicit HeadlessTerminal(Console& console) : fConsole(console) {}
+
+    void openCommandFile(const QString& path, const QString& command,
+                         std::function<void(TerminalOutcome)> ended) override;
 
 private:
-    QString fUrl;
+    Console& fConsole;
 };
 
 } // namespace kelvo

@@ -2,6 +2,7 @@
 
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
+#include "support/text.h"
 
 namespace kelvo {
 namespace {
@@ -11,6 +12,16 @@ QString onOneLine(QString text) {
 }
 
 } // namespace
+
+void HeadlessView::showNetworkStatus(const QString& text) {
+    if (!text.isEmpty())
+        fConsole.print(u"network: " + text);
+}
+
+bool HeadlessView::presentSheet(QStringView identifier) {
+    fConsole.print(u"There is no window to show the sheet " + identifier + u" on.");
+    return identifier == cBonjourVCstoryboardID;
+}
 
 void HeadlessButton::performClick() {
     fState = 1 - fState;
@@ -52,6 +63,10 @@ void HeadlessAlerts::answer(SheetId sheet, ModalResponse response) {
     auto answered = fOpenSheets.extract(sheet);
     if (answered)
         fMainQueue.async([handler = std::move(answered.mapped()), response] { handler(response); });
+}
+
+std::optional<QString> HeadlessPathControl::url() const {
+    return fUrl.isEmpty() ? std::nullopt : std::optional(fUrl);
 }
 
 } // namespace kelvo

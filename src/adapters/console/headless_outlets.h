@@ -1,8 +1,11 @@
-// The front without a window: every status message and alert is one line on standard output.
+// What lies in the window where there is none: every status message and alert is one line on
+// standard output.
 #pragma once
 
 #include "ports/alert_presenter.h"
 #include "ports/control.h"
+#include "ports/main_view.h"
+#include "ports/path_control.h"
 #include "ports/status_field.h"
 
 #include <functional>
@@ -12,6 +15,28 @@ namespace kelvo {
 
 class Console;
 class DispatchQueue;
+
+/// Prints the network line as "network: <text>".
+class HeadlessView final : public MainView {
+public:
+    explicit HeadlessView(Console& console) : fConsole(console) {}
+
+    bool hasWindow() const override { return false; }
+    void makeNothingFirstResponder() override {}
+    void showNetworkStatus(const QString& text) override;
+    void showTesting(bool) override {}
+    void showKeyState(KeyState) override {}
+    void beep() override {}
+    Subscription monitorRightMouseDown(const Control&, std::function<void(bool)>) override {
+        return {};
+    }
+
+    /// Says that there is no window for the sheet; false for one that no window has either.
+    bool presentSheet(QStringView identifier);
+
+private:
+    Console& fConsole;
+};
 
 /// A start button that nobody can see; the program itself clicks it.
 class HeadlessButton final : public Button {
@@ -60,6 +85,17 @@ private:
     DispatchQueue& fMainQueue;
     std::map<SheetId, std::function<void(ModalResponse)>> fOpenSheets;
     SheetId fLastSheet = 0;
+};
+
+/// Keeps the location it was given.
+class HeadlessPathControl final : public PathControl {
+public:
+    void setUrl(const QString& url) override { fUrl = url; }
+    std::optional<QString> url() const override;
+    std::vector<Item> pathItems() const override { return pathItemsOf(fUrl); }
+
+private:
+    QString fUrl;
 };
 
 } // namespace kelvo

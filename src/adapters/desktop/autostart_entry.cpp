@@ -2,7 +2,8 @@
 
 #include "adapters/system/private_places.h"
 #include "adapters/system/unique_fd.h"
-#include "ports/file_changes.h"
+#include "ports/file_manager.h"
+#include "support/system_error_text.h"
 
 #include <QByteArray>
 #include <QList>
@@ -14,17 +15,12 @@
 #include <algorithm>
 #include <cerrno>
 #include <optional>
-#include <system_error>
 
 namespace kelvo {
 namespace {
 
 /// No entry of ours comes near.
 constexpr std::size_t cLargestEntry = std::size_t{16} * 1024;
-
-QString wordsOf(int error) {
-    return QString::fromStdString(std::generic_category().message(error));
-}
 
 /// A word of the Exec key: quoted as a shell would have it, then once more as every text of such a
 /// file, and with the percent sign of the key's field codes doubled.
@@ -87,9 +83,9 @@ QByteArray autostartText(const QString& program) {
            execWord(program) + "\n" + "Terminal=false\n" + cAutostartMark + "\n";
 }
 
-AutostartEntry::AutostartEntry(const QString& folder, const QString& program, FileChanges& changes)
+AutostartEntry::AutostartEntry(const QString& folder, const QString& program, FileManager& files)
     : fFolder(folder), fPath(folder + QStringLiteral("/org.kelvo.KelvoMirror.desktop")),
-      fProgram(program), fChanges(changes) {}
+      fProgram(program), fFiles(files) {}
 
 LoginItem::State AutostartEntry::state() const {
     const Found found = entryAt(fPath.toLocal8Bit());
@@ -99,7 +95,7 @@ LoginItem::State AutostartEntry::state() const {
     case Found::SomebodyElses:
         return {false, {LoginItemOutcome::SomebodyElses, fPath, {}}};
     case Found::Unreadable:
-        return {false, {LoginItemOutcome::Failed, fPath, wordsOf(found.error)}};
+        return {false, {LoginItemOutcome::Failed, fPath, systemErrorText(found.error)}};
     case Found::Ours:
         break;
     }
@@ -115,14 +111,14 @@ LoginItemOutcome AutostartEntry::setOn(bool on) {
     if (found.kind == Found::SomebodyElses)
         return {LoginItemOutcome::SomebodyElses, fPath, {}};
     if (found.kind == Found::Unreadable)
-        return {LoginItemOutcome::Failed, fPath, wordsOf(found.error)};
+        return {LoginItemOutcome::Failed, fPath, systemErrorText(found.error)};
     if (on) {
         if (const int error = makePrivateFolders(fFolder.toLocal8Bit().toStdString()))
-            return {LoginItemOutcome::Failed, fPath, wordsOf(error)};
-        if (const FileFault fault = fChanges.writeAtomically(fPath, autostartText(fProgram)))
+            return {LoginItemOutcome::Failed, fPath, systemErrorText(error)};
+        if (const FileFault fault = fFiles.writeAtomically(fPath, autostartText(fProgram)))
             return {LoginItemOutcome::Failed, fPath, reasonIn(*fault, fPath)};
     } else if (found.kind == Found::Ours) {
-        if (const FileFault fault = fChanges.removeItem(fPath))
+        if (const FileFault fault = fFiles.removeItem(fPath))
             return {LoginItemOutcome::Failed, fPath, reasonIn(*fault, fPath)};
     }
     return {LoginItemOutcome::Done, fPath, {}};

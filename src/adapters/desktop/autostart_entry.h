@@ -7,7 +7,7 @@ class QByteArray;
 
 namespace kelvo {
 
-class FileChanges;
+class FileManager;
 
 /// A line in our entries that says they are ours.
 inline constexpr const char* cAutostartMark = "X-KelvoMirror-Autostart=true";
@@ -19,7 +19,7 @@ class AutostartEntry final : public LoginItem {
 public:
     /// `folder` is the autostart folder, made when it is first needed; `program` is what shall be
     /// started. `changes` outlives the entry.
-    AutostartEntry(const QString& folder, const QString& program, FileChanges& changes);
+    AutostartEntry(const QString& folder, const QString& program, FileManager& files);
 
     State state() const override;
     LoginItemOutcome setOn(bool on) override;
@@ -28,7 +28,7 @@ private:
     const QString fFolder;
     const QString fPath;
     const QString fProgram;
-    FileChanges& fChanges;
+    FileManager& fFiles;
 };
 
 } // namespace kelvo

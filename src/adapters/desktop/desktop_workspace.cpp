@@ -1,10 +1,11 @@
 #include "adapters/desktop/desktop_workspace.h"
 
-#include "adapters/process/detached_start.h"
+#include "adapters/system/detached_start.h"
 #include "adapters/system/pidfd.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "support/plain_line.h"
+#include "support/system_error_text.h"
 #include "support/text.h"
 
 #include <QDBusMessage>
@@ -16,7 +17,6 @@
 
 #include <sys/wait.h>
 
-#include <cstring>
 #include <map>
 #include <utility>
 
@@ -97,8 +97,7 @@ QString DesktopWorkspace::addressOf(const QString& path) const {
 void DesktopWorkspace::open(const QString& address) {
     const pid_t pid = startDetached({fOpener.toLocal8Bit().toStdString(), address.toStdString()});
     if (pid < 0) {
-        fConsole.log(u"Cannot open " + address + u": " + fOpener + u": " +
-                     QString::fromLocal8Bit(std::strerror(-pid))); // NOLINT(concurrency-mt-unsafe)
+        fConsole.log(u"Cannot open " + address + u": " + fOpener + u": " + systemErrorText(-pid));
         return;
     }
     UniqueFd process = openProcess(pid);

@@ -1,9 +1,10 @@
 #include "adapters/desktop/terminal_window.h"
 
-#include "adapters/process/detached_start.h"
+#include "adapters/system/detached_start.h"
 #include "adapters/system/pidfd.h"
 #include "ports/console.h"
-#include "ports/temporary_folder.h"
+#include "ports/file_manager.h"
+#include "support/system_error_text.h"
 
 #include <QSocketNotifier>
 #include <QTimer>
@@ -88,7 +89,7 @@ public:
 private:
     /// A pipe under a name that is new each time, in a folder that nobody else can enter.
     bool makePipe() {
-        const FolderOrFault folder = fOwner.fFolder.temporaryFolder();
+        const FolderOrFault folder = fOwner.fFiles.temporaryFolder();
         if (folder.path.isEmpty()) {
             fOwner.fConsole.log(u"Cannot open a terminal window: " + folder.fault);
             return false;
@@ -109,8 +110,7 @@ private:
 
     bool logFault(const char* what) {
         fOwner.fConsole.log(QStringLiteral("Cannot open a terminal window: %1: %2")
-                                .arg(QLatin1StringView(what),
-                                     QString::fromLocal8Bit(std::strerror(errno)))); // NOLINT
+                                .arg(QLatin1StringView(what), systemErrorText(errno)));
         return false;
     }
 
@@ -160,8 +160,7 @@ private:
             if (pid != -ENOENT)
                 fOwner.fConsole.log(
                     QStringLiteral("Cannot start %1: %2")
-                        .arg(QString::fromStdString(program.name),
-                             QString::fromLocal8Bit(std::strerror(-pid)))); // NOLINT
+                        .arg(QString::fromStdString(program.name), systemErrorText(-pid)));
         }
         fOwner.fConsole.log(QStringLiteral("No terminal program could open a window."));
         finish(TerminalOutcome::NoWindow);
@@ -209,9 +208,9 @@ private:
     bool fBegun = false;
 };
 
-TerminalWindow::TerminalWindow(const TemporaryFolder& folder, Console& console,
+TerminalWindow::TerminalWindow(FileManager& files, Console& console,
                                std::vector<TerminalProgram> programs)
-    : fFolder(folder), fConsole(console), fPrograms(std::move(programs)) {}
+    : fFiles(files), fConsole(console), fPrograms(std::move(programs)) {}
 
 TerminalWindow::~TerminalWindow() = default;
 

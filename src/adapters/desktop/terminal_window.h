@@ -10,7 +10,7 @@
 namespace kelvo {
 
 class Console;
-class TemporaryFolder;
+class FileManager;
 
 /// A terminal program, with the words that go between it and the command it is to run.
 struct TerminalProgram {
@@ -27,7 +27,7 @@ std::vector<TerminalProgram> knownTerminals();
 class TerminalWindow final : public Terminal {
 public:
     /// The references outlive the object. Main thread, with an event loop.
-    TerminalWindow(const TemporaryFolder& folder, Console& console,
+    TerminalWindow(FileManager& files, Console& console,
                    std::vector<TerminalProgram> programs = knownTerminals());
 
     /// Open windows stay.
@@ -39,7 +39,7 @@ public:
 private:
     class Run;
 
-    const TemporaryFolder& fFolder;
+    FileManager& fFiles;
     Console& fConsole;
     const std::vector<TerminalProgram> fPrograms;
     std::vector<std::unique_ptr<Run>> fRuns;

@@ -2,11 +2,15 @@
 
 #include "adapters/network/avahi_session.h"
 #include "adapters/network/service_answer.h"
+#include "ports/dispatch_queue.h"
 
 #include <sys/eventfd.h>
 #include <unistd.h>
 
 #include <cstdint>
+#include <mutex>
+#include <utility>
+#include <vector>
 
 namespace kelvo {
 
@@ -35,11 +39,26 @@ public:
 
     void wakeUp() const { ::eventfd_write(fWakeUp, 1); }
 
+    void searchEndpoints(std::unique_ptr<EndpointSearch> search) {
+        {
+            const std::lock_guard lock(fMutex);
+            fNewSearches.push_back(std::move(search));
+        }
+        wakeUp();
+    }
+
 private:
     void wokenUp() {
         eventfd_t count = 0;
         ::eventfd_read(fWakeUp, &count);
         fSession.searchAfresh();
+        for (auto& search : takeNewSearches())
+            fSession.searchEndpoints(std::move(search));
+    }
+
+    std::vector<std::unique_ptr<EndpointSearch>> takeNewSearches() {
+        const std::lock_guard lock(fMutex);
+        return std::exchange(fNewSearches, {});
     }
 
     const int fWakeUp;
@@ -47,21 +66,44 @@ private:
     const AvahiPoll& fPoll;
     AvahiSession fSession;
     AvahiWatch* const fWatch;
+    std::mutex fMutex;
+    std::vector<std::unique_ptr<EndpointSearch>> fNewSearches;
 };
 
-AvahiBrowser::AvahiBrowser(Console& console) : fConsole(console) {}
+AvahiBrowser::AvahiBrowser(Console& console, DispatchQueue& mainQueue)
+    : fConsole(console), fMainQueue(mainQueue) {}
 
 AvahiBrowser::~AvahiBrowser() = default;
 
 void AvahiBrowser::browseForType(const QString& type) {
     fTable.startSearch(fullServiceType(type));
-    if (!fWorker)
-        fWorker = std::make_unique<Worker>(fTable, fConsole);
-    fWorker->wakeUp();
+    worker().wakeUp();
 }
 
 DNSSD_Services AvahiBrowser::services() const {
     return fTable.services();
+}
+
+void AvahiBrowser::searchEndpoints(const EndpointRequest& request, EndpointListener listener) {
+    const auto onMainQueue = [this](auto handler) {
+        return [&queue = fMainQueue, alive = std::weak_ptr(fAlive),
+                handler = std::move(handler)](const auto& value) {
+            queue.async([alive, handler, value] {
+                if (!alive.expired())
+                    handler(value);
+            });
+        };
+    };
+    worker().searchEndpoints(std::make_unique<EndpointSearch>(
+        request,
+        EndpointListener{.stateChanged = onMainQueue(std::move(listener.stateChanged)),
+                         .endpointsChanged = onMainQueue(std::move(listener.endpointsChanged))}));
+}
+
+AvahiBrowser::Worker& AvahiBrowser::worker() {
+    if (!fWorker)
+        fWorker = std::make_unique<Worker>(fTable, fConsole);
+    return *fWorker;
 }
 
 } // namespace kelvo

@@ -9,24 +9,32 @@
 namespace kelvo {
 
 class Console;
+class DispatchQueue;
 
 /// The conversation with the daemon has a thread of its own, which starts with the first search;
 /// the daemon, or the message bus, may be absent, come late, go and come again. Destruction waits
 /// for a question that is under way.
 class AvahiBrowser final : public DnssdBrowser {
 public:
-    /// `console` outlives the browser.
-    explicit AvahiBrowser(Console& console);
+    /// Both outlive the browser.
+    AvahiBrowser(Console& console, DispatchQueue& mainQueue);
     ~AvahiBrowser() override;
 
     void browseForType(const QString& type) override;
     DNSSD_Services services() const override;
 
+    /// Peers beyond the network are not looked for: the daemon knows none.
+    void searchEndpoints(const EndpointRequest& request, EndpointListener listener) override;
+
 private:
     class Worker;
 
+    Worker& worker();
+
     Console& fConsole;
+    DispatchQueue& fMainQueue;
     ServiceTable fTable;
+    std::shared_ptr<int> fAlive = std::make_shared<int>();
     std::unique_ptr<Worker> fWorker;
 };
 

@@ -1,8 +1,11 @@
-// Owning handles for what libavahi-client makes.
+// Owning handles for what libavahi-client makes, and its last error in words.
 #pragma once
+
+#include <QString>
 
 #include <avahi-client/client.h>
 #include <avahi-client/lookup.h>
+#include <avahi-common/error.h>
 #include <avahi-common/thread-watch.h>
 #include <memory>
 
@@ -17,5 +20,9 @@ struct AvahiDeleter {
 
 template <typename Handle>
 using AvahiHandle = std::unique_ptr<Handle, AvahiDeleter>;
+
+inline QString lastError(AvahiClient* client) {
+    return QString::fromUtf8(avahi_strerror(avahi_client_errno(client)));
+}
 
 } // namespace kelvo

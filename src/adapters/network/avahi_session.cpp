@@ -1,7 +1,6 @@
 #include "adapters/network/avahi_session.h"
 
 #include "adapters/network/neighbour_table.h"
-#include "adapters/network/service_answer.h"
 #include "ports/console.h"
 #include "support/text.h"
 
@@ -42,11 +41,20 @@ AvahiSession::~AvahiSession() {
 }
 
 void AvahiSession::searchAfresh() {
-    fPause = 0;
+    if (fTable.search().number == fSearchNumber)
+        return;
     if (fConnected)
         startBrowser(fClient.get());
     else
-        connectLater();
+        connectAtOnce();
+}
+
+void AvahiSession::searchEndpoints(std::unique_ptr<EndpointSearch> search) {
+    fEndpointSearches.push_back(std::move(search));
+    if (fConnected)
+        fEndpointSearches.back()->begin(fClient.get());
+    else
+        connectAtOnce();
 }
 
 // -- the client
@@ -66,14 +74,22 @@ void AvahiSession::connect() {
         return;
     }
     tell(QStringLiteral("no message bus to reach the discovery service by"));
+    failEndpoints(QStringLiteral("there is no system bus"));
     connectLater();
 }
 
 void AvahiSession::disconnect() {
     fResolvers.clear();
     fBrowser.reset();
+    for (const auto& search : fEndpointSearches)
+        search->letGo();
     fClient.reset();
     fConnected = false;
+}
+
+void AvahiSession::connectAtOnce() {
+    fPause = 0;
+    connectLater();
 }
 
 void AvahiSession::connectLater() {
@@ -81,6 +97,11 @@ void AvahiSession::connectLater() {
     avahi_elapse_time(&due, static_cast<unsigned>(fPause * 1000), 0);
     fPoll.timeout_update(fTimeout, &due);
     fPause = std::clamp(fPause * 2, cFirstPause, cLongestPause);
+}
+
+void AvahiSession::failEndpoints(const QString& reason) {
+    for (const auto& search : fEndpointSearches)
+        search->failUnlessTold(reason);
 }
 
 void AvahiSession::clientChanged(AvahiClient* client, AvahiClientState state) {
@@ -93,19 +114,22 @@ void AvahiSession::clientChanged(AvahiClient* client, AvahiClientState state) {
             fConnected = true;
             fTold.clear();
             startBrowser(client);
+            for (const auto& search : fEndpointSearches)
+                search->begin(client);
         }
         break;
     case AVAHI_CLIENT_CONNECTING:
         fConnected = false;
         fTable.lose();
         tell(QStringLiteral("waiting for the discovery service (avahi-daemon)"));
+        failEndpoints(QString::fromUtf8(avahi_strerror(AVAHI_ERR_NO_DAEMON)));
         break;
     case AVAHI_CLIENT_FAILURE:
         // The client cannot be freed from its own callback.
         fConnected = false;
         fTable.lose();
-        tell(QString(u"lost the discovery service: " +
-                     QString::fromUtf8(avahi_strerror(avahi_client_errno(client)))));
+        tell(u"lost the discovery service: " + lastError(client));
+        failEndpoints(lastError(client));
         connectLater();
         break;
     }
@@ -196,7 +220,10 @@ void AvahiSession::serviceResolved(const ResolvedService& service) {
     fTable.resolved(*record);
 }
 
+/// A search for endpoints has its own listener.
 void AvahiSession::tell(const QString& what) {
+    if (fTable.search().type.isEmpty())
+        return;
     if (std::exchange(fTold, what) == what)
         return;
     fConsole.log(insideLine(u"AvahiBrowser", u"browseForType:", QString(u"......." + what)));

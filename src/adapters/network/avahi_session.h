@@ -2,8 +2,9 @@
 #pragma once
 
 #include "adapters/network/avahi_handles.h"
-#include "adapters/network/refused_names.h"
+#include "adapters/network/endpoint_search.h"
 #include "adapters/network/resolver_pool.h"
+#include "adapters/network/service_answer.h"
 #include "adapters/network/service_table.h"
 
 namespace kelvo {
@@ -18,12 +19,18 @@ public:
 
     /// Starts the search that the table wants, now or as soon as there is a daemon. From then on
     /// it finds back to a daemon, or a message bus, that goes and comes.
+    /// Nothing happens when that search has begun already.
     void searchAfresh();
+
+    /// Begins `search` in the same way; it goes on as long as the session.
+    void searchEndpoints(std::unique_ptr<EndpointSearch> search);
 
 private:
     void connect();
     void disconnect();
+    void connectAtOnce();
     void connectLater();
+    void failEndpoints(const QString& reason);
     void startBrowser(AvahiClient* client);
     void clientChanged(AvahiClient* client, AvahiClientState state);
     void serviceFound(AvahiClient* client, const ServiceQuestion& question);
@@ -43,6 +50,7 @@ private:
     AvahiHandle<AvahiClient> fClient;
     AvahiHandle<AvahiServiceBrowser> fBrowser; ///< belongs to the client, as do the resolvers
     ResolverPool fResolvers;
+    std::vector<std::unique_ptr<EndpointSearch>> fEndpointSearches;
 };
 
 } // namespace kelvo

@@ -57,9 +57,9 @@ QString reachabilityMessage(bool usableLink, NetworkReach reach) {
     return QStringLiteral("Connected to the network");
 }
 
-class KelvoSSID::Watching : public std::enable_shared_from_this<Watching> {
+class KelvoSSID::Watcher : public std::enable_shared_from_this<Watcher> {
 public:
-    Watching(NotificationCenter& center, DispatchQueue& mainQueue)
+    Watcher(NotificationCenter& center, DispatchQueue& mainQueue)
         : fCenter(center), fMainQueue(mainQueue), fService(networkService()),
           fLinks([this] { lookLater(cSettleSeconds); }) {
         if (fService)
@@ -101,10 +101,10 @@ KelvoSSID::KelvoSSID(NotificationCenter& center, DispatchQueue& mainQueue)
 KelvoSSID::~KelvoSSID() = default;
 
 void KelvoSSID::checknetwork2() {
-    if (fWatching)
+    if (fWatcher)
         return;
-    fWatching = std::make_shared<Watching>(fCenter, fMainQueue);
-    fWatching->lookLater(0);
+    fWatcher = std::make_shared<Watcher>(fCenter, fMainQueue);
+    fWatcher->lookLater(0);
 }
 
 } // namespace kelvo

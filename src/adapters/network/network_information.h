@@ -28,8 +28,8 @@ public:
     void checknetwork2() override;
 
 private:
-    class Watching;
-    std::shared_ptr<Watching> fWatching; ///< also what delayed looks hold on to, weakly
+    class Watcher;
+    std::shared_ptr<Watcher> fWatcher; ///< also what delayed looks hold on to, weakly
     NotificationCenter& fCenter;
     DispatchQueue& fMainQueue;
 };

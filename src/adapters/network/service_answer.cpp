@@ -1,9 +1,13 @@
 #include "adapters/network/service_answer.h"
 
+#include "ports/console.h"
 #include "support/service_name_rules.h"
+#include "support/text.h"
 
 namespace kelvo {
 namespace {
+
+constexpr qsizetype cMostTold = 1000;
 
 QString text(std::string_view bytes) {
     return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
@@ -46,6 +50,16 @@ std::optional<DNSSD_Service> recordFromAnswer(const ServiceAnswer& answer, const
 
 QString fullServiceType(const QString& type) {
     return type.contains(u'.') ? type : QString(type + u"._tcp");
+}
+
+void RefusedNames::tell(const QString& name) {
+    if (fTold.size() >= cMostTold || fTold.contains(name))
+        return;
+    fTold.insert(name);
+    const bool last = fTold.size() == cMostTold;
+    fConsole.log(insideLine(u"AvahiBrowser", u"services",
+                            QString(u".......refused the service name [" + escapedForLog(name) +
+                                    (last ? u"]; further ones are not told" : u"]"))));
 }
 
 } // namespace kelvo

@@ -1,11 +1,15 @@
-// What Avahi's callbacks say about a service, and the record made of it.
+// What Avahi's callbacks say about a service: the record made of it, or the name that is refused.
 #pragma once
 
 #include "support/dnssd_service.h"
 
+#include <QSet>
+
 #include <string_view>
 
 namespace kelvo {
+
+class Console;
 
 /// Bytes from the network, as they came.
 struct ServiceAnswer {
@@ -25,5 +29,19 @@ std::optional<DNSSD_Service> recordFromAnswer(const ServiceAnswer& answer, const
 
 /// "_smb" as Avahi wants it: "_smb._tcp". A type that names its transport stays as it is.
 QString fullServiceType(const QString& type);
+
+/// Says once of each name that it is not listed. One thread only.
+class RefusedNames {
+public:
+    explicit RefusedNames(Console& console) : fConsole(console) {}
+
+    /// Leaves a line with `name` escaped, the first time; after very many names it says that the
+    /// rest is not told.
+    void tell(const QString& name);
+
+private:
+    Console& fConsole;
+    QSet<QString> fTold;
+};
 
 } // namespace kelvo

@@ -1,8 +1,9 @@
 #include "adapters/passes/pass_database.h"
 
-#include "adapters/passes/pass_columns.h"
+#include "adapters/passes/pass_statements.h"
 #include "adapters/system/private_places.h"
 #include "adapters/system/unique_fd.h"
+#include "support/system_error_text.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -13,7 +14,6 @@
 
 #include <atomic>
 #include <cerrno>
-#include <system_error>
 
 namespace kelvo {
 namespace {
@@ -100,7 +100,7 @@ PassDatabase::Outcome PassDatabase::prepareFile() const {
     }
     const UniqueFd file(::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
     if (!file)
-        return failed(QString::fromStdString(std::generic_category().message(errno)));
+        return failed(systemErrorText(errno));
     return {};
 }
 

@@ -19,9 +19,9 @@ SqlitePassStore::SqlitePassStore(const QString& path, DispatchQueue& mainQueue, 
 
 SqlitePassStore::~SqlitePassStore() {
     {
-        const std::lock_guard lock(fAudience->mutex);
-        fAudience->gone = true;
-        fAudience->observers.clear();
+        const std::lock_guard lock(fObservers->mutex);
+        fObservers->gone = true;
+        fObservers->observers.clear();
     }
     {
         const std::lock_guard lock(fMutex);
@@ -68,12 +68,12 @@ void SqlitePassStore::read(qint64 id, Record answerWith) {
 }
 
 Subscription SqlitePassStore::observe(std::function<void(const PassRecord&)> observer) {
-    const std::lock_guard lock(fAudience->mutex);
-    const int number = fAudience->next++;
-    fAudience->observers.emplace(number, std::move(observer));
-    return Subscription([audience = fAudience, number] {
-        const std::lock_guard inside(audience->mutex);
-        audience->observers.erase(number);
+    const std::lock_guard lock(fObservers->mutex);
+    const int number = fObservers->next++;
+    fObservers->observers.emplace(number, std::move(observer));
+    return Subscription([shared = fObservers, number] {
+        const std::lock_guard inside(shared->mutex);
+        shared->observers.erase(number);
     });
 }
 
@@ -150,10 +150,10 @@ void SqlitePassStore::note(const PassDatabase::Outcome& outcome) {
 }
 
 void SqlitePassStore::answer(std::function<void()> give) {
-    fMainQueue.async([audience = fAudience, give = std::move(give)] {
+    fMainQueue.async([shared = fObservers, give = std::move(give)] {
         {
-            const std::lock_guard lock(audience->mutex);
-            if (audience->gone)
+            const std::lock_guard lock(shared->mutex);
+            if (shared->gone)
                 return;
         }
         give();
@@ -162,11 +162,10 @@ void SqlitePassStore::answer(std::function<void()> give) {
 
 void SqlitePassStore::announce(PassRecord record) {
     record.commands.clear();
-    fMainQueue.async(
-        [audience = fAudience, record = std::move(record)] { audience->tell(record); });
+    fMainQueue.async([shared = fObservers, record = std::move(record)] { shared->tell(record); });
 }
 
-void SqlitePassStore::Audience::tell(const PassRecord& record) {
+void SqlitePassStore::Observers::tell(const PassRecord& record) {
     std::vector<int> numbers;
     {
         const std::lock_guard lock(mutex);

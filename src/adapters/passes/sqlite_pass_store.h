@@ -38,7 +38,7 @@ public:
 private:
     using Job = std::function<void(PassDatabase&)>;
     /// Shared with what waits on the main queue; main thread only, but for `add` and `remove`.
-    struct Audience {
+    struct Observers {
         std::mutex mutex;
         std::map<int, std::function<void(const PassRecord&)>> observers;
         int next = 0;
@@ -60,7 +60,7 @@ private:
     const int fMost;
     DispatchQueue& fMainQueue;
     Console& fConsole;
-    std::shared_ptr<Audience> fAudience = std::make_shared<Audience>();
+    std::shared_ptr<Observers> fObservers = std::make_shared<Observers>();
 
     std::mutex fMutex;
     std::condition_variable fPosted;

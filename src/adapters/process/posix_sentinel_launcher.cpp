@@ -14,6 +14,7 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
+#include <memory>
 #include <string>
 #include <system_error>
 #include <thread>
@@ -66,9 +67,10 @@ pid_t spawn(const std::string& path, std::vector<std::string> texts, int readyEn
     return pid;
 }
 
-class Task final : public SentinelTask {
+/// Waits for a sentinel on a thread of its own.
+class SentinelWatch {
 public:
-    Task(pid_t pid, SentinelLauncher::Terminated terminated)
+    SentinelWatch(pid_t pid, SentinelLauncher::Terminated terminated)
         : fPid(pid), fHandle(openProcess(pid)), fStop(::eventfd(0, EFD_CLOEXEC)),
           fTerminated(std::move(terminated)) {
         try {
@@ -79,16 +81,16 @@ public:
         }
     }
 
-    ~Task() override {
+    ~SentinelWatch() {
         const std::uint64_t one = 1;
         (void)!::write(fStop.get(), &one, sizeof one);
         if (fThread.joinable())
             fThread.join();
     }
-    Task(const Task&) = delete;
-    Task& operator=(const Task&) = delete;
+    SentinelWatch(const SentinelWatch&) = delete;
+    SentinelWatch& operator=(const SentinelWatch&) = delete;
 
-    void terminate() override {
+    void terminate() {
         fAsked = true;
         signalProcess(fHandle, SIGTERM);
     }
@@ -128,12 +130,12 @@ bool PosixSentinelLauncher::isExecutable(const QString& path) const {
            ::faccessat(AT_FDCWD, name.c_str(), X_OK, AT_EACCESS) == 0;
 }
 
-std::unique_ptr<SentinelTask> PosixSentinelLauncher::launch(const QString& path,
-                                                            const QStringList& arguments,
-                                                            Terminated terminated) {
+std::optional<SentinelTask> PosixSentinelLauncher::launch(const QString& path,
+                                                          const QStringList& arguments,
+                                                          Terminated terminated) {
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC) != 0)
-        return nullptr;
+        return std::nullopt;
     const UniqueFd inPlace(ends[0]);
     UniqueFd readyEnd(ends[1]);
 
@@ -142,10 +144,12 @@ std::unique_ptr<SentinelTask> PosixSentinelLauncher::launch(const QString& path,
         texts.push_back(argument.toStdString());
     const pid_t pid = spawn(texts.front(), texts, readyEnd.get());
     if (pid < 0)
-        return nullptr;
+        return std::nullopt;
     readyEnd.reset();
     (void)becomesReadable(inPlace.get(), cInPlacePatience);
-    return std::make_unique<Task>(pid, std::move(terminated));
+    return SentinelTask([watch = std::make_shared<SentinelWatch>(pid, std::move(terminated))] {
+        watch->terminate();
+    });
 }
 
 } // namespace kelvo

@@ -11,8 +11,8 @@ namespace kelvo {
 class PosixSentinelLauncher final : public SentinelLauncher {
 public:
     bool isExecutable(const QString& path) const override;
-    std::unique_ptr<SentinelTask> launch(const QString& path, const QStringList& arguments,
-                                         Terminated terminated) override;
+    std::optional<SentinelTask> launch(const QString& path, const QStringList& arguments,
+                                       Terminated terminated) override;
 };
 
 } // namespace kelvo

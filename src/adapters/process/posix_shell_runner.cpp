@@ -5,6 +5,7 @@
 #include "adapters/process/utf8_collector.h"
 #include "ports/console.h"
 #include "support/plain_line.h"
+#include "support/system_error_text.h"
 
 #include <poll.h>
 #include <signal.h>
@@ -14,7 +15,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 
 namespace kelvo {
 namespace {
@@ -192,8 +192,7 @@ CommandResult PosixShellRunner::run(const Command& command) {
         }
     }
     if (failure != 0) {
-        fConsole.log(QStringLiteral("Cannot start a shell command: ") +
-                     QString::fromLocal8Bit(std::strerror(failure))); // NOLINT
+        fConsole.log(QStringLiteral("Cannot start a shell command: ") + systemErrorText(failure));
         return {{}, {}, cCannotStart};
     }
 

@@ -2,6 +2,7 @@
 
 #include "adapters/system/unique_fd.h"
 #include "ports/console.h"
+#include "support/system_error_text.h"
 
 #include <QSocketNotifier>
 
@@ -16,7 +17,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -30,11 +30,11 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::string_view cRequest = "show\n";
 constexpr std::string_view cAnswer = "shown\n";
-constexpr std::size_t cMostGuests = 16;
+constexpr std::size_t cMostClients = 16;
 constexpr auto cRetryPause = 50ms;
 
 QString lastFault() {
-    return QString::fromLocal8Bit(std::strerror(errno)); // NOLINT(concurrency-mt-unsafe)
+    return systemErrorText(errno);
 }
 
 std::optional<sockaddr_un> socketAddress(const std::string& path) {
@@ -106,7 +106,7 @@ public:
         // The name takes over the socket's own mode, so that it is never open to others.
         if (!fSocket || ::fchmod(fSocket.get(), S_IRUSR | S_IWUSR) != 0 ||
             ::bind(fSocket.get(), generic(address), sizeof address) != 0 ||
-            ::listen(fSocket.get(), cMostGuests) != 0)
+            ::listen(fSocket.get(), cMostClients) != 0)
             return false;
         fPath = address.sun_path;
         fNotifier = std::make_unique<QSocketNotifier>(fSocket.get(), QSocketNotifier::Read);
@@ -116,7 +116,7 @@ public:
     }
 
 private:
-    struct Guest {
+    struct Client {
         UniqueFd socket;
         std::unique_ptr<QSocketNotifier> notifier;
         std::string said;
@@ -126,42 +126,42 @@ private:
         UniqueFd socket(::accept4(fSocket.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
         if (!socket || !isOurUser(socket.get()))
             return;
-        if (fGuests.size() >= cMostGuests)
-            showOut(*fGuests.front());
-        auto guest = std::make_unique<Guest>();
-        guest->socket = std::move(socket);
-        guest->notifier =
-            std::make_unique<QSocketNotifier>(guest->socket.get(), QSocketNotifier::Read);
-        QObject::connect(guest->notifier.get(), &QSocketNotifier::activated, &fContext,
-                         [this, known = guest.get()] { hear(*known); });
-        fGuests.push_back(std::move(guest));
+        if (fClients.size() >= cMostClients)
+            drop(*fClients.front());
+        auto client = std::make_unique<Client>();
+        client->socket = std::move(socket);
+        client->notifier =
+            std::make_unique<QSocketNotifier>(client->socket.get(), QSocketNotifier::Read);
+        QObject::connect(client->notifier.get(), &QSocketNotifier::activated, &fContext,
+                         [this, known = client.get()] { hear(*known); });
+        fClients.push_back(std::move(client));
     }
 
-    void hear(Guest& guest) {
+    void hear(Client& client) {
         std::array<char, cRequest.size() + 1> bytes{};
-        const ssize_t count = ::recv(guest.socket.get(), bytes.data(), bytes.size(), 0);
+        const ssize_t count = ::recv(client.socket.get(), bytes.data(), bytes.size(), 0);
         if (count < 0 && (errno == EAGAIN || errno == EINTR))
             return;
         if (count > 0)
-            guest.said.append(bytes.data(), static_cast<std::size_t>(count));
-        if (count > 0 && guest.said.size() < cRequest.size() && cRequest.starts_with(guest.said))
+            client.said.append(bytes.data(), static_cast<std::size_t>(count));
+        if (count > 0 && client.said.size() < cRequest.size() && cRequest.starts_with(client.said))
             return;
-        const bool asked = guest.said == cRequest;
-        const UniqueFd socket = std::move(guest.socket);
-        showOut(guest);
+        const bool asked = client.said == cRequest;
+        const UniqueFd socket = std::move(client.socket);
+        drop(client);
         if (!asked)
             return;
         fShow();
         (void)::send(socket.get(), cAnswer.data(), cAnswer.size(), MSG_NOSIGNAL);
     }
 
-    void showOut(Guest& guest) {
+    void drop(Client& client) {
         const auto found =
-            std::ranges::find_if(fGuests, [&](const auto& each) { return each.get() == &guest; });
+            std::ranges::find_if(fClients, [&](const auto& each) { return each.get() == &client; });
         // Its notifier may be the one that called.
-        guest.notifier->setEnabled(false);
-        guest.notifier.release()->deleteLater();
-        fGuests.erase(found);
+        client.notifier->setEnabled(false);
+        client.notifier.release()->deleteLater();
+        fClients.erase(found);
     }
 
     UniqueFd fLock;
@@ -170,7 +170,7 @@ private:
     std::string fPath;
     QObject fContext;
     std::unique_ptr<QSocketNotifier> fNotifier;
-    std::vector<std::unique_ptr<Guest>> fGuests;
+    std::vector<std::unique_ptr<Client>> fClients;
 };
 
 SingleCopySocket::SingleCopySocket(std::string folder, Console& console,

@@ -2,10 +2,10 @@
 
 #include "adapters/settings/plist_codec.h"
 #include "support/stored_value.h"
+#include "support/system_error_text.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <system_error>
 
 namespace kelvo {
 namespace {
@@ -104,9 +104,8 @@ void DefaultsDisk::watchFolder() {
     if (error == 0 || error == ENOENT || error == ENOTDIR || fWatchRefused)
         return;
     fWatchRefused = true;
-    fConsole.log(
-        QStringLiteral("Changes to %1 by other programs are not noticed at once: %2")
-            .arg(fFile.path(), QString::fromStdString(std::generic_category().message(error))));
+    fConsole.log(QStringLiteral("Changes to %1 by other programs are not noticed at once: %2")
+                     .arg(fFile.path(), systemErrorText(error)));
 }
 
 bool DefaultsDisk::somethingToWrite() const {

@@ -153,7 +153,7 @@ bool FileWatch::folderIsGone() const {
            now.st_dev != open.st_dev || now.st_ino != open.st_ino;
 }
 
-FileWatch::Sight FileWatch::sight() const {
+FileWatch::State FileWatch::state() const {
     struct stat entry {};
     if (::fstatat(fOpenFolder.get(), fName.c_str(), &entry, AT_SYMLINK_NOFOLLOW) != 0)
         return {};
@@ -169,7 +169,7 @@ bool FileWatch::look(bool told) {
     }
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
-    const Sight seen = sight();
+    const State seen = state();
     const bool changed = seen != fSeen || (told && fSeenYoung);
     fSeen = seen;
     fSeenYoung = seen.file != 0 && nanoseconds(now) - seen.changed < cYoung;

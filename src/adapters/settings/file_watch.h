@@ -35,14 +35,14 @@ public:
 
 private:
     /// What tells two states of the file apart; all zero without a file.
-    struct Sight {
+    struct State {
         dev_t device = 0;
         ino_t file = 0;
         off_t size = 0;
         std::int64_t written = 0; ///< nanoseconds since 1970
         std::int64_t changed = 0;
 
-        bool operator==(const Sight&) const = default;
+        bool operator==(const State&) const = default;
     };
 
     bool listen();
@@ -50,7 +50,7 @@ private:
     int listenToEvents();
     void takeEvents();
     bool folderIsGone() const;
-    Sight sight() const;
+    State state() const;
     bool look(bool told);
     void forget();
 
@@ -61,7 +61,7 @@ private:
     UniqueFd fOpenParent;
     UniqueFd fEvents; ///< readable when something may have changed
     bool fSignalsRefused = false;
-    Sight fSeen;
+    State fSeen;
     bool fSeenYoung = false; ///< a second change would have left the same stamps
 };
 

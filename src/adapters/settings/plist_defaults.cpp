@@ -5,19 +5,19 @@
 namespace kelvo {
 
 PlistDefaults::PlistDefaults(const QString& path, DispatchQueue& mainQueue, Console& console)
-    : fBoard(std::make_shared<Board>()),
-      fDisk(path, fBoard->values, console,
-            [&mainQueue, board = std::weak_ptr(fBoard)](const QStringList& keys) {
+    : fShared(std::make_shared<Shared>()),
+      fDisk(path, fShared->values, console,
+            [&mainQueue, shared = std::weak_ptr(fShared)](const QStringList& keys) {
                 for (const QString& key : keys) {
-                    mainQueue.async([board, key] {
-                        if (const auto alive = board.lock())
+                    mainQueue.async([shared, key] {
+                        if (const auto alive = shared.lock())
                             alive->tell(key);
                     });
                 }
             }) {}
 
 QVariant PlistDefaults::object(QStringView key) const {
-    return fBoard->values.object(key);
+    return fShared->values.object(key);
 }
 
 void PlistDefaults::setObject(QStringView key, const QVariant& value) {
@@ -29,7 +29,7 @@ void PlistDefaults::removeObject(QStringView key) {
 }
 
 void PlistDefaults::registerDefaults(const QVariantMap& defaults) {
-    fBoard->values.registerDefaults(defaults);
+    fShared->values.registerDefaults(defaults);
 }
 
 void PlistDefaults::synchronize() {
@@ -37,16 +37,16 @@ void PlistDefaults::synchronize() {
 }
 
 Subscription PlistDefaults::observe(QStringView key, DefaultsObserver observer) {
-    return fBoard->observers.add(key, std::move(observer));
+    return fShared->observers.add(key, std::move(observer));
 }
 
 void PlistDefaults::change(QStringView key, const QVariant& value) {
-    if (fBoard->values.change(key, value))
+    if (fShared->values.change(key, value))
         fDisk.wake();
-    fBoard->tell(key.toString());
+    fShared->tell(key.toString());
 }
 
-void PlistDefaults::Board::tell(const QString& key) const {
+void PlistDefaults::Shared::tell(const QString& key) const {
     observers.tell(key, [&] { return values.object(key); });
 }
 

@@ -50,7 +50,7 @@ public:
     Subscription observe(QStringView key, DefaultsObserver observer) override;
 
 private:
-    struct Board {
+    struct Shared {
         DefaultsValues values;
         DefaultsObservers observers;
 
@@ -58,7 +58,7 @@ private:
     };
     void change(QStringView key, const QVariant& value);
 
-    std::shared_ptr<Board> fBoard; ///< shared with what waits on the main queue
+    std::shared_ptr<Shared> fShared; ///< shared with what waits on the main queue
     DefaultsDisk fDisk;
 };
 

@@ -2,6 +2,7 @@
 
 #include "adapters/settings/plist_guard.h"
 #include "adapters/system/private_places.h"
+#include "support/system_error_text.h"
 
 #include <QFile>
 
@@ -13,7 +14,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <string_view>
-#include <system_error>
 #include <thread>
 
 namespace kelvo {
@@ -25,10 +25,6 @@ constexpr std::string_view cNewSuffix = ".new-";
 constexpr std::string_view cLockSuffix = ".lock";
 constexpr auto cLockPause = 5ms;
 constexpr int cMostAsides = 1000;
-
-QString reason(int error) {
-    return QString::fromStdString(std::generic_category().message(error));
-}
 
 int writeAll(int descriptor, const QByteArray& bytes) {
     qsizetype done = 0;
@@ -77,11 +73,11 @@ PlistFile::Contents PlistFile::read() const {
     const UniqueFd file(::open(nativePath().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file) {
         const bool missing = errno == ENOENT || errno == ENOTDIR;
-        return missing ? Contents{} : Contents{Refused, {}, reason(errno)};
+        return missing ? Contents{} : Contents{Refused, {}, systemErrorText(errno)};
     }
     struct stat entry {};
     if (::fstat(file.get(), &entry) != 0)
-        return {Refused, {}, reason(errno)};
+        return {Refused, {}, systemErrorText(errno)};
     if (!S_ISREG(entry.st_mode))
         return {Refused, {}, QStringLiteral("it is no ordinary file")};
     Contents contents{Read, {}, {}};
@@ -96,14 +92,14 @@ PlistFile::Contents PlistFile::read() const {
         if (count == 0)
             break;
         if (count < 0 && error != EINTR)
-            return {Refused, {}, reason(error)};
+            return {Refused, {}, systemErrorText(error)};
     }
     return contents;
 }
 
 QString PlistFile::makeFolder() const {
     const int error = makePrivateFolders(fFolder);
-    return error ? reason(error) : QString();
+    return error ? systemErrorText(error) : QString();
 }
 
 QString PlistFile::replace(const QByteArray& bytes) {
@@ -117,7 +113,7 @@ QString PlistFile::replace(const QByteArray& bytes) {
     if (::rename(newPath.c_str(), nativePath().c_str()) != 0) {
         const int error = errno;
         ::unlink(newPath.c_str());
-        return reason(error);
+        return systemErrorText(error);
     }
     return syncFolder();
 }
@@ -125,7 +121,7 @@ QString PlistFile::replace(const QByteArray& bytes) {
 QString PlistFile::writeNew(const std::string& newPath, const QByteArray& bytes) const {
     UniqueFd file(::open(newPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!file)
-        return reason(errno);
+        return systemErrorText(errno);
     int error = writeAll(file.get(), bytes);
     if (!error && ::fsync(file.get()) != 0)
         error = errno;
@@ -135,16 +131,16 @@ QString PlistFile::writeNew(const std::string& newPath, const QByteArray& bytes)
     if (!error)
         return {};
     ::unlink(newPath.c_str());
-    return reason(error);
+    return systemErrorText(error);
 }
 
 QString PlistFile::syncFolder() const {
     const UniqueFd folder(::open(fFolder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!folder)
-        return reason(errno);
+        return systemErrorText(errno);
     // A file system that cannot sync folders says EINVAL; the file is in its place all the same.
     if (::fsync(folder.get()) != 0 && errno != EINVAL)
-        return reason(errno);
+        return systemErrorText(errno);
     return {};
 }
 
@@ -162,7 +158,7 @@ std::pair<QString, QString> PlistFile::moveAside(const QDateTime& now) {
             return {target, {}};
         }
     }
-    return {{}, reason(error)};
+    return {{}, systemErrorText(error)};
 }
 
 std::pair<FileLock, QString> PlistFile::lock(std::chrono::milliseconds patience) {
@@ -171,7 +167,7 @@ std::pair<FileLock, QString> PlistFile::lock(std::chrono::milliseconds patience)
     for (;;) {
         FileLock lock(::open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
         if (!lock)
-            return {FileLock(), reason(errno)};
+            return {FileLock(), systemErrorText(errno)};
         if (::flock(lock.get(), LOCK_EX | LOCK_NB) == 0) {
             if (stillInPlace(lock.get(), path))
                 return {std::move(lock), QString()};

@@ -1,15 +1,38 @@
 #include "adapters/system/local_file_manager.h"
 
+#include "adapters/system/private_places.h"
+#include "adapters/system/unique_fd.h"
+#include "support/system_error_text.h"
+
+#include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <vector>
 
 namespace kelvo {
 namespace {
+
+bool usable(const QString& path) {
+    // A NUL would cut the path short and make it another one.
+    return !path.isEmpty() && !path.contains(QChar(u'\0'));
+}
+
+/// The kind of what lies at `path`, links followed; 0 for nothing.
+mode_t kindOf(const QString& path) {
+    struct stat entry {};
+    if (!usable(path) || ::stat(path.toLocal8Bit().constData(), &entry) != 0)
+        return 0;
+    return entry.st_mode & S_IFMT;
+}
+
+bool allows(const QString& path, int access) {
+    return ::access(path.toLocal8Bit().constData(), access) == 0;
+}
 
 QString homeOfAccount() {
     std::vector<char> buffer(1024);
@@ -20,14 +43,34 @@ QString homeOfAccount() {
     return found && found->pw_dir ? QString::fromLocal8Bit(found->pw_dir) : QString();
 }
 
+QString faultOf(const QString& path, int error) {
+    return path + u": " + systemErrorText(error);
+}
+
+/// 0, or errno.
+int writeAll(int file, const QByteArray& content) {
+    for (qsizetype written = 0; written < content.size();) {
+        const ssize_t size = ::write(file, content.constData() + written,
+                                     static_cast<std::size_t>(content.size() - written));
+        if (size < 0 && errno != EINTR)
+            return errno;
+        written += size > 0 ? size : 0;
+    }
+    return ::fsync(file) == 0 ? 0 : errno;
+}
+
 } // namespace
 
 bool LocalFileManager::fileExistsAtPath(const QString& path) const {
-    // A NUL would cut the path short and make it another one.
-    if (path.isEmpty() || path.contains(QChar(u'\0')))
-        return false;
-    struct stat entry {};
-    return ::stat(path.toLocal8Bit().constData(), &entry) == 0;
+    return kindOf(path) != 0;
+}
+
+bool LocalFileManager::isProgram(const QString& path) const {
+    return kindOf(path) == S_IFREG && allows(path, X_OK);
+}
+
+bool LocalFileManager::isWritableFolder(const QString& path) const {
+    return kindOf(path) == S_IFDIR && allows(path, W_OK | X_OK);
 }
 
 QString LocalFileManager::homeDirectory() const {
@@ -36,6 +79,42 @@ QString LocalFileManager::homeDirectory() const {
     while (home.endsWith(u'/'))
         home.chop(1);
     return home;
+}
+
+FolderOrFault LocalFileManager::temporaryFolder() {
+    const PrivateFolder folder = temporaryFolderOfUser();
+    return {QString::fromLocal8Bit(folder.path.c_str()),
+            QString::fromLocal8Bit(folder.fault.c_str())};
+}
+
+FileFault LocalFileManager::removeItem(const QString& path) {
+    if (!usable(path))
+        return faultOf(path, EINVAL);
+    if (std::remove(path.toLocal8Bit().constData()) == 0)
+        return {};
+    return faultOf(path, errno);
+}
+
+FileFault LocalFileManager::writeAtomically(const QString& path, const QByteArray& content) {
+    if (!usable(path))
+        return faultOf(path, EINVAL);
+    const QByteArray target = path.toLocal8Bit();
+    // mkostemp makes a new file or fails: nothing that lies there already is opened.
+    QByteArray beside = target + ".XXXXXX";
+    const UniqueFd file(::mkostemp(beside.data(), O_CLOEXEC));
+    if (!file)
+        return faultOf(path, errno);
+    int error = writeAll(file.get(), content);
+    if (error == 0 && ::rename(beside.constData(), target.constData()) != 0)
+        error = errno;
+    if (error == 0)
+        return {};
+    ::unlink(beside.constData());
+    return faultOf(path, error);
+}
+
+int LocalFileManager::changeMode(const QString& path, unsigned mode) {
+    return usable(path) ? ::chmod(path.toLocal8Bit().constData(), static_cast<mode_t>(mode)) : -1;
 }
 
 } // namespace kelvo

@@ -8,9 +8,21 @@ namespace kelvo {
 class LocalFileManager final : public FileManager {
 public:
     bool fileExistsAtPath(const QString& path) const override;
+    bool isProgram(const QString& path) const override;
+    bool isWritableFolder(const QString& path) const override;
 
     /// $HOME, or the user's entry in the account database when that is unset or empty.
     QString homeDirectory() const override;
+
+    /// See temporaryFolderOfUser in adapters/system/private_places.h.
+    FolderOrFault temporaryFolder() override;
+
+    FileFault removeItem(const QString& path) override;
+
+    /// What is written reaches the disk before the old file goes.
+    FileFault writeAtomically(const QString& path, const QByteArray& content) override;
+
+    int changeMode(const QString& path, unsigned mode) override;
 };
 
 } // namespace kelvo

@@ -1,8 +1,12 @@
 #include "adapters/system/private_places.h"
 
+#include "support/system_error_text.h"
+
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 
 namespace kelvo {
 namespace {
@@ -12,7 +16,61 @@ std::string parentOf(const std::string& path) {
     return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
 }
 
+std::string environmentPath(const char* name) {
+    const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
+    std::string path = value && *value == '/' ? value : "";
+    while (path.size() > 1 && path.back() == '/')
+        path.pop_back();
+    return path;
+}
+
+/// Empty when `path` is the user's own folder and closed to others.
+std::string faultOf(const std::string& path) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0)
+        return path + ": " + systemErrorText(errno).toStdString();
+    if (!S_ISDIR(status.st_mode))
+        return path + " is not a folder";
+    if (status.st_uid != ::getuid())
+        return path + " belongs to somebody else";
+    if ((status.st_mode & (S_IRWXG | S_IRWXO)) != 0)
+        return path + " is open to others";
+    if (::access(path.c_str(), W_OK | X_OK) != 0)
+        return path + " cannot be written";
+    return {};
+}
+
+/// $XDG_RUNTIME_DIR, when it is the user's own; otherwise empty.
+std::string givenFolder() {
+    std::string given = environmentPath("XDG_RUNTIME_DIR");
+    return !given.empty() && faultOf(given).empty() ? given : std::string();
+}
+
+PrivateFolder madeFolder(const std::string& path) {
+    if (::mkdir(path.c_str(), S_IRWXU) != 0 && errno != EEXIST)
+        return {{}, path + ": " + systemErrorText(errno).toLocal8Bit().toStdString()};
+    const std::string fault = faultOf(path);
+    return fault.empty() ? PrivateFolder{path, {}} : PrivateFolder{{}, fault};
+}
+
+PrivateFolder folderOfOurOwn() {
+    std::string temporary = environmentPath("TMPDIR");
+    if (temporary.empty())
+        temporary = "/tmp";
+    return madeFolder(temporary + "/kelvo-mirror-" + std::to_string(::getuid()));
+}
+
 } // namespace
+
+PrivateFolder runtimeFolder() {
+    const std::string given = givenFolder();
+    return given.empty() ? folderOfOurOwn() : PrivateFolder{given, {}};
+}
+
+PrivateFolder temporaryFolderOfUser() {
+    const std::string given = givenFolder();
+    return given.empty() ? folderOfOurOwn() : madeFolder(given + "/kelvo-mirror");
+}
 
 int makePrivateFolders(const std::string& path) {
     if (::mkdir(path.c_str(), S_IRWXU) == 0)

@@ -8,9 +8,9 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "support/notification_center.h"
+#include "support/system_error_text.h"
 
 #include <csignal>
-#include <cstring>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -41,8 +41,7 @@ public:
         Subscription source = fParts.signals.catchSignal(number, std::move(handler), error);
         if (error != 0)
             fParts.console.log(QStringLiteral("tried to ignore %1 but got '%2'")
-                                   .arg(description(number),
-                                        QString::fromLocal8Bit(std::strerror(error)))); // NOLINT
+                                   .arg(description(number), systemErrorText(error)));
         return source;
     }
 
@@ -183,7 +182,7 @@ private:
     std::once_flag fKeepOnce;
     std::optional<std::map<QString, Subscription>> fSignalSources;
     std::mutex fMutex; ///< for what follows
-    std::unique_ptr<SentinelTask> fTaskWatchdog;
+    std::optional<SentinelTask> fTaskWatchdog;
     Subscription fWillTerminate;
 };
 

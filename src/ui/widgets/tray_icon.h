@@ -1,7 +1,6 @@
 // TrayIcon: the status menu in the desktop's tray.
 #pragma once
 
-#include "ports/desktop_notices.h"
 #include "ports/status_menu.h"
 #include "support/subscription.h"
 
@@ -17,7 +16,7 @@ class TrayHost;
 
 /// The toolkit decides once in a process which kind of tray it talks to, at the first icon made;
 /// the icon is therefore made only when `host` knows of a tray.
-class TrayIcon final : public QObject, public StatusMenu, public DesktopNotices {
+class TrayIcon final : public QObject, public StatusMenu {
     Q_OBJECT
 public:
     /// `host` outlives this.
@@ -30,8 +29,8 @@ public:
     void hide() override;
     bool isReachable() const override;
 
-    /// Shown beside the icon; not while that is hidden.
-    void showNotice(const QString& title, const QString& text) override;
+    /// Shows a notice beside the icon; none while that is hidden.
+    void showNotice(const QString& title, const QString& text);
 
     /// The icon in the tray; none while hidden or before the desktop has had a tray.
     const QSystemTrayIcon* shownIcon() const;

@@ -1,4 +1,4 @@
-// Records of passes as rows of the database, there and back.
+// The SQL statements of the record of passes, filled from records and read back into them.
 #pragma once
 
 #include "support/pass_record.h"

@@ -1,4 +1,4 @@
-#include "adapters/process/detached_start.h"
+#include "adapters/system/detached_start.h"
 
 #include "adapters/system/clean_attributes.h"
 

@@ -1,4 +1,4 @@
-#include "adapters/passes/pass_columns.h"
+#include "adapters/passes/pass_statements.h"
 
 #include <QSqlQuery>
 #include <QVariant>
