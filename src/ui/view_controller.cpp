@@ -90,13 +90,12 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .presentSheet = parts.outlets.presentSheet,
           .fArrayController = parts.outlets.fArrayController,
       }),
-      fTerminalNotice(fAlerts, parts.outlets.copyText),
-      fCommandFiles({
-          .console = parts.engine.console,
-          .files = parts.engine.files,
-          .shell = parts.engine.commands,
-          .terminal = parts.outlets.terminal,
-      }),
+      fTerminalNotice(fAlerts, parts.outlets.copyText), fCommandFiles({
+                                                            .console = parts.engine.console,
+                                                            .files = parts.engine.files,
+                                                            .shell = parts.engine.commands,
+                                                            .terminal = parts.outlets.terminal,
+                                                        }),
       fConnectionTest({
           .defaults = parts.engine.defaults,
           .files = parts.engine.files,

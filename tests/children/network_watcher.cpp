@@ -3,8 +3,8 @@
 #include "adapters/network/avahi_browser.h"
 #include "adapters/network/network_information.h"
 #include "adapters/process/qt_main_queue.h"
-#include "support/notification_center.h"
 #include "fakes/recording_console.h"
+#include "support/notification_center.h"
 
 #include <QCoreApplication>
 

@@ -45,9 +45,7 @@ kelvo_tests(unit
     unit/watchdog_test.cpp
   LINKS kelvo_app_start kelvo_app_commands kelvo_adapters_console kelvo_passes
 )
-# Not for the whole target: its precompiled headers serve every label.
-set_source_files_properties(unit/pass_cause_test.cpp unit/rsync_statistics_test.cpp PROPERTIES
-  COMPILE_DEFINITIONS "KELVO_TEXTS=\"${CMAKE_CURRENT_SOURCE_DIR}/texts\"")
-set_source_files_properties(unit/preferences_test.cpp PROPERTIES COMPILE_DEFINITIONS
-  "KELVO_PREFERENCE_KEYS=\"${CMAKE_SOURCE_DIR}/src/settings/preference_keys.h\";\
-KELVO_MANUAL=\"${CMAKE_SOURCE_DIR}/docs/man/kelvo-mirror.1\"")
+target_compile_definitions(unit_tests PRIVATE
+  KELVO_TEXTS="${CMAKE_CURRENT_SOURCE_DIR}/texts"
+  KELVO_PREFERENCE_KEYS="${CMAKE_SOURCE_DIR}/src/settings/preference_keys.h"
+  KELVO_MANUAL="${CMAKE_SOURCE_DIR}/docs/man/kelvo-mirror.1")
