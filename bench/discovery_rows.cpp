@@ -52,6 +52,7 @@ public:
     }
     void browseForType(const QString&) override {}
     DNSSD_Services services() const override { return fTable.services(); }
+    void searchEndpoints(const EndpointRequest&, EndpointListener) override {}
 
 private:
     ServiceTable fTable;
