@@ -13,7 +13,7 @@
 #include <unistd.h>
 
 #include <atomic>
-#include <memory>
+#include <optional>
 
 namespace kelvo {
 namespace {

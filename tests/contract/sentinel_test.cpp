@@ -18,7 +18,7 @@
 #include <unistd.h>
 
 #include <array>
-#include <memory>
+#include <optional>
 
 namespace kelvo {
 namespace {

@@ -9,8 +9,8 @@ kelvo_tests(contract
   SOURCES
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
-    contract/bus_notices_test.cpp
     contract/console_contract_test.cpp
+    contract/desktop_notices_contract_test.cpp
     contract/dispatch_queue_contract_test.cpp
     contract/dnssd_browser_contract_test.cpp
     contract/endpoint_search_contract_test.cpp
@@ -41,6 +41,7 @@ kelvo_tests(contract
     contract/sqlite_pass_store_test.cpp
     contract/stream_console_test.cpp
     contract/system_information_test.cpp
+    contract/terminal_contract_test.cpp
     contract/terminal_window_test.cpp
     contract/thread_pool_queue_test.cpp
     contract/user_defaults_contract_test.cpp

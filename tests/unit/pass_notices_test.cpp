@@ -1,24 +1,15 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/memory_pass_store.h"
+#include "fakes/recording_notices.h"
 #include "fakes/virtual_queues.h"
-#include "ports/desktop_notices.h"
 #include "settings/preference_keys.h"
 #include "ui/pass_notices.h"
 #include "ui/pass_words.h"
-
-#include <QStringList>
 
 #include <gtest/gtest.h>
 
 namespace kelvo {
 namespace {
-
-struct RecordingNotices final : DesktopNotices {
-    void showNotice(const QString& title, const QString& text) override {
-        shown << title + u" | " + text;
-    }
-    QStringList shown;
-};
 
 class PassNoticesTest : public ::testing::Test {
 protected:

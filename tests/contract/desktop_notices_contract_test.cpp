@@ -1,4 +1,7 @@
+// The contract of DesktopNotices on the fake and on a bus with a notification service; then what
+// happens where there is no such service.
 #include "adapters/desktop/bus_notices.h"
+#include "fakes/recording_notices.h"
 #include "support/notification_service.h"
 #include "support/session_bus.h"
 #include "support/wait_in_loop.h"
@@ -7,6 +10,46 @@
 
 namespace kelvo {
 namespace {
+
+struct FakeWorld {
+    RecordingNotices notices;
+    QStringList shown() const { return notices.shown; }
+};
+
+struct BusWorld {
+    BusWorld() { EXPECT_TRUE(service.appear()); }
+
+    QStringList shown() const {
+        QStringList decoded;
+        for (QString notice : service.shown)
+            decoded.append(notice.replace(QStringLiteral("&lt;"), QStringLiteral("<"))
+                               .replace(QStringLiteral("&gt;"), QStringLiteral(">")));
+        return decoded;
+    }
+
+    PrivateBus bus;
+    BusConnection desktop{bus.address(), QStringLiteral("notices-contract-desktop")};
+    NotificationService service{desktop.get()};
+    BusConnection own{bus.address(), QStringLiteral("notices-contract-own")};
+    BusNotices notices{{}, [this] { return own.get(); }};
+};
+
+template <typename World>
+class DesktopNoticesContractTest : public ::testing::Test {
+protected:
+    World world;
+};
+
+using Worlds = ::testing::Types<FakeWorld, BusWorld>;
+TYPED_TEST_SUITE(DesktopNoticesContractTest, Worlds);
+
+TYPED_TEST(DesktopNoticesContractTest, TitleAndText_AreShownPlain) {
+    this->world.notices.showNotice(QStringLiteral("A & B"), QStringLiteral("<b>5 < 6"));
+    this->world.notices.showNotice(QStringLiteral("C"), QStringLiteral("d"));
+    const QStringList expected{QStringLiteral("A & B | <b>5 < 6"), QStringLiteral("C | d")};
+    EXPECT_TRUE(waitInLoop([&] { return this->world.shown() == expected; }))
+        << this->world.shown().join(u'\n').toStdString();
+}
 
 class BusNoticesTest : public ::testing::Test {
 protected:
