@@ -91,8 +91,8 @@ bool isName(QStringView line) {
 
 } // namespace
 
-Brought broughtBy(QStringView command, QStringView output) {
-    Brought statistics;
+Transfer transferOf(QStringView command, QStringView output) {
+    Transfer statistics;
     std::optional<qint64> received;
     qint64 names = 0;
     for (qsizetype begin = 0; begin < output.size();) {
@@ -106,10 +106,10 @@ Brought broughtBy(QStringView command, QStringView output) {
         if (const auto files = figureAfter(
                 line, {u"Number of regular files transferred:", u"Number of files transferred:"})) {
             statistics.files = files;
-            statistics.source = BroughtSource::Statistics;
+            statistics.source = TransferSource::Statistics;
         } else if (const auto bytes = figureAfter(line, {u"Total transferred file size:"})) {
             statistics.bytes = bytes;
-            statistics.source = BroughtSource::Statistics;
+            statistics.source = TransferSource::Statistics;
         } else if (line.startsWith(u"sent ")) {
             const qsizetype at = line.indexOf(u"received ");
             if (at >= 0)
@@ -118,17 +118,17 @@ Brought broughtBy(QStringView command, QStringView output) {
             ++names;
         }
     }
-    if (statistics.source == BroughtSource::Statistics)
+    if (statistics.source == TransferSource::Statistics)
         return statistics;
     if (printsNames(command))
-        return {BroughtSource::Lines, names, names == 0 ? 0 : received};
+        return {TransferSource::Lines, names, names == 0 ? 0 : received};
     return {};
 }
 
-Brought sumOf(const Brought& left, const Brought& right) {
-    if (left.source == BroughtSource::Unknown)
+Transfer sumOf(const Transfer& left, const Transfer& right) {
+    if (left.source == TransferSource::Unknown)
         return right;
-    if (right.source == BroughtSource::Unknown)
+    if (right.source == TransferSource::Unknown)
         return left;
     const auto sum = [](std::optional<qint64> a, std::optional<qint64> b) {
         qint64 total = 0;

@@ -9,10 +9,10 @@ namespace kelvo {
 
 /// `output` is all that `command` printed. rsync's own statistics go first ("--stats"); without
 /// them the names it printed are counted, when the command asked for names; else it is unknown.
-Brought broughtBy(QStringView command, QStringView output);
+Transfer transferOf(QStringView command, QStringView output);
 
 /// What two commands brought together. What one of them does not say is not known of the sum
 /// either, unless that one is Unknown altogether: then the other's figures stand.
-Brought sumOf(const Brought& left, const Brought& right);
+Transfer sumOf(const Transfer& left, const Transfer& right);
 
 } // namespace kelvo

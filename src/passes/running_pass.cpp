@@ -37,7 +37,7 @@ RunningPass::~RunningPass() {
     }
     fRecord.seconds = fPasses.fClock.seconds() - fBegan;
     for (const CommandRecord& command : fRecord.commands)
-        fRecord.brought = sumOf(fRecord.brought, command.brought);
+        fRecord.transfer = sumOf(fRecord.transfer, command.transfer);
     NamedCause named = causeOf(fRecord);
     fRecord.cause = named.cause;
     fRecord.lastLine = std::move(named.lastLine);
@@ -59,9 +59,9 @@ CommandResult RunningPass::run(CommandRole role, const Command& command) {
                                 .exitStatus = result.exitStatus,
                                 .seconds = fPasses.fClock.seconds() - began,
                                 .text = capturedText(result.output, result.errors),
-                                .brought = role == CommandRole::Pull
-                                               ? broughtBy(command.text, result.output)
-                                               : Brought()});
+                                .transfer = role == CommandRole::Pull
+                                                ? transferOf(command.text, result.output)
+                                                : Transfer()});
     return result;
 }
 

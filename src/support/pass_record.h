@@ -49,14 +49,14 @@ struct CapturedText {
 };
 
 /// How it is known what a command brought.
-enum class BroughtSource {
+enum class TransferSource {
     Unknown = 0,    ///< the command did not say
     Statistics = 1, ///< rsync's own figures
     Lines = 2,      ///< names that rsync printed were counted
 };
 
-struct Brought {
-    BroughtSource source = BroughtSource::Unknown;
+struct Transfer {
+    TransferSource source = TransferSource::Unknown;
     std::optional<qint64> files;
     std::optional<qint64> bytes;
 };
@@ -71,7 +71,7 @@ struct CommandRecord {
     std::optional<int> exitStatus;
     double seconds = 0;
     CapturedText text; ///< standard output, then what else the command wrote to the error stream
-    Brought brought;
+    Transfer transfer;
 };
 
 struct PassRecord {
@@ -83,7 +83,7 @@ struct PassRecord {
     PassCause cause = PassCause::Unknown;
     QString lastLine; ///< the last line of the command that decided the cause; may be empty
     /// The sum of what the commands said; `source` is Unknown when none of them did.
-    Brought brought;
+    Transfer transfer;
     std::vector<CommandRecord> commands;
 };
 

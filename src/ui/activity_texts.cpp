@@ -15,8 +15,8 @@ bool isWell(const PassRecord& pass) {
     return pass.cause == PassCause::Well;
 }
 
-QString withSize(const QString& files, const Brought& brought) {
-    const QString size = sizeText(brought);
+QString withSize(const QString& files, const Transfer& transfer) {
+    const QString size = sizeText(transfer);
     return size.isEmpty() ? files : QString(files + u", " + size);
 }
 
@@ -30,13 +30,13 @@ QString statusText(const CommandRecord& command) {
                               : QStringLiteral("given up when the program ended");
 }
 
-QString sourceText(const Brought& brought) {
-    switch (brought.source) {
-    case BroughtSource::Statistics:
+QString sourceText(const Transfer& transfer) {
+    switch (transfer.source) {
+    case TransferSource::Statistics:
         return QStringLiteral("by rsync's own figures");
-    case BroughtSource::Lines:
+    case TransferSource::Lines:
         return QStringLiteral("counted from its lines");
-    case BroughtSource::Unknown:
+    case TransferSource::Unknown:
         break;
     }
     return QStringLiteral("the command did not say");
@@ -46,8 +46,8 @@ QString commandReport(const CommandRecord& command) {
     QString report = u"$ " + withVisibleControls(command.command) + u"\n(" + statusText(command) +
                      u", " + secondsText(command.seconds);
     if (command.role == CommandRole::Pull)
-        report += u", " + withSize(filesText(command.brought), command.brought) + u", " +
-                  sourceText(command.brought);
+        report += u", " + withSize(filesText(command.transfer), command.transfer) + u", " +
+                  sourceText(command.transfer);
     report += u")\n" + shownOutput(command.text.head);
     if (command.text.leftOut > 0)
         report += u"\n… " + QString::number(command.text.leftOut) + u" bytes left out …\n" +
@@ -82,7 +82,7 @@ QString activityHeadline(std::span<const PassRecord> records, const QDateTime& n
     if (success != records.end())
         line = u"Last success: " +
                agoText(static_cast<double>(success->began.msecsTo(now)) / 1000) + u", " +
-               filesText(success->brought) + u'.';
+               filesText(success->transfer) + u'.';
     if (success == records.begin())
         return line;
     const PassRecord& since = *(success - 1);
@@ -98,7 +98,7 @@ QString passReport(const PassRecord& pass) {
         report += u"Next step: " + words.nextStep + u'\n';
     report += (pass.kind == PassKind::Remote ? QStringLiteral("Remote pass, ")
                                              : QStringLiteral("Plain pass, ")) +
-              withSize(filesText(pass), pass.brought) + u", " + secondsText(pass.seconds) + u'\n';
+              withSize(filesText(pass), pass.transfer) + u", " + secondsText(pass.seconds) + u'\n';
     for (const CommandRecord& command : pass.commands)
         report += u'\n' + commandReport(command);
     return report;
@@ -111,8 +111,8 @@ QString passesAsCsv(std::span<const PassRecord> records) {
         lines.append(QStringList{
             pass.began.toString(Qt::ISODate),
             pass.kind == PassKind::Remote ? QStringLiteral("remote") : QStringLiteral("plain"),
-            words.name.toString(), cell(words.sentence.toString()), numberCell(pass.brought.files),
-            numberCell(pass.brought.bytes), QString::number(pass.seconds, 'f', 3),
+            words.name.toString(), cell(words.sentence.toString()), numberCell(pass.transfer.files),
+            numberCell(pass.transfer.bytes), QString::number(pass.seconds, 'f', 3),
             cell(withVisibleControls(pass.lastLine))}
                          .join(u','));
     }

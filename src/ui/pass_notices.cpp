@@ -33,8 +33,9 @@ void PassNotices::heard(const PassRecord& pass) {
         fNotices.showNotice(QStringLiteral("Kelvo Mirror is in trouble"),
                             QString(words.sentence + QLatin1String(" ") + words.nextStep));
     else
-        fNotices.showNotice(QStringLiteral("Kelvo Mirror is well again"),
-                            QString(u"The last pass went well: " + filesText(pass.brought) + u'.'));
+        fNotices.showNotice(
+            QStringLiteral("Kelvo Mirror is well again"),
+            QString(u"The last pass went well: " + filesText(pass.transfer) + u'.'));
 }
 
 } // namespace kelvo

@@ -113,21 +113,21 @@ QString sentenceFor(const PassRecord& pass) {
     return says ? QString(sentence + u" The last line was: " + pass.lastLine) : sentence;
 }
 
-QString filesText(const Brought& brought) {
-    if (!brought.files)
+QString filesText(const Transfer& transfer) {
+    if (!transfer.files)
         return QStringLiteral("files unknown");
-    return *brought.files == 0 ? QStringLiteral("nothing new")
-                               : counted(*brought.files, u"file", u"files");
+    return *transfer.files == 0 ? QStringLiteral("nothing new")
+                                : counted(*transfer.files, u"file", u"files");
 }
 
 QString filesText(const PassRecord& pass) {
-    return endedAtTheCheck(pass) ? QStringLiteral("no transfer") : filesText(pass.brought);
+    return endedAtTheCheck(pass) ? QStringLiteral("no transfer") : filesText(pass.transfer);
 }
 
-QString sizeText(const Brought& brought) {
-    if (brought.bytes.value_or(0) <= 0)
+QString sizeText(const Transfer& transfer) {
+    if (transfer.bytes.value_or(0) <= 0)
         return {};
-    return QLocale::c().formattedDataSize(*brought.bytes, 1, QLocale::DataSizeSIFormat);
+    return QLocale::c().formattedDataSize(*transfer.bytes, 1, QLocale::DataSizeSIFormat);
 }
 
 QString secondsText(double seconds) {

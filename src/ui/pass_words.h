@@ -35,13 +35,13 @@ CauseWords wordsFor(PassCause cause);
 QString sentenceFor(const PassRecord& pass);
 
 /// "3 files", "1 file", "nothing new"; "files unknown" when the commands did not say.
-QString filesText(const Brought& brought);
+QString filesText(const Transfer& transfer);
 
 /// The same of a whole pass, which may not have come to a transfer.
 QString filesText(const PassRecord& pass);
 
 /// "40.0 kB"; empty when it is not known or nothing.
-QString sizeText(const Brought& brought);
+QString sizeText(const Transfer& transfer);
 
 /// "4 s", "2 min 5 s", "3 h 20 min".
 QString secondsText(double seconds);

@@ -20,7 +20,7 @@ PassRecord samplePass(int number) {
     record.verdict = HostVerdict::Valid;
     record.cause = PassCause::FilesNotTaken;
     record.lastLine = QStringLiteral("pass %1 – “映画”").arg(number);
-    record.brought = {BroughtSource::Statistics, number, std::nullopt};
+    record.transfer = {TransferSource::Statistics, number, std::nullopt};
     CommandRecord check;
     check.role = CommandRole::HostCheck;
     check.command = QStringLiteral("ssh 'it'");
@@ -30,7 +30,7 @@ PassRecord samplePass(int number) {
     pull.command = QStringLiteral("rsync \"ü\"");
     pull.seconds = 0.25;
     pull.text = {QString(20000, u'a'), QString(20000, u'é'), 12345};
-    pull.brought = {BroughtSource::Lines, 7, 1LL << 40};
+    pull.transfer = {TransferSource::Lines, 7, 1LL << 40};
     record.commands = {check, pull};
     return record;
 }
@@ -42,9 +42,9 @@ void expectSame(const PassRecord& left, const PassRecord& right) {
     EXPECT_EQ(left.verdict.text(), right.verdict.text());
     EXPECT_EQ(left.cause, right.cause);
     EXPECT_EQ(left.lastLine, right.lastLine);
-    EXPECT_EQ(left.brought.source, right.brought.source);
-    EXPECT_EQ(left.brought.files, right.brought.files);
-    EXPECT_EQ(left.brought.bytes, right.brought.bytes);
+    EXPECT_EQ(left.transfer.source, right.transfer.source);
+    EXPECT_EQ(left.transfer.files, right.transfer.files);
+    EXPECT_EQ(left.transfer.bytes, right.transfer.bytes);
 }
 
 struct FakeWorld {
@@ -124,8 +124,8 @@ TYPED_TEST(PassStoreContractTest, OneRecord_ComesBackWhole) {
         EXPECT_EQ(found->commands[i].text.head, commands[i].text.head);
         EXPECT_EQ(found->commands[i].text.tail, commands[i].text.tail);
         EXPECT_EQ(found->commands[i].text.leftOut, commands[i].text.leftOut);
-        EXPECT_EQ(found->commands[i].brought.source, commands[i].brought.source);
-        EXPECT_EQ(found->commands[i].brought.bytes, commands[i].brought.bytes);
+        EXPECT_EQ(found->commands[i].transfer.source, commands[i].transfer.source);
+        EXPECT_EQ(found->commands[i].transfer.bytes, commands[i].transfer.bytes);
     }
 }
 

@@ -35,7 +35,7 @@ protected:
         record.kind = PassKind::Remote;
         record.verdict = HostVerdict::Valid;
         record.cause = cause;
-        record.brought = {BroughtSource::Statistics, 3, 3000};
+        record.transfer = {TransferSource::Statistics, 3, 3000};
         CommandRecord command;
         command.command = QStringLiteral("rsync");
         command.text.head = text;

@@ -1,7 +1,6 @@
 # The contract suites of ports with a widget or a desktop service behind them need its main.
 kelvo_tests(ui WIDGETS
   SOURCES
-    contract/pasteboard_contract_test.cpp
     contract/status_menu_contract_test.cpp
     contract/tray_host_contract_test.cpp
     ui/activity_tab_test.cpp

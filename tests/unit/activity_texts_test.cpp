@@ -14,7 +14,7 @@ PassRecord passAgo(qint64 seconds, PassCause cause) {
     pass.seconds = 4;
     pass.kind = PassKind::Remote;
     pass.cause = cause;
-    pass.brought = {BroughtSource::Statistics, 3, 3000};
+    pass.transfer = {TransferSource::Statistics, 3, 3000};
     return pass;
 }
 
@@ -71,7 +71,7 @@ TEST(ActivityTextsTest, Report_HoldsEveryCommandAndSpellsControlsOut) {
 TEST(ActivityTextsTest, Csv_IsQuotedAndHoldsNoFormula) {
     PassRecord pass = passAgo(0, PassCause::Unknown);
     pass.lastLine = QStringLiteral("=HYPERLINK(\"evil\"),\nmore");
-    pass.brought.bytes.reset();
+    pass.transfer.bytes.reset();
     const QString csv = passesAsCsv(std::vector{pass});
     EXPECT_TRUE(csv.startsWith(QStringLiteral("began,kind,cause,")));
     EXPECT_TRUE(csv.contains(

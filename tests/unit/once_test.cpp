@@ -17,7 +17,7 @@ PassRecord passWith(PassCause cause) {
     pass.verdict = HostVerdict::Valid;
     pass.seconds = 65.2;
     pass.cause = cause;
-    pass.brought = {BroughtSource::Statistics, 3, 430659};
+    pass.transfer = {TransferSource::Statistics, 3, 430659};
     return pass;
 }
 
@@ -43,15 +43,15 @@ TEST(PassWordsTest, UnknownCause_IsToldInTheCommandsOwnWords) {
 }
 
 TEST(PassWordsTest, Figures_ReadWell) {
-    EXPECT_EQ(filesText(Brought{BroughtSource::Lines, 1, {}}), QStringLiteral("1 file"));
-    EXPECT_EQ(filesText(Brought{BroughtSource::Lines, 0, {}}), QStringLiteral("nothing new"));
-    EXPECT_EQ(filesText(Brought{}), QStringLiteral("files unknown"));
+    EXPECT_EQ(filesText(Transfer{TransferSource::Lines, 1, {}}), QStringLiteral("1 file"));
+    EXPECT_EQ(filesText(Transfer{TransferSource::Lines, 0, {}}), QStringLiteral("nothing new"));
+    EXPECT_EQ(filesText(Transfer{}), QStringLiteral("files unknown"));
     PassRecord pass;
     pass.kind = PassKind::Remote;
     EXPECT_EQ(filesText(pass), QStringLiteral("no transfer"));
     pass.verdict = HostVerdict::Valid;
     EXPECT_EQ(filesText(pass), QStringLiteral("files unknown"));
-    EXPECT_EQ(sizeText({BroughtSource::Statistics, 1, 40000}), QStringLiteral("40.0 kB"));
+    EXPECT_EQ(sizeText({TransferSource::Statistics, 1, 40000}), QStringLiteral("40.0 kB"));
     EXPECT_EQ(sizeText({}), QString());
     EXPECT_EQ(secondsText(4.4), QStringLiteral("4 s"));
     EXPECT_EQ(secondsText(125), QStringLiteral("2 min 5 s"));
@@ -87,7 +87,7 @@ TEST(OnceTest, Lines_TellOutcomeAndNextStep) {
 
 TEST(OnceTest, Json_IsOneObjectOnOneLine) {
     PassRecord pass = passWith(PassCause::DiskFull);
-    pass.brought.bytes.reset();
+    pass.transfer.bytes.reset();
     pass.lastLine = QStringLiteral("a \"line\"\nwith ends");
     const auto answer = outcomeOf(pass, true);
     EXPECT_EQ(answer.output.count(u'\n'), 1);

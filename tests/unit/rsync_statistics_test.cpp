@@ -8,79 +8,80 @@ namespace {
 const QString cFactory = QStringLiteral("/usr/bin/rsync 2>&1 -r --stats --out-format=%n a/ b/");
 
 TEST(RsyncStatisticsTest, Statistics_GoBeforeTheNames) {
-    const auto brought = broughtBy(cFactory, u"one.mov\ntwo.mov\nthree.mov\n\n"
-                                             u"Number of files: 9 (reg: 5, dir: 4)\n"
-                                             u"Number of regular files transferred: 2\n"
-                                             u"Total file size: 5,000,000 bytes\n"
-                                             u"Total transferred file size: 1,234,567 bytes\n");
-    EXPECT_EQ(brought.source, BroughtSource::Statistics);
-    EXPECT_EQ(brought.files, 2);
-    EXPECT_EQ(brought.bytes, 1234567);
+    const auto transfer = transferOf(cFactory, u"one.mov\ntwo.mov\nthree.mov\n\n"
+                                               u"Number of files: 9 (reg: 5, dir: 4)\n"
+                                               u"Number of regular files transferred: 2\n"
+                                               u"Total file size: 5,000,000 bytes\n"
+                                               u"Total transferred file size: 1,234,567 bytes\n");
+    EXPECT_EQ(transfer.source, TransferSource::Statistics);
+    EXPECT_EQ(transfer.files, 2);
+    EXPECT_EQ(transfer.bytes, 1234567);
 }
 
 TEST(RsyncStatisticsTest, OldOrHumanFigures_AreRead) {
-    const auto brought = broughtBy(cFactory, u"Number of files transferred: 12\r\n"
-                                             u"Total transferred file size: 1.50M bytes\r\n");
-    EXPECT_EQ(brought.files, 12);
-    EXPECT_EQ(brought.bytes, 1500000);
+    const auto transfer = transferOf(cFactory, u"Number of files transferred: 12\r\n"
+                                               u"Total transferred file size: 1.50M bytes\r\n");
+    EXPECT_EQ(transfer.files, 12);
+    EXPECT_EQ(transfer.bytes, 1500000);
 }
 
 TEST(RsyncStatisticsTest, WithoutStatistics_NamesAreCounted) {
-    const auto brought = broughtBy(u"/usr/bin/rsync -rv a/ b/",
-                                   u"receiving incremental file list\ncreated directory b\n./\n"
-                                   u"Features/\nFeatures/one.mov\ntwo.mov\n"
-                                   u"    40,000 100%   12.00MB/s    0:00:00\n\n"
-                                   u"sent 65 bytes  received 80,211 bytes  53,000.00 bytes/sec\n"
-                                   u"total size is 80,000  speedup is 1.00\n");
-    EXPECT_EQ(brought.source, BroughtSource::Lines);
-    EXPECT_EQ(brought.files, 2);
-    EXPECT_EQ(brought.bytes, 80211);
+    const auto transfer = transferOf(u"/usr/bin/rsync -rv a/ b/",
+                                     u"receiving incremental file list\ncreated directory b\n./\n"
+                                     u"Features/\nFeatures/one.mov\ntwo.mov\n"
+                                     u"    40,000 100%   12.00MB/s    0:00:00\n\n"
+                                     u"sent 65 bytes  received 80,211 bytes  53,000.00 bytes/sec\n"
+                                     u"total size is 80,000  speedup is 1.00\n");
+    EXPECT_EQ(transfer.source, TransferSource::Lines);
+    EXPECT_EQ(transfer.files, 2);
+    EXPECT_EQ(transfer.bytes, 80211);
 }
 
 TEST(RsyncStatisticsTest, NamesAlone_TellNoBytes) {
-    const auto brought = broughtBy(u"/usr/bin/rsync --out-format=%n a/ b/", u"one.mov\n");
-    EXPECT_EQ(brought.source, BroughtSource::Lines);
-    EXPECT_EQ(brought.files, 1);
-    EXPECT_FALSE(brought.bytes.has_value());
+    const auto transfer = transferOf(u"/usr/bin/rsync --out-format=%n a/ b/", u"one.mov\n");
+    EXPECT_EQ(transfer.source, TransferSource::Lines);
+    EXPECT_EQ(transfer.files, 1);
+    EXPECT_FALSE(transfer.bytes.has_value());
 }
 
 TEST(RsyncStatisticsTest, NoNames_AreNoBytes) {
-    const auto brought = broughtBy(u"/usr/bin/rsync -rv a/ b/",
-                                   u"receiving incremental file list\n\n"
-                                   u"sent 20 bytes  received 1,201 bytes  2,442.00 bytes/sec\n"
-                                   u"total size is 80,000  speedup is 65.00\n");
-    EXPECT_EQ(brought.files, 0);
-    EXPECT_EQ(brought.bytes, 0);
+    const auto transfer = transferOf(u"/usr/bin/rsync -rv a/ b/",
+                                     u"receiving incremental file list\n\n"
+                                     u"sent 20 bytes  received 1,201 bytes  2,442.00 bytes/sec\n"
+                                     u"total size is 80,000  speedup is 65.00\n");
+    EXPECT_EQ(transfer.files, 0);
+    EXPECT_EQ(transfer.bytes, 0);
 }
 
 TEST(RsyncStatisticsTest, SilentCommand_IsUnknown) {
     for (const QStringView command :
          {u"/usr/bin/rsync -r --times a/ b/", u"/usr/bin/rsync -e v a b",
           u"/usr/bin/rsync -f '+ */' a/ b/"}) {
-        const auto brought = broughtBy(command, {});
-        EXPECT_EQ(brought.source, BroughtSource::Unknown) << command.toUtf8().constData();
-        EXPECT_FALSE(brought.files.has_value());
+        const auto transfer = transferOf(command, {});
+        EXPECT_EQ(transfer.source, TransferSource::Unknown) << command.toUtf8().constData();
+        EXPECT_FALSE(transfer.files.has_value());
     }
 }
 
 TEST(RsyncStatisticsTest, FiguresThatAreNone_GiveWayToTheNames) {
-    const auto brought = broughtBy(cFactory, u"one.mov\nNumber of regular files transferred: many\n"
-                                             u"Total transferred file size: "
-                                             u"99999999999999999999999 bytes\n");
-    EXPECT_EQ(brought.source, BroughtSource::Lines);
-    EXPECT_EQ(brought.files, 1);
-    EXPECT_FALSE(brought.bytes.has_value());
+    const auto transfer =
+        transferOf(cFactory, u"one.mov\nNumber of regular files transferred: many\n"
+                             u"Total transferred file size: "
+                             u"99999999999999999999999 bytes\n");
+    EXPECT_EQ(transfer.source, TransferSource::Lines);
+    EXPECT_EQ(transfer.files, 1);
+    EXPECT_FALSE(transfer.bytes.has_value());
 }
 
 TEST(RsyncStatisticsTest, Sum_LeavesOutOnlyTheSilent) {
-    const Brought three{BroughtSource::Statistics, 3, 30};
-    const Brought names{BroughtSource::Lines, 2, std::nullopt};
+    const Transfer three{TransferSource::Statistics, 3, 30};
+    const Transfer names{TransferSource::Lines, 2, std::nullopt};
     EXPECT_EQ(sumOf(three, {}).files, 3);
     EXPECT_EQ(sumOf({}, three).bytes, 30);
     EXPECT_EQ(sumOf(three, names).files, 5);
     EXPECT_FALSE(sumOf(three, names).bytes.has_value());
-    EXPECT_EQ(sumOf(three, names).source, BroughtSource::Lines);
-    EXPECT_EQ(sumOf({}, {}).source, BroughtSource::Unknown);
+    EXPECT_EQ(sumOf(three, names).source, TransferSource::Lines);
+    EXPECT_EQ(sumOf({}, {}).source, TransferSource::Unknown);
 }
 
 } // namespace

@@ -79,8 +79,8 @@ TEST_F(RunningPassTest, RemotePass_IsWrittenDownWhole) {
     EXPECT_EQ(record.verdict, HostVerdict::Valid);
     EXPECT_EQ(record.cause, PassCause::FilesVanished);
     EXPECT_EQ(record.lastLine, QStringLiteral("oops"));
-    EXPECT_EQ(record.brought.files, 1);
-    EXPECT_EQ(record.brought.bytes, 40000);
+    EXPECT_EQ(record.transfer.files, 1);
+    EXPECT_EQ(record.transfer.bytes, 40000);
     ASSERT_EQ(record.commands.size(), 3U);
     EXPECT_EQ(record.commands[0].role, CommandRole::HostCheck);
     EXPECT_EQ(record.commands[0].text.head, QStringLiteral("mediauser\n"));
@@ -88,7 +88,7 @@ TEST_F(RunningPassTest, RemotePass_IsWrittenDownWhole) {
     EXPECT_DOUBLE_EQ(record.commands[1].seconds, 2.5);
     EXPECT_EQ(record.commands[2].exitStatus, 24);
     EXPECT_EQ(record.commands[2].text.head, QStringLiteral("oops\n"));
-    EXPECT_EQ(record.commands[2].brought.source, BroughtSource::Unknown);
+    EXPECT_EQ(record.commands[2].transfer.source, TransferSource::Unknown);
 }
 
 TEST_F(RunningPassTest, PassWithoutACommand_LacksItsSettings) {

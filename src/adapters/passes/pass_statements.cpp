@@ -29,17 +29,17 @@ std::optional<qint64> number(const QVariant& value) {
     return value.isNull() ? std::nullopt : std::optional(value.toLongLong());
 }
 
-Brought broughtFrom(const QSqlQuery& query, int column) {
+Transfer transferFrom(const QSqlQuery& query, int column) {
     const int source = query.value(column).toInt();
-    const bool known = source >= 0 && source <= static_cast<int>(BroughtSource::Lines);
-    return {known ? static_cast<BroughtSource>(source) : BroughtSource::Unknown,
+    const bool known = source >= 0 && source <= static_cast<int>(TransferSource::Lines);
+    return {known ? static_cast<TransferSource>(source) : TransferSource::Unknown,
             number(query.value(column + 1)), number(query.value(column + 2))};
 }
 
-void addBrought(QSqlQuery& query, const Brought& brought) {
-    query.addBindValue(static_cast<int>(brought.source));
-    query.addBindValue(orNull(brought.files));
-    query.addBindValue(orNull(brought.bytes));
+void addTransfer(QSqlQuery& query, const Transfer& transfer) {
+    query.addBindValue(static_cast<int>(transfer.source));
+    query.addBindValue(orNull(transfer.files));
+    query.addBindValue(orNull(transfer.bytes));
 }
 
 const QString cPassColumns =
@@ -95,7 +95,7 @@ void bindPass(QSqlQuery& query, const PassRecord& record) {
     query.addBindValue(text(record.verdict.text()));
     query.addBindValue(static_cast<int>(record.cause));
     query.addBindValue(text(record.lastLine));
-    addBrought(query, record.brought);
+    addTransfer(query, record.transfer);
 }
 
 void bindCommand(QSqlQuery& query, qint64 pass, int number, const CommandRecord& command) {
@@ -108,7 +108,7 @@ void bindCommand(QSqlQuery& query, qint64 pass, int number, const CommandRecord&
     query.addBindValue(packed(command.text.head));
     query.addBindValue(packed(command.text.tail));
     query.addBindValue(command.text.leftOut);
-    addBrought(query, command.brought);
+    addTransfer(query, command.transfer);
     query.addBindValue(pass);
     query.addBindValue(number);
 }
@@ -125,7 +125,7 @@ PassRecord passFrom(const QSqlQuery& query) {
     const bool known = cause >= 0 && cause <= static_cast<int>(PassCause::Unknown);
     record.cause = known ? static_cast<PassCause>(cause) : PassCause::Unknown;
     record.lastLine = query.value(6).toString();
-    record.brought = broughtFrom(query, 7);
+    record.transfer = transferFrom(query, 7);
     return record;
 }
 
@@ -140,7 +140,7 @@ CommandRecord commandFrom(const QSqlQuery& query) {
     command.seconds = query.value(3).toDouble();
     command.text = {unpacked(query.value(4)), unpacked(query.value(5)),
                     query.value(6).toLongLong()};
-    command.brought = broughtFrom(query, 7);
+    command.transfer = transferFrom(query, 7);
     return command;
 }
 

@@ -21,15 +21,15 @@ QString asJson(const PassRecord& pass, const CauseWords& words) {
         {QStringLiteral("message"), words.sentence.toString()},
         {QStringLiteral("nextStep"), words.nextStep.toString()},
         {QStringLiteral("lastLine"), pass.lastLine},
-        {QStringLiteral("files"), orNull(pass.brought.files)},
-        {QStringLiteral("bytes"), orNull(pass.brought.bytes)},
+        {QStringLiteral("files"), orNull(pass.transfer.files)},
+        {QStringLiteral("bytes"), orNull(pass.transfer.bytes)},
         {QStringLiteral("exitCode"), exitCodeFor(words.group)},
     };
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n';
 }
 
 QString asLines(const PassRecord& pass, const CauseWords& words) {
-    const QString size = sizeText(pass.brought);
+    const QString size = sizeText(pass.transfer);
     QString lines = sentenceFor(pass) + u" (" + filesText(pass) +
                     (size.isEmpty() ? QString() : QString(u", " + size)) + u", " +
                     secondsText(pass.seconds) + u")\n";

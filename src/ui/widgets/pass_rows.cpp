@@ -86,7 +86,7 @@ QString PassRows::text(const PassRecord& record, int column) const {
     case Files:
         return filesText(record);
     case Size:
-        return sizeText(record.brought);
+        return sizeText(record.transfer);
     case Time:
         return secondsText(record.seconds);
     default:
