@@ -1,7 +1,7 @@
 #include "app/machine_parts.h"
 
 #include "adapters/desktop/desktop_tray_host.h"
-#include "adapters/network/network_information.h"
+#include "adapters/network/kelvo_ssid.h"
 #include "adapters/system/private_places.h"
 #include "app/places.h"
 #include "app/version.h"

@@ -9,9 +9,9 @@
 #include "app/version.h"
 #include "ports/application.h"
 #include "ports/network_checker.h"
+#include "ui/kelvo_status_menu_handler.h"
 #include "ui/main_window_controller.h"
 #include "ui/pass_notices.h"
-#include "ui/status_menu_handler.h"
 #include "ui/status_menu_presence.h"
 #include "ui/view_controller.h"
 

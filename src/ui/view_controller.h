@@ -15,11 +15,11 @@
 #include "ui/command_example.h"
 #include "ui/folder_selection.h"
 #include "ui/interface_controllers.h"
+#include "ui/kelvo_status_menu_handler.h"
 #include "ui/outlets.h"
 #include "ui/reveal_button_watchers.h"
 #include "ui/start_button_title.h"
 #include "ui/status_line.h"
-#include "ui/status_menu_handler.h"
 #include "ui/terminal_notice.h"
 
 #include <memory>

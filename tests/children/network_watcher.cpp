@@ -1,7 +1,7 @@
 // Prints a line for each message of the network checker, until it is ended. With "--browse" a line
 // for each state and each result of a search for SMB services instead.
 #include "adapters/network/avahi_browser.h"
-#include "adapters/network/network_information.h"
+#include "adapters/network/kelvo_ssid.h"
 #include "adapters/process/qt_main_queue.h"
 #include "fakes/recording_console.h"
 #include "support/notification_center.h"

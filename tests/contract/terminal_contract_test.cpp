@@ -38,7 +38,9 @@ struct WindowWorld {
         files.temporary = {at("t"), {}};
         QDir().mkdir(at("t"));
         put("program", "#!/bin/sh\nshift\n\"$@\" >/dev/null 2>&1 </dev/null\n");
-        put("script", "until [ -e '" + at("go").toLocal8Bit() + "' ]; do sleep 0.02; done\n");
+        // It ends with the folder, too: no case leaves it behind.
+        put("script", "while [ -e \"$0\" ] && [ ! -e '" + at("go").toLocal8Bit() +
+                          "' ]; do sleep 0.02; done\n");
         terminal = std::make_unique<TerminalWindow>(
             files, console, std::vector<TerminalProgram>{{at("program").toStdString(), {"-e"}}});
     }

@@ -22,7 +22,7 @@ kelvo_tests(contract
     contract/log_file_contract_test.cpp
     contract/login_item_contract_test.cpp
     contract/mac_volume_search_test.cpp
-    contract/network_information_test.cpp
+    contract/network_checker_contract_test.cpp
     contract/pass_store_contract_test.cpp
     contract/plist_codec_test.cpp
     contract/plist_defaults_faults_test.cpp

@@ -7,8 +7,8 @@
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 #include "support/text.h"
+#include "ui/kelvo_status_menu_handler.h"
 #include "ui/main_window_controller.h"
-#include "ui/status_menu_handler.h"
 #include "ui/status_menu_presence.h"
 
 #include <gtest/gtest.h>

@@ -7,8 +7,8 @@
 #include "settings/factory_defaults.h"
 #include "support/fatal.h"
 #include "support/text.h"
+#include "ui/kelvo_status_menu_handler.h"
 #include "ui/main_window_controller.h"
-#include "ui/status_menu_handler.h"
 
 #include <utility>
 

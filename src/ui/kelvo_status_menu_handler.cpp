@@ -1,4 +1,4 @@
-#include "ui/status_menu_handler.h"
+#include "ui/kelvo_status_menu_handler.h"
 
 #include "ports/console.h"
 #include "support/text.h"

@@ -1,4 +1,4 @@
-#include "adapters/network/network_information.h"
+#include "adapters/network/kelvo_ssid.h"
 
 #include "adapters/network/link_watch.h"
 #include "ports/dispatch_queue.h"

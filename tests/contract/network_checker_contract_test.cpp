@@ -1,4 +1,4 @@
-#include "adapters/network/network_information.h"
+#include "adapters/network/kelvo_ssid.h"
 #include "adapters/process/qt_main_queue.h"
 #include "fakes/fake_network.h"
 #include "support/notification_center.h"
