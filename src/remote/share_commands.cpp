@@ -2,6 +2,7 @@
 
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "support/shell_words.h"
 #include "support/text.h"
 
 #include <QByteArray>
@@ -39,8 +40,8 @@ QString bounded(const QString& command) {
            QString::number(cShareTimeout) + u" seconds\"";
 }
 
-QString singleQuoted(QString text) {
-    return u'\'' + text.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+QString singleQuoted(const QString& text) {
+    return u'\'' + insideSingleQuotes(text) + u'\'';
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "settings/remote_account.h"
 #include "support/file_url.h"
 #include "support/key_file.h"
+#include "support/shell_words.h"
 #include "support/text.h"
 
 #include <utility>

@@ -38,6 +38,7 @@ kelvo_tests(contract
     contract/signal_pipe_test.cpp
     contract/signals_contract_test.cpp
     contract/single_copy_contract_test.cpp
+    contract/shell_words_contract_test.cpp
     contract/sqlite_pass_store_test.cpp
     contract/stream_console_test.cpp
     contract/system_information_test.cpp
