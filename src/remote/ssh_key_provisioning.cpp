@@ -96,6 +96,11 @@ void SshKeyProvisioning::copyPublicKeyToRemoteHost() {
     const QString privateKey = keyPair().privateKey;
     if (!account || privateKey.isEmpty())
         return;
+    if (const QString fault = accountFault(*account, privateKey); !fault.isEmpty()) {
+        fParts.console.log(insideLine(u"ViewController", u"copyPublicKeyToRemoteHost()",
+                                      QString(u".......REFUSED: " + fault)));
+        return;
+    }
     const QString command = keyInstallationCommand(privateKey, *account);
     (void)fParts.commandFiles.executeAsCommandFile(command, tellOf(command));
 }

@@ -1,4 +1,8 @@
-// Folders with odd names in passes by the real rsync.
+// Folders, accounts and homes with odd names in the real commands.
+#include "fakes/memory_defaults.h"
+#include "fakes/recording_console.h"
+#include "remote/connection_check.h"
+#include "remote/remote_host_validation.h"
 #include "settings/preference_keys.h"
 #include "settings/preferences.h"
 #include "sync/rsync_command.h"
@@ -239,6 +243,42 @@ TEST_F(WordsOfPassesTest, PathFromTheLoginFolderOn_IsReadWholeByTheShellThere) {
             from, fRoot + "/to/plain");
         EXPECT_EQ(ran, !name.contains(u'\n') && !name.contains(u'\r')) << name.toStdString();
     }
+}
+
+TEST_F(WordsOfPassesTest, OddHomesAndHosts_ReachSshAsOneWord) {
+    makeSsh();
+    MemoryDefaults defaults;
+    RecordingConsole console;
+    const QString host = QStringLiteral("Ann's-Mac-[2] (x);&.local");
+    defaults.setObject(prefRemoteUsername, "a nn$(touch x)");
+    defaults.setObject(prefRemoteBonjourName, host);
+    const QString account = "a nn$(touch x)@" + host;
+    for (const QString& name : cOddNames) {
+        if (name.contains("%@") || name.contains(u'\n'))
+            continue;
+        const QString home = fRoot + "/homes/" + name;
+        const QString key = home + "/.ssh/id_kelvoRsync";
+
+        run(filledCommand(cMovieCommandTemplate.toString(),
+                          {QStringLiteral("u@h:x"), fRoot + "/to", key}, u"")
+                .value());
+        EXPECT_EQ(sshArguments().mid(0, 5), (QStringList{"-i", key, "-l", "u", "h"}));
+
+        run(whoamiCommand(3, key, account).replace("/usr/bin/ssh", "ssh"));
+        EXPECT_EQ(sshArguments(),
+                  (QStringList{"-o", "ConnectTimeout=3", "-i", key, account, "whoami", ""}));
+
+        const auto check =
+            fillInSshParams(QStringLiteral("ssh -i %@4 -o BatchMode=yes -o ConnectTimeout=5 "
+                                           "%@1@%@2 echo %@sshgoodresponsestring 2>&1"),
+                            defaults, home, console);
+        ASSERT_TRUE(check) << name.toStdString();
+        EXPECT_EQ(run(*check), QStringLiteral("remoteisgood\n"));
+        EXPECT_EQ(sshArguments(),
+                  (QStringList{"-i", key, "-o", "BatchMode=yes", "-o", "ConnectTimeout=5", account,
+                               "echo", "remoteisgood", ""}));
+    }
+    EXPECT_FALSE(QFileInfo::exists(fRoot + "/here/x"));
 }
 
 } // namespace
