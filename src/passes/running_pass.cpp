@@ -38,7 +38,8 @@ RunningPass::~RunningPass() {
     fRecord.seconds = fPasses.fClock.seconds() - fBegan;
     for (const CommandRecord& command : fRecord.commands)
         fRecord.transfer = sumOf(fRecord.transfer, command.transfer);
-    NamedCause named = causeOf(fRecord);
+    NamedCause named =
+        fRefused.isEmpty() ? causeOf(fRecord) : NamedCause{PassCause::SettingsRefused, fRefused};
     fRecord.cause = named.cause;
     fRecord.lastLine = std::move(named.lastLine);
     fPasses.fEnded(fRecord);

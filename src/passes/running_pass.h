@@ -61,6 +61,10 @@ public:
     /// Runs `command` as CommandRunner does and writes it down.
     CommandResult run(CommandRole role, const Command& command);
 
+    /// The pass ends before its commands: `why` tells which text of the settings cannot stand in
+    /// one.
+    void refused(const QString& why) { fRefused = why; }
+
     /// Remote passes only: what the host check came to.
     void judged(const HostVerdict& verdict) { fRecord.verdict = verdict; }
 
@@ -69,6 +73,7 @@ private:
 
     RunningPasses& fPasses;
     PassRecord fRecord;
+    QString fRefused; ///< empty unless it was
     const double fBegan;
     PassUnderWay fNow; ///< guarded by the mutex of all passes
 };

@@ -3,6 +3,7 @@
 #include "ports/command_runner.h"
 #include "ports/console.h"
 #include "ports/file_manager.h"
+#include "support/shell_words.h"
 #include "support/text.h"
 
 #include <utility>

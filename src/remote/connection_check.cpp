@@ -7,7 +7,9 @@
 #include "ports/user_defaults.h"
 #include "remote/share_commands.h"
 #include "settings/preference_keys.h"
+#include "settings/remote_account.h"
 #include "support/key_file.h"
+#include "support/shell_words.h"
 #include "support/text.h"
 
 #include <memory>
@@ -21,6 +23,13 @@ constexpr double cVolumeListDelay = 0.5;
 /// Seconds; the time-out that the command names itself comes first.
 constexpr double cPatience = 5 + cCommandGrace;
 const QString cGoodResponse = QStringLiteral("%@sshgoodresponsestring");
+const QString cHost = QStringLiteral("%@2");
+
+QString withoutBlanksBehind(QString text) {
+    while (text.endsWith(u' '))
+        text.chop(1);
+    return text;
+}
 
 } // namespace
 
@@ -37,12 +46,20 @@ std::optional<QString> fillInSshParams(const QString& text, const UserDefaults& 
     const auto trimmedSetting = [&defaults](QStringView key) {
         return trimmedText(defaults.stringForKey(key).value_or(QString()));
     };
-    QString filled = text;
-    filled.replace(cGoodResponse, QStringLiteral("\"remoteisgood\""));
-    filled.replace(QStringLiteral("%@4"), trimmedText(expandingTilde(cPrivateKeyFile, home)));
-    filled.replace(QStringLiteral("%@3"), trimmedSetting(prefRemotePath));
-    filled.replace(QStringLiteral("%@1"), trimmedSetting(prefRemoteUsername));
-    filled.replace(QStringLiteral("%@2"), *host);
+    const QString hostAlone = withoutBlanksBehind(*host);
+    const QString blanks = host->sliced(hostAlone.size());
+    std::optional<QString> filled =
+        QString(text).replace(cGoodResponse, QStringLiteral("\"remoteisgood\""));
+    const auto fill = [&filled](const QString& placeholder, const QString& value) {
+        if (filled)
+            filled = withWord(*filled, placeholder, value);
+    };
+    fill(QStringLiteral("%@4"), trimmedText(expandingTilde(cPrivateKeyFile, home)));
+    fill(QStringLiteral("%@3"), trimmedSetting(prefRemotePath));
+    fill(QStringLiteral("%@1"), trimmedSetting(prefRemoteUsername));
+    if (filled)
+        filled->replace(cHost, cHost + blanks);
+    fill(cHost, hostAlone);
     return filled;
 }
 
@@ -66,6 +83,10 @@ void ConnectionCheck::ibTestShellCommand() {
 
 void ConnectionCheck::ibTestShellCommand222() {
     fParts.console.log(insideLine(cTypeName, u"ibTestShellCommand222(_:)"));
+    if (const QString fault = faultOfAccount(); !fault.isEmpty()) {
+        showFault(fault);
+        return;
+    }
     fParts.showBusy(true);
     const auto command =
         filledIn(QStringLiteral("ssh -i %@4 -o BatchMode=yes -o ConnectTimeout=5 %@1@%@2 echo "
@@ -95,14 +116,33 @@ void ConnectionCheck::finish(const std::optional<QString>& output) {
         fParts.console.print(QStringLiteral("ssh remote is alive... connection good"));
 
     const QString fault = connectionFault(*output);
-    if (!fault.isEmpty())
-        fParts.console.print(fault);
-    fParts.showAlert(fault.isEmpty() ? QStringLiteral("SUCCESS...") : QStringLiteral("Oh OH..."),
-                     fault.isEmpty() ? QStringLiteral("remote seem to be alive?...") : fault,
-                     [&console = fParts.console](ModalResponse response) {
-                         console.print(u"response = " + QString::number(response));
-                     });
+    if (fault.isEmpty())
+        show(QStringLiteral("SUCCESS..."), QStringLiteral("remote seem to be alive?..."));
+    else
+        showFault(fault);
     fParts.showBusy(false);
+}
+
+void ConnectionCheck::showFault(const QString& fault) {
+    fParts.console.print(fault);
+    show(QStringLiteral("Oh OH..."), fault);
+}
+
+void ConnectionCheck::show(const QString& title, const QString& text) {
+    fParts.showAlert(title, text, [&console = fParts.console](ModalResponse response) {
+        console.print(u"response = " + QString::number(response));
+    });
+}
+
+/// Without a host the command is run as it stands, and ssh says what it thinks of that.
+QString ConnectionCheck::faultOfAccount() const {
+    const auto host = fParts.defaults.stringForKey(prefRemoteBonjourName);
+    if (!host)
+        return {};
+    const QString user =
+        trimmedText(fParts.defaults.stringForKey(prefRemoteUsername).value_or(QString()));
+    return accountFault({.user = user, .host = *host},
+                        expandingTilde(cPrivateKeyFile, fParts.files.homeDirectory()));
 }
 
 std::optional<QString> ConnectionCheck::filledIn(const QString& text) const {

@@ -18,8 +18,10 @@ class ShareCommands;
 class CommandRunner;
 class UserDefaults;
 
-/// Fills the numbered placeholders of `text` from the settings; `text` itself when no host is set.
-/// `home` is the user's home folder. Writes its lines to `console`.
+/// Fills the numbered placeholders of `text` from the settings, each escaped for the quotes around
+/// it so that it stays in its word; blanks behind the host stay as they are. `text` itself when no
+/// host is set; nothing when `text` puts a value where it cannot be kept in one word. `home` is the
+/// user's home folder. Writes its lines to `console`.
 std::optional<QString> fillInSshParams(const QString& text, const UserDefaults& defaults,
                                        const QString& home, Console& console);
 
@@ -53,7 +55,7 @@ public:
     void ibTestShellCommand();
 
     /// The test: ssh runs in the background, the outcome is an alert. Tests run side by side; each
-    /// has its own alert.
+    /// has its own alert. A user or host that cannot stand in a command has that alert at once.
     void ibTestShellCommand222();
 
     /// Opens the share and writes down what is mounted 0.5 s later. Blocks while commands run.
@@ -61,6 +63,9 @@ public:
 
 private:
     void finish(const std::optional<QString>& output);
+    void showFault(const QString& fault);
+    void show(const QString& title, const QString& text);
+    QString faultOfAccount() const;
     std::optional<QString> filledIn(const QString& text) const;
 
     const ConnectionCheckParts fParts;

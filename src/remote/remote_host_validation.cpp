@@ -5,6 +5,7 @@
 #include "ports/user_defaults.h"
 #include "settings/remote_account.h"
 #include "support/key_file.h"
+#include "support/shell_words.h"
 #include "support/text.h"
 
 #include <algorithm>
@@ -34,11 +35,12 @@ JudgedAnswer judgedAnswer(const QString& answer, const QString& username, bool k
     return {HostVerdict::UnknownError, QStringLiteral("Please check some other issue??????")};
 }
 
+/// Each place of the text is one where any word can be put.
 QString whoamiCommand(qint64 timeout, const QString& keyPath, const QString& target) {
-    QString command = u"/usr/bin/ssh 2>&1  -o ConnectTimeout=" + QString::number(timeout) +
-                      u"  -i %@1 \"%@2\" whoami";
-    command.replace(QStringLiteral("%@1"), keyPath);
-    return command.replace(QStringLiteral("%@2"), target);
+    const QString command = u"/usr/bin/ssh 2>&1  -o ConnectTimeout=" + QString::number(timeout) +
+                            u"  -i %@1 \"%@2\" whoami";
+    const QString withKey = withWord(command, u"%@1", keyPath).value();
+    return withWord(withKey, u"%@2", target).value();
 }
 
 RemoteHostValidation::RemoteHostValidation(RemoteHostValidationParts parts)
@@ -61,7 +63,8 @@ HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout,
 HostVerdict RemoteHostValidation::ask(qint64 timeout, const RunCommand& run,
                                       QString& target) const {
     Console& console = fParts.console;
-    console.log(insideLine(u"ViewController", u"validateRemoteHostWithWhoami(_:)",
+    constexpr QStringView operation = u"validateRemoteHostWithWhoami(_:)";
+    console.log(insideLine(u"ViewController", operation,
                            QString(u".......timeout = " + QString::number(timeout))));
     const auto account = remoteAccount(fParts.defaults);
     if (!account)
@@ -69,6 +72,10 @@ HostVerdict RemoteHostValidation::ask(qint64 timeout, const RunCommand& run,
     target = account->destination();
 
     const QString keyPath = expandingTilde(cPrivateKeyFile, fParts.files.homeDirectory());
+    if (const QString fault = accountFault(*account, keyPath); !fault.isEmpty()) {
+        console.log(insideLine(u"ViewController", operation, QString(u".......REFUSED: " + fault)));
+        return HostVerdict::NotAsked;
+    }
     const QString command = whoamiCommand(timeout, keyPath, target);
     console.print(u"cmd to check valid user and remote host = \n" + command);
     const double patience = std::max(static_cast<double>(timeout) + fParts.grace, 0.0);

@@ -24,7 +24,7 @@ struct JudgedAnswer {
 /// case; while the key file is missing an answer of another kind is the verdict itself.
 JudgedAnswer judgedAnswer(const QString& answer, const QString& username, bool keyFileExists);
 
-/// The command that asks: `timeout` in seconds, `target` as user@host.
+/// The command that asks: `timeout` in seconds, `target` as user@host. Both texts stay one word.
 QString whoamiCommand(qint64 timeout, const QString& keyPath, const QString& target);
 
 /// What the validation works with; the references outlive it.
@@ -47,7 +47,8 @@ public:
     explicit RemoteHostValidation(RemoteHostValidationParts parts);
 
     /// Asks the remote host who we are there. `timeout` is ssh's connect time-out in seconds.
-    /// Blocks. The second form runs its command by `run`.
+    /// Blocks. The second form runs its command by `run`. Nobody is asked while user or host is not
+    /// set, nor when one of them or the key's path cannot stand in a command; that is logged.
     HostVerdict validateRemoteHostWithWhoami(qint64 timeout) const;
     HostVerdict validateRemoteHostWithWhoami(qint64 timeout, const RunCommand& run) const;
 

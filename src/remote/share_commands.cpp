@@ -2,6 +2,7 @@
 
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "support/shell_words.h"
 #include "support/text.h"
 
 #include <QByteArray>
@@ -9,10 +10,11 @@
 namespace kelvo {
 namespace {
 
+/// All placeholders of `text` stand between double quotes.
 QString filledIn(QString text, const ShareTarget& target) {
-    text.replace(QStringLiteral("%@3"), target.remotePath);
-    text.replace(QStringLiteral("%@1"), target.user);
-    return text.replace(QStringLiteral("%@2"), shareHost(target.host));
+    text.replace(QStringLiteral("%@3"), insideDoubleQuotes(target.remotePath));
+    text.replace(QStringLiteral("%@1"), insideDoubleQuotes(target.user));
+    return text.replace(QStringLiteral("%@2"), insideDoubleQuotes(shareHost(target.host)));
 }
 
 QString remoteFolderFrom(const QString& start, const ShareTarget& target) {
@@ -39,8 +41,14 @@ QString bounded(const QString& command) {
            QString::number(cShareTimeout) + u" seconds\"";
 }
 
-QString singleQuoted(QString text) {
-    return u'\'' + text.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+QString singleQuoted(const QString& text) {
+    return u'\'' + insideSingleQuotes(text) + u'\'';
+}
+
+/// `host` inside the slashes of a pattern that awk is given between single quotes.
+QString insidePattern(QString host) {
+    host.replace(u'\\', QStringLiteral("\\\\")).replace(u'/', QStringLiteral("\\/"));
+    return insideSingleQuotes(host);
 }
 
 } // namespace
@@ -77,8 +85,8 @@ QString MacShareCommands::listVolumes(const ShareTarget&) const {
 }
 
 QString MacShareCommands::pickVolume(const QString& listing, const ShareTarget& target) const {
-    QString command = u"echo \"" + listing + u"\" | awk ' $1 ~ /%@DD/ {print $'10'\" \"$'11'}' ";
-    return command.replace(QStringLiteral("%@DD"), shareHost(target.host));
+    return u"echo \"" + insideDoubleQuotes(listing) + u"\" | awk ' $1 ~ /" +
+           insidePattern(shareHost(target.host)) + u"/ {print $'10'\" \"$'11'}' ";
 }
 
 QString MacShareCommands::localFolder(const QString& volume, const ShareTarget& target) const {
@@ -86,7 +94,7 @@ QString MacShareCommands::localFolder(const QString& volume, const ShareTarget& 
 }
 
 std::optional<QString> MacShareCommands::openLocalPath(const QString& path) const {
-    return QString(u"open \"" + path + u'"');
+    return QString(u"open \"" + insideDoubleQuotes(path) + u'"');
 }
 
 // -- Linux

@@ -9,6 +9,7 @@
 #include "settings/remote_account.h"
 #include "support/file_url.h"
 #include "support/key_file.h"
+#include "support/shell_words.h"
 #include "support/text.h"
 
 #include <utility>
@@ -95,6 +96,11 @@ void SshKeyProvisioning::copyPublicKeyToRemoteHost() {
     const QString privateKey = keyPair().privateKey;
     if (!account || privateKey.isEmpty())
         return;
+    if (const QString fault = accountFault(*account, privateKey); !fault.isEmpty()) {
+        fParts.console.log(insideLine(u"ViewController", u"copyPublicKeyToRemoteHost()",
+                                      QString(u".......REFUSED: " + fault)));
+        return;
+    }
     const QString command = keyInstallationCommand(privateKey, *account);
     (void)fParts.commandFiles.executeAsCommandFile(command, tellOf(command));
 }

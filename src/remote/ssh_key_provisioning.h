@@ -54,7 +54,8 @@ public:
     /// Makes a new pair in place of what is there.
     void createNewPrivatePublicKeys();
 
-    /// Opens the installation in a terminal window. Nothing happens while user or host is not set.
+    /// Opens the installation in a terminal window. Nothing happens while user or host is not set;
+    /// one that cannot stand in a command is logged and opens nothing.
     void copyPublicKeyToRemoteHost();
 
     /// Makes a new pair in a terminal window, and shows the folder of its script.

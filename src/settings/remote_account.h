@@ -20,6 +20,10 @@ struct RemoteAccount {
 /// The account on the remote host; nothing while user or host is not set. An empty text is set.
 std::optional<RemoteAccount> remoteAccount(const UserDefaults& defaults);
 
+/// What keeps `account` and the key at `keyPath` from being named in a command, as in `the host
+/// name holds a line break`; empty when nothing does.
+QString accountFault(const RemoteAccount& account, QStringView keyPath);
+
 /// Both trimmed.
 struct PassPaths {
     QString source;

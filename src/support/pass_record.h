@@ -39,7 +39,10 @@ enum class PassCause {
     Interrupted = 21, ///< the program ended the commands
     LoginTalks = 22,  ///< the host prints text at login, which hides its answer
     Unknown = 23,
+    SettingsRefused = 24, ///< a text in the settings cannot stand in a command
 };
+
+inline constexpr PassCause cLastPassCause = PassCause::SettingsRefused;
 
 /// A long text's beginning and end.
 struct CapturedText {
@@ -81,7 +84,8 @@ struct PassRecord {
     PassKind kind = PassKind::Plain;
     HostVerdict verdict; ///< of the host check; nobody is asked for a plain pass
     PassCause cause = PassCause::Unknown;
-    QString lastLine; ///< the last line of the command that decided the cause; may be empty
+    /// The last line of the command that decided the cause, or what was refused; may be empty.
+    QString lastLine;
     /// The sum of what the commands said; `source` is Unknown when none of them did.
     Transfer transfer;
     std::vector<CommandRecord> commands;

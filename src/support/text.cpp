@@ -32,16 +32,6 @@ QString appendingPathComponent(QStringView path, QStringView component) {
     return joined;
 }
 
-QString insideDoubleQuotes(QStringView text) {
-    QString safe;
-    for (const QChar sign : text) {
-        if (QStringView(u"\\\"$`").contains(sign))
-            safe.append(u'\\');
-        safe.append(sign);
-    }
-    return safe;
-}
-
 QString insideLine(QStringView typeName, QStringView operation, QStringView detail) {
     return QStringView(u"Inside ") % typeName % QStringView(u"->") % operation % detail;
 }

@@ -26,10 +26,6 @@ QString expandingTilde(QStringView path, QStringView home);
 /// end. An empty component adds nothing.
 QString appendingPathComponent(QStringView path, QStringView component);
 
-/// `text` as it stands between double quotes in a shell command: what the shell would read as its
-/// own there gets a backslash.
-QString insideDoubleQuotes(QStringView text);
-
 /// A diagnostic line: "Inside " + type + "->" + operation + detail.
 QString insideLine(QStringView typeName, QStringView operation, QStringView detail = u".......");
 

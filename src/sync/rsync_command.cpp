@@ -4,6 +4,7 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "support/fatal.h"
+#include "support/shell_words.h"
 #include "support/text.h"
 
 namespace kelvo {
@@ -16,6 +17,41 @@ const QString cDestination = QStringLiteral("%@2");
 const QString cKeyFile = QStringLiteral("%@3");
 const QString cSsh = QStringLiteral("%@98");
 const QString cOption = QStringLiteral("%@99");
+
+/// Where the path begins when rsync would read `place` as one on a host, host:path; otherwise 0.
+qsizetype pathOf(QStringView place) {
+    const qsizetype colon = place.indexOf(u':');
+    const qsizetype slash = place.indexOf(u'/');
+    return colon >= 0 && (slash < 0 || colon < slash) ? colon + 1 : 0;
+}
+
+/// Empty for a place on this machine.
+QStringView hostOf(QStringView place) {
+    const qsizetype path = pathOf(place);
+    const QStringView account = path > 0 ? place.first(path - 1) : QStringView();
+    return account.sliced(account.lastIndexOf(u'@') + 1);
+}
+
+/// `source` with a backslash before the signs of patterns in a path on a host: rsync escapes all
+/// the others for the shell over there by itself.
+QString keptWhole(const QString& source) {
+    const qsizetype path = pathOf(source);
+    QString kept = source.first(path);
+    for (const QChar sign : QStringView(source).sliced(path)) {
+        if (path > 0 && QStringView(u"*?[]").contains(sign))
+            kept.append(u'\\');
+        kept.append(sign);
+    }
+    return kept;
+}
+
+std::optional<QString> withKey(const QString& command, const QString& keyPath) {
+    const auto filled = withWord(command, cKeyFile, keyPath);
+    const auto sshPart = withWord(cSshPart.toString(), cKeyFile, keyPath);
+    if (!filled || !sshPart)
+        return {};
+    return withPiece(*filled, cSsh, *sshPart, keyPath);
+}
 
 } // namespace
 
@@ -33,18 +69,45 @@ std::optional<QStringView> optionStringForTag(qint64 tag) {
     }
 }
 
-QString filledCommand(QString command, const RsyncParams& params, QStringView optionString) {
+std::optional<QString> filledCommand(const QString& command, const RsyncParams& params,
+                                     QStringView optionString) {
+    std::optional<QString> filled = command;
     if (params.srcpath)
-        command.replace(cSource, withTrailingSlash(*params.srcpath));
-    if (params.dstpath)
-        command.replace(cDestination, withTrailingSlash(*params.dstpath));
-    if (params.sshfilepath) {
-        command.replace(cKeyFile, *params.sshfilepath);
-        command.replace(cSsh, cSshPart.toString().replace(cKeyFile, *params.sshfilepath));
-    } else {
-        command.remove(cSsh);
+        filled = withWord(*filled, cSource, keptWhole(withTrailingSlash(*params.srcpath)));
+    if (filled && params.dstpath)
+        filled = withWord(*filled, cDestination, withTrailingSlash(*params.dstpath));
+    if (filled && params.sshfilepath)
+        filled = withKey(*filled, *params.sshfilepath);
+    if (!filled)
+        return {};
+    if (!params.sshfilepath)
+        filled->remove(cSsh);
+    return filled->replace(cOption, optionString.toString());
+}
+
+QString commandFault(const QString& command, const RsyncParams& params) {
+    const QString source = trimmedText(params.srcpath.value_or(QString()));
+    const QString destination = trimmedText(params.dstpath.value_or(QString()));
+    if (const QString fault = wordFault(source); !fault.isEmpty())
+        return u"the source " + fault;
+    if (hostOf(source).startsWith(u'-'))
+        return QStringLiteral("the host of the source begins with \"-\"");
+    const qsizetype path = pathOf(source);
+    if (params.sshfilepath && path > 0 && source.sliced(path).startsWith(u':'))
+        return QStringLiteral("the source would be read as a module of an rsync daemon");
+    if (const QString fault = wordFault(destination); !fault.isEmpty())
+        return u"the destination " + fault;
+    if (pathOf(destination) > 0)
+        return QStringLiteral("the destination would be read as the name of a host");
+    for (const QString& later : {cKeyFile, cSsh, cOption}) {
+        if (destination.contains(later))
+            return u"the destination holds " + later + u", which would be filled in";
     }
-    return command.replace(cOption, optionString.toString());
+    if (const QString fault = wordFault(params.sshfilepath.value_or(QString())); !fault.isEmpty())
+        return u"the path of the key file " + fault;
+    if (!filledCommand(command, params, {}))
+        return QStringLiteral("the command puts a text where it cannot be kept in one word");
+    return {};
 }
 
 QString RsyncCommand::getRsyncCommandOptionString() const {
@@ -56,12 +119,13 @@ QString RsyncCommand::getRsyncCommandOptionString() const {
     return option->toString();
 }
 
-QString RsyncCommand::fillInParams(const QString& command, const RsyncParams& params) const {
+std::optional<QString> RsyncCommand::fillInParams(const QString& command,
+                                                  const RsyncParams& params) const {
     tracePathStep(params.srcpath);
     tracePathStep(params.dstpath);
-    QString filled = filledCommand(command, params, getRsyncCommandOptionString());
+    std::optional<QString> filled = filledCommand(command, params, getRsyncCommandOptionString());
     fConsole.print(insideLine(u"String", u"fillInParams(srcpath:dstpath:sshfilepath:)",
-                              QString(u".......returning:\n" + filled)));
+                              QString(u".......returning:\n" + filled.value_or(QString()))));
     return filled;
 }
 

@@ -27,8 +27,16 @@ struct RsyncParams {
 
 /// `command` with its placeholders replaced in their fixed order: source, destination, key file,
 /// ssh part, option. Each step works on the text that the earlier ones left, so a placeholder
-/// inside a source is filled by the later steps.
-QString filledCommand(QString command, const RsyncParams& params, QStringView optionString);
+/// inside a source is filled by the later steps. What is filled in stays in its word: it is escaped
+/// for the shell and, the path on another host, for the shell there. Nothing when `command` puts a
+/// text where that cannot be done.
+std::optional<QString> filledCommand(const QString& command, const RsyncParams& params,
+                                     QStringView optionString);
+
+/// What keeps `command` from being filled with `params` and run, as in `the destination begins with
+/// "-"`; empty when nothing does. The folders meant, and no others, are then read and filled,
+/// unless the source holds a placeholder.
+QString commandFault(const QString& command, const RsyncParams& params);
 
 /// Any thread.
 class RsyncCommand {
@@ -40,7 +48,7 @@ public:
     QString getRsyncCommandOptionString() const;
 
     /// `filledCommand` with the stored option, traced on the console step by step.
-    QString fillInParams(const QString& command, const RsyncParams& params) const;
+    std::optional<QString> fillInParams(const QString& command, const RsyncParams& params) const;
 
 private:
     void tracePathStep(const std::optional<QString>& path) const;

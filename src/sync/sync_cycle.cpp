@@ -19,6 +19,7 @@ namespace {
 constexpr qint64 cMaxBadWhoamiCount = 10;
 constexpr qint64 cValidationTimeout = 3; // seconds
 constexpr double cPauseAfterPass = 1.0;
+constexpr QStringView cRemoteOperation = u"doSyncOnceBonjour()";
 
 QString alertTextFor(const HostVerdict& verdict) {
     if (verdict == HostVerdict::CheckSshKeys)
@@ -82,7 +83,7 @@ void SyncCycle::doSyncOnce() {
 }
 
 void SyncCycle::doSyncOnceBonjour() {
-    constexpr QStringView operation = u"doSyncOnceBonjour()";
+    constexpr QStringView operation = cRemoteOperation;
     logInside(operation, u".......");
     const QString option = fParts.rsyncCommand.getRsyncCommandOptionString();
     showStatus(option.isEmpty() ? QStringLiteral("Trying to rsync From Destination to Source...")
@@ -119,18 +120,31 @@ void SyncCycle::runInBackground(PassKind kind, Body body) {
     });
 }
 
+/// Without a fault nothing is refused.
+bool SyncCycle::refuses(RunningPass& pass, QStringView operation, const QString& fault) const {
+    if (fault.isEmpty())
+        return false;
+    logInside(operation, QString(u".......REFUSED: " + fault));
+    pass.refused(fault);
+    return true;
+}
+
 // -- the plain pass
 
 void SyncCycle::runPlainPass(RunningPass& pass) {
     const auto paths = plainPaths(fParts.defaults);
     if (!paths)
         return;
+    const RsyncParams params{paths->source, paths->destination, std::nullopt};
+    const QString command = rsyncTemplate();
+    if (refuses(pass, u"doSyncOnce()", commandFault(command, params)))
+        return;
     markScanning();
-    const QString command = fParts.rsyncCommand.fillInParams(
-        rsyncTemplate(), {paths->source, paths->destination, std::nullopt});
-    fParts.console.print(u"cmd to send = " + command);
-    printResult(u"result from shell command =\n",
-                pass.run(CommandRole::Pull, {.text = command}).output);
+    if (const auto filled = fParts.rsyncCommand.fillInParams(command, params)) {
+        fParts.console.print(u"cmd to send = " + *filled);
+        printResult(u"result from shell command =\n",
+                    pass.run(CommandRole::Pull, {.text = *filled}).output);
+    }
     fParts.mainQueue.asyncAfter(cPauseAfterPass, [this] {
         fParts.defaults.setObject(prefIsScanning, false);
         scheduleAfterRest(&SyncCycle::doSyncOnce);
@@ -141,12 +155,25 @@ void SyncCycle::runPlainPass(RunningPass& pass) {
 
 void SyncCycle::runRemotePass(RunningPass& pass) {
     const QString keyPath = keyFilePath();
+    if (refuses(pass, cRemoteOperation, remoteFault(keyPath)))
+        return;
     const HostVerdict verdict = validateRemoteHost(pass);
     pass.judged(verdict);
     if (verdict == HostVerdict::Valid)
         pullFromRemote(pass, keyPath);
     else
         handleFailedValidation(verdict == HostVerdict::CheckSshKeys ? verdict : HostVerdict());
+}
+
+/// Of what is set now; asked before anybody is spoken to.
+QString SyncCycle::remoteFault(const QString& keyPath) const {
+    if (const auto account = remoteAccount(fParts.defaults)) {
+        if (QString fault = accountFault(*account, keyPath); !fault.isEmpty())
+            return fault;
+    }
+    const auto paths = remotePaths(fParts.defaults);
+    return paths ? commandFault(rsyncTemplate(), {paths->source, paths->destination, keyPath})
+                 : QString();
 }
 
 HostVerdict SyncCycle::validateRemoteHost(RunningPass& pass) const {
@@ -161,13 +188,16 @@ void SyncCycle::pullFromRemote(RunningPass& pass, const QString& keyPath) {
     const auto paths = remotePaths(fParts.defaults);
     if (!paths)
         return;
+    const RsyncParams params{paths->source, paths->destination, keyPath};
+    const QString usersCommand = rsyncTemplate();
+    if (refuses(pass, cRemoteOperation, commandFault(usersCommand, params)))
+        return;
     markScanning();
     const auto pull = [&](const QString& command, QStringView heading) {
-        const QString filled =
-            fParts.rsyncCommand.fillInParams(command, {paths->source, paths->destination, keyPath});
-        printResult(heading, pass.run(CommandRole::Pull, {.text = filled}).output);
+        if (const auto filled = fParts.rsyncCommand.fillInParams(command, params))
+            printResult(heading, pass.run(CommandRole::Pull, {.text = *filled}).output);
     };
-    pull(rsyncTemplate(), u"\n\nresult from shell command =\n");
+    pull(usersCommand, u"\n\nresult from shell command =\n");
     pull(cMovieCommandTemplate.toString(), u"\n\nresult from movie shell command =\n");
     attemptToRescanAgain();
 }

@@ -87,6 +87,8 @@ private:
     void runInBackground(PassKind kind, Body body);
     void runPlainPass(RunningPass& pass);
     void runRemotePass(RunningPass& pass);
+    bool refuses(RunningPass& pass, QStringView operation, const QString& fault) const;
+    QString remoteFault(const QString& keyPath) const;
     HostVerdict validateRemoteHost(RunningPass& pass) const;
     void pullFromRemote(RunningPass& pass, const QString& keyPath);
     void handleFailedValidation(const HostVerdict& verdict);

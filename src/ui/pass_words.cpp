@@ -88,6 +88,11 @@ constexpr auto cTable = std::to_array<Row>({
     {PassCause::SettingsMissing,
      {u"settings-missing", u"The pass cannot run: a folder, the host or the user is not set.",
       u"Choose the Mac, the user name and both folders.", Settings}},
+    {PassCause::SettingsRefused,
+     {u"settings-refused",
+      u"The pass was not begun: a text in the settings cannot stand in a command.",
+      u"Choose another folder, user name or host: without a line break, and no \"-\" in front.",
+      Settings}},
     {PassCause::Interrupted,
      {u"interrupted", u"The program was ended during the pass.", u"Nothing: start it again.",
       CauseGroup::Interrupted}},
@@ -109,8 +114,13 @@ CauseWords wordsFor(PassCause cause) {
 
 QString sentenceFor(const PassRecord& pass) {
     const QString sentence = wordsFor(pass.cause).sentence.toString();
-    const bool says = pass.cause == PassCause::Unknown && !pass.lastLine.isEmpty();
-    return says ? QString(sentence + u" The last line was: " + pass.lastLine) : sentence;
+    if (pass.lastLine.isEmpty())
+        return sentence;
+    if (pass.cause == PassCause::Unknown)
+        return sentence + u" The last line was: " + pass.lastLine;
+    if (pass.cause == PassCause::SettingsRefused)
+        return sentence + u" The reason: " + pass.lastLine + u'.';
+    return sentence;
 }
 
 QString filesText(const Transfer& transfer) {

@@ -109,6 +109,18 @@ TYPED_TEST(PassStoreContractTest, Records_ComeBackNewestFirstWithoutCommands) {
     EXPECT_GT(records[0].id, records[1].id);
 }
 
+TYPED_TEST(PassStoreContractTest, EveryCause_ComesBack) {
+    for (int cause = 0; cause <= static_cast<int>(cLastPassCause); ++cause) {
+        PassRecord record = samplePass(cause);
+        record.cause = static_cast<PassCause>(cause);
+        this->world.store->append(record);
+    }
+    int cause = static_cast<int>(cLastPassCause);
+    for (const PassRecord& record : this->all())
+        EXPECT_EQ(static_cast<int>(record.cause), cause--);
+    EXPECT_EQ(cause, -1);
+}
+
 TYPED_TEST(PassStoreContractTest, OneRecord_ComesBackWhole) {
     this->world.store->append(samplePass(4));
     const auto found = this->one(this->all().at(0).id);

@@ -38,6 +38,8 @@ kelvo_tests(contract
     contract/signal_pipe_test.cpp
     contract/signals_contract_test.cpp
     contract/single_copy_contract_test.cpp
+    contract/shell_words_contract_test.cpp
+    contract/words_of_passes_test.cpp
     contract/sqlite_pass_store_test.cpp
     contract/stream_console_test.cpp
     contract/system_information_test.cpp
@@ -47,7 +49,7 @@ kelvo_tests(contract
     contract/user_defaults_contract_test.cpp
     contract/utf8_collector_test.cpp
     contract/workspace_contract_test.cpp
-  LINKS kelvo_remote kelvo_adapters kelvo_bus_testing
+  LINKS kelvo_sync kelvo_remote kelvo_adapters kelvo_bus_testing
 )
 add_dependencies(contract_tests kelvo_sentinel network_watcher settings_writer zoo)
 target_compile_definitions(contract_tests PRIVATE

@@ -88,7 +88,18 @@ TEST_F(ConnectionCheckTest, FillIn_GoesInItsOrder) {
 
 TEST_F(ConnectionCheckTest, FillIn_LeavesTheHostAsItIsStored) {
     defaults.setObject(prefRemoteBonjourName, QStringLiteral(" host  "));
-    EXPECT_EQ(filledIn(QStringLiteral("[%@2]")), u"[ host  ]");
+    EXPECT_EQ(filledIn(QStringLiteral("\"%@2\" %@2 x")), u"\" host  \" \\ host   x");
+}
+
+TEST_F(ConnectionCheckTest, FillIn_KeepsOddTextsInOneWord) {
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral("Ann's-Mac-[2] (x).local"));
+    defaults.setObject(prefRemoteUsername, QStringLiteral("ann;reboot"));
+    files.home = QStringLiteral("/a b/$(x)");
+    EXPECT_EQ(filledIn(QStringLiteral("%@4 %@1@%@2")),
+              u"/a\\ b/\\$\\(x\\)/.ssh/id_kelvoRsync "
+              u"ann\\;reboot@Ann\\'s-Mac-\\[2\\]\\ \\(x\\).local");
+    EXPECT_EQ(fillInSshParams(QStringLiteral("`%@2`"), defaults, files.home, console),
+              std::nullopt);
 }
 
 TEST_F(ConnectionCheckTest, FillIn_WithoutUserOrPathPutsNothingThere) {
@@ -173,6 +184,18 @@ TEST_F(ConnectionCheckTest, KnownFault_IsPrintedAndShown) {
     EXPECT_EQ(presenter.alerts.front().informativeText, fault);
     EXPECT_TRUE(presenter.alerts.front().buttons.isEmpty());
     EXPECT_EQ(console.printed().count(fault), 1);
+}
+
+TEST_F(ConnectionCheckTest, UserThatWouldBeAnOption_IsShownAndNothingRuns) {
+    defaults.setObject(prefRemoteUsername, QStringLiteral(" -oProxyCommand=x"));
+    test(QString());
+    const QString fault = QStringLiteral("the user name begins with \"-\"");
+    ASSERT_EQ(presenter.alerts.size(), 1U);
+    EXPECT_EQ(presenter.alerts.front().messageText, u"Oh OH...");
+    EXPECT_EQ(presenter.alerts.front().informativeText, fault);
+    EXPECT_EQ(console.printed().count(fault), 1);
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_TRUE(busySigns.empty());
 }
 
 TEST_F(ConnectionCheckTest, Answer_IsPrinted) {

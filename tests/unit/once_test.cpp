@@ -9,7 +9,7 @@
 namespace kelvo {
 namespace {
 
-constexpr int cCauses = static_cast<int>(PassCause::Unknown) + 1;
+constexpr int cCauses = static_cast<int>(cLastPassCause) + 1;
 
 PassRecord passWith(PassCause cause) {
     PassRecord pass;
@@ -40,6 +40,14 @@ TEST(PassWordsTest, UnknownCause_IsToldInTheCommandsOwnWords) {
     EXPECT_EQ(sentenceFor(pass), QStringLiteral("Something went wrong."));
     pass.lastLine = QStringLiteral("closed today");
     EXPECT_TRUE(sentenceFor(pass).endsWith(QStringLiteral("closed today")));
+}
+
+TEST(PassWordsTest, RefusedSettings_AreToldWithTheReason) {
+    PassRecord pass = passWith(PassCause::SettingsRefused);
+    pass.lastLine = QStringLiteral("the destination begins with \"-\"");
+    EXPECT_EQ(sentenceFor(pass),
+              QStringLiteral("The pass was not begun: a text in the settings cannot stand in a "
+                             "command. The reason: the destination begins with \"-\"."));
 }
 
 TEST(PassWordsTest, Figures_ReadWell) {

@@ -97,6 +97,37 @@ TEST_F(RemoteHostValidationTest, Command_QuotesBlanksAndTakesAnyTimeout) {
               u"/usr/bin/ssh 2>&1  -o ConnectTimeout=-1  -i t \"t\" whoami");
 }
 
+TEST_F(RemoteHostValidationTest, Command_KeepsOddTextsInOneWord) {
+    EXPECT_EQ(whoamiCommand(3, QStringLiteral("/a b/$(x)/k"), QStringLiteral("u`y`@h\"")),
+              u"/usr/bin/ssh 2>&1  -o ConnectTimeout=3  -i /a\\ b/\\$\\(x\\)/k \"u\\`y\\`@h\\\"\" "
+              u"whoami");
+}
+
+TEST_F(RemoteHostValidationTest, Command_TakesAnyKeyPath) {
+    for (const char* key :
+         {"case x/k", "`%@2`", "$%@2", "\\%@2", "((%@2", "#%@2", "<<%@2", "${%@2"})
+        EXPECT_TRUE(whoamiCommand(3, QString::fromUtf8(key), QStringLiteral("u@`h`"))
+                        .endsWith(u" \"u@\\`h\\`\" whoami"))
+            << key;
+}
+
+TEST_F(RemoteHostValidationTest, TextThatCannotStandInACommand_IsLoggedAndNobodyIsAsked) {
+    defaults.setObject(prefRemoteUsername, QStringLiteral("-oProxyCommand=x"));
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), HostVerdict::NotAsked);
+    defaults.setObject(prefRemoteUsername, QStringLiteral("mediauser"));
+    files.home = QStringLiteral("/a\nb");
+    EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), HostVerdict::NotAsked);
+    EXPECT_TRUE(shell.commands().isEmpty());
+    const QString prefix =
+        QStringLiteral("Inside ViewController->validateRemoteHostWithWhoami(_:).......");
+    EXPECT_EQ(
+        console.logged(),
+        (QStringList{QString(prefix + u"timeout = 3"),
+                     QString(prefix + u"REFUSED: the user name begins with \"-\""),
+                     QString(prefix + u"timeout = 3"),
+                     QString(prefix + u"REFUSED: the path of the key file holds a line break")}));
+}
+
 TEST_F(RemoteHostValidationTest, ConsoleLines_StandInOrder) {
     shell.answerTo(QStringLiteral("whoami"), QStringLiteral(" \nPermission denied.\n"));
     EXPECT_EQ(validation.validateRemoteHostWithWhoami(2).text(), u"checkusername");

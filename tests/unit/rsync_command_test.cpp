@@ -51,8 +51,8 @@ TEST_F(RsyncCommandTest, NoKeyPath_LeavesTheKeyPlaceholder) {
 }
 
 TEST_F(RsyncCommandTest, KeyPath_PassesUnchanged) {
-    EXPECT_EQ(filledCommand(QStringLiteral("%@3|%@98"), {{}, {}, QStringLiteral(" /k ")}, u""),
-              u" /k |2>&1 --timeout=5  -e 'ssh -i  /k '");
+    EXPECT_EQ(filledCommand(QStringLiteral("\"%@3\"|%@98"), {{}, {}, QStringLiteral(" /k ")}, u""),
+              u"\" /k \"|2>&1 --timeout=5  -e 'ssh -i \" /k \"'");
 }
 
 TEST_F(RsyncCommandTest, MissingPaths_LeaveTheirPlaceholders) {
@@ -87,6 +87,91 @@ TEST_F(RsyncCommandTest, EmptyDestination_BecomesTheRoot) {
     EXPECT_EQ(filled(QStringLiteral("/x")), filled(QStringLiteral("/x/")));
 }
 
+TEST_F(RsyncCommandTest, OddPaths_StayInTheirQuotes) {
+    EXPECT_EQ(filledCommand(QStringLiteral("r \"%@1\" '%@2'"),
+                            {QStringLiteral("/a\"b$(x)`y`\\"), QStringLiteral("/it's"), {}}, u""),
+              u"r \"/a\\\"b\\$(x)\\`y\\`\\\\/\" '/it'\\''s/'");
+}
+
+TEST_F(RsyncCommandTest, PlaceholderInASource_IsFilledInTheQuotesOfTheSource) {
+    EXPECT_EQ(filledCommand(QStringLiteral("\"%@1\""),
+                            {QStringLiteral("/s%@2%@98"), QStringLiteral("/d\";reboot"),
+                             QStringLiteral("/$k")},
+                            u""),
+              u"\"/s/d\\\";reboot/2>&1 --timeout=5  -e 'ssh -i /\\$k'/\"");
+    EXPECT_EQ(filledCommand(QStringLiteral("'%@1'"),
+                            {QStringLiteral("/s%@98"), QStringLiteral("/d"), QStringLiteral("/k")},
+                            u""),
+              u"'/s2>&1 --timeout=5  -e '\\''ssh -i /k'\\''/'");
+}
+
+TEST_F(RsyncCommandTest, OddKeyPath_IsQuotedForRsyncInTheShellsQuotes) {
+    const auto sshPart = [](const char* key) {
+        return filledCommand(QStringLiteral("%@98"), {{}, {}, QString::fromUtf8(key)}, u"");
+    };
+    EXPECT_EQ(sshPart("/a b/k"), u"2>&1 --timeout=5  -e 'ssh -i \"/a b/k\"'");
+    EXPECT_EQ(sshPart("/it's/k"), u"2>&1 --timeout=5  -e 'ssh -i \"/it'\\''s/k\"'");
+    EXPECT_EQ(sshPart("/a\"b/k"), u"2>&1 --timeout=5  -e 'ssh -i \"/a\"\"b/k\"'");
+    EXPECT_EQ(sshPart("/$(x)\\`y`/k"), u"2>&1 --timeout=5  -e 'ssh -i /$(x)\\`y`/k'");
+    EXPECT_EQ(filledCommand(QStringLiteral("-e \"/usr/bin/ssh -p 22 -i %@3\" -i %@3"),
+                            {{}, {}, QStringLiteral("/a $b/k")}, u""),
+              u"-e \"/usr/bin/ssh -p 22 -i \\\"/a \\$b/k\\\"\" -i /a\\ \\$b/k");
+}
+
+TEST_F(RsyncCommandTest, PatternsInAPathOnAHost_AreKeptFromTheShellThere) {
+    const auto source = [](const char* text) {
+        return filledCommand(QStringLiteral("'%@1'"), {QString::fromUtf8(text), {}, {}}, u"");
+    };
+    EXPECT_EQ(source("u@h:Films [1]*?"), u"'u@h:Films \\[1\\]\\*\\?/'");
+    EXPECT_EQ(source("/here/Films [1]*?"), u"'/here/Films [1]*?/'");
+    EXPECT_EQ(source("/here:Films*"), u"'/here:Films*/'");
+}
+
+// -- what is refused
+
+QString faultOf(const char* source, const char* destination, const char* key = "/k") {
+    return commandFault(
+        cMovieCommandTemplate.toString(),
+        {QString::fromUtf8(source), QString::fromUtf8(destination), QString::fromUtf8(key)});
+}
+
+TEST_F(RsyncCommandTest, OrdinaryTexts_HaveNoFault) {
+    EXPECT_EQ(faultOf("u@h:Movies", "/Incoming"), u"");
+    EXPECT_EQ(faultOf(" /Volumes/a:b \n", "\t~/Films - $5 %@1\n", "/a b/\"c'/k"), u"");
+    EXPECT_EQ(faultOf("", ""), u"");
+    EXPECT_EQ(faultOf("s%@2%@3%@98%@99", "./-x:y"), u"");
+}
+
+TEST_F(RsyncCommandTest, TextsThatLeadElsewhere_AreRefused) {
+    EXPECT_EQ(faultOf("-s", "/d"), u"the source begins with \"-\"");
+    EXPECT_EQ(faultOf("a\nb", "/d"), u"the source holds a line break");
+    EXPECT_EQ(faultOf("u@-oProxyCommand=x:p", "/d"), u"the host of the source begins with \"-\"");
+    EXPECT_EQ(faultOf("-oProxyCommand=x:p", "/d"), u"the source begins with \"-\"");
+    EXPECT_EQ(faultOf("u@h::m", "/d"), u"the source would be read as a module of an rsync daemon");
+    EXPECT_EQ(faultOf("/s", " -d"), u"the destination begins with \"-\"");
+    EXPECT_EQ(faultOf("/s", "/d\r\nx"), u"the destination holds a line break");
+    EXPECT_EQ(faultOf("/s", "/d\xff"), u"the destination holds signs that are no text");
+    for (const char* host : {"h:d", "u@h:/d", ":d", "rsync://h/d"})
+        EXPECT_EQ(faultOf("/s", host), u"the destination would be read as the name of a host")
+            << host;
+    for (const char* later : {"%@3", "%@98", "%@99"})
+        EXPECT_EQ(faultOf("/s", later),
+                  QString(u"the destination holds " + QString::fromUtf8(later) +
+                          u", which would be filled in"));
+    EXPECT_EQ(faultOf("/s", "/d", "/home/a\nb/k"), u"the path of the key file holds a line break");
+}
+
+TEST_F(RsyncCommandTest, TemplateThatKeepsNoWordTogether_TakesOrdinaryTextsOnly) {
+    const QString command = QStringLiteral("echo `rsync %@1 %@2`");
+    const auto fault = [&command](const char* destination) {
+        return commandFault(command, {QStringLiteral("/s"), QString::fromUtf8(destination), {}});
+    };
+    EXPECT_EQ(fault("/d"), u"");
+    EXPECT_EQ(fault("/d;x"), u"the command puts a text where it cannot be kept in one word");
+    EXPECT_EQ(filledCommand(command, {QStringLiteral("/s"), QStringLiteral("/d;x"), {}}, u""),
+              std::nullopt);
+}
+
 TEST_F(RsyncCommandTest, OptionTags_HaveTheirStrings) {
     EXPECT_EQ(optionStringForTag(100), u"");
     EXPECT_EQ(optionStringForTag(101), u"--update");
@@ -110,8 +195,8 @@ TEST_F(RsyncCommandTest, StoredTag_IsReadAndTraced) {
 
 TEST_F(RsyncCommandTest, FillInParams_TracesEachStepInOrder) {
     setTag(101);
-    const QString filled = command.fillInParams(QStringLiteral("r %@99 %@1 %@2"),
-                                                {QStringLiteral("/s"), QStringLiteral("/d"), {}});
+    const auto filled = command.fillInParams(QStringLiteral("r %@99 %@1 %@2"),
+                                             {QStringLiteral("/s"), QStringLiteral("/d"), {}});
     EXPECT_EQ(filled, u"r --update /s/ /d/");
     EXPECT_EQ(
         console.printed(),

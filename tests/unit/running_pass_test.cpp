@@ -98,6 +98,13 @@ TEST_F(RunningPassTest, PassWithoutACommand_LacksItsSettings) {
     EXPECT_EQ(records.front().cause, PassCause::SettingsMissing);
 }
 
+TEST_F(RunningPassTest, RefusedPass_TellsWhatWasRefused) {
+    { RunningPass(passes, PassKind::Remote).refused(QStringLiteral("the host is odd")); }
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records.front().cause, PassCause::SettingsRefused);
+    EXPECT_EQ(records.front().lastLine, QStringLiteral("the host is odd"));
+}
+
 TEST_F(RunningPassTest, PassesSideBySide_KeepTheirCommandsApart) {
     {
         RunningPass mine(passes, PassKind::Plain);

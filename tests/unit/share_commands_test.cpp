@@ -45,6 +45,19 @@ TEST(MacShareCommandsTest, Texts_AreExact) {
     EXPECT_EQ(commands.mountInTerminal(QStringLiteral("password"), cTarget), std::nullopt);
 }
 
+TEST(MacShareCommandsTest, NothingIsReadAsTheShellsOwn) {
+    const MacShareCommands commands;
+    const ShareTarget odd{QStringLiteral("h'/ {system(\"x\")} /$(y)"), QStringLiteral("a\"`z`"),
+                          QStringLiteral("$5\\")};
+    EXPECT_EQ(commands.openRemoteFolder(odd),
+              u"open \"smb://a\\\"\\`z\\`@h'/ {system(\\\"x\\\")} /\\$(y)._smb._tcp.local/"
+              u"Macintosh%20HD/Users/a\\\"\\`z\\`/\\$5\\\\\"");
+    EXPECT_EQ(commands.pickVolume(QStringLiteral("a \"$(listing)\""), odd),
+              u"echo \"a \\\"\\$(listing)\\\"\" | awk ' $1 ~ /h'\\''\\/ {system(\"x\")} "
+              u"\\/$(y)/ {print $'10'\" \"$'11'}' ");
+    EXPECT_EQ(commands.openLocalPath(QStringLiteral("./$(x)")), u"open \"./\\$(x)\"");
+}
+
 TEST(MacShareCommandsTest, EmptyRemotePath_LeavesTheSlash) {
     const MacShareCommands commands;
     EXPECT_EQ(commands.openRemoteFolder({QStringLiteral("h"), QStringLiteral("ann"), {}}),

@@ -236,6 +236,16 @@ TEST_F(SshKeyProvisioningTest, Sequence_ValidatesMakesAndInstalls) {
                   QStringLiteral("Inside ViewController->copyPublicKeyToRemoteHost().......")}));
 }
 
+TEST_F(SshKeyProvisioningTest, UserThatWouldBeAnOption_IsLoggedAndNothingOpens) {
+    defaults.setObject(prefRemoteUsername, QStringLiteral("-x"));
+    provisioning.copyPublicKeyToRemoteHost();
+    EXPECT_TRUE(files.written.isEmpty());
+    EXPECT_TRUE(terminal.windows.empty());
+    EXPECT_EQ(console.logged().constLast(),
+              u"Inside ViewController->copyPublicKeyToRemoteHost().......REFUSED: the user name "
+              u"begins with \"-\"");
+}
+
 TEST_F(SshKeyProvisioningTest, SequenceWithACompletePair_KeepsIt) {
     files.existing = {cPrivateKey, cPublicKey};
     provisioning.ibGenerateSSHKeyStuff();

@@ -25,6 +25,8 @@ const QString cMovieRules = QStringLiteral("-f '+ */'");
 struct ScriptedValidator {
     HostVerdict validate(qint64 timeout) {
         timeouts.push_back(timeout);
+        if (whileAsked)
+            whileAsked();
         if (verdicts.empty())
             return HostVerdict::fromText(usual);
         const QString verdict = verdicts.front();
@@ -35,6 +37,7 @@ struct ScriptedValidator {
     QString usual = QStringLiteral("valid");
     std::deque<QString> verdicts; ///< the next answers, before the usual one
     std::vector<qint64> timeouts;
+    std::function<void()> whileAsked;
 };
 
 class SyncCycleTest : public ::testing::Test {
@@ -272,6 +275,21 @@ TEST_F(PlainPassTest, MissingFolder_EndsTheChainSilently) {
     EXPECT_TRUE(field->shown.empty());
 }
 
+TEST_F(PlainPassTest, FolderThatCannotStandInACommand_EndsTheChainWithALineInTheLog) {
+    defaults.setObject(prefPath2, QStringLiteral("-Incoming"));
+    button.performClick();
+    runBodies();
+    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_TRUE(field->shown.empty());
+    EXPECT_FALSE(scanning());
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnce()"
+                                       u".......REFUSED: the destination begins with \"-\"");
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records.front().cause, PassCause::SettingsRefused);
+    EXPECT_EQ(records.front().lastLine, u"the destination begins with \"-\"");
+}
+
 TEST_F(PlainPassTest, MissingTemplate_RunsThePlaceholderText) {
     defaults.removeObject(prefRsyncCommandString1);
     button.performClick();
@@ -396,6 +414,46 @@ TEST_F(RemotePassTest, MissingSourceOrDestination_EndsTheChainSilently) {
     }
     EXPECT_TRUE(shell.commands().isEmpty());
     EXPECT_EQ(cycle.badWhoamiCount(), 0);
+}
+
+TEST_F(RemotePassTest, TextThatCannotStandInACommand_EndsTheChainBeforeAnybodyIsAsked) {
+    for (const auto& [key, text] :
+         {std::pair(prefRemoteUsername, "-oProxyCommand=x"), std::pair(prefRemoteUsername, "a/b"),
+          std::pair(prefRemoteUsername, "a:b"), std::pair(prefRemoteBonjourName, "Mac\nx"),
+          std::pair(prefSampleRemoteFullPath, "u@h:a\nb"), std::pair(prefPath2, "h:d"),
+          std::pair(prefRsyncCommandString1, "`%@2`")}) {
+        const QVariant kept = defaults.object(key);
+        const QVariant destination = defaults.object(prefPath2);
+        defaults.setObject(prefPath2, QStringLiteral("/In coming"));
+        defaults.setObject(key, QString::fromUtf8(text));
+        records.clear();
+        button.current = 0;
+        button.performClick();
+        runBodies();
+        EXPECT_EQ(statusTexts().last(), cTrying) << text;
+        EXPECT_TRUE(mainQueue.idle()) << text;
+        EXPECT_TRUE(console.logged().last().contains(u"doSyncOnceBonjour().......REFUSED: the "))
+            << text;
+        ASSERT_EQ(records.size(), 1U);
+        EXPECT_EQ(records.front().cause, PassCause::SettingsRefused) << text;
+        EXPECT_FALSE(scanning());
+        defaults.setObject(key, kept);
+        defaults.setObject(prefPath2, destination);
+    }
+    EXPECT_TRUE(validator.timeouts.empty());
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_EQ(cycle.badWhoamiCount(), 0);
+}
+
+TEST_F(RemotePassTest, TextThatChangedDuringTheCheck_IsRefusedToo) {
+    shell.answerTo(QStringLiteral("pull"), QString());
+    validator.whileAsked = [this] { defaults.setObject(prefPath2, QStringLiteral("-x")); };
+    button.performClick();
+    runBodies();
+    EXPECT_EQ(statusTexts(), QStringList{cTrying});
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_FALSE(scanning());
 }
 
 TEST_F(RemotePassTest, UserOrHostMissing_FailsWithoutAsking) {

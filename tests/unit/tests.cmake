@@ -31,6 +31,7 @@ kelvo_tests(unit
     unit/rsync_command_test.cpp
     unit/service_name_rules_test.cpp
     unit/share_commands_test.cpp
+    unit/shell_words_test.cpp
     unit/smb_share_access_test.cpp
     unit/connection_check_test.cpp
     unit/ssh_key_provisioning_test.cpp

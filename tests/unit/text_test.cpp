@@ -49,10 +49,5 @@ TEST(TextTest, PathComponents_AreJoinedByOneSlash) {
     EXPECT_EQ(appendingPathComponent(u"", u"b"), u"b");
 }
 
-TEST(TextTest, InsideDoubleQuotes_TheShellReadsNothingAsItsOwn) {
-    EXPECT_EQ(insideDoubleQuotes(u"/Users/ann o'hara/é"), u"/Users/ann o'hara/é");
-    EXPECT_EQ(insideDoubleQuotes(u"a\"b\\c$d`e"), u"a\\\"b\\\\c\\$d\\`e");
-}
-
 } // namespace
 } // namespace kelvo

@@ -122,7 +122,7 @@ PassRecord passFrom(const QSqlQuery& query) {
                                                                                : PassKind::Plain;
     record.verdict = HostVerdict::fromText(query.value(4).toString());
     const int cause = query.value(5).toInt();
-    const bool known = cause >= 0 && cause <= static_cast<int>(PassCause::Unknown);
+    const bool known = cause >= 0 && cause <= static_cast<int>(cLastPassCause);
     record.cause = known ? static_cast<PassCause>(cause) : PassCause::Unknown;
     record.lastLine = query.value(6).toString();
     record.transfer = transferFrom(query, 7);
