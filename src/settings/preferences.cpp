@@ -94,6 +94,11 @@ const Preference* preference(QStringView key) {
     return found == cTable.end() ? nullptr : found;
 }
 
+bool isState(QStringView key) {
+    const Preference* const row = preference(key);
+    return row && row->kind == State;
+}
+
 QVariant factoryValue(const Preference& preference) {
     return std::visit(
         [](const auto& value) -> QVariant {

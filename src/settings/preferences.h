@@ -32,6 +32,9 @@ std::span<const Preference> preferenceTable();
 /// The row of `key`; null when there is none.
 const Preference* preference(QStringView key);
 
+/// Whether the program writes `key` as it runs; false for a key without a row.
+bool isState(QStringView key);
+
 /// As the store keeps it; invalid when there is none.
 QVariant factoryValue(const Preference& preference);
 

@@ -11,6 +11,7 @@
 #include "adapters/settings/file_bundle.h"
 #include "adapters/settings/plist_defaults.h"
 #include "app/start/watchdog.h"
+#include "settings/preferences.h"
 #include "support/notification_center.h"
 
 #include <QCoreApplication>
@@ -121,7 +122,8 @@ private:
     const qsizetype fDescriptors;
     FileConsole fConsole{fFolder + QStringLiteral("/log")};
     QtMainQueue fMainQueue;
-    PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), fMainQueue, fConsole};
+    PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), isState, fMainQueue,
+                            fConsole};
     FileBundle fBundle{fFolder + QStringLiteral("/resources")};
     NotificationCenter fCenter;
     PosixShellRunner fShell{fConsole};

@@ -72,7 +72,7 @@ Checked checkedValue(const Preference& preference, const QString& text) {
     case PreferenceType::Dates:
         break;
     }
-    return QStringLiteral("no value from outside; it can be unset");
+    return QStringLiteral("no value from outside");
 }
 
 /// The value as its type has it; null when it is not set or does not fit.
@@ -120,6 +120,17 @@ QString allAsJson(const UserDefaults& defaults) {
     return QString::fromUtf8(QJsonDocument(all).toJson());
 }
 
+/// Why a key cannot be set or unset; empty when it can.
+QString stateRefusal(const Preference& preference) {
+    if (preference.kind != PreferenceKind::State)
+        return {};
+    QString reason = preference.key + u" is no setting: the program writes it as it runs";
+    if (preference.key == prefEnableScanning)
+        reason += u"; the start button switches syncing on and off, and 'kelvo-mirror --once' "
+                  u"runs one pass";
+    return reason;
+}
+
 CommandAnswer refused(const QString& reason, int exitCode = cExitBadSetting) {
     return {exitCode, {}, QString(u"kelvo-mirror: " + reason + u'\n')};
 }
@@ -159,15 +170,17 @@ CommandAnswer answerSettings(const SettingsRequest& request, UserDefaults& defau
     if (!known)
         return refused(u"there is no setting '" + request.key +
                        u"'; 'kelvo-mirror --settings' prints them all");
-    if (request.verb == SettingsVerb::Unset) {
-        defaults.removeObject(known->key);
-        return {};
-    }
     if (request.verb == SettingsVerb::Get) {
         const QJsonValue value = jsonValue(*known, defaults);
         if (value.isNull())
             return refused(QString(request.key + u" is not set"), cExitNotSet);
         return {0, QString(plainText(value) + u'\n'), {}};
+    }
+    if (const QString reason = stateRefusal(*known); !reason.isEmpty())
+        return refused(reason);
+    if (request.verb == SettingsVerb::Unset) {
+        defaults.removeObject(known->key);
+        return {};
     }
     const Checked value = checkedValue(*known, request.value);
     if (const auto* wanted = std::get_if<QString>(&value))
