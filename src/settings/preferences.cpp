@@ -71,10 +71,11 @@ constexpr auto cTable = std::to_array<Preference>({
     {prefMainWindowTab, State, String, cNone, {}, u"The window's last tab."},
     {prefRecentLaunchDates,
      State,
-     Dates,
+     Times,
      cNone,
      {},
-     u"When the program was started again after unexpected ends."},
+     u"When the program was started again after unexpected ends, in seconds since the beginning of "
+     u"1970."},
     {prefRelaunchGivenUp,
      State,
      Bool,

@@ -11,7 +11,7 @@
 
 namespace kelvo {
 
-enum class PreferenceType { Bool, Integer, Double, String, Dictionary, Dates };
+enum class PreferenceType { Bool, Integer, Double, String, Dictionary, Times };
 
 /// Whether a person chooses the value, be it through a sheet, or the program writes it as it runs.
 enum class PreferenceKind { Setting, State };

@@ -3,7 +3,6 @@
 #include "settings/overlay_defaults.h"
 #include "settings/preferences.h"
 
-#include <QDateTime>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -53,7 +52,7 @@ Sample sampleFor(const Preference& preference) {
                 QVariantMap{{QStringLiteral("name"), QStringLiteral("Mac")}},
                 "{\"name\":\"Mac\"}\n",
                 {QStringLiteral("[]"), QStringLiteral("{"), QStringLiteral("Mac")}};
-    case PreferenceType::Dates:
+    case PreferenceType::Times:
         break;
     }
     return {};
@@ -79,7 +78,7 @@ TEST_F(SettingsCommandsTest, EverySetting_IsSetPrintedAndUnset) {
 TEST_F(SettingsCommandsTest, State_IsPrintedButNeitherSetNorUnset) {
     int refused = 0;
     for (const Preference& each : preferenceTable()) {
-        if (each.kind != PreferenceKind::State || each.type == PreferenceType::Dates)
+        if (each.kind != PreferenceKind::State || each.type == PreferenceType::Times)
             continue;
         const Sample sample = sampleFor(each);
         const std::string name = each.key.toUtf8().toStdString();
@@ -102,15 +101,17 @@ TEST_F(SettingsCommandsTest, State_IsPrintedButNeitherSetNorUnset) {
     EXPECT_GT(refused, 10);
 }
 
-TEST_F(SettingsCommandsTest, Dates_AreOnlyPrinted) {
-    const QVariantList dates{QDateTime(QDate(2026, 3, 29), QTime(1, 30, 7), Qt::UTC),
-                             QDateTime(QDate(2026, 3, 29), QTime(1, 30, 9), Qt::UTC)};
+TEST_F(SettingsCommandsTest, Times_AreOnlyPrinted) {
+    const QVariantList times{1774747807.25, 1774747809.0};
     EXPECT_EQ(get(prefRecentLaunchDates).exitCode, cExitNotSet);
-    defaults.setObject(prefRecentLaunchDates, dates);
-    EXPECT_EQ(get(prefRecentLaunchDates).output,
-              QStringLiteral("[\"2026-03-29T01:30:07.000Z\",\"2026-03-29T01:30:09.000Z\"]\n"));
-    EXPECT_EQ(set(prefRecentLaunchDates, "[]").exitCode, cExitBadSetting);
-    EXPECT_EQ(defaults.object(prefRecentLaunchDates), QVariant(dates));
+    defaults.setObject(prefRecentLaunchDates, times);
+    EXPECT_EQ(get(prefRecentLaunchDates).output, QStringLiteral("[1774747807.25,1774747809]\n"));
+    for (const SettingsVerb verb : {SettingsVerb::Set, SettingsVerb::Unset})
+        EXPECT_EQ(
+            answerSettings({verb, prefRecentLaunchDates.toString(), QStringLiteral("[]")}, defaults)
+                .exitCode,
+            cExitBadSetting);
+    EXPECT_EQ(defaults.object(prefRecentLaunchDates), QVariant(times));
     defaults.setObject(prefRecentLaunchDates, true);
     EXPECT_EQ(get(prefRecentLaunchDates).exitCode, cExitNotSet) << "no list";
 }

@@ -53,7 +53,7 @@ protected:
     QVariantList ago(const std::vector<int>& seconds) const {
         QVariantList dates;
         for (const int each : seconds)
-            dates.append(now.addSecs(-each));
+            dates.append(recordedDate(now.addSecs(-each)));
         return dates;
     }
     static QString description(int number) { return QString::fromLocal8Bit(::strsignal(number)); }
@@ -88,7 +88,7 @@ TEST_F(WatchdogTest, OrdinaryStart_ClearsTheRecordAndWatches) {
 TEST_F(WatchdogTest, RelaunchWithoutRecord_StartsOneAndWatches) {
     begin(true);
     relaunchedUnless4In30();
-    EXPECT_EQ(defaults.object(cRecord), QVariant(QVariantList{now}));
+    EXPECT_EQ(defaults.object(cRecord), QVariant(ago({0})));
     EXPECT_EQ(launcher.sentinels.size(), 1U);
     EXPECT_EQ(console.logged(), QStringList{cRelaunched});
 }
@@ -141,7 +141,7 @@ TEST_F(WatchdogTest, CountOfZero_JudgesAnOrdinaryStartToo) {
               (QStringList{cRelaunched,
                            QStringLiteral("NOT setting auto-relaunch because interval since 0 "
                                           "previous launches is less than 30.0 sec (30)")}));
-    EXPECT_EQ(defaults.object(cRecord), QVariant(QVariantList{now}));
+    EXPECT_EQ(defaults.object(cRecord), QVariant(ago({0})));
     EXPECT_TRUE(launcher.sentinels.empty());
 }
 
@@ -155,6 +155,17 @@ TEST_F(WatchdogTest, FiveQuickRelaunches_EndTheRelaunching) {
         EXPECT_EQ(launcher.sentinels.size(), static_cast<std::size_t>(std::min(1 + i, 5)));
         EXPECT_EQ(defaults.object(cRecord).toList().size(), i);
     }
+    EXPECT_TRUE(console.logged().last().startsWith(QStringLiteral("NOT ")));
+}
+
+TEST_F(WatchdogTest, FifthRelaunchAFractionBeforeTheLimit_EndsTheRelaunching) {
+    now = now.addMSecs(900);
+    for (const int pause : {0, 7'000, 7'000, 7'000, 8'300}) {
+        now = now.addMSecs(pause);
+        begin(true);
+        relaunchedUnless4In30();
+    }
+    EXPECT_EQ(launcher.sentinels.size(), 4U) << "29.3 s since the first";
     EXPECT_TRUE(console.logged().last().startsWith(QStringLiteral("NOT ")));
 }
 

@@ -69,7 +69,7 @@ Checked checkedValue(const Preference& preference, const QString& text) {
         return QVariant(text);
     case PreferenceType::Dictionary:
         return dictionaryFrom(text);
-    case PreferenceType::Dates:
+    case PreferenceType::Times:
         break;
     }
     return QStringLiteral("no value from outside");
@@ -95,7 +95,7 @@ QJsonValue jsonValue(const Preference& preference, const UserDefaults& defaults)
         if (const auto dictionary = dictionaryValue(value))
             return QJsonObject::fromVariantMap(*dictionary);
         break;
-    case PreferenceType::Dates:
+    case PreferenceType::Times:
         if (value.typeId() == QMetaType::QVariantList)
             return QJsonArray::fromVariantList(value.toList());
         break;
