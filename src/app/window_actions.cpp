@@ -90,12 +90,13 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
     }
 
     QObject::connect(&window.fNsPathControl1(), &PathControlView::partClicked, &window,
-                     [&controller, &workspace, fNsPathControl1](const QString& path) {
+                     [&controller, fNsPathControl1] {
                          controller.ibRevealInFinderAction(fNsPathControl1.get());
-                         workspace.openFile(path);
                      });
-    QObject::connect(&window.destinationPath(), &PathControlView::partClicked, &window,
-                     [&workspace](const QString& path) { workspace.openFile(path); });
+    const auto openPart = [&workspace](const QString& path) { workspace.openFile(path); };
+    QObject::connect(&window.fNsPathControl1(), &PathControlView::openRequested, &window, openPart);
+    QObject::connect(&window.destinationPath(), &PathControlView::openRequested, &window, openPart);
+    QObject::connect(&window.destinationPath(), &PathControlView::partClicked, &window, openPart);
 
     window.bindings().setEditingEnded(
         [&controller](QWidget& field) { controller.controlTextDidEndEditing(textField(field)); });
