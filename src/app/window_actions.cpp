@@ -33,7 +33,6 @@ constexpr Wire cButtons[] = {
     {"ibShowBonjourListInfo", &ViewController::ibShowBonjourListInfo},
     {"ibTestNWBrowser", &ViewController::ibTestNWBrowser},
     {"ibAction1", &ViewController::ibAction1},
-    {"ibRevealInFinderAction", &ViewController::ibRevealInFinderAction},
     {"ibOpenTempFolder", &ViewController::ibOpenTempFolder},
     {"ibGenerateSSHKeyStuff", &ViewController::ibGenerateSSHKeyStuff},
     {"createNewPrivatePublicKeys", &ViewController::createNewPrivatePublicKeys},
@@ -89,10 +88,13 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
             }));
     }
 
+    // The test button stands in for a click on the path control.
+    const auto revealInFinder = [&controller, fNsPathControl1] {
+        controller.ibRevealInFinderAction(fNsPathControl1.get());
+    };
+    window.setAction(QStringLiteral("ibRevealInFinderAction"), revealInFinder);
     QObject::connect(&window.fNsPathControl1(), &PathControlView::partClicked, &window,
-                     [&controller, fNsPathControl1] {
-                         controller.ibRevealInFinderAction(fNsPathControl1.get());
-                     });
+                     revealInFinder);
     const auto openPart = [&workspace](const QString& path) { workspace.openFile(path); };
     QObject::connect(&window.fNsPathControl1(), &PathControlView::openRequested, &window, openPart);
     QObject::connect(&window.destinationPath(), &PathControlView::openRequested, &window, openPart);

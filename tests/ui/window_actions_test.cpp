@@ -18,6 +18,12 @@
 namespace kelvo {
 namespace {
 
+const QString cSenderIsThePathControl =
+    QStringLiteral("Inside Kelvo_Mirror.ViewController->ibRevealInFinderAction(_:)"
+                   ".......sender = <PathControl");
+const QString cTestFolder =
+    QStringLiteral("openFile /Volumes/Macintosh%20HD-2/Users/support/Desktop/FolderOnRemoteServer");
+
 class WindowActionsTest : public ::testing::Test, public ViewControllerWorld {
 protected:
     WindowActionsTest() { load(); }
@@ -67,11 +73,20 @@ TEST_F(WindowActionsTest, ClickOnTheSourcePath_SendsTheControlsActionAlone) {
     mainQueue.runDue();
     console.clear();
     mainWindow.fNsPathControl1().findChild<QToolButton*>(QStringLiteral("part2"))->click();
+    EXPECT_TRUE(printed(cSenderIsThePathControl));
+    EXPECT_EQ(workspace.requests, QStringList{cTestFolder});
+}
+
+TEST_F(WindowActionsTest, RevealTestFolder_HasThePathControlForItsSender) {
+    defaults.setObject(prefPath1, QStringLiteral("/Users/me/Movies"));
+    defaults.setObject(prefPath2, QStringLiteral("/in/box"));
+    mainQueue.runDue();
+    console.clear();
+    click("ibRevealInFinderAction");
+    EXPECT_TRUE(printed(cSenderIsThePathControl));
     EXPECT_TRUE(printed(QStringLiteral("Inside Kelvo_Mirror.ViewController->"
-                                       "ibRevealInFinderAction(_:).......sender = <PathControl")));
-    EXPECT_EQ(workspace.requests,
-              QStringList{QStringLiteral("openFile /Volumes/Macintosh%20HD-2/Users/support/"
-                                         "Desktop/FolderOnRemoteServer")});
+                                       "ibRevealInFinderAction(_:).......url = file:///Users/me")));
+    EXPECT_EQ(workspace.requests, QStringList{cTestFolder});
 }
 
 TEST_F(WindowActionsTest, ContextMenuOfAPath_OpensThePart) {
