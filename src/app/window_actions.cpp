@@ -102,7 +102,7 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
 
     window.bindings().setEditingEnded(
         [&controller](QWidget& field) { controller.controlTextDidEndEditing(textField(field)); });
-    window.setTabSelected(
+    window.setWillSelectTab(
         [&controller](const MainWindow::Tab& tab) { controller.tabViewWillSelect(item(tab)); });
     return onceButtons;
 }
