@@ -41,6 +41,7 @@ public:
     using Console::print;
     void print(const QStringList& pieces) override { log(pieces.join(QString())); }
     void log(const QString& text) override { append(fPath, text.toUtf8() + '\n'); }
+    bool flush(std::chrono::milliseconds) override { return true; }
 
 private:
     const QString fPath;
