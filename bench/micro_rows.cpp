@@ -3,7 +3,7 @@
 #include "bench/row.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
-#include "settings/preference_keys.h"
+#include "settings/preferences.h"
 #include "sync/rsync_command.h"
 
 #include <QTemporaryDir>
@@ -47,7 +47,7 @@ std::optional<std::vector<Figure>> measureSettings() {
     const QTemporaryDir folder;
     VirtualMainQueue mainQueue;
     RecordingConsole console;
-    PlistDefaults defaults(folder.filePath(QStringLiteral("preferences.plist")), mainQueue,
+    PlistDefaults defaults(folder.filePath(QStringLiteral("preferences.plist")), isState, mainQueue,
                            console);
     int told = 0;
     const Subscription observer =

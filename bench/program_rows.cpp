@@ -87,7 +87,7 @@ private:
                    {.updateStatusMessage = [](std::optional<QString>, StatusColor, bool) {},
                     .showProblemWithBonjourClosure = [](const QString&, const QString&,
                                                         std::function<void(ModalResponse)>) {},
-                    .ibStartButton = fButton},
+                    .ibStartButton = &fButton},
                    [](KeyState) {}};
 };
 

@@ -34,7 +34,7 @@ public:
             .terminal = fTerminal,
             .copyText = [](const QString&) {},
             .fArrayController = fFoundServices,
-            .ibStartButton = fStartButton,
+            .ibStartButton = &fStartButton,
             .ibRevealButton1 = nullptr,
             .ibRevealButton2 = nullptr,
             .ibStatusTextField = fStatusField,

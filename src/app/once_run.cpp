@@ -72,7 +72,7 @@ private:
         {.updateStatusMessage = [](std::optional<QString>, StatusColor, bool) {},
          .showProblemWithBonjourClosure = [](const QString&, const QString&,
                                              std::function<void(ModalResponse)>) {},
-         .ibStartButton = fStartButton},
+         .ibStartButton = &fStartButton},
         [](KeyState) {}};
 };
 

@@ -1,6 +1,7 @@
 #include "app/pass_machine.h"
 
 #include "app/places.h"
+#include "settings/preferences.h"
 
 #include <chrono>
 #include <utility>
@@ -8,7 +9,7 @@
 namespace kelvo {
 
 PassMachine::PassMachine(int output, int errors)
-    : console(output, errors, logFile), defaults(settingsFile(), mainQueue, console),
+    : console(output, errors, logFile), defaults(settingsFile(), isState, mainQueue, console),
       bundle(resourceFolder()), commands(console), passes(passesFile(), mainQueue, console) {}
 
 EngineParts PassMachine::engineParts(UserDefaults& settings,

@@ -7,6 +7,7 @@
 #include "app/commands/settings_commands.h"
 #include "app/places.h"
 #include "settings/factory_defaults.h"
+#include "settings/preferences.h"
 #include "support/stored_value.h"
 
 #include <unistd.h>
@@ -21,7 +22,7 @@ CommandAnswer runSettingsCommand(const SettingsRequest& request) {
     CommandAnswer answer;
     QVariant wanted;
     {
-        PlistDefaults defaults(settingsFile(), mainQueue, console);
+        PlistDefaults defaults(settingsFile(), isState, mainQueue, console);
         registerFactoryDefaults(bundle, defaults, console);
         answer = answerSettings(request, defaults);
         defaults.synchronize();
@@ -30,7 +31,7 @@ CommandAnswer runSettingsCommand(const SettingsRequest& request) {
     const bool changes = request.verb == SettingsVerb::Set || request.verb == SettingsVerb::Unset;
     if (!changes || answer.exitCode != 0)
         return answer;
-    PlistDefaults again(settingsFile(), mainQueue, console);
+    PlistDefaults again(settingsFile(), isState, mainQueue, console);
     registerFactoryDefaults(bundle, again, console);
     if (!sameStoredValue(again.object(request.key), wanted))
         return {

@@ -33,7 +33,6 @@ constexpr Wire cButtons[] = {
     {"ibShowBonjourListInfo", &ViewController::ibShowBonjourListInfo},
     {"ibTestNWBrowser", &ViewController::ibTestNWBrowser},
     {"ibAction1", &ViewController::ibAction1},
-    {"ibRevealInFinderAction", &ViewController::ibRevealInFinderAction},
     {"ibOpenTempFolder", &ViewController::ibOpenTempFolder},
     {"ibGenerateSSHKeyStuff", &ViewController::ibGenerateSSHKeyStuff},
     {"createNewPrivatePublicKeys", &ViewController::createNewPrivatePublicKeys},
@@ -89,17 +88,21 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
             }));
     }
 
+    // The test button stands in for a click on the path control.
+    const auto revealInFinder = [&controller, fNsPathControl1] {
+        controller.ibRevealInFinderAction(fNsPathControl1.get());
+    };
+    window.setAction(QStringLiteral("ibRevealInFinderAction"), revealInFinder);
     QObject::connect(&window.fNsPathControl1(), &PathControlView::partClicked, &window,
-                     [&controller, &workspace, fNsPathControl1](const QString& path) {
-                         controller.ibRevealInFinderAction(fNsPathControl1.get());
-                         workspace.openFile(path);
-                     });
-    QObject::connect(&window.destinationPath(), &PathControlView::partClicked, &window,
-                     [&workspace](const QString& path) { workspace.openFile(path); });
+                     revealInFinder);
+    const auto openPart = [&workspace](const QString& path) { workspace.openFile(path); };
+    QObject::connect(&window.fNsPathControl1(), &PathControlView::openRequested, &window, openPart);
+    QObject::connect(&window.destinationPath(), &PathControlView::openRequested, &window, openPart);
+    QObject::connect(&window.destinationPath(), &PathControlView::partClicked, &window, openPart);
 
     window.bindings().setEditingEnded(
         [&controller](QWidget& field) { controller.controlTextDidEndEditing(textField(field)); });
-    window.setTabSelected(
+    window.setWillSelectTab(
         [&controller](const MainWindow::Tab& tab) { controller.tabViewWillSelect(item(tab)); });
     return onceButtons;
 }

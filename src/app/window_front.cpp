@@ -70,7 +70,7 @@ public:
             .terminal = fMachine.terminal,
             .copyText = copyText,
             .fArrayController = fFoundServices,
-            .ibStartButton = fStartButton,
+            .ibStartButton = &fStartButton,
             .ibRevealButton1 = &fRevealButton1,
             .ibRevealButton2 = &fRevealButton2,
             .ibStatusTextField = fStatusField,

@@ -45,8 +45,8 @@ public:
     /// Makes the checker, listens to it and starts it. Called once.
     void setupNetworkChecker();
 
-    /// Shows the notification's message 0.1 s from now, and no text before it; a notification
-    /// without a usable message leaves none. Any thread.
+    /// Prints the notification on the calling thread; 0.1 s from now shows no text and then its
+    /// message. A notification without a usable message leaves no text. Any thread.
     void handleNWPathMonitorNotification(const Notification& notification);
 
     /// Looks for SMB services and prints what there is, from now on at every change.

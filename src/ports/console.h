@@ -4,10 +4,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
+
 namespace kelvo {
 
-/// Both operations: any thread; lines of one thread keep their order, a line is never mixed with
-/// another; the call returns without waiting for a slow reader. Failures are nobody's business.
+/// Printing and logging: any thread; lines of one thread keep their order, a line is never mixed
+/// with another; the call returns without waiting for a slow reader. Failures are nobody's
+/// business.
 class Console {
 public:
     virtual ~Console() = default;
@@ -20,6 +23,9 @@ public:
 
     /// One line to the system log, with the time.
     virtual void log(const QString& text) = 0;
+
+    /// Waits until every line so far is written; false when `timeout` came first. Any thread.
+    virtual bool flush(std::chrono::milliseconds timeout) = 0;
 };
 
 } // namespace kelvo

@@ -44,9 +44,10 @@ public:
     /// Returns once everything set so far is on disk, or the failure to put it there is logged.
     virtual void synchronize() = 0;
 
-    /// Calls `observer` at every change of `key` from now on, a change made to the stored file by
-    /// another program included (told on the main thread). An observer may set values and end
-    /// subscriptions, its own too. Once the subscription is gone no new call begins.
+    /// Calls `observer` at every change of `key` from now on, a setting's change in the stored file
+    /// by another program included (told on the main thread; run-time state is not taken over). An
+    /// observer may set values and end subscriptions, its own too. Once the subscription is gone no
+    /// new call begins.
     virtual Subscription observe(QStringView key, DefaultsObserver observer) = 0;
 
     /// Typed reading; a missing or unfit value gives the neutral one.

@@ -35,10 +35,11 @@ QString shareAddress(const ShareTarget& target) {
 
 const QString cTimeout = u"timeout -k 2 " + QString::number(cShareTimeout) + u' ';
 
-/// `command`, which is given its time and then said to have kept silent.
+/// `command`, which is given its time and then said to have kept silent: ended at a request (124)
+/// or by force (137).
 QString bounded(const QString& command) {
-    return cTimeout + command + u" 2>&1 </dev/null; [ $? -ne 124 ] || echo \"no answer within " +
-           QString::number(cShareTimeout) + u" seconds\"";
+    return cTimeout + command + u" 2>&1 </dev/null; case $? in 124|137) echo \"no answer within " +
+           QString::number(cShareTimeout) + u" seconds\";; esac";
 }
 
 QString singleQuoted(const QString& text) {

@@ -71,10 +71,11 @@ constexpr auto cTable = std::to_array<Preference>({
     {prefMainWindowTab, State, String, cNone, {}, u"The window's last tab."},
     {prefRecentLaunchDates,
      State,
-     Dates,
+     Times,
      cNone,
      {},
-     u"When the program was started again after unexpected ends."},
+     u"When the program was started again after unexpected ends, in seconds since the beginning of "
+     u"1970."},
     {prefRelaunchGivenUp,
      State,
      Bool,
@@ -92,6 +93,11 @@ std::span<const Preference> preferenceTable() {
 const Preference* preference(QStringView key) {
     const auto* const found = std::ranges::find(cTable, key, &Preference::key);
     return found == cTable.end() ? nullptr : found;
+}
+
+bool isState(QStringView key) {
+    const Preference* const row = preference(key);
+    return row && row->kind == State;
 }
 
 QVariant factoryValue(const Preference& preference) {

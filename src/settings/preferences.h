@@ -11,7 +11,7 @@
 
 namespace kelvo {
 
-enum class PreferenceType { Bool, Integer, Double, String, Dictionary, Dates };
+enum class PreferenceType { Bool, Integer, Double, String, Dictionary, Times };
 
 /// Whether a person chooses the value, be it through a sheet, or the program writes it as it runs.
 enum class PreferenceKind { Setting, State };
@@ -31,6 +31,9 @@ std::span<const Preference> preferenceTable();
 
 /// The row of `key`; null when there is none.
 const Preference* preference(QStringView key);
+
+/// Whether the program writes `key` as it runs; false for a key without a row.
+bool isState(QStringView key);
 
 /// As the store keeps it; invalid when there is none.
 QVariant factoryValue(const Preference& preference);

@@ -5,12 +5,16 @@
 #include "settings/preference_keys.h"
 #include "support/fatal.h"
 #include "support/shell_words.h"
+#include "support/property_value.h"
 #include "support/text.h"
 
 namespace kelvo {
 namespace {
 
 constexpr QStringView cSshPart = u"2>&1 --timeout=5  -e 'ssh -i %@3'";
+
+/// How long the end of the program waits for its reason to be written.
+constexpr std::chrono::seconds cLastWords{1};
 
 const QString cSource = QStringLiteral("%@1");
 const QString cDestination = QStringLiteral("%@2");
@@ -113,10 +117,22 @@ QString commandFault(const QString& command, const RsyncParams& params) {
 QString RsyncCommand::getRsyncCommandOptionString() const {
     const auto option = optionStringForTag(fDefaults.integerForKey(prefRsyncCommandOptionTag));
     if (!option)
-        stopProgram();
+        stopForTag();
     fConsole.print(insideLine(u"NSUserDefaults", u"getRsyncCommandOptionString()",
                               QString(u".......returning: [" + option->toString() + u']')));
     return option->toString();
+}
+
+void RsyncCommand::stopForTag() const {
+    const QVariant stored = fDefaults.object(prefRsyncCommandOptionTag);
+    const QString held = stored.isValid()
+                             ? stringValue(stored).value_or(QStringLiteral("no number"))
+                             : QStringLiteral("nothing");
+    fConsole.log(prefRsyncCommandOptionTag + u" holds " + held +
+                 u", which stands for no option of rsync. To mend it: kelvo-mirror --set " +
+                 prefRsyncCommandOptionTag + u" 100");
+    (void)fConsole.flush(cLastWords);
+    stopProgram();
 }
 
 std::optional<QString> RsyncCommand::fillInParams(const QString& command,

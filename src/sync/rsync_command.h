@@ -44,13 +44,15 @@ public:
     RsyncCommand(UserDefaults& defaults, Console& console)
         : fDefaults(defaults), fConsole(console) {}
 
-    /// The option of the stored tag. A tag that does not exist stops the program.
+    /// The option of the stored tag. A tag that does not exist stops the program, once the log says
+    /// what is stored and how to mend it.
     QString getRsyncCommandOptionString() const;
 
     /// `filledCommand` with the stored option, traced on the console step by step.
     std::optional<QString> fillInParams(const QString& command, const RsyncParams& params) const;
 
 private:
+    [[noreturn]] void stopForTag() const;
     void tracePathStep(const std::optional<QString>& path) const;
 
     UserDefaults& fDefaults;

@@ -263,7 +263,9 @@ void SyncCycle::markScanning() {
 }
 
 void SyncCycle::clickStartButton() {
-    fParts.view.ibStartButton.performClick();
+    if (!fParts.view.ibStartButton)
+        stopProgram("the start button is not there");
+    fParts.view.ibStartButton->performClick();
 }
 
 // -- reading settings, telling people

@@ -35,7 +35,8 @@ struct CycleView {
     std::function<void(const QString& message, const QString& text,
                        std::function<void(ModalResponse)> completion)>
         showProblemWithBonjourClosure;
-    Button& ibStartButton; ///< clicked by the cycle to switch syncing off and on again
+    /// Clicked by the cycle to switch syncing off and on again.
+    Button* ibStartButton = nullptr;
 };
 
 /// Everything the cycle works with; all of it outlives the cycle.
@@ -73,6 +74,9 @@ public:
     void doSyncOnce();
     void doSyncOnceBonjour();
 
+    /// What a click by a person does. Without a start button the program stops. Main thread.
+    void clickStartButton();
+
     /// How many remote passes failed since launch or since the problem alert was last answered.
     /// Any thread.
     qint64 badWhoamiCount() const { return fBadWhoamiCount; }
@@ -97,7 +101,6 @@ private:
     void attemptToRescanAgain();
     void scheduleAfterRest(Start next);
     void markScanning();
-    void clickStartButton();
 
     QString rsyncTemplate() const;
     QString keyFilePath() const;

@@ -31,7 +31,7 @@ struct Outlets {
     Terminal& terminal;
     std::function<void(const QString&)> copyText; ///< to the clipboard
     ArrayController& fArrayController;            ///< what the main view's own search found
-    Button& ibStartButton;
+    Button* ibStartButton = nullptr;
     const Control* ibRevealButton1 = nullptr;
     const Control* ibRevealButton2 = nullptr;
     std::weak_ptr<StatusField> ibStatusTextField = {};

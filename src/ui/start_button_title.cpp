@@ -5,6 +5,7 @@
 #include "ports/dispatch_queue.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "support/fatal.h"
 
 namespace kelvo {
 namespace {
@@ -16,9 +17,15 @@ QString stopTitle(bool withSSH) {
 
 } // namespace
 
+Button& StartButtonTitle::present() const {
+    if (!ibStartButton)
+        stopProgram("the start button is not there");
+    return *ibStartButton;
+}
+
 void StartButtonTitle::showKindOfPass(bool usesSSH) {
-    ibStartButton.setTitle(usesSSH ? QStringLiteral("Start rsync with bonjour")
-                                   : QStringLiteral("Start rsync with afp path"));
+    present().setTitle(usesSSH ? QStringLiteral("Start rsync with bonjour")
+                               : QStringLiteral("Start rsync with afp path"));
 }
 
 void StartButtonTitle::showRunning(bool isRunning) {
@@ -26,20 +33,22 @@ void StartButtonTitle::showRunning(bool isRunning) {
                              : QStringLiteral("state is now OFF"));
     const bool withSSH = fDefaults.boolForKey(prefRsyncWithSSH);
     if (isRunning)
-        ibStartButton.setTitle(stopTitle(withSSH));
+        present().setTitle(stopTitle(withSSH));
     else
-        ibStartButton.setTitle(withSSH ? QStringLiteral("click to restart rsync using bonjour")
-                                       : QStringLiteral("click to restart rsync"));
+        present().setTitle(withSSH ? QStringLiteral("click to restart rsync using bonjour")
+                                   : QStringLiteral("click to restart rsync"));
 }
 
 void StartButtonTitle::update() {
     fMainQueue.async([this] {
+        if (!ibStartButton)
+            return;
         const bool withSSH = fDefaults.boolForKey(prefRsyncWithSSH);
-        if (ibStartButton.state() == 1)
-            ibStartButton.setTitle(stopTitle(withSSH));
+        if (ibStartButton->state() == 1)
+            ibStartButton->setTitle(stopTitle(withSSH));
         else
-            ibStartButton.setTitle(withSSH ? QStringLiteral("click to start rsync using bonjour")
-                                           : QStringLiteral("click to start rsync"));
+            ibStartButton->setTitle(withSSH ? QStringLiteral("click to start rsync using bonjour")
+                                            : QStringLiteral("click to start rsync"));
     });
 }
 

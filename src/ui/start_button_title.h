@@ -11,7 +11,8 @@ class UserDefaults;
 /// Main thread only. The main queue must have ended before this is destroyed.
 class StartButtonTitle {
 public:
-    StartButtonTitle(Button& ibStartButton, UserDefaults& defaults, DispatchQueue& mainQueue,
+    /// Without a button the titles that follow a change stop the program; `update` passes it over.
+    StartButtonTitle(Button* ibStartButton, UserDefaults& defaults, DispatchQueue& mainQueue,
                      Console& console)
         : ibStartButton(ibStartButton), fDefaults(defaults), fMainQueue(mainQueue),
           fConsole(console) {}
@@ -26,7 +27,9 @@ public:
     void update();
 
 private:
-    Button& ibStartButton;
+    Button& present() const;
+
+    Button* const ibStartButton;
     UserDefaults& fDefaults;
     DispatchQueue& fMainQueue;
     Console& fConsole;

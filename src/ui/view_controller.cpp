@@ -157,7 +157,7 @@ void ViewController::viewDidLoad() {
     observe(prefEnableScanning);
 
     if (defaults.boolForKey(prefAutoStartScanOnLaunch))
-        mainQueue.asyncAfter(1.0, [this] { fParts.outlets.ibStartButton.performClick(); });
+        mainQueue.asyncAfter(1.0, [this] { clickStartButton(); });
     mainQueue.asyncAfter(0.6, [this] {
         if (fParts.engine.defaults.boolForKey(prefHideOnLaunch))
             fParts.outlets.application.hide();

@@ -120,7 +120,7 @@ public:
     void controlTextDidEndEditing(const std::shared_ptr<Control>& object);
 
     // What the tray menu asks for.
-    void clickStartButton() override { fParts.outlets.ibStartButton.performClick(); }
+    void clickStartButton() override { fEngine.syncCycle.clickStartButton(); }
     void quitAndRelaunch() override { ibQuitAndRelaunch(nullptr); }
 
 private:

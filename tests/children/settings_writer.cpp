@@ -4,6 +4,7 @@
 #include "adapters/settings/plist_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
+#include "settings/preferences.h"
 
 #include <cstdio>
 #include <string_view>
@@ -49,7 +50,7 @@ int main(int argc, char** argv) {
         return 2;
     VirtualMainQueue mainQueue;
     RecordingConsole console;
-    PlistDefaults defaults(QString::fromLocal8Bit(argv[2]), mainQueue, console);
+    PlistDefaults defaults(QString::fromLocal8Bit(argv[2]), isState, mainQueue, console);
     const std::string_view mode = argv[1];
     if (mode == "generations" && argc == 3)
         writeGenerations(defaults);

@@ -11,6 +11,7 @@
 #include "adapters/settings/file_bundle.h"
 #include "adapters/settings/plist_defaults.h"
 #include "app/start/watchdog.h"
+#include "settings/preferences.h"
 #include "support/notification_center.h"
 
 #include <QCoreApplication>
@@ -40,6 +41,7 @@ public:
     using Console::print;
     void print(const QStringList& pieces) override { log(pieces.join(QString())); }
     void log(const QString& text) override { append(fPath, text.toUtf8() + '\n'); }
+    bool flush(std::chrono::milliseconds) override { return true; }
 
 private:
     const QString fPath;
@@ -121,7 +123,8 @@ private:
     const qsizetype fDescriptors;
     FileConsole fConsole{fFolder + QStringLiteral("/log")};
     QtMainQueue fMainQueue;
-    PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), fMainQueue, fConsole};
+    PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), isState, fMainQueue,
+                            fConsole};
     FileBundle fBundle{fFolder + QStringLiteral("/resources")};
     NotificationCenter fCenter;
     PosixShellRunner fShell{fConsole};

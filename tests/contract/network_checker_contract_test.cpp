@@ -163,10 +163,13 @@ TEST_F(OwnNetworkTest, LinksAndAddresses_ChangeTheMessage) {
                            "2) ip link set there down ;; "
                            "3) ip link set there up ;; "
                            "4) ip route add default via 10.9.8.1 ;; "
-                           "5) ip route del default ;; "
-                           "6) ip address flush dev here ;; "
+                           "5) ip route del default; ip route add unreachable default ;; "
+                           "6) ip route replace default via 10.9.8.1 ;; "
+                           "7) ip route del default; ip route add blackhole default ;; "
+                           "8) ip address flush dev here ;; "
                            "esac; done")));
-    const QStringList expected{cNothing, cLocal, cNothing, cLocal, cFull, cLocal, cNothing};
+    const QStringList expected{cNothing, cLocal, cNothing, cLocal,  cFull,
+                               cLocal,   cFull,  cLocal,   cNothing};
     for (const QString& message : expected) {
         const auto line = program.waitForLine([](const QString&) { return true; }, 20);
         ASSERT_TRUE(line) << program.transcript().toStdString();

@@ -69,7 +69,7 @@ protected:
 TEST_F(PlistDefaultsPermissionTest, FileThatMayNotBeRead_IsMovedAside) {
     permit(0700, 0000);
     asPlainUser([this] {
-        PlistDefaults defaults(fPath, fMain, fConsole);
+        PlistDefaults defaults(fPath, isState, fMain, fConsole);
         EXPECT_FALSE(defaults.object(u"a").isValid());
         defaults.setObject(u"b", 2);
         defaults.synchronize();
@@ -85,7 +85,7 @@ TEST_F(PlistDefaultsPermissionTest, FileThatMayNotBeRead_IsMovedAside) {
 TEST_F(PlistDefaultsPermissionTest, FileThatMayNotBeReadNorMoved_IsNeverOverwritten) {
     permit(0500, 0000);
     asPlainUser([this] {
-        PlistDefaults defaults(fPath, fMain, fConsole);
+        PlistDefaults defaults(fPath, isState, fMain, fConsole);
         EXPECT_FALSE(defaults.object(u"a").isValid());
         EXPECT_EQ(fConsole.logged().size(), 1);
         defaults.setObject(u"b", 2);
@@ -101,7 +101,7 @@ TEST_F(PlistDefaultsPermissionTest, FileThatMayNotBeReadNorMoved_IsNeverOverwrit
 TEST_F(PlistDefaultsPermissionTest, FileThatMayBeReadAgain_IsJoinedWithWhatMemoryHolds) {
     permit(0500, 0000);
     asPlainUser([this] {
-        PlistDefaults defaults(fPath, fMain, fConsole);
+        PlistDefaults defaults(fPath, isState, fMain, fConsole);
         defaults.setObject(u"b", 2);
         defaults.synchronize();
         permit(0700, 0600);
@@ -116,7 +116,7 @@ TEST_F(PlistDefaultsPermissionTest, FileThatMayBeReadAgain_IsJoinedWithWhatMemor
 TEST_F(PlistDefaultsPermissionTest, FolderThatMayNotBeWritten_IsSaidOnceAndWrittenWhenItMay) {
     permit(0500, 0600);
     asPlainUser([this] {
-        PlistDefaults defaults(fPath, fMain, fConsole);
+        PlistDefaults defaults(fPath, isState, fMain, fConsole);
         EXPECT_EQ(defaults.integerForKey(u"a"), 1);
         EXPECT_TRUE(fConsole.logged().isEmpty()) << "reading needs no lock";
         for (int round = 2; round < 5; ++round) {

@@ -5,6 +5,7 @@
 #include "contract/settings_folder.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
+#include "settings/preferences.h"
 #include "support/stored_value.h"
 #include "support/wait_until.h"
 
@@ -17,7 +18,7 @@ namespace kelvo {
 class PlistDefaultsFixture : public ::testing::Test {
 protected:
     std::unique_ptr<PlistDefaults> open() {
-        return std::make_unique<PlistDefaults>(fFolder.path(), fMain, fConsole);
+        return std::make_unique<PlistDefaults>(fFolder.path(), isState, fMain, fConsole);
     }
 
     /// Waits until the file holds `value` under `key`.

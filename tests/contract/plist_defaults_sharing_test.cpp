@@ -60,6 +60,51 @@ TEST_F(PlistDefaultsSharingTest, ForeignChangeInPlace_IsTakenOver) {
     EXPECT_TRUE(waitUntil([&] { return defaults->integerForKey(u"mine") == 2; }));
 }
 
+TEST_F(PlistDefaultsSharingTest, StateOfTheFile_IsReadAtTheStartOnly) {
+    fFolder.replace({{"prefIsScanning", true}, {"mainWindowTab", "Sync"}, {"prefPath1", "/a"}});
+    const auto defaults = open();
+    EXPECT_TRUE(defaults->boolForKey(prefIsScanning));
+    const auto setting = count(*defaults, "prefPath1");
+    std::vector<Subscription> state;
+    for (const QStringView key : {prefIsScanning, prefMainWindowTab, prefEnableScanning})
+        state.push_back(count(*defaults, key.toString()));
+    fFolder.replace({{"prefIsScanning", false}, {"prefEnableScanning", 1LL}, {"prefPath1", "/b"}});
+    ASSERT_TRUE(mainUntil([&] { return fTold["prefPath1"] == 1; }));
+    EXPECT_TRUE(defaults->boolForKey(prefIsScanning));
+    EXPECT_EQ(defaults->stringForKey(prefMainWindowTab), QStringLiteral("Sync"));
+    EXPECT_FALSE(defaults->object(prefEnableScanning).isValid());
+    EXPECT_EQ(fTold, (std::map<QString, int>{{"prefPath1", 1}}));
+}
+
+TEST_F(PlistDefaultsSharingTest, StateSetHere_OutlivesASaveOfAnOldFile) {
+    fFolder.replace({{"recentLaunchDates", QVariantList{1LL}}});
+    const auto defaults = open();
+    defaults->setObject(prefIsScanning, true);
+    defaults->synchronize();
+    const QVariantMap old = fFolder.values().value_or(QVariantMap());
+    defaults->setObject(prefIsScanning, false);
+    defaults->removeObject(prefRecentLaunchDates);
+    defaults->synchronize();
+    fFolder.replace(old);
+    defaults->setObject(prefPath1, QStringLiteral("/a"));
+    defaults->synchronize();
+    EXPECT_FALSE(defaults->boolForKey(prefIsScanning));
+    EXPECT_FALSE(defaults->object(prefRecentLaunchDates).isValid());
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"prefIsScanning", false}, {"prefPath1", "/a"}}));
+}
+
+TEST_F(PlistDefaultsSharingTest, StateOfTheRunningProgram_IsLeftToItByAnother) {
+    const auto program = open();
+    program->setObject(prefIsScanning, false);
+    program->synchronize();
+    const auto command = open();
+    program->setObject(prefIsScanning, true);
+    program->synchronize();
+    command->setObject(prefPath1, QStringLiteral("/a"));
+    command->synchronize();
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"prefIsScanning", true}, {"prefPath1", "/a"}}));
+}
+
 TEST_F(PlistDefaultsSharingTest, UnwrittenChange_HoldsAgainstAForeignOne) {
     fFolder.replace({{"both", 1LL}, {"theirs", 1LL}});
     const auto defaults = open();

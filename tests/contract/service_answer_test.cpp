@@ -181,12 +181,22 @@ TEST_F(ServiceTableTest, SecondSearch_DropsWhatItDoesNotMention) {
     const quint64 first = table.search().number;
     table.startSearch(cType);
     EXPECT_EQ(available(), (QStringList{a, b}));
+    EXPECT_EQ(table.beginSearch().number, table.search().number);
     EXPECT_TRUE(table.found(record(b), HeardOver::IPv4));
     table.settle(first); // the end of a search that is over
     EXPECT_EQ(available(), (QStringList{a, b}));
     table.settle(table.search().number);
     EXPECT_EQ(available(), QStringList{b});
     EXPECT_EQ(table.services().size(), 2);
+}
+
+TEST_F(ServiceTableTest, LateWordOfTheEarlierSearch_LeavesTheServiceToBeResolvedAgain) {
+    table.found(record(a), HeardOver::IPv4);
+    table.startSearch(cType);
+    EXPECT_FALSE(table.found(record(a), HeardOver::IPv6)) << "nobody has begun anew yet";
+    table.beginSearch();
+    EXPECT_EQ(available(), QStringList{a});
+    EXPECT_TRUE(table.found(record(a), HeardOver::IPv4));
 }
 
 TEST_F(ServiceTableTest, LateWordOfAnotherType_IsPassedOver) {

@@ -127,7 +127,7 @@ TEST_F(SignalPipeTest, EndOfThePipe_BringsAllDispositionsBack) {
     term.reset();
 }
 
-TEST_F(SignalPipeTest, NumbersThatCannotBeCaught_AreASubscriptionToNothing) {
+TEST_F(SignalPipeTest, NumbersThatCannotBeCaught_AreNeverHeard) {
     for (const int number : {SIGKILL, SIGSTOP, 0, -1, 32, 64})
         const auto nothing = fSignals->catchSignal(number, note("x"));
     EXPECT_EQ(fHeard, "");

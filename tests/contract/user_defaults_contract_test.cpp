@@ -4,6 +4,7 @@
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 #include "settings/overlay_defaults.h"
+#include "settings/preferences.h"
 #include "support/stored_value.h"
 #include "support/wait_until.h"
 
@@ -51,7 +52,7 @@ private:
     VirtualMainQueue fMain;
     RecordingConsole fConsole;
     std::unique_ptr<PlistDefaults> fDefaults =
-        std::make_unique<PlistDefaults>(fFolder.path(), fMain, fConsole);
+        std::make_unique<PlistDefaults>(fFolder.path(), isState, fMain, fConsole);
 };
 
 class OverlayStore {

@@ -22,8 +22,6 @@ public:
     Subscription catchSignal(int number, std::function<void()> handler, int& error) override {
         const bool valid = number >= 1 && number <= 31 && number != SIGKILL && number != SIGSTOP;
         error = valid && !refused.contains(number) ? 0 : EINVAL;
-        if (error != 0)
-            return {};
         auto catcher = std::make_shared<Catcher>(Catcher{number, std::move(handler)});
         fCatchers->push_back(catcher);
         return Subscription([catchers = std::weak_ptr(fCatchers), catcher] {
@@ -35,7 +33,7 @@ public:
 
     /// The signal arrives; false when it takes its default course.
     bool send(int number) {
-        if (catchers(number) == 0)
+        if (catchers(number) == 0 || refused.contains(number))
             return false;
         fMainQueue.async([this, number] {
             for (const auto& catcher : Catchers(*fCatchers)) {

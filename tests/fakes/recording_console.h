@@ -20,6 +20,7 @@ public:
     using Console::print;
     void print(const QStringList& pieces) override { record(Kind::Print, pieces.join(QString())); }
     void log(const QString& text) override { record(Kind::Log, text); }
+    bool flush(std::chrono::milliseconds) override { return true; }
 
     std::vector<Line> lines() const {
         const std::lock_guard lock(fMutex);

@@ -92,7 +92,7 @@ public:
                     .terminal = terminal,
                     .copyText = [this](const QString& text) { clipboard = text; },
                     .fArrayController = foundServices,
-                    .ibStartButton = button,
+                    .ibStartButton = &button,
                     .ibRevealButton1 = &revealButton1,
                     .ibRevealButton2 = &revealButton2,
                     .ibStatusTextField = field,

@@ -77,7 +77,7 @@ protected:
     /// The dates of relaunches in the settings file.
     qsizetype record() const {
         return contents(fFolder.filePath(QStringLiteral("kelvo-mirror/preferences.plist")))
-            .count("<date>");
+            .count("<real>");
     }
 
     void endInOrder(pid_t pid) const {

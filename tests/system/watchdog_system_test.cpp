@@ -158,7 +158,7 @@ TEST_P(EachSignalTest, HasItsReaction) {
     const Start second = waitForStart(2);
     ASSERT_GT(second.pid, 0) << "not relaunched";
     EXPECT_EQ(log(), QStringList{cRelaunched}) << "the signal itself is not logged";
-    EXPECT_EQ(settings().count("<date>"), 1);
+    EXPECT_EQ(settings().count("<real>"), 1);
     endInOrder(second.pid);
     EXPECT_EQ(starts().size(), 2U);
 }
@@ -208,7 +208,7 @@ TEST_F(WatchdogSystemTest, FiveQuickEnds_EndTheRelaunchingUntilAStartByHand) {
         last = waitForStart(count).pid;
         ASSERT_GT(last, 0) << count;
     }
-    EXPECT_EQ(settings().count("<date>"), 5);
+    EXPECT_EQ(settings().count("<real>"), 5);
     EXPECT_EQ(log().filter(cRelaunched).size(), 5);
     EXPECT_TRUE(log().last().startsWith(QStringLiteral(
         "NOT setting auto-relaunch because interval since 4 previous launches is less than 30.0 "
@@ -222,7 +222,7 @@ TEST_F(WatchdogSystemTest, FiveQuickEnds_EndTheRelaunchingUntilAStartByHand) {
     const Start byHand = start(QStringLiteral("wait"));
     EXPECT_EQ(log().last(), QStringLiteral("relaunching was given up before this start by hand; "
                                            "unexpected termination is monitored again"));
-    EXPECT_EQ(settings().count("<date>"), 0);
+    EXPECT_EQ(settings().count("<real>"), 0);
     EXPECT_TRUE(livingChild(byHand.pid, "watchdog"));
     endInOrder(byHand.pid);
 }

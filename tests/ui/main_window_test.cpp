@@ -20,6 +20,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStyleOptionButton>
+#include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
 
@@ -229,13 +230,22 @@ TEST_F(MainWindowTest, Settings_AreBoundBothWays) {
     EXPECT_EQ(child<ElidedLabel>("versionText")->fullText(), u"Version 9.9");
 }
 
-TEST_F(MainWindowTest, TabShown_IsToldWithItsIdentifier) {
+TEST_F(MainWindowTest, ChosenTab_IsToldBeforeItIsShown) {
     std::vector<QString> told;
-    window.setTabSelected([&](const MainWindow::Tab& tab) { told.push_back(tab.identifier); });
+    std::vector<QString> shown;
+    window.show();
+    window.setWillSelectTab([&](const MainWindow::Tab& tab) {
+        told.push_back(tab.identifier);
+        for (const QWidget* page : window.findChild<QTabWidget*>()->findChildren<QWidget*>()) {
+            if (page->property("identifier").isValid() && page->isVisible())
+                shown.push_back(page->property("identifier").toString());
+        }
+    });
     window.showTab(QStringLiteral("prefs"));
     window.showTab(0);
     window.showTab(QStringLiteral("no such tab"));
     EXPECT_EQ(told, (std::vector<QString>{QStringLiteral("prefs"), QStringLiteral("sync")}));
+    EXPECT_EQ(shown, (std::vector<QString>{QStringLiteral("sync"), QStringLiteral("prefs")}));
 }
 
 // -- actions

@@ -2,6 +2,7 @@
 #include "ui/widgets/path_control_view.h"
 #include "ui/widgets/widget_controls.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QMenu>
 #include <QSignalSpy>
@@ -41,6 +42,20 @@ TEST_F(PathControlViewTest, Path_IsARowOfParts) {
     QSignalSpy clicked(&view, &PathControlView::partClicked);
     view.findChild<QToolButton*>(QStringLiteral("part2"))->click();
     EXPECT_EQ(clicked.at(0).at(0).toString(), u"/Users/near");
+}
+
+TEST_F(PathControlViewTest, ContextMenuOfAPart_AsksForItsFolder) {
+    view.setPath(QStringLiteral("/Users/R&D/My Movies"));
+    QSignalSpy clicked(&view, &PathControlView::partClicked);
+    QSignalSpy open(&view, &PathControlView::openRequested);
+    const auto* part = view.findChild<QToolButton*>(QStringLiteral("part2"));
+    EXPECT_EQ(part->contextMenuPolicy(), Qt::ActionsContextMenu);
+    ASSERT_EQ(part->actions().size(), 1);
+    EXPECT_EQ(part->actions()[0]->text(), u"Open R&&D");
+    part->actions()[0]->trigger();
+    ASSERT_EQ(open.size(), 1);
+    EXPECT_EQ(open.at(0).at(0).toString(), u"/Users/R&D");
+    EXPECT_TRUE(clicked.isEmpty());
 }
 
 TEST_F(PathControlViewTest, NoPath_SaysSo) {

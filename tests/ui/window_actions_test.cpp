@@ -6,6 +6,7 @@
 #include "ui/widgets/widget_button.h"
 #include "ui/widgets/widget_controls.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
@@ -16,6 +17,12 @@
 
 namespace kelvo {
 namespace {
+
+const QString cSenderIsThePathControl =
+    QStringLiteral("Inside Kelvo_Mirror.ViewController->ibRevealInFinderAction(_:)"
+                   ".......sender = <PathControl");
+const QString cTestFolder =
+    QStringLiteral("openFile /Volumes/Macintosh%20HD-2/Users/support/Desktop/FolderOnRemoteServer");
 
 class WindowActionsTest : public ::testing::Test, public ViewControllerWorld {
 protected:
@@ -60,16 +67,42 @@ TEST_F(WindowActionsTest, EachButton_RunsTheActionOfItsName) {
     EXPECT_EQ(relaunches, 1);
 }
 
-TEST_F(WindowActionsTest, PartOfTheSourcePath_OpensAndSendsTheControlsAction) {
+TEST_F(WindowActionsTest, ClickOnTheSourcePath_SendsTheControlsActionAlone) {
     defaults.setObject(prefPath1, QStringLiteral("/Users/me/Movies"));
+    defaults.setObject(prefPath2, QStringLiteral("/in/box"));
     mainQueue.runDue();
     console.clear();
     mainWindow.fNsPathControl1().findChild<QToolButton*>(QStringLiteral("part2"))->click();
-    EXPECT_TRUE(printed(QStringLiteral("ibRevealInFinderAction(_:).......sender = ")));
-    EXPECT_EQ(workspace.requests, QStringList{QStringLiteral("openFile /Users/me")});
+    EXPECT_TRUE(printed(cSenderIsThePathControl));
+    EXPECT_EQ(workspace.requests, QStringList{cTestFolder});
 }
 
-TEST_F(WindowActionsTest, PartOfTheDestination_Opens) {
+TEST_F(WindowActionsTest, RevealTestFolder_HasThePathControlForItsSender) {
+    defaults.setObject(prefPath1, QStringLiteral("/Users/me/Movies"));
+    defaults.setObject(prefPath2, QStringLiteral("/in/box"));
+    mainQueue.runDue();
+    console.clear();
+    click("ibRevealInFinderAction");
+    EXPECT_TRUE(printed(cSenderIsThePathControl));
+    EXPECT_TRUE(printed(QStringLiteral("Inside Kelvo_Mirror.ViewController->"
+                                       "ibRevealInFinderAction(_:).......url = file:///Users/me")));
+    EXPECT_EQ(workspace.requests, QStringList{cTestFolder});
+}
+
+TEST_F(WindowActionsTest, ContextMenuOfAPath_OpensThePart) {
+    defaults.setObject(prefPath1, QStringLiteral("/Users/me/Movies"));
+    defaults.setObject(prefPath2, QStringLiteral("/in/box"));
+    mainQueue.runDue();
+    console.clear();
+    for (const auto& [view, part] : {std::pair(&mainWindow.fNsPathControl1(), "part2"),
+                                     std::pair(&mainWindow.destinationPath(), "part1")})
+        view->findChild<QToolButton*>(QString::fromLatin1(part))->actions().at(0)->trigger();
+    EXPECT_EQ(workspace.requests,
+              (QStringList{QStringLiteral("openFile /Users/me"), QStringLiteral("openFile /in")}));
+    EXPECT_FALSE(printed(QStringLiteral("Inside ")));
+}
+
+TEST_F(WindowActionsTest, ClickOnTheDestination_OpensThePart) {
     defaults.setObject(prefPath2, QStringLiteral("/in/box"));
     mainQueue.runDue();
     mainWindow.destinationPath().findChild<QToolButton*>(QStringLiteral("part1"))->click();

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 namespace kelvo {
 namespace {
 
@@ -67,6 +69,18 @@ TEST_F(NetworkPathMonitoringTest, Message_PassesThroughEmptyATenthOfASecondLater
     mainQueue.advance(0.001);
     EXPECT_EQ(shown, (QStringList{QString(), QStringLiteral("second")}));
     EXPECT_TRUE(mainQueue.idle());
+}
+
+TEST_F(NetworkPathMonitoringTest, NotificationOfAnotherThread_IsPrintedThereAndShownOnTheMainOne) {
+    monitoring.setupNetworkChecker();
+    mainQueue.advance(1);
+    shown.clear();
+    console.clear();
+    std::thread([this] { center.post(cName, {{cKey, QStringLiteral("second")}}); }).join();
+    EXPECT_EQ(console.printed().size(), 3);
+    EXPECT_TRUE(shown.isEmpty());
+    mainQueue.advance(0.1);
+    EXPECT_EQ(shown, (QStringList{QString(), QStringLiteral("second")}));
 }
 
 TEST_F(NetworkPathMonitoringTest, Notification_IsPrintedWithAllItCarries) {

@@ -88,7 +88,7 @@ TEST(PreferencesTest, FactoryValue_HasTheTypeOfItsKey) {
             type = QMetaType::QString;
             break;
         case PreferenceType::Dictionary:
-        case PreferenceType::Dates:
+        case PreferenceType::Times:
             break;
         }
         EXPECT_EQ(value.typeId(), type) << each.key.toString().toStdString();
@@ -118,8 +118,8 @@ QString wordsFor(PreferenceType type) {
         return QStringLiteral("a text");
     case PreferenceType::Dictionary:
         return QStringLiteral("a JSON object");
-    case PreferenceType::Dates:
-        return QStringLiteral("dates");
+    case PreferenceType::Times:
+        return QStringLiteral("a list of times");
     }
     return {};
 }

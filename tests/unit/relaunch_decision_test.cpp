@@ -1,7 +1,9 @@
 #include "app/start/relaunch_decision.h"
+#include "support/stored_value.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <vector>
 
@@ -15,7 +17,15 @@ const QDateTime cNow =
 QVariantList ago(const std::vector<double>& seconds) {
     QVariantList dates;
     for (const double each : seconds)
-        dates.append(cNow.addMSecs(-static_cast<qint64>(each * 1000)));
+        dates.append(recordedDate(cNow.addMSecs(-std::llround(each * 1000))));
+    return dates;
+}
+
+/// The same as earlier versions stored it.
+QVariantList datesAgo(const std::vector<int>& seconds) {
+    QVariantList dates;
+    for (const int each : seconds)
+        dates.append(cNow.addSecs(-each));
     return dates;
 }
 
@@ -62,8 +72,8 @@ TEST_P(RelaunchDecisionTest, Case_IsDecided) {
     }
     QVariantList record =
         given.record.typeId() == QMetaType::QVariantList ? given.record.toList() : QVariantList();
-    record.append(cNow);
-    EXPECT_EQ(decision.record, record);
+    record.append(1714979289.25);
+    EXPECT_TRUE(sameStoredValue(decision.record, record));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -83,6 +93,15 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"a little less than the limit", ago({29.75, 1, 1, 1}), 4, 30, false, 29.75, false,
              "NOT setting auto-relaunch because interval since 4 previous launches is less than "
              "30.0 sec (30)"},
+        Case{"a fraction less than the limit", ago({29.999, 1, 1, 1}), 4, 30, false, 29.999, false,
+             "NOT setting auto-relaunch because interval since 4 previous launches is less than "
+             "30.0 sec (30)"},
+        Case{"fractions that are none in binary", ago({30.1, 1, 1, 1}), 4, 30.1, false, 30.1, true,
+             ""},
+        Case{"dates of an earlier version", datesAgo({25, 20, 10, 5}), 4, 30, false, 25, false,
+             cNot4},
+        Case{"no number", QVariantList{std::nan("")}, 1, 30, false, 30, true, ""},
+        Case{"a number beyond all dates", QVariantList{-1e300}, 1, 30, false, 30, true, ""},
         Case{"n = 1", ago({100, 0.5}), 1, 2.25, false, 0.5, false,
              "NOT setting auto-relaunch because interval since 1 previous launches is less than "
              "2.2 sec (0)"},
@@ -107,10 +126,10 @@ INSTANTIATE_TEST_SUITE_P(
              false,
              "NOT setting auto-relaunch because interval since 0 previous launches is less than "
              "12.5 sec (12)"},
-        Case{"no date at the place", QVariantList{QStringLiteral("x"), cNow, cNow, cNow}, 4, 30,
-             false, 30, true, ""},
+        Case{"no date at the place", QVariantList{QStringLiteral("x"), 1.5, 1.5, 1.5}, 4, 30, false,
+             30, true, ""},
         Case{"no date elsewhere does not matter",
-             QVariantList{cNow.addSecs(-25), 1, true, QStringLiteral("x")}, 4, 30, false, 25, false,
+             ago({25}) + QVariantList{1, true, QStringLiteral("x")}, 4, 30, false, 25, false,
              cNot4},
         Case{"a text for a record", QStringLiteral("yesterday"), 1, 30, false, 30, true, ""},
         Case{"a clock that was set back", ago({-60}), 1, 30, false, -60, false,

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cstdio>
 
 namespace kelvo {
 namespace {
@@ -217,16 +218,35 @@ TEST_F(RsyncCommandTest, TemplateWithoutPlaceholders_ComesBackUnchanged) {
 
 using RsyncCommandDeathTest = RsyncCommandTest;
 
-TEST_F(RsyncCommandDeathTest, TagThatDoesNotExist_StopsTheProgramWithoutAWord) {
-    for (const int tag : {103, 104, 99, 106}) {
-        setTag(tag);
-        EXPECT_EXIT(command.getRsyncCommandOptionString(), ::testing::KilledBySignal(SIGILL), "^$")
-            << tag;
+/// Keeps what it is told until it is flushed to standard error.
+class SlowConsole final : public Console {
+public:
+    using Console::print;
+    void print(const QStringList&) override {}
+    void log(const QString& text) override { fWaiting += text.toStdString() + '\n'; }
+    bool flush(std::chrono::milliseconds) override {
+        std::fputs(fWaiting.c_str(), stderr);
+        return true;
     }
-}
 
-TEST_F(RsyncCommandDeathTest, MissingTag_StopsTheProgram) {
-    EXPECT_EXIT(command.getRsyncCommandOptionString(), ::testing::KilledBySignal(SIGILL), "^$");
+private:
+    std::string fWaiting;
+};
+
+TEST_F(RsyncCommandDeathTest, TagThatDoesNotExist_StopsTheProgramOnceItIsSaid) {
+    SlowConsole slow;
+    const RsyncCommand last(defaults, slow);
+    for (const auto& [stored, held] :
+         {std::pair(QVariant(103), "103"), std::pair(QVariant(104), "104"),
+          std::pair(QVariant(99), "99"), std::pair(QVariant(106), "106"),
+          std::pair(QVariant(QStringLiteral("newest")), "newest"),
+          std::pair(QVariant(QVariantList{101}), "no number"), std::pair(QVariant(), "nothing")}) {
+        defaults.setObject(prefRsyncCommandOptionTag, stored);
+        EXPECT_EXIT(last.getRsyncCommandOptionString(), ::testing::KilledBySignal(SIGILL),
+                    std::string("^prefRsyncCommandOptionTag holds ") + held +
+                        ", which stands for no option of rsync. To mend it: kelvo-mirror --set "
+                        "prefRsyncCommandOptionTag 100\n$");
+    }
 }
 
 } // namespace

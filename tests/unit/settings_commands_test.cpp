@@ -3,7 +3,6 @@
 #include "settings/overlay_defaults.h"
 #include "settings/preferences.h"
 
-#include <QDateTime>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -53,16 +52,16 @@ Sample sampleFor(const Preference& preference) {
                 QVariantMap{{QStringLiteral("name"), QStringLiteral("Mac")}},
                 "{\"name\":\"Mac\"}\n",
                 {QStringLiteral("[]"), QStringLiteral("{"), QStringLiteral("Mac")}};
-    case PreferenceType::Dates:
+    case PreferenceType::Times:
         break;
     }
     return {};
 }
 
-TEST_F(SettingsCommandsTest, EveryKey_IsSetPrintedAndUnset) {
+TEST_F(SettingsCommandsTest, EverySetting_IsSetPrintedAndUnset) {
     for (const Preference& each : preferenceTable()) {
-        if (each.type == PreferenceType::Dates)
-            continue; // has a case of its own
+        if (each.kind != PreferenceKind::Setting)
+            continue;
         const Sample sample = sampleFor(each);
         const std::string name = each.key.toUtf8().toStdString();
         EXPECT_EQ(get(each.key).exitCode, cExitNotSet) << name;
@@ -76,22 +75,43 @@ TEST_F(SettingsCommandsTest, EveryKey_IsSetPrintedAndUnset) {
     }
 }
 
-TEST_F(SettingsCommandsTest, Dates_ArePrintedAndUnsetButNeverSet) {
-    const QVariantList dates{QDateTime(QDate(2026, 3, 29), QTime(1, 30, 7), Qt::UTC),
-                             QDateTime(QDate(2026, 3, 29), QTime(1, 30, 9), Qt::UTC)};
+TEST_F(SettingsCommandsTest, State_IsPrintedButNeitherSetNorUnset) {
+    int refused = 0;
+    for (const Preference& each : preferenceTable()) {
+        if (each.kind != PreferenceKind::State || each.type == PreferenceType::Times)
+            continue;
+        const Sample sample = sampleFor(each);
+        const std::string name = each.key.toUtf8().toStdString();
+        defaults.setObject(each.key, sample.stored);
+        EXPECT_EQ(get(each.key).output, QString::fromUtf8(sample.printed)) << name;
+        for (const SettingsVerb verb : {SettingsVerb::Set, SettingsVerb::Unset}) {
+            const auto answer =
+                answerSettings({verb, each.key.toString(), QStringLiteral("false")}, defaults);
+            EXPECT_EQ(answer.exitCode, cExitBadSetting) << name;
+            EXPECT_TRUE(answer.errors.startsWith(
+                QString(u"kelvo-mirror: " + each.key + u" is no setting: the program writes it")))
+                << answer.errors.toStdString();
+            EXPECT_EQ(answer.errors.contains(QStringLiteral("--once")),
+                      each.key == prefEnableScanning)
+                << answer.errors.toStdString();
+            EXPECT_EQ(defaults.object(each.key), sample.stored) << name;
+            ++refused;
+        }
+    }
+    EXPECT_GT(refused, 10);
+}
+
+TEST_F(SettingsCommandsTest, Times_AreOnlyPrinted) {
+    const QVariantList times{1774747807.25, 1774747809.0};
     EXPECT_EQ(get(prefRecentLaunchDates).exitCode, cExitNotSet);
-    defaults.setObject(prefRecentLaunchDates, dates);
-    EXPECT_EQ(get(prefRecentLaunchDates).output,
-              QStringLiteral("[\"2026-03-29T01:30:07.000Z\",\"2026-03-29T01:30:09.000Z\"]\n"));
-    const auto answer = set(prefRecentLaunchDates, "[]");
-    EXPECT_EQ(answer.exitCode, cExitBadSetting);
-    EXPECT_EQ(answer.errors, QStringLiteral("kelvo-mirror: '[]' does not fit: recentLaunchDates "
-                                            "takes no value from outside; it can be unset\n"));
-    EXPECT_EQ(defaults.object(prefRecentLaunchDates), QVariant(dates));
-    EXPECT_EQ(answerSettings({SettingsVerb::Unset, prefRecentLaunchDates.toString(), {}}, defaults)
-                  .exitCode,
-              0);
-    EXPECT_FALSE(defaults.object(prefRecentLaunchDates).isValid());
+    defaults.setObject(prefRecentLaunchDates, times);
+    EXPECT_EQ(get(prefRecentLaunchDates).output, QStringLiteral("[1774747807.25,1774747809]\n"));
+    for (const SettingsVerb verb : {SettingsVerb::Set, SettingsVerb::Unset})
+        EXPECT_EQ(
+            answerSettings({verb, prefRecentLaunchDates.toString(), QStringLiteral("[]")}, defaults)
+                .exitCode,
+            cExitBadSetting);
+    EXPECT_EQ(defaults.object(prefRecentLaunchDates), QVariant(times));
     defaults.setObject(prefRecentLaunchDates, true);
     EXPECT_EQ(get(prefRecentLaunchDates).exitCode, cExitNotSet) << "no list";
 }
@@ -99,6 +119,8 @@ TEST_F(SettingsCommandsTest, Dates_ArePrintedAndUnsetButNeverSet) {
 TEST_F(SettingsCommandsTest, BadValue_IsRefusedAndChangesNothing) {
     int refused = 0;
     for (const Preference& each : preferenceTable()) {
+        if (each.kind != PreferenceKind::Setting)
+            continue;
         const Sample sample = sampleFor(each);
         set(each.key, sample.good);
         for (const QString& bad : sample.bad) {

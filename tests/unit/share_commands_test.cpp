@@ -2,6 +2,8 @@
 #include "remote/share_commands.h"
 #include "settings/preference_keys.h"
 
+#include <QProcess>
+
 #include <gtest/gtest.h>
 
 namespace kelvo {
@@ -81,7 +83,7 @@ TEST(GioShareCommandsTest, Opening_AsksFirstWhetherItIsMountedAndNeverWaitsForLo
         "timeout -k 2 20 gio info \"smb://ann@Office-Mac-Mini.local/Macintosh%20HD\" "
         ">/dev/null 2>&1 || { timeout -k 2 20 env LC_ALL=C.UTF-8 gio mount "
         "\"smb://ann@Office-Mac-Mini.local/Macintosh%20HD\" 2>&1 </dev/null; "
-        "[ $? -ne 124 ] || echo \"no answer within 20 seconds\"; }");
+        "case $? in 124|137) echo \"no answer within 20 seconds\";; esac; }");
     EXPECT_EQ(commands.openShare(cTarget), expected);
     EXPECT_EQ(commands.openRemoteFolder(cTarget), expected);
     EXPECT_TRUE(commands.folderIsSoughtAfterwards());
@@ -91,7 +93,22 @@ TEST(GioShareCommandsTest, Listing_IsWhatIsKnownOfThisVeryShare) {
     const GioShareCommands commands;
     EXPECT_EQ(commands.listVolumes({QStringLiteral("mini"), {}, {}}),
               u"timeout -k 2 20 env LC_ALL=C.UTF-8 gio info \"smb://mini/Macintosh%20HD\" 2>&1 "
-              u"</dev/null; [ $? -ne 124 ] || echo \"no answer within 20 seconds\"");
+              u"</dev/null; case $? in 124|137) echo \"no answer within 20 seconds\";; esac");
+}
+
+TEST(GioShareCommandsTest, MountThatIsEndedByForce_IsSaidToHaveKeptSilent) {
+    const QString command = GioShareCommands().openShare(cTarget);
+    for (const auto& [status, answer] :
+         {std::pair(0, ""), std::pair(1, ""), std::pair(124, "no answer within 20 seconds\n"),
+          std::pair(137, "no answer within 20 seconds\n")}) {
+        // In the place of timeout: not mounted yet, then the end of the mounting.
+        const QString pretend =
+            QStringLiteral("timeout() { [ \"$4\" != gio ] || return 1; return %1; }; ").arg(status);
+        QProcess shell;
+        shell.start(QStringLiteral("sh"), {QStringLiteral("-c"), pretend + command});
+        ASSERT_TRUE(shell.waitForFinished());
+        EXPECT_EQ(shell.readAllStandardOutput(), answer) << status;
+    }
 }
 
 TEST(GioShareCommandsTest, NothingInAnAddress_IsReadAsTheShellsOwn) {

@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <deque>
 
 namespace kelvo {
@@ -130,7 +131,7 @@ protected:
                  [this](const QString& message, const QString& text, AlertCompletion completion) {
                      alerts.showProblemWithBonjourClosure(message, text, std::move(completion));
                  },
-             .ibStartButton = button}}};
+             .ibStartButton = &button}}};
 };
 
 // -- the actions
@@ -146,6 +147,19 @@ TEST_F(SyncCycleTest, StartButtonOn_StoresTheStateAndStartsARemotePass) {
                   QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour()"
                                  ".......NEED to start a scan ...")}));
     EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(SyncCycleTest, MissingStartButton_StopsTheProgramAtTheClick) {
+    SyncCycle without({.defaults = defaults,
+                       .mainQueue = mainQueue,
+                       .bgQueue = bgQueue,
+                       .passes = passes,
+                       .files = files,
+                       .console = console,
+                       .rsyncCommand = rsyncCommand,
+                       .validateRemoteHost = {},
+                       .view = {}});
+    EXPECT_EXIT(without.clickStartButton(), ::testing::KilledBySignal(SIGILL), "start button");
 }
 
 TEST_F(SyncCycleTest, StartButtonOnWithoutSsh_StartsAPlainPass) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 namespace kelvo {
 namespace {
 
@@ -16,6 +18,17 @@ TEST_F(ViewControllerTest, Load_PrintsItsEntryAndSwitchesSyncingOff) {
               u"Inside Kelvo_Mirror.ViewController->viewDidLoad().......");
     EXPECT_EQ(defaults.object(prefIsScanning), QVariant(false));
     EXPECT_EQ(defaults.object(prefEnableScanning), QVariant(false));
+}
+
+TEST_F(ViewControllerTest, MissingStartButton_StopsTheTitleOfAChangeButNotTheUpdate) {
+    StartButtonTitle without(nullptr, defaults, mainQueue, console);
+    without.update();
+    mainQueue.runDue();
+    for (const bool flag : {true, false}) {
+        EXPECT_EXIT(without.showRunning(flag), ::testing::KilledBySignal(SIGILL), "start button");
+        EXPECT_EXIT(without.showKindOfPass(flag), ::testing::KilledBySignal(SIGILL),
+                    "start button");
+    }
 }
 
 TEST_F(ViewControllerTest, Load_LeavesNothingTicking) {

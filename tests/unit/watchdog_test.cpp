@@ -53,7 +53,7 @@ protected:
     QVariantList ago(const std::vector<int>& seconds) const {
         QVariantList dates;
         for (const int each : seconds)
-            dates.append(now.addSecs(-each));
+            dates.append(recordedDate(now.addSecs(-each)));
         return dates;
     }
     static QString description(int number) { return QString::fromLocal8Bit(::strsignal(number)); }
@@ -88,7 +88,7 @@ TEST_F(WatchdogTest, OrdinaryStart_ClearsTheRecordAndWatches) {
 TEST_F(WatchdogTest, RelaunchWithoutRecord_StartsOneAndWatches) {
     begin(true);
     relaunchedUnless4In30();
-    EXPECT_EQ(defaults.object(cRecord), QVariant(QVariantList{now}));
+    EXPECT_EQ(defaults.object(cRecord), QVariant(ago({0})));
     EXPECT_EQ(launcher.sentinels.size(), 1U);
     EXPECT_EQ(console.logged(), QStringList{cRelaunched});
 }
@@ -141,7 +141,7 @@ TEST_F(WatchdogTest, CountOfZero_JudgesAnOrdinaryStartToo) {
               (QStringList{cRelaunched,
                            QStringLiteral("NOT setting auto-relaunch because interval since 0 "
                                           "previous launches is less than 30.0 sec (30)")}));
-    EXPECT_EQ(defaults.object(cRecord), QVariant(QVariantList{now}));
+    EXPECT_EQ(defaults.object(cRecord), QVariant(ago({0})));
     EXPECT_TRUE(launcher.sentinels.empty());
 }
 
@@ -158,6 +158,17 @@ TEST_F(WatchdogTest, FiveQuickRelaunches_EndTheRelaunching) {
     EXPECT_TRUE(console.logged().last().startsWith(QStringLiteral("NOT ")));
 }
 
+TEST_F(WatchdogTest, FifthRelaunchAFractionBeforeTheLimit_EndsTheRelaunching) {
+    now = now.addMSecs(900);
+    for (const int pause : {0, 7'000, 7'000, 7'000, 8'300}) {
+        now = now.addMSecs(pause);
+        begin(true);
+        relaunchedUnless4In30();
+    }
+    EXPECT_EQ(launcher.sentinels.size(), 4U) << "29.3 s since the first";
+    EXPECT_TRUE(console.logged().last().startsWith(QStringLiteral("NOT ")));
+}
+
 TEST_F(WatchdogTest, StartByHandAfterGivingUp_SaysSoOnce) {
     defaults.setObject(cRecord, ago({25, 20, 10, 5}));
     begin(true);
@@ -167,6 +178,19 @@ TEST_F(WatchdogTest, StartByHandAfterGivingUp_SaysSoOnce) {
     relaunchedUnless4In30();
     EXPECT_EQ(console.logged(), QStringList{cGivenUp});
     EXPECT_EQ(launcher.sentinels.size(), 1U);
+    console.clear();
+    begin();
+    relaunchedUnless4In30();
+    EXPECT_EQ(console.logged(), QStringList());
+}
+
+TEST_F(WatchdogTest, SetUpAgainWhileWatched_IsNoGivingUp) {
+    begin(true);
+    for (int i = 0; i < 5; ++i)
+        relaunchedUnless4In30();
+    EXPECT_TRUE(console.logged().last().startsWith(QStringLiteral("NOT ")));
+    ASSERT_EQ(launcher.sentinels.size(), 1U);
+    EXPECT_EQ(launcher.sentinels[0]->requests, 0);
     console.clear();
     begin();
     relaunchedUnless4In30();
@@ -260,7 +284,7 @@ TEST_F(WatchdogTest, SignalThatCannotBeCaught_IsSaidAndTheOthersAreCaught) {
         console.logged(),
         QStringList{QStringLiteral("tried to ignore %1 but got '%2'")
                         .arg(description(SIGSEGV), QString::fromLocal8Bit(std::strerror(EINVAL)))});
-    EXPECT_EQ(signals.catchers(SIGSEGV), 0);
+    EXPECT_EQ(signals.catchers(SIGSEGV), 1) << "its source is made all the same";
     EXPECT_EQ(signals.catchers(SIGTERM), 1);
 }
 

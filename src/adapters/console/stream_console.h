@@ -33,8 +33,7 @@ public:
     void print(const QStringList& pieces) override;
     void log(const QString& text) override;
 
-    /// Waits until no line waits any more; false when `timeout` came first. Any thread.
-    bool flush(std::chrono::milliseconds timeout);
+    bool flush(std::chrono::milliseconds timeout) override;
 
 private:
     class Writer;

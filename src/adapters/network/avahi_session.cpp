@@ -140,7 +140,7 @@ void AvahiSession::clientChanged(AvahiClient* client, AvahiClientState state) {
 void AvahiSession::startBrowser(AvahiClient* client) {
     fResolvers.clear();
     fBrowser.reset();
-    const ServiceSearch search = fTable.search();
+    const ServiceSearch search = fTable.beginSearch();
     if (search.type.isEmpty())
         return;
     fSearchNumber = search.number;

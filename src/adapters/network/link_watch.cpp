@@ -16,6 +16,7 @@
 #include <net/route.h>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace kelvo {
@@ -33,6 +34,10 @@ bool isUsable(const ifaddrs& entry) {
     std::memcpy(&address, entry.ifa_addr, sizeof address);
     return !IN6_IS_ADDR_LINKLOCAL(&address.sin6_addr);
 }
+
+/// Stands for the interface of an IPv4 route that leads nowhere: one that refuses, or a black hole,
+/// which no flag tells.
+constexpr std::string_view cNoInterface = "*";
 
 UniqueFd openSocket() {
     UniqueFd socket(::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC | SOCK_NONBLOCK, NETLINK_ROUTE));
@@ -79,7 +84,7 @@ bool hasDefaultRoute() {
         std::string interface, destination, gateway;
         unsigned flags = 0;
         if (fields >> interface >> destination >> gateway >> std::hex >> flags &&
-            destination == "00000000" && (flags & RTF_UP))
+            destination == "00000000" && (flags & RTF_UP) && interface != cNoInterface)
             return true;
     }
     // Destination, its length, source, its length, next hop, metric, two counts, flags, interface.

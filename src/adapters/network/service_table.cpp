@@ -16,14 +16,20 @@ void ServiceTable::startSearch(const QString& type) {
     std::erase_if(fEntries, [](const Entry& entry) { return !entry.record.available; });
     fPlaces.clear();
     for (std::size_t place = 0; place < fEntries.size(); ++place) {
-        Entry& entry = fEntries[place];
-        entry.heardOver = 0;
+        const Entry& entry = fEntries[place];
         fPlaces.emplace(Key(entry.record.name, entry.record.interface), place);
     }
 }
 
 ServiceSearch ServiceTable::search() const {
     const std::lock_guard lock(fMutex);
+    return fSearch;
+}
+
+ServiceSearch ServiceTable::beginSearch() {
+    const std::lock_guard lock(fMutex);
+    for (Entry& entry : fEntries)
+        entry.heardOver = 0;
     return fSearch;
 }
 

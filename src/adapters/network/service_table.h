@@ -23,15 +23,20 @@ struct ServiceSearch {
 /// Every operation: any thread, no waiting but for the copy of a list.
 class ServiceTable {
 public:
-    /// Begins a search. The same type again forgets what has vanished and awaits the rest to be
-    /// found anew; another type forgets everything.
+    /// Asks for a search. The same type again forgets what has vanished; another type forgets
+    /// everything.
     void startSearch(const QString& type);
 
+    /// What was asked for last.
     ServiceSearch search() const;
+
+    /// The same, for the thread that begins it: the earlier search tells of nothing any more, and
+    /// each service that is known awaits to be found anew.
+    ServiceSearch beginSearch();
 
     /// A service was heard of; its place in the list is that of its first time. Returns whether it
     /// is to be resolved: it is listed (not one of another type, or beyond the most that are kept)
-    /// and not yet heard of in this search.
+    /// and not yet heard of in the search that was begun last.
     bool found(const DNSSD_Service& record, HeardOver protocol);
 
     /// It was resolved: takes over host, address, hardware address and port. One that is not

@@ -106,14 +106,10 @@ public:
 
     /// 0, or the errno value that tells why not.
     int add(const std::shared_ptr<Catcher>& catcher) {
+        fCatchers.push_back(catcher);
         if (!fActive)
             return EBUSY;
-        if (!fEarlier.contains(catcher->number)) {
-            if (const int error = takeOver(catcher->number))
-                return error;
-        }
-        fCatchers.push_back(catcher);
-        return 0;
+        return fEarlier.contains(catcher->number) ? 0 : takeOver(catcher->number);
     }
 
     void remove(const std::shared_ptr<Catcher>& catcher) {
@@ -170,8 +166,6 @@ SignalPipe::~SignalPipe() = default;
 Subscription SignalPipe::catchSignal(int number, std::function<void()> handler, int& error) {
     const auto catcher = std::make_shared<Catcher>(Catcher{number, std::move(handler)});
     error = fState->add(catcher);
-    if (error != 0)
-        return {};
     return Subscription([state = std::weak_ptr(fState), catcher] {
         catcher->ended = true;
         if (const auto alive = state.lock())

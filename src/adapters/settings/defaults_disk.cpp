@@ -24,10 +24,10 @@ constexpr std::chrono::seconds cLastRetry = 60s;
 
 } // namespace
 
-DefaultsDisk::DefaultsDisk(const QString& path, DefaultsValues& values, Console& console,
-                           std::function<void(const QStringList&)> announce)
-    : fValues(values), fConsole(console), fAnnounce(std::move(announce)), fFile(path),
-      fWatch(fFile.folder(), fFile.name()) {
+DefaultsDisk::DefaultsDisk(const QString& path, DefaultsValues& values, KeyTest isState,
+                           Console& console, std::function<void(const QStringList&)> announce)
+    : fValues(values), fIsState(std::move(isState)), fConsole(console),
+      fAnnounce(std::move(announce)), fFile(path), fWatch(fFile.folder(), fFile.name()) {
     load();
     fThread = std::jthread([this](const std::stop_token& stop) { run(stop); });
 }
@@ -96,7 +96,7 @@ void DefaultsDisk::load() {
         if (!lockFailure.isEmpty())
             settle(lockFailure);
     }
-    adoptBase();
+    adoptBase({});
 }
 
 void DefaultsDisk::watchFolder() {
@@ -122,18 +122,23 @@ DefaultsDisk::Deadline DefaultsDisk::deadline(Deadline firstChange) const {
 QStringList DefaultsDisk::takeOver() {
     if (!readBase(cUnreadablePatience).isEmpty())
         return exchange(0ms);
-    return adoptBase();
+    return adoptBase(fIsState);
 }
 
 QStringList DefaultsDisk::writeOut() {
-    fUnwritten.insert(fValues.takeChanges());
+    const DefaultsChanges taken = fValues.takeChanges();
+    fUnwritten.insert(taken);
+    for (auto it = taken.cbegin(); it != taken.cend(); ++it) {
+        if (fIsState(it.key()))
+            fOwnState.insert(it.key(), it.value());
+    }
     return fUnwritten.isEmpty() ? QStringList() : exchange(cUnreadablePatience);
 }
 
 /// Reads what others wrote, lays what is ours and unwritten over it, writes it.
 QStringList DefaultsDisk::exchange(std::chrono::milliseconds patience) {
     settle(exchangeLocked(patience));
-    return adoptBase();
+    return adoptBase(fIsState);
 }
 
 QString DefaultsDisk::exchangeLocked(std::chrono::milliseconds patience) {
@@ -148,6 +153,7 @@ QString DefaultsDisk::exchangeLocked(std::chrono::milliseconds patience) {
     }
     // Without a file everything in memory goes into the new one.
     QVariantMap next = fBytes ? fBase : fValues.userValues();
+    applyChanges(next, fOwnState);
     applyChanges(next, fUnwritten);
     if (!sameStoredValue(next, fBase)) {
         const QByteArray bytes = encodePlist(next);
@@ -210,12 +216,12 @@ QString DefaultsDisk::moveAside(const QString& fault) {
 
 /// Takes the file's values into memory, ours that are not on disk laid over them. Without a file
 /// memory stays as it is.
-QStringList DefaultsDisk::adoptBase() {
+QStringList DefaultsDisk::adoptBase(const KeyTest& kept) {
     if (!fBytes)
         return {};
     QVariantMap known = fBase;
     applyChanges(known, fUnwritten);
-    return fValues.adopt(known);
+    return fValues.adopt(known, kept);
 }
 
 /// Says once that saving fails, with a line for each new reason, and once that it works again.

@@ -20,9 +20,10 @@ namespace kelvo {
 /// written; it sleeps while nothing happens. See plist_defaults.h for the rules of the file.
 class DefaultsDisk {
 public:
-    /// Reads the file into `values`. `announce` is called with the keys that another program has
+    /// Reads the file into `values`; what it holds later of the keys of `isState` is not taken
+    /// over. `announce` is called with the keys that another program has
     /// changed, on any thread and with no lock held. All references must outlive this object.
-    DefaultsDisk(const QString& path, DefaultsValues& values, Console& console,
+    DefaultsDisk(const QString& path, DefaultsValues& values, KeyTest isState, Console& console,
                  std::function<void(const QStringList&)> announce);
     ~DefaultsDisk();
 
@@ -48,11 +49,12 @@ private:
     QString exchangeLocked(std::chrono::milliseconds patience);
     QString readBase(std::chrono::milliseconds patience);
     QString moveAside(const QString& fault);
-    QStringList adoptBase();
+    QStringList adoptBase(const KeyTest& kept);
     void settle(const QString& failure);
 
     std::mutex fMutex; ///< for everything below; the watch's wait and wake need none
     DefaultsValues& fValues;
+    const KeyTest fIsState;
     Console& fConsole;
     std::function<void(const QStringList&)> fAnnounce;
     PlistFile fFile;
@@ -61,6 +63,7 @@ private:
     std::optional<QByteArray> fBytes; ///< the file as last read or written; nothing: no file
     QVariantMap fBase;                ///< the values in fBytes
     DefaultsChanges fUnwritten;       ///< taken from fValues, but not on disk
+    DefaultsChanges fOwnState;        ///< the state that was ever taken from fValues
     QString fTrouble;                 ///< why saving fails; empty while it works
     std::chrono::seconds fRetryDelay{};
     Clock::time_point fRetryAt;

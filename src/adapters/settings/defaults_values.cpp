@@ -68,9 +68,16 @@ QVariantMap DefaultsValues::userValues() const {
     return ownCopy(fUser);
 }
 
-QStringList DefaultsValues::adopt(const QVariantMap& stored) {
+QStringList DefaultsValues::adopt(const QVariantMap& stored, const KeyTest& kept) {
     const std::lock_guard lock(fMutex);
     QVariantMap next = ownCopy(stored);
+    if (kept) {
+        next.removeIf([&](QVariantMap::iterator entry) { return kept(entry.key()); });
+        for (auto it = fUser.cbegin(); it != fUser.cend(); ++it) {
+            if (kept(it.key()))
+                next.insert(it.key(), it.value());
+        }
+    }
     applyChanges(next, fChanges);
     QStringList changed;
     for (auto it = fUser.cbegin(); it != fUser.cend(); ++it) {

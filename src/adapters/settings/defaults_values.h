@@ -5,9 +5,12 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
 #include <mutex>
 
 namespace kelvo {
+
+using KeyTest = std::function<bool(QStringView key)>;
 
 /// A key with an invalid value was removed.
 using DefaultsChanges = QVariantMap;
@@ -33,9 +36,10 @@ public:
 
     QVariantMap userValues() const;
 
-    /// Takes `stored` for the user values, except for keys with a change not taken yet. Returns the
-    /// keys whose user value thereby became another.
-    QStringList adopt(const QVariantMap& stored);
+    /// Takes `stored` for the user values, except for keys with a change not taken yet and those
+    /// that `kept` holds for; it may be empty. Returns the keys whose user value thereby became
+    /// another.
+    QStringList adopt(const QVariantMap& stored, const KeyTest& kept);
 
 private:
     mutable std::mutex fMutex;

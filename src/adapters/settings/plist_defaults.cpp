@@ -2,11 +2,14 @@
 
 #include "support/stored_value.h"
 
+#include <utility>
+
 namespace kelvo {
 
-PlistDefaults::PlistDefaults(const QString& path, DispatchQueue& mainQueue, Console& console)
+PlistDefaults::PlistDefaults(const QString& path, KeyTest isState, DispatchQueue& mainQueue,
+                             Console& console)
     : fShared(std::make_shared<Shared>()),
-      fDisk(path, fShared->values, console,
+      fDisk(path, fShared->values, std::move(isState), console,
             [&mainQueue, shared = std::weak_ptr(fShared)](const QStringList& keys) {
                 for (const QString& key : keys) {
                     mainQueue.async([shared, key] {

@@ -20,6 +20,9 @@ namespace kelvo {
 /// - Programs that write it take turns by a lock on `<path>.lock`. Each lays only its own unwritten
 ///   changes over what it finds: of two changes of one key the later written one holds. Every key
 ///   that thereby changes here is told on the main queue.
+/// - Run-time state is this program's alone: it is read at the start, never again. What others
+/// store
+///   of it later is not taken over, and gives way to what was set here with the next change.
 /// - A file that is deleted while we run does not change the values here; all of them are written
 ///   with the next change.
 /// - A file that stays unreadable for a second (empty, cut, nonsense, no dictionary, over 16 MiB)
@@ -32,9 +35,10 @@ namespace kelvo {
 /// - Characters that XML cannot carry reach the file as U+FFFD.
 class PlistDefaults final : public UserDefaults {
 public:
-    /// Reads the file, at once unless it is unreadable. `mainQueue` and `console` must outlive this
+    /// Reads the file, at once unless it is unreadable. `isState` tells the keys of run-time state;
+    /// it may be called on any thread. `mainQueue` and `console` must outlive this
     /// object; work of it that still waits on the queue afterwards does nothing.
-    PlistDefaults(const QString& path, DispatchQueue& mainQueue, Console& console);
+    PlistDefaults(const QString& path, KeyTest isState, DispatchQueue& mainQueue, Console& console);
 
     /// Writes what is not written yet.
     ~PlistDefaults() override = default;

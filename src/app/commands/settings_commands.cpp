@@ -69,10 +69,10 @@ Checked checkedValue(const Preference& preference, const QString& text) {
         return QVariant(text);
     case PreferenceType::Dictionary:
         return dictionaryFrom(text);
-    case PreferenceType::Dates:
+    case PreferenceType::Times:
         break;
     }
-    return QStringLiteral("no value from outside; it can be unset");
+    return QStringLiteral("no value from outside");
 }
 
 /// The value as its type has it; null when it is not set or does not fit.
@@ -95,7 +95,7 @@ QJsonValue jsonValue(const Preference& preference, const UserDefaults& defaults)
         if (const auto dictionary = dictionaryValue(value))
             return QJsonObject::fromVariantMap(*dictionary);
         break;
-    case PreferenceType::Dates:
+    case PreferenceType::Times:
         if (value.typeId() == QMetaType::QVariantList)
             return QJsonArray::fromVariantList(value.toList());
         break;
@@ -118,6 +118,17 @@ QString allAsJson(const UserDefaults& defaults) {
     for (const Preference& each : preferenceTable())
         all.insert(each.key, jsonValue(each, defaults));
     return QString::fromUtf8(QJsonDocument(all).toJson());
+}
+
+/// Why a key cannot be set or unset; empty when it can.
+QString stateRefusal(const Preference& preference) {
+    if (preference.kind != PreferenceKind::State)
+        return {};
+    QString reason = preference.key + u" is no setting: the program writes it as it runs";
+    if (preference.key == prefEnableScanning)
+        reason += u"; the start button switches syncing on and off, and 'kelvo-mirror --once' "
+                  u"runs one pass";
+    return reason;
 }
 
 CommandAnswer refused(const QString& reason, int exitCode = cExitBadSetting) {
@@ -159,15 +170,17 @@ CommandAnswer answerSettings(const SettingsRequest& request, UserDefaults& defau
     if (!known)
         return refused(u"there is no setting '" + request.key +
                        u"'; 'kelvo-mirror --settings' prints them all");
-    if (request.verb == SettingsVerb::Unset) {
-        defaults.removeObject(known->key);
-        return {};
-    }
     if (request.verb == SettingsVerb::Get) {
         const QJsonValue value = jsonValue(*known, defaults);
         if (value.isNull())
             return refused(QString(request.key + u" is not set"), cExitNotSet);
         return {0, QString(plainText(value) + u'\n'), {}};
+    }
+    if (const QString reason = stateRefusal(*known); !reason.isEmpty())
+        return refused(reason);
+    if (request.verb == SettingsVerb::Unset) {
+        defaults.removeObject(known->key);
+        return {};
     }
     const Checked value = checkedValue(*known, request.value);
     if (const auto* wanted = std::get_if<QString>(&value))

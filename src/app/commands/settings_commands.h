@@ -35,8 +35,9 @@ inline constexpr int cExitBadSetting = 2;
 std::variant<std::monostate, SettingsRequest, QString>
 settingsRequest(const QStringList& arguments);
 
-/// Does what `request` says, for the keys of the preference table only. A value is checked against
-/// the type of its key before anything is changed.
+/// Does what `request` says, for the keys of the preference table only; of those, the program's own
+/// state can be printed but not changed. A value is checked against the type of its key before
+/// anything is changed.
 CommandAnswer answerSettings(const SettingsRequest& request, UserDefaults& defaults);
 
 /// The same on the settings file of this user, the factory values beneath; needs an application

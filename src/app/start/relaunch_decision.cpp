@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace kelvo {
@@ -16,7 +17,26 @@ QString decimal(double number, int digits) {
     return QString::fromLatin1(text.data(), end - text.data());
 }
 
+/// Beyond the year 9999, and well within what fits 64 bits in milliseconds.
+constexpr double cLatestDate = 1e12;
+
+/// Milliseconds since the beginning of 1970; nothing for what is no date.
+std::optional<qint64> milliseconds(const QVariant& recorded) {
+    if (recorded.typeId() == QMetaType::QDateTime)
+        return recorded.toDateTime().toMSecsSinceEpoch();
+    if (recorded.typeId() != QMetaType::Double)
+        return std::nullopt;
+    const double seconds = recorded.toDouble();
+    if (!(std::abs(seconds) < cLatestDate))
+        return std::nullopt;
+    return std::llround(seconds * 1000.0);
+}
+
 } // namespace
+
+double recordedDate(const QDateTime& date) {
+    return static_cast<double>(date.toMSecsSinceEpoch()) / 1000.0;
+}
 
 bool isOrdinaryStart(unsigned long count, bool autorelaunched) {
     return count != 0 && !autorelaunched;
@@ -32,10 +52,10 @@ double relaunchInterval(const QVariant& record, unsigned long count, double seco
     const unsigned long index = size - count;
     if (size <= index)
         return seconds;
-    const QVariant& date = dates.at(static_cast<qsizetype>(index));
-    if (date.typeId() != QMetaType::QDateTime)
+    const auto date = milliseconds(dates.at(static_cast<qsizetype>(index)));
+    if (!date)
         return seconds;
-    return static_cast<double>(date.toDateTime().msecsTo(now)) / 1000.0;
+    return static_cast<double>(now.toMSecsSinceEpoch() - *date) / 1000.0;
 }
 
 RelaunchDecision decideRelaunch(const QVariant& record, unsigned long count, double seconds,
@@ -43,7 +63,7 @@ RelaunchDecision decideRelaunch(const QVariant& record, unsigned long count, dou
     RelaunchDecision decision;
     if (record.typeId() == QMetaType::QVariantList)
         decision.record = record.toList();
-    decision.record.append(now);
+    decision.record.append(recordedDate(now));
 
     const double interval = relaunchInterval(record, count, seconds, now);
     if (count != 0 && !(interval < seconds))

@@ -10,6 +10,7 @@
 #include "support/notification_center.h"
 #include "support/system_error_text.h"
 
+#include <atomic>
 #include <csignal>
 #include <map>
 #include <mutex>
@@ -58,6 +59,7 @@ public:
 
     void keepUsRunning() {
         std::call_once(fKeepOnce, [this] {
+            fKept = true;
             const auto path = fParts.bundle.pathForResource(cSentinelName.toString(), QString());
             if (path && fParts.sentinelLauncher.isExecutable(*path))
                 watch(*path);
@@ -94,7 +96,9 @@ public:
             fParts.console.log(*decision.line);
         fParts.defaults.setObject(prefRecentLaunchDates, decision.record);
         if (!decision.keepRunning) {
-            fParts.defaults.setObject(prefRelaunchGivenUp, true);
+            // A later set-up in the same run leaves the sentinel of the first alone.
+            if (!fKept)
+                fParts.defaults.setObject(prefRelaunchGivenUp, true);
             return;
         }
         (void)forgetGivingUp();
@@ -180,6 +184,7 @@ private:
     const WatchdogParts fParts;
     const std::thread::id fMainThread;
     std::once_flag fKeepOnce;
+    std::atomic<bool> fKept = false; ///< whether the one turn of keepUsRunning has been taken
     std::optional<std::map<QString, Subscription>> fSignalSources;
     std::mutex fMutex; ///< for what follows
     std::optional<SentinelTask> fTaskWatchdog;

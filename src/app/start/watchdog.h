@@ -51,7 +51,7 @@ public:
     static Subscription begin(WatchdogParts parts);
 
     /// From now on `handler` is called on the main queue for each signal `number`. One that cannot
-    /// be caught is said in the system log, and the subscription is to nothing.
+    /// be caught is said in the system log; its source is made all the same.
     static Subscription catchSignal(int number, std::function<void()> handler);
 
     /// Catches the signals 1 to 15, once: the hang-up is ignored, the request to terminate ends the

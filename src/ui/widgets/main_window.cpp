@@ -10,6 +10,7 @@
 #include "ui/widgets/remote_tab.h"
 #include "ui/widgets/settings_tab.h"
 #include "ui/widgets/sync_tab.h"
+#include "ui/widgets/tab_view.h"
 #include "ui_main_window.h"
 
 #include <QCloseEvent>
@@ -42,8 +43,10 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     connect(fUi->tabView, &QTabWidget::currentChanged, this, [this](int index) {
         fDefaults.setObject(prefMainWindowTab, tabs()[static_cast<std::size_t>(index)].identifier);
         Q_EMIT tabShown(index);
-        if (fTabSelected)
-            fTabSelected(tabs()[static_cast<std::size_t>(index)]);
+    });
+    connect(fUi->tabView, &TabView::willSelect, this, [this](int index) {
+        if (fWillSelectTab)
+            fWillSelectTab(tabs()[static_cast<std::size_t>(index)]);
     });
     ibStartButton().setFocus();
 }
@@ -103,8 +106,8 @@ void MainWindow::showTab(const QString& identifier) {
     }
 }
 
-void MainWindow::setTabSelected(std::function<void(const Tab&)> tabSelected) {
-    fTabSelected = std::move(tabSelected);
+void MainWindow::setWillSelectTab(std::function<void(const Tab&)> willSelectTab) {
+    fWillSelectTab = std::move(willSelectTab);
 }
 
 // -- the window itself

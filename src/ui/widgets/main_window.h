@@ -50,8 +50,8 @@ public:
     /// Asked before the window closes at a person's wish; true lets it go.
     void setMayClose(std::function<bool()> mayClose) { fMayClose = std::move(mayClose); }
 
-    /// Told of each tab that is shown from now on.
-    void setTabSelected(std::function<void(const Tab&)> tabSelected);
+    /// Told from now on of each tab that is about to be shown.
+    void setWillSelectTab(std::function<void(const Tab&)> willSelectTab);
 
     std::vector<Tab> tabs() const;
     int currentTab() const;
@@ -99,7 +99,7 @@ private:
     SettingsTab* fSettingsTab;
     QTableView* fFoundServices;
     std::function<bool()> fMayClose;
-    std::function<void(const Tab&)> fTabSelected;
+    std::function<void(const Tab&)> fWillSelectTab;
 };
 
 } // namespace kelvo

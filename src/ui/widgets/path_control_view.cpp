@@ -4,6 +4,7 @@
 #include "support/file_url.h"
 #include "ui/widgets/elided_label.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QMenu>
 #include <QResizeEvent>
@@ -97,10 +98,15 @@ void PathControlView::rebuild() {
         QToolButton* button =
             makeButton(QStringLiteral("part%1").arg(static_cast<int>(i)), fParts[i].title);
         button->setAccessibleName(fParts[i].title);
-        button->setAccessibleDescription(tr("Opens %1").arg(fParts[i].path));
+        button->setAccessibleDescription(fParts[i].path);
         button->setToolTip(plainToolTip(fParts[i].path));
         connect(button, &QToolButton::clicked, this,
                 [this, path = fParts[i].path] { Q_EMIT partClicked(path); });
+        auto* open = new QAction(tr("Open %1").arg(literal(fParts[i].title)), button);
+        connect(open, &QAction::triggered, this,
+                [this, path = fParts[i].path] { Q_EMIT openRequested(path); });
+        button->addAction(open);
+        button->setContextMenuPolicy(Qt::ActionsContextMenu);
         setTabOrder(i == 0 ? fHidden : fButtons.back(), button);
         fButtons.push_back(button);
     }

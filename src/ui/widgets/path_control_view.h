@@ -1,4 +1,4 @@
-// PathControlView: a folder as a row of its parts, each of which can be clicked.
+// PathControlView: a folder as a row of its parts, each of which can be clicked or opened.
 #pragma once
 
 #include <QWidget>
@@ -35,6 +35,8 @@ public:
 Q_SIGNALS:
     /// A person chose the part with this path.
     void partClicked(const QString& path);
+    /// A person asked in the context menu of a part for the folder with this path.
+    void openRequested(const QString& path);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
