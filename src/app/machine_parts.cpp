@@ -15,7 +15,7 @@
 namespace kelvo {
 
 MachineParts::MachineParts(bool withTray)
-    : PassMachine(STDOUT_FILENO, STDERR_FILENO),
+    : PassMachine(STDOUT_FILENO, STDERR_FILENO, DamagedFile::IsSetAside),
       loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()), terminal(files, console),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,

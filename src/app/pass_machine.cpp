@@ -7,9 +7,10 @@
 
 namespace kelvo {
 
-PassMachine::PassMachine(int output, int errors)
-    : console(output, errors, logFile), defaults(settingsFile(), mainQueue, console),
-      bundle(resourceFolder()), commands(console), passes(passesFile(), mainQueue, console) {}
+PassMachine::PassMachine(int output, int errors, DamagedFile damagedSettings)
+    : console(output, errors, logFile),
+      defaults(settingsFile(), damagedSettings, mainQueue, console), bundle(resourceFolder()),
+      commands(console), passes(passesFile(), mainQueue, console) {}
 
 EngineParts PassMachine::engineParts(UserDefaults& settings,
                                      std::function<void(const PassRecord&)> ended) {

@@ -121,7 +121,8 @@ private:
     const qsizetype fDescriptors;
     FileConsole fConsole{fFolder + QStringLiteral("/log")};
     QtMainQueue fMainQueue;
-    PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), fMainQueue, fConsole};
+    PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), DamagedFile::IsSetAside,
+                            fMainQueue, fConsole};
     FileBundle fBundle{fFolder + QStringLiteral("/resources")};
     NotificationCenter fCenter;
     PosixShellRunner fShell{fConsole};

@@ -51,7 +51,7 @@ private:
     VirtualMainQueue fMain;
     RecordingConsole fConsole;
     std::unique_ptr<PlistDefaults> fDefaults =
-        std::make_unique<PlistDefaults>(fFolder.path(), fMain, fConsole);
+        std::make_unique<PlistDefaults>(fFolder.path(), DamagedFile::IsSetAside, fMain, fConsole);
 };
 
 class OverlayStore {

@@ -143,6 +143,9 @@ TEST_F(PrivateFilesSystemTest, BrokenSettings_AreSetAsideForTheUserAlone) {
     ASSERT_EQ(::chmod(QFile::encodeName(settingsFile()).constData(), 0666), 0);
     ASSERT_EQ(::chmod(QFile::encodeName(QFileInfo(settingsFile()).path()).constData(), 0700), 0);
     ASSERT_EQ(::chmod(QFile::encodeName(path(QStringLiteral("config"))).constData(), 0700), 0);
+    const auto repairing = startLoosely({QStringLiteral("--headless")});
+    ASSERT_TRUE(repairing->waitForLine(QStringLiteral("Got version = "), 30));
+    EXPECT_EQ(repairing->stop(), 0);
     setUpLoosely();
     workAndLook();
     EXPECT_EQ(QFileInfo(settingsFile())

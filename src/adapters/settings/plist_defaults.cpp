@@ -4,9 +4,10 @@
 
 namespace kelvo {
 
-PlistDefaults::PlistDefaults(const QString& path, DispatchQueue& mainQueue, Console& console)
+PlistDefaults::PlistDefaults(const QString& path, DamagedFile damaged, DispatchQueue& mainQueue,
+                             Console& console)
     : fShared(std::make_shared<Shared>()),
-      fDisk(path, fShared->values, console,
+      fDisk(path, damaged, fShared->values, console,
             [&mainQueue, shared = std::weak_ptr(fShared)](const QStringList& keys) {
                 for (const QString& key : keys) {
                     mainQueue.async([shared, key] {
@@ -14,7 +15,15 @@ PlistDefaults::PlistDefaults(const QString& path, DispatchQueue& mainQueue, Cons
                             alive->tell(key);
                     });
                 }
-            }) {}
+                // Not before the keys are told: what is made of them must be of the same time.
+                mainQueue.async([shared] {
+                    if (const auto alive = shared.lock())
+                        alive->known = true;
+                });
+            }) {
+    if (fDisk.known())
+        fShared->known = true;
+}
 
 QVariant PlistDefaults::object(QStringView key) const {
     return fShared->values.object(key);
