@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,11 @@ struct FileFailure {
 
     std::string text() const { return std::string(call) + name; }
 };
+
+/// For the test's name.
+inline void PrintTo(const FileFailure& failure, std::ostream* stream) {
+    *stream << failure.text();
+}
 
 inline std::vector<FileFailure> fileFailures() {
     std::vector<FileFailure> failures;
