@@ -47,8 +47,8 @@ std::optional<std::vector<Figure>> measureSettings() {
     const QTemporaryDir folder;
     VirtualMainQueue mainQueue;
     RecordingConsole console;
-    PlistDefaults defaults(folder.filePath(QStringLiteral("preferences.plist")), isState, mainQueue,
-                           console);
+    PlistDefaults defaults(folder.filePath(QStringLiteral("preferences.plist")),
+                           DamagedFile::IsSetAside, isState, mainQueue, console);
     int told = 0;
     const Subscription observer =
         defaults.observe(prefEnableScanning, [&told](const DefaultsChange&) { ++told; });

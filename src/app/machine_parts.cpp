@@ -2,12 +2,12 @@
 
 #include "adapters/desktop/desktop_tray_host.h"
 #include "adapters/network/kelvo_ssid.h"
-#include "adapters/system/private_places.h"
 #include "app/places.h"
 #include "app/version.h"
 #include "ui/widgets/tray_icon.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 
 #include <unistd.h>
@@ -15,13 +15,13 @@
 namespace kelvo {
 
 MachineParts::MachineParts(bool withTray)
-    : PassMachine(STDOUT_FILENO, STDERR_FILENO),
+    : PassMachine(STDOUT_FILENO, STDERR_FILENO, DamagedFile::IsSetAside),
       loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()), terminal(files, console),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
-      singleCopy(runtimeFolder().path, console), dnssdBrowser(console, mainQueue),
-      notices([this](const QString& title, const QString& text) {
+      singleCopy(QFile::encodeName(logFolder()).toStdString(), console),
+      dnssdBrowser(console, mainQueue), notices([this](const QString& title, const QString& text) {
           if (fTrayIcon)
               fTrayIcon->showNotice(title, text);
       }) {

@@ -27,6 +27,11 @@ public:
 
     ~OncePass() { fMachine.end(); }
 
+    /// Why no pass may be run; empty when one may.
+    QString unknownSettings() {
+        return fMachine.defaults.areKnown() ? QString() : fMachine.defaults.trouble();
+    }
+
     /// The record of the pass.
     PassRecord run() {
         // A tag that does not exist would end the program.
@@ -62,7 +67,7 @@ private:
 
     std::mutex fMutex;
     std::optional<PassRecord> fRecord;
-    PassMachine fMachine{-1, -1};
+    PassMachine fMachine{-1, -1, DamagedFile::IsLeftAlone};
     std::vector<Subscription> fSignalled;
     OverlayDefaults fSettings{fMachine.defaults};
     HeadlessButton fStartButton{[](Control*) {}};
@@ -79,7 +84,10 @@ private:
 } // namespace
 
 CommandAnswer runOnce(bool json) {
-    return outcomeOf(OncePass().run(), json);
+    OncePass pass;
+    if (const QString unknown = pass.unknownSettings(); !unknown.isEmpty())
+        return settingsUnknown(unknown);
+    return outcomeOf(pass.run(), json);
 }
 
 } // namespace kelvo

@@ -8,8 +8,9 @@
 
 namespace kelvo {
 
-PassMachine::PassMachine(int output, int errors)
-    : console(output, errors, logFile), defaults(settingsFile(), isState, mainQueue, console),
+PassMachine::PassMachine(int output, int errors, DamagedFile damagedSettings)
+    : console(output, errors, logFile),
+      defaults(settingsFile(), damagedSettings, isState, mainQueue, console),
       bundle(resourceFolder()), commands(console), passes(passesFile(), mainQueue, console) {}
 
 EngineParts PassMachine::engineParts(UserDefaults& settings,

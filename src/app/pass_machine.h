@@ -19,7 +19,7 @@ namespace kelvo {
 /// passes; what is written down reaches the disk then.
 struct PassMachine {
     /// Lines for people and for the system log go to these descriptors; -1 for nowhere.
-    PassMachine(int output, int errors);
+    PassMachine(int output, int errors, DamagedFile damagedSettings);
 
     /// What an engine works with: passes are written into the record. `ended` hears of each record
     /// too, on the thread of its pass; it may be empty.

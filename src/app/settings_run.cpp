@@ -10,33 +10,40 @@
 #include "settings/preferences.h"
 #include "support/stored_value.h"
 
-#include <unistd.h>
-
 namespace kelvo {
 
 CommandAnswer runSettingsCommand(const SettingsRequest& request) {
+    // What goes wrong is in the answer.
     RotatingLogFile noLogFile;
-    StreamConsole console(-1, STDERR_FILENO, noLogFile);
+    StreamConsole console(-1, -1, noLogFile);
     QtMainQueue mainQueue;
     const FileBundle bundle(resourceFolder());
     CommandAnswer answer;
     QVariant wanted;
+    QString trouble;
     {
-        PlistDefaults defaults(settingsFile(), isState, mainQueue, console);
+        PlistDefaults defaults(settingsFile(), DamagedFile::IsLeftAlone, isState, mainQueue,
+                               console);
+        if (!defaults.areKnown())
+            return settingsUnknown(defaults.trouble());
         registerFactoryDefaults(bundle, defaults, console);
         answer = answerSettings(request, defaults);
         defaults.synchronize();
         wanted = defaults.object(request.key);
+        trouble = defaults.trouble();
     }
     const bool changes = request.verb == SettingsVerb::Set || request.verb == SettingsVerb::Unset;
     if (!changes || answer.exitCode != 0)
         return answer;
-    PlistDefaults again(settingsFile(), isState, mainQueue, console);
+    PlistDefaults again(settingsFile(), DamagedFile::IsLeftAlone, isState, mainQueue, console);
     registerFactoryDefaults(bundle, again, console);
-    if (!sameStoredValue(again.object(request.key), wanted))
-        return {
-            cExitNotStored, {}, QStringLiteral("kelvo-mirror: the setting could not be stored\n")};
-    return answer;
+    if (again.areKnown() && sameStoredValue(again.object(request.key), wanted))
+        return answer;
+    const QString why = trouble.isEmpty() ? again.trouble() : trouble;
+    return {cExitNotStored,
+            {},
+            QString(u"kelvo-mirror: the setting could not be stored" +
+                    (why.isEmpty() ? QString() : QString(u". " + why)) + u'\n')};
 }
 
 } // namespace kelvo

@@ -50,6 +50,11 @@ public:
     /// new call begins.
     virtual Subscription observe(QStringView key, DefaultsObserver observer) = 0;
 
+    /// Whether what the user has stored is known. Until it is, only what was set since and the
+    /// defaults are read, and they are guesses. Becomes true once, on the main thread, after
+    /// observers were told what the user has stored. Never waits.
+    virtual bool areKnown() const = 0;
+
     /// Typed reading; a missing or unfit value gives the neutral one.
     bool boolForKey(QStringView key) const;
     qint64 integerForKey(QStringView key) const;

@@ -29,6 +29,7 @@ public:
 
     void synchronize() override {}
     Subscription observe(QStringView key, DefaultsObserver observer) override;
+    bool areKnown() const override { return fBeneath.areKnown(); }
 
 private:
     void changedBeneath(const QString& key) const;

@@ -13,6 +13,8 @@
 #include "support/text.h"
 #include "sync/rsync_command.h"
 
+#include <utility>
+
 namespace kelvo {
 namespace {
 
@@ -44,9 +46,15 @@ qint64 addOne(std::atomic<qint64>& count) {
 // -- actions
 
 void SyncCycle::ibStartRSyncProcess(Control* sender) {
-    if (!storeStateOf(sender, u"ibStartRSyncProcess(_:)"))
-        return;
-    if (fParts.defaults.boolForKey(prefRsyncWithSSH))
+    if (storeStateOf(sender, u"ibStartRSyncProcess(_:)"))
+        startPassOfTheKindSet();
+}
+
+void SyncCycle::startPassOfTheKindSet() {
+    // The kind is a setting too.
+    if (!fParts.defaults.areKnown() && fParts.defaults.boolForKey(prefEnableScanning))
+        waitForSettings(&SyncCycle::startPassOfTheKindSet);
+    else if (fParts.defaults.boolForKey(prefRsyncWithSSH))
         doSyncOnceBonjour();
     else
         doSyncOnce();
@@ -78,8 +86,11 @@ bool SyncCycle::storeStateOf(Control* sender, QStringView operation) {
 void SyncCycle::doSyncOnce() {
     constexpr QStringView operation = u"doSyncOnce()";
     logInside(operation, u"");
-    if (permissionToStart(operation) == Permission::Granted)
+    const Permission permission = permissionToStart(operation);
+    if (permission == Permission::Granted)
         runInBackground(PassKind::Plain, &SyncCycle::runPlainPass);
+    else if (permission == Permission::SettingsUnknown)
+        waitForSettings(&SyncCycle::doSyncOnce);
 }
 
 void SyncCycle::doSyncOnceBonjour() {
@@ -97,6 +108,9 @@ void SyncCycle::doSyncOnceBonjour() {
         break;
     case Permission::Busy:
         break;
+    case Permission::SettingsUnknown:
+        waitForSettings(&SyncCycle::doSyncOnceBonjour);
+        break;
     }
 }
 
@@ -109,6 +123,8 @@ SyncCycle::Permission SyncCycle::permissionToStart(QStringView operation) const 
         logInside(operation, u".......ALREADY in Middle of a Scan...");
         return Permission::Busy;
     }
+    if (!fParts.defaults.areKnown())
+        return Permission::SettingsUnknown;
     logInside(operation, u".......NEED to start a scan ...");
     return Permission::Granted;
 }
@@ -256,6 +272,24 @@ void SyncCycle::scheduleAfterRest(Start next) {
     const double delay = fParts.defaults.doubleForKey(prefDelayBetweenScans);
     fParts.mainQueue.asyncAfter(delay > 0.0 ? delay : cFallbackDelayBetweenScans,
                                 [this, next] { (this->*next)(); });
+}
+
+/// Only one start waits: two would run two passes at once.
+void SyncCycle::waitForSettings(Start next) {
+    showStatus(QStringLiteral("The settings file cannot be read - waiting..."), StatusColor::Red);
+    if (!std::exchange(fWaitsForSettings, true))
+        lookForSettings(next);
+}
+
+void SyncCycle::lookForSettings(Start next) {
+    fParts.mainQueue.asyncAfter(cFallbackDelayBetweenScans, [this, next] {
+        if (!fParts.defaults.areKnown() && fParts.defaults.boolForKey(prefEnableScanning)) {
+            lookForSettings(next);
+            return;
+        }
+        fWaitsForSettings = false;
+        (this->*next)();
+    });
 }
 
 void SyncCycle::markScanning() {

@@ -54,8 +54,9 @@ struct SyncCycleParts {
 };
 
 /// A pass schedules its successor; what prefEnableScanning and prefIsScanning say is asked at the
-/// start of each. The cycle must outlive every body handed to the background queue and every block
-/// waiting on the main queue: end both queues first.
+/// start of each. As long as the settings are not known none begins: the first start that was asked
+/// for waits until they are. The cycle must outlive every body handed to the background queue and
+/// every block waiting on the main queue: end both queues first.
 class SyncCycle {
 public:
     explicit SyncCycle(const SyncCycleParts& parts) : fParts(parts) {}
@@ -84,9 +85,10 @@ public:
 private:
     using Start = void (SyncCycle::*)();
     using Body = void (SyncCycle::*)(RunningPass&);
-    enum class Permission { Granted, SwitchedOff, Busy };
+    enum class Permission { Granted, SwitchedOff, Busy, SettingsUnknown };
 
     bool storeStateOf(Control* sender, QStringView operation);
+    void startPassOfTheKindSet();
     Permission permissionToStart(QStringView operation) const;
     void runInBackground(PassKind kind, Body body);
     void runPlainPass(RunningPass& pass);
@@ -100,6 +102,8 @@ private:
     void handleProblemAnswer(ModalResponse response);
     void attemptToRescanAgain();
     void scheduleAfterRest(Start next);
+    void waitForSettings(Start next);
+    void lookForSettings(Start next);
     void markScanning();
 
     QString rsyncTemplate() const;
@@ -110,6 +114,7 @@ private:
 
     const SyncCycleParts fParts;
     std::atomic<qint64> fBadWhoamiCount = 0;
+    bool fWaitsForSettings = false; ///< main thread
 };
 
 } // namespace kelvo

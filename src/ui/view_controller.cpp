@@ -156,8 +156,7 @@ void ViewController::viewDidLoad() {
     observe(prefRsyncCommandOptionTag);
     observe(prefEnableScanning);
 
-    if (defaults.boolForKey(prefAutoStartScanOnLaunch))
-        mainQueue.asyncAfter(1.0, [this] { clickStartButton(); });
+    startScanOnLaunch();
     mainQueue.asyncAfter(0.6, [this] {
         if (fParts.engine.defaults.boolForKey(prefHideOnLaunch))
             fParts.outlets.application.hide();
@@ -185,6 +184,17 @@ void ViewController::viewDidLoad() {
 QString ViewController::description() const {
     return u'<' + cViewControllerTypeName + u": 0x" +
            QString::number(reinterpret_cast<quintptr>(this), 16) + u'>';
+}
+
+/// Whether passes start by themselves is a setting: it is asked once it is known.
+void ViewController::startScanOnLaunch() {
+    const UserDefaults& defaults = fParts.engine.defaults;
+    DispatchQueue& mainQueue = fParts.engine.mainQueue;
+    if (!defaults.areKnown())
+        mainQueue.asyncAfter(1.0, [this] { startScanOnLaunch(); });
+    else if (defaults.boolForKey(prefAutoStartScanOnLaunch) &&
+             !defaults.boolForKey(prefEnableScanning))
+        mainQueue.asyncAfter(1.0, [this] { clickStartButton(); });
 }
 
 void ViewController::handWindowControllerOver() {

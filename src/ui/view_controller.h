@@ -127,6 +127,7 @@ private:
     void observe(QStringView key);
     void observeValue(const DefaultsChange& change);
     std::function<void()> reactionTo(const DefaultsChange& change);
+    void startScanOnLaunch();
     void handWindowControllerOver();
     void readVersion();
     void scriptEnded(TerminalOutcome outcome, const QString& command);

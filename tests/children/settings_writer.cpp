@@ -1,10 +1,14 @@
-// Writes settings as fast as it can, to be killed, or a number of keys beside other writers.
+// Writes settings as fast as it can, to be killed, or a number of keys beside other writers; or
+// looks what it knows of a file that fails as long as another one is there.
 //   settings_writer generations PATH
 //   settings_writer keys PATH PREFIX COUNT
+//   settings_writer look PATH OTHER
 #include "adapters/settings/plist_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 #include "settings/preferences.h"
+
+#include <unistd.h>
 
 #include <cstdio>
 #include <string_view>
@@ -43,6 +47,23 @@ void writeKeys(UserDefaults& defaults, const QString& prefix, int count) {
     }
 }
 
+void say(const char* when, const UserDefaults& defaults) {
+    std::printf("%s: %s, theirs %lld\n", when, defaults.areKnown() ? "known" : "not known",
+                static_cast<long long>(defaults.integerForKey(u"theirs")));
+}
+
+void look(UserDefaults& defaults, VirtualMainQueue& mainQueue, const char* other) {
+    say("at first", defaults);
+    defaults.setObject(u"mine", 2);
+    defaults.synchronize();
+    mainQueue.runDue();
+    say("after a change", defaults);
+    ::unlink(other);
+    defaults.synchronize();
+    mainQueue.runDue();
+    say("at last", defaults);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -50,13 +71,17 @@ int main(int argc, char** argv) {
         return 2;
     VirtualMainQueue mainQueue;
     RecordingConsole console;
-    PlistDefaults defaults(QString::fromLocal8Bit(argv[2]), isState, mainQueue, console);
+    PlistDefaults defaults(QString::fromLocal8Bit(argv[2]), DamagedFile::IsSetAside, isState,
+                           mainQueue, console);
     const std::string_view mode = argv[1];
     if (mode == "generations" && argc == 3)
         writeGenerations(defaults);
-    if (mode != "keys" || argc != 5)
+    if (mode == "look" && argc == 4)
+        look(defaults, mainQueue, argv[3]);
+    else if (mode == "keys" && argc == 5)
+        writeKeys(defaults, QString::fromLocal8Bit(argv[3]), QByteArray(argv[4]).toInt());
+    else
         return 2;
-    writeKeys(defaults, QString::fromLocal8Bit(argv[3]), QByteArray(argv[4]).toInt());
     defaults.synchronize();
     for (const QString& line : console.logged())
         std::fprintf(stderr, "%s\n", qPrintable(line));

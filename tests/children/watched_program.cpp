@@ -123,8 +123,8 @@ private:
     const qsizetype fDescriptors;
     FileConsole fConsole{fFolder + QStringLiteral("/log")};
     QtMainQueue fMainQueue;
-    PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), isState, fMainQueue,
-                            fConsole};
+    PlistDefaults fDefaults{fFolder + QStringLiteral("/preferences.plist"), DamagedFile::IsSetAside,
+                            isState, fMainQueue, fConsole};
     FileBundle fBundle{fFolder + QStringLiteral("/resources")};
     NotificationCenter fCenter;
     PosixShellRunner fShell{fConsole};

@@ -3,6 +3,7 @@
 #include "support/stored_value.h"
 
 #include <QDateTime>
+#include <QStringEncoder>
 
 #include <gtest/gtest.h>
 #include <plist/plist.h>
@@ -140,6 +141,47 @@ TEST(PlistCodecTest, WhatOthersWrite_IsRead) {
     EXPECT_TRUE(decodePlist("\n\n" + entry("<true/>") + "\n\n").root);
     EXPECT_TRUE(decodePlist("<plist><dict><key>k</key><true/></dict></plist>").root);
     EXPECT_TRUE(decodePlist("<dict><key>k</key><true/></dict>").root);
+}
+
+struct Encoded {
+    const char* name;      ///< in the declaration; empty for none
+    const char* converter; ///< Qt's name
+    const char* mark;      ///< of the order of bytes
+    int markSize;
+};
+
+QByteArray encodedPlist(const Encoded& encoded) {
+    QString text =
+        QStringLiteral("<plist><dict><key>k</key><string>Müller é</string></dict></plist>");
+    if (*encoded.name)
+        text.prepend(QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?>\n")
+                         .arg(QString::fromLatin1(encoded.name)));
+    QStringEncoder encoder(encoded.converter);
+    return QByteArray(encoded.mark, encoded.markSize) + QByteArray(encoder(text));
+}
+
+TEST(PlistCodecTest, EncodingsOfXml_AreRead) {
+    for (const Encoded& encoded :
+         {Encoded{"UTF-8", "UTF-8", "", 0}, Encoded{"UTF-8", "UTF-8", "\xef\xbb\xbf", 3},
+          Encoded{"UTF-16", "UTF-16LE", "\xff\xfe", 2},
+          Encoded{"UTF-16", "UTF-16BE", "\xfe\xff", 2}, Encoded{"utf-16", "UTF-16BE", "", 0},
+          Encoded{"UTF-16LE", "UTF-16LE", "", 0}, Encoded{"", "UTF-16LE", "\xff\xfe", 2},
+          Encoded{"UTF-32", "UTF-32LE", "\xff\xfe\0\0", 4},
+          Encoded{"UTF-32", "UTF-32BE", "\0\0\xfe\xff", 4}, Encoded{"UTF-32BE", "UTF-32BE", "", 0},
+          Encoded{"ISO-8859-1", "ISO-8859-1", "", 0}, Encoded{"iso-8859-1", "ISO-8859-1", "", 0},
+          Encoded{"UTF-16", "UTF-8", "", 0}}) {
+        const DecodedPlist decoded = decodePlist(encodedPlist(encoded));
+        ASSERT_TRUE(decoded.root) << encoded.name << ' ' << encoded.converter << ": "
+                                  << decoded.fault.toStdString();
+        EXPECT_EQ(decoded.root->value(QStringLiteral("k")).toString(), QStringLiteral("Müller é"))
+            << encoded.name << ' ' << encoded.converter;
+    }
+}
+
+TEST(PlistCodecTest, CutUtf16_IsAFault) {
+    const QByteArray whole = encodedPlist({"UTF-16", "UTF-16LE", "\xff\xfe", 2});
+    for (qsizetype length = 0; length < whole.size() - 1; ++length)
+        ASSERT_FALSE(decodePlist(whole.first(length)).root) << length;
 }
 
 TEST(PlistCodecTest, BrokenUtf8_IsShownAsReplacementCharacter) {

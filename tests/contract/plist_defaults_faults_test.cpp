@@ -1,13 +1,16 @@
 // PlistDefaults against permissions, full disks and sudden death.
 #include "contract/plist_defaults_fixture.h"
+#include "support/failing_file.h"
+#include "support/sanitized.h"
 
 #include <QProcess>
 
 #include <fcntl.h>
 #include <sched.h>
 #include <signal.h>
-#include <sys/fsuid.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cstring>
@@ -21,12 +24,13 @@ using namespace std::chrono_literals;
 
 constexpr uid_t cNobody = 65534;
 
-/// Runs `work` on a thread without the powers of root over files; threads that it makes share that.
+/// Runs `work` on a thread without the powers of root; threads that it makes share that. The C
+/// library's own calls would change every thread.
 void asPlainUser(const std::function<void()>& work) {
     std::thread([&] {
         if (::geteuid() == 0) {
-            ::setfsgid(cNobody);
-            ::setfsuid(cNobody);
+            ASSERT_EQ(::syscall(SYS_setresgid, cNobody, cNobody, cNobody), 0);
+            ASSERT_EQ(::syscall(SYS_setresuid, cNobody, cNobody, cNobody), 0);
         }
         work();
     }).join();
@@ -53,6 +57,29 @@ protected:
         ASSERT_EQ(::chmod(QFile::encodeName(fPath), file), 0);
         ASSERT_EQ(::chmod(QFile::encodeName(fFolder), folder), 0);
     }
+    void write(const QByteArray& bytes) {
+        QFile file(fPath);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(bytes);
+    }
+    QStringList asides() const {
+        return QDir(fFolder).entryList({"*.corrupt-*"}, QDir::AllEntries);
+    }
+    void expectNotObeyed(const QString& reason) {
+        fConsole.clear();
+        asPlainUser([this] {
+            PlistDefaults defaults(fPath, DamagedFile::IsSetAside, isState, fMain, fConsole);
+            EXPECT_FALSE(defaults.areKnown());
+            EXPECT_FALSE(defaults.object(u"a").isValid());
+            defaults.setObject(u"b", 2);
+            defaults.synchronize();
+        });
+        EXPECT_EQ(bytesOf(fPath), fBytes) << reason.toStdString();
+        EXPECT_EQ(asides(), QStringList());
+        ASSERT_EQ(fConsole.logged().size(), 1) << fConsole.logged().join(u'\n').toStdString();
+        EXPECT_TRUE(fConsole.logged()[0].contains(QString(u": " + reason + u". Until")))
+            << fConsole.logged()[0].toStdString();
+    }
     QByteArray bytesOf(const QString& path) {
         QFile file(path);
         return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
@@ -66,26 +93,10 @@ protected:
     RecordingConsole fConsole;
 };
 
-TEST_F(PlistDefaultsPermissionTest, FileThatMayNotBeRead_IsMovedAside) {
+TEST_F(PlistDefaultsPermissionTest, FileThatMayNotBeRead_IsNeitherMovedNorOverwritten) {
     permit(0700, 0000);
     asPlainUser([this] {
-        PlistDefaults defaults(fPath, isState, fMain, fConsole);
-        EXPECT_FALSE(defaults.object(u"a").isValid());
-        defaults.setObject(u"b", 2);
-        defaults.synchronize();
-    });
-    ASSERT_EQ(fConsole.logged().size(), 1);
-    EXPECT_EQ(decodePlist(bytesOf(fPath)).root, (QVariantMap{{"b", qlonglong{2}}}));
-    const QStringList asides = QDir(fFolder).entryList({"*.corrupt-*"}, QDir::AllEntries);
-    ASSERT_EQ(asides.size(), 1);
-    ::chmod(QFile::encodeName(fFolder + u'/' + asides[0]), 0600);
-    EXPECT_EQ(bytesOf(fFolder + u'/' + asides[0]), fBytes);
-}
-
-TEST_F(PlistDefaultsPermissionTest, FileThatMayNotBeReadNorMoved_IsNeverOverwritten) {
-    permit(0500, 0000);
-    asPlainUser([this] {
-        PlistDefaults defaults(fPath, isState, fMain, fConsole);
+        PlistDefaults defaults(fPath, DamagedFile::IsSetAside, isState, fMain, fConsole);
         EXPECT_FALSE(defaults.object(u"a").isValid());
         EXPECT_EQ(fConsole.logged().size(), 1);
         defaults.setObject(u"b", 2);
@@ -96,12 +107,96 @@ TEST_F(PlistDefaultsPermissionTest, FileThatMayNotBeReadNorMoved_IsNeverOverwrit
     EXPECT_EQ(fConsole.logged().size(), 1) << fConsole.logged().join(u'\n').toStdString();
     permit(0700, 0600);
     EXPECT_EQ(bytesOf(fPath), fBytes);
+    EXPECT_EQ(asides(), QStringList());
+}
+
+TEST_F(PlistDefaultsPermissionTest, FileThatMayBeReadAfterAll_IsReadByItself) {
+    permit(0500, 0000);
+    asPlainUser([this] {
+        PlistDefaults defaults(fPath, DamagedFile::IsSetAside, isState, fMain, fConsole);
+        int told = 0;
+        bool knownWhenTold = true;
+        const auto subscription = defaults.observe(u"a", [&](const DefaultsChange&) {
+            ++told;
+            knownWhenTold = defaults.areKnown();
+        });
+        EXPECT_FALSE(defaults.areKnown());
+        permit(0500, 0400);
+        EXPECT_TRUE(waitUntil([&] {
+            fMain.runDue();
+            return defaults.areKnown();
+        }));
+        EXPECT_EQ(defaults.integerForKey(u"a"), 1);
+        EXPECT_EQ(told, 1);
+        EXPECT_FALSE(knownWhenTold) << "observers come first";
+        EXPECT_EQ(defaults.trouble(), QString());
+    });
+    EXPECT_EQ(fConsole.logged().size(), 2) << fConsole.logged().join(u'\n').toStdString();
+}
+
+TEST_F(PlistDefaultsPermissionTest, DamagedFileThatMayNotBeMoved_IsSaidAndKept) {
+    const QByteArray damaged = fBytes.first(fBytes.size() / 2);
+    permit(0700, 0600);
+    write(damaged);
+    permit(0500, 0600);
+    asPlainUser([this] {
+        PlistDefaults defaults(fPath, DamagedFile::IsSetAside, isState, fMain, fConsole);
+        EXPECT_FALSE(defaults.areKnown());
+        defaults.setObject(u"b", 2);
+        defaults.synchronize();
+    });
+    EXPECT_EQ(bytesOf(fPath), damaged);
+    EXPECT_EQ(fConsole.logged().size(), 1) << fConsole.logged().join(u'\n').toStdString();
+}
+
+// -- whom the file is believed
+
+TEST_F(PlistDefaultsPermissionTest, FileThatOthersMayWrite_IsNotObeyed) {
+    for (const mode_t mode : {0666, 0660, 0602}) {
+        permit(0755, mode);
+        expectNotObeyed(QStringLiteral("it can be written by other users"));
+    }
+    for (const mode_t folder : {0777, 0775, 0703, 01777}) {
+        permit(folder, 0600);
+        expectNotObeyed(QStringLiteral("of its folder: it can be written by other users"));
+    }
+}
+
+TEST_F(PlistDefaultsPermissionTest, FileOrFolderOfAnotherUser_IsNotObeyed) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs root to give files away";
+    permit(0755, 0644);
+    ASSERT_EQ(::chown(QFile::encodeName(fPath), cNobody - 1, cNobody), 0);
+    expectNotObeyed(QStringLiteral("it belongs to another user"));
+    ASSERT_EQ(::chown(QFile::encodeName(fPath), cNobody, cNobody), 0);
+    ASSERT_EQ(::chown(QFile::encodeName(fFolder), cNobody - 1, cNobody), 0);
+    expectNotObeyed(QStringLiteral("of its folder: it belongs to another user"));
+}
+
+TEST_F(PlistDefaultsPermissionTest, FileThatNobodyElseReaches_IsObeyed) {
+    for (const auto& [folder, file] : {std::pair(0700, 0666), std::pair(0755, 0644)}) {
+        permit(folder, file);
+        asPlainUser([this] {
+            PlistDefaults defaults(fPath, DamagedFile::IsSetAside, isState, fMain, fConsole);
+            EXPECT_TRUE(defaults.areKnown());
+        });
+    }
+    EXPECT_TRUE(fConsole.logged().isEmpty());
+}
+
+TEST_F(PlistDefaultsPermissionTest, EmptyFolderThatOthersMayWrite_IsNoFirstStart) {
+    permit(0777, 0600);
+    ASSERT_TRUE(QFile::remove(fPath));
+    asPlainUser([this] {
+        PlistDefaults defaults(fPath, DamagedFile::IsSetAside, isState, fMain, fConsole);
+        EXPECT_FALSE(defaults.areKnown());
+    });
 }
 
 TEST_F(PlistDefaultsPermissionTest, FileThatMayBeReadAgain_IsJoinedWithWhatMemoryHolds) {
     permit(0500, 0000);
     asPlainUser([this] {
-        PlistDefaults defaults(fPath, isState, fMain, fConsole);
+        PlistDefaults defaults(fPath, DamagedFile::IsSetAside, isState, fMain, fConsole);
         defaults.setObject(u"b", 2);
         defaults.synchronize();
         permit(0700, 0600);
@@ -116,7 +211,7 @@ TEST_F(PlistDefaultsPermissionTest, FileThatMayBeReadAgain_IsJoinedWithWhatMemor
 TEST_F(PlistDefaultsPermissionTest, FolderThatMayNotBeWritten_IsSaidOnceAndWrittenWhenItMay) {
     permit(0500, 0600);
     asPlainUser([this] {
-        PlistDefaults defaults(fPath, isState, fMain, fConsole);
+        PlistDefaults defaults(fPath, DamagedFile::IsSetAside, isState, fMain, fConsole);
         EXPECT_EQ(defaults.integerForKey(u"a"), 1);
         EXPECT_TRUE(fConsole.logged().isEmpty()) << "reading needs no lock";
         for (int round = 2; round < 5; ++round) {
@@ -132,6 +227,38 @@ TEST_F(PlistDefaultsPermissionTest, FolderThatMayNotBeWritten_IsSaidOnceAndWritt
     EXPECT_EQ(decodePlist(bytesOf(fPath)).root, (QVariantMap{{"a", qlonglong{4}}}));
     EXPECT_EQ(fConsole.logged().size(), 2);
 }
+
+class PlistDefaultsReadErrorTest : public PlistDefaultsFixture,
+                                   public ::testing::WithParamInterface<FileFailure> {};
+
+TEST_P(PlistDefaultsReadErrorTest, HealthyFile_SurvivesAndIsReadLater) {
+    if (cSanitized)
+        GTEST_SKIP() << "the sanitizer's library must be the first one that is loaded";
+    fFolder.replace({{"theirs", 1LL}});
+    const QString condition = fFolder.folder() + QStringLiteral("/failing");
+    ASSERT_TRUE(QFile(condition).open(QFile::WriteOnly));
+    QProcess looker;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(KELVO_FAILING_FILE));
+    environment.insert(QStringLiteral("FAILING_FILE"), fFolder.path());
+    environment.insert(QStringLiteral("FAILING_CALL"), QString::fromLatin1(GetParam().call));
+    environment.insert(QStringLiteral("FAILING_ERRNO"), QString::number(GetParam().error));
+    environment.insert(QStringLiteral("FAILING_WHILE"), condition);
+    looker.setProcessEnvironment(environment);
+    looker.start(QStringLiteral(KELVO_SETTINGS_WRITER), {"look", fFolder.path(), condition});
+    ASSERT_TRUE(looker.waitForFinished(30'000));
+    EXPECT_EQ(looker.readAllStandardOutput(), "at first: not known, theirs 0\n"
+                                              "after a change: not known, theirs 0\n"
+                                              "at last: known, theirs 1\n");
+    const QByteArrayList said = looker.readAllStandardError().trimmed().split('\n');
+    ASSERT_EQ(said.size(), 2) << said.join('\n').constData();
+    EXPECT_TRUE(said[0].contains(std::strerror(GetParam().error))) << said[0].constData();
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"mine", qlonglong{2}}, {"theirs", qlonglong{1}}}));
+    EXPECT_TRUE(fFolder.otherFiles().isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Errors, PlistDefaultsReadErrorTest, ::testing::ValuesIn(fileFailures()),
+                         [](const auto& tested) { return tested.param.text(); });
 
 class PlistDefaultsFaultTest : public PlistDefaultsFixture {
 protected:
@@ -171,10 +298,10 @@ TEST_F(PlistDefaultsFaultTest, FullDisk_OldFileStaysAndNewOneFollowsWhenThereIsR
     ASSERT_TRUE(QDir().mkpath(fFolder.folder()));
     std::string refused;
     std::thread([&] {
-        const bool mounted =
-            ::unshare(CLONE_NEWNS) == 0 &&
-            ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-            ::mount("small", QFile::encodeName(fFolder.folder()), "tmpfs", 0, "size=64k") == 0;
+        const bool mounted = ::unshare(CLONE_NEWNS) == 0 &&
+                             ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                             ::mount("small", QFile::encodeName(fFolder.folder()), "tmpfs", 0,
+                                     "size=64k,mode=700") == 0;
         if (mounted)
             workOnFullDisk();
         else

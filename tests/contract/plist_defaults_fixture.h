@@ -18,7 +18,8 @@ namespace kelvo {
 class PlistDefaultsFixture : public ::testing::Test {
 protected:
     std::unique_ptr<PlistDefaults> open() {
-        return std::make_unique<PlistDefaults>(fFolder.path(), isState, fMain, fConsole);
+        return std::make_unique<PlistDefaults>(fFolder.path(), DamagedFile::IsSetAside, isState,
+                                               fMain, fConsole);
     }
 
     /// Waits until the file holds `value` under `key`.

@@ -1,5 +1,6 @@
 #include "contract/plist_defaults_fixture.h"
 #include "settings/preference_keys.h"
+#include "settings/preferences.h"
 #include "support/dnssd_service.h"
 
 #include <QDateTime>
@@ -242,9 +243,42 @@ TEST_F(PlistDefaultsTest, PipeInThePlaceOfTheFile_DoesNotHoldUsUp) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(fFolder.path()), 0600), 0);
     const auto defaults = open();
     EXPECT_EQ(fConsole.logged().size(), 1);
+    EXPECT_FALSE(defaults->areKnown());
     defaults->setObject(u"a", 1);
     defaults->synchronize();
+    EXPECT_TRUE(fFolder.otherFiles().isEmpty()) << "no file, no damage";
+    ASSERT_TRUE(QFile::remove(fFolder.path()));
+    defaults->synchronize();
     EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{1}}}));
+}
+
+TEST_F(PlistDefaultsTest, DamagedFileLeftAlone_StaysAndNothingIsKnown) {
+    const QByteArray damaged = cutFile().toUtf8();
+    fFolder.write(damaged);
+    {
+        PlistDefaults defaults(fFolder.path(), DamagedFile::IsLeftAlone, isState, fMain, fConsole);
+        EXPECT_FALSE(defaults.areKnown());
+        EXPECT_TRUE(
+            defaults.trouble().endsWith(QStringLiteral("are not known: its end is missing")))
+            << defaults.trouble().toStdString();
+        defaults.setObject(u"a", 1);
+        defaults.synchronize();
+    }
+    EXPECT_EQ(fFolder.bytes(), damaged);
+    EXPECT_TRUE(fFolder.otherFiles().isEmpty());
+}
+
+TEST_F(PlistDefaultsTest, FileDamagedMeanwhileAndLeftAlone_StaysToo) {
+    fFolder.replace({{"a", 1LL}});
+    PlistDefaults defaults(fFolder.path(), DamagedFile::IsLeftAlone, isState, fMain, fConsole);
+    EXPECT_TRUE(defaults.areKnown());
+    fFolder.write("rubbish");
+    defaults.setObject(u"a", 2);
+    defaults.synchronize();
+    EXPECT_EQ(fFolder.bytes(), "rubbish");
+    EXPECT_TRUE(fFolder.otherFiles().isEmpty());
+    EXPECT_TRUE(defaults.areKnown());
+    EXPECT_FALSE(defaults.trouble().isEmpty());
 }
 
 TEST_F(PlistDefaultsTest, WrongTypes_ReadAsNeutralAndStayInTheFile) {

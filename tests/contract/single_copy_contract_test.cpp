@@ -1,5 +1,4 @@
 #include "adapters/process/single_copy_socket.h"
-#include "adapters/system/private_places.h"
 #include "adapters/system/unique_fd.h"
 #include "fakes/fake_single_copy.h"
 #include "fakes/recording_console.h"
@@ -255,8 +254,7 @@ TEST_F(SingleCopySocketTest, LockThatIsALink_IsNotFollowed) {
 }
 
 TEST_F(SingleCopySocketTest, UnusableFolder_RunsUnguardedWithALine) {
-    for (const std::string& unusable : {std::string(), std::string("/proc/self/fdinfo"),
-                                        std::string("/nowhere"), "/tmp/" + std::string(200, 'x')}) {
+    for (const char* unusable : {"", "/proc/self/fdinfo", "/proc/nowhere"}) {
         console.clear();
         SingleCopySocket single(unusable, console);
         EXPECT_EQ(single.claim([] {}), Claim::Unguarded) << unusable;
@@ -265,70 +263,37 @@ TEST_F(SingleCopySocketTest, UnusableFolder_RunsUnguardedWithALine) {
     }
 }
 
-// -- the runtime folder
-
-class RuntimeFolderTest : public ::testing::Test {
-protected:
-    RuntimeFolderTest() {
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(given()));
-        qputenv("TMPDIR", QFile::encodeName(folder.path()));
-    }
-    ~RuntimeFolderTest() override {
-        qputenv("XDG_RUNTIME_DIR", fRuntime);
-        qputenv("TMPDIR", fTemporary);
-    }
-    QString given() const { return folder.filePath(QStringLiteral("given")); }
-    std::string own() const {
-        return folder.filePath(QStringLiteral("kelvo-mirror-%1").arg(::getuid())).toStdString();
-    }
-    void makeGiven(mode_t mode) {
-        ASSERT_EQ(::mkdir(QFile::encodeName(given()).constData(), 0700), 0);
-        ASSERT_EQ(::chmod(QFile::encodeName(given()).constData(), mode), 0);
-    }
-
-    QTemporaryDir folder;
-
-private:
-    QByteArray fRuntime = qgetenv("XDG_RUNTIME_DIR");
-    QByteArray fTemporary = qgetenv("TMPDIR");
-};
-
-TEST_F(RuntimeFolderTest, PrivateFolder_IsTaken) {
-    makeGiven(0700);
-    EXPECT_EQ(runtimeFolder().path, given().toStdString());
-}
-
-TEST_F(RuntimeFolderTest, MissingOrOpenFolder_GivesWayToOneOfOurOwn) {
-    EXPECT_EQ(runtimeFolder().path, own());
+TEST_F(SingleCopySocketTest, MissingFolder_IsMadeForTheUserAlone) {
+    const std::string missing = path("state/Kelvo");
+    SingleCopySocket single(missing, console);
+    EXPECT_EQ(single.claim([] {}), Claim::First);
     struct stat status {};
-    ASSERT_EQ(::stat(own().c_str(), &status), 0);
+    ASSERT_EQ(::stat(missing.c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0700U);
-    makeGiven(0755);
-    EXPECT_EQ(runtimeFolder().path, own());
-    qputenv("XDG_RUNTIME_DIR", "relative");
-    EXPECT_EQ(runtimeFolder().path, own());
-    qunsetenv("XDG_RUNTIME_DIR");
-    EXPECT_EQ(runtimeFolder().path, own());
 }
 
-TEST_F(RuntimeFolderTest, FolderThatOthersMayEnter_IsRefused) {
-    ASSERT_EQ(::mkdir(own().c_str(), 0700), 0);
-    ASSERT_EQ(::chmod(own().c_str(), 0770), 0);
-    EXPECT_TRUE(runtimeFolder().path.empty());
-    EXPECT_NE(runtimeFolder().fault.find("open to others"), std::string::npos);
+TEST_F(SingleCopySocketTest, FolderThatOthersMayWrite_IsNotTrusted) {
+    for (const mode_t mode : {0777, 01777, 0703}) {
+        console.clear();
+        ASSERT_EQ(::chmod(folder.path().toLocal8Bit().constData(), mode), 0);
+        EXPECT_EQ(copy()->claim([] {}), Claim::Unguarded);
+        EXPECT_TRUE(console.logged().join(u' ').endsWith(u"it can be written by other users"));
+    }
 }
 
-TEST_F(RuntimeFolderTest, LinkOrFileInItsPlace_IsRefused) {
-    makeGiven(0755);
-    ASSERT_EQ(::symlink(QFile::encodeName(given()).constData(), own().c_str()), 0);
-    EXPECT_TRUE(runtimeFolder().path.empty());
-    EXPECT_NE(runtimeFolder().fault.find("is not a folder"), std::string::npos);
+TEST_F(SingleCopySocketTest, FolderThatOthersMayOnlyEnter_IsGoodEnough) {
+    ASSERT_EQ(::chmod(folder.path().toLocal8Bit().constData(), 0755), 0);
+    const auto first = copy();
+    EXPECT_EQ(first->claim([] {}), Claim::First);
 }
 
-TEST_F(RuntimeFolderTest, UnwritableTemporaryFolder_IsNoFolderWithAReason) {
-    qputenv("TMPDIR", "/proc/self/fdinfo");
-    EXPECT_TRUE(runtimeFolder().path.empty());
-    EXPECT_FALSE(runtimeFolder().fault.empty());
+TEST_F(SingleCopySocketTest, PathTooLongForASocket_IsGuardedAllTheSame) {
+    const std::string longer = path(std::string(120, 'x').c_str());
+    SingleCopySocket first(longer, console, 100ms);
+    EXPECT_EQ(first.claim([] {}), Claim::First);
+    EXPECT_EQ(console.logged().size(), 1);
+    SingleCopySocket second(longer, console, 100ms);
+    EXPECT_EQ(second.claim([] {}), Claim::OtherIsSilent);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 add_executable(settings_writer children/settings_writer.cpp)
 target_link_libraries(settings_writer PRIVATE kelvo_testing kelvo_adapters)
+add_library(failing_file MODULE children/failing_file.cpp)
+target_include_directories(failing_file PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 add_executable(zoo children/zoo.cpp)
 add_executable(network_watcher children/network_watcher.cpp)
 target_link_libraries(network_watcher PRIVATE kelvo_adapters kelvo_fakes)
@@ -26,6 +28,7 @@ kelvo_tests(contract
     contract/pass_store_contract_test.cpp
     contract/plist_codec_test.cpp
     contract/plist_defaults_faults_test.cpp
+    contract/plist_defaults_links_test.cpp
     contract/plist_defaults_sharing_test.cpp
     contract/plist_defaults_test.cpp
     contract/posix_shell_runner_test.cpp
@@ -51,8 +54,9 @@ kelvo_tests(contract
     contract/workspace_contract_test.cpp
   LINKS kelvo_sync kelvo_remote kelvo_adapters kelvo_bus_testing
 )
-add_dependencies(contract_tests kelvo_sentinel network_watcher settings_writer zoo)
+add_dependencies(contract_tests failing_file kelvo_sentinel network_watcher settings_writer zoo)
 target_compile_definitions(contract_tests PRIVATE
+  KELVO_FAILING_FILE="$<TARGET_FILE:failing_file>"
   KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
   KELVO_SENTINEL="$<TARGET_FILE:kelvo_sentinel>"
   KELVO_RESOURCES="${CMAKE_BINARY_DIR}/lib/kelvo-mirror"

@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <atomic>
 #include <limits>
 #include <memory>
@@ -27,6 +29,11 @@ public:
     VirtualMainQueue& main() { return fMain; }
     void changeByAnotherProgram(const QString& key, const QVariant& value) {
         fDefaults->changeByAnotherProgram(fMain, key, value);
+    }
+    void beUnknown() { fDefaults->setKnown(false); }
+    void becomeKnown(const QString& key, const QVariant& value) {
+        fDefaults->changeByAnotherProgram(fMain, key, value);
+        fMain.async([this] { fDefaults->setKnown(true); });
     }
     void destroy() { fDefaults.reset(); }
 
@@ -45,14 +52,26 @@ public:
         applyChanges(values, {{key, storedValue(value)}});
         fFolder.replace(values);
     }
+    /// A store on a file that cannot be read.
+    void beUnknown() {
+        ASSERT_EQ(::mkfifo(QFile::encodeName(fFolder.path()), 0600), 0);
+        fDefaults = makeStore();
+    }
+    void becomeKnown(const QString& key, const QVariant& value) {
+        fFolder.replace({{key, value}});
+        fDefaults->synchronize();
+    }
     void destroy() { fDefaults.reset(); }
 
 private:
     SettingsFolder fFolder;
     VirtualMainQueue fMain;
     RecordingConsole fConsole;
-    std::unique_ptr<PlistDefaults> fDefaults =
-        std::make_unique<PlistDefaults>(fFolder.path(), isState, fMain, fConsole);
+    std::unique_ptr<PlistDefaults> makeStore() {
+        return std::make_unique<PlistDefaults>(fFolder.path(), DamagedFile::IsSetAside, isState,
+                                               fMain, fConsole);
+    }
+    std::unique_ptr<PlistDefaults> fDefaults = makeStore();
 };
 
 class OverlayStore {
@@ -61,6 +80,11 @@ public:
     VirtualMainQueue& main() { return fMain; }
     void changeByAnotherProgram(const QString& key, const QVariant& value) {
         fBeneath.changeByAnotherProgram(fMain, key, value);
+    }
+    void beUnknown() { fBeneath.setKnown(false); }
+    void becomeKnown(const QString& key, const QVariant& value) {
+        fBeneath.changeByAnotherProgram(fMain, key, value);
+        fMain.async([this] { fBeneath.setKnown(true); });
     }
     void destroy() { fOverlay.reset(); }
 
@@ -359,6 +383,26 @@ TYPED_TEST(UserDefaultsContractTest, AnyThread_WritersAndReadersAtOnce) {
     for (int number = 0; number < cThreads; ++number)
         EXPECT_EQ(this->defaults().integerForKey(QStringLiteral("key%1").arg(number)), cRounds);
     EXPECT_EQ(told, cThreads * cRounds);
+}
+
+TYPED_TEST(UserDefaultsContractTest, AreKnown_OnceObserversWereTold) {
+    EXPECT_TRUE(this->defaults().areKnown());
+    this->fStore.beUnknown();
+    auto& defaults = this->defaults();
+    EXPECT_FALSE(defaults.areKnown());
+    int told = 0;
+    const Subscription subscription = defaults.observe(cKey, [&](const DefaultsChange& change) {
+        ++told;
+        EXPECT_EQ(change.newValue, QVariant("stored"));
+        EXPECT_FALSE(defaults.areKnown());
+    });
+    this->fStore.becomeKnown(cKey, "stored");
+    EXPECT_FALSE(defaults.areKnown()) << "not before the main thread";
+    EXPECT_TRUE(waitUntil([&] {
+        this->fStore.main().runDue();
+        return defaults.areKnown();
+    }));
+    EXPECT_EQ(told, 1);
 }
 
 TYPED_TEST(UserDefaultsContractTest, TypedGetters_UnfitAndMissingGiveTheNeutralValue) {

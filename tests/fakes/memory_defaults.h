@@ -26,6 +26,9 @@ public:
     /// As if another program had changed the stored file: observers are told on `main`, later.
     void changeByAnotherProgram(DispatchQueue& main, QStringView key, const QVariant& value);
 
+    bool areKnown() const override { return fKnown; }
+    void setKnown(bool known) { fKnown = known; }
+
     int synchronized() const { return fSynchronized; }
 
     /// Every change so far, in order: the key and the user value (invalid when removed).
@@ -50,6 +53,7 @@ private:
     std::vector<std::pair<QString, QVariant>> fChanges;
     std::shared_ptr<Observers> fObservers = std::make_shared<Observers>();
     std::atomic<int> fSynchronized = 0;
+    std::atomic<bool> fKnown = true;
 };
 
 } // namespace kelvo

@@ -1,11 +1,16 @@
 // One pass and the settings from a terminal: the built program, real rsync between two folders.
+#include "support/failing_file.h"
 #include "support/program_profile.h"
+#include "support/running_program.h"
+#include "support/sanitized.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 
 #include <gtest/gtest.h>
+
+#include <cstring>
 
 namespace kelvo {
 namespace {
@@ -103,6 +108,111 @@ TEST_F(OnceSystemTest, SettingsThatCannotBeStored_AreAnError) {
         run({QStringLiteral("--set"), QStringLiteral("prefPath1"), QStringLiteral("/a")});
     EXPECT_EQ(ended.code, 1);
     EXPECT_TRUE(ended.errors.contains("could not be stored")) << ended.errors.constData();
+}
+
+// -- settings that are not known
+
+class FailingSettingsSystemTest : public OnceSystemTest {
+protected:
+    FailingSettingsSystemTest() {
+        writeProfile();
+        write(path(QStringLiteral("Camera/a.mov")), "movie");
+        fSettings = contents(settingsFile());
+    }
+
+    /// Each command that reads settings, run through `launcher`, ends with code 5 and a reason.
+    void expectLeftAlone(const QStringList& launcher, const QByteArray& reason) const {
+        const QString key = QStringLiteral("prefPath1");
+        for (const QStringList& command :
+             {QStringList{QStringLiteral("--get"), key}, QStringList{QStringLiteral("--settings")},
+              QStringList{QStringLiteral("--set"), key, QStringLiteral("/x")},
+              QStringList{QStringLiteral("--unset"), key}, QStringList{QStringLiteral("--once")},
+              QStringList{QStringLiteral("--once"), QStringLiteral("--json")}}) {
+            const QStringList all = launcher + QStringList{cProgram} + command;
+            const Ended ended = runToEnd(all.first(), all.mid(1));
+            EXPECT_EQ(ended.code, 5) << all.join(u' ').toStdString();
+            EXPECT_EQ(ended.output, "") << all.join(u' ').toStdString();
+            EXPECT_TRUE(ended.errors.startsWith("kelvo-mirror: The settings in ") &&
+                        ended.errors.contains(reason))
+                << ended.errors.constData();
+        }
+        expectUntouched();
+    }
+    void expectUntouched() const {
+        EXPECT_EQ(contents(settingsFile()), fSettings);
+        EXPECT_EQ(QFileInfo(settingsFile()).dir().entryList(QDir::Files),
+                  (QStringList{QStringLiteral("preferences.plist"),
+                               QStringLiteral("preferences.plist.lock")}));
+        EXPECT_FALSE(QFile::exists(path(QStringLiteral("Incoming/a.mov")))) << "no pass on guesses";
+    }
+
+    QByteArray fSettings;
+};
+
+class FailingSettingsFileSystemTest : public FailingSettingsSystemTest,
+                                      public ::testing::WithParamInterface<FileFailure> {
+protected:
+    QStringList failing() const {
+        return {QStringLiteral("env"), QStringLiteral("LD_PRELOAD=" KELVO_FAILING_FILE),
+                u"FAILING_FILE=" + settingsFile(),
+                u"FAILING_CALL=" + QString::fromLatin1(GetParam().call),
+                u"FAILING_ERRNO=" + QString::number(GetParam().error)};
+    }
+};
+
+TEST_P(FailingSettingsFileSystemTest, Commands_SaySoAndLeaveItAlone) {
+    if (cSanitized)
+        GTEST_SKIP() << "the sanitizer's library must be the first one that is loaded";
+    expectLeftAlone(failing(), std::strerror(GetParam().error));
+}
+
+INSTANTIATE_TEST_SUITE_P(Errors, FailingSettingsFileSystemTest, ::testing::ValuesIn(fileFailures()),
+                         [](const auto& tested) { return tested.param.text(); });
+
+TEST_F(FailingSettingsSystemTest, DamagedSettings_AreLeftAloneByCommands) {
+    fSettings.truncate(fSettings.size() / 2);
+    write(settingsFile(), fSettings);
+    expectLeftAlone({}, "its end is missing");
+}
+
+TEST_F(FailingSettingsSystemTest, FewDescriptors_CostNoSettings) {
+    for (int limit = 5; limit <= 40; ++limit) {
+        const Ended ended = runToEnd(
+            QStringLiteral("/bin/sh"),
+            {QStringLiteral("-c"), QStringLiteral("ulimit -n \"$1\"; exec \"$0\" --get prefPath1"),
+             cProgram, QString::number(limit)});
+        EXPECT_TRUE(ended.code != 0 ||
+                    ended.output == QString(path(QStringLiteral("Camera")) + u'\n').toUtf8())
+            << limit << ": " << ended.output.constData();
+        ASSERT_EQ(contents(settingsFile()), fSettings) << limit;
+    }
+    ASSERT_EQ(run({QStringLiteral("--get"), QStringLiteral("prefPath1")}).code, 0);
+    expectUntouched();
+}
+
+TEST_F(FailingSettingsSystemTest, RunningProgram_BeginsOnceTheFileCanBeRead) {
+    if (cSanitized)
+        GTEST_SKIP() << "the sanitizer's library must be the first one that is loaded";
+    const QString condition = path(QStringLiteral("failing"));
+    write(condition, "");
+    QProcessEnvironment failing = environment();
+    failing.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(KELVO_FAILING_FILE));
+    failing.insert(QStringLiteral("FAILING_FILE"), settingsFile());
+    failing.insert(QStringLiteral("FAILING_CALL"), QStringLiteral("open"));
+    failing.insert(QStringLiteral("FAILING_ERRNO"), QString::number(EIO));
+    failing.insert(QStringLiteral("FAILING_WHILE"), condition);
+    RunningProgram program(cProgram, {QStringLiteral("--headless")}, failing);
+    ASSERT_TRUE(program.waitForLine(QStringLiteral("Got version = "), 30));
+    expectUntouched();
+    ASSERT_TRUE(QFile::remove(condition));
+    ASSERT_TRUE(program.waitForLine(QStringLiteral("result from shell command ="), 60))
+        << program.transcript().toStdString();
+    EXPECT_EQ(program.stop(), 0);
+    EXPECT_EQ(contents(path(QStringLiteral("Incoming/a.mov"))), "movie");
+    EXPECT_EQ(program.transcript().count(QStringLiteral("are not known: Input/output error")), 1)
+        << program.transcript().toStdString();
+    EXPECT_EQ(run({QStringLiteral("--get"), QStringLiteral("prefPath1")}).output,
+              QString(path(QStringLiteral("Camera")) + u'\n').toUtf8());
 }
 
 TEST_F(OnceSystemTest, CrowdedCommandLines_AreRefused) {

@@ -111,12 +111,30 @@ TEST_F(PrivateFilesSystemTest, OnePassFirstUnderALooseMask_IsForTheUserAlone) {
     EXPECT_TRUE(QFile::exists(path(QStringLiteral("state/kelvo-mirror/passes.sqlite"))));
 }
 
-TEST_F(PrivateFilesSystemTest, NoRuntimeFolder_TheOneOfOurOwnIsForTheUserAlone) {
+TEST_F(PrivateFilesSystemTest, NoRuntimeFolder_EverythingIsForTheUserAlone) {
     fEnvironment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
     setUpLoosely();
     workAndLook();
-    const QString own = path(QStringLiteral("tmp/kelvo-mirror-%1").arg(::getuid()));
-    EXPECT_TRUE(QFile::exists(QString(own + u"/kelvo-mirror.lock")));
+    EXPECT_TRUE(QFile::exists(path(QStringLiteral("state/Kelvo/kelvo-mirror.lock"))));
+}
+
+TEST_F(PrivateFilesSystemTest, FolderPlantedInTheTemporaryFolder_LiftsNoGuard) {
+    const QString planted = path(QStringLiteral("tmp/kelvo-mirror-%1").arg(::getuid()));
+    ASSERT_TRUE(QDir().mkpath(planted));
+    ASSERT_EQ(::chmod(QFile::encodeName(planted).constData(), 0777), 0);
+    for (const bool withRuntimeFolder : {false, true}) {
+        QProcessEnvironment first = fEnvironment;
+        first.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+        RunningProgram running(cProgram, {QStringLiteral("--headless")}, first);
+        ASSERT_TRUE(running.waitForLine(QStringLiteral("Got version = "), 30));
+        RunningProgram second(cProgram, {QStringLiteral("--headless")},
+                              withRuntimeFolder ? fEnvironment : first);
+        EXPECT_EQ(waitForEnd(second), 0);
+        EXPECT_TRUE(second.transcript().contains(QStringLiteral("is running already")))
+            << second.transcript().toStdString();
+        EXPECT_EQ(running.stop(), 0);
+    }
+    EXPECT_TRUE(QDir(planted).isEmpty());
 }
 
 TEST_F(PrivateFilesSystemTest, FilesSetAsideAndRotated_AreForTheUserAlone) {
@@ -143,6 +161,9 @@ TEST_F(PrivateFilesSystemTest, BrokenSettings_AreSetAsideForTheUserAlone) {
     ASSERT_EQ(::chmod(QFile::encodeName(settingsFile()).constData(), 0666), 0);
     ASSERT_EQ(::chmod(QFile::encodeName(QFileInfo(settingsFile()).path()).constData(), 0700), 0);
     ASSERT_EQ(::chmod(QFile::encodeName(path(QStringLiteral("config"))).constData(), 0700), 0);
+    const auto repairing = startLoosely({QStringLiteral("--headless")});
+    ASSERT_TRUE(repairing->waitForLine(QStringLiteral("Got version = "), 30));
+    EXPECT_EQ(repairing->stop(), 0);
     setUpLoosely();
     workAndLook();
     EXPECT_EQ(QFileInfo(settingsFile())

@@ -22,6 +22,7 @@ kelvo_tests(system
     ENVIRONMENT LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/support/leaks.supp
 )
 target_compile_definitions(system_tests PRIVATE
+  KELVO_FAILING_FILE="$<TARGET_FILE:failing_file>"
   KELVO_HARDENED_BUILD=$<BOOL:${KELVO_HARDENED}>
   KELVO_PICTURES="${CMAKE_BINARY_DIR}/pictures"
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror"
@@ -29,4 +30,4 @@ target_compile_definitions(system_tests PRIVATE
   KELVO_WATCHED_PROGRAM="$<TARGET_FILE:watched_program>"
   KELVO_TRAY_PROGRAM="$<TARGET_FILE:tray_program>"
   KELVO_VERSION="${PROJECT_VERSION}")
-add_dependencies(system_tests kelvo-mirror kelvo_sentinel tray_program watched_program)
+add_dependencies(system_tests failing_file kelvo-mirror kelvo_sentinel tray_program watched_program)

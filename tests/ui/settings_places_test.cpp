@@ -28,6 +28,7 @@ public:
         fValues.registerDefaults(defaults);
     }
     void synchronize() override {}
+    bool areKnown() const override { return true; }
     Subscription observe(QStringView key, DefaultsObserver observer) override {
         observed.insert(key.toString());
         return fValues.observe(key, std::move(observer));

@@ -162,6 +162,45 @@ TEST_F(SyncCycleTest, MissingStartButton_StopsTheProgramAtTheClick) {
     EXPECT_EXIT(without.clickStartButton(), ::testing::KilledBySignal(SIGILL), "start button");
 }
 
+TEST_F(SyncCycleTest, UnknownSettings_LetNoPassBeginAndOneOfTheKindSetOnceTheyAreKnown) {
+    defaults.setKnown(false);
+    button.performClick();
+    cycle.doSyncOnce();
+    cycle.doSyncOnceBonjour();
+    const QStringList said = statusTexts();
+    EXPECT_EQ(said.last(), QStringLiteral("The settings file cannot be read - waiting..."));
+    mainQueue.advance(3600.0);
+    EXPECT_EQ(bgQueue.size(), 0U);
+    EXPECT_EQ(statusTexts(), said) << "not again and again";
+    defaults.setObject(prefRsyncWithSSH, false);
+    defaults.setKnown(true);
+    mainQueue.advance(3.0);
+    ASSERT_EQ(bgQueue.size(), 1U);
+    runBodies();
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].kind, PassKind::Plain);
+}
+
+TEST_F(SyncCycleTest, UnknownSettings_PassThatRestsWaitsForThem) {
+    button.performClick();
+    runBodies();
+    defaults.setKnown(false);
+    mainQueue.advance(31.0);
+    EXPECT_EQ(bgQueue.size(), 0U);
+    defaults.setKnown(true);
+    mainQueue.advance(3.0);
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(SyncCycleTest, UnknownSettings_SwitchedOffMeanwhileStartsNothing) {
+    defaults.setKnown(false);
+    button.performClick();
+    button.performClick();
+    defaults.setKnown(true);
+    mainQueue.advance(60.0);
+    EXPECT_EQ(bgQueue.size(), 0U);
+}
+
 TEST_F(SyncCycleTest, StartButtonOnWithoutSsh_StartsAPlainPass) {
     defaults.setObject(prefRsyncWithSSH, false);
     button.performClick();

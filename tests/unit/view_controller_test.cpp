@@ -62,6 +62,33 @@ TEST_F(ViewControllerTest, AutoStart_ClicksTheButtonAtOneSecond) {
     EXPECT_EQ(bgQueue.size(), 1U);
 }
 
+TEST_F(ViewControllerTest, AutoStartOfUnknownSettings_IsAskedForOnceTheyAreKnown) {
+    defaults.setKnown(false);
+    controller.viewDidLoad();
+    mainQueue.advance(60.0);
+    EXPECT_EQ(button.clicks, 0);
+    defaults.setObject(prefAutoStartScanOnLaunch, true);
+    mainQueue.advance(60.0);
+    EXPECT_EQ(button.clicks, 0) << "still a guess";
+    defaults.setKnown(true);
+    mainQueue.advance(60.0);
+    EXPECT_EQ(button.clicks, 1);
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(ViewControllerTest, StartClickedBeforeSettingsAreKnown_IsNotTakenBackByTheAutoStart) {
+    defaults.setKnown(false);
+    defaults.setObject(prefAutoStartScanOnLaunch, true);
+    controller.viewDidLoad();
+    mainQueue.advance(2.0);
+    button.performClick();
+    EXPECT_EQ(bgQueue.size(), 0U);
+    defaults.setKnown(true);
+    mainQueue.advance(60.0);
+    EXPECT_EQ(button.clicks, 1);
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
 TEST_F(ViewControllerTest, NoAutoStart_LeavesTheButtonAlone) {
     load();
     EXPECT_EQ(button.clicks, 0);

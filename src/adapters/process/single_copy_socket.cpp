@@ -1,5 +1,7 @@
 #include "adapters/process/single_copy_socket.h"
 
+#include "adapters/system/file_trust.h"
+#include "adapters/system/private_places.h"
 #include "adapters/system/unique_fd.h"
 #include "ports/console.h"
 #include "support/system_error_text.h"
@@ -61,10 +63,20 @@ bool isOurUser(int socket) {
            peer.uid == ::getuid();
 }
 
+/// Why no lock can be trusted that lies in `folder`, which is made when it is missing.
+QString faultOf(const std::string& folder) {
+    if (const int error = makePrivateFolders(folder))
+        return systemErrorText(error);
+    struct stat entry {};
+    return ::stat(folder.c_str(), &entry) == 0 ? foreignWriters(entry) : lastFault();
+}
+
 /// One attempt to have the other copy show itself.
-bool askOther(const sockaddr_un& address, Clock::time_point deadline) {
+bool askOther(const std::optional<sockaddr_un>& address, Clock::time_point deadline) {
+    if (!address)
+        return false;
     const UniqueFd socket = localSocket();
-    if (!socket || ::connect(socket.get(), generic(address), sizeof address) != 0 ||
+    if (!socket || ::connect(socket.get(), generic(*address), sizeof *address) != 0 ||
         !isOurUser(socket.get()) ||
         ::send(socket.get(), cRequest.data(), cRequest.size(), MSG_NOSIGNAL) !=
             static_cast<ssize_t>(cRequest.size()))
@@ -184,9 +196,9 @@ SingleCopy::Claim SingleCopySocket::claim(std::function<void()> show) {
         fConsole.log(u"Cannot look for another running copy: " + fault);
         return Claim::Unguarded;
     };
+    if (const QString fault = faultOf(fFolder); !fault.isEmpty())
+        return unguarded(QString::fromStdString(fFolder) + u": " + fault);
     const auto address = socketAddress(fFolder + "/kelvo-mirror.socket");
-    if (fFolder.empty() || !address)
-        return unguarded(QStringLiteral("there is no usable runtime folder"));
     const std::string lockPath = fFolder + "/kelvo-mirror.lock";
     UniqueFd lock(::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
                          S_IRUSR | S_IWUSR));
@@ -197,7 +209,7 @@ SingleCopy::Claim SingleCopySocket::claim(std::function<void()> show) {
     while (::flock(lock.get(), LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK && errno != EINTR)
             return unguarded(QString::fromStdString(lockPath) + u": " + lastFault());
-        if (askOther(*address, deadline))
+        if (askOther(address, deadline))
             return Claim::OtherIsShown;
         if (Clock::now() >= deadline)
             return Claim::OtherIsSilent;
@@ -205,7 +217,8 @@ SingleCopy::Claim SingleCopySocket::claim(std::function<void()> show) {
         ::poll(nullptr, 0, static_cast<int>(cRetryPause.count()));
     }
     fListener = std::make_unique<Listener>(std::move(lock), std::move(show));
-    if (!fListener->listen(*address))
+    errno = ENAMETOOLONG;
+    if (!address || !fListener->listen(*address))
         fConsole.log(u"Later copies cannot ask this one to show itself: " + lastFault());
     return Claim::First;
 }

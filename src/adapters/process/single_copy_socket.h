@@ -16,9 +16,10 @@ class Console;
 /// ends the connection and does nothing. Child processes do not inherit the lock.
 class SingleCopySocket final : public SingleCopy {
 public:
-    /// `folder` is private to the user, or empty: then every claim is Unguarded. Lock and socket
-    /// are "kelvo-mirror.lock" and "kelvo-mirror.socket" in it. A claim that finds another copy
-    /// waits `patience` for it.
+    /// Lock and socket are "kelvo-mirror.lock" and "kelvo-mirror.socket" in `folder`, which is made
+    /// when it is missing. Where that fails, or another user could write there, every claim is
+    /// Unguarded. Where the path is too long for a socket the lock holds all the same. A claim that
+    /// finds another copy waits `patience` for it.
     SingleCopySocket(std::string folder, Console& console,
                      std::chrono::milliseconds patience = std::chrono::seconds(5));
 

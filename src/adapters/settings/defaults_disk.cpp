@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 
 namespace kelvo {
 namespace {
@@ -13,7 +14,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto cGatherTime = 100ms;
-/// How long a file that cannot be read may still be one that somebody is writing.
+/// How long a file that is no list may still be one that somebody is writing.
 constexpr auto cUnreadablePatience = 1000ms;
 /// The same for one that keeps changing.
 constexpr auto cChangingPatience = 2500ms;
@@ -24,9 +25,10 @@ constexpr std::chrono::seconds cLastRetry = 60s;
 
 } // namespace
 
-DefaultsDisk::DefaultsDisk(const QString& path, DefaultsValues& values, KeyTest isState,
-                           Console& console, std::function<void(const QStringList&)> announce)
-    : fValues(values), fIsState(std::move(isState)), fConsole(console),
+DefaultsDisk::DefaultsDisk(const QString& path, DamagedFile damaged, KeyTest isState,
+                           DefaultsValues& values, Console& console,
+                           std::function<void(const QStringList&)> announce)
+    : fDamaged(damaged), fValues(values), fIsState(std::move(isState)), fConsole(console),
       fAnnounce(std::move(announce)), fFile(path), fWatch(fFile.folder(), fFile.name()) {
     load();
     fThread = std::jthread([this](const std::stop_token& stop) { run(stop); });
@@ -36,17 +38,31 @@ DefaultsDisk::~DefaultsDisk() {
     fThread.request_stop();
     fWatch.wake();
     fThread.join();
-    flush();
+    if (somethingToWrite())
+        flush();
 }
 
 void DefaultsDisk::flush() {
     QStringList changed;
+    bool becameKnown = false;
     {
         const std::lock_guard lock(fMutex);
+        const bool wasKnown = fKnown;
         changed = writeOut();
+        becameKnown = fKnown && !wasKnown;
     }
-    if (!changed.isEmpty())
+    if (becameKnown || !changed.isEmpty())
         fAnnounce(changed);
+}
+
+bool DefaultsDisk::known() {
+    const std::lock_guard lock(fMutex);
+    return fKnown;
+}
+
+QString DefaultsDisk::trouble() {
+    const std::lock_guard lock(fMutex);
+    return fTrouble.isEmpty() ? QString() : sentence();
 }
 
 void DefaultsDisk::run(const std::stop_token& stop) {
@@ -55,8 +71,10 @@ void DefaultsDisk::run(const std::stop_token& stop) {
     while (!stop.stop_requested()) {
         bool touched = fWatch.wait(next);
         QStringList changed;
+        bool becameKnown = false;
         {
             const std::lock_guard lock(fMutex);
+            const bool wasKnown = fKnown;
             if (!fWatch.watching()) {
                 watchFolder();
                 touched = touched || fWatch.watching();
@@ -73,8 +91,9 @@ void DefaultsDisk::run(const std::stop_token& stop) {
                 firstChange.reset();
                 next = deadline(somethingToWrite() ? Clock::now() : Deadline());
             }
+            becameKnown = fKnown && !wasKnown;
         }
-        if (!changed.isEmpty())
+        if (becameKnown || !changed.isEmpty())
             fAnnounce(changed);
     }
 }
@@ -90,13 +109,14 @@ void DefaultsDisk::load() {
     }
     if (lock)
         fFile.removeLeftovers();
-    if (const QString fault = readBase(cUnreadablePatience); !fault.isEmpty()) {
-        if (lock)
-            lockFailure = moveAside(fault);
-        if (!lockFailure.isEmpty())
-            settle(lockFailure);
-    }
-    adoptBase({});
+    const ReadFault fault = readBase(cUnreadablePatience);
+    QString failure = fault.text;
+    if (fault.damaged && fDamaged == DamagedFile::IsSetAside)
+        failure = lockFailure.isEmpty() ? moveAside(fault.text) : lockFailure;
+    if (failure.isEmpty())
+        adoptBase();
+    else
+        settle(failure);
 }
 
 void DefaultsDisk::watchFolder() {
@@ -113,32 +133,46 @@ bool DefaultsDisk::somethingToWrite() const {
 }
 
 DefaultsDisk::Deadline DefaultsDisk::deadline(Deadline firstChange) const {
-    if (!firstChange)
-        return {};
-    return fTrouble.isEmpty() ? *firstChange + cGatherTime : fRetryAt;
+    if (!fTrouble.isEmpty())
+        return fRetryAt;
+    return firstChange ? *firstChange + cGatherTime : Deadline();
 }
 
 /// Another program may have changed the file: reads it into memory.
 QStringList DefaultsDisk::takeOver() {
-    if (!readBase(cUnreadablePatience).isEmpty())
+    const ReadFault fault = readBase(cUnreadablePatience);
+    if (fault.damaged && fDamaged == DamagedFile::IsSetAside)
         return exchange(0ms);
-    return adoptBase(fIsState);
+    if (fault) {
+        settle(fault.text);
+        return {};
+    }
+    if (!fKnown)
+        settle({});
+    return adoptBase();
 }
 
+/// Nothing is written before it is known what would be written over.
 QStringList DefaultsDisk::writeOut() {
+    QStringList changed;
+    if (!fKnown)
+        changed = takeOver();
     const DefaultsChanges taken = fValues.takeChanges();
     fUnwritten.insert(taken);
     for (auto it = taken.cbegin(); it != taken.cend(); ++it) {
         if (fIsState(it.key()))
             fOwnState.insert(it.key(), it.value());
     }
-    return fUnwritten.isEmpty() ? QStringList() : exchange(cUnreadablePatience);
+    if (fKnown && (!fUnwritten.isEmpty() || !fTrouble.isEmpty()))
+        changed += exchange(cUnreadablePatience);
+    return changed;
 }
 
 /// Reads what others wrote, lays what is ours and unwritten over it, writes it.
 QStringList DefaultsDisk::exchange(std::chrono::milliseconds patience) {
-    settle(exchangeLocked(patience));
-    return adoptBase(fIsState);
+    const QString failure = exchangeLocked(patience);
+    settle(failure);
+    return fKnown || failure.isEmpty() ? adoptBase() : QStringList();
 }
 
 QString DefaultsDisk::exchangeLocked(std::chrono::milliseconds patience) {
@@ -147,8 +181,10 @@ QString DefaultsDisk::exchangeLocked(std::chrono::milliseconds patience) {
     const auto [lock, lockFailure] = fFile.lock(cLockPatience);
     if (!lockFailure.isEmpty())
         return lockFailure;
-    if (const QString fault = readBase(patience); !fault.isEmpty()) {
-        if (QString failure = moveAside(fault); !failure.isEmpty())
+    if (const ReadFault fault = readBase(patience)) {
+        if (!fault.damaged || fDamaged == DamagedFile::IsLeftAlone)
+            return fault.text;
+        if (QString failure = moveAside(fault.text); !failure.isEmpty())
             return failure;
     }
     // Without a file everything in memory goes into the new one.
@@ -166,16 +202,16 @@ QString DefaultsDisk::exchangeLocked(std::chrono::milliseconds patience) {
     return {};
 }
 
-/// Brings fBytes and fBase up to date. Returns why the file cannot be read: only after it has
-/// stayed so for `patience`, for some programs write it in place.
-QString DefaultsDisk::readBase(std::chrono::milliseconds patience) {
+/// Brings fBytes and fBase up to date. A file counts as damaged only after it has stayed so for
+/// `patience`, for some programs write it in place.
+DefaultsDisk::ReadFault DefaultsDisk::readBase(std::chrono::milliseconds patience) {
     const auto start = Clock::now();
     auto changedAt = start;
     std::optional<QByteArray> unreadable;
     for (;;) {
         PlistFile::Contents file = fFile.read();
-        if (file.state == PlistFile::Contents::State::Refused)
-            return file.fault;
+        if (file.state == PlistFile::Contents::State::Unusable)
+            return {file.fault};
         if (file.state == PlistFile::Contents::State::Missing) {
             fBytes.reset();
             fBase.clear();
@@ -194,18 +230,17 @@ QString DefaultsDisk::readBase(std::chrono::milliseconds patience) {
             changedAt = now;
         unreadable = std::move(file.bytes);
         if (now - changedAt >= patience || now - start >= cChangingPatience)
-            return decoded.fault;
+            return {decoded.fault, true};
         std::this_thread::sleep_for(cReadPause);
     }
 }
 
-/// Keeps an unreadable file under another name; returns why that failed. What is in memory is to be
+/// Keeps a damaged file under another name; returns why that failed. What is in memory is to be
 /// written anew then.
 QString DefaultsDisk::moveAside(const QString& fault) {
     const auto [aside, failure] = fFile.moveAside(QDateTime::currentDateTimeUtc());
     if (!failure.isEmpty())
-        return QStringLiteral("the file there cannot be read (%1) and not be moved aside (%2)")
-            .arg(fault, failure);
+        return QStringLiteral("%1; it cannot be moved aside: %2").arg(fault, failure);
     fConsole.log(QStringLiteral("The settings file %1 cannot be read: %2. It is kept as %3")
                      .arg(fFile.path(), fault, aside));
     fBytes.reset();
@@ -216,7 +251,9 @@ QString DefaultsDisk::moveAside(const QString& fault) {
 
 /// Takes the file's values into memory, ours that are not on disk laid over them. Without a file
 /// memory stays as it is.
-QStringList DefaultsDisk::adoptBase(const KeyTest& kept) {
+QStringList DefaultsDisk::adoptBase() {
+    // State is this program's own from the first reading on.
+    const KeyTest kept = std::exchange(fKnown, true) ? fIsState : KeyTest();
     if (!fBytes)
         return {};
     QVariantMap known = fBase;
@@ -224,22 +261,30 @@ QStringList DefaultsDisk::adoptBase(const KeyTest& kept) {
     return fValues.adopt(known, kept);
 }
 
-/// Says once that saving fails, with a line for each new reason, and once that it works again.
+/// Says once that reading or saving fails, with a line for each new reason, and once that it works
+/// again.
 void DefaultsDisk::settle(const QString& failure) {
     if (failure.isEmpty()) {
         if (!fTrouble.isEmpty())
-            fConsole.log(QStringLiteral("Settings are saved to %1 again").arg(fFile.path()));
+            fConsole.log((fKnown ? QStringLiteral("Settings are saved to %1 again")
+                                 : QStringLiteral("The settings in %1 are known now"))
+                             .arg(fFile.path()));
         fTrouble.clear();
         fRetryDelay = {};
         return;
     }
-    if (failure != fTrouble)
-        fConsole.log(QStringLiteral("Settings cannot be saved to %1: %2. They hold in memory and "
-                                    "will be saved when that is possible")
-                         .arg(fFile.path(), failure));
-    fTrouble = failure;
+    if (failure != std::exchange(fTrouble, failure))
+        fConsole.log(sentence() +
+                     (fKnown ? u". They hold in memory and will be saved when that is possible"
+                             : u". Until they are, no pass begins and nothing is written there"));
     fRetryDelay = fRetryDelay == 0s ? cFirstRetry : std::min(fRetryDelay * 2, cLastRetry);
     fRetryAt = Clock::now() + fRetryDelay;
+}
+
+QString DefaultsDisk::sentence() const {
+    return (fKnown ? QStringLiteral("Settings cannot be saved to %1: %2")
+                   : QStringLiteral("The settings in %1 are not known: %2"))
+        .arg(fFile.path(), fTrouble);
 }
 
 } // namespace kelvo

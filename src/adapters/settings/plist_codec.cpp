@@ -1,6 +1,7 @@
 #include "adapters/settings/plist_codec.h"
 
 #include "adapters/settings/c_numeric_locale.h"
+#include "adapters/settings/plist_encoding.h"
 #include "adapters/settings/plist_guard.h"
 #include "support/stored_value.h"
 
@@ -243,7 +244,7 @@ plist_t nodeOf(const QVariant& value) {
 } // namespace
 
 DecodedPlist decodePlist(const QByteArray& bytes) {
-    const QByteArray list = bytes.startsWith("\xef\xbb\xbf") ? bytes.sliced(3) : bytes;
+    const QByteArray list = bytes.size() > cLargestPlist ? bytes : plistInUtf8(bytes);
     if (const QString fault = plistFault(list); !fault.isEmpty())
         return {std::nullopt, fault};
     const CNumericLocale plainNumbers;

@@ -14,7 +14,8 @@ struct DecodedPlist {
     QString fault;                   ///< why not: ends a sentence such as "… cannot be read: "
 };
 
-/// Reads an XML or a binary property list with a dictionary at its root. Types are kept: bool,
+/// Reads an XML or a binary property list with a dictionary at its root, XML in UTF-8, UTF-16,
+/// UTF-32, Latin-1 and what else this system's Qt can decode. Types are kept: bool,
 /// qlonglong (qulonglong beyond its range), double, QString, QByteArray, QDateTime (UTC),
 /// QVariantList, QVariantMap; an archiver's UID is read as an integer. Of equal keys the last one
 /// holds. Broken UTF-8 is shown as U+FFFD. Whatever the bytes are, the call returns: an empty, cut,

@@ -6,10 +6,10 @@
 
 namespace kelvo {
 
-PlistDefaults::PlistDefaults(const QString& path, KeyTest isState, DispatchQueue& mainQueue,
-                             Console& console)
+PlistDefaults::PlistDefaults(const QString& path, DamagedFile damaged, KeyTest isState,
+                             DispatchQueue& mainQueue, Console& console)
     : fShared(std::make_shared<Shared>()),
-      fDisk(path, fShared->values, std::move(isState), console,
+      fDisk(path, damaged, std::move(isState), fShared->values, console,
             [&mainQueue, shared = std::weak_ptr(fShared)](const QStringList& keys) {
                 for (const QString& key : keys) {
                     mainQueue.async([shared, key] {
@@ -17,7 +17,15 @@ PlistDefaults::PlistDefaults(const QString& path, KeyTest isState, DispatchQueue
                             alive->tell(key);
                     });
                 }
-            }) {}
+                // Not before the keys are told: what is made of them must be of the same time.
+                mainQueue.async([shared] {
+                    if (const auto alive = shared.lock())
+                        alive->known = true;
+                });
+            }) {
+    if (fDisk.known())
+        fShared->known = true;
+}
 
 QVariant PlistDefaults::object(QStringView key) const {
     return fShared->values.object(key);

@@ -1,6 +1,7 @@
 #include "adapters/settings/plist_file.h"
 
 #include "adapters/settings/plist_guard.h"
+#include "adapters/system/file_trust.h"
 #include "adapters/system/private_places.h"
 #include "support/system_error_text.h"
 
@@ -11,7 +12,9 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <string_view>
 #include <thread>
@@ -25,6 +28,49 @@ constexpr std::string_view cNewSuffix = ".new-";
 constexpr std::string_view cLockSuffix = ".lock";
 constexpr auto cLockPause = 5ms;
 constexpr int cMostAsides = 1000;
+constexpr int cMostLinks = 40;
+
+std::string folderOf(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string::npos ? std::string(".") : path.substr(0, slash);
+}
+
+/// Where the file at `path` lies, or would be made, when there are links in its place.
+std::string endOfLinks(std::string path) {
+    std::array<char, PATH_MAX> room{};
+    for (int links = 0; links < cMostLinks; ++links) {
+        const ssize_t size = ::readlink(path.c_str(), room.data(), room.size());
+        if (size <= 0)
+            break;
+        const std::string target(room.data(), static_cast<std::size_t>(size));
+        path = target.front() == '/' ? target : folderOf(path) + '/' + target;
+    }
+    return path;
+}
+
+/// Why what another user wrote could be in the folder; empty for one that is not there.
+QString foreignWritersOf(const std::string& folder) {
+    struct stat entry {};
+    if (::stat(folder.c_str(), &entry) != 0)
+        return {};
+    const QString foreign = foreignWriters(entry);
+    return foreign.isEmpty() ? foreign : QString(u"of its folder: " + foreign);
+}
+
+bool othersMayEnter(const std::string& folder) {
+    struct stat entry {};
+    return ::stat(folder.c_str(), &entry) != 0 || (entry.st_mode & (S_IXGRP | S_IXOTH)) != 0;
+}
+
+QString syncFolder(const std::string& path) {
+    const UniqueFd folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder)
+        return systemErrorText(errno);
+    // A file system that cannot sync folders says EINVAL; the file is in its place all the same.
+    if (::fsync(folder.get()) != 0 && errno != EINVAL)
+        return systemErrorText(errno);
+    return {};
+}
 
 int writeAll(int descriptor, const QByteArray& bytes) {
     qsizetype done = 0;
@@ -61,10 +107,12 @@ bool stillInPlace(int descriptor, const std::string& path) {
 } // namespace
 
 PlistFile::PlistFile(const QString& path) : fPath(path) {
-    const std::string native = QFile::encodeName(path).toStdString();
-    const std::size_t slash = native.rfind('/');
-    fFolder = slash == std::string::npos ? std::string(".") : native.substr(0, slash);
-    fName = native.substr(slash == std::string::npos ? 0 : slash + 1);
+    const std::string given = QFile::encodeName(path).toStdString();
+    const std::string place = endOfLinks(given);
+    fLinked = place != given;
+    fGivenFolder = folderOf(given);
+    fFolder = folderOf(place);
+    fName = place.substr(place.rfind('/') + 1);
 }
 
 PlistFile::Contents PlistFile::read() const {
@@ -72,14 +120,27 @@ PlistFile::Contents PlistFile::read() const {
     // Not to be held up by a pipe that somebody put there.
     const UniqueFd file(::open(nativePath().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file) {
-        const bool missing = errno == ENOENT || errno == ENOTDIR;
-        return missing ? Contents{} : Contents{Refused, {}, systemErrorText(errno)};
+        const int error = errno;
+        if (error != ENOENT && error != ENOTDIR)
+            return {Unusable, {}, systemErrorText(error)};
+        if (folderIsAway())
+            return {Unusable, {}, QStringLiteral("the folder that it is linked to is not there")};
+        const QString foreign = foreignFolder();
+        return foreign.isEmpty() ? Contents{} : Contents{Unusable, {}, foreign};
     }
     struct stat entry {};
     if (::fstat(file.get(), &entry) != 0)
-        return {Refused, {}, systemErrorText(errno)};
+        return {Unusable, {}, systemErrorText(errno)};
     if (!S_ISREG(entry.st_mode))
-        return {Refused, {}, QStringLiteral("it is no ordinary file")};
+        return {Unusable, {}, QStringLiteral("it is no ordinary file")};
+    // Nobody else reaches a file in a closed folder, whatever its own mode says.
+    if (!othersMayEnter(fFolder))
+        entry.st_mode &= ~static_cast<mode_t>(S_IWGRP | S_IWOTH);
+    QString foreign = foreignFolder();
+    if (foreign.isEmpty())
+        foreign = foreignWriters(entry);
+    if (!foreign.isEmpty())
+        return {Unusable, {}, foreign};
     Contents contents{Read, {}, {}};
     while (contents.bytes.size() <= cLargestPlist) {
         constexpr qsizetype cPiece = qsizetype{64} * 1024;
@@ -92,12 +153,28 @@ PlistFile::Contents PlistFile::read() const {
         if (count == 0)
             break;
         if (count < 0 && error != EINTR)
-            return {Refused, {}, systemErrorText(error)};
+            return {Unusable, {}, systemErrorText(error)};
     }
     return contents;
 }
 
+/// Why another user could have put the file there.
+QString PlistFile::foreignFolder() const {
+    const QString foreign = foreignWritersOf(fFolder);
+    return foreign.isEmpty() && fLinked ? foreignWritersOf(fGivenFolder) : foreign;
+}
+
+/// Whether links lead to a folder that is not there, perhaps on a disk that is not mounted yet.
+bool PlistFile::folderIsAway() const {
+    struct stat entry {};
+    if (::stat(fFolder.c_str(), &entry) == 0)
+        return false;
+    return fLinked || (::lstat(fFolder.c_str(), &entry) == 0 && S_ISLNK(entry.st_mode));
+}
+
 QString PlistFile::makeFolder() const {
+    if (fLinked)
+        return {};
     const int error = makePrivateFolders(fFolder);
     return error ? systemErrorText(error) : QString();
 }
@@ -105,17 +182,19 @@ QString PlistFile::makeFolder() const {
 QString PlistFile::replace(const QByteArray& bytes) {
     if (bytes.size() > cLargestPlist)
         return QStringLiteral("the settings are larger than 16 MiB");
-    const std::string newPath = nativePath(
-        std::string(cNewSuffix) + std::to_string(::getpid()) + '-' + std::to_string(++fWritten) +
-        '-' + std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()));
+    const std::string place = endOfLinks(nativePath());
+    const std::string newPath =
+        place + std::string(cNewSuffix) + std::to_string(::getpid()) + '-' +
+        std::to_string(++fWritten) + '-' +
+        std::to_string(std::chrono::steady_clock::now().time_since_epoch().count());
     if (QString failure = writeNew(newPath, bytes); !failure.isEmpty())
         return failure;
-    if (::rename(newPath.c_str(), nativePath().c_str()) != 0) {
+    if (::rename(newPath.c_str(), place.c_str()) != 0) {
         const int error = errno;
         ::unlink(newPath.c_str());
         return systemErrorText(error);
     }
-    return syncFolder();
+    return syncFolder(folderOf(place));
 }
 
 QString PlistFile::writeNew(const std::string& newPath, const QByteArray& bytes) const {
@@ -134,25 +213,16 @@ QString PlistFile::writeNew(const std::string& newPath, const QByteArray& bytes)
     return systemErrorText(error);
 }
 
-QString PlistFile::syncFolder() const {
-    const UniqueFd folder(::open(fFolder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!folder)
-        return systemErrorText(errno);
-    // A file system that cannot sync folders says EINVAL; the file is in its place all the same.
-    if (::fsync(folder.get()) != 0 && errno != EINVAL)
-        return systemErrorText(errno);
-    return {};
-}
-
 std::pair<QString, QString> PlistFile::moveAside(const QDateTime& now) {
-    const QString aside = fPath + QStringLiteral(".corrupt-") +
+    const std::string place = endOfLinks(nativePath());
+    const QString aside = QFile::decodeName(place.c_str()) + QStringLiteral(".corrupt-") +
                           now.toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
     int error = EEXIST;
     for (int attempt = 1; attempt <= cMostAsides && error == EEXIST; ++attempt) {
         const QString target =
             attempt == 1 ? aside : aside + QLatin1Char('-') + QString::number(attempt);
         const std::string nativeTarget = QFile::encodeName(target).toStdString();
-        error = renameToFreeName(nativePath(), nativeTarget);
+        error = renameToFreeName(place, nativeTarget);
         if (!error) {
             closeToOthers(nativeTarget);
             return {target, {}};

@@ -62,11 +62,6 @@ PrivateFolder folderOfOurOwn() {
 
 } // namespace
 
-PrivateFolder runtimeFolder() {
-    const std::string given = givenFolder();
-    return given.empty() ? folderOfOurOwn() : PrivateFolder{given, {}};
-}
-
 PrivateFolder temporaryFolderOfUser() {
     const std::string given = givenFolder();
     return given.empty() ? folderOfOurOwn() : madeFolder(given + "/kelvo-mirror");

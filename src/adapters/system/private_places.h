@@ -10,14 +10,10 @@ struct PrivateFolder {
     std::string fault; ///< why, in words
 };
 
-/// For what lives as long as the session: $XDG_RUNTIME_DIR when it is a folder that the user owns
-/// and nobody else may enter or write, else "kelvo-mirror-<user id>" in $TMPDIR or /tmp, made with
-/// mode 0700 when missing and refused when it is anybody else's, open to others, or a link. Touches
-/// only local folders. Any thread.
-PrivateFolder runtimeFolder();
-
-/// For what lives only for a while: "kelvo-mirror" in $XDG_RUNTIME_DIR, or the same folder in
-/// $TMPDIR or /tmp, by the same rules.
+/// For what lives only for a while: "kelvo-mirror" in $XDG_RUNTIME_DIR when that is a folder that
+/// the user owns and nobody else may enter or write, else "kelvo-mirror-<user id>" in $TMPDIR or
+/// /tmp; made with mode 0700 when missing and refused when it is anybody else's, open to others, or
+/// a link. Touches only local folders. Any thread.
 PrivateFolder temporaryFolderOfUser();
 
 /// Makes the folder `path` and those above it that are missing, each 0700; what is there already

@@ -137,6 +137,10 @@ CommandAnswer refused(const QString& reason, int exitCode = cExitBadSetting) {
 
 } // namespace
 
+CommandAnswer settingsUnknown(const QString& why) {
+    return refused(why, cExitSettingsUnknown);
+}
+
 std::variant<std::monostate, SettingsRequest, QString>
 settingsRequest(const QStringList& arguments) {
     struct Verb {

@@ -29,6 +29,7 @@ struct CommandAnswer {
 inline constexpr int cExitNotSet = 1;
 inline constexpr int cExitNotStored = 1;
 inline constexpr int cExitBadSetting = 2;
+inline constexpr int cExitSettingsUnknown = 5;
 
 /// The request in `arguments` (the program's name first); a text when there is one that is not
 /// complete or not alone; nothing when there is none. A value may begin with "-".
@@ -40,8 +41,13 @@ settingsRequest(const QStringList& arguments);
 /// anything is changed.
 CommandAnswer answerSettings(const SettingsRequest& request, UserDefaults& defaults);
 
+/// What any command answers that needs settings which are not known: `why`, a sentence without its
+/// full stop.
+CommandAnswer settingsUnknown(const QString& why);
+
 /// The same on the settings file of this user, the factory values beneath; needs an application
-/// object. What could not be written to the file is an error.
+/// object. A file that cannot be used, or is damaged, stays as it is and is an error, and so is
+/// what could not be written to it.
 CommandAnswer runSettingsCommand(const SettingsRequest& request);
 
 } // namespace kelvo
