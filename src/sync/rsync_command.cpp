@@ -4,8 +4,8 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "support/fatal.h"
-#include "support/shell_words.h"
 #include "support/property_value.h"
+#include "support/shell_words.h"
 #include "support/text.h"
 
 namespace kelvo {
