@@ -176,7 +176,7 @@ TEST_F(FailingSettingsSystemTest, DamagedSettings_AreLeftAloneByCommands) {
 }
 
 TEST_F(FailingSettingsSystemTest, FewDescriptors_CostNoSettings) {
-    for (int limit = 5; limit <= 40; ++limit) {
+    for (int limit = 4; limit <= 40; ++limit) {
         const Ended ended = runToEnd(
             QStringLiteral("/bin/sh"),
             {QStringLiteral("-c"), QStringLiteral("ulimit -n \"$1\"; exec \"$0\" --get prefPath1"),

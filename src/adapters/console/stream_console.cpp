@@ -26,6 +26,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr auto cStuck = 1s;
 constexpr auto cLongestEnd = 5s;
+constexpr int cLongestBlind = 200; // milliseconds
 
 QString logPrefix() {
     return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")) +
@@ -117,8 +118,9 @@ private:
         };
         if (fFileLine || swallows(fOutput) || swallows(fErrors))
             return 0;
+        // Without descriptors left nothing can wake us.
         if (!fStopping)
-            return -1;
+            return fConsole.fWakeUp ? -1 : cLongestBlind;
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(giveUpTime() - Clock::now());
         return static_cast<int>(std::max(left, 0ms).count());
     }
