@@ -74,9 +74,9 @@ private:
     // Nobody looks at a status line or answers an alert here: the outcome says it all.
     Engine fEngine{
         fMachine.engineParts(fSettings, [this](const PassRecord& record) { ended(record); }),
-        {.updateStatusMessage = [](std::optional<QString>, StatusColor, bool) {},
+        {.updateStatusMessage = [](const std::optional<QString>&, StatusColor, bool) {},
          .showProblemWithBonjourClosure = [](const QString&, const QString&,
-                                             std::function<void(ModalResponse)>) {},
+                                             const std::function<void(ModalResponse)>&) {},
          .ibStartButton = &fStartButton},
         [](KeyState) {}};
 };

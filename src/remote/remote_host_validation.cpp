@@ -54,7 +54,7 @@ HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout) c
 HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout,
                                                                const RunCommand& run) const {
     QString target;
-    const HostVerdict verdict = ask(timeout, run, target);
+    HostVerdict verdict = ask(timeout, run, target);
     if (fParts.answered)
         fParts.answered(target, verdict);
     return verdict;

@@ -113,7 +113,7 @@ CauseWords wordsFor(PassCause cause) {
 }
 
 QString sentenceFor(const PassRecord& pass) {
-    const QString sentence = wordsFor(pass.cause).sentence.toString();
+    QString sentence = wordsFor(pass.cause).sentence.toString();
     if (pass.lastLine.isEmpty())
         return sentence;
     if (pass.cause == PassCause::Unknown)

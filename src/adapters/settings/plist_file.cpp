@@ -43,7 +43,7 @@ std::string endOfLinks(std::string path) {
         if (size <= 0)
             break;
         const std::string target(room.data(), static_cast<std::size_t>(size));
-        path = target.front() == '/' ? target : folderOf(path) + '/' + target;
+        path = target.front() == '/' ? target : folderOf(path).append("/").append(target);
     }
     return path;
 }

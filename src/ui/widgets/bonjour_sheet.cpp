@@ -58,7 +58,7 @@ BonjourSheet::~BonjourSheet() {
 /// The controller outlives the sheet while a scan runs, and what it works with so does too.
 std::shared_ptr<BonjourViewController> BonjourSheet::makeController() {
     const QPointer<BonjourSheet> self(this);
-    const auto controller = BonjourViewController::make({
+    auto controller = BonjourViewController::make({
         .defaults = fParts.defaults,
         .mainQueue = fParts.mainQueue,
         .console = fParts.console,
