@@ -40,6 +40,7 @@ public:
             return {QStringLiteral("me\n"), {}, 0};
         return {command.text == u"rsync" ? QString() : fText, {}, 0};
     }
+    void cancel(CommandId) override {}
 
 private:
     const QString fText = pullText(1000);
@@ -63,10 +64,10 @@ std::optional<std::vector<Figure>> measureRecord() {
         const auto passBegin = Clock::now();
         {
             RunningPass pass(passes, PassKind::Remote);
-            (void)pass.run(CommandRole::HostCheck, {.text = QStringLiteral("ssh whoami")});
+            (void)pass.run(PassStep::AskingTheMac, {.text = QStringLiteral("ssh whoami")});
             pass.judged(HostVerdict::Valid);
-            (void)pass.run(CommandRole::Pull, {.text = QStringLiteral("rsync --stats")});
-            (void)pass.run(CommandRole::Pull, {.text = QStringLiteral("rsync")});
+            (void)pass.run(PassStep::Pull, {.text = QStringLiteral("rsync --stats")});
+            (void)pass.run(PassStep::Pull, {.text = QStringLiteral("rsync")});
         }
         onThePass.push_back(since(passBegin));
     }

@@ -21,9 +21,9 @@ MachineParts::MachineParts(bool withTray)
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
       singleCopy(QFile::encodeName(logFolder()).toStdString(), console),
-      dnssdBrowser(console, mainQueue), notices([this](const QString& title, const QString& text) {
+      dnssdBrowser(console, mainQueue), notices([this](const Notice& notice) {
           if (fTrayIcon)
-              fTrayIcon->showNotice(title, text);
+              fTrayIcon->showNotice(notice);
       }) {
     if (withTray) {
         fTrayHost = std::make_unique<DesktopTrayHost>();

@@ -102,6 +102,7 @@ private:
         auto controller = std::make_shared<ViewController>(ViewControllerParts{
             .engine = fParts.engineParts(fParts.defaults),
             .outlets = front().outlets(),
+            .passStore = fParts.passes,
             .notificationCenter = fParts.notificationCenter,
             .bundle = fParts.bundle,
             .quitAndRelaunch = Watchdog::quitAndRelaunch,

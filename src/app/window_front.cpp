@@ -119,6 +119,17 @@ private:
         case Remedy::CopyInstallCommand:
             copyText(cInstallCommand.toString());
             break;
+        case Remedy::CheckAgain:
+            fController->ibSyncNow(nullptr);
+            break;
+        case Remedy::ShowDetails:
+            fWindow.showTab(QStringLiteral("activity"));
+            break;
+        case Remedy::OpenLog:
+            fMachine.workspace.openFile(fMachine.logFolder());
+            break;
+        case Remedy::None:
+            break;
         }
     }
 

@@ -7,6 +7,15 @@
 #include <utility>
 
 namespace kelvo {
+namespace {
+
+CommandRole roleOf(PassStep step) {
+    if (step == PassStep::AskingTheMac)
+        return CommandRole::HostCheck;
+    return step == PassStep::AfterArrivals ? CommandRole::AfterArrivals : CommandRole::Pull;
+}
+
+} // namespace
 
 RunningPasses::RunningPasses(CommandRunner& commands, PassClock clock,
                              std::function<void(const PassRecord&)> ended)
@@ -18,6 +27,20 @@ std::vector<PassUnderWay> RunningPasses::underWay() const {
     for (const RunningPass* pass : fPasses)
         all.push_back(pass->fNow);
     return all;
+}
+
+void RunningPasses::cancel() {
+    std::vector<CommandId> running;
+    {
+        const std::lock_guard lock(fMutex);
+        for (RunningPass* pass : fPasses) {
+            pass->fNow.cancelled = true;
+            if (pass->fCommand)
+                running.push_back(*pass->fCommand);
+        }
+    }
+    for (const CommandId command : running)
+        fCommands.cancel(command);
 }
 
 RunningPass::RunningPass(RunningPasses& passes, PassKind kind)
@@ -40,21 +63,29 @@ RunningPass::~RunningPass() {
         fRecord.transfer = sumOf(fRecord.transfer, command.transfer);
     NamedCause named =
         fRefused.isEmpty() ? causeOf(fRecord) : NamedCause{PassCause::SettingsRefused, fRefused};
+    if (fNow.cancelled)
+        named = {PassCause::Cancelled, {}};
     fRecord.cause = named.cause;
     fRecord.lastLine = std::move(named.lastLine);
     fPasses.fEnded(fRecord);
 }
 
-CommandResult RunningPass::run(CommandRole role, const Command& command) {
-    const auto show = [this](std::optional<CommandRole> running, const QString& text) {
+CommandResult RunningPass::run(PassStep step, const Command& command) {
+    const auto show = [this](PassStep running, const QString& text) {
         const std::lock_guard lock(fPasses.fMutex);
-        fNow.role = running;
+        fNow.progress = {.step = running};
         fNow.command = text;
+        fCommand.reset();
+        return !fNow.cancelled;
     };
-    show(role, command.text);
+    if (!show(step, command.text))
+        return {};
+    Command ours = command;
+    ours.started = [this, &command](CommandId id) { commandStarted(id, command); };
     const double began = fPasses.fClock.seconds();
-    CommandResult result = fPasses.fCommands.run(command);
-    show({}, {});
+    CommandResult result = fPasses.fCommands.run(ours);
+    (void)show(PassStep::Begun, {});
+    const CommandRole role = roleOf(step);
     fRecord.commands.push_back({.role = role,
                                 .command = command.text,
                                 .exitStatus = result.exitStatus,
@@ -64,6 +95,30 @@ CommandResult RunningPass::run(CommandRole role, const Command& command) {
                                                 ? transferOf(command.text, result.output)
                                                 : Transfer()});
     return result;
+}
+
+/// A wish that came while the command was being started counts too.
+void RunningPass::commandStarted(CommandId id, const Command& command) {
+    bool cancelled = false;
+    {
+        const std::lock_guard lock(fPasses.fMutex);
+        fCommand = id;
+        cancelled = fNow.cancelled;
+    }
+    if (cancelled)
+        fPasses.fCommands.cancel(id);
+    if (command.started)
+        command.started(id);
+}
+
+bool RunningPass::isCancelled() const {
+    const std::lock_guard lock(fPasses.fMutex);
+    return fNow.cancelled;
+}
+
+void RunningPass::brought(std::vector<Arrival> arrivals) {
+    fRecord.arrivals.insert(fRecord.arrivals.end(), std::make_move_iterator(arrivals.begin()),
+                            std::make_move_iterator(arrivals.end()));
 }
 
 } // namespace kelvo

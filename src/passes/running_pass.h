@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ports/command_runner.h"
+#include "support/pass_progress.h"
 #include "support/pass_record.h"
 
 #include <functional>
@@ -21,9 +22,10 @@ struct PassClock {
 /// What can be seen of a pass while it runs.
 struct PassUnderWay {
     PassKind kind = PassKind::Plain;
-    QDateTime began;                 ///< UTC
-    std::optional<CommandRole> role; ///< of the command that runs at the moment, if one does
-    QString command;
+    QDateTime began; ///< UTC
+    QString command; ///< the one that runs at the moment, if one does
+    PassProgress progress;
+    bool cancelled = false;
 };
 
 /// The passes that run now. Any thread; several passes may run at the same time.
@@ -37,6 +39,10 @@ public:
     /// Oldest first.
     std::vector<PassUnderWay> underWay() const;
 
+    /// Ends the passes that run, at a person's wish: their commands are ended, they run no others,
+    /// and their cause is Cancelled. Returns at once.
+    void cancel();
+
 private:
     friend RunningPass;
 
@@ -44,7 +50,7 @@ private:
     const PassClock fClock;
     const std::function<void(const PassRecord&)> fEnded;
     mutable std::mutex fMutex;
-    std::vector<const RunningPass*> fPasses;
+    std::vector<RunningPass*> fPasses;
 };
 
 /// Begins when it is made and ends when it goes. Commands may run on any thread, one at a time.
@@ -58,8 +64,18 @@ public:
     RunningPass(const RunningPass&) = delete;
     RunningPass& operator=(const RunningPass&) = delete;
 
-    /// Runs `command` as CommandRunner does and writes it down.
-    CommandResult run(CommandRole role, const Command& command);
+    /// Runs `command` as CommandRunner does and writes it down. A cancelled pass runs nothing and
+    /// answers as a command does that was given up.
+    CommandResult run(PassStep step, const Command& command);
+
+    /// Any thread.
+    bool isCancelled() const;
+
+    /// The files that pulls have named so far: the bytes of their names, relative to the source.
+    const std::vector<QByteArray>& names() const { return fNames; }
+
+    /// What the pass has brought so far; kept in its record.
+    void brought(std::vector<Arrival> arrivals);
 
     /// The pass ends before its commands: `why` tells which text of the settings cannot stand in
     /// one.
@@ -71,11 +87,15 @@ public:
 private:
     friend RunningPasses;
 
+    void commandStarted(CommandId id, const Command& command);
+
     RunningPasses& fPasses;
     PassRecord fRecord;
+    std::vector<QByteArray> fNames;
     QString fRefused; ///< empty unless it was
     const double fBegan;
-    PassUnderWay fNow; ///< guarded by the mutex of all passes
+    PassUnderWay fNow;                 ///< guarded by the mutex of all passes
+    std::optional<CommandId> fCommand; ///< the one that runs; guarded likewise
 };
 
 } // namespace kelvo

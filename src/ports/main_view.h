@@ -3,6 +3,7 @@
 
 #include "support/key_state.h"
 #include "support/subscription.h"
+#include "support/work_state.h"
 
 #include <QString>
 
@@ -31,6 +32,10 @@ public:
 
     /// Shows what is known of the program's key.
     virtual void showKeyState(KeyState state) = 0;
+
+    /// Shows what the program is doing and how it is. Called at most 10 times a second, and only
+    /// when something has changed.
+    virtual void showWork(const WorkState& work) = 0;
 
     /// Plays the alert sound.
     virtual void beep() = 0;

@@ -67,6 +67,14 @@ constexpr auto cTable = std::to_array<Preference>({
      u"The window is hidden when the program starts."},
     {prefShowNotices, Setting, Bool, true, u"Settings",
      u"A notice on the desktop tells when passes turn bad and when they are well again."},
+    {prefShowArrivals, Setting, Bool, true, u"Settings",
+     u"A notice on the desktop tells which movies have arrived."},
+    {prefCommandAfterArrivals, Setting, String, cNone, u"Settings",
+     u"A command that is run after a pass that brought files. It reads their paths from its "
+     u"standard "
+     u"input, each ended by a zero byte."},
+    {prefQuitWithoutAsking, Setting, Bool, false, u"Settings",
+     u"Quitting during a pass ends it without asking."},
     {prefMainWindowSize, State, String, cNone, {}, u"The window's last size."},
     {prefMainWindowTab, State, String, cNone, {}, u"The window's last tab."},
     {prefRecentLaunchDates,

@@ -159,7 +159,7 @@ void SyncCycle::runPlainPass(RunningPass& pass) {
     if (const auto filled = fParts.rsyncCommand.fillInParams(command, params)) {
         fParts.console.print(u"cmd to send = " + *filled);
         printResult(u"result from shell command =\n",
-                    pass.run(CommandRole::Pull, {.text = *filled}).output);
+                    pass.run(PassStep::Pull, {.text = *filled}).output);
     }
     fParts.mainQueue.asyncAfter(cPauseAfterPass, [this] {
         fParts.defaults.setObject(prefIsScanning, false);
@@ -196,7 +196,7 @@ HostVerdict SyncCycle::validateRemoteHost(RunningPass& pass) const {
     if (!remoteAccount(fParts.defaults))
         return HostVerdict::NotAsked;
     return fParts.validateRemoteHost(cValidationTimeout, [&pass](const Command& command) {
-        return pass.run(CommandRole::HostCheck, command);
+        return pass.run(PassStep::AskingTheMac, command);
     });
 }
 
@@ -209,12 +209,13 @@ void SyncCycle::pullFromRemote(RunningPass& pass, const QString& keyPath) {
     if (refuses(pass, cRemoteOperation, commandFault(usersCommand, params)))
         return;
     markScanning();
-    const auto pull = [&](const QString& command, QStringView heading) {
+    const auto pull = [&](PassStep step, const QString& command, QStringView heading) {
         if (const auto filled = fParts.rsyncCommand.fillInParams(command, params))
-            printResult(heading, pass.run(CommandRole::Pull, {.text = *filled}).output);
+            printResult(heading, pass.run(step, {.text = *filled}).output);
     };
-    pull(usersCommand, u"\n\nresult from shell command =\n");
-    pull(cMovieCommandTemplate.toString(), u"\n\nresult from movie shell command =\n");
+    pull(PassStep::Pull, usersCommand, u"\n\nresult from shell command =\n");
+    pull(PassStep::Movies, cMovieCommandTemplate.toString(),
+         u"\n\nresult from movie shell command =\n");
     attemptToRescanAgain();
 }
 
@@ -294,6 +295,16 @@ void SyncCycle::lookForSettings(Start next) {
 
 void SyncCycle::markScanning() {
     fParts.mainQueue.async([this] { fParts.defaults.setObject(prefIsScanning, true); });
+}
+
+void SyncCycle::syncNow() {}
+
+void SyncCycle::cancelPass() {
+    fParts.passes.cancel();
+}
+
+CycleState SyncCycle::state() const {
+    return {};
 }
 
 void SyncCycle::clickStartButton() {

@@ -37,6 +37,16 @@ struct CycleView {
         showProblemWithBonjourClosure;
     /// Clicked by the cycle to switch syncing off and on again.
     Button* ibStartButton = nullptr;
+    /// Told on the main thread after each change of the cycle's state, but for the time that
+    /// passes. May be empty.
+    std::function<void()> stateChanged = {};
+};
+
+/// Where the cycle stands.
+struct CycleState {
+    bool passRuns = false;          ///< a pass has been begun and has not ended
+    std::optional<double> nextPass; ///< seconds until the planned pass begins; missing: none is
+    bool waits = false;             ///< switched on, but something is missing for a pass
 };
 
 /// Everything the cycle works with; all of it outlives the cycle.
@@ -51,6 +61,7 @@ struct SyncCycleParts {
     /// Asks the remote host by `run`, with ssh's connect time-out in seconds. Blocks; any thread.
     std::function<HostVerdict(qint64 timeout, const RunCommand& run)> validateRemoteHost;
     CycleView view;
+    std::function<double()> seconds; ///< since any fixed moment; never goes back
 };
 
 /// A pass schedules its successor; what prefEnableScanning and prefIsScanning say is asked at the
@@ -74,6 +85,17 @@ public:
     /// if syncing is on and no pass is in progress. Main thread; returns at once.
     void doSyncOnce();
     void doSyncOnceBonjour();
+
+    /// Begins the planned pass now instead of later. Nothing happens unless one is planned. Main
+    /// thread.
+    void syncNow();
+
+    /// Ends the pass that runs, at a person's wish; the next one comes as after any other. Main
+    /// thread; returns at once.
+    void cancelPass();
+
+    /// Main thread.
+    CycleState state() const;
 
     /// What a click by a person does. Without a start button the program stops. Main thread.
     void clickStartButton();

@@ -7,21 +7,12 @@
 #include "ui/pass_words.h"
 
 namespace kelvo {
-namespace {
-
-/// Passes that say nothing about the next one: they change no mind.
-bool saysNothing(PassCause cause) {
-    return cause == PassCause::FilesVanished || cause == PassCause::Interrupted;
-}
-
-} // namespace
-
 PassNotices::PassNotices(PassStore& store, const UserDefaults& defaults, DesktopNotices& notices)
     : fDefaults(defaults), fNotices(notices),
       fObservation(store.observe([this](const PassRecord& pass) { heard(pass); })) {}
 
 void PassNotices::heard(const PassRecord& pass) {
-    const bool trouble = pass.cause != PassCause::Well;
+    const bool trouble = isTrouble(pass.cause);
     if (trouble == fTrouble || saysNothing(pass.cause))
         return;
     fTrouble = trouble;
@@ -30,12 +21,13 @@ void PassNotices::heard(const PassRecord& pass) {
     // The words are the program's own: nothing that a host said is shown on the desktop.
     const CauseWords words = wordsFor(pass.cause);
     if (trouble)
-        fNotices.showNotice(QStringLiteral("Kelvo Mirror is in trouble"),
-                            QString(words.sentence + QLatin1String(" ") + words.nextStep));
+        fNotices.showNotice({.title = QStringLiteral("Kelvo Mirror is in trouble"),
+                             .text = QString(words.sentence + QLatin1String(" ") + words.nextStep),
+                             .urgent = true});
     else
         fNotices.showNotice(
-            QStringLiteral("Kelvo Mirror is well again"),
-            QString(u"The last pass went well: " + filesText(pass.transfer) + u'.'));
+            {.title = QStringLiteral("Kelvo Mirror is well again"),
+             .text = QString(u"The last pass went well: " + filesText(pass.transfer) + u'.')});
 }
 
 } // namespace kelvo

@@ -19,6 +19,7 @@ enum class CauseGroup {
     CutOff,
     Settings,
     Interrupted,
+    AfterArrivals,
     Unknown
 };
 

@@ -33,6 +33,7 @@ class DnssdBrowser;
 class MainWindowController;
 class NetworkChecker;
 class NotificationCenter;
+class PassStore;
 class ShareCommands;
 class StatusMenuPresence;
 class Workspace;
@@ -41,6 +42,7 @@ class Workspace;
 struct ViewControllerParts {
     EngineParts engine;
     Outlets outlets;
+    PassStore& passStore;
     NotificationCenter& notificationCenter;
     const Bundle& bundle;
     std::function<void()> quitAndRelaunch; ///< ends the program and has it started again
@@ -75,6 +77,8 @@ public:
     void ibStartRSyncProcess(Control* sender) { fEngine.syncCycle.ibStartRSyncProcess(sender); }
     void ibRSyncOnce(Control* sender) { fEngine.syncCycle.ibRSyncOnce(sender); }
     void ibRSyncOnceBonjour(Control* sender) { fEngine.syncCycle.ibRSyncOnceBonjour(sender); }
+    void ibSyncNow(Control*) { fEngine.syncCycle.syncNow(); }
+    void ibCancelPass(Control*) { fEngine.syncCycle.cancelPass(); }
     void ibSuspendTimer(Control*) { fRepeatTimer.ibSuspendTimer(); }
     void ibResumeTimer(Control*) { fRepeatTimer.ibResumeTimer(); }
     void ibKillTimer(Control*) { fRepeatTimer.ibKillTimer(); }

@@ -44,8 +44,9 @@ using Worlds = ::testing::Types<FakeWorld, BusWorld>;
 TYPED_TEST_SUITE(DesktopNoticesContractTest, Worlds);
 
 TYPED_TEST(DesktopNoticesContractTest, TitleAndText_AreShownPlain) {
-    this->world.notices.showNotice(QStringLiteral("A & B"), QStringLiteral("<b>5 < 6"));
-    this->world.notices.showNotice(QStringLiteral("C"), QStringLiteral("d"));
+    this->world.notices.showNotice(
+        {.title = QStringLiteral("A & B"), .text = QStringLiteral("<b>5 < 6")});
+    this->world.notices.showNotice({.title = QStringLiteral("C"), .text = QStringLiteral("d")});
     const QStringList expected{QStringLiteral("A & B | <b>5 < 6"), QStringLiteral("C | d")};
     EXPECT_TRUE(waitInLoop([&] { return this->world.shown() == expected; }))
         << this->world.shown().join(u'\n').toStdString();
@@ -67,9 +68,9 @@ TEST_F(BusNoticesTest, Service_GetsPlainTitleAndEscapedBody) {
     NotificationService service(desktop.get());
     ASSERT_TRUE(service.appear());
     BusConnection own(bus.address(), QStringLiteral("notices-own"));
-    BusNotices shown([this](const QString& title, const QString&) { otherwise << title; },
+    BusNotices shown([this](const Notice& notice) { otherwise << notice.title; },
                      [&own] { return own.get(); });
-    shown.showNotice(QStringLiteral("A & B"), QStringLiteral("<b>5 < 6"));
+    shown.showNotice({.title = QStringLiteral("A & B"), .text = QStringLiteral("<b>5 < 6")});
     EXPECT_TRUE(waitInLoop([&] { return !service.shown.isEmpty(); }));
     EXPECT_EQ(service.shown, QStringList{QStringLiteral("A & B | &lt;b&gt;5 &lt; 6")});
     EXPECT_TRUE(otherwise.isEmpty());
@@ -78,17 +79,17 @@ TEST_F(BusNoticesTest, Service_GetsPlainTitleAndEscapedBody) {
 TEST_F(BusNoticesTest, NoService_IsShownOtherwise) {
     BusConnection own(bus.address(), QStringLiteral("notices-alone"));
     BusNotices shown(
-        [this](const QString& title, const QString& text) { otherwise << title + u" | " + text; },
+        [this](const Notice& notice) { otherwise << notice.title + u" | " + notice.text; },
         [&own] { return own.get(); });
-    shown.showNotice(QStringLiteral("A"), QStringLiteral("b<"));
+    shown.showNotice({.title = QStringLiteral("A"), .text = QStringLiteral("b<")});
     EXPECT_TRUE(waitInLoop([&] { return !otherwise.isEmpty(); }));
     EXPECT_EQ(otherwise, QStringList{QStringLiteral("A | b<")});
 }
 
 TEST_F(BusNoticesTest, NoBus_IsShownOtherwise) {
-    BusNotices shown([this](const QString& title, const QString&) { otherwise << title; },
+    BusNotices shown([this](const Notice& notice) { otherwise << notice.title; },
                      [] { return QDBusConnection(QStringLiteral("not connected to anything")); });
-    shown.showNotice(QStringLiteral("A"), QStringLiteral("b"));
+    shown.showNotice({.title = QStringLiteral("A"), .text = QStringLiteral("b")});
     EXPECT_TRUE(waitInLoop([&] { return !otherwise.isEmpty(); }));
 }
 

@@ -35,6 +35,8 @@ TEST(FactoryDefaultsTest, Values_HaveTheirTypes) {
         {"prefAutoStartScanOnLaunch", false},
         {"prefHideOnLaunch", false},
         {"showNotices", true},
+        {"showArrivals", true},
+        {"quitWithoutAsking", false},
     };
     EXPECT_TRUE(sameStoredValue(values, expected)) << ::testing::PrintToString(QVariant(values));
 }

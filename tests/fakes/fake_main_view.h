@@ -19,6 +19,7 @@ public:
     void showNetworkStatus(const QString& text) override { networkLines.push_back(text); }
     void showTesting(bool testing) override { testSigns.push_back(testing); }
     void showKeyState(KeyState state) override { keyStates.push_back(state); }
+    void showWork(const WorkState& state) override { works.push_back(state); }
     void beep() override { ++beeps; }
     Subscription monitorRightMouseDown(const Control& view,
                                        std::function<void(bool)> handler) override {
@@ -40,6 +41,7 @@ public:
     int beeps = 0;
     std::vector<QString> networkLines; ///< every text so far
     std::vector<bool> testSigns;       ///< every call so far
+    std::vector<WorkState> works;      ///< every state so far
     std::vector<KeyState> keyStates;   ///< every state so far
     std::shared_ptr<std::map<const Control*, std::function<void(bool)>>> monitors =
         std::make_shared<std::map<const Control*, std::function<void(bool)>>>();

@@ -53,6 +53,7 @@ public:
         fState = state;
         shown.push_back(state);
     }
+    void showWork(const WorkState& state) override { works.push_back(state); }
     void setStartTitle(const QString& title) override { startTitle = title; }
     void hide() override {
         fState.reset();
@@ -73,6 +74,7 @@ public:
     }
 
     std::vector<StatusMenuState> shown; ///< every call of show so far
+    std::vector<WorkState> works;       ///< every state of work so far
     int hides = 0;
     QString startTitle;
 

@@ -20,6 +20,9 @@ public:
         const std::lock_guard lock(fState->mutex);
         fState->records.push_back(record);
         fState->records.back().id = ++fState->lastId;
+        for (const Arrival& arrival : record.arrivals)
+            fState->arrivals.push_back({++fState->lastArrival, fState->lastId, arrival});
+        fState->noteStanding(withoutCommands(fState->records.back()));
         if (fState->records.size() > cMostPasses)
             fState->records.erase(fState->records.begin());
         fMainQueue.async([state = fState, told = withoutCommands(fState->records.back())] {
@@ -48,6 +51,58 @@ public:
         });
     }
 
+    void readArrivals(const ArrivalQuestion& question, Arrivals answer) override {
+        fMainQueue.async([state = fState, alive = std::weak_ptr(fAlive), question, answer] {
+            if (alive.expired())
+                return;
+            std::vector<KeptArrival> found;
+            for (auto kept = state->arrivals.rbegin(); kept != state->arrivals.rend(); ++kept) {
+                if ((question.before == 0 || kept->id < question.before) &&
+                    QString::fromUtf8(kept->arrival.path)
+                        .contains(question.text, Qt::CaseInsensitive) &&
+                    std::cmp_less(found.size(), question.most))
+                    found.push_back(*kept);
+            }
+            answer(std::move(found));
+        });
+    }
+
+    void readDays(int days, Days answer) override {
+        fMainQueue.async([state = fState, alive = std::weak_ptr(fAlive), days, answer] {
+            if (alive.expired())
+                return;
+            std::map<QDate, DayOfPasses> found;
+            for (const PassRecord& record : state->records) {
+                const QDate date = record.began.toLocalTime().date();
+                DayOfPasses& day = found[date];
+                day.day = date;
+                day.files += record.transfer.files.value_or(0);
+                day.bytes += record.transfer.bytes.value_or(0);
+                day.trouble = day.trouble || isTrouble(record.cause);
+            }
+            const QDate first = QDate::currentDate().addDays(1 - days);
+            std::vector<DayOfPasses> all;
+            for (const auto& [date, day] : found) {
+                if (date >= first)
+                    all.push_back(day);
+            }
+            answer(std::move(all));
+        });
+    }
+
+    void readStanding(StandingAnswer answer) override {
+        fMainQueue.async([state = fState, alive = std::weak_ptr(fAlive), answer] {
+            if (!alive.expired())
+                answer(state->standing);
+        });
+    }
+
+    /// What the store says of itself from now on.
+    void setFault(const QString& fault, const QString& aside) {
+        fState->standing.fault = fault;
+        fState->standing.aside = aside;
+    }
+
     Subscription observe(std::function<void(const PassRecord&)> observer) override {
         const int number = fState->next++;
         fState->observers.emplace(number, std::move(observer));
@@ -56,7 +111,23 @@ public:
 
 private:
     struct State {
+        void noteStanding(const PassRecord& record) {
+            if (saysNothing(record.cause))
+                return;
+            if (!isTrouble(record.cause)) {
+                standing.lastSuccess = record;
+                standing.troubleSince = {};
+                standing.passesInTrouble = 0;
+            } else if (standing.passesInTrouble++ == 0) {
+                standing.troubleSince = record.began;
+            }
+            standing.last = record;
+        }
+
         std::mutex mutex;
+        std::vector<KeptArrival> arrivals;
+        Standing standing;
+        qint64 lastArrival = 0;
         std::vector<PassRecord> records;
         std::map<int, std::function<void(const PassRecord&)>> observers;
         qint64 lastId = 0;

@@ -5,15 +5,19 @@
 
 #include <QStringList>
 
+#include <vector>
+
 namespace kelvo {
 
 class RecordingNotices final : public DesktopNotices {
 public:
-    void showNotice(const QString& title, const QString& text) override {
-        shown << title + u" | " + text;
+    void showNotice(const Notice& notice) override {
+        shown << notice.title + u" | " + notice.text;
+        notices.push_back(notice);
     }
 
     QStringList shown; ///< "<title> | <text>"
+    std::vector<Notice> notices;
 };
 
 } // namespace kelvo

@@ -45,6 +45,8 @@ public:
         return result;
     }
 
+    void cancel(CommandId) override {}
+
     QStringList commands() const {
         const std::lock_guard lock(fMutex);
         return fCommands;

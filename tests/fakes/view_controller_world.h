@@ -10,6 +10,7 @@
 #include "fakes/fake_status_menu.h"
 #include "fakes/memory_bundle.h"
 #include "fakes/memory_defaults.h"
+#include "fakes/memory_pass_store.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_browser.h"
 #include "fakes/scripted_shell.h"
@@ -74,6 +75,7 @@ public:
     int windowShown = 0;
     MainWindowController windowController{[this] { ++windowShown; }};
     MainWindowController* window = &windowController;
+    MemoryPassStore passStore{mainQueue};
     std::vector<PassRecord> passes; ///< every record so far
     ViewController controller{{
         .engine = {.defaults = defaults,
@@ -83,7 +85,11 @@ public:
                    .files = files,
                    .console = console,
                    .clock = {[this] { return now; }, [this] { return seconds; }},
-                   .passEnded = [this](const PassRecord& pass) { passes.push_back(pass); }},
+                   .passEnded =
+                       [this](const PassRecord& pass) {
+                           passes.push_back(pass);
+                           passStore.append(pass);
+                       }},
         .outlets = {.application = application,
                     .view = view,
                     .alertPresenter = presenter,
@@ -97,6 +103,7 @@ public:
                     .ibRevealButton2 = &revealButton2,
                     .ibStatusTextField = field,
                     .fNsPathControl1 = pathControl},
+        .passStore = passStore,
         .notificationCenter = notificationCenter,
         .bundle = bundle,
         .quitAndRelaunch = [this] { ++relaunches; },

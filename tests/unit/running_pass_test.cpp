@@ -32,6 +32,7 @@ public:
         }
         return {{}, {}, 0};
     }
+    void cancel(CommandId) override {}
 
     std::function<void()> whileRunning;
     QString endless; ///< this command never ends by itself
@@ -45,8 +46,8 @@ private:
 class RunningPassTest : public ::testing::Test {
 protected:
     static CommandResult run(RunningPass& pass, const char* command,
-                             CommandRole role = CommandRole::Pull) {
-        return pass.run(role, {.text = QString::fromLatin1(command)});
+                             PassStep step = PassStep::Pull) {
+        return pass.run(step, {.text = QString::fromLatin1(command)});
     }
 
     double clock = 100;
@@ -64,7 +65,7 @@ TEST_F(RunningPassTest, RemotePass_IsWrittenDownWhole) {
     commands.results[QStringLiteral("second")] = {{}, QStringLiteral("oops\n"), 24};
     {
         RunningPass pass(passes, PassKind::Remote);
-        run(pass, "ssh whoami", CommandRole::HostCheck);
+        run(pass, "ssh whoami", PassStep::AskingTheMac);
         pass.judged(HostVerdict::Valid);
         run(pass, "first --stats");
         run(pass, "second");
@@ -137,19 +138,19 @@ TEST_F(RunningPassTest, PassesUnderWay_TellWhatRunsSinceWhen) {
     commands.whileRunning = [&] { seen = passes.underWay(); };
     {
         RunningPass pass(passes, PassKind::Remote);
-        run(pass, "ssh whoami", CommandRole::HostCheck);
+        run(pass, "ssh whoami", PassStep::AskingTheMac);
         ASSERT_EQ(seen.size(), 1U);
         EXPECT_EQ(seen[0].kind, PassKind::Remote);
         EXPECT_EQ(seen[0].began, noon);
-        EXPECT_EQ(seen[0].role, CommandRole::HostCheck);
+        EXPECT_EQ(seen[0].progress.step, PassStep::AskingTheMac);
         EXPECT_EQ(seen[0].command, QStringLiteral("ssh whoami"));
         const RunningPass second(passes, PassKind::Plain);
         run(pass, "pull");
         ASSERT_EQ(seen.size(), 2U);
-        EXPECT_EQ(seen[0].role, CommandRole::Pull);
+        EXPECT_EQ(seen[0].progress.step, PassStep::Pull);
         EXPECT_EQ(seen[0].command, QStringLiteral("pull"));
-        EXPECT_FALSE(seen[1].role.has_value());
-        EXPECT_FALSE(passes.underWay()[0].role.has_value()) << "between two commands";
+        EXPECT_EQ(seen[1].progress.step, PassStep::Begun);
+        EXPECT_EQ(passes.underWay()[0].progress.step, PassStep::Begun) << "between two commands";
     }
     EXPECT_TRUE(passes.underWay().empty());
 }
@@ -168,7 +169,7 @@ TEST_F(RunningPassTest, CheckWhoseTimeWasUp_IsWrittenDownAsAHostThatIsAway) {
     {
         RunningPass pass(passes, PassKind::Remote);
         const CommandResult result =
-            pass.run(CommandRole::HostCheck, {.text = commands.endless, .seconds = 33});
+            pass.run(PassStep::AskingTheMac, {.text = commands.endless, .seconds = 33});
         EXPECT_EQ(result.output, QStringLiteral("so far\n"));
         pass.judged(HostVerdict::UnknownError);
     }

@@ -122,16 +122,18 @@ protected:
          .rsyncCommand = rsyncCommand,
          .validateRemoteHost = [this](qint64 timeout,
                                       const RunCommand&) { return validator.validate(timeout); },
-         .view = {
-             .updateStatusMessage =
-                 [this](std::optional<QString> mesg, StatusColor color, bool docenter) {
-                     statusLine.updateStatusMessage(std::move(mesg), color, docenter);
-                 },
-             .showProblemWithBonjourClosure =
-                 [this](const QString& message, const QString& text, AlertCompletion completion) {
-                     alerts.showProblemWithBonjourClosure(message, text, std::move(completion));
-                 },
-             .ibStartButton = &button}}};
+         .view = {.updateStatusMessage =
+                      [this](std::optional<QString> mesg, StatusColor color, bool docenter) {
+                          statusLine.updateStatusMessage(std::move(mesg), color, docenter);
+                      },
+                  .showProblemWithBonjourClosure =
+                      [this](const QString& message, const QString& text,
+                             AlertCompletion completion) {
+                          alerts.showProblemWithBonjourClosure(message, text,
+                                                               std::move(completion));
+                      },
+                  .ibStartButton = &button},
+         .seconds = [] { return 0.0; }}};
 };
 
 // -- the actions
@@ -158,7 +160,8 @@ TEST_F(SyncCycleTest, MissingStartButton_StopsTheProgramAtTheClick) {
                        .console = console,
                        .rsyncCommand = rsyncCommand,
                        .validateRemoteHost = {},
-                       .view = {}});
+                       .view = {},
+                       .seconds = {}});
     EXPECT_EXIT(without.clickStartButton(), ::testing::KilledBySignal(SIGILL), "start button");
 }
 

@@ -26,6 +26,7 @@ public:
     void showNetworkStatus(const QString& text) override;
     void showTesting(bool) override {}
     void showKeyState(KeyState) override {}
+    void showWork(const WorkState&) override {}
     void beep() override {}
     Subscription monitorRightMouseDown(const Control&, std::function<void(bool)>) override {
         return {};

@@ -14,16 +14,16 @@ constexpr int cAsTheDesktopLikes = -1;
 
 } // namespace
 
-BusNotices::BusNotices(std::function<void(const QString&, const QString&)> otherwise,
+BusNotices::BusNotices(std::function<void(const Notice&)> otherwise,
                        std::function<QDBusConnection()> connect)
     : fOtherwise(std::move(otherwise)), fConnect(std::move(connect)) {}
 
-void BusNotices::showNotice(const QString& title, const QString& text) {
+void BusNotices::showNotice(const Notice& notice) {
     const QDBusConnection bus = fConnect();
     // A call that fails at once is never reported as finished.
     if (!bus.isConnected()) {
         if (fOtherwise)
-            fOtherwise(title, text);
+            fOtherwise(notice);
         return;
     }
     const QString service = QStringLiteral("org.freedesktop.Notifications");
@@ -32,16 +32,16 @@ void BusNotices::showNotice(const QString& title, const QString& text) {
                                        service, QStringLiteral("Notify"));
     // The body may hold marks; the summary is always plain.
     notify << QStringLiteral("Kelvo Mirror") << quint32{0} << QStringLiteral("kelvo-mirror")
-           << title << text.toHtmlEscaped() << QStringList()
+           << notice.title << notice.text.toHtmlEscaped() << QStringList()
            << QVariantMap{{QStringLiteral("desktop-entry"),
                            QStringLiteral("org.kelvo.KelvoMirror")}}
            << cAsTheDesktopLikes;
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(notify, cAnswerTimeout), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this,
-            [this, title, text](QDBusPendingCallWatcher* finished) {
+            [this, notice](QDBusPendingCallWatcher* finished) {
                 finished->deleteLater();
                 if (finished->isError() && fOtherwise)
-                    fOtherwise(title, text);
+                    fOtherwise(notice);
             });
 }
 

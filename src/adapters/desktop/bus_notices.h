@@ -15,13 +15,13 @@ class BusNotices final : public QObject, public DesktopNotices {
 public:
     /// `otherwise` (if any) shows what the service could not; main thread. `connect` gives the
     /// session bus; it is called with the first notice.
-    explicit BusNotices(std::function<void(const QString&, const QString&)> otherwise,
+    explicit BusNotices(std::function<void(const Notice&)> otherwise,
                         std::function<QDBusConnection()> connect = QDBusConnection::sessionBus);
 
-    void showNotice(const QString& title, const QString& text) override;
+    void showNotice(const Notice& notice) override;
 
 private:
-    const std::function<void(const QString&, const QString&)> fOtherwise;
+    const std::function<void(const Notice&)> fOtherwise;
     const std::function<QDBusConnection()> fConnect;
 };
 

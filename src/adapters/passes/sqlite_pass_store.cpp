@@ -67,6 +67,10 @@ void SqlitePassStore::read(qint64 id, Record answerWith) {
         true);
 }
 
+void SqlitePassStore::readArrivals(const ArrivalQuestion&, Arrivals) {}
+void SqlitePassStore::readDays(int, Days) {}
+void SqlitePassStore::readStanding(StandingAnswer) {}
+
 Subscription SqlitePassStore::observe(std::function<void(const PassRecord&)> observer) {
     const std::lock_guard lock(fObservers->mutex);
     const int number = fObservers->next++;

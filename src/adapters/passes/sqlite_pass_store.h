@@ -32,6 +32,9 @@ public:
 
     void append(const PassRecord& record) override;
     void readAll(Records answer) override;
+    void readArrivals(const ArrivalQuestion& question, Arrivals answer) override;
+    void readDays(int days, Days answer) override;
+    void readStanding(StandingAnswer answer) override;
     void read(qint64 id, Record answer) override;
     Subscription observe(std::function<void(const PassRecord&)> observer) override;
 

@@ -245,6 +245,8 @@ std::optional<int> PosixShellRunner::leave(pid_t pid, End end) {
     return exitStatus;
 }
 
+void PosixShellRunner::cancel(CommandId) {}
+
 void PosixShellRunner::endAll() {
     const std::lock_guard once(fEndMutex);
     std::vector<pid_t> sessions;

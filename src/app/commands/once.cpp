@@ -62,6 +62,8 @@ int exitCodeFor(CauseGroup group) {
         return 17;
     case CauseGroup::Interrupted:
         return 18;
+    case CauseGroup::AfterArrivals:
+        return 19;
     case CauseGroup::Unknown:
         break;
     }

@@ -16,6 +16,14 @@ QString titleOf(Remedy remedy) {
         return ChecklistView::tr("Choose…");
     case Remedy::CopyInstallCommand:
         return ChecklistView::tr("Copy the command");
+    case Remedy::CheckAgain:
+        return ChecklistView::tr("Check Again");
+    case Remedy::ShowDetails:
+        return ChecklistView::tr("Details");
+    case Remedy::OpenLog:
+        return ChecklistView::tr("Open the Log");
+    case Remedy::None:
+        break;
     }
     return {};
 }

@@ -181,6 +181,10 @@ void MainWindow::showKeyState(KeyState state) {
     Q_EMIT keyStateShown(state);
 }
 
+void MainWindow::showWork(const WorkState& work) {
+    fSyncTab->showWork(work);
+}
+
 QTableView& MainWindow::foundServices() {
     return *fFoundServices;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/key_state.h"
+#include "support/work_state.h"
 #include "ui/widgets/bindings.h"
 
 #include <QMainWindow>
@@ -57,6 +58,7 @@ public:
     int currentTab() const;
     void showTab(int index);
     void showKeyState(KeyState state);
+    void showWork(const WorkState& work);
     void showTab(const QString& identifier);
 
     /// Brings the window to the front, out of hiding and out of its minimised state.

@@ -58,6 +58,8 @@ ChecklistView& SyncTab::checklist() {
     return *fUi->checklist;
 }
 
+void SyncTab::showWork(const WorkState&) {}
+
 void SyncTab::setNetworkStatus(const QString& text) {
     fUi->networkStatus->setText(text);
     fUi->networkStatus->setAccessibleName(text.isEmpty() ? tr("Network")

@@ -15,6 +15,7 @@ class Bindings;
 class ChecklistView;
 class PathControlView;
 class StatusFieldView;
+struct WorkState;
 
 class SyncTab final : public QWidget {
     Q_OBJECT
@@ -27,6 +28,8 @@ public:
     PathControlView& destinationPath();
     StatusFieldView& ibStatusTextField();
     ChecklistView& checklist();
+
+    void showWork(const WorkState& work);
 
     /// The network line; an empty text leaves its place empty.
     void setNetworkStatus(const QString& text);

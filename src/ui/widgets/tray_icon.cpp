@@ -62,6 +62,8 @@ void TrayIcon::show(StatusMenuState state) {
     update();
 }
 
+void TrayIcon::showWork(const WorkState&) {}
+
 void TrayIcon::setStartTitle(const QString& title) {
     fStartEntry->setText(QString(title).replace(u'&', QStringLiteral("&&")));
 }
@@ -79,9 +81,9 @@ const QSystemTrayIcon* TrayIcon::shownIcon() const {
     return fIcon && fIcon->isVisible() ? fIcon.get() : nullptr;
 }
 
-void TrayIcon::showNotice(const QString& title, const QString& text) {
+void TrayIcon::showNotice(const Notice& notice) {
     if (shownIcon())
-        fIcon->showMessage(title, text);
+        fIcon->showMessage(notice.title, notice.text);
 }
 
 void TrayIcon::update() {

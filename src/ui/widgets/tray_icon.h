@@ -1,6 +1,7 @@
 // TrayIcon: the status menu in the desktop's tray.
 #pragma once
 
+#include "ports/desktop_notices.h"
 #include "ports/status_menu.h"
 #include "support/subscription.h"
 
@@ -25,12 +26,13 @@ public:
 
     void setActions(StatusMenuActions actions) override { fActions = std::move(actions); }
     void show(StatusMenuState state) override;
+    void showWork(const WorkState& work) override;
     void setStartTitle(const QString& title) override;
     void hide() override;
     bool isReachable() const override;
 
     /// Shows a notice beside the icon; none while that is hidden.
-    void showNotice(const QString& title, const QString& text);
+    void showNotice(const Notice& notice);
 
     /// The icon in the tray; none while hidden or before the desktop has had a tray.
     const QSystemTrayIcon* shownIcon() const;

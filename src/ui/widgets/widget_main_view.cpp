@@ -68,6 +68,11 @@ void WidgetMainView::showKeyState(KeyState state) {
         fWindow->showKeyState(state);
 }
 
+void WidgetMainView::showWork(const WorkState& work) {
+    if (fWindow)
+        fWindow->showWork(work);
+}
+
 void WidgetMainView::beep() {
     QApplication::beep();
 }
