@@ -9,7 +9,8 @@ namespace {
 
 TEST_F(SqlitePassStoreTest, FileOfANewerProgram_IsLeftAlone) {
     openStore()->append(numbered(1));
-    asOther({QStringLiteral("PRAGMA user_version = 99")});
+    asOther({QStringLiteral("PRAGMA journal_mode = DELETE"),
+             QStringLiteral("PRAGMA user_version = 99")});
     const QByteArray before = bytes();
     {
         const auto store = openStore();
