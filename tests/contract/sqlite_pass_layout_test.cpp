@@ -7,6 +7,37 @@
 namespace kelvo {
 namespace {
 
+/// Noon, `ago` days ago, as the record has it.
+QString began(int ago) {
+    return QString::number(
+        QDateTime(QDate::currentDate().addDays(-ago), QTime(12, 0)).toMSecsSinceEpoch());
+}
+
+/// A record that knows the first layout only: the statements of that time.
+QStringList firstLayout() {
+    const QString pass = QStringLiteral("INSERT INTO pass (began, seconds, kind, verdict, cause, "
+                                        "last_line, source, files, bytes) VALUES (");
+    return {QStringLiteral("PRAGMA journal_mode = WAL"),
+            QStringLiteral("CREATE TABLE IF NOT EXISTS pass ("
+                           "id INTEGER PRIMARY KEY AUTOINCREMENT, began INTEGER NOT NULL, "
+                           "seconds REAL NOT NULL, kind INTEGER NOT NULL, verdict TEXT NOT NULL, "
+                           "cause INTEGER NOT NULL, last_line TEXT NOT NULL, "
+                           "source INTEGER NOT NULL, files INTEGER, bytes INTEGER)"),
+            QStringLiteral("CREATE TABLE IF NOT EXISTS command ("
+                           "pass INTEGER NOT NULL, number INTEGER NOT NULL, "
+                           "role INTEGER NOT NULL, command TEXT NOT NULL, status INTEGER, "
+                           "seconds REAL NOT NULL, head BLOB NOT NULL, tail BLOB NOT NULL, "
+                           "left_out INTEGER NOT NULL, source INTEGER NOT NULL, files INTEGER, "
+                           "bytes INTEGER, PRIMARY KEY (pass, number))"),
+            QStringLiteral("PRAGMA user_version = 1"),
+            pass + began(2) + QStringLiteral(", 9.5, 1, 'valid', 0, 'well', 1, 3, 5000)"),
+            pass + began(2) + QStringLiteral(", 1, 1, 'valid', 12, '', 1, NULL, NULL)"),
+            pass + began(1) + QStringLiteral(", 1, 1, 'valid', 14, '', 1, 1, 70)"),
+            pass + began(0) + QStringLiteral(", 1, 1, 'valid', 21, 'ended', 0, NULL, NULL)"),
+            QStringLiteral("INSERT INTO command VALUES (1, 0, 1, 'rsync', 0, 0.5, X'', X'', 0, 1, "
+                           "3, 5000)")};
+}
+
 TEST_F(SqlitePassStoreTest, FileOfANewerProgram_IsLeftAlone) {
     openStore()->append(numbered(1));
     asOther({QStringLiteral("PRAGMA journal_mode = DELETE"),
@@ -27,31 +58,7 @@ TEST_F(SqlitePassStoreTest, FileOfANewerProgram_IsLeftAlone) {
 }
 
 TEST_F(SqlitePassStoreTest, RecordOfTheFirstLayout_IsTakenOverWithoutLoss) {
-    const auto began = [](int ago) {
-        return QString::number(
-            QDateTime(QDate::currentDate().addDays(-ago), QTime(12, 0)).toMSecsSinceEpoch());
-    };
-    const QString pass = QStringLiteral("INSERT INTO pass (began, seconds, kind, verdict, cause, "
-                                        "last_line, source, files, bytes) VALUES (");
-    asOther({QStringLiteral("PRAGMA journal_mode = WAL"),
-             QStringLiteral("CREATE TABLE IF NOT EXISTS pass ("
-                            "id INTEGER PRIMARY KEY AUTOINCREMENT, began INTEGER NOT NULL, "
-                            "seconds REAL NOT NULL, kind INTEGER NOT NULL, verdict TEXT NOT NULL, "
-                            "cause INTEGER NOT NULL, last_line TEXT NOT NULL, "
-                            "source INTEGER NOT NULL, files INTEGER, bytes INTEGER)"),
-             QStringLiteral("CREATE TABLE IF NOT EXISTS command ("
-                            "pass INTEGER NOT NULL, number INTEGER NOT NULL, "
-                            "role INTEGER NOT NULL, command TEXT NOT NULL, status INTEGER, "
-                            "seconds REAL NOT NULL, head BLOB NOT NULL, tail BLOB NOT NULL, "
-                            "left_out INTEGER NOT NULL, source INTEGER NOT NULL, files INTEGER, "
-                            "bytes INTEGER, PRIMARY KEY (pass, number))"),
-             QStringLiteral("PRAGMA user_version = 1"),
-             pass + began(2) + QStringLiteral(", 9.5, 1, 'valid', 0, 'well', 1, 3, 5000)"),
-             pass + began(2) + QStringLiteral(", 1, 1, 'valid', 12, '', 1, NULL, NULL)"),
-             pass + began(1) + QStringLiteral(", 1, 1, 'valid', 14, '', 1, 1, 70)"),
-             pass + began(0) + QStringLiteral(", 1, 1, 'valid', 21, 'ended', 0, NULL, NULL)"),
-             QStringLiteral("INSERT INTO command VALUES (1, 0, 1, 'rsync', 0, 0.5, X'', X'', 0, 1, "
-                            "3, 5000)")});
+    asOther(firstLayout());
     const auto store = openStore();
     EXPECT_EQ(lines(*store),
               (QStringList{QStringLiteral("ended"), {}, {}, QStringLiteral("well")}));
@@ -82,6 +89,32 @@ TEST_F(SqlitePassStoreTest, TakeOverThatFails_LeavesTheOldRecordWhole) {
     EXPECT_FALSE(standing(*openStore()).fault.isEmpty());
     asOther({QStringLiteral("CREATE TABLE arrival (nobody INTEGER)"),
              QStringLiteral("UPDATE pass SET began = 3 WHERE id = 1")});
+}
+
+TEST_F(SqlitePassStoreTest, ReadingOnly_TakesAnyLayoutAndWritesNothing) {
+    const auto read = [this](std::vector<PassRecord>& passes, std::vector<KeptArrival>& arrivals) {
+        PassDatabase database(path, {}, PassDatabase::Access::ReadOnly);
+        return database.readAll(passes) && database.readArrivals({}, arrivals);
+    };
+    std::vector<PassRecord> passes;
+    std::vector<KeptArrival> found;
+    EXPECT_FALSE(read(passes, found));
+    EXPECT_FALSE(QFile::exists(path));
+    asOther(firstLayout());
+    const QByteArray before = bytes();
+    EXPECT_TRUE(read(passes, found));
+    EXPECT_EQ(passes.size(), 4U);
+    EXPECT_TRUE(found.empty());
+    EXPECT_EQ(bytes(), before);
+    const auto store = openStore();
+    PassRecord pass = numbered(5);
+    pass.arrivals.push_back({"/in/a.mov", 1, pass.began});
+    store->append(pass);
+    EXPECT_EQ(lines(*store).size(), 5);
+    passes.clear();
+    EXPECT_TRUE(read(passes, found)) << "while another program has it open";
+    EXPECT_EQ(passes.size(), 5U);
+    EXPECT_EQ(found.size(), 1U);
 }
 
 TEST_F(SqlitePassStoreTest, EveryQuestion_IsAnsweredByAnIndex) {
