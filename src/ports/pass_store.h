@@ -21,12 +21,17 @@ struct KeptArrival {
 
 /// Which arrivals are asked for.
 struct ArrivalQuestion {
-    QString text = {}; ///< stands in the path, upper and lower case alike; empty: all
+    QString text = {}; ///< stands in the path, compared as `foldedText`; empty: all
     qint64 before = 0; ///< older than the arrival of this number; 0: from the newest on
     int most = 1000;
 };
 
-/// What came on one day, by this machine's clock.
+/// `text` for a search: upper and lower case alike, accents however they are composed.
+inline QString foldedText(const QString& text) {
+    return text.normalized(QString::NormalizationForm_C).toCaseFolded();
+}
+
+/// What came on one day, by this machine's clock at that time.
 struct DayOfPasses {
     QDate day;
     qint64 files = 0;
@@ -38,13 +43,32 @@ struct DayOfPasses {
 
 /// How things stand, whatever number of passes ago it was that something happened.
 struct Standing {
-    std::optional<PassRecord> last;        ///< the newest pass that says something; no commands
-    std::optional<PassRecord> lastSuccess; ///< the newest one that went well; no commands
+    std::optional<PassRecord> last;        ///< the newest pass that says something
+    std::optional<PassRecord> lastSuccess; ///< the newest one that went well
     QDateTime troubleSince;     ///< UTC; when the first pass of the present trouble began
     qint64 passesInTrouble = 0; ///< since then
     QString fault;              ///< why the record cannot be written or read now; empty when it can
     QString aside; ///< the damaged record was kept under this name, in this run of the program
+
+    /// Takes a pass into account that came after all others. Of records only what a list of them
+    /// holds is kept: no commands, no arrivals.
+    void add(const PassRecord& pass);
 };
+
+inline void Standing::add(const PassRecord& pass) {
+    if (saysNothing(pass.cause))
+        return;
+    last = pass;
+    last->commands.clear();
+    last->arrivals.clear();
+    if (!isTrouble(pass.cause)) {
+        lastSuccess = last;
+        troubleSince = {};
+        passesInTrouble = 0;
+    } else if (passesInTrouble++ == 0) {
+        troubleSince = pass.began;
+    }
+}
 
 /// Every operation: any thread, returns at once. Answers come on the main queue, in the order of
 /// the questions; none comes once the store is gone. A store that cannot read answers with nothing.
@@ -71,9 +95,11 @@ public:
     /// Arrivals, newest first. Those of the newest 50,000 are kept, longer than their passes.
     virtual void readArrivals(const ArrivalQuestion& question, Arrivals answer) = 0;
 
-    /// The last `days` days on which there was a pass, oldest first, today included.
+    /// Those of the last `days` days on which there was a pass, oldest first; today is one of them.
+    /// Days are kept longer than their passes.
     virtual void readDays(int days, Days answer) = 0;
 
+    /// What could not be written yet counts; a store that cannot read knows nothing else.
     virtual void readStanding(StandingAnswer answer) = 0;
 
     /// One record with its commands and arrivals; nothing when it is not there any more.

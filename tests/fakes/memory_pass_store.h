@@ -22,10 +22,16 @@ public:
         fState->records.back().id = ++fState->lastId;
         for (const Arrival& arrival : record.arrivals)
             fState->arrivals.push_back({++fState->lastArrival, fState->lastId, arrival});
-        fState->noteStanding(withoutCommands(fState->records.back()));
+        if (fState->arrivals.size() > cMostArrivals)
+            fState->arrivals.erase(fState->arrivals.begin(),
+                                   fState->arrivals.end() - cMostArrivals);
+        fState->standing.add(fState->records.back());
+        fState->noteDay(record);
         if (fState->records.size() > cMostPasses)
             fState->records.erase(fState->records.begin());
-        fMainQueue.async([state = fState, told = withoutCommands(fState->records.back())] {
+        PassRecord told = fState->records.back();
+        told.commands.clear();
+        fMainQueue.async([state = fState, told = std::move(told)] {
             for (const auto& [number, observer] : std::map(state->observers))
                 observer(told);
         });
@@ -37,7 +43,7 @@ public:
                 return;
             std::vector<PassRecord> all;
             for (auto record = state->records.rbegin(); record != state->records.rend(); ++record)
-                all.push_back(withoutCommands(*record));
+                all.push_back(asListed(*record));
             answer(std::move(all));
         });
     }
@@ -56,10 +62,10 @@ public:
             if (alive.expired())
                 return;
             std::vector<KeptArrival> found;
+            const QString text = foldedText(question.text);
             for (auto kept = state->arrivals.rbegin(); kept != state->arrivals.rend(); ++kept) {
                 if ((question.before == 0 || kept->id < question.before) &&
-                    QString::fromUtf8(kept->arrival.path)
-                        .contains(question.text, Qt::CaseInsensitive) &&
+                    foldedText(QString::fromUtf8(kept->arrival.path)).contains(text) &&
                     std::cmp_less(found.size(), question.most))
                     found.push_back(*kept);
             }
@@ -71,18 +77,9 @@ public:
         fMainQueue.async([state = fState, alive = std::weak_ptr(fAlive), days, answer] {
             if (alive.expired())
                 return;
-            std::map<QDate, DayOfPasses> found;
-            for (const PassRecord& record : state->records) {
-                const QDate date = record.began.toLocalTime().date();
-                DayOfPasses& day = found[date];
-                day.day = date;
-                day.files += record.transfer.files.value_or(0);
-                day.bytes += record.transfer.bytes.value_or(0);
-                day.trouble = day.trouble || isTrouble(record.cause);
-            }
             const QDate first = QDate::currentDate().addDays(1 - days);
             std::vector<DayOfPasses> all;
-            for (const auto& [date, day] : found) {
+            for (const auto& [date, day] : state->days) {
                 if (date >= first)
                     all.push_back(day);
             }
@@ -111,21 +108,18 @@ public:
 
 private:
     struct State {
-        void noteStanding(const PassRecord& record) {
-            if (saysNothing(record.cause))
-                return;
-            if (!isTrouble(record.cause)) {
-                standing.lastSuccess = record;
-                standing.troubleSince = {};
-                standing.passesInTrouble = 0;
-            } else if (standing.passesInTrouble++ == 0) {
-                standing.troubleSince = record.began;
-            }
-            standing.last = record;
+        void noteDay(const PassRecord& record) {
+            const QDate date = record.began.toLocalTime().date();
+            DayOfPasses& day = days[date];
+            day.day = date;
+            day.files += record.transfer.files.value_or(0);
+            day.bytes += record.transfer.bytes.value_or(0);
+            day.trouble = day.trouble || isTrouble(record.cause);
         }
 
         std::mutex mutex;
         std::vector<KeptArrival> arrivals;
+        std::map<QDate, DayOfPasses> days;
         Standing standing;
         qint64 lastArrival = 0;
         std::vector<PassRecord> records;
@@ -134,8 +128,9 @@ private:
         int next = 0;
     };
 
-    static PassRecord withoutCommands(PassRecord record) {
+    static PassRecord asListed(PassRecord record) {
         record.commands.clear();
+        record.arrivals.clear();
         return record;
     }
 

@@ -17,6 +17,7 @@ kelvo_tests(unit
     unit/notification_center_test.cpp
     unit/once_test.cpp
     unit/pass_cause_test.cpp
+    unit/passes_test.cpp
     unit/running_pass_test.cpp
     unit/pass_notices_test.cpp
     unit/plain_line_test.cpp
