@@ -2,6 +2,7 @@
 
 #include "passes/captured_text.h"
 #include "passes/pass_cause.h"
+#include "passes/progress_line.h"
 #include "passes/rsync_statistics.h"
 
 #include <utility>
@@ -15,6 +16,10 @@ CommandRole roleOf(PassStep step) {
     return step == PassStep::AfterArrivals ? CommandRole::AfterArrivals : CommandRole::Pull;
 }
 
+bool isPull(PassStep step) {
+    return step == PassStep::Pull || step == PassStep::Movies;
+}
+
 } // namespace
 
 RunningPasses::RunningPasses(CommandRunner& commands, PassClock clock,
@@ -24,8 +29,8 @@ RunningPasses::RunningPasses(CommandRunner& commands, PassClock clock,
 std::vector<PassUnderWay> RunningPasses::underWay() const {
     const std::lock_guard lock(fMutex);
     std::vector<PassUnderWay> all;
-    for (const RunningPass* pass : fPasses)
-        all.push_back(pass->fNow);
+    for (RunningPass* pass : fPasses)
+        all.push_back(pass->seen());
     return all;
 }
 
@@ -70,31 +75,80 @@ RunningPass::~RunningPass() {
     fPasses.fEnded(fRecord);
 }
 
+/// Whether the pass may go on.
+bool RunningPass::show(PassStep step, const QString& command) {
+    const std::lock_guard lock(fPasses.fMutex);
+    fNow.progress = {.step = step};
+    fNow.command = command;
+    fCommand.reset();
+    fReader.reset();
+    fWritten = {};
+    if (isPull(step))
+        fReader.emplace(command, command == fPasses.fWentWell);
+    return !fNow.cancelled;
+}
+
 CommandResult RunningPass::run(PassStep step, const Command& command) {
-    const auto show = [this](PassStep running, const QString& text) {
-        const std::lock_guard lock(fPasses.fMutex);
-        fNow.progress = {.step = running};
-        fNow.command = text;
-        fCommand.reset();
-        return !fNow.cancelled;
-    };
     if (!show(step, command.text))
         return {};
     Command ours = command;
     ours.started = [this, &command](CommandId id) { commandStarted(id, command); };
+    if (isPull(step))
+        ours.received = [this, &command](QByteArrayView bytes) { received(bytes, command); };
     const double began = fPasses.fClock.seconds();
     CommandResult result = fPasses.fCommands.run(ours);
+    const double seconds = fPasses.fClock.seconds() - began;
+    if (isPull(step))
+        result = pulled(std::move(result), command.text);
     (void)show(PassStep::Begun, {});
-    const CommandRole role = roleOf(step);
-    fRecord.commands.push_back({.role = role,
-                                .command = command.text,
-                                .exitStatus = result.exitStatus,
-                                .seconds = fPasses.fClock.seconds() - began,
-                                .text = capturedText(result.output, result.errors),
-                                .transfer = role == CommandRole::Pull
-                                                ? transferOf(command.text, result.output)
-                                                : Transfer()});
+    fRecord.commands.push_back(
+        {.role = roleOf(step),
+         .command = command.text,
+         .exitStatus = result.exitStatus,
+         .seconds = seconds,
+         .text = capturedText(result.output, result.errors),
+         .transfer = isPull(step) ? transferOf(command.text, result.output) : Transfer()});
     return result;
+}
+
+void RunningPass::received(QByteArrayView bytes, const Command& command) {
+    {
+        const double now = fPasses.fClock.seconds();
+        const std::lock_guard lock(fPasses.fMutex);
+        fReader->read(bytes, now);
+    }
+    if (command.received)
+        command.received(bytes);
+}
+
+CommandResult RunningPass::pulled(CommandResult result, const QString& command) {
+    {
+        const std::lock_guard lock(fPasses.fMutex);
+        std::vector<QByteArray> names = fReader->takeNames();
+        fNames.insert(fNames.end(), std::make_move_iterator(names.begin()),
+                      std::make_move_iterator(names.end()));
+        if (result.exitStatus == 0 && fReader->tellsProgress())
+            fPasses.fWentWell = command;
+    }
+    result.output = withoutProgress(std::move(result.output));
+    return result;
+}
+
+/// Under the lock.
+PassUnderWay RunningPass::seen() {
+    PassUnderWay now = fNow;
+    if (!fReader)
+        return now;
+    const double seconds = fPasses.fClock.seconds();
+    const PassStep step = now.progress.step;
+    now.progress = fReader->progress(seconds);
+    now.progress.step = step;
+    if (fReader->tellsProgress())
+        return now;
+    if (fCommand && fWritten.isDue(seconds))
+        fWritten.saw(fPasses.fCommands.fileBeingWritten(*fCommand), seconds);
+    fWritten.addTo(now.progress, seconds);
+    return now;
 }
 
 /// A wish that came while the command was being started counts too.

@@ -1,6 +1,8 @@
 // RunningPass: one pass from its begin to its record.
 #pragma once
 
+#include "passes/rsync_output_reader.h"
+#include "passes/written_files.h"
 #include "ports/command_runner.h"
 #include "support/pass_progress.h"
 #include "support/pass_record.h"
@@ -36,7 +38,8 @@ public:
     RunningPasses(CommandRunner& commands, PassClock clock,
                   std::function<void(const PassRecord&)> ended);
 
-    /// Oldest first.
+    /// Oldest first. Only who asks makes somebody look what a command that says nothing is writing,
+    /// and never more than five times a second.
     std::vector<PassUnderWay> underWay() const;
 
     /// Ends the passes that run, at a person's wish: their commands are ended, they run no others,
@@ -51,6 +54,7 @@ private:
     const std::function<void(const PassRecord&)> fEnded;
     mutable std::mutex fMutex;
     std::vector<RunningPass*> fPasses;
+    QString fWentWell; ///< the last pull that did
 };
 
 /// Begins when it is made and ends when it goes. Commands may run on any thread, one at a time.
@@ -64,14 +68,16 @@ public:
     RunningPass(const RunningPass&) = delete;
     RunningPass& operator=(const RunningPass&) = delete;
 
-    /// Runs `command` as CommandRunner does and writes it down. A cancelled pass runs nothing and
-    /// answers as a command does that was given up.
+    /// Runs `command` as CommandRunner does and writes it down; of a pull's output without the
+    /// lines that show progress. A cancelled pass runs nothing and answers as a command does that
+    /// was given up.
     CommandResult run(PassStep step, const Command& command);
 
     /// Any thread.
     bool isCancelled() const;
 
-    /// The files that pulls have named so far: the bytes of their names, relative to the source.
+    /// The files that pulls have named so far, at most 50,000 of each: the bytes of their names,
+    /// relative to the source. They may not have come whole.
     const std::vector<QByteArray>& names() const { return fNames; }
 
     /// What the pass has brought so far; kept in its record.
@@ -87,7 +93,11 @@ public:
 private:
     friend RunningPasses;
 
+    bool show(PassStep step, const QString& command);
     void commandStarted(CommandId id, const Command& command);
+    void received(QByteArrayView bytes, const Command& command);
+    CommandResult pulled(CommandResult result, const QString& command);
+    PassUnderWay seen();
 
     RunningPasses& fPasses;
     PassRecord fRecord;
@@ -95,7 +105,9 @@ private:
     QString fRefused; ///< empty unless it was
     const double fBegan;
     PassUnderWay fNow;                 ///< guarded by the mutex of all passes
-    std::optional<CommandId> fCommand; ///< the one that runs; guarded likewise
+    std::optional<CommandId> fCommand; ///< the one that runs; guarded likewise, as what follows
+    std::optional<RsyncOutputReader> fReader; ///< of a pull that runs
+    WrittenFiles fWritten;
 };
 
 } // namespace kelvo

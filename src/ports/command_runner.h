@@ -39,6 +39,14 @@ struct Command {
     std::map<QByteArray, QByteArray> variables = {}; ///< its environment, beside what it inherits
 };
 
+/// A file that a command is writing.
+struct FileBeingWritten {
+    QByteArray path; ///< from the folder that the writer stands in, if it lies in there
+    qint64 size = 0; ///< in bytes, so far
+
+    bool operator==(const FileBeingWritten&) const = default;
+};
+
 struct CommandResult {
     /// All of the standard output, untrimmed, read as UTF-8 with every broken sequence shown as
     /// U+FFFD; empty when the command printed nothing, could not be started, or the program is
@@ -65,6 +73,11 @@ public:
     /// to end, 2 s later forced, and its caller gets what was captured so far. Any thread; returns
     /// at once. A command that has ended is nobody's business.
     virtual void cancel(CommandId command) = 0;
+
+    /// A file that something a running command has started has open for writing: by its own name
+    /// while rsync keeps it under another. Nothing when there is none, and where that cannot be
+    /// told. Any thread; costs a look at each of the command's processes.
+    virtual std::optional<FileBeingWritten> fileBeingWritten(CommandId) const { return {}; }
 };
 
 /// Runs a command on somebody's behalf.

@@ -19,7 +19,16 @@ public:
     explicit ScriptedCommands(double& clock) : fClock(clock) {}
 
     CommandResult run(const Command& command) override {
-        if (whileRunning)
+        if (command.started)
+            command.started(1);
+        for (const char* piece : pieces) {
+            if (!command.received)
+                break;
+            command.received(piece);
+            if (whileRunning)
+                whileRunning();
+        }
+        if (whileRunning && pieces.empty())
             whileRunning();
         if (command.text == endless) {
             fClock += command.seconds.value_or(0);
@@ -33,8 +42,15 @@ public:
         return {{}, {}, 0};
     }
     void cancel(CommandId) override {}
+    std::optional<FileBeingWritten> fileBeingWritten(CommandId) const override {
+        ++looks;
+        return writing;
+    }
 
     std::function<void()> whileRunning;
+    std::vector<const char*> pieces; ///< printed one by one
+    std::optional<FileBeingWritten> writing;
+    mutable int looks = 0;
     QString endless; ///< this command never ends by itself
 
     std::map<QString, CommandResult> results;
@@ -162,6 +178,81 @@ TEST_F(RunningPassTest, Result_IsHandedBackUntouched) {
     EXPECT_EQ(result.output, QStringLiteral(" text \n\n"));
     EXPECT_EQ(result.errors, QStringLiteral("e"));
     EXPECT_EQ(result.exitStatus, 3);
+}
+
+TEST_F(RunningPassTest, PullThatTellsItsProgress_IsSeenAsItIs) {
+    std::vector<PassProgress> seen;
+    commands.pieces = {"70 a\\#377.mov\n\r      0   0%    0.00kB/s    0:00:00  ",
+                       "\r     70 100%    1.00kB/s    0:00:01 (xfr#1, to-chk=0/2)\n"};
+    commands.whileRunning = [&] { seen.push_back(passes.underWay().at(0).progress); };
+    RunningPass pass(passes, PassKind::Plain);
+    run(pass, "rsync --info=progress2 --out-format='%l %n'", PassStep::Pull);
+    ASSERT_EQ(seen.size(), 2U);
+    EXPECT_EQ(seen[0].step, PassStep::Pull);
+    EXPECT_EQ(seen[0].file, QStringLiteral("a\\#377.mov"));
+    EXPECT_EQ(seen[0].bytesDone, 0);
+    EXPECT_EQ(seen[1].share, 1);
+    EXPECT_EQ(seen[1].filesDone, 1);
+    EXPECT_EQ(commands.looks, 0) << "the command tells by itself";
+    EXPECT_EQ(passes.underWay().at(0).progress, PassProgress()) << "the command has ended";
+    EXPECT_EQ(pass.names(), std::vector<QByteArray>{"a\xff.mov"});
+}
+
+TEST_F(RunningPassTest, SamePullOnceMore_KnowsThatTheRestIsHere) {
+    std::vector<PassProgress> seen;
+    commands.pieces = {"100 a.mov\n\r      50   0%    1.00kB/s    0:01:01  "};
+    commands.whileRunning = [&] { seen.push_back(passes.underWay().at(0).progress); };
+    RunningPass pass(passes, PassKind::Plain);
+    run(pass, "rsync --info=progress2 --out-format='%l %n'");
+    run(pass, "rsync --info=progress2 --out-format='%l %n'");
+    ASSERT_EQ(seen.size(), 2U);
+    EXPECT_FALSE(seen[0].bytesKnown);
+    EXPECT_EQ(seen[1].bytesKnown, 100);
+    EXPECT_EQ(seen[1].share, 0.5);
+}
+
+TEST_F(RunningPassTest, PullThatSaysNothing_IsSeenByTheFileItWrites) {
+    std::vector<PassProgress> seen;
+    const auto look = [&](std::optional<FileBeingWritten> writing, double seconds) {
+        commands.writing = std::move(writing);
+        clock += seconds;
+        seen.push_back(passes.underWay().at(0).progress);
+    };
+    commands.whileRunning = [&] {
+        look(FileBeingWritten{"one.mov", 1000}, 0);
+        look(FileBeingWritten{"one.mov", 9000}, 0.1);
+        look(FileBeingWritten{"one.mov", 3000}, 1);
+        look(FileBeingWritten{"two\x1b.mov", 500}, 1);
+        look(std::nullopt, 1);
+    };
+    RunningPass pass(passes, PassKind::Remote);
+    run(pass, "rsync", PassStep::Movies);
+    ASSERT_EQ(seen.size(), 5U);
+    EXPECT_EQ(seen[0].step, PassStep::Movies);
+    EXPECT_EQ(seen[0].file, QStringLiteral("one.mov"));
+    EXPECT_EQ(seen[0].bytesDone, 1000);
+    EXPECT_EQ(seen[1].bytesDone, 1000) << "looked at too short a while ago";
+    EXPECT_EQ(seen[2].bytesDone, 3000);
+    EXPECT_NEAR(seen[2].bytesPerSecond.value_or(0), 2000 / 1.1, 1);
+    EXPECT_EQ(seen[3].file, QStringLiteral("two\\x1b.mov"));
+    EXPECT_EQ(seen[3].filesDone, 1);
+    EXPECT_EQ(seen[3].bytesDone, 3500);
+    EXPECT_EQ(seen[4].filesDone, 2);
+    EXPECT_FALSE(seen[4].share);
+    EXPECT_EQ(commands.looks, 4);
+}
+
+TEST_F(RunningPassTest, ProgressOfAPull_IsNotKept) {
+    const QString text = QStringLiteral("a.mov\n\r   70 100%  1.00kB/s  0:00:01 (xfr#1, "
+                                        "to-chk=0/2)\nend\n");
+    commands.results[QStringLiteral("x")] = {text, {}, 0};
+    {
+        RunningPass pass(passes, PassKind::Plain);
+        EXPECT_EQ(run(pass, "x").output, QStringLiteral("a.mov\nend\n"));
+        EXPECT_EQ(run(pass, "x", PassStep::AskingTheMac).output, text);
+    }
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].commands.at(0).text.head, QStringLiteral("a.mov\nend\n"));
 }
 
 TEST_F(RunningPassTest, CheckWhoseTimeWasUp_IsWrittenDownAsAHostThatIsAway) {

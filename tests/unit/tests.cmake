@@ -30,6 +30,7 @@ kelvo_tests(unit
     unit/remote_side_test.cpp
     unit/repeat_timer_test.cpp
     unit/rsync_command_test.cpp
+    unit/rsync_output_reader_test.cpp
     unit/service_name_rules_test.cpp
     unit/share_commands_test.cpp
     unit/shell_words_test.cpp

@@ -1,6 +1,7 @@
 #include "adapters/process/posix_shell_runner.h"
 
 #include "adapters/process/command_processes.h"
+#include "adapters/process/open_files.h"
 #include "adapters/process/shell_child.h"
 #include "adapters/process/utf8_collector.h"
 #include "ports/console.h"
@@ -196,6 +197,8 @@ CommandResult PosixShellRunner::run(const Command& command) {
         return {{}, {}, cCannotStart};
     }
 
+    if (command.started)
+        command.started(child.pid);
     Capture capture(child, fGiveUp.get(), command.received);
     End end = End::Own;
     if (!capture.follow(deadline))
@@ -246,6 +249,10 @@ std::optional<int> PosixShellRunner::leave(pid_t pid, End end) {
 }
 
 void PosixShellRunner::cancel(CommandId) {}
+
+std::optional<FileBeingWritten> PosixShellRunner::fileBeingWritten(CommandId command) const {
+    return fileWrittenBy(static_cast<pid_t>(command));
+}
 
 void PosixShellRunner::endAll() {
     const std::lock_guard once(fEndMutex);

@@ -33,6 +33,8 @@ public:
 
     void cancel(CommandId command) override;
 
+    std::optional<FileBeingWritten> fileBeingWritten(CommandId command) const override;
+
     /// For an orderly quit: from now on every command returns the empty text at once. Whatever any
     /// command has started and is still there, in its session or in another, is asked to end, 2 s
     /// later forced; callers get what was captured so far, even if somebody still holds the output.
