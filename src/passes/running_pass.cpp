@@ -1,7 +1,6 @@
 #include "passes/running_pass.h"
 
 #include "passes/captured_text.h"
-#include "passes/pass_cause.h"
 #include "passes/progress_line.h"
 #include "passes/rsync_statistics.h"
 
@@ -66,8 +65,7 @@ RunningPass::~RunningPass() {
     fRecord.seconds = fPasses.fClock.seconds() - fBegan;
     for (const CommandRecord& command : fRecord.commands)
         fRecord.transfer = sumOf(fRecord.transfer, command.transfer);
-    NamedCause named =
-        fRefused.isEmpty() ? causeOf(fRecord) : NamedCause{PassCause::SettingsRefused, fRefused};
+    NamedCause named = fRefused ? *fRefused : causeOf(fRecord);
     if (fNow.cancelled)
         named = {PassCause::Cancelled, {}};
     fRecord.cause = named.cause;

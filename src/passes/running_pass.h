@@ -1,6 +1,7 @@
 // RunningPass: one pass from its begin to its record.
 #pragma once
 
+#include "passes/pass_cause.h"
 #include "passes/rsync_output_reader.h"
 #include "passes/written_files.h"
 #include "ports/command_runner.h"
@@ -83,9 +84,14 @@ public:
     /// What the pass has brought so far; kept in its record.
     void brought(std::vector<Arrival> arrivals);
 
-    /// The pass ends before its commands: `why` tells which text of the settings cannot stand in
-    /// one.
-    void refused(const QString& why) { fRefused = why; }
+    /// UTC.
+    const QDateTime& began() const { return fRecord.began; }
+
+    /// The pass ends before its pulls: `why` tells which text of the settings cannot stand in one,
+    /// or what else keeps them from being run.
+    void refused(const QString& why, PassCause cause = PassCause::SettingsRefused) {
+        fRefused = {cause, why};
+    }
 
     /// Remote passes only: what the host check came to.
     void judged(const HostVerdict& verdict) { fRecord.verdict = verdict; }
@@ -102,7 +108,7 @@ private:
     RunningPasses& fPasses;
     PassRecord fRecord;
     std::vector<QByteArray> fNames;
-    QString fRefused; ///< empty unless it was
+    std::optional<NamedCause> fRefused;
     const double fBegan;
     PassUnderWay fNow;                 ///< guarded by the mutex of all passes
     std::optional<CommandId> fCommand; ///< the one that runs; guarded likewise, as what follows

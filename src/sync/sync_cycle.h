@@ -5,6 +5,9 @@
 #include "support/alert.h"
 #include "support/pass_record.h"
 #include "support/status_color.h"
+#include "sync/pass_body.h"
+#include "sync/problem_alert.h"
+#include "sync/settings_watch.h"
 
 #include <QString>
 
@@ -21,7 +24,6 @@ class Control;
 class DispatchQueue;
 class FileManager;
 class RsyncCommand;
-class RunningPass;
 class RunningPasses;
 class UserDefaults;
 
@@ -30,8 +32,9 @@ struct CycleView {
     /// Shows `mesg`, centred when asked for; none clears the line.
     std::function<void(std::optional<QString> mesg, StatusColor color, bool docenter)>
         updateStatusMessage;
-    /// Shows the self-closing alert; `completion` gets its answers on the main thread, perhaps
-    /// more than one.
+    /// Shows the self-closing alert; `completion` gets its answers on the main thread: that of a
+    /// person, or cModalResponseStop when nobody answered in time, and then its own,
+    /// cAlertFirstButtonReturn.
     std::function<void(const QString& message, const QString& text,
                        std::function<void(ModalResponse)> completion)>
         showProblemWithBonjourClosure;
@@ -65,12 +68,15 @@ struct SyncCycleParts {
 };
 
 /// A pass schedules its successor; what prefEnableScanning and prefIsScanning say is asked at the
-/// start of each. As long as the settings are not known none begins: the first start that was asked
-/// for waits until they are. The cycle must outlive every body handed to the background queue and
-/// every block waiting on the main queue: end both queues first.
+/// start of each. There is one chain, and one pass at a time: a start during the rest takes the
+/// place of the planned pass, one while a pass runs is refused. As long as the settings are not
+/// known none begins: the first start that was asked for waits until they are. A pass that lacks
+/// settings has no successor: the next one begins, of the kind then set, when they are there. The
+/// cycle must outlive every body handed to the background queue and every block waiting on the main
+/// queue: end both queues first.
 class SyncCycle {
 public:
-    explicit SyncCycle(const SyncCycleParts& parts) : fParts(parts) {}
+    explicit SyncCycle(const SyncCycleParts& parts);
     SyncCycle(const SyncCycle&) = delete;
     SyncCycle& operator=(const SyncCycle&) = delete;
 
@@ -94,49 +100,50 @@ public:
     /// thread; returns at once.
     void cancelPass();
 
-    /// Main thread.
-    CycleState state() const;
+    CycleState state() const; ///< main thread
 
     /// What a click by a person does. Without a start button the program stops. Main thread.
     void clickStartButton();
 
     /// How many remote passes failed since launch or since the problem alert was last answered.
-    /// Any thread.
+    /// Main thread.
     qint64 badWhoamiCount() const { return fBadWhoamiCount; }
 
 private:
     using Start = void (SyncCycle::*)();
-    using Body = void (SyncCycle::*)(RunningPass&);
     enum class Permission { Granted, SwitchedOff, Busy, SettingsUnknown };
+    struct Plan {
+        PassKind kind = PassKind::Plain;
+        double at = 0; ///< on the clock of SyncCycleParts::seconds
+    };
 
     bool storeStateOf(Control* sender, QStringView operation);
     void startPassOfTheKindSet();
+    void start(PassKind kind);
+    bool isOn() const;
     Permission permissionToStart(QStringView operation) const;
-    void runInBackground(PassKind kind, Body body);
-    void runPlainPass(RunningPass& pass);
-    void runRemotePass(RunningPass& pass);
-    bool refuses(RunningPass& pass, QStringView operation, const QString& fault) const;
-    QString remoteFault(const QString& keyPath) const;
-    HostVerdict validateRemoteHost(RunningPass& pass) const;
-    void pullFromRemote(RunningPass& pass, const QString& keyPath);
-    void handleFailedValidation(const HostVerdict& verdict);
-    void giveUp(const QString& alertText);
-    void handleProblemAnswer(ModalResponse response);
-    void attemptToRescanAgain();
-    void scheduleAfterRest(Start next);
+    void begin(PassKind kind);
+    void ended(PassKind kind, const PassEnd& end);
+    void handleFailedCheck(const HostVerdict& verdict);
+    void rest(PassKind kind);
+    quint64 plan(PassKind kind, double delay);
     void waitForSettings(Start next);
     void lookForSettings(Start next);
-    void markScanning();
-
-    QString rsyncTemplate() const;
-    QString keyFilePath() const;
+    void beginOnceNothingIsMissing();
+    void changed() const;
     void logInside(QStringView operation, QStringView detail) const;
-    void printResult(QStringView heading, const QString& output) const;
     void showStatus(std::optional<QString> mesg, StatusColor color = StatusColor::Black);
 
     const SyncCycleParts fParts;
-    std::atomic<qint64> fBadWhoamiCount = 0;
-    bool fWaitsForSettings = false; ///< main thread
+    const PassBody fBody;
+    SettingsWatch fMissing; ///< watches as long as a pass lacks settings
+    ProblemAlert fProblem;
+    qint64 fBadWhoamiCount = 0;
+    bool fPassRuns = false;
+    std::atomic<bool> fCancelled = false; ///< the pass that runs, or is about to
+    std::optional<Plan> fPlan;
+    quint64 fPlanNumber = 0; ///< what was planned under another one does not come any more
+    bool fWaitsForSettings = false;
 };
 
 } // namespace kelvo

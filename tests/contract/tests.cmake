@@ -9,6 +9,7 @@ target_link_libraries(network_watcher PRIVATE kelvo_adapters kelvo_fakes)
 kelvo_tests(contract
   TIMEOUT 120
   SOURCES
+    contract/arrivals_test.cpp
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
     contract/console_contract_test.cpp

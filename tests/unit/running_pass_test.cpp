@@ -310,6 +310,7 @@ TEST(RecordedCycleTest, PlainPass_EndsWithItsBody) {
     ViewControllerWorld world;
     world.defaults.setObject(prefRsyncWithSSH, false);
     world.defaults.setObject(prefIsScanning, false);
+    world.files.folders.insert(QStringLiteral("/a"));
     world.defaults.setObject(prefPath1, QStringLiteral("/a"));
     world.defaults.setObject(prefPath2, QStringLiteral("/b"));
     world.defaults.setObject(prefRsyncCommandString1, QStringLiteral("cp %@1 %@2"));

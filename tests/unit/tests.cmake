@@ -1,6 +1,7 @@
 kelvo_tests(unit
   SOURCES
     unit/activity_texts_test.cpp
+    unit/after_arrivals_test.cpp
     unit/app_delegate_test.cpp
     unit/bonjour_selection_test.cpp
     unit/bonjour_view_controller_test.cpp
@@ -41,6 +42,7 @@ kelvo_tests(unit
     unit/status_menu_test.cpp
     unit/stored_value_test.cpp
     unit/settings_commands_test.cpp
+    unit/sync_chain_test.cpp
     unit/sync_cycle_test.cpp
     unit/text_test.cpp
     unit/view_controller_setup_test.cpp

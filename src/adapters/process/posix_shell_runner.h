@@ -44,9 +44,13 @@ public:
 
 private:
     class Capture;
-    enum class End { Own, Cut };
+    enum class End { Own, Cut, Cancelled };
+    struct Session {
+        pid_t pid = -1;
+        int cancelled = -1; ///< the descriptor that tells its caller; -1 once the caller is gone
+    };
     End cutOff(pid_t pid, const Command& command);
-    /// The shell's exit status; nothing when it was given up.
+    /// The shell's exit status; nothing when it was given up or cancelled.
     std::optional<int> leave(pid_t pid, End end);
 
     Console& fConsole;
@@ -55,7 +59,7 @@ private:
     std::mutex fEndMutex;
     std::mutex fMutex;
     std::condition_variable fLeft;
-    std::vector<pid_t> fSessions;
+    std::vector<Session> fSessions;
     int fCallers = 0;
     bool fEnding = false;
 };
