@@ -29,6 +29,9 @@ protected:
         ASSERT_TRUE(QDir(fFolder.path()).mkpath(QStringLiteral("to")));
     }
 
+    /// Qt does not find names that are not UTF-8.
+    void TearDown() override { std::filesystem::remove_all(fFolder.path().toStdString()); }
+
     QByteArray at(const QByteArray& name) const { return fFolder.path().toUtf8() + '/' + name; }
 
     void put(const QByteArray& name, const QByteArray& content = "film") const {

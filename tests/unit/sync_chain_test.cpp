@@ -36,6 +36,23 @@ TEST_F(ChainTest, StopsAndStartsInTheRestAfterAFailedCheck_AddNoChain) {
     EXPECT_EQ(passesWithin(31.0 * 4), 4U);
 }
 
+TEST_F(ChainTest, StartInTheSecondAfterAFailedCheck_IsNotDisturbedByWhatWasPlanned) {
+    validator.verdicts = {QStringLiteral("unknownerror")};
+    button.performClick();
+    runBodies();
+    mainQueue.advance(0.2);
+    button.performClick();
+    button.performClick();
+    shell.answerTo(QStringLiteral("pull"), [this](const QString&) {
+        mainQueue.advance(2.0);
+        EXPECT_TRUE(scanning());
+        EXPECT_EQ(cycle.state().nextPass, std::nullopt);
+        return QString();
+    });
+    runBodies();
+    EXPECT_EQ(shell.commands().size(), 2);
+}
+
 TEST_F(ChainTest, StopAndStartDuringAPass_LeaveItAloneWithOneSuccessor) {
     int runningAtOnce = 0;
     shell.answerTo(QStringLiteral("pull"), [&](const QString&) {
@@ -194,8 +211,10 @@ TEST_F(ChainTest, MissingSettingThereAfterSwitchingOff_BeginsNothing) {
     runBodies();
     button.performClick();
     EXPECT_FALSE(cycle.state().waits);
+    console.clear();
     defaults.setObject(prefPath2, QStringLiteral("/Incoming"));
     EXPECT_EQ(passesWithin(60.0), 0U);
+    EXPECT_TRUE(console.logged().isEmpty()) << "nor is one asked for";
     button.performClick();
     EXPECT_EQ(passesWithin(30.0), 1U);
 }
