@@ -92,6 +92,9 @@ TEST(OnceTest, Lines_TellOutcomeAndNextStep) {
     const QString trouble = outcomeOf(passWith(PassCause::HostAway), false).output;
     EXPECT_TRUE(trouble.startsWith(QStringLiteral("The Mac is away or asleep. (")));
     EXPECT_TRUE(trouble.contains(QStringLiteral("\nNext step: Wake the Mac")));
+    PassRecord hostile = passWith(PassCause::Unknown);
+    hostile.lastLine = QStringLiteral("\x1b[2Jclosed");
+    EXPECT_FALSE(outcomeOf(hostile, false).output.contains(QChar(0x1b)));
 }
 
 TEST(OnceTest, Json_IsOneObjectOnOneLine) {

@@ -45,8 +45,8 @@ const QString cPassColumns =
 const QString cCommandColumns =
     QStringLiteral("role, command, status, seconds, head, tail, left_out, source, files, bytes");
 const QString cArrivalColumns = QStringLiteral("id, pass, path, size, arrived");
-/// A pass's day by the clock here.
-const QString cDay = QStringLiteral("date(began / 1000, 'unixepoch', 'localtime')");
+/// A pass's day by the clock here; empty for a time beyond all calendars.
+const QString cDay = QStringLiteral("coalesce(date(began / 1000, 'unixepoch', 'localtime'), '')");
 
 QString causesThat(bool (*hold)(PassCause)) {
     QStringList numbers;

@@ -15,17 +15,17 @@ inline constexpr int cPassLayout = 2;
 
 /// Everything that is asked of the tables; question marks stand for what is told behind.
 enum class PassStatement {
-    InsertPass,       ///< `valuesOf` a record
-    InsertCommand,    ///< `valuesOf` a command
-    InsertArrival,    ///< `valuesOf` an arrival
-    AddToDay,         ///< pass
-    SetStanding,      ///< StandingRow, pass
-    AddTrouble,       ///< when it began, in milliseconds since 1970
-    EndTrouble,       ///<
-    DropPasses,       ///< the newest to be dropped
-    DropCommands,     ///< the newest pass to be dropped
-    DropArrivals,     ///< the newest to be dropped
-    AllPasses,        ///<
+    InsertPass,    ///< `valuesOf` a record
+    InsertCommand, ///< `valuesOf` a command
+    InsertArrival, ///< `valuesOf` an arrival
+    AddToDay,      ///< pass
+    SetStanding,   ///< StandingRow, pass
+    AddTrouble,    ///< when it began, in milliseconds since 1970
+    EndTrouble,
+    DropPasses,   ///< the newest to be dropped
+    DropCommands, ///< the newest pass to be dropped
+    DropArrivals, ///< the newest to be dropped
+    AllPasses,
     OnePass,          ///< pass
     CommandsOfPass,   ///< pass
     ArrivalsOfPass,   ///< pass
@@ -33,7 +33,7 @@ enum class PassStatement {
     ArrivalsWithText, ///< before which one, folded text, how many
     Days,             ///< the first one, as ISO has it
     ReadStanding,     ///< StandingRow
-    ReadTrouble,      ///<
+    ReadTrouble,
     Last = ReadTrouble
 };
 

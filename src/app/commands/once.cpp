@@ -30,10 +30,7 @@ QString arrivalLines(const std::vector<Arrival>& arrivals) {
 }
 
 QString asLines(const PassRecord& pass, const CauseWords& words) {
-    const QString size = sizeText(pass.transfer);
-    QString lines = sentenceFor(pass) + u" (" + filesText(pass) +
-                    (size.isEmpty() ? QString() : QString(u", " + size)) + u", " +
-                    secondsText(pass.seconds) + u")\n" + arrivalLines(pass.arrivals);
+    QString lines = outcomeLine(pass) + u'\n' + arrivalLines(pass.arrivals);
     if (!words.nextStep.isEmpty())
         lines += u"Next step: " + words.nextStep + u'\n';
     return lines;

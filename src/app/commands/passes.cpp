@@ -33,11 +33,8 @@ QString oneLine(const QString& text) {
 
 QString lineOf(const PassRecord& pass) {
     const QDateTime local = pass.began.toLocalTime();
-    const QString size = sizeText(pass.transfer);
     return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODate) + u"  " +
-           oneLine(sentenceFor(pass)) + u" (" + filesText(pass) +
-           (size.isEmpty() ? QString() : QString(u", " + size)) + u", " +
-           secondsText(pass.seconds) + u')';
+           outcomeLine(pass);
 }
 
 } // namespace
@@ -75,6 +72,13 @@ QJsonObject jsonOf(const PassRecord& pass) {
         {QStringLiteral("bytes"), orNull(pass.transfer.bytes)},
         {QStringLiteral("arrivals"), arrivals},
     };
+}
+
+QString outcomeLine(const PassRecord& pass) {
+    const QString size = sizeText(pass.transfer);
+    return oneLine(sentenceFor(pass)) + u" (" + filesText(pass) +
+           (size.isEmpty() ? QString() : QString(u", " + size)) + u", " +
+           secondsText(pass.seconds) + u')';
 }
 
 QString pathLine(const Arrival& arrival) {
