@@ -13,7 +13,7 @@ namespace kelvo {
 
 class FakeTrayHost final : public TrayHost {
 public:
-    bool isPresent() const override { return fPresent; }
+    TrayKind kind() const override { return fKind; }
     Subscription observe(std::function<void()> changed) override {
         auto observer = std::make_shared<Observer>(Observer{std::move(changed)});
         fObservers->push_back(observer);
@@ -25,8 +25,9 @@ public:
     }
 
     /// A tray appears or goes.
-    void setPresent(bool present) {
-        if (std::exchange(fPresent, present) == present)
+    void setPresent(bool present) { setKind(present ? TrayKind::X11 : TrayKind::None); }
+    void setKind(TrayKind kind) {
+        if (std::exchange(fKind, kind) == kind)
             return;
         for (const auto& observer : std::vector(*fObservers)) {
             if (!observer->ended)
@@ -39,7 +40,7 @@ private:
         std::function<void()> changed;
         bool ended = false;
     };
-    bool fPresent = false;
+    TrayKind fKind = TrayKind::None;
     std::shared_ptr<std::vector<std::shared_ptr<Observer>>> fObservers =
         std::make_shared<std::vector<std::shared_ptr<Observer>>>();
 };
