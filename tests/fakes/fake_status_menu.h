@@ -65,9 +65,12 @@ public:
     /// The state of the icon that a person sees; nothing without an icon.
     std::optional<StatusMenuState> visible() const { return isReachable() ? fState : std::nullopt; }
 
-    /// A person chooses an entry; false when there is no icon to choose it from.
+    /// A person chooses an entry; false when there is no icon to choose it from, or the entry is
+    /// disabled.
     bool choose(std::function<void()> StatusMenuActions::*entry) {
-        if (!isReachable())
+        const WorkState work = works.empty() ? WorkState{} : works.back();
+        if (!isReachable() || (entry == &StatusMenuActions::syncNow && !work.maySyncNow) ||
+            (entry == &StatusMenuActions::cancelPass && !work.mayCancel))
             return false;
         if (const auto action = fActions.*entry)
             action();
