@@ -70,6 +70,11 @@ void obey(TrayIcon& icon, const QByteArray& order) {
         icon.show(StatusMenuState::Running);
     else if (order == "trouble")
         icon.show(StatusMenuState::Trouble);
+    else if (order == "work")
+        icon.showWork({.headline = QStringLiteral("Syncing: <b>48 %, about 4 min"),
+                       .nextPass = QStringLiteral("Next pass in 23 s"),
+                       .health = {.lastSuccess = QStringLiteral("Last success just now, 3 files")},
+                       .mayCancel = true});
     else if (order == "hide")
         icon.hide();
     else if (order == "reachable")

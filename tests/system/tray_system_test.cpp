@@ -233,6 +233,9 @@ TEST_F(TraySystemTest, LateBusTray_GetsTheIconAndItsMenu) {
     order("trouble");
     ASSERT_TRUE(waitInLoop(
         [&] { return reading.heard.contains(QStringLiteral("NewStatus NeedsAttention")); }));
+    order("work");
+    ASSERT_TRUE(waitInLoop(
+        [&] { return reading.heard.contains(QStringLiteral("ItemsPropertiesUpdated")); }));
     QStringList titles;
     int quit = 0;
     for (const TrayPanel::Line& line : reading.menu()) {
@@ -241,6 +244,7 @@ TEST_F(TraySystemTest, LateBusTray_GetsTheIconAndItsMenu) {
             quit = line.id;
     }
     ASSERT_GT(quit, 0) << titles.join(u'|').toStdString();
+    EXPECT_EQ(titles.constFirst(), u"Syncing: <b>48 %, about 4 min");
     reading.askMenu(QStringLiteral("Event"),
                     {quit, QStringLiteral("clicked"), QVariant::fromValue(QDBusVariant(QString())),
                      QVariant::fromValue(0U)});
