@@ -1,6 +1,7 @@
 #include "app/machine_parts.h"
 
 #include "adapters/desktop/desktop_tray_host.h"
+#include "adapters/desktop/status_notifier_item.h"
 #include "adapters/network/kelvo_ssid.h"
 #include "app/places.h"
 #include "app/version.h"
@@ -27,7 +28,8 @@ MachineParts::MachineParts(bool withTray)
       }) {
     if (withTray) {
         fTrayHost = std::make_unique<DesktopTrayHost>();
-        auto icon = std::make_unique<TrayIcon>(*fTrayHost);
+        fTrayItem = std::make_unique<StatusNotifierItem>();
+        auto icon = std::make_unique<TrayIcon>(*fTrayHost, *fTrayItem, mainQueue);
         fTrayIcon = icon.get();
         fStatusMenu = std::move(icon);
     } else {

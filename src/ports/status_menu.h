@@ -41,8 +41,9 @@ public:
     /// nothing is seen; the icon appears by itself once there is one.
     virtual void show(StatusMenuState state) = 0;
 
-    /// What tooltip and the first lines of the menu say, and which entries may be chosen; kept
-    /// while hidden.
+    /// What tooltip and the first lines of the menu say, and whether a pass can be asked for or
+    /// cancelled (neither before the first call); kept while hidden. Changes that follow close upon
+    /// each other are shown at most twice a second, the last one always.
     virtual void showWork(const WorkState& work) = 0;
 
     /// The title of the entry that starts and stops, kept while hidden; "&" stands for itself.

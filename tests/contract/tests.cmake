@@ -52,6 +52,7 @@ kelvo_tests(contract
     contract/terminal_contract_test.cpp
     contract/terminal_window_test.cpp
     contract/thread_pool_queue_test.cpp
+    contract/tray_item_contract_test.cpp
     contract/user_defaults_contract_test.cpp
     contract/utf8_collector_test.cpp
     contract/workspace_contract_test.cpp
