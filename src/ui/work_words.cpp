@@ -173,6 +173,8 @@ QString nextPassText(double seconds) {
 
 double nextPassHolds(double seconds) {
     const int shown = shownWait(seconds);
+    if (shown == 1)
+        return 1; // the last text: an overdue pass is not counted further
     const int next = shown <= 2 * cMinute ? shown - 1 : std::max(shown - cMinute, 2 * cMinute);
     return std::max(seconds - next, 0.0);
 }

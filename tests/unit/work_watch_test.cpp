@@ -87,6 +87,13 @@ TEST_F(WorkWatchTest, Countdown_TicksOnceASecondWhereItIsSeen) {
     EXPECT_EQ(shown.back().nextPass, text("Next pass in 13 s"));
 }
 
+TEST_F(WorkWatchTest, OverduePass_IsNotCountedFurther) {
+    rest(2, Attention::Seen);
+    mainQueue.advance(5);
+    EXPECT_EQ(shown.back().nextPass, text("Next pass in 1 s"));
+    EXPECT_GE(mainQueue.nextDelay(), 0.1);
+}
+
 TEST_F(WorkWatchTest, LongWait_TicksByTheMinute) {
     rest(599, Attention::Seen);
     EXPECT_EQ(shown.back().nextPass, text("Next pass in 10 min"));
