@@ -125,6 +125,13 @@ private:
             fFront->windowController()->showWindow();
     }
 
+    void showActivity(std::optional<qint64> pass) {
+        if (!fFront)
+            return;
+        if (auto* mainView = fFront->windowController()->contentViewController())
+            mainView->showActivity(pass);
+    }
+
     void terminate() {
         if (fFront)
             fFront->application().terminate();
@@ -146,7 +153,8 @@ private:
 
     const FrontKind fKind;
     MachineParts fParts;
-    PassNotices fNotices{fParts.passes, fParts.defaults, fParts.notices};
+    PassNotices fNotices{fParts.passes, fParts.defaults, fParts.notices,
+                         [this](std::optional<qint64> pass) { showActivity(pass); }};
     StatusMenuPresence fStatusMenu;
     DuplicateCheck fDuplicates;
     std::vector<Subscription> fQuitSignals; ///< for a program that nobody watches

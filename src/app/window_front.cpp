@@ -69,6 +69,8 @@ public:
             .openPanel = fOpenPanel,
             .terminal = fMachine.terminal,
             .copyText = copyText,
+            .showActivity =
+                [this](std::optional<qint64>) { fWindow.showTab(QStringLiteral("activity")); },
             .fArrayController = fFoundServices,
             .ibStartButton = &fStartButton,
             .ibRevealButton1 = &fRevealButton1,
@@ -91,6 +93,7 @@ public:
             .passes = fMachine.passes,
             .show =
                 [this](const std::vector<ChecklistLine>& lines) {
+                    fController->setMissing(lines);
                     fWindow.syncTab().checklist().setLines(lines);
                 },
         });

@@ -26,6 +26,9 @@ struct StatusMenuActions {
     std::function<void()> revealFolder = {}; ///< the destination
     std::function<void()> quitAndRelaunch = {};
     std::function<void()> quit = {};
+    /// The menu is about to be seen (true; what it shows is brought up to date before this returns)
+    /// or is gone again.
+    std::function<void(bool)> menuShown = {};
 };
 
 /// Main thread only. Hidden at first.

@@ -62,4 +62,11 @@ struct WorkState {
     bool operator==(const WorkState&) const = default;
 };
 
+/// What is known of the progress in one line, "First pull, 48 %, file 7 of 15, 18.2 of 37.6
+/// GB, 92.0 MB/s, about 4 min, Feature.mkv"; empty while no command runs.
+QString progressLine(const WorkState& work);
+
+/// "48 %"; 100 not before all of it is done.
+QString shareText(double share);
+
 } // namespace kelvo

@@ -16,6 +16,8 @@ struct Row {
     CauseWords words;
 };
 
+constexpr qint64 cDay = 86'400; // seconds
+
 constexpr auto cTable = std::to_array<Row>({
     {PassCause::Well, {u"well", u"All is well.", u"", Well}},
     {PassCause::HostNotFound,
@@ -157,7 +159,6 @@ QString secondsText(double seconds) {
 }
 
 QString agoText(double seconds) {
-    constexpr qint64 cDay = 86'400;
     const auto whole = static_cast<qint64>(std::clamp(seconds, 0.0, 1e12));
     if (whole < 60)
         return QStringLiteral("just now");
@@ -166,6 +167,13 @@ QString agoText(double seconds) {
     if (whole < 2 * cDay)
         return counted(whole / 3600, u"hour ago", u"hours ago");
     return counted(whole / cDay, u"day ago", u"days ago");
+}
+
+double agoHolds(double seconds) {
+    if (seconds < 0)
+        return -seconds;
+    const double unit = seconds < 3600 ? 60 : seconds < 2 * cDay ? 3600 : cDay;
+    return unit - std::fmod(seconds, unit);
 }
 
 } // namespace kelvo

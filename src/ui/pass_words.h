@@ -50,4 +50,7 @@ QString secondsText(double seconds);
 /// "just now", "4 minutes ago", "3 days ago".
 QString agoText(double seconds);
 
+/// How long from now that text stays true, in seconds.
+double agoHolds(double seconds);
+
 } // namespace kelvo

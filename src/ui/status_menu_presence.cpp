@@ -45,29 +45,41 @@ void StatusMenuPresence::remove(const StatusMenuTargets& targets) {
         refresh();
 }
 
-void StatusMenuPresence::setTrouble(bool trouble) {
-    fTrouble = trouble;
+void StatusMenuPresence::showWork(const WorkState& work) {
+    fTrouble = work.health.sign == HealthSign::Trouble;
+    fMenu.showWork(work);
     refresh();
 }
 
 void StatusMenuPresence::connectActions() {
+    const auto onMainView = [this](void (MainViewController::*action)()) {
+        return [this, action] {
+            if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
+                (mainView->*action)();
+        };
+    };
     fMenu.setActions({
         .showWindow =
             [this] {
                 if (auto* window = firstTarget(&StatusMenuTargets::fWindowController))
                     window->showWindow();
             },
-        .startOrStop =
+        .startOrStop = onMainView(&MainViewController::clickStartButton),
+        .syncNow = onMainView(&MainViewController::syncNow),
+        .cancelPass = onMainView(&MainViewController::cancelPass),
+        .showActivity =
             [this] {
                 if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
-                    mainView->clickStartButton();
+                    mainView->showActivity({});
             },
-        .quitAndRelaunch =
-            [this] {
-                if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
-                    mainView->quitAndRelaunch();
-            },
+        .revealFolder = onMainView(&MainViewController::revealFolder),
+        .quitAndRelaunch = onMainView(&MainViewController::quitAndRelaunch),
         .quit = fQuit,
+        .menuShown =
+            [this](bool shown) {
+                if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
+                    mainView->menuShown(shown);
+            },
     });
 }
 

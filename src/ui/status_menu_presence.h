@@ -43,8 +43,9 @@ public:
     /// Takes the request back; the icon goes with the last one. Not added: nothing happens.
     void remove(const StatusMenuTargets& targets);
 
-    /// Whether the status line tells of trouble. May be called before anything is shown.
-    void setTrouble(bool trouble);
+    /// What the menu tells of the work; its health says whether there is trouble. May be called
+    /// before anything is shown.
+    void showWork(const WorkState& work);
 
 private:
     void connectActions();

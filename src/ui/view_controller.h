@@ -21,6 +21,7 @@
 #include "ui/start_button_title.h"
 #include "ui/status_line.h"
 #include "ui/terminal_notice.h"
+#include "ui/work_watch.h"
 
 #include <memory>
 #include <optional>
@@ -123,8 +124,18 @@ public:
     /// A person has finished editing the text of `object`.
     void controlTextDidEndEditing(const std::shared_ptr<Control>& object);
 
+    /// What is missing before the next pass can go well.
+    void setMissing(std::vector<ChecklistLine> missing) { fWork.setMissing(std::move(missing)); }
+    /// What the program is doing at this moment.
+    WorkState work() { return fWork.state(); }
+
     // What the tray menu asks for.
     void clickStartButton() override { fEngine.syncCycle.clickStartButton(); }
+    void syncNow() override { ibSyncNow(nullptr); }
+    void cancelPass() override { ibCancelPass(nullptr); }
+    void showActivity(std::optional<qint64> pass) override;
+    void revealFolder() override { ibRevealDestPath(nullptr); }
+    void menuShown(bool shown) override { fWork.setMenuShown(shown); }
     void quitAndRelaunch() override { ibQuitAndRelaunch(nullptr); }
 
 private:
@@ -142,6 +153,7 @@ private:
     StatusLine fStatusLine;
     Alerts fAlerts;
     Engine fEngine;
+    WorkWatch fWork;
     RepeatTimerActions fRepeatTimer;
     StartButtonTitle fStartButtonTitle;
     CommandExample fCommandExample;

@@ -77,6 +77,12 @@ public:
         return true;
     }
 
+    /// A person opens the menu or leaves it.
+    void openMenu(bool open) {
+        if (isReachable() && fActions.menuShown)
+            fActions.menuShown(open);
+    }
+
     std::vector<StatusMenuState> shown; ///< every call of show so far
     std::vector<WorkState> works;       ///< every state of work so far
     int hides = 0;

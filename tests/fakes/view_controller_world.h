@@ -72,6 +72,7 @@ public:
     FakeButton revealButton2;
     std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
     std::shared_ptr<FakePathControl> pathControl = std::make_shared<FakePathControl>();
+    std::vector<std::optional<qint64>> activityShown; ///< every call so far
     int windowShown = 0;
     MainWindowController windowController{[this] { ++windowShown; }};
     MainWindowController* window = &windowController;
@@ -97,6 +98,8 @@ public:
                     .openPanel = openPanel,
                     .terminal = terminal,
                     .copyText = [this](const QString& text) { clipboard = text; },
+                    .showActivity =
+                        [this](std::optional<qint64> pass) { activityShown.push_back(pass); },
                     .fArrayController = foundServices,
                     .ibStartButton = &button,
                     .ibRevealButton1 = &revealButton1,

@@ -7,7 +7,6 @@
 #include "settings/preference_keys.h"
 #include "ui/kelvo_status_menu_handler.h"
 #include "ui/main_window_controller.h"
-#include "ui/status_line.h"
 #include "ui/status_menu_presence.h"
 
 #include <gtest/gtest.h>
@@ -26,9 +25,19 @@ struct FakeMainView final : MainViewController {
     QString description() const override { return {}; }
     void viewDidLoad() override {}
     void clickStartButton() override { ++clicks; }
+    void syncNow() override { asked << QStringLiteral("syncNow"); }
+    void cancelPass() override { asked << QStringLiteral("cancelPass"); }
+    void showActivity(std::optional<qint64> pass) override {
+        asked << (pass ? QString::number(*pass) : QStringLiteral("showActivity"));
+    }
+    void revealFolder() override { asked << QStringLiteral("revealFolder"); }
+    void menuShown(bool shown) override {
+        asked << (shown ? QStringLiteral("menu opened") : QStringLiteral("menu closed"));
+    }
     void quitAndRelaunch() override { ++relaunches; }
     int clicks = 0;
     int relaunches = 0;
+    QStringList asked; ///< what else was asked for
 };
 
 class StatusMenuTest : public ::testing::Test {
@@ -38,6 +47,10 @@ protected:
     void set(QStringView key, bool value) {
         defaults.setObject(key, value);
         mainQueue.advance(0);
+    }
+
+    void work(HealthSign sign) {
+        presence.showWork({.headline = QStringLiteral("the headline"), .health = {.sign = sign}});
     }
 
     FakeTrayHost host;
@@ -57,7 +70,7 @@ class KelvoStatusMenuHandlerTest : public StatusMenuTest {};
 TEST_F(KelvoStatusMenuHandlerTest, NotSetUp_ShowsNothing) {
     delegates.removeStatusMenuStuff();
     set(prefIsScanning, true);
-    presence.setTrouble(true);
+    work(HealthSign::Trouble);
     EXPECT_TRUE(menu.shown.empty());
     EXPECT_EQ(menu.hides, 0);
 }
@@ -207,7 +220,7 @@ TEST_F(StatusMenuPresenceTest, Settings_ChangeTheIconLaterOnTheMainQueue) {
 TEST_F(StatusMenuPresenceTest, EqualState_IsNotShownAgain) {
     delegates.setupStatusMenuStuff();
     set(prefIsScanning, false);
-    presence.setTrouble(false);
+    work(HealthSign::Well);
     set(prefEnableScanning, false);
     EXPECT_EQ(menu.shown, std::vector{Off});
 }
@@ -234,41 +247,41 @@ TEST_F(StatusMenuPresenceTest, Destroyed_HidesAndLetsGoOfTheSettings) {
     EXPECT_EQ(menu.visible(), std::nullopt);
 }
 
-class StatusLineTroubleTest : public StatusMenuTest {
-protected:
-    std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
-    StatusLine line{defaults, mainQueue, field,
-                    [this](bool trouble) { presence.setTrouble(trouble); }};
-};
-
-TEST_F(StatusLineTroubleTest, RedMessage_IsShownAndMeansTrouble) {
+TEST_F(StatusMenuPresenceTest, Trouble_IsWhatTheHealthSays) {
     delegates.setupStatusMenuStuff();
-    line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
-    EXPECT_EQ(menu.visible(), Off);
-    mainQueue.advance(0.1);
+    work(HealthSign::Trouble);
     EXPECT_EQ(menu.visible(), Trouble);
-    EXPECT_EQ(field->shown.back().string, u"no");
-    EXPECT_EQ(field->shown.back().foregroundColor, StatusColor::Red);
+    set(prefIsScanning, true);
+    EXPECT_EQ(menu.visible(), Trouble) << "a pass that asks again mends nothing yet";
+    work(HealthSign::Well);
+    EXPECT_EQ(menu.visible(), Running);
+    ASSERT_EQ(menu.works.size(), 2U);
+    EXPECT_EQ(menu.works.front().headline, u"the headline");
 }
 
-TEST_F(StatusLineTroubleTest, BlackMessageOrClear_EndsTheTrouble) {
-    delegates.setupStatusMenuStuff();
-    for (const auto& mesg : {std::optional(QStringLiteral("fine")), std::optional<QString>()}) {
-        line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
-        mainQueue.advance(0.1);
-        EXPECT_EQ(menu.visible(), Trouble);
-        line.updateStatusMessage(mesg, StatusColor::Black, true);
-        mainQueue.advance(0.1);
-        EXPECT_EQ(menu.visible(), Off);
-    }
-    EXPECT_EQ(field->shown.size(), 4U);
-}
-
-TEST_F(StatusLineTroubleTest, TroubleBeforeSetUp_IsRemembered) {
-    line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
-    mainQueue.advance(0.1);
+TEST_F(StatusMenuPresenceTest, TroubleBeforeSetUp_IsRemembered) {
+    work(HealthSign::Trouble);
+    EXPECT_EQ(menu.visible(), std::nullopt);
     delegates.setupStatusMenuStuff();
     EXPECT_EQ(menu.visible(), Trouble);
+}
+
+TEST_F(StatusMenuPresenceTest, EntriesOfTheWork_ReachTheMainView) {
+    FakeMainView mainView;
+    delegates.setupStatusMenuStuff();
+    menu.choose(&StatusMenuActions::syncNow);
+    EXPECT_TRUE(mainView.asked.isEmpty()) << "nobody is there to be asked";
+    delegates.setMainVC(&mainView);
+    menu.choose(&StatusMenuActions::syncNow);
+    menu.choose(&StatusMenuActions::cancelPass);
+    menu.choose(&StatusMenuActions::showActivity);
+    menu.choose(&StatusMenuActions::revealFolder);
+    menu.openMenu(true);
+    menu.openMenu(false);
+    EXPECT_EQ(mainView.asked,
+              (QStringList{QStringLiteral("syncNow"), QStringLiteral("cancelPass"),
+                           QStringLiteral("showActivity"), QStringLiteral("revealFolder"),
+                           QStringLiteral("menu opened"), QStringLiteral("menu closed")}));
 }
 
 TEST(HeadlessStatusMenuTest, Shown_IsStillOutOfReach) {

@@ -48,6 +48,8 @@ kelvo_tests(unit
     unit/view_controller_setup_test.cpp
     unit/view_controller_test.cpp
     unit/watchdog_test.cpp
+    unit/work_watch_test.cpp
+    unit/work_words_test.cpp
   LINKS kelvo_app_start kelvo_app_commands kelvo_adapters_console kelvo_passes
 )
 target_compile_definitions(unit_tests PRIVATE

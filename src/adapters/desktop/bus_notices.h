@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <functional>
+#include <map>
 
 namespace kelvo {
 
@@ -18,11 +19,21 @@ public:
     explicit BusNotices(std::function<void(const Notice&)> otherwise,
                         std::function<QDBusConnection()> connect = QDBusConnection::sessionBus);
 
+    /// A notice with a choice is shown once the service has told whether it can offer choices.
     void showNotice(const Notice& notice) override;
 
+private Q_SLOTS:
+    void actionInvoked(uint id, const QString& action);
+    void notificationClosed(uint id, uint reason);
+
 private:
+    void listen(QDBusConnection bus);
+    void notify(const QDBusConnection& bus, const Notice& notice, const QStringList& actions);
+
     const std::function<void(const Notice&)> fOtherwise;
     const std::function<QDBusConnection()> fConnect;
+    bool fListens = false;
+    std::map<uint, std::function<void()>> fShows; ///< of the notices that stand
 };
 
 } // namespace kelvo
