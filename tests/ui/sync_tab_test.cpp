@@ -388,6 +388,10 @@ TEST_F(SyncTabTest, SmallWindow_ScrollsDownOnlyAndNothingOverlaps) {
     EXPECT_GT(area.verticalScrollBar()->maximum(), 0);
     const QList<QWidget*> shown = area.widget()->findChildren<QWidget*>();
     for (const QWidget* one : shown) {
+        if (one->isVisible()) {
+            EXPECT_LE(one->geometry().right(), one->parentWidget()->width())
+                << qPrintable(one->objectName());
+        }
         for (const QWidget* other : shown) {
             if (one != other && one->parent() == other->parent() && one->isVisible() &&
                 other->isVisible()) {
