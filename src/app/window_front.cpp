@@ -28,6 +28,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace kelvo {
 namespace {
 
@@ -144,7 +146,14 @@ private:
         }
     }
 
-    bool mayQuit() { return askBeforeQuitting(fWindow, fClosePolicy, fMachine.defaults, fAlerts); }
+    /// A second wish, from the tray, adds no second question.
+    bool mayQuit() {
+        if (std::exchange(fAsksAboutQuit, true))
+            return false;
+        const bool may = askBeforeQuitting(fWindow, fClosePolicy, fMachine.defaults, fAlerts);
+        fAsksAboutQuit = false;
+        return may;
+    }
 
     bool mayClose() {
         std::optional<ModalResponse> answer;
@@ -164,6 +173,7 @@ private:
     ViewController* fController = nullptr;
     AppDelegate* fDelegate = nullptr;
     ClosePolicy fClosePolicy;
+    bool fAsksAboutQuit = false;
     std::optional<Checklist> fChecklist;
     ArrayController fFoundServices; ///< told of the table's selection until the window is gone
     MainWindow fWindow;
