@@ -36,7 +36,7 @@ public:
     explicit Program(FrontKind kind)
         : fKind(kind), fParts(kind == FrontKind::Window),
           fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
-                      [this] { terminate(); }),
+                      [this] { front().quit(); }),
           fDuplicates(fParts.singleCopy, fParts.console, [this] { show(); }),
           fWatchdog(Watchdog::begin({.signals = fParts.signals,
                                      .bundle = fParts.bundle,

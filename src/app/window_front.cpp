@@ -14,6 +14,7 @@
 #include "ui/widgets/checklist_view.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
+#include "ui/widgets/recent_arrivals.h"
 #include "ui/widgets/service_list.h"
 #include "ui/widgets/settings_tab.h"
 #include "ui/widgets/sheet_presenter.h"
@@ -26,6 +27,8 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+
+#include <utility>
 
 namespace kelvo {
 namespace {
@@ -41,13 +44,17 @@ public:
           fRevealButton2(fWindow.button(QStringLiteral("ibRevealButton2"))),
           fStatusField(std::make_shared<WidgetStatusField>(fWindow.ibStatusTextField())),
           fPathControl(std::make_shared<WidgetPathControl>(fWindow.fNsPathControl1())),
-          fAlerts(fWindow), fOpenPanel(fWindow),
-          fWindowController(
-              std::make_shared<MainWindowController>([this] { fWindow.bringToFront(); })) {
+          fAlerts({.mainWindow = fWindow,
+                   .mainQueue = machine.mainQueue,
+                   .notices = machine.notices,
+                   .showWhy = [this] { fWindow.showActivity(); }}),
+          fOpenPanel(fWindow), fWindowController(std::make_shared<MainWindowController>(
+                                   [this] { fWindow.bringToFront(); })) {
         // Drawing the icon takes a while; the window does not wait for it.
         machine.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
         showServices(fFoundServices, fWindow.foundServices());
         fWindow.activityTab().setStore(machine.passes);
+        fWindow.syncTab().recentArrivals().setStore(machine.passes);
         fWindow.settingsTab().setLoginItem(machine.loginItem);
         fWindow.setMayClose([this] { return mayClose(); });
     }
@@ -80,11 +87,16 @@ public:
         };
     }
 
+    void quit() override {
+        if (mayQuit())
+            fApplication.terminate();
+    }
+
     void sendActionsTo(ViewController& controller, AppDelegate& delegate) override {
         fController = &controller;
         fDelegate = &delegate;
         fOnceButtons = sendWindowActions(fWindow, controller, fMachine.workspace, fPathControl);
-        fWindow.syncTab().checklist().setRemedyChosen([this](Remedy remedy) { apply(remedy); });
+        fWindow.syncTab().setRemedyChosen([this](Remedy remedy) { apply(remedy); });
         fChecklist.emplace(Checklist::Parts{
             .defaults = fMachine.defaults,
             .mainQueue = fMachine.mainQueue,
@@ -101,8 +113,9 @@ public:
                          [this] { fChecklist->look(); });
         QObject::connect(&fWindow, &MainWindow::keyStateShown, &fWindow,
                          [this](KeyState state) { fChecklist->setKeyState(state); });
-        addApplicationMenu(fWindow, controller, delegate, fMachine.workspace, fMachine.logFolder(),
-                           [this] { fApplication.terminate(); });
+        addApplicationMenu(
+            fWindow, controller, delegate, fMachine.workspace, fMachine.logFolder(),
+            [this] { return mayQuit(); }, [this] { fApplication.terminate(); });
     }
 
 private:
@@ -126,7 +139,7 @@ private:
             fController->ibSyncNow(nullptr);
             break;
         case Remedy::ShowDetails:
-            fWindow.showTab(QStringLiteral("activity"));
+            fWindow.showActivity();
             break;
         case Remedy::OpenLog:
             fMachine.workspace.openFile(fMachine.logFolder());
@@ -136,14 +149,26 @@ private:
         }
     }
 
+    /// A second wish, from the tray, adds no second question.
+    bool mayQuit() {
+        if (std::exchange(fAsksAboutQuit, true))
+            return false;
+        const bool may = askBeforeQuitting(fWindow, fClosePolicy, fMachine.defaults, fAlerts);
+        fAsksAboutQuit = false;
+        return may;
+    }
+
     bool mayClose() {
         std::optional<ModalResponse> answer;
         if (const auto note = fClosePolicy.noteBeforeClosing(fMachine.statusMenu().isReachable()))
             answer = fAlerts.runModal(*note);
         const CloseResult result = fClosePolicy.result(answer);
         if (result == CloseResult::Hide && fDelegate &&
-            fDelegate->applicationShouldTerminateAfterLastWindowClosed())
+            fDelegate->applicationShouldTerminateAfterLastWindowClosed()) {
+            if (!mayQuit())
+                return false;
             fApplication.terminate();
+        }
         return result != CloseResult::KeepOpen;
     }
 
@@ -151,6 +176,7 @@ private:
     ViewController* fController = nullptr;
     AppDelegate* fDelegate = nullptr;
     ClosePolicy fClosePolicy;
+    bool fAsksAboutQuit = false;
     std::optional<Checklist> fChecklist;
     ArrayController fFoundServices; ///< told of the table's selection until the window is gone
     MainWindow fWindow;

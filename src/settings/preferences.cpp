@@ -23,7 +23,7 @@ constexpr QStringView cFactoryTemplate =
 
 constexpr auto cTable = std::to_array<Preference>({
     {prefEnableScanning, State, Bool, cNone, u"Sync", u"Syncing is switched on."},
-    {prefIsScanning, State, Bool, cNone, u"Sync", u"A pass is in progress."},
+    {prefIsScanning, State, Bool, cNone, {}, u"A pass is in progress."},
     {prefDelayBetweenScans, Setting, Double, 30.0, u"Settings",
      u"The rest between two passes, in seconds; 0 or less counts as 3."},
     {prefRsyncCommandString1, Setting, String, cFactoryTemplate, u"Settings",

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
 #include <optional>
 
 namespace kelvo {
@@ -17,6 +18,12 @@ enum class WorkPhase {
     Resting,    ///< switched on, between two passes
 };
 
+/// Whether a pass runs in this phase.
+inline bool passRuns(WorkPhase phase) {
+    return phase == WorkPhase::Running || phase == WorkPhase::Finishing ||
+           phase == WorkPhase::Cancelling;
+}
+
 /// What a person can do next; None: nothing but wait.
 enum class Remedy {
     None,
@@ -28,6 +35,11 @@ enum class Remedy {
     ShowDetails, ///< the last pass on the Activity tab
     OpenLog,
 };
+
+/// `share` (0 to 1) in whole percent; 100 only once it is all.
+inline int wholePercent(double share) {
+    return static_cast<int>(std::clamp(share, 0.0, 1.0) * 100);
+}
 
 enum class HealthSign { Unknown, Well, Trouble };
 

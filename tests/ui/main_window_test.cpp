@@ -99,15 +99,6 @@ TEST_F(MainWindowTest, SourceInUseDiffers_IsSaidUntilItAgrees) {
         EXPECT_EQ(child<QLabel>(notice)->text(), u"");
 }
 
-TEST_F(MainWindowTest, BusySign_ShowsWhileAPassRuns) {
-    window.show();
-    EXPECT_FALSE(child<QWidget>("busySign")->isVisible());
-    set(prefIsScanning, true);
-    EXPECT_TRUE(child<QWidget>("busySign")->isVisible());
-    set(prefIsScanning, false);
-    EXPECT_FALSE(child<QWidget>("busySign")->isVisible());
-}
-
 TEST_F(MainWindowTest, NetworkLine_IsPlainText) {
     window.syncTab().setNetworkStatus(QStringLiteral("<b>Connected</b>"));
     EXPECT_EQ(child<QLabel>("networkStatus")->text(), u"<b>Connected</b>");

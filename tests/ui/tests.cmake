@@ -14,6 +14,7 @@ kelvo_tests(ui WIDGETS
     ui/settings_places_test.cpp
     ui/settings_tab_test.cpp
     ui/sheet_presenter_test.cpp
+    ui/sync_tab_test.cpp
     ui/tray_icon_test.cpp
     ui/widget_main_view_test.cpp
     ui/window_actions_test.cpp

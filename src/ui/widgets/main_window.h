@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QPushButton;
 class QTableView;
@@ -57,9 +58,15 @@ public:
     std::vector<Tab> tabs() const;
     int currentTab() const;
     void showTab(int index);
+    void showTab(const QString& identifier);
     void showKeyState(KeyState state);
     void showWork(const WorkState& work);
-    void showTab(const QString& identifier);
+    /// What was shown last.
+    const WorkState& work() const { return fWork; }
+
+    /// Brings the window with the Activity tab to the front, there to the row of `pass` if one is
+    /// given.
+    void showActivity(std::optional<qint64> pass = {});
 
     /// Brings the window to the front, out of hiding and out of its minimised state.
     void bringToFront();
@@ -80,11 +87,13 @@ Q_SIGNALS:
     /// The person has come to the window.
     void activated();
     void keyStateShown(KeyState state);
+    void workShown();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void addTab(QWidget* tab, const char* identifier, const QString& label);
@@ -93,6 +102,7 @@ private:
     void showStartIcon();
 
     UserDefaults& fDefaults;
+    WorkState fWork;
     Bindings fBindings;
     std::unique_ptr<Ui::MainWindow> fUi;
     SyncTab* fSyncTab;
