@@ -198,12 +198,15 @@ void MainWindow::showKeyState(KeyState state) {
 void MainWindow::showWork(const WorkState& work) {
     fWork = work;
     fSyncTab->showWork(work);
+    fActivityTab->showWork(work);
     Q_EMIT workShown();
 }
 
-void MainWindow::showActivity(std::optional<qint64>) {
+void MainWindow::showActivity(std::optional<qint64> pass) {
     showTab(QStringLiteral("activity"));
     bringToFront();
+    if (pass)
+        fActivityTab->showPass(*pass);
 }
 
 QTableView& MainWindow::foundServices() {
