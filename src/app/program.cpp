@@ -51,7 +51,10 @@ public:
                                      .terminate = [this] { terminate(); },
                                      .leaveAtOnce = [this](int status) { leaveAtOnce(status); }})) {
         for (const int signal : {SIGTERM, SIGINT})
-            fQuitSignals.push_back(fParts.signals.catchSignal(signal, [this] { terminate(); }));
+            fQuitSignals.push_back(fParts.signals.catchSignal(signal, [this] {
+                if (!Watchdog::catchesCrashSignals())
+                    terminate();
+            }));
         fStoryboard.add(cMyWindowControllerID, [this] { return front().windowController(); });
         fStoryboard.add(cMyViewControllerID, [this] { return makeViewController(); });
     }

@@ -114,7 +114,6 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .mainQueue = parts.engine.mainQueue,
           .bgQueue = parts.engine.bgQueue,
           .shell = parts.engine.commands,
-          .commands = parts.shareCommands,
           .showAlert =
               [this](const QString& message, const QString& text, AlertCompletion completion) {
                   fAlerts.showAlertWithClosure(message, text, std::nullopt, std::move(completion));

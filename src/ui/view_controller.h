@@ -103,7 +103,7 @@ public:
     // The remote side.
     void ibTestShellCommand(Control*) { fConnectionTest.ibTestShellCommand(); }
     void ibTestShellCommand222(Control*) { fConnectionTest.ibTestShellCommand222(); }
-    void ibTestShellCommand111(Control*) { fConnectionTest.ibTestShellCommand111(); }
+    void ibTestShellCommand111(Control*) { fShare.ibTestShellCommand111(); }
     void ibGenerateSSHKeyStuff(Control*) { fProvisioning.ibGenerateSSHKeyStuff(); }
     void createNewPrivatePublicKeys(Control*) { fProvisioning.createNewPrivatePublicKeys(); }
     void createNewPrivatePublicKeysOLD(Control*) { fProvisioning.createNewPrivatePublicKeysOLD(); }

@@ -1,4 +1,5 @@
 // The real window on a real display, with a window manager and a tray, driven by mouse and keys.
+#include "support/descendants.h"
 #include "support/program_profile.h"
 #include "support/running_program.h"
 #include "support/session_bus.h"
@@ -11,6 +12,8 @@
 #include <QStandardPaths>
 
 #include <gtest/gtest.h>
+
+#include <signal.h>
 
 namespace kelvo {
 namespace {
@@ -154,6 +157,37 @@ TEST_F(WindowSystemTest, EveryTab_ByKeyAndATextThatIsStored) {
     screen.keys({QStringLiteral("ctrl+q")});
     EXPECT_TRUE(endsByItself());
     EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+}
+
+TEST_F(WindowSystemTest, Interrupt_EndsAtOnceAndStoresNothingHalfTyped) {
+    startAndSettle({{QStringLiteral("mainWindowTab"), QStringLiteral("remote")}});
+    // What is watched would come back.
+    const auto sentinel = livingChild(static_cast<pid_t>(program->processId()), "watchdog");
+    ASSERT_TRUE(sentinel);
+    ::kill(*sentinel, SIGKILL);
+    const auto pid = static_cast<pid_t>(program->processId());
+    ASSERT_TRUE(waitUntil([&] { return !livingChild(pid, "watchdog"); }));
+    screen.keys({QStringLiteral("alt+u")});
+    screen.type(QStringLiteral("half"));
+    const QStringList before = program->lines();
+    ::kill(static_cast<pid_t>(program->processId()), SIGINT);
+    EXPECT_TRUE(endsByItself());
+    EXPECT_EQ(program->exitCode(), SIGINT);
+    EXPECT_EQ(program->lines(), before) << "nothing is printed";
+    EXPECT_FALSE(contents(settingsFile()).contains("half"));
+}
+
+TEST_F(WindowSystemTest, RequestToTerminate_IsSaidBeforeAnythingElseHappens) {
+    startAndSettle({{QStringLiteral("mainWindowTab"), QStringLiteral("remote")}});
+    screen.keys({QStringLiteral("alt+u")});
+    screen.type(QStringLiteral("half"));
+    const qsizetype before = contents(logFile()).size();
+    EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+    const QByteArray said = contents(logFile()).sliced(before);
+    EXPECT_TRUE(said.split('\n').first().contains("Caught Terminated ... terminating."))
+        << said.constData();
+    EXPECT_TRUE(contents(settingsFile()).contains("half"))
+        << "the orderly end keeps what was typed";
 }
 
 TEST_F(WindowSystemTest, ClosedWithATray_ComesBackByTheIconAndQuitsByItsMenu) {
