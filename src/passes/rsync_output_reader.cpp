@@ -185,8 +185,10 @@ std::optional<double> RsyncOutputReader::share() const {
 PassProgress RsyncOutputReader::progress(double now) {
     PassProgress progress;
     progress.file = withVisibleControls(QString::fromUtf8(fFile));
-    if (fFormat != NameFormat::None || fEnd)
-        progress.filesDone = fEnd ? fEnd->transferred : std::max<qint64>(0, fFilesNamed - 1);
+    if (fFormat != NameFormat::None || fEnd) {
+        fFilesSaid = std::max(fFilesSaid, fEnd ? fEnd->transferred : fFilesNamed - 1);
+        progress.filesDone = fFilesSaid;
+    }
     if (!fTold)
         return progress;
     progress.bytesDone = fBytes;

@@ -80,6 +80,7 @@ private:
 
     double fShareSaid = 0;
     qint64 fBytesSaid = 0;
+    qint64 fFilesSaid = 0;
 };
 
 } // namespace kelvo

@@ -2,7 +2,6 @@
 
 #include "passes/name_lines.h"
 
-#include <QList>
 #include <QString>
 
 #include <algorithm>

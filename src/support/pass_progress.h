@@ -21,10 +21,10 @@ struct PassProgress {
     PassStep step = PassStep::Begun;
     QString file = {};                     ///< being received, as rsync names it; may be empty
     std::optional<qint64> filesDone = {};  ///< received so far
-    std::optional<qint64> filesKnown = {}; ///< to be received, as far as that is known
+    std::optional<qint64> filesKnown = {}; ///< to be received, folders to come among them
     std::optional<qint64> bytesDone = {};  ///< received so far
     std::optional<qint64> bytesKnown = {}; ///< to be received in all
-    std::optional<double> share = {};      ///< of the whole command, 0 to 1
+    std::optional<double> share = {};      ///< of the command as far as it is known, 0 to 1
     std::optional<double> bytesPerSecond = {};
     std::optional<double> secondsLeft = {};
 

@@ -168,6 +168,29 @@ TEST_F(PassProgressTest, ThreeNewAmongThousands_AreMeasuredByThemselvesOnceTheRe
     EXPECT_EQ(fNames, std::vector<QByteArray>{"a film.mov"});
 }
 
+TEST_F(PassProgressTest, PullFromAnOldSender_IsShownLikeAnyOther) {
+    for (const char* name : {"one.mov", "two.mov", "three.mov", "four.mov"})
+        make(fSource, name, 2 * cMegabyte);
+    QFile script(fRoot.filePath("remote-shell"));
+    ASSERT_TRUE(script.open(QFile::WriteOnly));
+    script.write("#!/bin/sh\nshift\nexec \"$@\"\n");
+    script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    script.close();
+    fOption = QStringLiteral("--bwlimit=4000 --protocol=29 -e '%1'").arg(script.fileName());
+    QString command = factory();
+    command.replace(u'"' + fSource, u"\"mac:" + fSource);
+    int inTheMiddle = 0;
+    for (const PassProgress& each : seenOf(PassStep::Pull, command)) {
+        if (each.share.value_or(1) == 1)
+            continue;
+        ++inTheMiddle;
+        EXPECT_NEAR(*each.share, double(each.bytesDone.value_or(0)) / (8.0 * cMegabyte), 0.03);
+        EXPECT_TRUE(each.file.endsWith(u".mov"));
+    }
+    EXPECT_GT(inTheMiddle, 3);
+    EXPECT_EQ(fNames, (std::vector<QByteArray>{"four.mov", "one.mov", "three.mov", "two.mov"}));
+}
+
 TEST_F(PassProgressTest, NamesInAnyEncoding_AreThoseOfTheFiles) {
     const std::vector<QByteArray> names{"Caf\xc3\xa9.mov", "back\\#101slash.mov", "bad\xff.mov",
                                         "new\nline.mov", "sent 5 bytes.mov"};
