@@ -187,6 +187,24 @@ TEST_F(SheetPresenterTest, QuestionWithATick_TellsWhetherItWasTicked) {
     }
 }
 
+/// As at SIGTERM or the end of the session.
+TEST_F(SheetPresenterTest, ProgramToldToEnd_IsNotHeldUpByAQuestion) {
+    std::optional<ModalResponse> response;
+    QTimer::singleShot(0, window.get(), [&] {
+        QTimer::singleShot(0, window.get(), [] { QCoreApplication::quit(); });
+        response = presenter->runModal(cProblem, QStringLiteral("Do not ask again")).response;
+    });
+    bool late = false;
+    QTimer::singleShot(5000, window.get(), [&] {
+        late = true;
+        box()->buttons().first()->click();
+        QCoreApplication::exit();
+    });
+    QCoreApplication::exec();
+    EXPECT_FALSE(late);
+    EXPECT_NE(response, cAlertFirstButtonReturn);
+}
+
 TEST_F(SheetPresenterTest, WindowGone_HasNoWindow) {
     presenter->beginSheet(cProblem, record());
     window.reset();
