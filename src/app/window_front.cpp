@@ -5,7 +5,9 @@
 #include "app/window_actions.h"
 #include "ports/dispatch_queue.h"
 #include "ports/status_menu.h"
+#include "settings/preference_keys.h"
 #include "support/array_controller.h"
+#include "support/text.h"
 #include "ui/close_policy.h"
 #include "ui/main_window_controller.h"
 #include "ui/view_controller.h"
@@ -47,7 +49,18 @@ public:
         // Drawing the icon takes a while; the window does not wait for it.
         machine.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
         showServices(fFoundServices, fWindow.foundServices());
-        fWindow.activityTab().setStore(machine.passes);
+        fWindow.activityTab().setParts({
+            .store = machine.passes,
+            .workspace = machine.workspace,
+            .mainQueue = machine.mainQueue,
+            .bgQueue = machine.bgQueue,
+            .destination =
+                [&machine] {
+                    return expandingTilde(
+                        machine.defaults.stringForKey(prefPath2).value_or(QString()),
+                        machine.files.homeDirectory());
+                },
+        });
         fWindow.settingsTab().setLoginItem(machine.loginItem);
         fWindow.setMayClose([this] { return mayClose(); });
     }

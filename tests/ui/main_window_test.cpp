@@ -1,7 +1,10 @@
+#include "fakes/fake_desktop.h"
 #include "fakes/fake_login_item.h"
 #include "fakes/memory_defaults.h"
+#include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
 #include "settings/preference_keys.h"
+#include "ui/widgets/activity_tab.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/path_control_view.h"
@@ -31,7 +34,14 @@ namespace {
 
 class MainWindowTest : public ::testing::Test {
 protected:
-    MainWindowTest() { window.settingsTab().setLoginItem(loginItem); }
+    MainWindowTest() {
+        window.settingsTab().setLoginItem(loginItem);
+        window.activityTab().setParts({.store = store,
+                                       .workspace = workspace,
+                                       .mainQueue = mainQueue,
+                                       .bgQueue = bgQueue,
+                                       .destination = [] { return QString(); }});
+    }
 
     template <typename Widget>
     Widget* child(const char* name) {
@@ -54,6 +64,9 @@ protected:
     FakeLoginItem loginItem;
     MemoryDefaults defaults;
     VirtualMainQueue mainQueue;
+    ManualBackgroundQueue bgQueue;
+    MemoryPassStore store{mainQueue};
+    FakeWorkspace workspace;
     MainWindow window{defaults, mainQueue};
 };
 

@@ -183,6 +183,7 @@ void MainWindow::showKeyState(KeyState state) {
 
 void MainWindow::showWork(const WorkState& work) {
     fSyncTab->showWork(work);
+    fActivityTab->showWork(work);
 }
 
 QTableView& MainWindow::foundServices() {
