@@ -59,8 +59,11 @@ protected:
         EXPECT_TRUE(screen.keepPicture(QStringLiteral(KELVO_PICTURES), name));
     }
 
-    /// In the tab with the passes; its first row lies there with one line of headline and with two.
-    void selectNewestPass() const { screen.click({300, 175}, 1); }
+    /// On the Activity tab: turns to the passes, and from the button below them to the first row.
+    void selectNewestPass() const {
+        screen.keys({QStringLiteral("alt+p"), QStringLiteral("alt+c"), QStringLiteral("shift+Tab"),
+                     QStringLiteral("shift+Tab"), QStringLiteral("Home")});
+    }
 
     /// Three more Macs, with names and addresses of their own, by packets on the cable.
     void announceOthers() {
