@@ -4,7 +4,6 @@
 #include "ui/pass_words.h"
 
 #include <QLocale>
-#include <QStringDecoder>
 #include <QStringList>
 
 #include <algorithm>
@@ -26,29 +25,23 @@ QString oneLine(QStringView text) {
 
 /// UTF-8 as it is, any other byte as "\xff".
 QString decoded(const QByteArray& bytes) {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString whole = decoder(bytes);
-    if (!decoder.hasError())
+    const QString whole = QString::fromUtf8(bytes);
+    if (whole.toUtf8() == bytes)
         return whole;
     QString text;
     for (qsizetype at = 0; at < bytes.size();) {
         // A character has four bytes at most.
-        qsizetype length = 1;
-        QString character;
-        for (; length <= std::min<qsizetype>(4, bytes.size() - at); ++length) {
-            QStringDecoder one(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-            character = one(QByteArrayView(bytes).sliced(at, length));
-            if (!one.hasError())
-                break;
-            character.clear();
+        QByteArray character;
+        for (qsizetype length = 1; length <= 4 && character.isEmpty(); ++length) {
+            const QByteArray piece = bytes.mid(at, length);
+            if (QString::fromUtf8(piece).toUtf8() == piece)
+                character = piece;
         }
-        if (character.isEmpty()) {
+        if (character.isEmpty())
             text += QStringLiteral("\\x%1").arg(uint(uchar(bytes[at])), 2, 16, QLatin1Char('0'));
-            length = 1;
-        } else {
-            text += character;
-        }
-        at += length;
+        else
+            text += QString::fromUtf8(character);
+        at += std::max<qsizetype>(1, character.size());
     }
     return text;
 }

@@ -95,7 +95,9 @@ void PassesView::showWork(const WorkState& work) {
         QStringList{work.health.text, work.health.lastSuccess}.join(u'\n').trimmed();
     fUi->headline->setText(health);
     fUi->headline->setVisible(!health.isEmpty());
-    const KeptPlace place(*fUi->passes);
+    std::optional<KeptPlace> place;
+    if (fRows->isRunningPass(fRows->index(0, 0)) != isRunning(work))
+        place.emplace(*fUi->passes);
     fRows->setWork(work);
     if (fRows->isRunningPass(fUi->passes->currentIndex()))
         showReport(runningReport(work));
