@@ -118,10 +118,10 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
     return onceButtons;
 }
 
-bool askBeforeQuitting(const MainWindow& window, const ClosePolicy& policy, UserDefaults& defaults,
+bool askBeforeQuitting(const WorkState& work, const ClosePolicy& policy, UserDefaults& defaults,
                        SheetPresenter& alerts) {
     const auto question =
-        policy.questionBeforeQuitting(window.work(), defaults.boolForKey(prefQuitWithoutAsking));
+        policy.questionBeforeQuitting(work, defaults.boolForKey(prefQuitWithoutAsking));
     if (!question)
         return true;
     const auto [response, ticked] = alerts.runModal(*question, QObject::tr("Do not ask again"));

@@ -19,6 +19,7 @@ class UserDefaults;
 class ViewController;
 class WidgetButton;
 class Workspace;
+struct WorkState;
 
 /// The two-state buttons beside the start button; they live as long as the window sends actions.
 using OnceButtons = std::vector<std::unique_ptr<WidgetButton>>;
@@ -31,7 +32,7 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
 /// Asks a person who wants to quit, if `policy` has a question about what `window` shows. True: the
 /// program may end. Blocks as long as the question stands; a program that is told to end meanwhile
 /// takes the question away and ends.
-bool askBeforeQuitting(const MainWindow& window, const ClosePolicy& policy, UserDefaults& defaults,
+bool askBeforeQuitting(const WorkState& work, const ClosePolicy& policy, UserDefaults& defaults,
                        SheetPresenter& alerts);
 
 /// Gives `window` its menu bar. `mayQuit` is asked before the program is ended or started again.

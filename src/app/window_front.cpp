@@ -49,7 +49,7 @@ public:
           fAlerts({.mainWindow = fWindow,
                    .mainQueue = machine.mainQueue,
                    .notices = machine.notices,
-                   .showWhy = [this] { fWindow.showActivity(); }}),
+                   .showWhy = [this] { fWindow.showActivity(cNewestPass); }}),
           fOpenPanel(fWindow), fWindowController(std::make_shared<MainWindowController>(
                                    [this] { fWindow.bringToFront(); })) {
         // Drawing the icon takes a while; the window does not wait for it.
@@ -89,8 +89,7 @@ public:
             .openPanel = fOpenPanel,
             .terminal = fMachine.terminal,
             .copyText = copyText,
-            .showActivity =
-                [this](std::optional<qint64>) { fWindow.showTab(QStringLiteral("activity")); },
+            .showActivity = [this](std::optional<qint64> pass) { fWindow.showActivity(pass); },
             .fArrayController = fFoundServices,
             .ibStartButton = &fStartButton,
             .ibRevealButton1 = &fRevealButton1,
@@ -152,7 +151,7 @@ private:
             fController->ibSyncNow(nullptr);
             break;
         case Remedy::ShowDetails:
-            fWindow.showActivity();
+            fWindow.showActivity(cNewestPass);
             break;
         case Remedy::OpenLog:
             fMachine.workspace.openFile(fMachine.logFolder());
@@ -166,7 +165,8 @@ private:
     bool mayQuit() {
         if (std::exchange(fAsksAboutQuit, true))
             return false;
-        const bool may = askBeforeQuitting(fWindow, fClosePolicy, fMachine.defaults, fAlerts);
+        const bool may =
+            askBeforeQuitting(fController->work(), fClosePolicy, fMachine.defaults, fAlerts);
         fAsksAboutQuit = false;
         return may;
     }

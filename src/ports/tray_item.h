@@ -40,6 +40,8 @@ struct TrayChoices {
     std::function<void(std::size_t entry)> choose = {};
     /// For a panel that draws no menus: show it at this place of the screen, in pixels.
     std::function<void(int x, int y)> openMenu = {};
+    /// The panel has opened the menu, or closed it. Not every panel tells.
+    std::function<void(bool shown)> menuShown = {};
 };
 
 /// Main thread only. Hidden at first.

@@ -214,17 +214,4 @@ QString arrivalsText(const std::vector<Arrival>& arrivals) {
     return QStringLiteral("%1, %2 and %3 more").arg(first, second, QString::number(count - 2));
 }
 
-QString endedByQuitting(const WorkState& work) {
-    if (work.phase != WorkPhase::Running && work.phase != WorkPhase::Finishing)
-        return {};
-    if (work.amount.isEmpty())
-        return QStringLiteral("A pass is under way; the next start goes on from there.");
-    if (work.file.isEmpty())
-        return QStringLiteral("%1 have arrived; the next start goes on from there.")
-            .arg(work.amount);
-    return QStringLiteral(
-               "%1 is being received: %2 have arrived. The next start goes on from there.")
-        .arg(work.file, work.amount);
-}
-
 } // namespace kelvo

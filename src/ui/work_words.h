@@ -57,7 +57,4 @@ QString headlineText(const WorkState& work, const QString& matter);
 /// "A, B and one more", by name alone, each name on one line and at most 60 characters long.
 QString arrivalsText(const std::vector<Arrival>& arrivals);
 
-/// What a quit now would end, for the question before it; empty when nothing runs.
-QString endedByQuitting(const WorkState& work);
-
 } // namespace kelvo

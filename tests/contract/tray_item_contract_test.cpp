@@ -38,6 +38,7 @@ struct FakeWorld {
     void activate() { item.activate(); }
     void choose(int entry) { item.choose(static_cast<std::size_t>(entry)); }
     void openMenu(int x, int y) { item.openMenu(x, y); }
+    void tellMenuShown(bool shown) { item.tellMenuShown(shown); }
 };
 
 struct BusWorld {
@@ -83,6 +84,11 @@ struct BusWorld {
     void choose(int entry) {
         panel->askMenu(QStringLiteral("Event"),
                        {entry + 1, QStringLiteral("clicked"),
+                        QVariant::fromValue(QDBusVariant(QString())), QVariant::fromValue(0U)});
+    }
+    void tellMenuShown(bool shown) {
+        panel->askMenu(QStringLiteral("Event"),
+                       {0, shown ? QStringLiteral("opened") : QStringLiteral("closed"),
                         QVariant::fromValue(QDBusVariant(QString())), QVariant::fromValue(0U)});
     }
     void openMenu(int x, int y) { panel->askItem(QStringLiteral("ContextMenu"), {x, y}); }
@@ -147,6 +153,19 @@ TYPED_TEST(TrayItemContractTest, Choices_AreCalledOnceAndOnlyForWhatCanBeChosen)
     this->world.choose(3);
     this->world.activate();
     EXPECT_EQ(done.size(), 3);
+}
+
+TYPED_TEST(TrayItemContractTest, OpenedMenu_IsTold) {
+    QStringList told;
+    this->world.trayItem().setChoices(
+        {.menuShown = [&](bool shown) { told.append(QString::number(int(shown))); }});
+    this->world.trayItem().setEntries({{.title = QStringLiteral("Any")}});
+    this->world.trayItem().show(look("tip"));
+    ASSERT_TRUE(this->world.becomes(true));
+    this->world.tellMenuShown(true);
+    this->world.tellMenuShown(false);
+    EXPECT_TRUE(waitInLoop([&] { return told.size() == 2; }));
+    EXPECT_EQ(told.join(u' '), u"1 0");
 }
 
 TYPED_TEST(TrayItemContractTest, Choice_MayHideTheItem) {

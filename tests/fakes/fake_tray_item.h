@@ -23,6 +23,10 @@ public:
         if (visible && fChoices.openMenu)
             fChoices.openMenu(x, y);
     }
+    void tellMenuShown(bool shown) {
+        if (fChoices.menuShown)
+            run([this, shown] { fChoices.menuShown(shown); });
+    }
     void choose(std::size_t at) {
         const TrayEntry& entry = entries.at(at);
         if (fChoices.choose && entry.isEnabled && entry.isVisible && !entry.isSeparator)

@@ -175,7 +175,7 @@ TEST_F(WorkLabTest, FullDisk_IsToldWithinOnePass) {
     remote(QStringLiteral("cd %1 && find . -mindepth 1 -delete").arg(cRemoteMovies));
     writeRemote(cRemoteMovies + QStringLiteral("/First.mov"), QByteArray(1'000'000, 'f'));
     QVariantMap values = profile();
-    values[QStringLiteral("prefPath2")] = cNearHome + QStringLiteral("/Small");
+    values[QStringLiteral("prefPath2")] = QString(cNearHome + QStringLiteral("/Small"));
     const auto program = startProgram(values);
     ASSERT_TRUE(program->waitForLine(QStringLiteral("health: All is well"), 60))
         << program->transcript().toStdString();

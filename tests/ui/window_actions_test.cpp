@@ -95,7 +95,7 @@ TEST_F(WindowActionsTest, QuitWhileAMovieIsCopied_AsksUntilItIsNotToBeAskedAgain
                 QTest::keyClick(box->checkBox(), Qt::Key_Space);
             QTest::keyClick(box, key);
         });
-        const bool may = askBeforeQuitting(mainWindow, policy, defaults, alerts);
+        const bool may = askBeforeQuitting(mainWindow.work(), policy, defaults, alerts);
         QCoreApplication::processEvents();
         return may;
     };

@@ -75,15 +75,16 @@ TEST_F(KelvoStatusMenuHandlerTest, NotSetUp_ShowsNothing) {
     EXPECT_EQ(menu.hides, 0);
 }
 
-TEST_F(KelvoStatusMenuHandlerTest, BothSetUp_ShowOneIconUntilTheLastRemoves) {
-    delegates.setupStatusMenuStuff();
-    views.setupStatusMenuStuff();
-    EXPECT_EQ(menu.shown, std::vector{Off});
-    delegates.removeStatusMenuStuff();
-    EXPECT_EQ(menu.visible(), Off);
-    views.removeStatusMenuStuff();
-    EXPECT_EQ(menu.visible(), std::nullopt);
-    EXPECT_EQ(menu.hides, 1);
+TEST_F(KelvoStatusMenuHandlerTest, BothSetUp_ShowOneIconAndEitherRemovesIt) {
+    for (KelvoStatusMenuHandler* remover : {&delegates, &views}) {
+        delegates.setupStatusMenuStuff();
+        views.setupStatusMenuStuff();
+        EXPECT_EQ(menu.visible(), Off);
+        remover->removeStatusMenuStuff();
+        EXPECT_EQ(menu.visible(), std::nullopt);
+    }
+    EXPECT_EQ(menu.shown, (std::vector{Off, Off}));
+    EXPECT_EQ(menu.hides, 2);
 }
 
 TEST_F(KelvoStatusMenuHandlerTest, SetUpTwice_CountsOnce) {
@@ -103,13 +104,19 @@ TEST_F(KelvoStatusMenuHandlerTest, SetUpAgain_ShowsTheIconAgain) {
     EXPECT_EQ(menu.visible(), Running);
 }
 
-TEST_F(KelvoStatusMenuHandlerTest, Destroyed_TakesItsWishBack) {
+TEST_F(KelvoStatusMenuHandlerTest, Destroyed_TheIconGoesWithTheLast) {
     {
         KelvoStatusMenuHandler passing(presence, console);
         passing.setupStatusMenuStuff();
         EXPECT_EQ(menu.visible(), Off);
     }
     EXPECT_EQ(menu.visible(), std::nullopt);
+    views.setupStatusMenuStuff();
+    {
+        KelvoStatusMenuHandler passing(presence, console);
+        passing.setupStatusMenuStuff();
+    }
+    EXPECT_EQ(menu.visible(), Off);
 }
 
 TEST_F(KelvoStatusMenuHandlerTest, DelegateFunctions_OnlyPrintTheirLines) {
@@ -177,14 +184,35 @@ TEST_F(StatusMenuPresenceTest, MissingTargets_MakeAnEntryDoNothing) {
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(StatusMenuPresenceTest, RemovedHandler_IsNotActedOn) {
-    ShownWindow first;
-    ShownWindow second;
-    delegates.setWindowController(&first.controller);
-    views.setWindowController(&second.controller);
+TEST_F(StatusMenuPresenceTest, SetUpByAnotherAfterARemoval_EveryEntryActs) {
+    ShownWindow window;
+    FakeMainView mainView;
     delegates.setupStatusMenuStuff();
+    delegates.setWindowController(&window.controller);
+    delegates.setMainVC(&mainView);
     views.setupStatusMenuStuff();
     delegates.removeStatusMenuStuff();
+    views.setupStatusMenuStuff();
+    menu.choose(&StatusMenuActions::showWindow);
+    menu.choose(&StatusMenuActions::startOrStop);
+    menu.choose(&StatusMenuActions::quitAndRelaunch);
+    menu.choose(&StatusMenuActions::quit);
+    EXPECT_EQ(window.shows, 1);
+    EXPECT_EQ(mainView.clicks, 1);
+    EXPECT_EQ(mainView.relaunches, 1);
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(StatusMenuPresenceTest, HandlerThatIsGone_IsNotActedOn) {
+    ShownWindow first;
+    ShownWindow second;
+    views.setWindowController(&second.controller);
+    {
+        KelvoStatusMenuHandler passing(presence, console);
+        passing.setWindowController(&first.controller);
+        passing.setupStatusMenuStuff();
+        views.setupStatusMenuStuff();
+    }
     menu.choose(&StatusMenuActions::showWindow);
     EXPECT_EQ(first.shows, 0);
     EXPECT_EQ(second.shows, 1);
@@ -239,7 +267,7 @@ TEST_F(StatusMenuPresenceTest, StartTitle_FollowsTheSwitch) {
 TEST_F(StatusMenuPresenceTest, Destroyed_HidesAndLetsGoOfTheSettings) {
     auto passing = std::make_unique<StatusMenuPresence>(menu, defaults, mainQueue, [] {});
     const StatusMenuTargets targets;
-    passing->add(targets);
+    passing->show(targets);
     EXPECT_EQ(menu.visible(), Off);
     passing.reset();
     EXPECT_EQ(menu.visible(), std::nullopt);
@@ -269,6 +297,7 @@ TEST_F(StatusMenuPresenceTest, TroubleBeforeSetUp_IsRemembered) {
 TEST_F(StatusMenuPresenceTest, EntriesOfTheWork_ReachTheMainView) {
     FakeMainView mainView;
     delegates.setupStatusMenuStuff();
+    presence.showWork({.maySyncNow = true, .mayCancel = true});
     menu.choose(&StatusMenuActions::syncNow);
     EXPECT_TRUE(mainView.asked.isEmpty()) << "nobody is there to be asked";
     delegates.setMainVC(&mainView);

@@ -126,19 +126,6 @@ TEST(WorkWordsTest, ProgressLine_LeavesOutWhatIsNotKnown) {
     EXPECT_EQ(progressLine({}), QString());
 }
 
-TEST(WorkWordsTest, Quit_SaysWhatItEnds) {
-    WorkState work{.phase = WorkPhase::Running, .file = text("Feature.mkv")};
-    EXPECT_EQ(endedByQuitting(work),
-              text("A pass is under way; the next start goes on from there."));
-    work.amount = text("3.2 of 12.0 GB");
-    EXPECT_EQ(
-        endedByQuitting(work),
-        text("Feature.mkv is being received: 3.2 of 12.0 GB have arrived. The next start goes "
-             "on from there."));
-    work.phase = WorkPhase::Resting;
-    EXPECT_EQ(endedByQuitting(work), QString());
-}
-
 TEST(WorkWordsTest, Arrivals_AreNamedShortAndSafe) {
     const auto arrivals = [](std::initializer_list<const char*> paths) {
         std::vector<Arrival> all;

@@ -49,7 +49,8 @@ const QDBusArgument& operator>>(const QDBusArgument& from, MenuEvent& event) {
     return readStructure(from, event.id, event.name, event.data, event.time);
 }
 
-DBusMenu::DBusMenu(std::function<void(std::size_t)> choose) : fChoose(std::move(choose)) {
+DBusMenu::DBusMenu(std::function<void(std::size_t)> choose, std::function<void(bool)> shown)
+    : fChoose(std::move(choose)), fShown(std::move(shown)) {
     // Parameters are looked up by the names that stand in the declarations.
     qRegisterMetaType<MenuEvents>("kelvo::MenuEvents");
     qRegisterMetaType<EntryProperties>("kelvo::EntryProperties");
@@ -155,6 +156,9 @@ std::optional<QVariantMap> DBusMenu::properties(int id, const QStringList& names
 }
 
 void DBusMenu::take(int id, const QString& event) {
+    const bool opened = event == u"opened";
+    if (id == 0 && (opened || event == u"closed"))
+        QTimer::singleShot(0, this, [this, opened] { fShown(opened); });
     if (event != u"clicked" || id < 1 || !isKnown(id))
         return;
     // The panel has its answer first: what the entry does may take its time.

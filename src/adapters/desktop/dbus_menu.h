@@ -62,8 +62,9 @@ class DBusMenu final : public QObject, protected QDBusContext {
     Q_PROPERTY(QString Status READ status CONSTANT)
     Q_PROPERTY(QStringList IconThemePath READ iconThemePath CONSTANT)
 public:
-    /// `choose` is called from the event loop with the place of an entry that a person chose.
-    explicit DBusMenu(std::function<void(std::size_t)> choose);
+    /// Both are called from the event loop: `choose` with the place of an entry that a person
+    /// chose, `shown` when a panel tells that it has opened the menu or closed it.
+    DBusMenu(std::function<void(std::size_t)> choose, std::function<void(bool)> shown);
 
     /// Tells the bus what differs.
     void setEntries(std::vector<TrayEntry> entries);
@@ -96,6 +97,7 @@ private:
     void refuse(const QString& what) const;
 
     const std::function<void(std::size_t)> fChoose;
+    const std::function<void(bool)> fShown;
     std::vector<TrayEntry> fEntries;
     uint fRevision = 1;
 };

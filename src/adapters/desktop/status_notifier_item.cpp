@@ -29,10 +29,15 @@ const QDBusArgument& operator>>(const QDBusArgument& from, BusToolTip& tip) {
 }
 
 StatusNotifierItem::StatusNotifierItem(Connect connect)
-    : fConnect(std::move(connect)), fMenu([this](std::size_t entry) {
-          if (fBus && fChoices.choose)
-              fChoices.choose(entry);
-      }) {
+    : fConnect(std::move(connect)), fMenu(
+                                        [this](std::size_t entry) {
+                                            if (fBus && fChoices.choose)
+                                                fChoices.choose(entry);
+                                        },
+                                        [this](bool shown) {
+                                            if (fBus && fChoices.menuShown)
+                                                fChoices.menuShown(shown);
+                                        }) {
     qDBusRegisterMetaType<BusPicture>();
     qDBusRegisterMetaType<BusPictures>();
     qDBusRegisterMetaType<BusToolTip>();

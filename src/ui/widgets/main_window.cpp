@@ -40,7 +40,10 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     }
     ibStartButton().setToolTip({}); // Its title says it all.
     setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
-    setAction(QStringLiteral("showAllArrivals"), [this] { showTab(QStringLiteral("activity")); });
+    setAction(QStringLiteral("showAllArrivals"), [this] {
+        showTab(QStringLiteral("activity"));
+        fActivityTab->showArrived();
+    });
     connect(&ibStartButton(), &QPushButton::toggled, this, [this] { showStartIcon(); });
     showStartIcon();
     restoreLook();

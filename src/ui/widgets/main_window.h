@@ -20,6 +20,9 @@ class MainWindow;
 
 namespace kelvo {
 
+/// For MainWindow::showActivity: no pass has this number, and the newest is taken.
+inline constexpr qint64 cNewestPass = 0;
+
 class ActivityTab;
 class DispatchQueue;
 class PathControlView;

@@ -76,7 +76,10 @@ TrayIcon::TrayIcon(TrayHost& host, TrayItem& item, DispatchQueue& mainQueue)
         .activate = [this] { run(&Actions::showWindow); },
         .choose = [this](std::size_t entry) { choose(entry); },
         .openMenu = [this](int x, int y) { fMenu.popup(QPoint(x, y)); },
+        .menuShown = [this](bool shown) { tellMenuShown(shown); },
     });
+    connect(&fMenu, &QMenu::aboutToShow, this, [this] { tellMenuShown(true); });
+    connect(&fMenu, &QMenu::aboutToHide, this, [this] { tellMenuShown(false); });
 }
 
 TrayIcon::~TrayIcon() {
@@ -106,6 +109,11 @@ void TrayIcon::run(Action action) {
     // A copy: what it does may set other actions.
     if (const auto chosen = fActions.*action; chosen && fState)
         chosen();
+}
+
+void TrayIcon::tellMenuShown(bool shown) {
+    if (const auto told = fActions.menuShown; told && fState)
+        told(shown);
 }
 
 void TrayIcon::choose(std::size_t entry) {

@@ -52,6 +52,7 @@ private:
     void addFactLines();
     void run(Action action);
     void choose(std::size_t entry);
+    void tellMenuShown(bool shown);
     void update();
     void showWorkNow();
     void fillItem();
