@@ -59,14 +59,14 @@ QString shareOf(qint64 bytes, qint64 whole) {
                      : QString::number(static_cast<double>(bytes) / unit, 'f', 1);
 }
 
-/// Up to the second for two minutes, then up to the minute.
-int shownWait(double seconds) {
-    const auto whole = static_cast<int>(std::ceil(std::clamp(seconds, 1.0, 1e7)));
-    return whole <= 2 * cMinute ? whole : (whole + cMinute - 1) / cMinute * cMinute;
+constexpr int cCountedInSeconds = 2 * cMinute;
+
+int wholeSeconds(double seconds) {
+    return static_cast<int>(std::ceil(std::clamp(seconds, 1.0, 1e7)));
 }
 
-QString waitText(int seconds) {
-    return seconds <= 2 * cMinute ? QStringLiteral("%1 s").arg(seconds) : timeText(seconds);
+int nearestMinute(int seconds) {
+    return (seconds + cMinute / 2) / cMinute;
 }
 
 QString shortName(const Arrival& arrival) {
@@ -168,14 +168,20 @@ void describeProgress(WorkState& work, const PassUnderWay& pass, TimeLeftWords& 
 }
 
 QString nextPassText(double seconds) {
-    return QStringLiteral("Next pass in %1").arg(waitText(shownWait(seconds)));
+    const int whole = wholeSeconds(seconds);
+    return QStringLiteral("Next pass in %1")
+        .arg(whole <= cCountedInSeconds ? QStringLiteral("%1 s").arg(whole)
+                                        : timeText(nearestMinute(whole) * cMinute));
 }
 
 double nextPassHolds(double seconds) {
-    const int shown = shownWait(seconds);
-    if (shown == 1)
+    const int whole = wholeSeconds(seconds);
+    if (whole == 1)
         return 1; // the last text: an overdue pass is not counted further
-    const int next = shown <= 2 * cMinute ? shown - 1 : std::max(shown - cMinute, 2 * cMinute);
+    const int next =
+        whole <= cCountedInSeconds
+            ? whole - 1
+            : std::max(nearestMinute(whole) * cMinute - cMinute / 2 - 1, cCountedInSeconds);
     return std::max(seconds - next, 0.0);
 }
 

@@ -274,6 +274,17 @@ TYPED_TEST(PassStoreContractTest, Days_AddUpWhatTheirPassesBrought) {
                                                        {today, 5, 1000, false}}));
 }
 
+TYPED_TEST(PassStoreContractTest, Days_GoByWhatArrivedWhereThatIsKnown) {
+    PassRecord pass = passOf(PassCause::Cancelled, {arrivalOf("/in/a.mov", 30)});
+    pass.transfer = {TransferSource::Lines, 2, std::nullopt};
+    pass.began = QDateTime(QDate::currentDate(), QTime(12, 0)).toUTC();
+    this->world.store->append(pass);
+    pass.arrivals = {arrivalOf("/in/b.mov", 400), arrivalOf("/in/c.mov", 5000)};
+    pass.transfer = {TransferSource::Statistics, 2, 5401};
+    this->world.store->append(pass);
+    EXPECT_EQ(this->days(1), (std::vector<DayOfPasses>{{QDate::currentDate(), 3, 5430, false}}));
+}
+
 TYPED_TEST(PassStoreContractTest, Standing_FollowsThePassesThatSaySomething) {
     const auto now = QDateTime::fromMSecsSinceEpoch(1'700'000'000'000, Qt::UTC);
     PassRecord pass = passOf(PassCause::Well, {arrivalOf("/in/a.mov", 1)});

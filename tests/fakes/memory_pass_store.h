@@ -112,8 +112,14 @@ private:
             const QDate date = record.began.toLocalTime().date();
             DayOfPasses& day = days[date];
             day.day = date;
-            day.files += record.transfer.files.value_or(0);
-            day.bytes += record.transfer.bytes.value_or(0);
+            for (const Arrival& arrival : record.arrivals) {
+                ++day.files;
+                day.bytes += arrival.size;
+            }
+            if (record.arrivals.empty()) {
+                day.files += record.transfer.files.value_or(0);
+                day.bytes += record.transfer.bytes.value_or(0);
+            }
             day.trouble = day.trouble || isTrouble(record.cause);
         }
 

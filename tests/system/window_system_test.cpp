@@ -114,13 +114,11 @@ protected:
 
 TEST_F(WindowSystemTest, StartButton_ByMouseAndByKey) {
     write(path(QStringLiteral("Camera/a.mov")), "movie");
-    // Without its folder a line about that would stand where the button is looked for.
     QDir().mkpath(path(QStringLiteral("Incoming")));
     startAndSettle(quietProfile());
     keepPicture("sync");
-    // The start button is the one tall control across the middle of the window.
     const QRect place = windowPlace();
-    screen.click({place.center().x(), place.y() + 225}, 1);
+    screen.click(startButton(place.topLeft()), 1);
     ASSERT_TRUE(program->waitForLine(QStringLiteral("state is now IS RUNNING"), 20))
         << program->transcript().toStdString();
     ASSERT_TRUE(program->waitForLine(QStringLiteral("result from shell command ="), 30));
@@ -169,6 +167,7 @@ TEST_F(WindowSystemTest, Interrupt_EndsAtOnceAndStoresNothingHalfTyped) {
     ASSERT_TRUE(waitUntil([&] { return !livingChild(pid, "watchdog"); }));
     screen.keys({QStringLiteral("alt+u")});
     screen.type(QStringLiteral("half"));
+    program->waitForLine(QStringLiteral("no such line"), 1);
     const QStringList before = program->lines();
     ::kill(static_cast<pid_t>(program->processId()), SIGINT);
     EXPECT_TRUE(endsByItself());

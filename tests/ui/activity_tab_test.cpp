@@ -25,11 +25,15 @@ class ActivityTabTest : public ::testing::Test {
 protected:
     ActivityTabTest() {
         tab.resize(700, 600);
-        tab.setParts({.store = store,
-                      .workspace = workspace,
-                      .mainQueue = mainQueue,
-                      .bgQueue = bgQueue,
-                      .destination = [] { return QStringLiteral("/in"); }});
+        tab.setParts(parts());
+    }
+
+    ActivityParts parts() {
+        return {.store = store,
+                .workspace = workspace,
+                .mainQueue = mainQueue,
+                .bgQueue = bgQueue,
+                .destination = [] { return QStringLiteral("/in"); }};
     }
 
     template <typename Widget>
@@ -86,6 +90,14 @@ TEST_F(ActivityTabTest, Hidden_ItIsEmptyAndAsksNothing) {
     EXPECT_TRUE(mainQueue.idle());
     openPasses();
     EXPECT_EQ(rows(), 1);
+}
+
+TEST_F(ActivityTabTest, ShownBeforeItHasItsParts_ItIsBuiltWithThem) {
+    ActivityTab early;
+    early.show();
+    EXPECT_TRUE(early.findChildren<QWidget*>().isEmpty());
+    early.setParts(parts());
+    EXPECT_NE(early.findChild<QTreeView*>(QStringLiteral("passes")), nullptr);
 }
 
 TEST_F(ActivityTabTest, Passes_StandNewestFirst) {

@@ -82,7 +82,8 @@ TEST(WorkWordsTest, Wait_IsCountedInSecondsForTwoMinutes) {
     EXPECT_EQ(nextPassText(22.3), text("Next pass in 23 s"));
     EXPECT_EQ(nextPassText(0), text("Next pass in 1 s"));
     EXPECT_EQ(nextPassText(120), text("Next pass in 120 s"));
-    EXPECT_EQ(nextPassText(121), text("Next pass in 3 min"));
+    EXPECT_EQ(nextPassText(121), text("Next pass in 2 min"));
+    EXPECT_EQ(nextPassText(601), text("Next pass in 10 min"));
     EXPECT_EQ(nextPassText(4800), text("Next pass in 1 h 20 min"));
     for (const double seconds : {0.5, 22.3, 120.0, 121.0, 179.5, 600.0, 4800.0}) {
         const double holds = nextPassHolds(seconds);

@@ -227,7 +227,7 @@ PassDatabase::Outcome PassDatabase::noteStanding(const PassRecord& record) {
     const auto becomes = [&](StandingRow row) {
         return run(PassStatement::SetStanding, {static_cast<int>(row), record.id});
     };
-    Outcome outcome = run(PassStatement::AddToDay, {record.id});
+    Outcome outcome = run(PassStatement::AddToDay, {record.id, record.id});
     if (!outcome || saysNothing(record.cause))
         return outcome;
     if (outcome = becomes(StandingRow::LastPass); !outcome)

@@ -127,9 +127,13 @@ QString sqlOf(PassStatement statement) {
         return QStringLiteral("INSERT INTO arrival (pass, path, size, arrived, folded) "
                               "VALUES (?, ?, ?, ?, ?)");
     case PassStatement::AddToDay:
-        return u"INSERT INTO day SELECT " + cDay + u", coalesce(files, 0), coalesce(bytes, 0), " +
+        // What arrived goes before what the commands said of it: one that was ended says nothing.
+        return u"INSERT INTO day SELECT " + cDay +
+               u", iif(came.files, came.files, coalesce(pass.files, 0)), "
+               u"iif(came.files, came.bytes, coalesce(pass.bytes, 0)), " +
                isTroubleInSql() +
-               u" FROM pass WHERE id = ? ON CONFLICT (day) DO UPDATE SET "
+               u" FROM pass, (SELECT count(*) AS files, sum(size) AS bytes FROM arrival "
+               u"WHERE pass = ?) AS came WHERE id = ? ON CONFLICT (day) DO UPDATE SET "
                u"files = files + excluded.files, bytes = bytes + excluded.bytes, "
                u"trouble = max(trouble, excluded.trouble)";
     case PassStatement::SetStanding:

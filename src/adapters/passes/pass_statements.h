@@ -18,7 +18,7 @@ enum class PassStatement {
     InsertPass,    ///< `valuesOf` a record
     InsertCommand, ///< `valuesOf` a command
     InsertArrival, ///< `valuesOf` an arrival
-    AddToDay,      ///< pass
+    AddToDay,      ///< pass, twice
     SetStanding,   ///< StandingRow, pass
     AddTrouble,    ///< when it began, in milliseconds since 1970
     EndTrouble,

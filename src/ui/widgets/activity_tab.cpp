@@ -22,6 +22,9 @@ ActivityTab::~ActivityTab() = default;
 
 void ActivityTab::setParts(ActivityParts parts) {
     fParts.emplace(std::move(parts));
+    // The tab that the window was last left on is shown before there are any.
+    if (!isHidden())
+        build();
 }
 
 void ActivityTab::setVisible(bool visible) {

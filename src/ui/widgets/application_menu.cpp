@@ -158,13 +158,12 @@ void ApplicationMenu::addTrayMenu(const ApplicationMenuActions& actions) {
                      tr("&Remove Tray Icon"),
                      {},
                      actions.removeStatusItem,
-                     tr("Takes the request for the tray icon back; the icon goes with the last "
-                        "request")});
+                     tr("Takes the icon out of the tray; the program keeps running")});
     addEntry(*menu, {"delegateQuitAndRelaunch",
                      tr("Remove Tray Icon as &Before a Relaunch"),
                      {},
                      actions.delegateQuitAndRelaunch,
-                     tr("Takes the request for the tray icon back; the program keeps running")});
+                     tr("Takes the icon out of the tray; the program keeps running")});
     menu->addSeparator();
     addEntry(*menu, {"setupWatchdog",
                      tr("Set Up &Watchdog Again"),
