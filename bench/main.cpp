@@ -8,6 +8,6 @@ int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     return printTable({settingsRow(), templateRow(), captureRow(), stallRow(), passRow(), restRow(),
                        filterRow(), snapshotRow(), relaunchRow(), sentinelRow(), startRow(),
-                       memoryRow(), idleRow(), recordRow()},
+                       memoryRow(), idleRow(), recordRow(), progressRow()},
                       std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
 }

@@ -39,6 +39,7 @@ public:
         texts.append(command.text);
         return fRunner.run(command);
     }
+    void cancel(CommandId command) override { fRunner.cancel(command); }
     QStringList texts;
 
 private:

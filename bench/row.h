@@ -36,6 +36,7 @@ Row startRow();
 Row memoryRow();
 Row idleRow();
 Row recordRow();
+Row progressRow();
 Row activityRow(); ///< needs a QApplication
 
 /// The middle one of `values`, which must not be empty.

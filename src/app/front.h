@@ -22,6 +22,9 @@ public:
     /// The controller of the front's window; the same at each call.
     virtual std::shared_ptr<MainWindowController> windowController() = 0;
 
+    /// Ends the program at a person's wish, who may be asked first.
+    virtual void quit() = 0;
+
     /// From now on controls and menus send their actions there. Both outlive the front's event
     /// loop.
     virtual void sendActionsTo(ViewController& controller, AppDelegate& delegate) = 0;

@@ -41,6 +41,7 @@ public:
             .fNsPathControl1 = fPathControl,
         };
     }
+    void quit() override { fApplication.terminate(); }
     void sendActionsTo(ViewController& controller, AppDelegate&) override {
         fController = &controller;
     }

@@ -1,6 +1,7 @@
 #include "app/machine_parts.h"
 
 #include "adapters/desktop/desktop_tray_host.h"
+#include "adapters/desktop/status_notifier_item.h"
 #include "adapters/network/kelvo_ssid.h"
 #include "app/places.h"
 #include "app/version.h"
@@ -21,13 +22,14 @@ MachineParts::MachineParts(bool withTray)
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
       singleCopy(QFile::encodeName(logFolder()).toStdString(), console),
-      dnssdBrowser(console, mainQueue), notices([this](const QString& title, const QString& text) {
+      dnssdBrowser(console, mainQueue), notices([this](const Notice& notice) {
           if (fTrayIcon)
-              fTrayIcon->showNotice(title, text);
+              fTrayIcon->showNotice(notice);
       }) {
     if (withTray) {
         fTrayHost = std::make_unique<DesktopTrayHost>();
-        auto icon = std::make_unique<TrayIcon>(*fTrayHost);
+        fTrayItem = std::make_unique<StatusNotifierItem>();
+        auto icon = std::make_unique<TrayIcon>(*fTrayHost, *fTrayItem, mainQueue);
         fTrayIcon = icon.get();
         fStatusMenu = std::move(icon);
     } else {

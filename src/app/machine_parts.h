@@ -21,6 +21,7 @@ namespace kelvo {
 class NetworkChecker;
 class TrayHost;
 class TrayIcon;
+class TrayItem;
 
 /// Main thread only; made once the application object exists.
 struct MachineParts : PassMachine {
@@ -48,6 +49,7 @@ struct MachineParts : PassMachine {
 
 private:
     std::unique_ptr<TrayHost> fTrayHost;
+    std::unique_ptr<TrayItem> fTrayItem;
     std::unique_ptr<StatusMenu> fStatusMenu;
     TrayIcon* fTrayIcon = nullptr; ///< the status menu, where there is a tray
 };

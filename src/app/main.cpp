@@ -2,6 +2,7 @@
 #include "adapters/desktop/x_display.h"
 #include "app/commands/command_line.h"
 #include "app/commands/once.h"
+#include "app/commands/passes.h"
 #include "app/commands/settings_commands.h"
 #include "app/program.h"
 
@@ -88,6 +89,10 @@ int main(int argc, char** argv) {
     case kelvo::LaunchKind::Once: {
         const QCoreApplication application(argc, argv);
         return printAnswer(kelvo::runOnce(commandLine.json));
+    }
+    case kelvo::LaunchKind::Passes: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runPassesCommand(commandLine.passes));
     }
     case kelvo::LaunchKind::Settings: {
         const QCoreApplication application(argc, argv);

@@ -1,17 +1,23 @@
 // One pass with the real adapters and the engine itself.
 #include "adapters/console/headless_outlets.h"
+#include "adapters/console/terminal_line.h"
 #include "app/commands/once.h"
 #include "app/pass_machine.h"
 #include "settings/factory_defaults.h"
 #include "settings/overlay_defaults.h"
 #include "settings/preference_keys.h"
+#include "ui/work_words.h"
 
 #include <QCoreApplication>
+
+#include <unistd.h>
 
 #include <csignal>
 
 namespace kelvo {
 namespace {
+
+constexpr double cProgressPace = 0.5; // seconds
 
 /// The parts of one pass, each after those it works with.
 class OncePass {
@@ -32,8 +38,9 @@ public:
         return fMachine.defaults.areKnown() ? QString() : fMachine.defaults.trouble();
     }
 
-    /// The record of the pass.
-    PassRecord run() {
+    /// The record of the pass. Tells on standard error how far it is, if that is a terminal and
+    /// `progress` is wished for.
+    PassRecord run(bool progress) {
         // A tag that does not exist would end the program.
         if (!optionStringForTag(fSettings.integerForKey(prefRsyncCommandOptionTag)))
             return withoutPass(PassCause::SettingsMissing);
@@ -44,13 +51,29 @@ public:
             else
                 fEngine.syncCycle.doSyncOnce();
         });
+        if (progress && ::isatty(STDERR_FILENO) == 1) {
+            fProgress.emplace(STDERR_FILENO);
+            showProgress();
+        }
         QCoreApplication::exec();
+        fProgress.reset();
         fMachine.end();
         const std::lock_guard lock(fMutex);
         return fRecord.value_or(withoutPass(PassCause::Interrupted));
     }
 
 private:
+    void showProgress() {
+        WorkState work;
+        if (const auto passes = fEngine.passes.underWay(); !passes.empty())
+            describeProgress(work, passes.front(), fTimeLeft);
+        fProgress->show(progressLine(work));
+        fMachine.mainQueue.asyncAfter(cProgressPace, [this] {
+            if (fProgress)
+                showProgress();
+        });
+    }
+
     void ended(const PassRecord& record) {
         const std::lock_guard lock(fMutex);
         fRecord = record;
@@ -67,6 +90,8 @@ private:
 
     std::mutex fMutex;
     std::optional<PassRecord> fRecord;
+    std::optional<TerminalLine> fProgress;
+    TimeLeftWords fTimeLeft;
     PassMachine fMachine{-1, -1, DamagedFile::IsLeftAlone};
     std::vector<Subscription> fSignalled;
     OverlayDefaults fSettings{fMachine.defaults};
@@ -87,7 +112,7 @@ CommandAnswer runOnce(bool json) {
     OncePass pass;
     if (const QString unknown = pass.unknownSettings(); !unknown.isEmpty())
         return settingsUnknown(unknown);
-    return outcomeOf(pass.run(), json);
+    return outcomeOf(pass.run(!json), json);
 }
 
 } // namespace kelvo

@@ -36,7 +36,7 @@ public:
     explicit Program(FrontKind kind)
         : fKind(kind), fParts(kind == FrontKind::Window),
           fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
-                      [this] { terminate(); }),
+                      [this] { front().quit(); }),
           fDuplicates(fParts.singleCopy, fParts.console, [this] { show(); }),
           fWatchdog(Watchdog::begin({.signals = fParts.signals,
                                      .bundle = fParts.bundle,
@@ -51,7 +51,10 @@ public:
                                      .terminate = [this] { terminate(); },
                                      .leaveAtOnce = [this](int status) { leaveAtOnce(status); }})) {
         for (const int signal : {SIGTERM, SIGINT})
-            fQuitSignals.push_back(fParts.signals.catchSignal(signal, [this] { terminate(); }));
+            fQuitSignals.push_back(fParts.signals.catchSignal(signal, [this] {
+                if (!Watchdog::catchesCrashSignals())
+                    terminate();
+            }));
         fStoryboard.add(cMyWindowControllerID, [this] { return front().windowController(); });
         fStoryboard.add(cMyViewControllerID, [this] { return makeViewController(); });
     }
@@ -102,6 +105,7 @@ private:
         auto controller = std::make_shared<ViewController>(ViewControllerParts{
             .engine = fParts.engineParts(fParts.defaults),
             .outlets = front().outlets(),
+            .passStore = fParts.passes,
             .notificationCenter = fParts.notificationCenter,
             .bundle = fParts.bundle,
             .quitAndRelaunch = Watchdog::quitAndRelaunch,
@@ -122,6 +126,13 @@ private:
     void show() {
         if (fFront)
             fFront->windowController()->showWindow();
+    }
+
+    void showActivity(std::optional<qint64> pass) {
+        if (!fFront)
+            return;
+        if (auto* mainView = fFront->windowController()->contentViewController())
+            mainView->showActivity(pass);
     }
 
     void terminate() {
@@ -145,7 +156,8 @@ private:
 
     const FrontKind fKind;
     MachineParts fParts;
-    PassNotices fNotices{fParts.passes, fParts.defaults, fParts.notices};
+    PassNotices fNotices{fParts.passes, fParts.defaults, fParts.notices,
+                         [this](std::optional<qint64> pass) { showActivity(pass); }};
     StatusMenuPresence fStatusMenu;
     DuplicateCheck fDuplicates;
     std::vector<Subscription> fQuitSignals; ///< for a program that nobody watches

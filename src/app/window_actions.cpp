@@ -2,11 +2,17 @@
 
 #include "app/start/app_delegate.h"
 #include "app/version.h"
+#include "ports/user_defaults.h"
 #include "ports/workspace.h"
+#include "settings/preference_keys.h"
+#include "ui/close_policy.h"
 #include "ui/view_controller.h"
 #include "ui/widgets/application_menu.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/path_control_view.h"
+#include "ui/widgets/recent_arrivals.h"
+#include "ui/widgets/sheet_presenter.h"
+#include "ui/widgets/sync_tab.h"
 #include "ui/widgets/widget_button.h"
 #include "ui/widgets/widget_controls.h"
 
@@ -45,6 +51,8 @@ constexpr Wire cButtons[] = {
     {"ibRevealSourcePathSMBdebugOLD", &ViewController::ibRevealSourcePathSMBdebugOLD},
     {"ibSetNoFirstResponder", &ViewController::ibSetNoFirstResponder},
     {"ibQuitAndRelaunch", &ViewController::ibQuitAndRelaunch},
+    {"ibSyncNow", &ViewController::ibSyncNow},
+    {"ibCancelPass", &ViewController::ibCancelPass},
     {"ibSuspendTimer", &ViewController::ibSuspendTimer},
     {"ibResumeTimer", &ViewController::ibResumeTimer},
     {"ibKillTimer", &ViewController::ibKillTimer},
@@ -100,6 +108,9 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
     QObject::connect(&window.destinationPath(), &PathControlView::openRequested, &window, openPart);
     QObject::connect(&window.destinationPath(), &PathControlView::partClicked, &window, openPart);
 
+    QObject::connect(&window.syncTab().recentArrivals(), &RecentArrivals::openRequested, &window,
+                     openPart);
+
     window.bindings().setEditingEnded(
         [&controller](QWidget& field) { controller.controlTextDidEndEditing(textField(field)); });
     window.setWillSelectTab(
@@ -107,18 +118,43 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
     return onceButtons;
 }
 
+bool askBeforeQuitting(const WorkState& work, const ClosePolicy& policy, UserDefaults& defaults,
+                       SheetPresenter& alerts) {
+    const auto question =
+        policy.questionBeforeQuitting(work, defaults.boolForKey(prefQuitWithoutAsking));
+    if (!question)
+        return true;
+    const auto [response, ticked] = alerts.runModal(*question, QObject::tr("Do not ask again"));
+    if (response != cAlertFirstButtonReturn)
+        return false;
+    if (ticked)
+        defaults.setObject(prefQuitWithoutAsking, true);
+    return true;
+}
+
 void addApplicationMenu(MainWindow& window, ViewController& controller, AppDelegate& delegate,
                         Workspace& workspace, const QString& logFolder,
-                        const std::function<void()>& quit) {
+                        const std::function<bool()>& mayQuit, const std::function<void()>& quit) {
     QStringList labels;
     for (const MainWindow::Tab& tab : window.tabs())
         labels.append(tab.label);
     auto* menu = new ApplicationMenu(
-        {.quitAndRelaunch = [&controller] { controller.ibQuitAndRelaunch(nullptr); },
+        {.quitAndRelaunch =
+             [&controller, mayQuit] {
+                 if (mayQuit())
+                     controller.ibQuitAndRelaunch(nullptr);
+             },
          .closeWindow = [&window] { window.close(); },
-         .quit = quit,
+         .quit =
+             [quit, mayQuit] {
+                 if (mayQuit())
+                     quit();
+             },
          .showSettings = [&window] { window.showTab(QStringLiteral("prefs")); },
          .showTab = [&window](int index) { window.showTab(index); },
+         .startOrStop = [&controller] { controller.clickStartButton(); },
+         .syncNow = [&controller] { controller.ibSyncNow(nullptr); },
+         .cancelPass = [&controller] { controller.ibCancelPass(nullptr); },
          .setupStatusItem = [&delegate] { delegate.ibSetupStatusItemStuff(nullptr); },
          .removeStatusItem = [&delegate] { delegate.ibRemoveStatusItemStuff(nullptr); },
          .delegateQuitAndRelaunch = [&delegate] { delegate.ibQuitAndRelaunch(nullptr); },
@@ -129,6 +165,11 @@ void addApplicationMenu(MainWindow& window, ViewController& controller, AppDeleg
     window.setMenuBar(menu);
     menu->setCurrentTab(window.currentTab());
     QObject::connect(&window, &MainWindow::tabShown, menu, &ApplicationMenu::setCurrentTab);
+    menu->setSyncing(window.ibStartButton().isChecked());
+    QObject::connect(&window.ibStartButton(), &QPushButton::toggled, menu,
+                     &ApplicationMenu::setSyncing);
+    QObject::connect(&window, &MainWindow::workShown, menu,
+                     [menu, &window] { menu->showWork(window.work()); });
 }
 
 } // namespace kelvo

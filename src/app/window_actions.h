@@ -10,12 +10,16 @@
 namespace kelvo {
 
 class AppDelegate;
+class ClosePolicy;
 class Control;
 class MainWindow;
 class PathControl;
+class SheetPresenter;
+class UserDefaults;
 class ViewController;
 class WidgetButton;
 class Workspace;
+struct WorkState;
 
 /// The two-state buttons beside the start button; they live as long as the window sends actions.
 using OnceButtons = std::vector<std::unique_ptr<WidgetButton>>;
@@ -25,9 +29,15 @@ using OnceButtons = std::vector<std::unique_ptr<WidgetButton>>;
 OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Workspace& workspace,
                               const std::shared_ptr<PathControl>& fNsPathControl1);
 
-/// Gives `window` its menu bar.
+/// Asks a person who wants to quit, if `policy` has a question about what `window` shows. True: the
+/// program may end. Blocks as long as the question stands; a program that is told to end meanwhile
+/// takes the question away and ends.
+bool askBeforeQuitting(const WorkState& work, const ClosePolicy& policy, UserDefaults& defaults,
+                       SheetPresenter& alerts);
+
+/// Gives `window` its menu bar. `mayQuit` is asked before the program is ended or started again.
 void addApplicationMenu(MainWindow& window, ViewController& controller, AppDelegate& delegate,
                         Workspace& workspace, const QString& logFolder,
-                        const std::function<void()>& quit);
+                        const std::function<bool()>& mayQuit, const std::function<void()>& quit);
 
 } // namespace kelvo

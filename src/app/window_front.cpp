@@ -5,7 +5,9 @@
 #include "app/window_actions.h"
 #include "ports/dispatch_queue.h"
 #include "ports/status_menu.h"
+#include "settings/preference_keys.h"
 #include "support/array_controller.h"
+#include "support/text.h"
 #include "ui/close_policy.h"
 #include "ui/main_window_controller.h"
 #include "ui/view_controller.h"
@@ -14,6 +16,7 @@
 #include "ui/widgets/checklist_view.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
+#include "ui/widgets/recent_arrivals.h"
 #include "ui/widgets/service_list.h"
 #include "ui/widgets/settings_tab.h"
 #include "ui/widgets/sheet_presenter.h"
@@ -26,6 +29,8 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+
+#include <utility>
 
 namespace kelvo {
 namespace {
@@ -41,13 +46,28 @@ public:
           fRevealButton2(fWindow.button(QStringLiteral("ibRevealButton2"))),
           fStatusField(std::make_shared<WidgetStatusField>(fWindow.ibStatusTextField())),
           fPathControl(std::make_shared<WidgetPathControl>(fWindow.fNsPathControl1())),
-          fAlerts(fWindow), fOpenPanel(fWindow),
-          fWindowController(
-              std::make_shared<MainWindowController>([this] { fWindow.bringToFront(); })) {
+          fAlerts({.mainWindow = fWindow,
+                   .mainQueue = machine.mainQueue,
+                   .notices = machine.notices,
+                   .showWhy = [this] { fWindow.showActivity(cNewestPass); }}),
+          fOpenPanel(fWindow), fWindowController(std::make_shared<MainWindowController>(
+                                   [this] { fWindow.bringToFront(); })) {
         // Drawing the icon takes a while; the window does not wait for it.
         machine.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
         showServices(fFoundServices, fWindow.foundServices());
-        fWindow.activityTab().setStore(machine.passes);
+        fWindow.activityTab().setParts({
+            .store = machine.passes,
+            .workspace = machine.workspace,
+            .mainQueue = machine.mainQueue,
+            .bgQueue = machine.bgQueue,
+            .destination =
+                [&machine] {
+                    return expandingTilde(
+                        machine.defaults.stringForKey(prefPath2).value_or(QString()),
+                        machine.files.homeDirectory());
+                },
+        });
+        fWindow.syncTab().recentArrivals().setStore(machine.passes);
         fWindow.settingsTab().setLoginItem(machine.loginItem);
         fWindow.setMayClose([this] { return mayClose(); });
     }
@@ -69,6 +89,7 @@ public:
             .openPanel = fOpenPanel,
             .terminal = fMachine.terminal,
             .copyText = copyText,
+            .showActivity = [this](std::optional<qint64> pass) { fWindow.showActivity(pass); },
             .fArrayController = fFoundServices,
             .ibStartButton = &fStartButton,
             .ibRevealButton1 = &fRevealButton1,
@@ -78,11 +99,16 @@ public:
         };
     }
 
+    void quit() override {
+        if (mayQuit())
+            fApplication.terminate();
+    }
+
     void sendActionsTo(ViewController& controller, AppDelegate& delegate) override {
         fController = &controller;
         fDelegate = &delegate;
         fOnceButtons = sendWindowActions(fWindow, controller, fMachine.workspace, fPathControl);
-        fWindow.syncTab().checklist().setRemedyChosen([this](Remedy remedy) { apply(remedy); });
+        fWindow.syncTab().setRemedyChosen([this](Remedy remedy) { apply(remedy); });
         fChecklist.emplace(Checklist::Parts{
             .defaults = fMachine.defaults,
             .mainQueue = fMachine.mainQueue,
@@ -91,6 +117,7 @@ public:
             .passes = fMachine.passes,
             .show =
                 [this](const std::vector<ChecklistLine>& lines) {
+                    fController->setMissing(lines);
                     fWindow.syncTab().checklist().setLines(lines);
                 },
         });
@@ -98,8 +125,9 @@ public:
                          [this] { fChecklist->look(); });
         QObject::connect(&fWindow, &MainWindow::keyStateShown, &fWindow,
                          [this](KeyState state) { fChecklist->setKeyState(state); });
-        addApplicationMenu(fWindow, controller, delegate, fMachine.workspace, fMachine.logFolder(),
-                           [this] { fApplication.terminate(); });
+        addApplicationMenu(
+            fWindow, controller, delegate, fMachine.workspace, fMachine.logFolder(),
+            [this] { return mayQuit(); }, [this] { fApplication.terminate(); });
     }
 
 private:
@@ -119,7 +147,28 @@ private:
         case Remedy::CopyInstallCommand:
             copyText(cInstallCommand.toString());
             break;
+        case Remedy::CheckAgain:
+            fController->ibSyncNow(nullptr);
+            break;
+        case Remedy::ShowDetails:
+            fWindow.showActivity(cNewestPass);
+            break;
+        case Remedy::OpenLog:
+            fMachine.workspace.openFile(fMachine.logFolder());
+            break;
+        case Remedy::None:
+            break;
         }
+    }
+
+    /// A second wish, from the tray, adds no second question.
+    bool mayQuit() {
+        if (std::exchange(fAsksAboutQuit, true))
+            return false;
+        const bool may =
+            askBeforeQuitting(fController->work(), fClosePolicy, fMachine.defaults, fAlerts);
+        fAsksAboutQuit = false;
+        return may;
     }
 
     bool mayClose() {
@@ -128,8 +177,11 @@ private:
             answer = fAlerts.runModal(*note);
         const CloseResult result = fClosePolicy.result(answer);
         if (result == CloseResult::Hide && fDelegate &&
-            fDelegate->applicationShouldTerminateAfterLastWindowClosed())
+            fDelegate->applicationShouldTerminateAfterLastWindowClosed()) {
+            if (!mayQuit())
+                return false;
             fApplication.terminate();
+        }
         return result != CloseResult::KeepOpen;
     }
 
@@ -137,6 +189,7 @@ private:
     ViewController* fController = nullptr;
     AppDelegate* fDelegate = nullptr;
     ClosePolicy fClosePolicy;
+    bool fAsksAboutQuit = false;
     std::optional<Checklist> fChecklist;
     ArrayController fFoundServices; ///< told of the table's selection until the window is gone
     MainWindow fWindow;

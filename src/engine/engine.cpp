@@ -35,6 +35,7 @@ Engine::Engine(const EngineParts& parts, const CycleView& view,
                      [this](qint64 timeout, const RunCommand& run) {
                          return hostValidation.validateRemoteHostWithWhoami(timeout, run);
                      },
-                 .view = view}) {}
+                 .view = view,
+                 .seconds = parts.clock.seconds}) {}
 
 } // namespace kelvo

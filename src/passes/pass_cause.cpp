@@ -188,7 +188,11 @@ NamedCause causeOf(const CommandRecord& command) {
         return {Interrupted, last};
     if (command.role == CommandRole::HostCheck)
         return {checkCause(*command.exitStatus, lines), last};
-    const PassCause cause = pullCause(*command.exitStatus, lines);
+    PassCause cause = Well;
+    if (command.role == CommandRole::Pull)
+        cause = pullCause(*command.exitStatus, lines);
+    else if (*command.exitStatus != 0)
+        cause = AfterFailed;
     return {cause, cause == Well ? QString() : last};
 }
 

@@ -1,10 +1,10 @@
 #include "passes/rsync_statistics.h"
 
-#include <QList>
+#include "passes/name_lines.h"
+
 #include <QString>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace kelvo {
@@ -37,61 +37,19 @@ std::optional<qint64> figureAfter(QStringView line, std::initializer_list<QStrin
     return std::nullopt;
 }
 
-/// Whether `command` asks rsync to print a name for each file.
-bool printsNames(QStringView command) {
-    for (const QStringView word : command.split(u' ', Qt::SkipEmptyParts)) {
-        if (word.startsWith(u"--verbose") || word.startsWith(u"--out-format") ||
-            word.startsWith(u"--itemize-changes") || word.startsWith(u"--progress"))
-            return true;
-        const bool shortOptions = word.size() > 1 && word[0] == u'-' && word[1].isLetter();
-        if (!shortOptions)
-            continue;
-        // What follows the letter of -e and -f is their value.
-        const auto end = std::find_if(word.begin() + 1, word.end(),
-                                      [](QChar c) { return c == u'e' || c == u'f'; });
-        if (std::any_of(word.begin() + 1, end,
-                        [](QChar c) { return c == u'v' || c == u'i' || c == u'P'; }))
-            return true;
-    }
-    return false;
-}
-
-/// Lines that rsync prints among the names, and that name no file that came.
-bool isRemark(QStringView line) {
-    static constexpr auto cBeginnings =
-        std::to_array<QStringView>({u"rsync: ",
-                                    u"rsync error:",
-                                    u"rsync warning:",
-                                    u"receiving ",
-                                    u"sent ",
-                                    u"total size ",
-                                    u"created ",
-                                    u"delta-",
-                                    u"skipping ",
-                                    u"file has vanished:",
-                                    u"IO error ",
-                                    u"ssh: ",
-                                    u"deleting ",
-                                    u"building file list",
-                                    u"sending incremental",
-                                    u"Warning: ",
-                                    u"Connection ",
-                                    u"Number of regular files transferred:",
-                                    u"Total transferred file size:",
-                                    u"cd+++",
-                                    u".d"});
-    return std::ranges::any_of(cBeginnings,
-                               [line](QStringView begin) { return line.startsWith(begin); });
-}
-
-bool isName(QStringView line) {
+bool namesFile(QStringView line, NameFormat format) {
     // A folder ends in "/"; rsync's progress lines begin with blanks.
-    return !line.isEmpty() && !line[0].isSpace() && !line.endsWith(u'/') && !isRemark(line);
+    if (line.isEmpty() || line.endsWith(u'/') || line[0].isSpace())
+        return false;
+    if (format == NameFormat::Sized)
+        return line[0].isDigit();
+    return !isRemark(line);
 }
 
 } // namespace
 
 Transfer transferOf(QStringView command, QStringView output) {
+    const NameFormat format = nameFormatOf(command);
     Transfer statistics;
     std::optional<qint64> received;
     qint64 names = 0;
@@ -114,13 +72,13 @@ Transfer transferOf(QStringView command, QStringView output) {
             const qsizetype at = line.indexOf(u"received ");
             if (at >= 0)
                 received = rsyncNumber(line.sliced(at + 9));
-        } else if (isName(line)) {
+        } else if (namesFile(line, format)) {
             ++names;
         }
     }
     if (statistics.source == TransferSource::Statistics)
         return statistics;
-    if (printsNames(command))
+    if (format != NameFormat::None)
         return {TransferSource::Lines, names, names == 0 ? 0 : received};
     return {};
 }

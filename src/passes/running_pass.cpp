@@ -1,12 +1,25 @@
 #include "passes/running_pass.h"
 
 #include "passes/captured_text.h"
-#include "passes/pass_cause.h"
+#include "passes/progress_line.h"
 #include "passes/rsync_statistics.h"
 
 #include <utility>
 
 namespace kelvo {
+namespace {
+
+CommandRole roleOf(PassStep step) {
+    if (step == PassStep::AskingTheMac)
+        return CommandRole::HostCheck;
+    return step == PassStep::AfterArrivals ? CommandRole::AfterArrivals : CommandRole::Pull;
+}
+
+bool isPull(PassStep step) {
+    return step == PassStep::Pull || step == PassStep::Movies;
+}
+
+} // namespace
 
 RunningPasses::RunningPasses(CommandRunner& commands, PassClock clock,
                              std::function<void(const PassRecord&)> ended)
@@ -15,9 +28,23 @@ RunningPasses::RunningPasses(CommandRunner& commands, PassClock clock,
 std::vector<PassUnderWay> RunningPasses::underWay() const {
     const std::lock_guard lock(fMutex);
     std::vector<PassUnderWay> all;
-    for (const RunningPass* pass : fPasses)
-        all.push_back(pass->fNow);
+    for (RunningPass* pass : fPasses)
+        all.push_back(pass->seen());
     return all;
+}
+
+void RunningPasses::cancel() {
+    std::vector<CommandId> running;
+    {
+        const std::lock_guard lock(fMutex);
+        for (RunningPass* pass : fPasses) {
+            pass->fNow.cancelled = true;
+            if (pass->fCommand)
+                running.push_back(*pass->fCommand);
+        }
+    }
+    for (const CommandId command : running)
+        fCommands.cancel(command);
 }
 
 RunningPass::RunningPass(RunningPasses& passes, PassKind kind)
@@ -38,32 +65,112 @@ RunningPass::~RunningPass() {
     fRecord.seconds = fPasses.fClock.seconds() - fBegan;
     for (const CommandRecord& command : fRecord.commands)
         fRecord.transfer = sumOf(fRecord.transfer, command.transfer);
-    NamedCause named =
-        fRefused.isEmpty() ? causeOf(fRecord) : NamedCause{PassCause::SettingsRefused, fRefused};
+    NamedCause named = fRefused ? *fRefused : causeOf(fRecord);
+    if (fNow.cancelled)
+        named = {PassCause::Cancelled, {}};
     fRecord.cause = named.cause;
     fRecord.lastLine = std::move(named.lastLine);
     fPasses.fEnded(fRecord);
 }
 
-CommandResult RunningPass::run(CommandRole role, const Command& command) {
-    const auto show = [this](std::optional<CommandRole> running, const QString& text) {
-        const std::lock_guard lock(fPasses.fMutex);
-        fNow.role = running;
-        fNow.command = text;
-    };
-    show(role, command.text);
+/// Whether the pass may go on.
+bool RunningPass::show(PassStep step, const QString& command) {
+    const std::lock_guard lock(fPasses.fMutex);
+    fNow.progress = {.step = step};
+    fNow.command = command;
+    fCommand.reset();
+    fReader.reset();
+    fWritten = {};
+    if (isPull(step))
+        fReader.emplace(command, command == fPasses.fWentWell);
+    return !fNow.cancelled;
+}
+
+CommandResult RunningPass::run(PassStep step, const Command& command) {
+    if (!show(step, command.text))
+        return {};
+    Command ours = command;
+    ours.started = [this, &command](CommandId id) { commandStarted(id, command); };
+    if (isPull(step))
+        ours.received = [this, &command](QByteArrayView bytes) { received(bytes, command); };
     const double began = fPasses.fClock.seconds();
-    CommandResult result = fPasses.fCommands.run(command);
-    show({}, {});
-    fRecord.commands.push_back({.role = role,
-                                .command = command.text,
-                                .exitStatus = result.exitStatus,
-                                .seconds = fPasses.fClock.seconds() - began,
-                                .text = capturedText(result.output, result.errors),
-                                .transfer = role == CommandRole::Pull
-                                                ? transferOf(command.text, result.output)
-                                                : Transfer()});
+    CommandResult result = fPasses.fCommands.run(ours);
+    const double seconds = fPasses.fClock.seconds() - began;
+    if (isPull(step))
+        result = pulled(std::move(result), command.text);
+    (void)show(PassStep::Begun, {});
+    fRecord.commands.push_back(
+        {.role = roleOf(step),
+         .command = command.text,
+         .exitStatus = result.exitStatus,
+         .seconds = seconds,
+         .text = capturedText(result.output, result.errors),
+         .transfer = isPull(step) ? transferOf(command.text, result.output) : Transfer()});
     return result;
+}
+
+void RunningPass::received(QByteArrayView bytes, const Command& command) {
+    {
+        const double now = fPasses.fClock.seconds();
+        const std::lock_guard lock(fPasses.fMutex);
+        fReader->read(bytes, now);
+    }
+    if (command.received)
+        command.received(bytes);
+}
+
+CommandResult RunningPass::pulled(CommandResult result, const QString& command) {
+    {
+        const std::lock_guard lock(fPasses.fMutex);
+        std::vector<QByteArray> names = fReader->takeNames();
+        fNames.insert(fNames.end(), std::make_move_iterator(names.begin()),
+                      std::make_move_iterator(names.end()));
+        if (result.exitStatus == 0 && fReader->tellsProgress())
+            fPasses.fWentWell = command;
+    }
+    result.output = withoutProgress(std::move(result.output));
+    return result;
+}
+
+/// Under the lock.
+PassUnderWay RunningPass::seen() {
+    PassUnderWay now = fNow;
+    if (!fReader)
+        return now;
+    const double seconds = fPasses.fClock.seconds();
+    const PassStep step = now.progress.step;
+    now.progress = fReader->progress(seconds);
+    now.progress.step = step;
+    if (fReader->tellsProgress())
+        return now;
+    if (fCommand && fWritten.isDue(seconds))
+        fWritten.saw(fPasses.fCommands.fileBeingWritten(*fCommand), seconds);
+    fWritten.addTo(now.progress, seconds);
+    return now;
+}
+
+/// A wish that came while the command was being started counts too.
+void RunningPass::commandStarted(CommandId id, const Command& command) {
+    bool cancelled = false;
+    {
+        const std::lock_guard lock(fPasses.fMutex);
+        fCommand = id;
+        cancelled = fNow.cancelled;
+    }
+    if (cancelled)
+        fPasses.fCommands.cancel(id);
+    if (command.started)
+        command.started(id);
+}
+
+bool RunningPass::isCancelled() const {
+    const std::lock_guard lock(fPasses.fMutex);
+    return fNow.cancelled;
+}
+
+void RunningPass::brought(std::vector<Arrival> arrivals) {
+    fRecord.arrivals.insert(fRecord.arrivals.end(), std::make_move_iterator(arrivals.begin()),
+                            std::make_move_iterator(arrivals.end()));
 }
 
 } // namespace kelvo

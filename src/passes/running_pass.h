@@ -1,7 +1,11 @@
 // RunningPass: one pass from its begin to its record.
 #pragma once
 
+#include "passes/pass_cause.h"
+#include "passes/rsync_output_reader.h"
+#include "passes/written_files.h"
 #include "ports/command_runner.h"
+#include "support/pass_progress.h"
 #include "support/pass_record.h"
 
 #include <functional>
@@ -21,9 +25,10 @@ struct PassClock {
 /// What can be seen of a pass while it runs.
 struct PassUnderWay {
     PassKind kind = PassKind::Plain;
-    QDateTime began;                 ///< UTC
-    std::optional<CommandRole> role; ///< of the command that runs at the moment, if one does
-    QString command;
+    QDateTime began; ///< UTC
+    QString command; ///< the one that runs at the moment, if one does
+    PassProgress progress;
+    bool cancelled = false;
 };
 
 /// The passes that run now. Any thread; several passes may run at the same time.
@@ -34,8 +39,13 @@ public:
     RunningPasses(CommandRunner& commands, PassClock clock,
                   std::function<void(const PassRecord&)> ended);
 
-    /// Oldest first.
+    /// Oldest first. Only who asks makes somebody look what a command that says nothing is writing,
+    /// and never more than five times a second.
     std::vector<PassUnderWay> underWay() const;
+
+    /// Ends the passes that run, at a person's wish: their commands are ended, they run no others,
+    /// and their cause is Cancelled. Returns at once.
+    void cancel();
 
 private:
     friend RunningPass;
@@ -44,7 +54,8 @@ private:
     const PassClock fClock;
     const std::function<void(const PassRecord&)> fEnded;
     mutable std::mutex fMutex;
-    std::vector<const RunningPass*> fPasses;
+    std::vector<RunningPass*> fPasses;
+    QString fWentWell; ///< the last pull that did
 };
 
 /// Begins when it is made and ends when it goes. Commands may run on any thread, one at a time.
@@ -58,12 +69,29 @@ public:
     RunningPass(const RunningPass&) = delete;
     RunningPass& operator=(const RunningPass&) = delete;
 
-    /// Runs `command` as CommandRunner does and writes it down.
-    CommandResult run(CommandRole role, const Command& command);
+    /// Runs `command` as CommandRunner does and writes it down; of a pull's output without the
+    /// lines that show progress. A cancelled pass runs nothing and answers as a command does that
+    /// was given up.
+    CommandResult run(PassStep step, const Command& command);
 
-    /// The pass ends before its commands: `why` tells which text of the settings cannot stand in
-    /// one.
-    void refused(const QString& why) { fRefused = why; }
+    /// Any thread.
+    bool isCancelled() const;
+
+    /// The files that pulls have named so far, at most 50,000 of each: the bytes of their names,
+    /// relative to the source. They may not have come whole.
+    const std::vector<QByteArray>& names() const { return fNames; }
+
+    /// What the pass has brought so far; kept in its record.
+    void brought(std::vector<Arrival> arrivals);
+
+    /// UTC.
+    const QDateTime& began() const { return fRecord.began; }
+
+    /// The pass ends before its pulls: `why` tells which text of the settings cannot stand in one,
+    /// or what else keeps them from being run.
+    void refused(const QString& why, PassCause cause = PassCause::SettingsRefused) {
+        fRefused = {cause, why};
+    }
 
     /// Remote passes only: what the host check came to.
     void judged(const HostVerdict& verdict) { fRecord.verdict = verdict; }
@@ -71,11 +99,21 @@ public:
 private:
     friend RunningPasses;
 
+    bool show(PassStep step, const QString& command);
+    void commandStarted(CommandId id, const Command& command);
+    void received(QByteArrayView bytes, const Command& command);
+    CommandResult pulled(CommandResult result, const QString& command);
+    PassUnderWay seen();
+
     RunningPasses& fPasses;
     PassRecord fRecord;
-    QString fRefused; ///< empty unless it was
+    std::vector<QByteArray> fNames;
+    std::optional<NamedCause> fRefused;
     const double fBegan;
-    PassUnderWay fNow; ///< guarded by the mutex of all passes
+    PassUnderWay fNow;                 ///< guarded by the mutex of all passes
+    std::optional<CommandId> fCommand; ///< the one that runs; guarded likewise, as what follows
+    std::optional<RsyncOutputReader> fReader; ///< of a pull that runs
+    WrittenFiles fWritten;
 };
 
 } // namespace kelvo

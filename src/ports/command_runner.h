@@ -1,16 +1,21 @@
 // CommandRunner: runs one shell command line and tells everything about its end.
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
 #include <functional>
+#include <map>
 #include <optional>
 
 namespace kelvo {
 
 /// Seconds that a bounded command is given beyond the time-out that it names itself.
 inline constexpr double cCommandGrace = 30;
+
+/// Names a command while it runs.
+using CommandId = qint64;
 
 struct Command {
     QString text; ///< one complete command line, passed to the shell as it stands
@@ -25,6 +30,21 @@ struct Command {
     /// Gets the standard output piece by piece as it arrives, on the thread that called `run`;
     /// characters may be split between two pieces. While it runs nothing more is read.
     std::function<void(QByteArrayView)> received = {};
+
+    /// Told once that the command has been started, on the thread that called `run`, before
+    /// anything is received. A command that cannot be started tells nothing.
+    std::function<void(CommandId)> started = {};
+
+    QByteArray input = {};                           ///< its standard input; without it, empty
+    std::map<QByteArray, QByteArray> variables = {}; ///< its environment, beside what it inherits
+};
+
+/// A file that a command is writing.
+struct FileBeingWritten {
+    QByteArray path; ///< from the folder that the writer stands in, if it lies in there
+    qint64 size = 0; ///< in bytes, so far
+
+    bool operator==(const FileBeingWritten&) const = default;
 };
 
 struct CommandResult {
@@ -36,7 +56,7 @@ struct CommandResult {
     /// As a shell reports it: 124 for a command whose time was up, 126 for one that could not be
     /// started, 128 + n for an end by signal n; the shell's own when it had ended in time and only
     /// its output was still held open. Nothing when the command was given up because the program
-    /// is quitting.
+    /// is quitting, or because it was cancelled.
     std::optional<int> exitStatus;
 };
 
@@ -45,9 +65,19 @@ public:
     virtual ~CommandRunner() = default;
 
     /// Blocks until the command has ended and its standard output is closed. Any thread, several at
-    /// once; peak memory stays under three times the bytes of output. The command has no terminal
-    /// and an empty standard input: nothing can wait for a prompt.
+    /// once; peak memory stays under three times the bytes of output. The command has no terminal:
+    /// nothing can wait for a prompt.
     virtual CommandResult run(const Command& command) = 0;
+
+    /// Ends a running command as the quit of the program does: everything in its session is asked
+    /// to end, 2 s later forced, and its caller gets what was captured so far. Any thread; returns
+    /// at once. A command that has ended is nobody's business.
+    virtual void cancel(CommandId command) = 0;
+
+    /// A file that something a running command has started has open for writing: by its own name
+    /// while rsync keeps it under another. Nothing when there is none, and where that cannot be
+    /// told. Any thread; costs a look at each of the command's processes.
+    virtual std::optional<FileBeingWritten> fileBeingWritten(CommandId) const { return {}; }
 };
 
 /// Runs a command on somebody's behalf.

@@ -3,15 +3,26 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace kelvo {
+
+struct Notice {
+    QString title; ///< plain
+    QString text;  ///< plain
+    bool urgent = false;
+    /// Called when the person chooses "Show", on the main thread; at most once. Empty: no such
+    /// choice.
+    std::function<void()> show = {};
+};
 
 class DesktopNotices {
 public:
     virtual ~DesktopNotices() = default;
 
-    /// Shows `title` and `text`, both plain, for as long as the desktop likes. Main thread; returns
-    /// at once. A desktop that cannot show it is nobody's business.
-    virtual void showNotice(const QString& title, const QString& text) = 0;
+    /// Shows `notice` for as long as the desktop likes. Main thread; returns at once. A desktop
+    /// that cannot show it is nobody's business; one without choices shows it without.
+    virtual void showNotice(const Notice& notice) = 0;
 };
 
 } // namespace kelvo

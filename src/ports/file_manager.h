@@ -2,9 +2,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
+#include <QDateTime>
 #include <QString>
 
+#include <functional>
 #include <optional>
+#include <vector>
 
 namespace kelvo {
 
@@ -14,6 +18,14 @@ using FileFault = std::optional<QString>;
 struct FolderOrFault {
     QString path;  ///< absolute, without a closing "/"; empty when there is none
     QString fault; ///< why there is none, in words
+};
+
+/// A regular file, not a link to one.
+struct FoundFile {
+    QByteArray
+        path; ///< the folder's path, "/" and the way from there, as the file system spells it
+    qint64 size = 0;   ///< in bytes
+    QDateTime changed; ///< UTC; the last change of its content, name or attributes
 };
 
 /// Every operation blocks as long as the file system does; any thread, several at once. A path that
@@ -30,6 +42,20 @@ public:
 
     /// Whether `path` is a folder that this user may put files into, links followed.
     virtual bool isWritableFolder(const QString& path) const = 0;
+
+    /// The file that `name` leads to from `folder`. None behind a link, and none outside: a name
+    /// that begins with "/" or climbs with ".." finds nothing.
+    virtual std::optional<FoundFile> fileBeneath(const QByteArray& folder,
+                                                 const QByteArray& name) const = 0;
+
+    /// The files beneath `folder` that have changed since `moment`, in no order; what was only
+    /// written to, in a folder where nothing else has changed, may be missing. Names that
+    /// `passedOver` says yes to are left out, folders with all they hold; links are not followed,
+    /// but for `folder` itself. Costs a reading of every folder and a look at each file of the
+    /// changed ones; ends after 1,000,000 entries with what was found, and goes 100 folders deep.
+    virtual std::vector<FoundFile>
+    filesChangedSince(const QByteArray& folder, const QDateTime& moment,
+                      const std::function<bool(QByteArrayView name)>& passedOver) const = 0;
 
     /// The user's home folder without a closing "/"; empty when it is not known.
     virtual QString homeDirectory() const = 0;

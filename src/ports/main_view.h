@@ -3,6 +3,7 @@
 
 #include "support/key_state.h"
 #include "support/subscription.h"
+#include "support/work_state.h"
 
 #include <QString>
 
@@ -11,6 +12,13 @@
 namespace kelvo {
 
 class Control;
+
+/// Who follows the work in a view.
+enum class Attention {
+    Unseen, ///< nobody: the window is hidden or minimised
+    Lines,  ///< a reader of lines: what has changed, never the time that passes
+    Seen,   ///< a person who may look at it
+};
 
 /// Main thread only.
 class MainView {
@@ -31,6 +39,14 @@ public:
 
     /// Shows what is known of the program's key.
     virtual void showKeyState(KeyState state) = 0;
+
+    /// Shows what the program is doing and how it is. Called at most 10 times a second, and only
+    /// when something has changed.
+    virtual void showWork(const WorkState& work) = 0;
+
+    /// Calls `changed` now and at each change from now on, on the main thread. Once the
+    /// subscription is gone no new call begins.
+    virtual Subscription observeAttention(std::function<void(Attention)> changed) = 0;
 
     /// Plays the alert sound.
     virtual void beep() = 0;

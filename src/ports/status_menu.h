@@ -1,6 +1,8 @@
 // StatusMenu: the program's one icon in the desktop's tray, with its menu.
 #pragma once
 
+#include "support/work_state.h"
+
 #include <QString>
 
 #include <functional>
@@ -18,8 +20,15 @@ enum class StatusMenuState {
 struct StatusMenuActions {
     std::function<void()> showWindow = {}; ///< also what a click on the icon does
     std::function<void()> startOrStop = {};
+    std::function<void()> syncNow = {};
+    std::function<void()> cancelPass = {};
+    std::function<void()> showActivity = {};
+    std::function<void()> revealFolder = {}; ///< the destination
     std::function<void()> quitAndRelaunch = {};
     std::function<void()> quit = {};
+    /// The menu is about to be seen (true; what it shows is brought up to date before this returns)
+    /// or is gone again.
+    std::function<void(bool)> menuShown = {};
 };
 
 /// Main thread only. Hidden at first.
@@ -34,6 +43,11 @@ public:
     /// Shows the icon of `state`, or changes the icon that is shown. On a desktop without a tray
     /// nothing is seen; the icon appears by itself once there is one.
     virtual void show(StatusMenuState state) = 0;
+
+    /// What tooltip and the first lines of the menu say, and whether a pass can be asked for or
+    /// cancelled (neither before the first call); kept while hidden. Changes that follow close upon
+    /// each other are shown at most twice a second, the last one always.
+    virtual void showWork(const WorkState& work) = 0;
 
     /// The title of the entry that starts and stops, kept while hidden; "&" stands for itself.
     virtual void setStartTitle(const QString& title) = 0;

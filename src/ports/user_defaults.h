@@ -19,6 +19,12 @@ struct DefaultsChange {
 };
 using DefaultsObserver = std::function<void(const DefaultsChange&)>;
 
+/// What a person should know of the stored settings; both are empty while all is well.
+struct SettingsStanding {
+    QString fault; ///< why they are not known or not saved, as a sentence without its full stop
+    QString aside; ///< a damaged file was kept under this name, in this run of the program
+};
+
 /// Values are bool, qlonglong, double, QString, QByteArray, QDateTime (UTC, whole seconds),
 /// QVariantList or QVariantMap of these; their types are kept. Others are brought into such a form
 /// by storedValue (support/stored_value.h). Every operation may be called on any thread.
@@ -54,6 +60,9 @@ public:
     /// defaults are read, and they are guesses. Becomes true once, on the main thread, after
     /// observers were told what the user has stored. Never waits.
     virtual bool areKnown() const = 0;
+
+    /// Never waits. A store without a disk has nothing to say.
+    virtual SettingsStanding standing() const { return {}; }
 
     /// Typed reading; a missing or unfit value gives the neutral one.
     bool boolForKey(QStringView key) const;

@@ -5,7 +5,6 @@
 #include "ports/dispatch_queue.h"
 #include "ports/file_manager.h"
 #include "ports/user_defaults.h"
-#include "remote/share_commands.h"
 #include "settings/preference_keys.h"
 #include "settings/remote_account.h"
 #include "support/key_file.h"
@@ -19,7 +18,6 @@ namespace kelvo {
 namespace {
 
 constexpr QStringView cTypeName = u"ViewController";
-constexpr double cVolumeListDelay = 0.5;
 /// Seconds; the time-out that the command names itself comes first.
 constexpr double cPatience = 5 + cCommandGrace;
 const QString cGoodResponse = QStringLiteral("%@sshgoodresponsestring");
@@ -73,8 +71,6 @@ QString connectionFault(const QString& output) {
 }
 
 ConnectionCheck::ConnectionCheck(ConnectionCheckParts parts) : fParts(std::move(parts)) {}
-
-// -- ssh
 
 void ConnectionCheck::ibTestShellCommand() {
     fParts.console.log(insideLine(cTypeName, u"ibTestShellCommand(_:)"));
@@ -147,31 +143,6 @@ QString ConnectionCheck::faultOfAccount() const {
 
 std::optional<QString> ConnectionCheck::filledIn(const QString& text) const {
     return fillInSshParams(text, fParts.defaults, fParts.files.homeDirectory(), fParts.console);
-}
-
-// -- the share
-
-void ConnectionCheck::ibTestShellCommand111() {
-    constexpr QStringView operation = u"ibTestShellCommand111(_:)";
-    fParts.console.log(insideLine(cTypeName, operation));
-    const auto target = shareTarget(fParts.defaults);
-    if (!target)
-        return;
-    const QString command = fParts.commands.openShare(*target);
-    const QString output = outputWithin(fParts.shell, cSharePatience, command);
-    fParts.console.log(insideLine(
-        cTypeName, operation, QString(u".......response[" + command + u"]= [" + output + u"]")));
-    if (!output.isEmpty()) {
-        fParts.console.log(insideLine(cTypeName, operation, u".......OH OH????"));
-        return;
-    }
-    fParts.mainQueue.asyncAfter(cVolumeListDelay, [this, operation, target] {
-        const QString listing = fParts.commands.listVolumes(*target);
-        fParts.console.log(
-            insideLine(cTypeName, operation,
-                       QString(u".......response[" + listing + u"]= " +
-                               outputWithin(fParts.shell, cSharePatience, listing))));
-    });
 }
 
 } // namespace kelvo

@@ -14,7 +14,6 @@ class BackgroundQueue;
 class Console;
 class DispatchQueue;
 class FileManager;
-class ShareCommands;
 class CommandRunner;
 class UserDefaults;
 
@@ -37,7 +36,6 @@ struct ConnectionCheckParts {
     DispatchQueue& mainQueue;
     BackgroundQueue& bgQueue;
     CommandRunner& shell;
-    const ShareCommands& commands;
     /// Shows an alert with a title, a text and one button a little later; returns at once.
     std::function<void(const QString&, const QString&, std::function<void(ModalResponse)>)>
         showAlert;
@@ -57,9 +55,6 @@ public:
     /// The test: ssh runs in the background, the outcome is an alert. Tests run side by side; each
     /// has its own alert. A user or host that cannot stand in a command has that alert at once.
     void ibTestShellCommand222();
-
-    /// Opens the share and writes down what is mounted 0.5 s later. Blocks while commands run.
-    void ibTestShellCommand111();
 
 private:
     void finish(const std::optional<QString>& output);

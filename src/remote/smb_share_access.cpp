@@ -18,6 +18,7 @@ constexpr double cMountDelay = 0.5;
 constexpr double cOpenDelay = 0.1;
 constexpr QStringView cReveal = u"ibRevealSourcePathSMB(_:)";
 constexpr QStringView cDebug = u"ibRevealSourcePathSMBdebug(_:)";
+constexpr QStringView cTest = u"ibTestShellCommand111(_:)";
 constexpr QStringView cDebugOLD = u"ibRevealSourcePathSMBdebugOLD(_:)";
 
 } // namespace
@@ -70,16 +71,52 @@ void SmbShareAccess::ibRevealSourcePathSMBdebugOLD() {
               [this, target] { findFolder(cDebugOLD, *target, Search::Older); });
 }
 
+void SmbShareAccess::ibTestShellCommand111() {
+    logInside(cTest);
+    const auto target = shareTarget(fParts.defaults);
+    if (!target)
+        return;
+    const QString command = fParts.commands.openShare(*target);
+    const QString output = outputWithin(fParts.shell, cSharePatience, command);
+    logInside(cTest, QString(u".......response[" + command + u"]= [" + output + u"]"));
+    const auto opened = [this, target] {
+        fParts.mainQueue.asyncAfter(cMountDelay, [this, target] { listVolumes(*target); });
+    };
+    if (output.isEmpty()) {
+        opened();
+        return;
+    }
+    logInside(cTest, u".......OH OH????");
+    openByHand(output, *target, opened);
+}
+
+/// Where opening the share only mounts it, the file browser is shown it here.
+void SmbShareAccess::listVolumes(const ShareTarget& target) {
+    const QString list = fParts.commands.listVolumes(target);
+    const QString listing = outputWithin(fParts.shell, cSharePatience, list);
+    logInside(cTest, QString(u".......response[" + list + u"]= " + listing));
+    if (!fParts.commands.folderIsSoughtAfterwards())
+        return;
+    const QString pick = fParts.commands.pickVolume(trimmedText(listing), target);
+    if (const QString volume = volumePath(outputWithin(fParts.shell, cSharePatience, pick));
+        !volume.isEmpty())
+        openFolder(cTest, volume);
+}
+
 // -- steps
 
 void SmbShareAccess::openShare(QStringView operation, const QString& command,
                                const ShareTarget& target, const std::function<void()>& opened) {
     const QString output = outputWithin(fParts.shell, cSharePatience, command);
     logInside(operation, QString(u".......response = " + output));
-    if (output.isEmpty()) {
+    if (output.isEmpty())
         opened();
-        return;
-    }
+    else
+        openByHand(output, target, opened);
+}
+
+void SmbShareAccess::openByHand(const QString& output, const ShareTarget& target,
+                                const std::function<void()>& opened) {
     const auto byHand = fParts.commands.mountInTerminal(output, target);
     if (!byHand)
         return;

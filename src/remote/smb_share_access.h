@@ -51,6 +51,9 @@ public:
     /// The same without waiting for the mount, and without choosing among several.
     void ibRevealSourcePathSMBdebugOLD();
 
+    /// Opens the share itself and writes down what is mounted 0.5 s later.
+    void ibTestShellCommand111();
+
 private:
     enum class Search { Newer, Older };
 
@@ -58,6 +61,11 @@ private:
     /// asked, goes on with `opened`.
     void openShare(QStringView operation, const QString& command, const ShareTarget& target,
                    const std::function<void()>& opened);
+    /// Asks a person in a terminal, where `output` of opening the share says that the server wants
+    /// an answer; goes on with `opened` once it has been given.
+    void openByHand(const QString& output, const ShareTarget& target,
+                    const std::function<void()>& opened);
+    void listVolumes(const ShareTarget& target);
     void findFolder(QStringView operation, const ShareTarget& target, Search search);
     void openFolder(QStringView operation, const QString& path);
     void logInside(QStringView operation, QStringView detail = u".......") const;

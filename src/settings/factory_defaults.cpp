@@ -8,8 +8,8 @@
 namespace kelvo {
 
 void registerFactoryDefaults(const Bundle& bundle, UserDefaults& defaults, Console& console) {
-    defaults.registerDefaults(
-        {{prefShowNotices.toString(), factoryValue(*preference(prefShowNotices))}});
+    for (const QStringView key : {prefShowNotices, prefShowArrivals, prefQuitWithoutAsking})
+        defaults.registerDefaults({{key.toString(), factoryValue(*preference(key))}});
     const auto factory = bundle.propertyList(QStringLiteral("FactoryDefaults"));
     if (!factory) {
         console.print(

@@ -30,6 +30,7 @@ public:
     void synchronize() override {}
     Subscription observe(QStringView key, DefaultsObserver observer) override;
     bool areKnown() const override { return fBeneath.areKnown(); }
+    SettingsStanding standing() const override { return fBeneath.standing(); }
 
 private:
     void changedBeneath(const QString& key) const;

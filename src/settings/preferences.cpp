@@ -15,14 +15,15 @@ constexpr std::monostate cNone;
 /// Movies only; half a file waits where neither a player nor the next pass looks for one.
 constexpr QStringView cFactoryTemplate =
     u"/usr/bin/rsync 2>&1 %@98 %@99 -r --times --prune-empty-dirs --partial-dir=.kelvo-partial "
-    u"--stats --out-format=%n -f '- .kelvo-partial/' -f '+ */' -f '+ *.[mM][oO][vV]' "
+    u"--stats --info=progress2 --out-format='%l %n' -f '- .kelvo-partial/' -f '+ */' -f '+ "
+    u"*.[mM][oO][vV]' "
     u"-f '+ *.[mM][pP]4' -f '+ *.[mM]4[vV]' -f '+ *.[mM][kK][vV]' -f '+ *.[aA][vV][iI]' "
     u"-f '+ *.[mM][pP][gG]' -f '+ *.[mM][pP][eE][gG]' -f '+ *.[wW][eE][bB][mM]' "
     u"-f '+ *.[mM][tT][sS]' -f '- *' \"%@1\" \"%@2\"";
 
 constexpr auto cTable = std::to_array<Preference>({
     {prefEnableScanning, State, Bool, cNone, u"Sync", u"Syncing is switched on."},
-    {prefIsScanning, State, Bool, cNone, u"Sync", u"A pass is in progress."},
+    {prefIsScanning, State, Bool, cNone, {}, u"A pass is in progress."},
     {prefDelayBetweenScans, Setting, Double, 30.0, u"Settings",
      u"The rest between two passes, in seconds; 0 or less counts as 3."},
     {prefRsyncCommandString1, Setting, String, cFactoryTemplate, u"Settings",
@@ -67,6 +68,14 @@ constexpr auto cTable = std::to_array<Preference>({
      u"The window is hidden when the program starts."},
     {prefShowNotices, Setting, Bool, true, u"Settings",
      u"A notice on the desktop tells when passes turn bad and when they are well again."},
+    {prefShowArrivals, Setting, Bool, true, u"Settings",
+     u"A notice on the desktop tells which movies have arrived."},
+    {prefCommandAfterArrivals, Setting, String, cNone, u"Settings",
+     u"A command that is run after a pass that brought files. It reads their paths from its "
+     u"standard "
+     u"input, each ended by a zero byte."},
+    {prefQuitWithoutAsking, Setting, Bool, false, u"Settings",
+     u"Quitting during a pass ends it without asking."},
     {prefMainWindowSize, State, String, cNone, {}, u"The window's last size."},
     {prefMainWindowTab, State, String, cNone, {}, u"The window's last tab."},
     {prefRecentLaunchDates,

@@ -13,14 +13,19 @@ inline constexpr ModalResponse cAlertFirstButtonReturn = 1000;
 inline constexpr ModalResponse cAlertSecondButtonReturn = 1001;
 inline constexpr ModalResponse cModalResponseStop = -1000;
 
+/// How long an alert that answers itself waits for a person, in seconds.
+inline constexpr int cSelfAnswerSeconds = 6;
+
 enum class AlertStyle { Informational = 1, Critical = 2 };
 
 struct Alert {
     QString messageText;
     QString informativeText;
     AlertStyle style = AlertStyle::Critical;
-    QStringList buttons;        ///< in order; empty: the one default button
-    bool answersItself = false; ///< its maker ends it after a while, answered or not
+    QStringList buttons; ///< in order; empty: the one default button
+    /// Its maker ends it after cSelfAnswerSeconds, answered or not, and goes on as if the first
+    /// button had been chosen.
+    bool answersItself = false;
 
     bool operator==(const Alert&) const = default;
 };

@@ -3,6 +3,7 @@
 
 #include "support/host_verdict.h"
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 
@@ -40,9 +41,11 @@ enum class PassCause {
     LoginTalks = 22,  ///< the host prints text at login, which hides its answer
     Unknown = 23,
     SettingsRefused = 24, ///< a text in the settings cannot stand in a command
+    Cancelled = 25,       ///< a person ended the pass; not trouble
+    AfterFailed = 26,     ///< all went well, but the command that is run after arrivals failed
 };
 
-inline constexpr PassCause cLastPassCause = PassCause::SettingsRefused;
+inline constexpr PassCause cLastPassCause = PassCause::AfterFailed;
 
 /// A long text's beginning and end.
 struct CapturedText {
@@ -64,7 +67,16 @@ struct Transfer {
     std::optional<qint64> bytes;
 };
 
-enum class CommandRole { HostCheck = 0, Pull = 1 };
+/// A file that a pass has brought.
+struct Arrival {
+    QByteArray path;   ///< the whole path here, as the file system spells it
+    qint64 size = 0;   ///< in bytes
+    QDateTime arrived; ///< UTC
+
+    bool operator==(const Arrival&) const = default;
+};
+
+enum class CommandRole { HostCheck = 0, Pull = 1, AfterArrivals = 2 };
 
 struct CommandRecord {
     CommandRole role = CommandRole::Pull;
@@ -89,7 +101,20 @@ struct PassRecord {
     /// The sum of what the commands said; `source` is Unknown when none of them did.
     Transfer transfer;
     std::vector<CommandRecord> commands;
+    std::vector<Arrival> arrivals; ///< in the order in which they came
 };
+
+/// Whether the pass tells nothing of how things stand: it was ended from outside, or the next one
+/// brings what this one could not.
+inline bool saysNothing(PassCause cause) {
+    return cause == PassCause::Interrupted || cause == PassCause::Cancelled ||
+           cause == PassCause::FilesVanished;
+}
+
+/// Whether something needs a person.
+inline bool isTrouble(PassCause cause) {
+    return cause != PassCause::Well && !saysNothing(cause);
+}
 
 /// Whether the pass ended at the check of its host, before any transfer.
 inline bool endedAtTheCheck(const PassRecord& pass) {

@@ -4,44 +4,45 @@
 #include "ports/console.h"
 #include "ports/control.h"
 #include "ports/dispatch_queue.h"
-#include "ports/file_manager.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
-#include "settings/remote_account.h"
 #include "support/fatal.h"
-#include "support/key_file.h"
 #include "support/text.h"
 #include "sync/rsync_command.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kelvo {
 namespace {
 
 constexpr qint64 cMaxBadWhoamiCount = 10;
-constexpr qint64 cValidationTimeout = 3; // seconds
 constexpr double cPauseAfterPass = 1.0;
-constexpr QStringView cRemoteOperation = u"doSyncOnceBonjour()";
 
-QString alertTextFor(const HostVerdict& verdict) {
-    if (verdict == HostVerdict::CheckSshKeys)
-        return QStringLiteral(
-            "Missing ssh keys -\nPlease generate ssh keys\n and \n try again...\n");
-    return u"Please make sure remote host is on this network\nor\nPlease check username...\n\n" +
-           verdict.text() + u'\n';
-}
-
-qint64 addOne(std::atomic<qint64>& count) {
-    qint64 sum = 0;
-    qint64 old = count;
-    do {
-        if (__builtin_add_overflow(old, qint64{1}, &sum))
-            stopProgram();
-    } while (!count.compare_exchange_weak(old, sum));
-    return sum;
+double restSeconds(const UserDefaults& defaults) {
+    const double delay = defaults.doubleForKey(prefDelayBetweenScans);
+    return delay > 0.0 ? delay : cFallbackDelayBetweenScans;
 }
 
 } // namespace
+
+SyncCycle::SyncCycle(const SyncCycleParts& parts)
+    : fParts(parts), fBody({.defaults = parts.defaults,
+                            .files = parts.files,
+                            .console = parts.console,
+                            .rsyncCommand = parts.rsyncCommand,
+                            .validateRemoteHost = parts.validateRemoteHost,
+                            .pullsBegin =
+                                [this] {
+                                    fParts.mainQueue.async([this] {
+                                        fParts.defaults.setObject(prefIsScanning, true);
+                                    });
+                                }}),
+      fMissing(parts.defaults, parts.mainQueue, [this] { beginOnceNothingIsMissing(); }),
+      fProblem({.mainQueue = parts.mainQueue,
+                .console = parts.console,
+                .view = fParts.view,
+                .answered = [this] { fBadWhoamiCount = 0; }}) {}
 
 // -- actions
 
@@ -52,12 +53,10 @@ void SyncCycle::ibStartRSyncProcess(Control* sender) {
 
 void SyncCycle::startPassOfTheKindSet() {
     // The kind is a setting too.
-    if (!fParts.defaults.areKnown() && fParts.defaults.boolForKey(prefEnableScanning))
+    if (!fParts.defaults.areKnown() && isOn())
         waitForSettings(&SyncCycle::startPassOfTheKindSet);
-    else if (fParts.defaults.boolForKey(prefRsyncWithSSH))
-        doSyncOnceBonjour();
     else
-        doSyncOnce();
+        start(fParts.defaults.boolForKey(prefRsyncWithSSH) ? PassKind::Remote : PassKind::Plain);
 }
 
 void SyncCycle::ibRSyncOnce(Control* sender) {
@@ -78,30 +77,73 @@ bool SyncCycle::storeStateOf(Control* sender, QStringView operation) {
     const int state = button->state();
     fParts.console.log(u"button.state = " + QString::number(state));
     fParts.defaults.setObject(prefEnableScanning, qint64{state});
+    fProblem.switched();
+    changed();
     return state == 1;
+}
+
+void SyncCycle::syncNow() {
+    if (!state().nextPass)
+        return;
+    // A pass that has just ended may still be marked as running.
+    fParts.defaults.setObject(prefIsScanning, false);
+    start(fPlan->kind);
+}
+
+void SyncCycle::cancelPass() {
+    if (!fPassRuns)
+        return;
+    fCancelled = true;
+    fParts.passes.cancel();
+    changed();
+}
+
+void SyncCycle::clickStartButton() {
+    if (!fParts.view.ibStartButton)
+        stopProgram("the start button is not there");
+    fParts.view.ibStartButton->performClick();
+}
+
+CycleState SyncCycle::state() const {
+    CycleState state;
+    state.passRuns = fPassRuns;
+    if (fPlan && isOn())
+        state.nextPass = std::max(0.0, fPlan->at - fParts.seconds());
+    state.waits = isOn() && !fPassRuns && (fWaitsForSettings || fMissing.watches());
+    return state;
+}
+
+void SyncCycle::changed() const {
+    if (fParts.view.stateChanged)
+        fParts.view.stateChanged();
 }
 
 // -- starting a pass
 
+void SyncCycle::start(PassKind kind) {
+    if (kind == PassKind::Remote)
+        doSyncOnceBonjour();
+    else
+        doSyncOnce();
+}
+
 void SyncCycle::doSyncOnce() {
-    constexpr QStringView operation = u"doSyncOnce()";
-    logInside(operation, u"");
-    const Permission permission = permissionToStart(operation);
+    logInside(cPlainOperation, u"");
+    const Permission permission = permissionToStart(cPlainOperation);
     if (permission == Permission::Granted)
-        runInBackground(PassKind::Plain, &SyncCycle::runPlainPass);
+        begin(PassKind::Plain);
     else if (permission == Permission::SettingsUnknown)
         waitForSettings(&SyncCycle::doSyncOnce);
 }
 
 void SyncCycle::doSyncOnceBonjour() {
-    constexpr QStringView operation = cRemoteOperation;
-    logInside(operation, u".......");
+    logInside(cRemoteOperation, u".......");
     const QString option = fParts.rsyncCommand.getRsyncCommandOptionString();
     showStatus(option.isEmpty() ? QStringLiteral("Trying to rsync From Destination to Source...")
                                 : QString(u"Trying to rsync with option = " + option + u"..."));
-    switch (permissionToStart(operation)) {
+    switch (permissionToStart(cRemoteOperation)) {
     case Permission::Granted:
-        runInBackground(PassKind::Remote, &SyncCycle::runRemotePass);
+        begin(PassKind::Remote);
         break;
     case Permission::SwitchedOff:
         showStatus(std::nullopt);
@@ -114,12 +156,16 @@ void SyncCycle::doSyncOnceBonjour() {
     }
 }
 
+bool SyncCycle::isOn() const {
+    return fParts.defaults.boolForKey(prefEnableScanning);
+}
+
 SyncCycle::Permission SyncCycle::permissionToStart(QStringView operation) const {
-    if (!fParts.defaults.boolForKey(prefEnableScanning)) {
+    if (!isOn()) {
         logInside(operation, u".......prefEnableScanning = FALSE... cannot start");
         return Permission::SwitchedOff;
     }
-    if (fParts.defaults.boolForKey(prefIsScanning)) {
+    if (fPassRuns || fParts.defaults.boolForKey(prefIsScanning)) {
         logInside(operation, u".......ALREADY in Middle of a Scan...");
         return Permission::Busy;
     }
@@ -129,196 +175,113 @@ SyncCycle::Permission SyncCycle::permissionToStart(QStringView operation) const 
     return Permission::Granted;
 }
 
-void SyncCycle::runInBackground(PassKind kind, Body body) {
-    fParts.bgQueue.async([this, kind, body] {
-        RunningPass pass(fParts.passes, kind);
-        (this->*body)(pass);
+void SyncCycle::begin(PassKind kind) {
+    fPlan.reset();
+    ++fPlanNumber;
+    fMissing.end();
+    fWaitsForSettings = false;
+    fPassRuns = true;
+    fCancelled = false;
+    fParts.bgQueue.async([this, kind] {
+        PassEnd end;
+        {
+            RunningPass pass(fParts.passes, kind);
+            // The wish may have come before there was a pass to be told.
+            if (fCancelled)
+                fParts.passes.cancel();
+            end = fBody.run(pass, kind);
+        }
+        fParts.mainQueue.async([this, kind, end] { ended(kind, end); });
     });
+    changed();
 }
 
-/// Without a fault nothing is refused.
-bool SyncCycle::refuses(RunningPass& pass, QStringView operation, const QString& fault) const {
-    if (fault.isEmpty())
-        return false;
-    logInside(operation, QString(u".......REFUSED: " + fault));
-    pass.refused(fault);
-    return true;
+// -- the end of a pass
+
+void SyncCycle::ended(PassKind kind, const PassEnd& end) {
+    fPassRuns = false;
+    if (end.lacksSettings)
+        fMissing.begin();
+    if (end.failedCheck)
+        handleFailedCheck(*end.failedCheck);
+    // What was missing may have come while the pass ended.
+    else if (!end.lacksSettings || fBody.hasSettings(kind))
+        rest(kind);
+    changed();
 }
 
-// -- the plain pass
-
-void SyncCycle::runPlainPass(RunningPass& pass) {
-    const auto paths = plainPaths(fParts.defaults);
-    if (!paths)
-        return;
-    const RsyncParams params{paths->source, paths->destination, std::nullopt};
-    const QString command = rsyncTemplate();
-    if (refuses(pass, u"doSyncOnce()", commandFault(command, params)))
-        return;
-    markScanning();
-    if (const auto filled = fParts.rsyncCommand.fillInParams(command, params)) {
-        fParts.console.print(u"cmd to send = " + *filled);
-        printResult(u"result from shell command =\n",
-                    pass.run(CommandRole::Pull, {.text = *filled}).output);
-    }
-    fParts.mainQueue.asyncAfter(cPauseAfterPass, [this] {
-        fParts.defaults.setObject(prefIsScanning, false);
-        scheduleAfterRest(&SyncCycle::doSyncOnce);
-    });
-}
-
-// -- the remote pass
-
-void SyncCycle::runRemotePass(RunningPass& pass) {
-    const QString keyPath = keyFilePath();
-    if (refuses(pass, cRemoteOperation, remoteFault(keyPath)))
-        return;
-    const HostVerdict verdict = validateRemoteHost(pass);
-    pass.judged(verdict);
-    if (verdict == HostVerdict::Valid)
-        pullFromRemote(pass, keyPath);
-    else
-        handleFailedValidation(verdict == HostVerdict::CheckSshKeys ? verdict : HostVerdict());
-}
-
-/// Of what is set now; asked before anybody is spoken to.
-QString SyncCycle::remoteFault(const QString& keyPath) const {
-    if (const auto account = remoteAccount(fParts.defaults)) {
-        if (QString fault = accountFault(*account, keyPath); !fault.isEmpty())
-            return fault;
-    }
-    const auto paths = remotePaths(fParts.defaults);
-    return paths ? commandFault(rsyncTemplate(), {paths->source, paths->destination, keyPath})
-                 : QString();
-}
-
-HostVerdict SyncCycle::validateRemoteHost(RunningPass& pass) const {
-    if (!remoteAccount(fParts.defaults))
-        return HostVerdict::NotAsked;
-    return fParts.validateRemoteHost(cValidationTimeout, [&pass](const Command& command) {
-        return pass.run(CommandRole::HostCheck, command);
-    });
-}
-
-void SyncCycle::pullFromRemote(RunningPass& pass, const QString& keyPath) {
-    const auto paths = remotePaths(fParts.defaults);
-    if (!paths)
-        return;
-    const RsyncParams params{paths->source, paths->destination, keyPath};
-    const QString usersCommand = rsyncTemplate();
-    if (refuses(pass, cRemoteOperation, commandFault(usersCommand, params)))
-        return;
-    markScanning();
-    const auto pull = [&](const QString& command, QStringView heading) {
-        if (const auto filled = fParts.rsyncCommand.fillInParams(command, params))
-            printResult(heading, pass.run(CommandRole::Pull, {.text = *filled}).output);
-    };
-    pull(usersCommand, u"\n\nresult from shell command =\n");
-    pull(cMovieCommandTemplate.toString(), u"\n\nresult from movie shell command =\n");
-    attemptToRescanAgain();
-}
-
-void SyncCycle::handleFailedValidation(const HostVerdict& verdict) {
+void SyncCycle::handleFailedCheck(const HostVerdict& verdict) {
     const QString rule(65, u'=');
     fParts.console.print(rule);
     fParts.console.print(u"NEED to handle possible ERROR:\n" + verdict.text());
     fParts.console.print(rule);
 
-    const qint64 count = addOne(fBadWhoamiCount);
-    showStatus(u"something went wrong - waiting to retry again... [" + QString::number(count) +
-                   u']',
+    if (__builtin_add_overflow(fBadWhoamiCount, qint64{1}, &fBadWhoamiCount))
+        stopProgram();
+    showStatus(u"something went wrong - waiting to retry again... [" +
+                   QString::number(fBadWhoamiCount) + u']',
                StatusColor::Red);
-    if (count >= cMaxBadWhoamiCount)
-        giveUp(alertTextFor(verdict));
+    if (fBadWhoamiCount >= cMaxBadWhoamiCount)
+        fProblem.raise(verdict);
     else
-        attemptToRescanAgain();
-}
-
-void SyncCycle::giveUp(const QString& alertText) {
-    fParts.mainQueue.asyncAfter(0.01, [this] {
-        clickStartButton();
-        showStatus(std::nullopt);
-    });
-    fParts.mainQueue.asyncAfter(0.1, [this, alertText] {
-        fParts.view.showProblemWithBonjourClosure(
-            QStringLiteral("Unable to Reach Remote Host"), alertText,
-            [this](ModalResponse response) { handleProblemAnswer(response); });
-    });
-}
-
-void SyncCycle::handleProblemAnswer(ModalResponse response) {
-    fParts.console.log(u"response = " + QString::number(response));
-    fBadWhoamiCount = 0;
-    if (response == cAlertFirstButtonReturn)
-        fParts.mainQueue.asyncAfter(0.1, [this] { clickStartButton(); });
-    else if (response == cAlertSecondButtonReturn)
-        showStatus(QStringLiteral("oops - something went wrong - check settings and hardware "
-                                  "connections - then try again..."),
-                   StatusColor::Red);
+        rest(PassKind::Remote);
 }
 
 // -- between passes
 
-void SyncCycle::attemptToRescanAgain() {
-    fParts.mainQueue.asyncAfter(cPauseAfterPass, [this] {
+void SyncCycle::rest(PassKind kind) {
+    const quint64 number = plan(kind, cPauseAfterPass + restSeconds(fParts.defaults));
+    fParts.mainQueue.asyncAfter(cPauseAfterPass, [this, kind, number] {
+        if (number != fPlanNumber)
+            return;
         fParts.defaults.setObject(prefIsScanning, false);
-        if (fBadWhoamiCount < 1)
+        if (kind == PassKind::Remote && fBadWhoamiCount < 1)
             showStatus(QStringLiteral("Resting a bit ..."));
-        scheduleAfterRest(&SyncCycle::doSyncOnceBonjour);
+        const quint64 last = plan(kind, restSeconds(fParts.defaults));
+        fParts.mainQueue.asyncAfter(restSeconds(fParts.defaults), [this, kind, last] {
+            if (last != fPlanNumber)
+                return;
+            fPlan.reset();
+            start(kind);
+        });
+        changed();
     });
 }
 
-void SyncCycle::scheduleAfterRest(Start next) {
-    const double delay = fParts.defaults.doubleForKey(prefDelayBetweenScans);
-    fParts.mainQueue.asyncAfter(delay > 0.0 ? delay : cFallbackDelayBetweenScans,
-                                [this, next] { (this->*next)(); });
+/// Takes the place of what was planned.
+quint64 SyncCycle::plan(PassKind kind, double delay) {
+    fPlan = {.kind = kind, .at = fParts.seconds() + delay};
+    return ++fPlanNumber;
 }
 
-/// Only one start waits: two would run two passes at once.
+// -- waiting for settings
+
+/// Only one start waits.
 void SyncCycle::waitForSettings(Start next) {
     showStatus(QStringLiteral("The settings file cannot be read - waiting..."), StatusColor::Red);
     if (!std::exchange(fWaitsForSettings, true))
         lookForSettings(next);
+    changed();
 }
 
 void SyncCycle::lookForSettings(Start next) {
     fParts.mainQueue.asyncAfter(cFallbackDelayBetweenScans, [this, next] {
-        if (!fParts.defaults.areKnown() && fParts.defaults.boolForKey(prefEnableScanning)) {
+        if (!fParts.defaults.areKnown() && isOn())
             lookForSettings(next);
-            return;
-        }
-        fWaitsForSettings = false;
-        (this->*next)();
+        else if (std::exchange(fWaitsForSettings, false))
+            (this->*next)();
     });
 }
 
-void SyncCycle::markScanning() {
-    fParts.mainQueue.async([this] { fParts.defaults.setObject(prefIsScanning, true); });
-}
-
-void SyncCycle::clickStartButton() {
-    if (!fParts.view.ibStartButton)
-        stopProgram("the start button is not there");
-    fParts.view.ibStartButton->performClick();
-}
-
-// -- reading settings, telling people
-
-QString SyncCycle::rsyncTemplate() const {
-    return fParts.defaults.stringForKey(prefRsyncCommandString1)
-        .value_or(cMissingRsyncCommandString1.toString());
-}
-
-QString SyncCycle::keyFilePath() const {
-    return expandingTilde(cPrivateKeyFile, fParts.files.homeDirectory());
+void SyncCycle::beginOnceNothingIsMissing() {
+    const PassKind kind =
+        fParts.defaults.boolForKey(prefRsyncWithSSH) ? PassKind::Remote : PassKind::Plain;
+    if (isOn() && !fPassRuns && fBody.hasSettings(kind))
+        start(kind);
 }
 
 void SyncCycle::logInside(QStringView operation, QStringView detail) const {
     fParts.console.log(insideLine(cViewControllerTypeName, operation, detail));
-}
-
-void SyncCycle::printResult(QStringView heading, const QString& output) const {
-    fParts.console.print({heading.toString(), output, QStringLiteral("\n======== done ========")});
 }
 
 void SyncCycle::showStatus(std::optional<QString> mesg, StatusColor color) {

@@ -5,6 +5,9 @@
 #include "support/alert.h"
 #include "support/pass_record.h"
 #include "support/status_color.h"
+#include "sync/pass_body.h"
+#include "sync/problem_alert.h"
+#include "sync/settings_watch.h"
 
 #include <QString>
 
@@ -21,7 +24,6 @@ class Control;
 class DispatchQueue;
 class FileManager;
 class RsyncCommand;
-class RunningPass;
 class RunningPasses;
 class UserDefaults;
 
@@ -30,13 +32,24 @@ struct CycleView {
     /// Shows `mesg`, centred when asked for; none clears the line.
     std::function<void(std::optional<QString> mesg, StatusColor color, bool docenter)>
         updateStatusMessage;
-    /// Shows the self-closing alert; `completion` gets its answers on the main thread, perhaps
-    /// more than one.
+    /// Shows the self-closing alert; `completion` gets its answers on the main thread: that of a
+    /// person, or cModalResponseStop when nobody answered in time, and then its own,
+    /// cAlertFirstButtonReturn.
     std::function<void(const QString& message, const QString& text,
                        std::function<void(ModalResponse)> completion)>
         showProblemWithBonjourClosure;
     /// Clicked by the cycle to switch syncing off and on again.
     Button* ibStartButton = nullptr;
+    /// Told on the main thread after each change of the cycle's state, but for the time that
+    /// passes. May be empty.
+    std::function<void()> stateChanged = {};
+};
+
+/// Where the cycle stands.
+struct CycleState {
+    bool passRuns = false;          ///< a pass has been begun and has not ended
+    std::optional<double> nextPass; ///< seconds until the planned pass begins; missing: none is
+    bool waits = false;             ///< switched on, but something is missing for a pass
 };
 
 /// Everything the cycle works with; all of it outlives the cycle.
@@ -51,15 +64,19 @@ struct SyncCycleParts {
     /// Asks the remote host by `run`, with ssh's connect time-out in seconds. Blocks; any thread.
     std::function<HostVerdict(qint64 timeout, const RunCommand& run)> validateRemoteHost;
     CycleView view;
+    std::function<double()> seconds; ///< since any fixed moment; never goes back
 };
 
 /// A pass schedules its successor; what prefEnableScanning and prefIsScanning say is asked at the
-/// start of each. As long as the settings are not known none begins: the first start that was asked
-/// for waits until they are. The cycle must outlive every body handed to the background queue and
-/// every block waiting on the main queue: end both queues first.
+/// start of each. There is one chain, and one pass at a time: a start during the rest takes the
+/// place of the planned pass, one while a pass runs is refused. As long as the settings are not
+/// known none begins: the first start that was asked for waits until they are. A pass that lacks
+/// settings has no successor: the next one begins, of the kind then set, when they are there. The
+/// cycle must outlive every body handed to the background queue and every block waiting on the main
+/// queue: end both queues first.
 class SyncCycle {
 public:
-    explicit SyncCycle(const SyncCycleParts& parts) : fParts(parts) {}
+    explicit SyncCycle(const SyncCycleParts& parts);
     SyncCycle(const SyncCycle&) = delete;
     SyncCycle& operator=(const SyncCycle&) = delete;
 
@@ -75,46 +92,58 @@ public:
     void doSyncOnce();
     void doSyncOnceBonjour();
 
+    /// Begins the planned pass now instead of later. Nothing happens unless one is planned. Main
+    /// thread.
+    void syncNow();
+
+    /// Ends the pass that runs, at a person's wish; the next one comes as after any other. Main
+    /// thread; returns at once.
+    void cancelPass();
+
+    CycleState state() const; ///< main thread
+
     /// What a click by a person does. Without a start button the program stops. Main thread.
     void clickStartButton();
 
     /// How many remote passes failed since launch or since the problem alert was last answered.
-    /// Any thread.
+    /// Main thread.
     qint64 badWhoamiCount() const { return fBadWhoamiCount; }
 
 private:
     using Start = void (SyncCycle::*)();
-    using Body = void (SyncCycle::*)(RunningPass&);
     enum class Permission { Granted, SwitchedOff, Busy, SettingsUnknown };
+    struct Plan {
+        PassKind kind = PassKind::Plain;
+        double at = 0; ///< on the clock of SyncCycleParts::seconds
+    };
 
     bool storeStateOf(Control* sender, QStringView operation);
     void startPassOfTheKindSet();
+    void start(PassKind kind);
+    bool isOn() const;
     Permission permissionToStart(QStringView operation) const;
-    void runInBackground(PassKind kind, Body body);
-    void runPlainPass(RunningPass& pass);
-    void runRemotePass(RunningPass& pass);
-    bool refuses(RunningPass& pass, QStringView operation, const QString& fault) const;
-    QString remoteFault(const QString& keyPath) const;
-    HostVerdict validateRemoteHost(RunningPass& pass) const;
-    void pullFromRemote(RunningPass& pass, const QString& keyPath);
-    void handleFailedValidation(const HostVerdict& verdict);
-    void giveUp(const QString& alertText);
-    void handleProblemAnswer(ModalResponse response);
-    void attemptToRescanAgain();
-    void scheduleAfterRest(Start next);
+    void begin(PassKind kind);
+    void ended(PassKind kind, const PassEnd& end);
+    void handleFailedCheck(const HostVerdict& verdict);
+    void rest(PassKind kind);
+    quint64 plan(PassKind kind, double delay);
     void waitForSettings(Start next);
     void lookForSettings(Start next);
-    void markScanning();
-
-    QString rsyncTemplate() const;
-    QString keyFilePath() const;
+    void beginOnceNothingIsMissing();
+    void changed() const;
     void logInside(QStringView operation, QStringView detail) const;
-    void printResult(QStringView heading, const QString& output) const;
     void showStatus(std::optional<QString> mesg, StatusColor color = StatusColor::Black);
 
     const SyncCycleParts fParts;
-    std::atomic<qint64> fBadWhoamiCount = 0;
-    bool fWaitsForSettings = false; ///< main thread
+    const PassBody fBody;
+    SettingsWatch fMissing; ///< watches as long as a pass lacks settings
+    ProblemAlert fProblem;
+    qint64 fBadWhoamiCount = 0;
+    bool fPassRuns = false;
+    std::atomic<bool> fCancelled = false; ///< the pass that runs, or is about to
+    std::optional<Plan> fPlan;
+    quint64 fPlanNumber = 0; ///< what was planned under another one does not come any more
+    bool fWaitsForSettings = false;
 };
 
 } // namespace kelvo

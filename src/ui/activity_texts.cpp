@@ -11,8 +11,39 @@
 namespace kelvo {
 namespace {
 
-bool isWell(const PassRecord& pass) {
-    return pass.cause == PassCause::Well;
+constexpr std::size_t cMostListed = 1000; // files in a report
+
+QString moviesText(qint64 movies) {
+    return QString::number(movies) + (movies == 1 ? u" movie" : u" movies");
+}
+
+QString oneLine(QStringView text) {
+    return withVisibleControls(text)
+        .replace(u'\n', QStringLiteral("\\x0a"))
+        .replace(u'\t', QStringLiteral("\\x09"));
+}
+
+/// UTF-8 as it is, any other byte as "\xff".
+QString decoded(const QByteArray& bytes) {
+    const QString whole = QString::fromUtf8(bytes);
+    if (whole.toUtf8() == bytes)
+        return whole;
+    QString text;
+    for (qsizetype at = 0; at < bytes.size();) {
+        // A character has four bytes at most.
+        QByteArray character;
+        for (qsizetype length = 1; length <= 4 && character.isEmpty(); ++length) {
+            const QByteArray piece = bytes.mid(at, length);
+            if (QString::fromUtf8(piece).toUtf8() == piece)
+                character = piece;
+        }
+        if (character.isEmpty())
+            text += QStringLiteral("\\x%1").arg(uint(uchar(bytes[at])), 2, 16, QLatin1Char('0'));
+        else
+            text += QString::fromUtf8(character);
+        at += std::max<qsizetype>(1, character.size());
+    }
+    return text;
 }
 
 QString withSize(const QString& files, const Transfer& transfer) {
@@ -25,9 +56,11 @@ QString shownOutput(QString text) {
     return withVisibleControls(text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 }
 
-QString statusText(const CommandRecord& command) {
-    return command.exitStatus ? QString(u"exit status " + QString::number(*command.exitStatus))
-                              : QStringLiteral("given up when the program ended");
+QString statusText(const CommandRecord& command, PassCause cause) {
+    if (command.exitStatus)
+        return u"exit status " + QString::number(*command.exitStatus);
+    return cause == PassCause::Cancelled ? QStringLiteral("ended when the pass was cancelled")
+                                         : QStringLiteral("given up when the program ended");
 }
 
 QString sourceText(const Transfer& transfer) {
@@ -42,9 +75,12 @@ QString sourceText(const Transfer& transfer) {
     return QStringLiteral("the command did not say");
 }
 
-QString commandReport(const CommandRecord& command) {
-    QString report = u"$ " + withVisibleControls(command.command) + u"\n(" + statusText(command) +
-                     u", " + secondsText(command.seconds);
+QString commandReport(const CommandRecord& command, PassCause cause) {
+    QString report = command.role == CommandRole::AfterArrivals
+                         ? QStringLiteral("Run after arrivals:\n")
+                         : QString();
+    report += u"$ " + withVisibleControls(command.command) + u"\n(" + statusText(command, cause) +
+              u", " + secondsText(command.seconds);
     if (command.role == CommandRole::Pull)
         report += u", " + withSize(filesText(command.transfer), command.transfer) + u", " +
                   sourceText(command.transfer);
@@ -53,6 +89,17 @@ QString commandReport(const CommandRecord& command) {
         report += u"\n… " + QString::number(command.text.leftOut) + u" bytes left out …\n" +
                   shownOutput(command.text.tail);
     return report.endsWith(u'\n') ? report : QString(report + u'\n');
+}
+
+QString arrivalsReport(const std::vector<Arrival>& arrivals) {
+    if (arrivals.empty())
+        return {};
+    QString report = QStringLiteral("\nArrived:\n");
+    for (const Arrival& arrival : std::span(arrivals).first(std::min(arrivals.size(), cMostListed)))
+        report += u"  " + arrivedName(arrival.path, {}) + u", " + bytesText(arrival.size) + u'\n';
+    if (arrivals.size() > cMostListed)
+        report += u"  … and " + QString::number(arrivals.size() - cMostListed) + u" more\n";
+    return report;
 }
 
 QString cell(QString text) {
@@ -74,23 +121,6 @@ QString beganText(const PassRecord& pass) {
     return QLocale().toString(pass.began.toLocalTime(), QLocale::ShortFormat);
 }
 
-QString activityHeadline(std::span<const PassRecord> records, const QDateTime& now) {
-    if (records.empty())
-        return QStringLiteral("No pass yet.");
-    const auto success = std::ranges::find_if(records, isWell);
-    QString line = QStringLiteral("No success yet.");
-    if (success != records.end())
-        line = u"Last success: " +
-               agoText(static_cast<double>(success->began.msecsTo(now)) / 1000) + u", " +
-               filesText(success->transfer) + u'.';
-    if (success == records.begin())
-        return line;
-    const PassRecord& since = *(success - 1);
-    const CauseWords words = wordsFor(records.front().cause);
-    return line + u" In trouble since " + beganText(since) + u": " +
-           withVisibleControls(sentenceFor(records.front())) + u' ' + words.nextStep;
-}
-
 QString passReport(const PassRecord& pass) {
     const CauseWords words = wordsFor(pass.cause);
     QString report = beganText(pass) + u" – " + withVisibleControls(sentenceFor(pass)) + u'\n';
@@ -99,8 +129,9 @@ QString passReport(const PassRecord& pass) {
     report += (pass.kind == PassKind::Remote ? QStringLiteral("Remote pass, ")
                                              : QStringLiteral("Plain pass, ")) +
               withSize(filesText(pass), pass.transfer) + u", " + secondsText(pass.seconds) + u'\n';
+    report += arrivalsReport(pass.arrivals);
     for (const CommandRecord& command : pass.commands)
-        report += u'\n' + commandReport(command);
+        report += u'\n' + commandReport(command, pass.cause);
     return report;
 }
 
@@ -117,6 +148,79 @@ QString passesAsCsv(std::span<const PassRecord> records) {
                          .join(u','));
     }
     return lines.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n");
+}
+
+QString timeText(const QDateTime& moment) {
+    const QLocale locale;
+    const QString format = locale.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
+    return locale.toString(moment.toLocalTime().time(), format);
+}
+
+QString foldedText(qint64 passes, const QDateTime& first, const QDateTime& last) {
+    return QString::number(passes) + u" passes, nothing new, " + timeText(first) + u" to " +
+           timeText(last);
+}
+
+bool isRunning(const WorkState& work) {
+    return work.phase == WorkPhase::Running || work.phase == WorkPhase::Finishing ||
+           work.phase == WorkPhase::Cancelling;
+}
+
+QString runningText(const WorkState& work) {
+    QStringList parts{work.step.isEmpty() ? QStringLiteral("Running") : work.step};
+    if (!work.count.isEmpty())
+        parts.append(work.count);
+    if (work.share)
+        parts.append(QString::number(static_cast<int>(*work.share * 100)) + u" %");
+    if (work.phase == WorkPhase::Cancelling)
+        parts.append(QStringLiteral("being cancelled"));
+    return parts.join(QStringLiteral(", "));
+}
+
+QString runningReport(const WorkState& work) {
+    QStringList lines{runningText(work)};
+    for (const QString& line : {work.file, work.amount, work.speed, work.timeLeft}) {
+        if (!line.isEmpty())
+            lines.append(line);
+    }
+    return lines.join(u'\n') + u'\n';
+}
+
+QString bytesText(qint64 bytes) {
+    const QLocale locale = QLocale::c();
+    const QString text = locale.formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+    return text.indexOf(u'.') < 3 ? text
+                                  : locale.formattedDataSize(bytes, 0, QLocale::DataSizeSIFormat);
+}
+
+QString arrivedName(const QByteArray& path, const QString& folder) {
+    QByteArray before = folder.toUtf8();
+    if (!before.isEmpty() && !before.endsWith('/'))
+        before += '/';
+    return oneLine(decoded(path.startsWith(before) ? path.sliced(before.size()) : path));
+}
+
+QString dayText(QDate day, QDate today) {
+    if (day == today)
+        return QStringLiteral("Today");
+    return day.addDays(1) == today ? QStringLiteral("Yesterday")
+                                   : QLocale().toString(day, QLocale::LongFormat);
+}
+
+QString dayReport(const DayOfPasses& day) {
+    const QString came = day.files == 0
+                             ? QStringLiteral("nothing new")
+                             : QString(bytesText(day.bytes) + u", " + moviesText(day.files));
+    return day.trouble ? QString(came + u"; a pass was in trouble") : came;
+}
+
+QString totalText(std::span<const DayOfPasses> all, int days) {
+    DayOfPasses sum;
+    for (const DayOfPasses& day : all) {
+        sum.files += day.files;
+        sum.bytes += day.bytes;
+    }
+    return dayReport(sum) + u" in " + QString::number(days) + u" days";
 }
 
 } // namespace kelvo

@@ -12,7 +12,6 @@ namespace kelvo {
 namespace {
 
 constexpr double cSheetDelay = 0.1;
-constexpr double cProblemLifetime = 6.0;
 
 void requireWindow(const AlertPresenter& presenter) {
     if (!presenter.hasWindow())
@@ -73,7 +72,7 @@ void Alerts::showProblem(const QString& message, const QString& text,
     requireWindow(fPresenter);
     const SheetId sheet = fPresenter.beginSheet(*alert, completion);
     // Answered or not, the alert goes after its time and the answer "again" follows.
-    fMainQueue.asyncAfter(cProblemLifetime, [this, sheet, completion] {
+    fMainQueue.asyncAfter(cSelfAnswerSeconds, [this, sheet, completion] {
         if (fPresenter.hasWindow())
             fPresenter.endSheet(sheet);
         fMainQueue.asyncAfter(cSheetDelay, [completion] { completion(cAlertFirstButtonReturn); });

@@ -38,7 +38,10 @@ std::vector<ChecklistLine> checklist(const ChecklistFacts& facts) {
              Remedy::ShowRemoteTab);
         need(facts.key != KeyState::NoKey,
              QStringLiteral("The program has no ssh key of its own yet."), Remedy::ShowRemoteTab);
-        need(facts.key != KeyState::NotAccepted, whyNotAccepted(facts.lastCause),
+        // A Mac that was not reached has said nothing of the key.
+        const bool reached =
+            !facts.lastCause || wordsFor(*facts.lastCause).group != CauseGroup::Host;
+        need(facts.key != KeyState::NotAccepted || !reached, whyNotAccepted(facts.lastCause),
              Remedy::ShowRemoteTab);
         need(facts.sshThere, QStringLiteral("ssh is not installed on this machine."),
              Remedy::CopyInstallCommand);

@@ -4,6 +4,7 @@
 #include "support/key_state.h"
 #include "support/pass_record.h"
 #include "support/subscription.h"
+#include "support/work_state.h"
 
 #include <QString>
 
@@ -19,9 +20,6 @@ class DispatchQueue;
 class FileManager;
 class PassStore;
 class UserDefaults;
-
-/// What a person can do about a line.
-enum class Remedy { ShowRemoteTab, ChooseSource, ChooseDestination, CopyInstallCommand };
 
 struct ChecklistLine {
     QString text;

@@ -23,4 +23,22 @@ CloseResult ClosePolicy::result(std::optional<ModalResponse> answer) const {
                : CloseResult::KeepOpen;
 }
 
+std::optional<Alert> ClosePolicy::questionBeforeQuitting(const WorkState& work,
+                                                         bool withoutAsking) const {
+    const bool copies = (work.phase == WorkPhase::Running || work.phase == WorkPhase::Finishing) &&
+                        !work.file.isEmpty();
+    if (fQuitting || withoutAsking || !copies)
+        return std::nullopt;
+    QString what = work.file;
+    if (work.share)
+        what += QStringLiteral(", %1 %").arg(wholePercent(*work.share));
+    return Alert{QStringLiteral("Quit while movies are being copied?"),
+                 QStringLiteral("The pass that runs will be ended: %1. The next start goes on from "
+                                "there.")
+                     .arg(what),
+                 AlertStyle::Informational,
+                 {QStringLiteral("Quit"), QStringLiteral("Keep Running")},
+                 false};
+}
+
 } // namespace kelvo

@@ -1,7 +1,8 @@
-// ClosePolicy: what happens when a person closes the main window.
+// ClosePolicy: what happens when a person closes the main window or quits.
 #pragma once
 
 #include "support/alert.h"
+#include "support/work_state.h"
 
 #include <optional>
 
@@ -23,6 +24,11 @@ public:
     /// What to do; `answer` is the answer to the note, if one was shown. Only the note's first
     /// button closes the window.
     CloseResult result(std::optional<ModalResponse> answer) const;
+
+    /// The question to ask before a person's wish to quit is followed: what the quit would end,
+    /// with the quit on the first button. Nothing when no movie is being copied, when
+    /// `withoutAsking` is set, or while the program is quitting.
+    std::optional<Alert> questionBeforeQuitting(const WorkState& work, bool withoutAsking) const;
 
     /// From now on closing asks nothing and the window goes with the program.
     void programQuits() { fQuitting = true; }

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace kelvo {
 
 /// Main thread only.
@@ -22,6 +24,19 @@ public:
 
     /// Does what a click on the start button does.
     virtual void clickStartButton() = 0;
+
+    /// Begins the planned pass now; ends the one that runs, at a person's wish.
+    virtual void syncNow() = 0;
+    virtual void cancelPass() = 0;
+
+    /// Brings the window up with its record of passes, at `pass` if it is still kept.
+    virtual void showActivity(std::optional<qint64> pass) = 0;
+
+    /// Opens the destination folder in the file browser.
+    virtual void revealFolder() = 0;
+
+    /// The tray's menu is seen, or not any more; its texts are up to date once this returns.
+    virtual void menuShown(bool shown) = 0;
 
     /// Ends the program in order and has it started again.
     virtual void quitAndRelaunch() = 0;

@@ -11,7 +11,7 @@ constexpr QStringView cTypeName = u"SupportKit.KelvoStatusMenuHandler";
 } // namespace
 
 KelvoStatusMenuHandler::~KelvoStatusMenuHandler() {
-    fPresence.remove(fTargets);
+    fPresence.forget(fTargets);
 }
 
 void KelvoStatusMenuHandler::setWindowController(MainWindowController* controller) {
@@ -23,7 +23,7 @@ void KelvoStatusMenuHandler::setMainVC(MainViewController* mainVC) {
 }
 
 void KelvoStatusMenuHandler::setupStatusMenuStuff() {
-    fPresence.add(fTargets);
+    fPresence.show(fTargets);
 }
 
 void KelvoStatusMenuHandler::removeStatusMenuStuff() {

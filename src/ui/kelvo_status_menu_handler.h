@@ -1,4 +1,4 @@
-// KelvoStatusMenuHandler: one owner's wish for the tray icon, and what its menu shall act on.
+// KelvoStatusMenuHandler: one owner's way to the tray icon, and what its menu shall act on.
 #pragma once
 
 #include "ui/status_menu_presence.h"
@@ -16,7 +16,7 @@ public:
     KelvoStatusMenuHandler(StatusMenuPresence& presence, Console& console)
         : fPresence(presence), fConsole(console) {}
 
-    /// Takes its wish back.
+    /// The menu acts on its targets no more; the icon goes with the last handler.
     ~KelvoStatusMenuHandler();
     KelvoStatusMenuHandler(const KelvoStatusMenuHandler&) = delete;
     KelvoStatusMenuHandler& operator=(const KelvoStatusMenuHandler&) = delete;
@@ -27,10 +27,11 @@ public:
     MainWindowController* fWindowController() const { return fTargets.fWindowController; }
     MainViewController* fMainVC() const { return fTargets.fMainVC; }
 
-    /// Asks for the tray icon and its menu; a second time changes nothing.
+    /// Shows the tray icon and its menu; a second time changes nothing.
     void setupStatusMenuStuff();
 
-    /// Takes the wish back: the icon goes once no handler asks for it. Not set up: no change.
+    /// Removes icon and menu, whichever handler has set them up; set up again, the menu acts on
+    /// what it acted on before. Never set up by this handler: no change.
     void removeStatusMenuStuff();
 
     /// Each prints its entry line and does nothing else.

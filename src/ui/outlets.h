@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace kelvo {
 
@@ -30,7 +31,9 @@ struct Outlets {
     OpenPanel& openPanel;
     Terminal& terminal;
     std::function<void(const QString&)> copyText; ///< to the clipboard
-    ArrayController& fArrayController;            ///< what the main view's own search found
+    /// Brings the record of passes up, at this pass if it is still kept; may be empty.
+    std::function<void(std::optional<qint64> pass)> showActivity = {};
+    ArrayController& fArrayController; ///< what the main view's own search found
     Button* ibStartButton = nullptr;
     const Control* ibRevealButton1 = nullptr;
     const Control* ibRevealButton2 = nullptr;

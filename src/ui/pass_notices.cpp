@@ -5,37 +5,59 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "ui/pass_words.h"
+#include "ui/work_words.h"
+
+#include <utility>
 
 namespace kelvo {
 namespace {
 
-/// Passes that say nothing about the next one: they change no mind.
-bool saysNothing(PassCause cause) {
-    return cause == PassCause::FilesVanished || cause == PassCause::Interrupted;
+/// Trouble that may go by itself: a Mac falls asleep, a network goes away and comes back.
+bool mayMendItself(PassCause cause) {
+    return wordsFor(cause).group == CauseGroup::Host || cause == PassCause::CutOff;
+}
+
+// The words are the program's own: nothing that a host said is shown on the desktop.
+Notice turnNotice(const PassRecord& pass) {
+    if (!isTrouble(pass.cause))
+        return {.title = QStringLiteral("Kelvo Mirror is well again"),
+                .text =
+                    QStringLiteral("The last pass went well: %1.").arg(filesText(pass.transfer))};
+    const CauseWords words = wordsFor(pass.cause);
+    return {.title = QStringLiteral("Kelvo Mirror is in trouble"),
+            .text = QString(words.sentence + QLatin1String(" ") + words.nextStep),
+            .urgent = !mayMendItself(pass.cause)};
+}
+
+Notice arrivalsNotice(const std::vector<Arrival>& arrivals) {
+    const auto count = arrivals.size();
+    return {.title = count == 1 ? QStringLiteral("1 new movie")
+                                : QStringLiteral("%1 new movies").arg(count),
+            .text = arrivalsText(arrivals)};
 }
 
 } // namespace
 
-PassNotices::PassNotices(PassStore& store, const UserDefaults& defaults, DesktopNotices& notices)
-    : fDefaults(defaults), fNotices(notices),
+PassNotices::PassNotices(PassStore& store, const UserDefaults& defaults, DesktopNotices& notices,
+                         std::function<void(std::optional<qint64>)> show)
+    : fDefaults(defaults), fNotices(notices), fShow(std::move(show)),
       fObservation(store.observe([this](const PassRecord& pass) { heard(pass); })) {}
 
 void PassNotices::heard(const PassRecord& pass) {
-    const bool trouble = pass.cause != PassCause::Well;
-    if (trouble == fTrouble || saysNothing(pass.cause))
-        return;
-    fTrouble = trouble;
-    if (!fDefaults.boolForKey(prefShowNotices))
-        return;
-    // The words are the program's own: nothing that a host said is shown on the desktop.
-    const CauseWords words = wordsFor(pass.cause);
-    if (trouble)
-        fNotices.showNotice(QStringLiteral("Kelvo Mirror is in trouble"),
-                            QString(words.sentence + QLatin1String(" ") + words.nextStep));
-    else
-        fNotices.showNotice(
-            QStringLiteral("Kelvo Mirror is well again"),
-            QString(u"The last pass went well: " + filesText(pass.transfer) + u'.'));
+    if (turned(pass) && fDefaults.boolForKey(prefShowNotices))
+        show(pass, turnNotice(pass));
+    else if (!pass.arrivals.empty() && fDefaults.boolForKey(prefShowArrivals))
+        show(pass, arrivalsNotice(pass.arrivals));
+}
+
+bool PassNotices::turned(const PassRecord& pass) {
+    const bool trouble = isTrouble(pass.cause);
+    return !saysNothing(pass.cause) && std::exchange(fTrouble, trouble) != trouble;
+}
+
+void PassNotices::show(const PassRecord& pass, Notice notice) {
+    notice.show = [show = fShow, id = pass.id] { show(id > 0 ? std::optional(id) : std::nullopt); };
+    fNotices.showNotice(notice);
 }
 
 } // namespace kelvo

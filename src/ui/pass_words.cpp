@@ -16,6 +16,8 @@ struct Row {
     CauseWords words;
 };
 
+constexpr qint64 cDay = 86'400; // seconds
+
 constexpr auto cTable = std::to_array<Row>({
     {PassCause::Well, {u"well", u"All is well.", u"", Well}},
     {PassCause::HostNotFound,
@@ -96,6 +98,13 @@ constexpr auto cTable = std::to_array<Row>({
     {PassCause::Interrupted,
      {u"interrupted", u"The program was ended during the pass.", u"Nothing: start it again.",
       CauseGroup::Interrupted}},
+    {PassCause::Cancelled,
+     {u"cancelled", u"Cancelled by you.", u"Nothing: the next pass goes on where this one stopped.",
+      CauseGroup::Interrupted}},
+    {PassCause::AfterFailed,
+     {u"after-failed",
+      u"The files have arrived, but the command that is run after arrivals failed.",
+      u"See the pass's text for what it said, or correct it in the settings.", AfterArrivals}},
     {PassCause::Unknown,
      {u"unknown", u"Something went wrong.", u"See the pass's text for what the commands said.",
       CauseGroup::Unknown}},
@@ -150,7 +159,6 @@ QString secondsText(double seconds) {
 }
 
 QString agoText(double seconds) {
-    constexpr qint64 cDay = 86'400;
     const auto whole = static_cast<qint64>(std::clamp(seconds, 0.0, 1e12));
     if (whole < 60)
         return QStringLiteral("just now");
@@ -159,6 +167,13 @@ QString agoText(double seconds) {
     if (whole < 2 * cDay)
         return counted(whole / 3600, u"hour ago", u"hours ago");
     return counted(whole / cDay, u"day ago", u"days ago");
+}
+
+double agoHolds(double seconds) {
+    if (seconds < 0)
+        return -seconds;
+    const double unit = seconds < 3600 ? 60 : seconds < 2 * cDay ? 3600 : cDay;
+    return unit - std::fmod(seconds, unit);
 }
 
 } // namespace kelvo

@@ -19,6 +19,7 @@ enum class CauseGroup {
     CutOff,
     Settings,
     Interrupted,
+    AfterArrivals,
     Unknown
 };
 
@@ -48,5 +49,8 @@ QString secondsText(double seconds);
 
 /// "just now", "4 minutes ago", "3 days ago".
 QString agoText(double seconds);
+
+/// How long from now that text stays true, in seconds.
+double agoHolds(double seconds);
 
 } // namespace kelvo

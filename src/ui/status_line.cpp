@@ -15,15 +15,13 @@ constexpr double cStatusDelay = 0.1;
 } // namespace
 
 StatusLine::StatusLine(UserDefaults& defaults, DispatchQueue& mainQueue,
-                       std::weak_ptr<StatusField> field, std::function<void(bool)> trouble)
-    : fDefaults(defaults), fMainQueue(mainQueue), ibStatusTextField(std::move(field)),
-      fTrouble(std::move(trouble)) {}
+                       std::weak_ptr<StatusField> field)
+    : fDefaults(defaults), fMainQueue(mainQueue), ibStatusTextField(std::move(field)) {}
 
 void StatusLine::updateStatusMessage(std::optional<QString> mesg, StatusColor color,
                                      bool docenter) {
     fMainQueue.asyncAfter(cStatusDelay, [&defaults = fDefaults, weakField = ibStatusTextField,
-                                         trouble = fTrouble, mesg = std::move(mesg), color,
-                                         docenter] {
+                                         mesg = std::move(mesg), color, docenter] {
         const auto field = weakField.lock();
         if (!field)
             return;
@@ -31,8 +29,6 @@ void StatusLine::updateStatusMessage(std::optional<QString> mesg, StatusColor co
             field->setAttributedStringValue(getAttributedString(*mesg, color, docenter));
         else
             field->clear();
-        if (trouble)
-            trouble(mesg && color == StatusColor::Red);
         defaults.removeObject(prefStatusTextfieldString);
     });
 }

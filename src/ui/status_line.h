@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -17,11 +16,8 @@ class UserDefaults;
 
 class StatusLine {
 public:
-    /// A field that is gone when a message is due drops the message. `trouble`, if any, is told
-    /// after the field has shown a message: true for red, false for black and for clearing. It
-    /// outlives what waits on the main queue.
-    StatusLine(UserDefaults& defaults, DispatchQueue& mainQueue, std::weak_ptr<StatusField> field,
-               std::function<void(bool)> trouble = {});
+    /// A field that is gone when a message is due drops the message.
+    StatusLine(UserDefaults& defaults, DispatchQueue& mainQueue, std::weak_ptr<StatusField> field);
 
     /// Shows `mesg` in `color`, centred when asked for, 0.1 s from now; no `mesg` clears the line.
     /// The saved status text is wiped with it. Any thread; returns at once.
@@ -31,7 +27,6 @@ private:
     UserDefaults& fDefaults;
     DispatchQueue& fMainQueue;
     std::weak_ptr<StatusField> ibStatusTextField;
-    std::function<void(bool)> fTrouble;
 };
 
 } // namespace kelvo

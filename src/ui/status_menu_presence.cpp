@@ -33,41 +33,61 @@ StatusMenuPresence::~StatusMenuPresence() {
     fMenu.hide();
 }
 
-void StatusMenuPresence::add(const StatusMenuTargets& targets) {
-    if (std::ranges::find(fAsking, &targets) != fAsking.end())
-        return;
-    fAsking.push_back(&targets);
+void StatusMenuPresence::show(const StatusMenuTargets& targets) {
+    if (std::ranges::find(fTargets, &targets) == fTargets.end())
+        fTargets.push_back(&targets);
+    fIsWanted = true;
     refresh();
 }
 
 void StatusMenuPresence::remove(const StatusMenuTargets& targets) {
-    if (std::erase(fAsking, &targets) > 0)
-        refresh();
+    if (std::ranges::find(fTargets, &targets) == fTargets.end())
+        return;
+    fIsWanted = false;
+    refresh();
 }
 
-void StatusMenuPresence::setTrouble(bool trouble) {
-    fTrouble = trouble;
+void StatusMenuPresence::forget(const StatusMenuTargets& targets) {
+    std::erase(fTargets, &targets);
+    fIsWanted = fIsWanted && !fTargets.empty();
+    refresh();
+}
+
+void StatusMenuPresence::showWork(const WorkState& work) {
+    fTrouble = work.health.sign == HealthSign::Trouble;
+    fMenu.showWork(work);
     refresh();
 }
 
 void StatusMenuPresence::connectActions() {
+    const auto onMainView = [this](void (MainViewController::*action)()) {
+        return [this, action] {
+            if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
+                (mainView->*action)();
+        };
+    };
     fMenu.setActions({
         .showWindow =
             [this] {
                 if (auto* window = firstTarget(&StatusMenuTargets::fWindowController))
                     window->showWindow();
             },
-        .startOrStop =
+        .startOrStop = onMainView(&MainViewController::clickStartButton),
+        .syncNow = onMainView(&MainViewController::syncNow),
+        .cancelPass = onMainView(&MainViewController::cancelPass),
+        .showActivity =
             [this] {
                 if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
-                    mainView->clickStartButton();
+                    mainView->showActivity({});
             },
-        .quitAndRelaunch =
-            [this] {
-                if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
-                    mainView->quitAndRelaunch();
-            },
+        .revealFolder = onMainView(&MainViewController::revealFolder),
+        .quitAndRelaunch = onMainView(&MainViewController::quitAndRelaunch),
         .quit = fQuit,
+        .menuShown =
+            [this](bool shown) {
+                if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
+                    mainView->menuShown(shown);
+            },
     });
 }
 
@@ -76,7 +96,7 @@ void StatusMenuPresence::refreshLater() {
 }
 
 void StatusMenuPresence::refresh() {
-    if (fAsking.empty()) {
+    if (!fIsWanted) {
         if (std::exchange(fShown, std::nullopt))
             fMenu.hide();
         return;
@@ -94,8 +114,8 @@ void StatusMenuPresence::refresh() {
 template <typename Target>
 Target* StatusMenuPresence::firstTarget(Target* StatusMenuTargets::*member) const {
     const auto found = std::ranges::find_if(
-        fAsking, [member](const StatusMenuTargets* targets) { return targets->*member; });
-    return found == fAsking.end() ? nullptr : (*found)->*member;
+        fTargets, [member](const StatusMenuTargets* targets) { return targets->*member; });
+    return found == fTargets.end() ? nullptr : (*found)->*member;
 }
 
 } // namespace kelvo

@@ -24,9 +24,9 @@ struct StatusMenuTargets {
 /// leaves the pass running to its end.
 StatusMenuState statusMenuState(bool enabled, bool scanning, bool trouble);
 
-/// Main thread only, except that settings may change on any thread. Shows the icon while at least
-/// one handler asks for it and keeps its state and start title right. The main queue must have
-/// ended before this is destroyed.
+/// Main thread only, except that settings may change on any thread. There is one icon: any handler
+/// shows it, and any handler removes it. Keeps its state and start title right. The main queue must
+/// have ended before this is destroyed.
 class StatusMenuPresence {
 public:
     /// `quit` ends the program in order.
@@ -36,15 +36,19 @@ public:
     StatusMenuPresence(const StatusMenuPresence&) = delete;
     StatusMenuPresence& operator=(const StatusMenuPresence&) = delete;
 
-    /// Asks for the icon; a second time counts once. `targets` stays where it is until `remove`;
-    /// it is read at each choice from the menu. The first to have the target wins.
-    void add(const StatusMenuTargets& targets);
+    /// Shows the icon. `targets` stays where it is until it is forgotten, removals or not; it is
+    /// read at each choice from the menu. The first to have the target wins.
+    void show(const StatusMenuTargets& targets);
 
-    /// Takes the request back; the icon goes with the last one. Not added: nothing happens.
+    /// Removes the icon. Nothing happens for targets it was never shown for.
     void remove(const StatusMenuTargets& targets);
 
-    /// Whether the status line tells of trouble. May be called before anything is shown.
-    void setTrouble(bool trouble);
+    /// From now on nothing acts on `targets`; the icon goes with the last ones.
+    void forget(const StatusMenuTargets& targets);
+
+    /// What the menu tells of the work; its health says whether there is trouble. May be called
+    /// before anything is shown.
+    void showWork(const WorkState& work);
 
 private:
     void connectActions();
@@ -57,7 +61,8 @@ private:
     UserDefaults& fDefaults;
     DispatchQueue& fMainQueue;
     std::function<void()> fQuit;
-    std::vector<const StatusMenuTargets*> fAsking;
+    std::vector<const StatusMenuTargets*> fTargets; ///< in the order in which they came
+    bool fIsWanted = false;
     std::optional<StatusMenuState> fShown;
     std::optional<bool> fTitleIsStop;
     bool fTrouble = false;

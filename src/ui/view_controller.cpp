@@ -38,8 +38,7 @@ QString objectText(const void* object, QStringView type) {
 
 ViewController::ViewController(const ViewControllerParts& parts)
     : fParts(parts),
-      fStatusLine(parts.engine.defaults, parts.engine.mainQueue, parts.outlets.ibStatusTextField,
-                  [&menu = parts.statusMenu](bool trouble) { menu.setTrouble(trouble); }),
+      fStatusLine(parts.engine.defaults, parts.engine.mainQueue, parts.outlets.ibStatusTextField),
       fAlerts(parts.engine.mainQueue, parts.engine.console, parts.outlets.alertPresenter),
       fEngine(parts.engine,
               {.updateStatusMessage =
@@ -50,8 +49,20 @@ ViewController::ViewController(const ViewControllerParts& parts)
                    [this](const QString& message, const QString& text, AlertCompletion completion) {
                        fAlerts.showProblemWithBonjourClosure(message, text, std::move(completion));
                    },
-               .ibStartButton = parts.outlets.ibStartButton},
+               .ibStartButton = parts.outlets.ibStartButton,
+               .stateChanged = [this] { fWork.look(); }},
               [&view = parts.outlets.view](KeyState state) { view.showKeyState(state); }),
+      fWork({.defaults = parts.engine.defaults,
+             .mainQueue = parts.engine.mainQueue,
+             .passStore = parts.passStore,
+             .passesUnderWay = [this] { return fEngine.passes.underWay(); },
+             .cycleState = [this] { return fEngine.syncCycle.state(); },
+             .clock = parts.engine.clock,
+             .show =
+                 [&view = parts.outlets.view, &menu = parts.statusMenu](const WorkState& work) {
+                     view.showWork(work);
+                     menu.showWork(work);
+                 }}),
       fRepeatTimer(parts.engine.mainQueue, parts.engine.console),
       fStartButtonTitle(parts.outlets.ibStartButton, parts.engine.defaults, parts.engine.mainQueue,
                         parts.engine.console),
@@ -103,7 +114,6 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .mainQueue = parts.engine.mainQueue,
           .bgQueue = parts.engine.bgQueue,
           .shell = parts.engine.commands,
-          .commands = parts.shareCommands,
           .showAlert =
               [this](const QString& message, const QString& text, AlertCompletion completion) {
                   fAlerts.showAlertWithClosure(message, text, std::nullopt, std::move(completion));
@@ -175,6 +185,9 @@ void ViewController::viewDidLoad() {
     mainQueue.asyncAfter(0.6, [this] { readVersion(); });
     mainQueue.asyncAfter(1.0, [this] { fNetwork.setupNetworkChecker(); });
     fEngine.keyState.begin();
+    fWork.begin();
+    fObservations.push_back(fParts.outlets.view.observeAttention(
+        [this](Attention attention) { fWork.setAttention(attention); }));
     fObservations.push_back(fParts.notificationCenter.observe(
         cQuitRelaunchNotification.toString(), [this](const Notification& notification) {
             handleQuitAndRelaunchNotification(notification);
@@ -215,6 +228,12 @@ void ViewController::readVersion() {
         return;
     fParts.engine.console.print(u"Got version = " + *version);
     fParts.engine.defaults.setObject(prefVersionDisplayString, *version);
+}
+
+void ViewController::showActivity(std::optional<qint64> pass) {
+    fParts.outlets.application.bringToFront();
+    if (fParts.outlets.showActivity)
+        fParts.outlets.showActivity(pass);
 }
 
 // -- the remote side

@@ -21,6 +21,7 @@
 #include "ui/start_button_title.h"
 #include "ui/status_line.h"
 #include "ui/terminal_notice.h"
+#include "ui/work_watch.h"
 
 #include <memory>
 #include <optional>
@@ -33,6 +34,7 @@ class DnssdBrowser;
 class MainWindowController;
 class NetworkChecker;
 class NotificationCenter;
+class PassStore;
 class ShareCommands;
 class StatusMenuPresence;
 class Workspace;
@@ -41,6 +43,7 @@ class Workspace;
 struct ViewControllerParts {
     EngineParts engine;
     Outlets outlets;
+    PassStore& passStore;
     NotificationCenter& notificationCenter;
     const Bundle& bundle;
     std::function<void()> quitAndRelaunch; ///< ends the program and has it started again
@@ -75,6 +78,8 @@ public:
     void ibStartRSyncProcess(Control* sender) { fEngine.syncCycle.ibStartRSyncProcess(sender); }
     void ibRSyncOnce(Control* sender) { fEngine.syncCycle.ibRSyncOnce(sender); }
     void ibRSyncOnceBonjour(Control* sender) { fEngine.syncCycle.ibRSyncOnceBonjour(sender); }
+    void ibSyncNow(Control*) { fEngine.syncCycle.syncNow(); }
+    void ibCancelPass(Control*) { fEngine.syncCycle.cancelPass(); }
     void ibSuspendTimer(Control*) { fRepeatTimer.ibSuspendTimer(); }
     void ibResumeTimer(Control*) { fRepeatTimer.ibResumeTimer(); }
     void ibKillTimer(Control*) { fRepeatTimer.ibKillTimer(); }
@@ -98,7 +103,7 @@ public:
     // The remote side.
     void ibTestShellCommand(Control*) { fConnectionTest.ibTestShellCommand(); }
     void ibTestShellCommand222(Control*) { fConnectionTest.ibTestShellCommand222(); }
-    void ibTestShellCommand111(Control*) { fConnectionTest.ibTestShellCommand111(); }
+    void ibTestShellCommand111(Control*) { fShare.ibTestShellCommand111(); }
     void ibGenerateSSHKeyStuff(Control*) { fProvisioning.ibGenerateSSHKeyStuff(); }
     void createNewPrivatePublicKeys(Control*) { fProvisioning.createNewPrivatePublicKeys(); }
     void createNewPrivatePublicKeysOLD(Control*) { fProvisioning.createNewPrivatePublicKeysOLD(); }
@@ -119,8 +124,18 @@ public:
     /// A person has finished editing the text of `object`.
     void controlTextDidEndEditing(const std::shared_ptr<Control>& object);
 
+    /// What is missing before the next pass can go well.
+    void setMissing(std::vector<ChecklistLine> missing) { fWork.setMissing(std::move(missing)); }
+    /// What the program is doing at this moment.
+    WorkState work() { return fWork.state(); }
+
     // What the tray menu asks for.
     void clickStartButton() override { fEngine.syncCycle.clickStartButton(); }
+    void syncNow() override { ibSyncNow(nullptr); }
+    void cancelPass() override { ibCancelPass(nullptr); }
+    void showActivity(std::optional<qint64> pass) override;
+    void revealFolder() override { ibRevealDestPath(nullptr); }
+    void menuShown(bool shown) override { fWork.setMenuShown(shown); }
     void quitAndRelaunch() override { ibQuitAndRelaunch(nullptr); }
 
 private:
@@ -138,6 +153,7 @@ private:
     StatusLine fStatusLine;
     Alerts fAlerts;
     Engine fEngine;
+    WorkWatch fWork;
     RepeatTimerActions fRepeatTimer;
     StartButtonTitle fStartButtonTitle;
     CommandExample fCommandExample;

@@ -54,13 +54,12 @@ const std::map<std::string, Rule>& rules() {
 }
 
 /// Qt Core headers that are values; everything else of Qt stays out of the folders above.
-const Names cValueHeaders{"QByteArray",        "QByteArrayView", "QChar",
-                          "QDateTime",         "QHash",          "QList",
-                          "QLocale",           "QMap",           "QSet",
-                          "QString",           "QStringBuilder", "QStringList",
-                          "QStringView",       "QVariant",       "QVariantList",
-                          "QVariantMap",       "QtGlobal",       "QUuid",
-                          "QLatin1StringView", "QVersionNumber"};
+const Names cValueHeaders{"QByteArray",    "QByteArrayView", "QChar",    "QDate",
+                          "QDateTime",     "QHash",          "QList",    "QLocale",
+                          "QMap",          "QSet",           "QString",  "QStringBuilder",
+                          "QStringList",   "QStringView",    "QVariant", "QVariantList",
+                          "QVariantMap",   "QtGlobal",       "QUuid",    "QLatin1StringView",
+                          "QVersionNumber"};
 
 std::string folderOf(const fs::path& relative) {
     return relative.parent_path().generic_string();

@@ -97,11 +97,10 @@ private:
             std::printf("%ld\n", overflow(1L << 40));
         else if (action == u"trap")
             __builtin_trap();
-        else if (action == u"quit-and-relaunch")
-            setAndDo([this] { Watchdog::quitAndRelaunch(); });
-        else if (action == u"interrupt")
-            setAndDo([] { ::raise(SIGINT); });
-        else if (action == u"command")
+        else if (action == u"quit-and-relaunch") {
+            fDefaults.setObject(u"setAtTheEnd", QStringLiteral("kept"));
+            Watchdog::quitAndRelaunch();
+        } else if (action == u"command")
             fBgQueue.async([this] {
                 outputWhenRunAsShellCommand(
                     fShell,
@@ -110,11 +109,6 @@ private:
                             u"while :; do echo x >> orphan; sleep 0.01; done' & "
                             u"while :; do echo x >> written; sleep 0.01; done"));
             });
-    }
-
-    void setAndDo(const std::function<void()>& work) {
-        fDefaults.setObject(u"setAtTheEnd", QStringLiteral("kept"));
-        work();
     }
 
     int* volatile fNowhere = nullptr;

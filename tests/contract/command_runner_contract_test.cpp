@@ -106,6 +106,41 @@ TYPED_TEST(CommandRunnerContract, Result_TellsThatTheTimeWasUp) {
     EXPECT_EQ(result.output, cEndless.output);
 }
 
+TYPED_TEST(CommandRunnerContract, Started_IsToldOnceOnTheCallersThreadBeforeAnythingIsReceived) {
+    const auto caller = std::this_thread::get_id();
+    std::vector<CommandId> told;
+    (void)this->fShell.runner().run({.text = this->fScript.front().command,
+                                     .received = [&](auto) { EXPECT_EQ(told.size(), 1U); },
+                                     .started =
+                                         [&](CommandId id) {
+                                             EXPECT_EQ(std::this_thread::get_id(), caller);
+                                             told.push_back(id);
+                                         }});
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_GT(told.front(), 0);
+}
+
+TYPED_TEST(CommandRunnerContract, CancelledCommand_EndsWithoutAnExitStatus) {
+    CommandRunner& runner = this->fShell.runner();
+    const auto began = std::chrono::steady_clock::now();
+    const CommandResult result = runner.run(
+        {.text = cEndless.command, .started = [&runner](CommandId id) { runner.cancel(id); }});
+    EXPECT_EQ(result.exitStatus, std::nullopt);
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(20));
+}
+
+TYPED_TEST(CommandRunnerContract, CancelOfACommandThatHasEnded_TouchesNobody) {
+    CommandRunner& runner = this->fShell.runner();
+    CommandId ended = 0;
+    const Known& known = this->fScript.front();
+    (void)runner.run({.text = known.command, .started = [&](CommandId id) { ended = id; }});
+    runner.cancel(ended);
+    const CommandResult next =
+        runner.run({.text = known.command, .started = [&](CommandId) { runner.cancel(ended); }});
+    EXPECT_EQ(next.exitStatus, 0);
+    EXPECT_EQ(next.output, known.output);
+}
+
 TYPED_TEST(CommandRunnerContract, SeveralThreads_EachGetsItsOwnOutput) {
     std::vector<std::thread> threads;
     std::vector<int> right(8, 0);

@@ -14,6 +14,7 @@ namespace {
 struct FakeWorld {
     RecordingNotices notices;
     QStringList shown() const { return notices.shown; }
+    void chooseShow() { notices.chooseShow(); }
 };
 
 struct BusWorld {
@@ -25,6 +26,11 @@ struct BusWorld {
             decoded.append(notice.replace(QStringLiteral("&lt;"), QStringLiteral("<"))
                                .replace(QStringLiteral("&gt;"), QStringLiteral(">")));
         return decoded;
+    }
+
+    void chooseShow() {
+        Q_EMIT service.ActionInvoked(static_cast<uint>(service.shown.size()),
+                                     QStringLiteral("show"));
     }
 
     PrivateBus bus;
@@ -44,11 +50,28 @@ using Worlds = ::testing::Types<FakeWorld, BusWorld>;
 TYPED_TEST_SUITE(DesktopNoticesContractTest, Worlds);
 
 TYPED_TEST(DesktopNoticesContractTest, TitleAndText_AreShownPlain) {
-    this->world.notices.showNotice(QStringLiteral("A & B"), QStringLiteral("<b>5 < 6"));
-    this->world.notices.showNotice(QStringLiteral("C"), QStringLiteral("d"));
+    this->world.notices.showNotice(
+        {.title = QStringLiteral("A & B"), .text = QStringLiteral("<b>5 < 6")});
+    this->world.notices.showNotice({.title = QStringLiteral("C"), .text = QStringLiteral("d")});
     const QStringList expected{QStringLiteral("A & B | <b>5 < 6"), QStringLiteral("C | d")};
     EXPECT_TRUE(waitInLoop([&] { return this->world.shown() == expected; }))
         << this->world.shown().join(u'\n').toStdString();
+}
+
+TYPED_TEST(DesktopNoticesContractTest, Show_IsCalledOnceWhenItIsChosen) {
+    int shows = 0;
+    this->world.notices.showNotice(
+        {.title = QStringLiteral("A"), .text = QStringLiteral("b"), .show = [&shows] { ++shows; }});
+    ASSERT_TRUE(waitInLoop([&] { return this->world.shown().size() == 1; }));
+    // The answer with the number of the notice comes after the service has shown it.
+    EXPECT_TRUE(waitInLoop([&] {
+        this->world.chooseShow();
+        return shows > 0;
+    }));
+    this->world.chooseShow();
+    this->world.notices.showNotice({.title = QStringLiteral("C"), .text = QStringLiteral("d")});
+    EXPECT_TRUE(waitInLoop([&] { return this->world.shown().size() == 2; }));
+    EXPECT_EQ(shows, 1);
 }
 
 class BusNoticesTest : public ::testing::Test {
@@ -67,28 +90,58 @@ TEST_F(BusNoticesTest, Service_GetsPlainTitleAndEscapedBody) {
     NotificationService service(desktop.get());
     ASSERT_TRUE(service.appear());
     BusConnection own(bus.address(), QStringLiteral("notices-own"));
-    BusNotices shown([this](const QString& title, const QString&) { otherwise << title; },
+    BusNotices shown([this](const Notice& notice) { otherwise << notice.title; },
                      [&own] { return own.get(); });
-    shown.showNotice(QStringLiteral("A & B"), QStringLiteral("<b>5 < 6"));
+    shown.showNotice({.title = QStringLiteral("A & B"), .text = QStringLiteral("<b>5 < 6")});
     EXPECT_TRUE(waitInLoop([&] { return !service.shown.isEmpty(); }));
     EXPECT_EQ(service.shown, QStringList{QStringLiteral("A & B | &lt;b&gt;5 &lt; 6")});
+    EXPECT_TRUE(otherwise.isEmpty());
+}
+
+TEST_F(BusNoticesTest, Choice_IsOfferedWhereThereAreChoicesAndForOurNoticesOnly) {
+    BusConnection desktop(bus.address(), QStringLiteral("notices-choosing-desktop"));
+    NotificationService service(desktop.get());
+    ASSERT_TRUE(service.appear());
+    BusConnection own(bus.address(), QStringLiteral("notices-choosing-own"));
+    BusNotices shown([this](const Notice& notice) { otherwise << notice.title; },
+                     [&own] { return own.get(); });
+    int shows = 0;
+    const Notice notice{.title = QStringLiteral("A"),
+                        .text = QStringLiteral("b"),
+                        .urgent = true,
+                        .show = [&shows] { ++shows; }};
+    shown.showNotice(notice);
+    ASSERT_TRUE(waitInLoop([&] { return service.shown.size() == 1; }));
+    EXPECT_TRUE(service.actions.contains(QStringLiteral("Show")));
+    EXPECT_EQ(service.hints.value(QStringLiteral("urgency")).toInt(), 2);
+    Q_EMIT service.ActionInvoked(77, QStringLiteral("show"));
+    Q_EMIT service.NotificationClosed(1, 2);
+    service.can.clear();
+    shown.showNotice(notice);
+    ASSERT_TRUE(waitInLoop([&] { return service.shown.size() == 2; }));
+    EXPECT_TRUE(service.actions.isEmpty());
+    Q_EMIT service.ActionInvoked(1, QStringLiteral("show"));
+    shown.showNotice({.title = QStringLiteral("C"), .text = QStringLiteral("d")});
+    ASSERT_TRUE(waitInLoop([&] { return service.shown.size() == 3; }));
+    EXPECT_EQ(service.hints.value(QStringLiteral("urgency")).toInt(), 1);
+    EXPECT_EQ(shows, 0) << "the first notice was closed, and no other was chosen";
     EXPECT_TRUE(otherwise.isEmpty());
 }
 
 TEST_F(BusNoticesTest, NoService_IsShownOtherwise) {
     BusConnection own(bus.address(), QStringLiteral("notices-alone"));
     BusNotices shown(
-        [this](const QString& title, const QString& text) { otherwise << title + u" | " + text; },
+        [this](const Notice& notice) { otherwise << notice.title + u" | " + notice.text; },
         [&own] { return own.get(); });
-    shown.showNotice(QStringLiteral("A"), QStringLiteral("b<"));
+    shown.showNotice({.title = QStringLiteral("A"), .text = QStringLiteral("b<"), .show = [] {}});
     EXPECT_TRUE(waitInLoop([&] { return !otherwise.isEmpty(); }));
     EXPECT_EQ(otherwise, QStringList{QStringLiteral("A | b<")});
 }
 
 TEST_F(BusNoticesTest, NoBus_IsShownOtherwise) {
-    BusNotices shown([this](const QString& title, const QString&) { otherwise << title; },
+    BusNotices shown([this](const Notice& notice) { otherwise << notice.title; },
                      [] { return QDBusConnection(QStringLiteral("not connected to anything")); });
-    shown.showNotice(QStringLiteral("A"), QStringLiteral("b"));
+    shown.showNotice({.title = QStringLiteral("A"), .text = QStringLiteral("b")});
     EXPECT_TRUE(waitInLoop([&] { return !otherwise.isEmpty(); }));
 }
 

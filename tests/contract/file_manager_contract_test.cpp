@@ -11,6 +11,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdlib>
+
 namespace kelvo {
 namespace {
 
@@ -22,6 +24,8 @@ public:
     void putFile(const char* name, const QByteArray& content) {
         fFiles.existing.insert(at(name));
         fFiles.written[at(name)] = content;
+        fFiles.found.push_back(
+            {at(name).toUtf8(), content.size(), QDateTime::currentDateTimeUtc()});
     }
     void putFolder(const char* name) { fFiles.folders.insert(at(name)); }
     void putLink(const char* target, const char* name) { fFiles.links[at(name)] = at(target); }
@@ -169,6 +173,41 @@ TYPED_TEST(FileManagerContractTest, WritableFolders_AreFoldersThatTakeFiles) {
     this->place.putFile("file", "");
     EXPECT_FALSE(this->files.isWritableFolder(this->place.at("file")));
     EXPECT_FALSE(this->files.isWritableFolder(this->place.readOnlyFolder()));
+}
+
+TYPED_TEST(FileManagerContractTest, FileBeneath_IsAFileOnTheWayDown) {
+    this->place.putFolder("folder");
+    this->place.putFolder("folder/deep");
+    this->place.putFile("folder/deep/film é", "12345");
+    this->place.putFile("outside", "x");
+    const QByteArray folder = this->place.at("folder").toUtf8();
+    const auto file = this->files.fileBeneath(folder, "deep/film é");
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->path, folder + "/deep/film é");
+    EXPECT_EQ(file->size, 5);
+    EXPECT_LT(std::abs(file->changed.secsTo(QDateTime::currentDateTimeUtc())), 60);
+    for (const char* name :
+         {"", "deep", "not there", "../outside", "deep/../../outside", "/deep/film é"})
+        EXPECT_FALSE(this->files.fileBeneath(folder, name)) << name;
+}
+
+TYPED_TEST(FileManagerContractTest, FilesChangedSince_AreThoseNotPassedOver) {
+    this->place.putFolder("folder");
+    this->place.putFolder("folder/deep");
+    this->place.putFolder("folder/shut");
+    this->place.putFile("folder/deep/film", "12345");
+    this->place.putFile("folder/shut/film", "x");
+    this->place.putFile("folder/half", "x");
+    this->place.putFile("outside", "x");
+    const QByteArray folder = this->place.at("folder").toUtf8();
+    const auto passedOver = [](QByteArrayView name) { return name == "shut" || name == "half"; };
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    const auto changed = this->files.filesChangedSince(folder, now.addSecs(-60), passedOver);
+    ASSERT_EQ(changed.size(), 1U);
+    EXPECT_EQ(changed[0].path, folder + "/deep/film");
+    EXPECT_EQ(changed[0].size, 5);
+    EXPECT_TRUE(this->files.filesChangedSince(folder, now.addSecs(60), passedOver).empty());
+    EXPECT_TRUE(this->files.filesChangedSince("/not/there", now.addSecs(-60), passedOver).empty());
 }
 
 TYPED_TEST(FileManagerContractTest, Home_HasNoClosingSlash) {

@@ -31,7 +31,21 @@ PassRecord samplePass(int number) {
     pull.seconds = 0.25;
     pull.text = {QString(20000, u'a'), QString(20000, u'é'), 12345};
     pull.transfer = {TransferSource::Lines, 7, 1LL << 40};
-    record.commands = {check, pull};
+    CommandRecord after;
+    after.role = CommandRole::AfterArrivals;
+    record.commands = {check, pull, after};
+    return record;
+}
+
+Arrival arrivalOf(const QByteArray& path, qint64 size) {
+    return {path, size, QDateTime::fromMSecsSinceEpoch(1'700'000'000'123 + size, Qt::UTC)};
+}
+
+PassRecord passOf(PassCause cause, std::vector<Arrival> arrivals = {}) {
+    PassRecord record;
+    record.began = QDateTime::currentDateTimeUtc();
+    record.cause = cause;
+    record.arrivals = std::move(arrivals);
     return record;
 }
 
@@ -78,6 +92,37 @@ protected:
         return answer.value_or(std::nullopt);
     }
 
+    std::vector<KeptArrival> arrivals(const ArrivalQuestion& question = {}) {
+        std::optional<std::vector<KeptArrival>> answer;
+        world.store->readArrivals(
+            question, [&](std::vector<KeptArrival> found) { answer = std::move(found); });
+        settle([&] { return answer.has_value(); });
+        return answer.value_or(std::vector<KeptArrival>());
+    }
+
+    /// The paths of the arrivals that answer `question`.
+    QList<QByteArray> paths(const ArrivalQuestion& question) {
+        QList<QByteArray> found;
+        for (const KeptArrival& each : arrivals(question))
+            found << each.arrival.path;
+        return found;
+    }
+
+    std::vector<DayOfPasses> days(int count) {
+        std::optional<std::vector<DayOfPasses>> answer;
+        world.store->readDays(count,
+                              [&](std::vector<DayOfPasses> found) { answer = std::move(found); });
+        settle([&] { return answer.has_value(); });
+        return answer.value_or(std::vector<DayOfPasses>());
+    }
+
+    Standing standing() {
+        std::optional<Standing> answer;
+        world.store->readStanding([&](Standing found) { answer = std::move(found); });
+        settle([&] { return answer.has_value(); });
+        return answer.value_or(Standing());
+    }
+
     template <typename Condition>
     void settle(Condition condition) {
         EXPECT_TRUE(waitUntil([&] {
@@ -95,6 +140,11 @@ TYPED_TEST_SUITE(PassStoreContractTest, Worlds);
 TYPED_TEST(PassStoreContractTest, EmptyStore_AnswersWithNothing) {
     EXPECT_TRUE(this->all().empty());
     EXPECT_FALSE(this->one(1).has_value());
+    EXPECT_TRUE(this->arrivals().empty());
+    EXPECT_TRUE(this->days(30).empty());
+    const Standing standing = this->standing();
+    EXPECT_FALSE(standing.last.has_value() || standing.lastSuccess.has_value());
+    EXPECT_EQ(standing.fault + standing.aside, QString());
 }
 
 TYPED_TEST(PassStoreContractTest, Records_ComeBackNewestFirstWithoutCommands) {
@@ -156,8 +206,118 @@ TYPED_TEST(PassStoreContractTest, Observer_HearsEachRecordUntilItsSubscriptionEn
     EXPECT_EQ(told.size(), 1U);
 }
 
+TYPED_TEST(PassStoreContractTest, Arrivals_ComeBackWithTheirPassAndNewestFirst) {
+    const std::vector<Arrival> first{arrivalOf("/in/a.mov", 1), arrivalOf("/in/bad \xff.mov", 2)};
+    std::vector<Arrival> told;
+    const auto subscription =
+        this->world.store->observe([&](const PassRecord& record) { told = record.arrivals; });
+    this->world.store->append(passOf(PassCause::Well, first));
+    this->settle([&] { return !told.empty(); });
+    EXPECT_EQ(told, first);
+    this->world.store->append(passOf(PassCause::Well, {arrivalOf("/in/c\nd.mov", 1LL << 40)}));
+    const auto passes = this->all();
+    ASSERT_EQ(passes.size(), 2U);
+    EXPECT_TRUE(passes[1].arrivals.empty());
+    EXPECT_EQ(this->one(passes[1].id).value_or(PassRecord()).arrivals, first);
+    const auto found = this->arrivals();
+    ASSERT_EQ(found.size(), 3U);
+    EXPECT_EQ(found[0].arrival, arrivalOf("/in/c\nd.mov", 1LL << 40));
+    EXPECT_EQ(found[0].pass, passes[0].id);
+    EXPECT_EQ(found[1].arrival, first[1]);
+    EXPECT_EQ(found[2].pass, passes[1].id);
+    EXPECT_GT(found[0].id, found[1].id);
+}
+
+TYPED_TEST(PassStoreContractTest, ArrivalQuestion_TakesPages) {
+    std::vector<Arrival> many;
+    for (int i = 0; i < 10; ++i)
+        many.push_back(arrivalOf(QByteArray::number(i), i));
+    this->world.store->append(passOf(PassCause::Well, many));
+    const auto page = this->arrivals({.most = 4});
+    ASSERT_EQ(page.size(), 4U);
+    EXPECT_EQ(this->paths({.before = page.back().id, .most = 3}),
+              (QList<QByteArray>{"5", "4", "3"}));
+}
+
+TYPED_TEST(PassStoreContractTest, ArrivalQuestion_FindsTextInAnyCaseAndComposition) {
+    this->world.store->append(passOf(PassCause::Well, {arrivalOf("/in/Cafe\xcc\x81 Noir.mov", 1),
+                                                       arrivalOf("/in/100%_real.mov", 2),
+                                                       arrivalOf("/in/\xff STRAND.mov", 3)}));
+    EXPECT_EQ(this->paths({.text = QStringLiteral("CAFÉ n")}).size(), 1);
+    EXPECT_EQ(this->paths({.text = QStringLiteral("strand")}).size(), 1);
+    EXPECT_EQ(this->paths({.text = QStringLiteral("%_")}).size(), 1) << "no patterns";
+    EXPECT_EQ(this->paths({.text = QStringLiteral("0_r")}).size(), 0);
+    EXPECT_EQ(this->paths({.text = QStringLiteral(".mov"), .most = 2}).size(), 2);
+    const auto all = this->arrivals();
+    ASSERT_EQ(all.size(), 3U);
+    EXPECT_EQ(this->paths({.text = QStringLiteral(".mov"), .before = all[0].id}).size(), 2);
+}
+
+TYPED_TEST(PassStoreContractTest, Days_AddUpWhatTheirPassesBrought) {
+    PassRecord pass = passOf(PassCause::Well);
+    pass.transfer = {TransferSource::Statistics, 2, 1000};
+    const QDateTime noon(QDate::currentDate(), QTime(12, 0));
+    pass.began = noon.toUTC();
+    this->world.store->append(pass);
+    pass.transfer = {TransferSource::Lines, 3, std::nullopt};
+    this->world.store->append(pass);
+    for (const int ago : {3, 2, 1}) {
+        pass.began = noon.addDays(-ago).toUTC();
+        pass.cause = ago == 1 ? PassCause::Cancelled : PassCause::DiskFull;
+        this->world.store->append(pass);
+        pass.cause = PassCause::Well;
+        this->world.store->append(pass);
+    }
+    const QDate today = noon.date();
+    EXPECT_EQ(this->days(3), (std::vector<DayOfPasses>{{today.addDays(-2), 6, 0, true},
+                                                       {today.addDays(-1), 6, 0, false},
+                                                       {today, 5, 1000, false}}));
+}
+
+TYPED_TEST(PassStoreContractTest, Days_GoByWhatArrivedWhereThatIsKnown) {
+    PassRecord pass = passOf(PassCause::Cancelled, {arrivalOf("/in/a.mov", 30)});
+    pass.transfer = {TransferSource::Lines, 2, std::nullopt};
+    pass.began = QDateTime(QDate::currentDate(), QTime(12, 0)).toUTC();
+    this->world.store->append(pass);
+    pass.arrivals = {arrivalOf("/in/b.mov", 400), arrivalOf("/in/c.mov", 5000)};
+    pass.transfer = {TransferSource::Statistics, 2, 5401};
+    this->world.store->append(pass);
+    EXPECT_EQ(this->days(1), (std::vector<DayOfPasses>{{QDate::currentDate(), 3, 5430, false}}));
+}
+
+TYPED_TEST(PassStoreContractTest, Standing_FollowsThePassesThatSaySomething) {
+    const auto now = QDateTime::fromMSecsSinceEpoch(1'700'000'000'000, Qt::UTC);
+    PassRecord pass = passOf(PassCause::Well, {arrivalOf("/in/a.mov", 1)});
+    const auto append = [&](PassCause cause, int second) {
+        pass.cause = cause;
+        pass.began = now.addSecs(second);
+        this->world.store->append(pass);
+    };
+    append(PassCause::HostAway, 0);
+    EXPECT_EQ(this->standing().troubleSince, now);
+    EXPECT_FALSE(this->standing().lastSuccess.has_value());
+    append(PassCause::Well, 1);
+    Standing standing = this->standing();
+    EXPECT_EQ(standing.passesInTrouble, 0);
+    EXPECT_FALSE(standing.troubleSince.isValid());
+    ASSERT_TRUE(standing.last && standing.lastSuccess);
+    EXPECT_EQ(standing.last->id, standing.lastSuccess->id);
+    EXPECT_TRUE(standing.last->commands.empty() && standing.last->arrivals.empty());
+    append(PassCause::DiskFull, 2);
+    append(PassCause::Interrupted, 3);
+    append(PassCause::AfterFailed, 4);
+    append(PassCause::Cancelled, 5);
+    standing = this->standing();
+    EXPECT_EQ(standing.passesInTrouble, 2);
+    EXPECT_EQ(standing.troubleSince, now.addSecs(2));
+    ASSERT_TRUE(standing.last && standing.lastSuccess);
+    EXPECT_EQ(standing.last->cause, PassCause::AfterFailed);
+    EXPECT_EQ(standing.lastSuccess->began, now.addSecs(1));
+}
+
 TYPED_TEST(PassStoreContractTest, StoreThatIsGone_AnswersNobody) {
     bool called = false;
+    this->world.store->readStanding([&](const Standing&) { called = true; });
     this->world.store->readAll([&](const std::vector<PassRecord>&) { called = true; });
     this->world.store.reset();
     this->world.mainQueue.advance(1);

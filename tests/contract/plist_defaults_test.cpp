@@ -196,6 +196,8 @@ TEST_P(PlistDefaultsBadFileTest, AtStart_IsKeptAsideAndSaid) {
     QFile kept(aside);
     ASSERT_TRUE(kept.open(QFile::ReadOnly));
     EXPECT_EQ(kept.readAll(), GetParam().bytes);
+    EXPECT_EQ(defaults->standing().aside, aside);
+    EXPECT_EQ(defaults->standing().fault, QString());
     ASSERT_EQ(fConsole.logged().size(), 1);
     EXPECT_TRUE(fConsole.logged()[0].contains(fFolder.path() + u' '));
     EXPECT_TRUE(fConsole.logged()[0].contains(aside));
@@ -247,8 +249,10 @@ TEST_F(PlistDefaultsTest, PipeInThePlaceOfTheFile_DoesNotHoldUsUp) {
     defaults->setObject(u"a", 1);
     defaults->synchronize();
     EXPECT_TRUE(fFolder.otherFiles().isEmpty()) << "no file, no damage";
+    EXPECT_FALSE(defaults->standing().fault.isEmpty());
     ASSERT_TRUE(QFile::remove(fFolder.path()));
     defaults->synchronize();
+    EXPECT_EQ(defaults->standing().fault, QString());
     EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{1}}}));
 }
 
@@ -261,6 +265,8 @@ TEST_F(PlistDefaultsTest, DamagedFileLeftAlone_StaysAndNothingIsKnown) {
         EXPECT_TRUE(
             defaults.trouble().endsWith(QStringLiteral("are not known: its end is missing")))
             << defaults.trouble().toStdString();
+        EXPECT_EQ(defaults.standing().fault, defaults.trouble());
+        EXPECT_EQ(defaults.standing().aside, QString());
         defaults.setObject(u"a", 1);
         defaults.synchronize();
     }

@@ -333,6 +333,80 @@ TEST_F(PosixShellRunnerTest, BoundReachedWhileOnlyTheOutputIsHeld_KeepsTheShells
     EXPECT_EQ(::kill(away, SIGKILL), 0) << "it left the session, so it is not ours to end";
 }
 
+TEST_F(PosixShellRunnerTest, Cancel_ReturnsAtOnceAndEndsTheWholeSession) {
+    Meeting meeting;
+    std::promise<CommandId> id;
+    auto running = std::async(std::launch::async, [&] {
+        return fRunner.run(
+            {.text = QString(u"sleep 600 & echo child $!; " + meeting.announce() + u"wait"),
+             .started = [&](CommandId started) { id.set_value(started); }});
+    });
+    meeting.wait();
+    const auto began = std::chrono::steady_clock::now();
+    fRunner.cancel(id.get_future().get());
+    EXPECT_LT(std::chrono::steady_clock::now() - began, 100ms);
+    const CommandResult result = running.get();
+    EXPECT_LT(std::chrono::steady_clock::now() - began, 1900ms) << "nothing had to be forced";
+    EXPECT_EQ(result.exitStatus, std::nullopt);
+    const pid_t child = numberAfter(result.output, QStringLiteral("child "));
+    ASSERT_GT(child, 0) << "what was printed before is kept";
+    EXPECT_TRUE(isGone(child));
+}
+
+TEST_F(PosixShellRunnerTest, Cancel_ForcesWhatIgnoresTheRequestAndLeavesOthersAlone) {
+    Meeting meeting;
+    std::promise<CommandId> id;
+    auto other = start(QStringLiteral("sleep 3; echo done"));
+    auto running = std::async(std::launch::async, [&] {
+        return fRunner.run(
+            {.text = QString(u"trap '' TERM; " + meeting.announce() + u"while :; do sleep 1; done"),
+             .started = [&](CommandId started) { id.set_value(started); }});
+    });
+    meeting.wait();
+    const auto began = std::chrono::steady_clock::now();
+    fRunner.cancel(id.get_future().get());
+    EXPECT_EQ(running.get().exitStatus, std::nullopt);
+    EXPECT_GE(std::chrono::steady_clock::now() - began, 1900ms);
+    EXPECT_LT(std::chrono::steady_clock::now() - began, 10s);
+    EXPECT_EQ(other.get(), u"done\n");
+}
+
+TEST_F(PosixShellRunnerTest, Started_TellsTheShellsOwnNumber) {
+    CommandId id = 0;
+    const CommandResult result = fRunner.run(
+        {.text = QStringLiteral("echo $$"), .started = [&](CommandId told) { id = told; }});
+    EXPECT_EQ(result.output, QString(QString::number(id) + u'\n'));
+    bool told = false;
+    (void)fRunner.run(
+        {.text = QString(200000, u'x'), .started = [&told](CommandId) { told = true; }});
+    EXPECT_FALSE(told) << "it could not be started";
+}
+
+TEST_F(PosixShellRunnerTest, Input_ArrivesByteForByte) {
+    const QByteArray paths("/a\0/b c\n\0/\xff\xfe\0", 13);
+    EXPECT_EQ(fRunner.run({.text = QStringLiteral("od -An -v -tx1 | tr -d ' \\n'"), .input = paths})
+                  .output,
+              QString::fromLatin1(paths.toHex()));
+}
+
+TEST_F(PosixShellRunnerTest, InputNobodyReads_HoldsNobodyUp) {
+    const QByteArray much(qsizetype{8} << 20, 'x');
+    EXPECT_EQ(fRunner.run({.text = QStringLiteral("exit 3"), .input = much}).exitStatus, 3);
+    EXPECT_EQ(
+        fRunner
+            .run({.text = QStringLiteral("head -c 2; exec <&-; sleep 0.1; exit 4"), .input = much})
+            .exitStatus,
+        4);
+}
+
+TEST_F(PosixShellRunnerTest, Variables_StandInTheEnvironmentOfTheirCommandAlone) {
+    const QString print = QStringLiteral("env | grep -E '^(ARRIVALS|TMPDIR)=' | sort");
+    EXPECT_EQ(
+        fRunner.run({.text = print, .variables = {{"ARRIVALS", "7"}, {"TMPDIR", "/x y"}}}).output,
+        u"ARRIVALS=7\nTMPDIR=/x y\n");
+    EXPECT_FALSE(run(print).contains(u"ARRIVALS"));
+}
+
 TEST_F(PosixShellRunnerTest, BoundReached_LeavesOtherCommandsAlone) {
     Meeting meeting;
     auto other = start(meeting.announce() + u"sleep 1; echo whole");

@@ -1,15 +1,7 @@
 // The record of passes on disk: limits, damage, locks, full disks, two programs.
-#include "adapters/passes/sqlite_pass_store.h"
-#include "fakes/recording_console.h"
-#include "fakes/virtual_queues.h"
-#include "support/wait_until.h"
+#include "contract/sqlite_pass_fixture.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSqlDatabase>
-#include <QSqlQuery>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -20,61 +12,6 @@
 
 namespace kelvo {
 namespace {
-
-PassRecord numbered(int number) {
-    PassRecord record;
-    record.began = QDateTime::fromMSecsSinceEpoch(number, Qt::UTC);
-    record.lastLine = QString::number(number);
-    record.commands.push_back({});
-    return record;
-}
-
-class SqlitePassStoreTest : public ::testing::Test {
-protected:
-    std::unique_ptr<SqlitePassStore> openStore(int most = 1000) {
-        return std::make_unique<SqlitePassStore>(path, mainQueue, console, most);
-    }
-
-    QStringList lines(SqlitePassStore& store) {
-        std::optional<QStringList> answer;
-        store.readAll([&](const std::vector<PassRecord>& records) {
-            answer.emplace();
-            for (const PassRecord& record : records)
-                answer->append(record.lastLine);
-        });
-        EXPECT_TRUE(waitUntil([&] {
-            mainQueue.runDue();
-            return answer.has_value();
-        }));
-        return answer.value_or(QStringList());
-    }
-
-    qsizetype logged(const QString& part) const { return console.logged().filter(part).size(); }
-
-    QStringList setAside() const {
-        return QDir(folder.path()).entryList({QStringLiteral("passes.sqlite.corrupt-*")});
-    }
-
-    /// Runs `statements` as another program would, on a connection of its own.
-    void asOther(const QStringList& statements) const {
-        {
-            auto other = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"),
-                                                   QStringLiteral("other program"));
-            other.setDatabaseName(path);
-            ASSERT_TRUE(other.open());
-            for (const QString& statement : statements) {
-                QSqlQuery query(other);
-                ASSERT_TRUE(query.exec(statement)) << statement.toUtf8().constData();
-            }
-        }
-        QSqlDatabase::removeDatabase(QStringLiteral("other program"));
-    }
-
-    QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("passes.sqlite"));
-    VirtualMainQueue mainQueue;
-    RecordingConsole console;
-};
 
 TEST_F(SqlitePassStoreTest, Records_AreThereInTheNextRun) {
     openStore()->append(numbered(1));
@@ -92,7 +29,7 @@ TEST_F(SqlitePassStoreTest, File_IsPrivate) {
 
 TEST_F(SqlitePassStoreTest, TooMany_DropsTheOldestWithTheirCommands) {
     {
-        const auto store = openStore(5);
+        const auto store = openStore({.passes = 5});
         for (int i = 1; i <= 8; ++i)
             store->append(numbered(i));
         EXPECT_EQ(lines(*store).join(u' '), QStringLiteral("8 7 6 5 4"));
@@ -116,6 +53,8 @@ TEST_F(SqlitePassStoreTest, FileThatIsNoDatabase_IsKeptAsideAndSaid) {
     QFile kept(folder.filePath(setAside().constFirst()));
     ASSERT_TRUE(kept.open(QFile::ReadOnly));
     EXPECT_TRUE(kept.readAll().startsWith("these are my"));
+    EXPECT_EQ(standing(*store).aside, kept.fileName());
+    EXPECT_EQ(standing(*store).fault, QString());
 }
 
 TEST_F(SqlitePassStoreTest, DamageInTheMiddle_IsKeptAsideToo) {
@@ -137,14 +76,45 @@ TEST_F(SqlitePassStoreTest, DamageInTheMiddle_IsKeptAsideToo) {
     EXPECT_EQ(setAside().size(), 1);
 }
 
-TEST_F(SqlitePassStoreTest, FileOfANewerProgram_IsLeftAlone) {
-    openStore()->append(numbered(1));
-    asOther({QStringLiteral("PRAGMA user_version = 99")});
-    const auto store = openStore();
-    store->append(numbered(2));
-    EXPECT_TRUE(lines(*store).isEmpty());
-    EXPECT_EQ(logged(QStringLiteral("a newer Kelvo Mirror")), 1);
-    EXPECT_TRUE(setAside().isEmpty());
+TEST_F(SqlitePassStoreTest, Standing_OutlivesThePasses) {
+    {
+        const auto store = openStore({.passes = 5});
+        PassRecord pass = numbered(1);
+        pass.cause = PassCause::Well;
+        pass.transfer = {TransferSource::Statistics, 3, 700};
+        store->append(pass);
+        for (int i = 2; i < 20; ++i) {
+            pass.lastLine = QString::number(i);
+            pass.cause = i < 10 ? PassCause::DiskFull : PassCause::Interrupted;
+            pass.transfer = {};
+            store->append(pass);
+        }
+    }
+    const auto store = openStore({.passes = 5});
+    EXPECT_EQ(lines(*store).constLast(), QStringLiteral("15"));
+    const Standing found = standing(*store);
+    ASSERT_TRUE(found.last && found.lastSuccess);
+    EXPECT_EQ(found.lastSuccess->lastLine, QStringLiteral("1"));
+    EXPECT_EQ(found.last->lastLine, QStringLiteral("9"));
+    EXPECT_EQ(found.passesInTrouble, 8);
+    ASSERT_EQ(days(*store).size(), 1U);
+    EXPECT_EQ(days(*store)[0].bytes, 700);
+}
+
+TEST_F(SqlitePassStoreTest, TooManyArrivals_DropsTheOldestAndOutlivesTheirPasses) {
+    const auto store = openStore({.passes = 2, .arrivals = 4});
+    for (int i = 0; i < 3; ++i) {
+        PassRecord pass = numbered(i);
+        for (int file = 0; file < 2; ++file)
+            pass.arrivals.push_back({QByteArray::number(i * 2 + file), 1, pass.began});
+        store->append(pass);
+    }
+    store->append(numbered(4));
+    const auto found = arrivals(*store);
+    ASSERT_EQ(found.size(), 4U);
+    EXPECT_EQ(found.front().arrival.path, "5");
+    EXPECT_EQ(found.back().arrival.path, "2");
+    EXPECT_EQ(lines(*store).size(), 2);
 }
 
 TEST_F(SqlitePassStoreTest, PlaceThatCannotBeWritten_IsSaidOnceAndMadeGoodLater) {
@@ -226,6 +196,8 @@ TEST_F(SqlitePassStoreTest, FullDisk_KeepsRecordsInMemoryUntilThereIsRoom) {
         store->append(large);
         EXPECT_EQ(lines(*store).size(), 1);
         EXPECT_EQ(logged(QStringLiteral("set aside for now")), 1);
+        EXPECT_EQ(logged(QStringLiteral("works again")), 0) << "reading is not writing";
+        EXPECT_FALSE(standing(*store).fault.isEmpty());
         ASSERT_TRUE(filler.remove());
         store->append(numbered(3));
         EXPECT_EQ(lines(*store).join(u' '), QStringLiteral("3 2 1"));

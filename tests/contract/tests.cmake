@@ -9,6 +9,7 @@ target_link_libraries(network_watcher PRIVATE kelvo_adapters kelvo_fakes)
 kelvo_tests(contract
   TIMEOUT 120
   SOURCES
+    contract/arrivals_test.cpp
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
     contract/console_contract_test.cpp
@@ -25,6 +26,7 @@ kelvo_tests(contract
     contract/login_item_contract_test.cpp
     contract/mac_volume_search_test.cpp
     contract/network_checker_contract_test.cpp
+    contract/pass_progress_test.cpp
     contract/pass_store_contract_test.cpp
     contract/plist_codec_test.cpp
     contract/plist_defaults_faults_test.cpp
@@ -43,12 +45,15 @@ kelvo_tests(contract
     contract/single_copy_contract_test.cpp
     contract/shell_words_contract_test.cpp
     contract/words_of_passes_test.cpp
+    contract/sqlite_pass_layout_test.cpp
     contract/sqlite_pass_store_test.cpp
     contract/stream_console_test.cpp
     contract/system_information_test.cpp
     contract/terminal_contract_test.cpp
+    contract/terminal_line_test.cpp
     contract/terminal_window_test.cpp
     contract/thread_pool_queue_test.cpp
+    contract/tray_item_contract_test.cpp
     contract/user_defaults_contract_test.cpp
     contract/utf8_collector_test.cpp
     contract/workspace_contract_test.cpp

@@ -21,6 +21,25 @@ public:
     bool isWritableFolder(const QString& path) const override {
         return path != guarded && folders.contains(followed(path));
     }
+    std::optional<FoundFile> fileBeneath(const QByteArray& folder,
+                                         const QByteArray& name) const override {
+        const QByteArray path = folder + '/' + name;
+        const auto file = std::ranges::find(found, path, &FoundFile::path);
+        return file == found.end() ? std::nullopt : std::optional(*file);
+    }
+    std::vector<FoundFile>
+    filesChangedSince(const QByteArray& folder, const QDateTime& moment,
+                      const std::function<bool(QByteArrayView name)>& passedOver) const override {
+        std::vector<FoundFile> changed;
+        const QByteArray inside = folder + '/';
+        for (const FoundFile& file : found) {
+            const auto names = file.path.mid(inside.size()).split('/');
+            if (file.path.startsWith(inside) && file.changed >= moment &&
+                std::ranges::none_of(names, passedOver))
+                changed.push_back(file);
+        }
+        return changed;
+    }
     QString homeDirectory() const override { return home; }
     FolderOrFault temporaryFolder() override {
         if (!temporary.path.isEmpty() && !folders.contains(temporary.path)) {
@@ -73,7 +92,8 @@ public:
     QStringList removed;                       ///< every path so far
     QList<std::pair<QString, unsigned>> modes; ///< every one given so far
     int modeResult = 0;
-    QString guarded; ///< nothing changes at this path
+    std::vector<FoundFile> found; ///< what the two operations for files of a folder know of
+    QString guarded;              ///< nothing changes at this path
 
 private:
     QString followed(const QString& path) const { return links.value(path, path); }

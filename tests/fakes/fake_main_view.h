@@ -19,6 +19,12 @@ public:
     void showNetworkStatus(const QString& text) override { networkLines.push_back(text); }
     void showTesting(bool testing) override { testSigns.push_back(testing); }
     void showKeyState(KeyState state) override { keyStates.push_back(state); }
+    void showWork(const WorkState& state) override { works.push_back(state); }
+    Subscription observeAttention(std::function<void(Attention)> changed) override {
+        changed(Attention::Seen);
+        *attention = std::move(changed);
+        return Subscription([attention = attention] { *attention = {}; });
+    }
     void beep() override { ++beeps; }
     Subscription monitorRightMouseDown(const Control& view,
                                        std::function<void(bool)> handler) override {
@@ -40,7 +46,11 @@ public:
     int beeps = 0;
     std::vector<QString> networkLines; ///< every text so far
     std::vector<bool> testSigns;       ///< every call so far
+    std::vector<WorkState> works;      ///< every state so far
     std::vector<KeyState> keyStates;   ///< every state so far
+    /// Tells who follows the view; it does nothing while nobody asks.
+    std::shared_ptr<std::function<void(Attention)>> attention =
+        std::make_shared<std::function<void(Attention)>>();
     std::shared_ptr<std::map<const Control*, std::function<void(bool)>>> monitors =
         std::make_shared<std::map<const Control*, std::function<void(bool)>>>();
 };

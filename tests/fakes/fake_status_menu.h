@@ -13,7 +13,7 @@ namespace kelvo {
 
 class FakeTrayHost final : public TrayHost {
 public:
-    bool isPresent() const override { return fPresent; }
+    TrayKind kind() const override { return fKind; }
     Subscription observe(std::function<void()> changed) override {
         auto observer = std::make_shared<Observer>(Observer{std::move(changed)});
         fObservers->push_back(observer);
@@ -25,8 +25,9 @@ public:
     }
 
     /// A tray appears or goes.
-    void setPresent(bool present) {
-        if (std::exchange(fPresent, present) == present)
+    void setPresent(bool present) { setKind(present ? TrayKind::X11 : TrayKind::None); }
+    void setKind(TrayKind kind) {
+        if (std::exchange(fKind, kind) == kind)
             return;
         for (const auto& observer : std::vector(*fObservers)) {
             if (!observer->ended)
@@ -39,7 +40,7 @@ private:
         std::function<void()> changed;
         bool ended = false;
     };
-    bool fPresent = false;
+    TrayKind fKind = TrayKind::None;
     std::shared_ptr<std::vector<std::shared_ptr<Observer>>> fObservers =
         std::make_shared<std::vector<std::shared_ptr<Observer>>>();
 };
@@ -53,6 +54,7 @@ public:
         fState = state;
         shown.push_back(state);
     }
+    void showWork(const WorkState& state) override { works.push_back(state); }
     void setStartTitle(const QString& title) override { startTitle = title; }
     void hide() override {
         fState.reset();
@@ -63,16 +65,26 @@ public:
     /// The state of the icon that a person sees; nothing without an icon.
     std::optional<StatusMenuState> visible() const { return isReachable() ? fState : std::nullopt; }
 
-    /// A person chooses an entry; false when there is no icon to choose it from.
+    /// A person chooses an entry; false when there is no icon to choose it from, or the entry is
+    /// disabled.
     bool choose(std::function<void()> StatusMenuActions::*entry) {
-        if (!isReachable())
+        const WorkState work = works.empty() ? WorkState{} : works.back();
+        if (!isReachable() || (entry == &StatusMenuActions::syncNow && !work.maySyncNow) ||
+            (entry == &StatusMenuActions::cancelPass && !work.mayCancel))
             return false;
         if (const auto action = fActions.*entry)
             action();
         return true;
     }
 
+    /// A person opens the menu or leaves it.
+    void openMenu(bool open) {
+        if (isReachable() && fActions.menuShown)
+            fActions.menuShown(open);
+    }
+
     std::vector<StatusMenuState> shown; ///< every call of show so far
+    std::vector<WorkState> works;       ///< every state of work so far
     int hides = 0;
     QString startTitle;
 

@@ -28,6 +28,9 @@ public:
 
     bool areKnown() const override { return fKnown; }
     void setKnown(bool known) { fKnown = known; }
+    SettingsStanding standing() const override { return settingsStanding; }
+
+    SettingsStanding settingsStanding; ///< what the store says of itself
 
     int synchronized() const { return fSynchronized; }
 

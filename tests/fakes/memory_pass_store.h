@@ -20,9 +20,18 @@ public:
         const std::lock_guard lock(fState->mutex);
         fState->records.push_back(record);
         fState->records.back().id = ++fState->lastId;
+        for (const Arrival& arrival : record.arrivals)
+            fState->arrivals.push_back({++fState->lastArrival, fState->lastId, arrival});
+        if (fState->arrivals.size() > cMostArrivals)
+            fState->arrivals.erase(fState->arrivals.begin(),
+                                   fState->arrivals.end() - cMostArrivals);
+        fState->standing.add(fState->records.back());
+        fState->noteDay(record);
         if (fState->records.size() > cMostPasses)
             fState->records.erase(fState->records.begin());
-        fMainQueue.async([state = fState, told = withoutCommands(fState->records.back())] {
+        PassRecord told = fState->records.back();
+        told.commands.clear();
+        fMainQueue.async([state = fState, told = std::move(told)] {
             for (const auto& [number, observer] : std::map(state->observers))
                 observer(told);
         });
@@ -34,7 +43,7 @@ public:
                 return;
             std::vector<PassRecord> all;
             for (auto record = state->records.rbegin(); record != state->records.rend(); ++record)
-                all.push_back(withoutCommands(*record));
+                all.push_back(asListed(*record));
             answer(std::move(all));
         });
     }
@@ -48,6 +57,49 @@ public:
         });
     }
 
+    void readArrivals(const ArrivalQuestion& question, Arrivals answer) override {
+        fMainQueue.async([state = fState, alive = std::weak_ptr(fAlive), question, answer] {
+            if (alive.expired())
+                return;
+            std::vector<KeptArrival> found;
+            const QString text = foldedText(question.text);
+            for (auto kept = state->arrivals.rbegin(); kept != state->arrivals.rend(); ++kept) {
+                if ((question.before == 0 || kept->id < question.before) &&
+                    foldedText(QString::fromUtf8(kept->arrival.path)).contains(text) &&
+                    std::cmp_less(found.size(), question.most))
+                    found.push_back(*kept);
+            }
+            answer(std::move(found));
+        });
+    }
+
+    void readDays(int days, Days answer) override {
+        fMainQueue.async([state = fState, alive = std::weak_ptr(fAlive), days, answer] {
+            if (alive.expired())
+                return;
+            const QDate first = QDate::currentDate().addDays(1 - days);
+            std::vector<DayOfPasses> all;
+            for (const auto& [date, day] : state->days) {
+                if (date >= first)
+                    all.push_back(day);
+            }
+            answer(std::move(all));
+        });
+    }
+
+    void readStanding(StandingAnswer answer) override {
+        fMainQueue.async([state = fState, alive = std::weak_ptr(fAlive), answer] {
+            if (!alive.expired())
+                answer(state->standing);
+        });
+    }
+
+    /// What the store says of itself from now on.
+    void setFault(const QString& fault, const QString& aside) {
+        fState->standing.fault = fault;
+        fState->standing.aside = aside;
+    }
+
     Subscription observe(std::function<void(const PassRecord&)> observer) override {
         const int number = fState->next++;
         fState->observers.emplace(number, std::move(observer));
@@ -56,15 +108,35 @@ public:
 
 private:
     struct State {
+        void noteDay(const PassRecord& record) {
+            const QDate date = record.began.toLocalTime().date();
+            DayOfPasses& day = days[date];
+            day.day = date;
+            for (const Arrival& arrival : record.arrivals) {
+                ++day.files;
+                day.bytes += arrival.size;
+            }
+            if (record.arrivals.empty()) {
+                day.files += record.transfer.files.value_or(0);
+                day.bytes += record.transfer.bytes.value_or(0);
+            }
+            day.trouble = day.trouble || isTrouble(record.cause);
+        }
+
         std::mutex mutex;
+        std::vector<KeptArrival> arrivals;
+        std::map<QDate, DayOfPasses> days;
+        Standing standing;
+        qint64 lastArrival = 0;
         std::vector<PassRecord> records;
         std::map<int, std::function<void(const PassRecord&)>> observers;
         qint64 lastId = 0;
         int next = 0;
     };
 
-    static PassRecord withoutCommands(PassRecord record) {
+    static PassRecord asListed(PassRecord record) {
         record.commands.clear();
+        record.arrivals.clear();
         return record;
     }
 

@@ -5,15 +5,28 @@
 
 #include <QStringList>
 
+#include <utility>
+#include <vector>
+
 namespace kelvo {
 
 class RecordingNotices final : public DesktopNotices {
 public:
-    void showNotice(const QString& title, const QString& text) override {
-        shown << title + u" | " + text;
+    void showNotice(const Notice& notice) override {
+        shown << notice.title + u" | " + notice.text;
+        notices.push_back(notice);
+    }
+
+    /// A person chooses "Show" on the newest notice; false when it offers no such choice.
+    bool chooseShow() {
+        const auto show = std::exchange(notices.back().show, nullptr);
+        if (show)
+            show();
+        return show != nullptr;
     }
 
     QStringList shown; ///< "<title> | <text>"
+    std::vector<Notice> notices;
 };
 
 } // namespace kelvo

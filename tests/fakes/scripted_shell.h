@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <map>
 #include <mutex>
 #include <optional>
 #include <stdexcept>
@@ -21,39 +22,72 @@ public:
     /// Commands that contain `part` get this answer; a later rule goes before an earlier one.
     void answerTo(const QString& part, Answer answer) {
         const std::lock_guard lock(fMutex);
-        fRules.push_back({part, std::move(answer)});
+        fRules.push_back({.part = part, .answer = std::move(answer)});
     }
     void answerTo(const QString& part, const QString& output) {
         answerTo(part, [output](const QString&) { return output; });
     }
 
-    /// Commands that contain `part` print `soFar` and then never end by themselves.
+    /// The same, with an exit status.
+    void answerTo(const QString& part, const QString& output, int exitStatus) {
+        const std::lock_guard lock(fMutex);
+        fRules.push_back({.part = part,
+                          .answer = [output](const QString&) { return output; },
+                          .exitStatus = exitStatus});
+    }
+
+    /// Commands that contain `part` print `soFar` and then never end by themselves. One that is
+    /// not bounded is to be cancelled before its `Answer` returns or by `started`.
     void neverEnds(const QString& part, const QString& soFar) {
         const std::lock_guard lock(fMutex);
-        fRules.push_back({part, [soFar](const QString&) { return soFar; }, true});
+        fRules.push_back(
+            {.part = part, .answer = [soFar](const QString&) { return soFar; }, .endless = true});
     }
 
     CommandResult run(const Command& command) override {
         const Rule rule = ruleFor(command);
-        if (rule.endless && !command.seconds)
-            throw std::logic_error("nobody bounded a command that never ends");
+        const CommandId id = enter();
+        if (command.started)
+            command.started(id);
         CommandResult result{.output = rule.answer ? rule.answer(command.text) : QString(),
                              .errors = {},
-                             .exitStatus = rule.endless ? 124 : 0};
+                             .exitStatus = rule.endless ? 124 : rule.exitStatus};
+        if (leave(id))
+            result.exitStatus.reset();
+        else if (rule.endless && !command.seconds)
+            throw std::logic_error("nobody bounded a command that never ends");
         if (command.received && !result.output.isEmpty())
             command.received(result.output.toUtf8());
         return result;
     }
 
+    void cancel(CommandId command) override {
+        const std::lock_guard lock(fMutex);
+        if (fRunning.contains(command))
+            fRunning[command] = true;
+    }
+
+    /// As they were run, without their functions.
+    std::vector<Command> asked() const {
+        const std::lock_guard lock(fMutex);
+        return fAsked;
+    }
+
     QStringList commands() const {
         const std::lock_guard lock(fMutex);
-        return fCommands;
+        QStringList texts;
+        for (const Command& command : fAsked)
+            texts.append(command.text);
+        return texts;
     }
 
     /// The seconds each command was given; nothing for one that may take as long as it likes.
     std::vector<std::optional<double>> bounds() const {
         const std::lock_guard lock(fMutex);
-        return fBounds;
+        std::vector<std::optional<double>> seconds;
+        for (const Command& command : fAsked)
+            seconds.push_back(command.seconds);
+        return seconds;
     }
 
 private:
@@ -61,12 +95,27 @@ private:
         QString part;
         Answer answer;
         bool endless = false;
+        int exitStatus = 0;
     };
+
+    CommandId enter() {
+        const std::lock_guard lock(fMutex);
+        fRunning[++fLast] = false;
+        return fLast;
+    }
+
+    /// Whether it was cancelled.
+    bool leave(CommandId command) {
+        const std::lock_guard lock(fMutex);
+        return fRunning.extract(command).mapped();
+    }
 
     Rule ruleFor(const Command& command) {
         const std::lock_guard lock(fMutex);
-        fCommands.append(command.text);
-        fBounds.push_back(command.seconds);
+        fAsked.push_back({.text = command.text,
+                          .seconds = command.seconds,
+                          .input = command.input,
+                          .variables = command.variables});
         Rule found;
         for (const Rule& rule : fRules) {
             if (command.text.contains(rule.part))
@@ -77,8 +126,9 @@ private:
 
     mutable std::mutex fMutex;
     std::vector<Rule> fRules;
-    QStringList fCommands;
-    std::vector<std::optional<double>> fBounds;
+    std::vector<Command> fAsked;
+    std::map<CommandId, bool> fRunning; ///< and whether it has been cancelled
+    CommandId fLast = 0;
 };
 
 } // namespace kelvo

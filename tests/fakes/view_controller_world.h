@@ -10,6 +10,7 @@
 #include "fakes/fake_status_menu.h"
 #include "fakes/memory_bundle.h"
 #include "fakes/memory_defaults.h"
+#include "fakes/memory_pass_store.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_browser.h"
 #include "fakes/scripted_shell.h"
@@ -71,9 +72,11 @@ public:
     FakeButton revealButton2;
     std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
     std::shared_ptr<FakePathControl> pathControl = std::make_shared<FakePathControl>();
+    std::vector<std::optional<qint64>> activityShown; ///< every call so far
     int windowShown = 0;
     MainWindowController windowController{[this] { ++windowShown; }};
     MainWindowController* window = &windowController;
+    MemoryPassStore passStore{mainQueue};
     std::vector<PassRecord> passes; ///< every record so far
     ViewController controller{{
         .engine = {.defaults = defaults,
@@ -83,7 +86,11 @@ public:
                    .files = files,
                    .console = console,
                    .clock = {[this] { return now; }, [this] { return seconds; }},
-                   .passEnded = [this](const PassRecord& pass) { passes.push_back(pass); }},
+                   .passEnded =
+                       [this](const PassRecord& pass) {
+                           passes.push_back(pass);
+                           passStore.append(pass);
+                       }},
         .outlets = {.application = application,
                     .view = view,
                     .alertPresenter = presenter,
@@ -91,12 +98,15 @@ public:
                     .openPanel = openPanel,
                     .terminal = terminal,
                     .copyText = [this](const QString& text) { clipboard = text; },
+                    .showActivity =
+                        [this](std::optional<qint64> pass) { activityShown.push_back(pass); },
                     .fArrayController = foundServices,
                     .ibStartButton = &button,
                     .ibRevealButton1 = &revealButton1,
                     .ibRevealButton2 = &revealButton2,
                     .ibStatusTextField = field,
                     .fNsPathControl1 = pathControl},
+        .passStore = passStore,
         .notificationCenter = notificationCenter,
         .bundle = bundle,
         .quitAndRelaunch = [this] { ++relaunches; },

@@ -91,7 +91,6 @@ protected:
         screen.type(text);
         keys({QStringLiteral("Return")});
     }
-    /// The start button is the one tall control across the middle of the window.
     void clickStart() const {
         const QString place = screen.tool("xdotool", {QStringLiteral("getactivewindow"),
                                                       QStringLiteral("getwindowgeometry"),
@@ -99,7 +98,7 @@ protected:
         const auto number = [&](const char* name) {
             return place.section(QString::fromLatin1(name) + u'=', 1).section(u'\n', 0, 0).toInt();
         };
-        screen.click({number("X") + number("WIDTH") / 2, number("Y") + 225}, 1);
+        screen.click(startButton({number("X"), number("Y")}), 1);
     }
     bool comesToFront(const QString& title) const {
         return waitUntil([&] { return screen.activeTitle().startsWith(title); }, 30s);

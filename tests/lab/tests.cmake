@@ -29,6 +29,7 @@ kelvo_tests(lab
     lab/sync_lab_test.cpp
     lab/watchdog_lab_test.cpp
     lab/window_lab_test.cpp
+    lab/work_lab_test.cpp
   LINKS kelvo_adapters_network
   TIMEOUT 180
   PROPERTIES

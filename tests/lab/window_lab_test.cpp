@@ -5,9 +5,13 @@
 #include "support/wait_until.h"
 
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace kelvo {
 namespace {
+
+using namespace std::chrono_literals;
 
 constexpr int cPatience = 20'000; // milliseconds
 const QString cSettings = QStringLiteral("/Users/near/.config/kelvo-mirror/preferences.plist");
@@ -59,8 +63,20 @@ protected:
         EXPECT_TRUE(screen.keepPicture(QStringLiteral(KELVO_PICTURES), name));
     }
 
-    /// In the tab with the passes; its first row lies there with one line of headline and with two.
-    void selectNewestPass() const { screen.click({300, 175}, 1); }
+    /// On the Activity tab: turns to the passes, and from the button below them to the first row.
+    void selectNewestPass() const {
+        screen.keys({QStringLiteral("alt+l"), QStringLiteral("alt+c"), QStringLiteral("shift+Tab"),
+                     QStringLiteral("shift+Tab"), QStringLiteral("Home")});
+    }
+
+    /// Of the pass that ended last; empty before the first.
+    static QString lastCause() {
+        const QByteArray told = near(QStringLiteral(KELVO_PROGRAM " --passes --json")).output;
+        return QJsonDocument::fromJson(told.trimmed().split('\n').last())
+            .object()
+            .value(u"cause")
+            .toString();
+    }
 
     /// Three more Macs, with names and addresses of their own, by packets on the cable.
     void announceOthers() {
@@ -127,6 +143,65 @@ TEST_F(WindowLabTest, ActivityTab_TellsGoodPassesThenTheTroubleAndExportsBoth) {
     })) << near(u"cat " + list).output.constData();
     EXPECT_TRUE(lines[1].contains(",remote,remote-login-off,")) << lines[1].constData();
     EXPECT_TRUE(lines.last().contains(",remote,well,")) << lines.last().constData();
+    EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+}
+
+TEST_F(WindowLabTest, SlowPull_IsSeenUnderWayCancelledAndTakenUpAgain) {
+    remote(QStringLiteral("cd %1 && find . -mindepth 1 -delete && for i in $(seq -w "
+                          "15); do head -c 3000000 /dev/urandom >\"Long Feature $i (2019).mov\"; "
+                          "done && chown -R mediauser: .")
+               .arg(cRemoteMovies));
+    ASSERT_EQ(lab({QStringLiteral("slow"), QStringLiteral("24mbit")}).exitCode, 0);
+    QVariantMap profile = remoteProfile();
+    profile[QStringLiteral("prefDelayBetweenScans")] = 600.0;
+    start(profile);
+    const auto arrived = [](int atLeast) {
+        return [atLeast] {
+            return near(QStringLiteral("find Incoming -name '*.mov' ! -name '.*' | wc -l"))
+                       .output.trimmed()
+                       .toInt() >= atLeast;
+        };
+    };
+    ASSERT_TRUE(screen.becomesActive(QStringLiteral("Kelvo Mirror")));
+    ASSERT_TRUE(waitUntil(arrived(7), 60s)) << program->transcript().toStdString();
+    keepPicture("work-under-way");
+    screen.keys({QStringLiteral("alt+p"), QStringLiteral("c")});
+    ASSERT_TRUE(waitUntil([] { return lastCause() == u"cancelled"; }, 20s))
+        << program->transcript().toStdString();
+    EXPECT_FALSE(arrived(15)()) << "it was cancelled in the middle";
+
+    lab({QStringLiteral("slow"), QStringLiteral("off")});
+    screen.keys({QStringLiteral("ctrl+r")});
+    ASSERT_TRUE(waitUntil([] { return lastCause() == u"well"; }, 20s))
+        << "the next pass comes at once, not after ten minutes\n"
+        << program->transcript().toStdString();
+    EXPECT_EQ(nearChecksums(cIncoming), remoteChecksums(cRemoteMovies));
+    keepPicture("work-resting");
+    screen.keys({QStringLiteral("ctrl+5")});
+    keepPicture("activity-arrived");
+
+    screen.keys({QStringLiteral("ctrl+1")});
+    lab({QStringLiteral("sshd"), QStringLiteral("stop")});
+    screen.keys({QStringLiteral("ctrl+r")});
+    ASSERT_TRUE(waitUntil([] { return lastCause() == u"remote-login-off"; }, 20s));
+    keepPicture("work-trouble");
+    EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+}
+
+TEST_F(WindowLabTest, FirstStart_SaysWhatIsMissing) {
+    start({});
+    ASSERT_TRUE(program->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60));
+    ASSERT_TRUE(screen.becomesActive(QStringLiteral("Kelvo Mirror")));
+    screen.keys({QStringLiteral("ctrl+t")});
+    ASSERT_TRUE(waitUntil([] { return lastCause() == u"settings-missing"; }, 20s));
+    keepPicture("first-run");
+    // What is missing is there: it begins by itself.
+    QVariantMap whole = remoteProfile();
+    whole.remove(QStringLiteral("prefAutoStartScanOnLaunch"));
+    writeNear(cSettings, plistText(whole));
+    ASSERT_TRUE(waitUntil([] { return lastCause() == u"well"; }, 60s))
+        << program->transcript().toStdString();
+    EXPECT_EQ(nearChecksums(cIncoming), moviesOf(remoteChecksums(cRemoteMovies)));
     EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
 }
 

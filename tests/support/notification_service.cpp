@@ -4,12 +4,16 @@ namespace kelvo {
 
 bool NotificationService::appear() {
     return fBus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
-                               QDBusConnection::ExportAllSlots) &&
+                               QDBusConnection::ExportAllSlots |
+                                   QDBusConnection::ExportAllSignals) &&
            fBus.registerService(QStringLiteral("org.freedesktop.Notifications"));
 }
 
 uint NotificationService::Notify(const QString&, uint, const QString&, const QString& summary,
-                                 const QString& body, const QStringList&, const QVariantMap&, int) {
+                                 const QString& body, const QStringList& newActions,
+                                 const QVariantMap& newHints, int) {
+    actions = newActions;
+    hints = newHints;
     shown << summary + u" | " + body;
     return static_cast<uint>(shown.size());
 }

@@ -17,9 +17,17 @@ public:
     /// False when the name or the place on the bus is taken.
     bool appear();
 
-    QStringList shown; ///< "<summary> | <body>", as they came
+    QStringList shown;                          ///< "<summary> | <body>", as they came
+    QStringList actions;                        ///< of the last notice
+    QVariantMap hints;                          ///< of the last notice
+    QStringList can{QStringLiteral("actions")}; ///< what it says it can do
+
+Q_SIGNALS:
+    void ActionInvoked(uint id, const QString& action);
+    void NotificationClosed(uint id, uint reason);
 
 public Q_SLOTS:
+    QStringList GetCapabilities() const { return can; }
     uint Notify(const QString& program, uint replaces, const QString& icon, const QString& summary,
                 const QString& body, const QStringList& actions, const QVariantMap& hints,
                 int milliseconds);

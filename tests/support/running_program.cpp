@@ -73,6 +73,10 @@ bool RunningProgram::isRunning() const {
     return fProcess.state() != QProcess::NotRunning;
 }
 
+int RunningProgram::exitCode() const {
+    return fProcess.exitStatus() == QProcess::NormalExit ? fProcess.exitCode() : -1;
+}
+
 qint64 RunningProgram::processId() const {
     return fProcess.processId();
 }

@@ -31,6 +31,8 @@ public:
     /// be killed or died by a signal.
     int stop();
     [[nodiscard]] bool isRunning() const;
+    /// Of a program that has ended; -1 for one that died by a signal.
+    [[nodiscard]] int exitCode() const;
     [[nodiscard]] qint64 processId() const;
     /// Every line of standard output so far.
     [[nodiscard]] QStringList lines() const;

@@ -150,6 +150,7 @@ TEST_F(ProgramTest, UserAndHostMissing_CountsFailures) {
 }
 
 TEST_F(ProgramTest, TermSignalInMidPass_EndsTheCommandAndKeepsTheSettings) {
+    write(path(QStringLiteral("Camera/a.mov")), "movie");
     QVariantMap profile = plainProfile();
     profile[QStringLiteral("prefRsyncCommandString1")] =
         QStringLiteral("echo $$ > '%1'; trap '' TERM; sleep 3600 & wait; sleep 3600")

@@ -1,7 +1,8 @@
 include(system/setup.cmake)
 
 add_executable(tray_program system/tray_program.cpp)
-target_link_libraries(tray_program PRIVATE kelvo_ui_widgets kelvo_adapters_desktop)
+target_link_libraries(tray_program PRIVATE kelvo_ui_widgets kelvo_adapters_desktop
+  kelvo_adapters_process)
 
 add_executable(watched_program children/watched_program.cpp)
 target_link_libraries(watched_program PRIVATE kelvo_app_start kelvo_adapters)

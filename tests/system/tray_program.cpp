@@ -1,6 +1,8 @@
 // A program with nothing but the tray icon, driven by lines on standard input and heard by lines on
 // standard output, so that tests can look at the real icon on a real display.
 #include "adapters/desktop/desktop_tray_host.h"
+#include "adapters/desktop/status_notifier_item.h"
+#include "adapters/process/qt_main_queue.h"
 #include "ui/widgets/tray_icon.h"
 
 #include <QApplication>
@@ -68,6 +70,11 @@ void obey(TrayIcon& icon, const QByteArray& order) {
         icon.show(StatusMenuState::Running);
     else if (order == "trouble")
         icon.show(StatusMenuState::Trouble);
+    else if (order == "work")
+        icon.showWork({.headline = QStringLiteral("Syncing: <b>48 %, about 4 min"),
+                       .nextPass = QStringLiteral("Next pass in 23 s"),
+                       .health = {.lastSuccess = QStringLiteral("Last success just now, 3 files")},
+                       .mayCancel = true});
     else if (order == "hide")
         icon.hide();
     else if (order == "reachable")
@@ -87,7 +94,9 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     DesktopTrayHost host;
-    TrayIcon icon(host);
+    StatusNotifierItem item;
+    QtMainQueue mainQueue;
+    TrayIcon icon(host, item, mainQueue);
     icon.setActions({
         .showWindow = [] { say(QStringLiteral("chosen showWindow")); },
         .startOrStop = [] { say(QStringLiteral("chosen startOrStop")); },

@@ -1,4 +1,5 @@
 #include "support/session_bus.h"
+#include "support/tray_panel.h"
 #include "support/virtual_display.h"
 #include "support/wait_in_loop.h"
 
@@ -225,6 +226,29 @@ TEST_F(TraySystemTest, LateBusTray_GetsTheIconAndItsMenu) {
     service.setHost(true);
     ASSERT_TRUE(becomesReachable("yes"));
     ASSERT_TRUE(waitInLoop([&] { return !service.items().isEmpty(); }));
+
+    const QString shown = service.items().constLast();
+    TrayPanel reading(panel.get(), shown);
+    EXPECT_EQ(reading.properties().value(QStringLiteral("Status")), QStringLiteral("Active"));
+    order("trouble");
+    ASSERT_TRUE(waitInLoop(
+        [&] { return reading.heard.contains(QStringLiteral("NewStatus NeedsAttention")); }));
+    order("work");
+    ASSERT_TRUE(waitInLoop(
+        [&] { return reading.heard.contains(QStringLiteral("ItemsPropertiesUpdated")); }));
+    QStringList titles;
+    int quit = 0;
+    for (const TrayPanel::Line& line : reading.menu()) {
+        titles.append(line.properties.value(QStringLiteral("label")).toString());
+        if (titles.constLast() == u"_Quit")
+            quit = line.id;
+    }
+    ASSERT_GT(quit, 0) << titles.join(u'|').toStdString();
+    EXPECT_EQ(titles.constFirst(), u"Syncing: <b>48 %, about 4 min");
+    reading.askMenu(QStringLiteral("Event"),
+                    {quit, QStringLiteral("clicked"), QVariant::fromValue(QDBusVariant(QString())),
+                     QVariant::fromValue(0U)});
+    EXPECT_TRUE(hears(QStringLiteral("chosen quit")));
 
     QDBusInterface item(service.items().constFirst(), QStringLiteral("/StatusNotifierItem"),
                         QStringLiteral("org.kde.StatusNotifierItem"), panel.get());

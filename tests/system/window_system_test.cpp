@@ -1,4 +1,5 @@
 // The real window on a real display, with a window manager and a tray, driven by mouse and keys.
+#include "support/descendants.h"
 #include "support/program_profile.h"
 #include "support/running_program.h"
 #include "support/session_bus.h"
@@ -11,6 +12,8 @@
 #include <QStandardPaths>
 
 #include <gtest/gtest.h>
+
+#include <signal.h>
 
 namespace kelvo {
 namespace {
@@ -111,13 +114,11 @@ protected:
 
 TEST_F(WindowSystemTest, StartButton_ByMouseAndByKey) {
     write(path(QStringLiteral("Camera/a.mov")), "movie");
-    // Without its folder a line about that would stand where the button is looked for.
     QDir().mkpath(path(QStringLiteral("Incoming")));
     startAndSettle(quietProfile());
     keepPicture("sync");
-    // The start button is the one tall control across the middle of the window.
     const QRect place = windowPlace();
-    screen.click({place.center().x(), place.y() + 225}, 1);
+    screen.click(startButton(place.topLeft()), 1);
     ASSERT_TRUE(program->waitForLine(QStringLiteral("state is now IS RUNNING"), 20))
         << program->transcript().toStdString();
     ASSERT_TRUE(program->waitForLine(QStringLiteral("result from shell command ="), 30));
@@ -154,6 +155,38 @@ TEST_F(WindowSystemTest, EveryTab_ByKeyAndATextThatIsStored) {
     screen.keys({QStringLiteral("ctrl+q")});
     EXPECT_TRUE(endsByItself());
     EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+}
+
+TEST_F(WindowSystemTest, Interrupt_EndsAtOnceAndStoresNothingHalfTyped) {
+    startAndSettle({{QStringLiteral("mainWindowTab"), QStringLiteral("remote")}});
+    // What is watched would come back.
+    const auto sentinel = livingChild(static_cast<pid_t>(program->processId()), "watchdog");
+    ASSERT_TRUE(sentinel);
+    ::kill(*sentinel, SIGKILL);
+    const auto pid = static_cast<pid_t>(program->processId());
+    ASSERT_TRUE(waitUntil([&] { return !livingChild(pid, "watchdog"); }));
+    screen.keys({QStringLiteral("alt+u")});
+    screen.type(QStringLiteral("half"));
+    program->waitForLine(QStringLiteral("no such line"), 1);
+    const QStringList before = program->lines();
+    ::kill(static_cast<pid_t>(program->processId()), SIGINT);
+    EXPECT_TRUE(endsByItself());
+    EXPECT_EQ(program->exitCode(), SIGINT);
+    EXPECT_EQ(program->lines(), before) << "nothing is printed";
+    EXPECT_FALSE(contents(settingsFile()).contains("half"));
+}
+
+TEST_F(WindowSystemTest, RequestToTerminate_IsSaidBeforeAnythingElseHappens) {
+    startAndSettle({{QStringLiteral("mainWindowTab"), QStringLiteral("remote")}});
+    screen.keys({QStringLiteral("alt+u")});
+    screen.type(QStringLiteral("half"));
+    const qsizetype before = contents(logFile()).size();
+    EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+    const QByteArray said = contents(logFile()).sliced(before);
+    EXPECT_TRUE(said.split('\n').first().contains("Caught Terminated ... terminating."))
+        << said.constData();
+    EXPECT_TRUE(contents(settingsFile()).contains("half"))
+        << "the orderly end keeps what was typed";
 }
 
 TEST_F(WindowSystemTest, ClosedWithATray_ComesBackByTheIconAndQuitsByItsMenu) {

@@ -1,3 +1,4 @@
+#include "support/work_state.h"
 #include "ui/widgets/application_menu.h"
 #include "ui/widgets/edit_menu.h"
 
@@ -33,6 +34,9 @@ protected:
             .quit = note("quit"),
             .showSettings = note("settings"),
             .showTab = [this](int tab) { done.append(QString(u"tab" + QString::number(tab))); },
+            .startOrStop = note("start"),
+            .syncNow = note("now"),
+            .cancelPass = note("cancel"),
             .setupStatusItem = note("setup"),
             .removeStatusItem = note("remove"),
             .delegateQuitAndRelaunch = note("delegate"),
@@ -56,7 +60,7 @@ TEST_F(ApplicationMenuTest, Menus_AreTheUsualOnesWithMnemonicsOfTheirOwn) {
     QStringList titles;
     for (const QAction* title : menu.actions())
         titles.append(title->text());
-    EXPECT_EQ(titles.join(u'|'), u"&File|&Edit|&View|&Tray|&Help");
+    EXPECT_EQ(titles.join(u'|'), u"&File|&Edit|&View|&Passes|&Tray|&Help");
 }
 
 TEST_F(ApplicationMenuTest, Entries_HaveMnemonicsThatDoNotClash) {
@@ -77,10 +81,11 @@ TEST_F(ApplicationMenuTest, Entries_HaveMnemonicsThatDoNotClash) {
 TEST_F(ApplicationMenuTest, Shortcuts_AreTheUsualOnesAndUnique) {
     const ApplicationMenu menu(all(), tabs);
     const std::vector<std::pair<const char*, const char*>> expected{
-        {"closeWindow", "Ctrl+W"}, {"quit", "Ctrl+Q"},     {"showSettings", "Ctrl+,"},
-        {"showTab1", "Ctrl+1"},    {"showTab2", "Ctrl+2"}, {"showTab3", "Ctrl+3"},
-        {"showTab4", "Ctrl+4"},    {"undo", "Ctrl+Z"},     {"cut", "Ctrl+X"},
-        {"copy", "Ctrl+C"},        {"paste", "Ctrl+V"},    {"selectAll", "Ctrl+A"},
+        {"closeWindow", "Ctrl+W"}, {"quit", "Ctrl+Q"},      {"showSettings", "Ctrl+,"},
+        {"showTab1", "Ctrl+1"},    {"showTab2", "Ctrl+2"},  {"showTab3", "Ctrl+3"},
+        {"showTab4", "Ctrl+4"},    {"undo", "Ctrl+Z"},      {"cut", "Ctrl+X"},
+        {"startOrStop", "Ctrl+T"}, {"syncNow", "Ctrl+R"},   {"copy", "Ctrl+C"},
+        {"paste", "Ctrl+V"},       {"selectAll", "Ctrl+A"},
     };
     std::set<QString> seen;
     for (const auto& [name, keys] : expected) {
@@ -94,13 +99,33 @@ TEST_F(ApplicationMenuTest, Shortcuts_AreTheUsualOnesAndUnique) {
 }
 
 TEST_F(ApplicationMenuTest, EachEntry_CallsItsAction) {
-    const ApplicationMenu menu(all(), tabs);
-    for (const char* name : {"quitAndRelaunch", "closeWindow", "quit", "showSettings", "showTab1",
-                             "showTab4", "setupStatusItem", "removeStatusItem",
-                             "delegateQuitAndRelaunch", "setupWatchdog", "about", "openLogFolder"})
+    ApplicationMenu menu(all(), tabs);
+    menu.showWork({.maySyncNow = true, .mayCancel = true});
+    for (const char* name :
+         {"quitAndRelaunch", "closeWindow", "quit", "showSettings", "showTab1", "showTab4",
+          "startOrStop", "syncNow", "cancelPass", "setupStatusItem", "removeStatusItem",
+          "delegateQuitAndRelaunch", "setupWatchdog", "about", "openLogFolder"})
         entry(menu, name)->trigger();
-    EXPECT_EQ(done.join(u' '), u"relaunch close quit settings tab0 tab3 setup remove delegate "
-                               u"watchdog about log");
+    EXPECT_EQ(done.join(u' '),
+              u"relaunch close quit settings tab0 tab3 start now cancel setup remove delegate "
+              u"watchdog about log");
+}
+
+TEST_F(ApplicationMenuTest, EntriesAboutPasses_CanBeChosenWhenTheyDoSomething) {
+    ApplicationMenu menu(all(), tabs);
+    for (const char* name : {"syncNow", "cancelPass"})
+        EXPECT_FALSE(entry(menu, name)->isEnabled()) << name;
+    menu.showWork({.maySyncNow = true});
+    EXPECT_TRUE(entry(menu, "syncNow")->isEnabled());
+    EXPECT_FALSE(entry(menu, "cancelPass")->isEnabled());
+    menu.showWork({.mayCancel = true});
+    EXPECT_FALSE(entry(menu, "syncNow")->isEnabled());
+    EXPECT_TRUE(entry(menu, "cancelPass")->isEnabled());
+    EXPECT_EQ(plain(*entry(menu, "startOrStop")), u"Start Syncing");
+    menu.setSyncing(true);
+    EXPECT_EQ(plain(*entry(menu, "startOrStop")), u"Stop Syncing");
+    for (const char* name : {"startOrStop", "syncNow"})
+        EXPECT_FALSE(entry(menu, name)->autoRepeat()) << name;
 }
 
 TEST_F(ApplicationMenuTest, MissingActions_LeaveNoDeadEntries) {

@@ -1,6 +1,8 @@
 #include "ui/widgets/checklist_view.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QPointer>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -17,6 +19,15 @@ protected:
                 shown << label->text();
         }
         return shown;
+    }
+
+    QStringList shownButtons() {
+        QStringList names;
+        for (const QToolButton* button : view.findChildren<QToolButton*>()) {
+            if (!button->isHidden())
+                names << button->accessibleName();
+        }
+        return names;
     }
 
     QWidget window;
@@ -36,6 +47,31 @@ TEST_F(ChecklistViewTest, LinesStandWithTheirButtons) {
         button->click();
     }
     EXPECT_EQ(chosen, (std::vector{Remedy::ShowRemoteTab, Remedy::ChooseDestination}));
+}
+
+TEST_F(ChecklistViewTest, SameRemedy_HasOneButtonBesideTheFirstOfItsLines) {
+    view.setLines({{QStringLiteral("one"), Remedy::ShowRemoteTab},
+                   {QStringLiteral("two"), Remedy::ShowRemoteTab},
+                   {QStringLiteral("three"), Remedy::ChooseDestination}});
+    EXPECT_EQ(texts().size(), 3);
+    EXPECT_EQ(shownButtons(), (QStringList{"Show Remote Mac: one", "Choose…: three"}));
+}
+
+TEST_F(ChecklistViewTest, LineThatGoes_LeavesFocusAndButtonsOfTheOthers) {
+    window.show();
+    QApplication::setActiveWindow(&window);
+    view.setLines({{QStringLiteral("one"), Remedy::ShowRemoteTab},
+                   {QStringLiteral("two"), Remedy::ShowRemoteTab},
+                   {QStringLiteral("three"), Remedy::ChooseDestination}});
+    QPointer<QToolButton> button = view.findChild<QToolButton*>();
+    button->setFocus();
+    ASSERT_TRUE(button->hasFocus());
+    view.setLines({{QStringLiteral("two"), Remedy::ShowRemoteTab},
+                   {QStringLiteral("three"), Remedy::ChooseDestination}});
+    ASSERT_TRUE(button);
+    EXPECT_TRUE(button->hasFocus());
+    EXPECT_EQ(texts(), (QStringList{"two", "three"}));
+    EXPECT_EQ(shownButtons(), (QStringList{"Show Remote Mac: two", "Choose…: three"}));
 }
 
 TEST_F(ChecklistViewTest, AllWell_TakesTheLinesAway) {

@@ -1,7 +1,10 @@
+#include "fakes/fake_desktop.h"
 #include "fakes/fake_login_item.h"
 #include "fakes/memory_defaults.h"
+#include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
 #include "settings/preference_keys.h"
+#include "ui/widgets/activity_tab.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/path_control_view.h"
@@ -31,7 +34,14 @@ namespace {
 
 class MainWindowTest : public ::testing::Test {
 protected:
-    MainWindowTest() { window.settingsTab().setLoginItem(loginItem); }
+    MainWindowTest() {
+        window.settingsTab().setLoginItem(loginItem);
+        window.activityTab().setParts({.store = store,
+                                       .workspace = workspace,
+                                       .mainQueue = mainQueue,
+                                       .bgQueue = bgQueue,
+                                       .destination = [] { return QString(); }});
+    }
 
     template <typename Widget>
     Widget* child(const char* name) {
@@ -54,6 +64,9 @@ protected:
     FakeLoginItem loginItem;
     MemoryDefaults defaults;
     VirtualMainQueue mainQueue;
+    ManualBackgroundQueue bgQueue;
+    MemoryPassStore store{mainQueue};
+    FakeWorkspace workspace;
     MainWindow window{defaults, mainQueue};
 };
 
@@ -97,15 +110,6 @@ TEST_F(MainWindowTest, SourceInUseDiffers_IsSaidUntilItAgrees) {
     set(prefSampleRemoteFullPath, QStringLiteral("ann@new.local:Movies"));
     for (const char* notice : {"sourceNotice", "remoteNotice"})
         EXPECT_EQ(child<QLabel>(notice)->text(), u"");
-}
-
-TEST_F(MainWindowTest, BusySign_ShowsWhileAPassRuns) {
-    window.show();
-    EXPECT_FALSE(child<QWidget>("busySign")->isVisible());
-    set(prefIsScanning, true);
-    EXPECT_TRUE(child<QWidget>("busySign")->isVisible());
-    set(prefIsScanning, false);
-    EXPECT_FALSE(child<QWidget>("busySign")->isVisible());
 }
 
 TEST_F(MainWindowTest, NetworkLine_IsPlainText) {
@@ -350,7 +354,8 @@ TEST_F(MainWindowTest, MnemonicsOfATab_AreDifferent) {
             if (!button->isVisible() || key.isEmpty())
                 continue;
             EXPECT_FALSE(seen.contains(key)) << qPrintable(tab.label + u": " + key);
-            EXPECT_FALSE(QStringList({"Alt+F", "Alt+E", "Alt+V", "Alt+T", "Alt+H"}).contains(key))
+            EXPECT_FALSE(
+                QStringList({"Alt+F", "Alt+E", "Alt+V", "Alt+P", "Alt+T", "Alt+H"}).contains(key))
                 << "belongs to the menus: " << qPrintable(tab.label + u": " + key);
             seen.insert(key);
         }

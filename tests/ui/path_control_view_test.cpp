@@ -3,6 +3,7 @@
 #include "ui/widgets/widget_controls.h"
 
 #include <QAction>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QSignalSpy>
@@ -44,6 +45,19 @@ TEST_F(PathControlViewTest, Path_IsARowOfParts) {
     EXPECT_EQ(clicked.at(0).at(0).toString(), u"/Users/near");
 }
 
+TEST_F(PathControlViewTest, Home_IsATilde) {
+    const QString home = QDir::homePath();
+    view.setPath(home + u"/Videos/Incoming");
+    EXPECT_EQ(visibleParts(), (QStringList{"~", "Videos", "Incoming"}));
+    EXPECT_EQ(view.parts()[0].path, home);
+    EXPECT_EQ(view.parts()[2].path, QString(home + u"/Videos/Incoming"));
+    EXPECT_TRUE(view.toolTip().contains(home)) << "the whole path";
+    view.setPath(home);
+    EXPECT_EQ(visibleParts(), QStringList{"~"});
+    view.setPath(home + u"less/Videos");
+    EXPECT_EQ(visibleParts().first(), u"/");
+}
+
 TEST_F(PathControlViewTest, ContextMenuOfAPart_AsksForItsFolder) {
     view.setPath(QStringLiteral("/Users/R&D/My Movies"));
     QSignalSpy clicked(&view, &PathControlView::partClicked);
@@ -71,9 +85,10 @@ TEST_F(PathControlViewTest, LittleRoom_KeepsTheLastPartsAndPutsTheOthersInAMenu)
     EXPECT_EQ(visibleParts().last(), u"last");
     EXPECT_LT(visibleParts().size(), 10);
     ASSERT_TRUE(hidden()->isVisible());
+    EXPECT_EQ(visibleParts().first(), u"/");
     EXPECT_EQ(hidden()->menu()->actions().size() + visibleParts().size(), 32);
     QSignalSpy clicked(&view, &PathControlView::partClicked);
-    hidden()->menu()->actions().at(1)->trigger();
+    hidden()->menu()->actions().at(0)->trigger();
     EXPECT_EQ(clicked.at(0).at(0).toString(), u"/folder");
 }
 
@@ -81,8 +96,8 @@ TEST_F(PathControlViewTest, LongName_IsCutInTheMiddleAndStaysInside) {
     const QString name = QString(100, u'a') + QString(100, u'z');
     view.setPath(u'/' + name);
     view.resize(300, 30);
-    ASSERT_EQ(visibleParts().size(), 1);
-    EXPECT_TRUE(visibleParts()[0].contains(u'…'));
+    ASSERT_EQ(visibleParts().size(), 2);
+    EXPECT_TRUE(visibleParts()[1].contains(u'…'));
     const auto* button = view.findChild<QToolButton*>(QStringLiteral("part1"));
     EXPECT_LE(button->geometry().right(), view.width());
     EXPECT_EQ(button->accessibleName(), name);

@@ -1,11 +1,14 @@
 #include "fakes/fake_login_item.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
+#include "settings/preference_keys.h"
 #include "ui/widgets/bindings.h"
 #include "ui/widgets/settings_tab.h"
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -37,6 +40,28 @@ TEST_F(SettingsTabTest, StartAtLogin_IsOffAndSwitchesTheEntry) {
     box().click();
     EXPECT_FALSE(item.isOn);
     EXPECT_FALSE(trouble().isVisible());
+}
+
+TEST_F(SettingsTabTest, NoticesCommandAndQuit_AreBoundBothWays) {
+    tab.show();
+    for (const auto& [name, key] : {std::pair("showArrivals", prefShowArrivals),
+                                    std::pair("quitWithoutAsking", prefQuitWithoutAsking)}) {
+        auto* flag = tab.findChild<QCheckBox*>(QString::fromLatin1(name));
+        defaults.setObject(key, true);
+        mainQueue.runDue();
+        EXPECT_TRUE(flag->isChecked()) << name;
+        flag->click();
+        EXPECT_EQ(defaults.object(key), QVariant(false)) << name;
+    }
+    auto* command = tab.findChild<QLineEdit*>(QStringLiteral("commandAfterArrivals"));
+    command->setFocus();
+    QTest::keyClicks(command, QStringLiteral("index-movies"));
+    QTest::keyClick(command, Qt::Key_Return);
+    EXPECT_EQ(defaults.stringForKey(prefCommandAfterArrivals), QStringLiteral("index-movies"));
+    command->clear();
+    command->setModified(true);
+    QTest::keyClick(command, Qt::Key_Return);
+    EXPECT_FALSE(defaults.object(prefCommandAfterArrivals).isValid());
 }
 
 TEST_F(SettingsTabTest, EntryChangedMeanwhile_IsShownWhenTheTabComesUp) {

@@ -1,7 +1,10 @@
+#include "fakes/recording_notices.h"
+#include "fakes/virtual_queues.h"
 #include "ui/widgets/sheet_presenter.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -41,7 +44,14 @@ protected:
     }
 
     std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
-    std::unique_ptr<SheetPresenter> presenter = std::make_unique<SheetPresenter>(*window);
+    VirtualMainQueue mainQueue;
+    RecordingNotices notices;
+    int shown = 0;
+    std::unique_ptr<SheetPresenter> presenter =
+        std::make_unique<SheetPresenter>(SheetPresenter::Parts{
+            .mainWindow = *window, .mainQueue = mainQueue, .notices = notices, .showWhy = [this] {
+                ++shown;
+            }});
     std::vector<ModalResponse> responses;
 };
 
@@ -50,7 +60,7 @@ TEST_F(SheetPresenterTest, Sheet_SaysTheAlertAsPlainTextAndHoldsUpOnlyItsWindow)
     ASSERT_NE(box(), nullptr);
     EXPECT_EQ(box()->text(), u"Unable to <b>reach</b>");
     EXPECT_EQ(box()->textFormat(), Qt::PlainText);
-    EXPECT_EQ(box()->informativeText(), u"Please check\n");
+    EXPECT_TRUE(box()->informativeText().startsWith(u"Please check\n"));
     EXPECT_EQ(box()->windowModality(), Qt::WindowModal);
     EXPECT_EQ(box()->icon(), QMessageBox::Critical);
     EXPECT_TRUE(responses.empty());
@@ -97,6 +107,102 @@ TEST_F(SheetPresenterTest, PresenterGone_TakesItsSheetsWithoutAnAnswer) {
     presenter.reset();
     EXPECT_EQ(box(), nullptr);
     EXPECT_TRUE(responses.empty());
+}
+
+TEST_F(SheetPresenterTest, AlertThatAnswersItself_SaysTheSecondsThatAreLeft) {
+    const SheetId sheet = presenter->beginSheet(cProblem, record());
+    for (const int left : {6, 5, 4, 3, 2, 1}) {
+        EXPECT_EQ(
+            box()->informativeText(),
+            QStringLiteral("Please check\n\nWithout an answer, it tries again in %1 s.").arg(left));
+        mainQueue.advance(1.0);
+    }
+    EXPECT_TRUE(responses.empty()) << "its maker ends it";
+    presenter->endSheet(sheet);
+    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_TRUE(notices.shown.empty());
+}
+
+TEST_F(SheetPresenterTest, OtherAlert_CountsNothingDown) {
+    Alert alert = cProblem;
+    alert.answersItself = false;
+    presenter->beginSheet(alert, record());
+    EXPECT_EQ(box()->informativeText(), u"Please check\n");
+    EXPECT_TRUE(mainQueue.idle());
+}
+
+TEST_F(SheetPresenterTest, WindowNotActive_IsNotGivenTheKeyboard) {
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    presenter->beginSheet(cProblem, record());
+    EXPECT_TRUE(box()->testAttribute(Qt::WA_ShowWithoutActivating));
+    QApplication::setActiveWindow(window.get());
+    button(QStringLiteral("Stop"))->click();
+    presenter->beginSheet(cProblem, record());
+    EXPECT_FALSE(box()->testAttribute(Qt::WA_ShowWithoutActivating));
+}
+
+TEST_F(SheetPresenterTest, WindowNotSeen_GetsANoticeAndTheAutomaticAnswer) {
+    for (const bool minimised : {true, false}) {
+        notices.notices.clear();
+        responses.clear();
+        if (minimised)
+            window->showMinimized();
+        else
+            window->hide();
+        const SheetId sheet = presenter->beginSheet(cProblem, record());
+        EXPECT_EQ(box(), nullptr);
+        ASSERT_EQ(notices.notices.size(), 1U);
+        EXPECT_EQ(notices.notices[0].title, cProblem.messageText);
+        EXPECT_EQ(notices.notices[0].text, u"Please check");
+        EXPECT_TRUE(notices.notices[0].urgent);
+        EXPECT_TRUE(responses.empty());
+        presenter->endSheet(sheet);
+        presenter->endSheet(sheet);
+        EXPECT_EQ(responses, std::vector<ModalResponse>{cModalResponseStop});
+    }
+    notices.notices[0].show();
+    EXPECT_EQ(shown, 1);
+}
+
+TEST_F(SheetPresenterTest, PresenterGone_CountsNoFurther) {
+    presenter->beginSheet(cProblem, record());
+    presenter.reset();
+    mainQueue.advance(10.0);
+}
+
+TEST_F(SheetPresenterTest, QuestionWithATick_TellsWhetherItWasTicked) {
+    for (const bool tick : {true, false}) {
+        QTimer::singleShot(0, window.get(), [this, tick] {
+            EXPECT_EQ(box()->checkBox()->text(), u"Do not ask again");
+            if (tick)
+                QTest::keyClick(box()->checkBox(), Qt::Key_Space);
+            QTest::keyClick(box(), Qt::Key_Escape);
+        });
+        const auto [response, ticked] =
+            presenter->runModal(cProblem, QStringLiteral("Do not ask again"));
+        EXPECT_EQ(response, 1001);
+        EXPECT_EQ(ticked, tick);
+    }
+}
+
+/// As at SIGTERM or the end of the session.
+TEST_F(SheetPresenterTest, ProgramToldToEnd_IsNotHeldUpByAQuestion) {
+    std::optional<ModalResponse> response;
+    QTimer::singleShot(0, window.get(), [&] {
+        QTimer::singleShot(0, window.get(), [] { QCoreApplication::quit(); });
+        response = presenter->runModal(cProblem, QStringLiteral("Do not ask again")).response;
+    });
+    bool late = false;
+    QTimer::singleShot(5000, window.get(), [&] {
+        late = true;
+        box()->buttons().first()->click();
+        QCoreApplication::exit();
+    });
+    QCoreApplication::exec();
+    EXPECT_FALSE(late);
+    EXPECT_NE(response, cAlertFirstButtonReturn);
 }
 
 TEST_F(SheetPresenterTest, WindowGone_HasNoWindow) {

@@ -5,15 +5,18 @@ kelvo_tests(ui WIDGETS
     contract/tray_host_contract_test.cpp
     ui/activity_tab_test.cpp
     ui/application_menu_test.cpp
+    ui/arrivals_view_test.cpp
     ui/bindings_test.cpp
     ui/bonjour_sheet_test.cpp
     ui/checklist_view_test.cpp
+    ui/day_chart_test.cpp
     ui/icons_test.cpp
     ui/main_window_test.cpp
     ui/path_control_view_test.cpp
     ui/settings_places_test.cpp
     ui/settings_tab_test.cpp
     ui/sheet_presenter_test.cpp
+    ui/sync_tab_test.cpp
     ui/tray_icon_test.cpp
     ui/widget_main_view_test.cpp
     ui/window_actions_test.cpp

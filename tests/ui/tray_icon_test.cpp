@@ -1,4 +1,6 @@
 #include "fakes/fake_status_menu.h"
+#include "fakes/fake_tray_item.h"
+#include "fakes/virtual_queues.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/tray_icon.h"
 
@@ -14,8 +16,25 @@ namespace {
 
 class TrayIconTest : public ::testing::Test {
 protected:
+    QAction* entry(const char* name) {
+        return icon.menu().findChild<QAction*>(QString::fromLatin1(name));
+    }
+    /// The titles of what can be seen of the menu before the first entry that does something.
+    QStringList facts() {
+        QStringList texts;
+        for (const QAction* action : icon.menu().actions()) {
+            if (action->objectName() == u"startOrStop")
+                break;
+            if (action->isVisible())
+                texts.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+        }
+        return texts;
+    }
+
     FakeTrayHost host;
-    TrayIcon icon{host};
+    FakeTrayItem item;
+    VirtualMainQueue mainQueue;
+    TrayIcon icon{host, item, mainQueue};
 };
 
 TEST_F(TrayIconTest, Menu_HoldsItsEntriesInOrderEachWithItsOwnMnemonic) {
@@ -24,20 +43,89 @@ TEST_F(TrayIconTest, Menu_HoldsItsEntriesInOrderEachWithItsOwnMnemonic) {
     int marked = 0;
     icon.setStartTitle(QStringLiteral("Stop Syncing"));
     for (const QAction* entry : icon.menu().actions()) {
+        if (!entry->isVisible())
+            continue;
         if (entry->isSeparator()) {
             titles.append(QStringLiteral("-"));
             continue;
         }
         titles.append(QString(entry->text()).remove(u'&'));
-        EXPECT_TRUE(entry->isEnabled());
         if (const auto at = entry->text().indexOf(u'&'); at >= 0) {
             ++marked;
             mnemonics.insert(entry->text()[at + 1].toLower());
         }
     }
-    EXPECT_EQ(titles.join(u'|'), u"Show Window|-|Stop Syncing|-|Quit and Relaunch|Quit");
-    EXPECT_EQ(marked, 3);
-    EXPECT_EQ(mnemonics.size(), 3U);
+    EXPECT_EQ(titles.join(u'|'),
+              u"Stop Syncing|Sync Now|Cancel This Pass|-|Open Window|Activity|Reveal Folder|-|"
+              u"Quit and Relaunch|Quit");
+    EXPECT_EQ(marked, 7);
+    EXPECT_EQ(mnemonics.size(), 7U);
+}
+
+TEST_F(TrayIconTest, Work_StandsAboveTheEntriesAndInTheToolTip) {
+    host.setKind(TrayKind::Bus);
+    icon.show(StatusMenuState::Running);
+    icon.showWork({.headline = QStringLiteral("Syncing: 48 %, A & B"),
+                   .nextPass = QStringLiteral("Next pass in 23 s"),
+                   .health = {.lastSuccess = QStringLiteral("Last success: now")}});
+    EXPECT_EQ(facts().join(u'|'), u"Syncing: 48 %, A && B|Last success: now|Next pass in 23 s|-");
+    EXPECT_EQ(item.visible->tip, u"Syncing: 48 %, A & B\nLast success: now\nNext pass in 23 s");
+    for (const char* name : {"headline", "lastSuccess", "nextPass"})
+        EXPECT_FALSE(entry(name)->isEnabled()) << name;
+    EXPECT_EQ(item.entries[0],
+              (TrayEntry{.title = QStringLiteral("Syncing: 48 %, A && B"), .isEnabled = false}));
+    icon.show(StatusMenuState::Trouble);
+    EXPECT_TRUE(item.visible->needsAttention);
+}
+
+TEST_F(TrayIconTest, NextPass_IsNotSaidTwice) {
+    icon.showWork({.headline = QStringLiteral("All is well, next pass in 23 s"),
+                   .nextPass = QStringLiteral("Next pass in 23 s")});
+    EXPECT_EQ(facts().join(u'|'), u"All is well, next pass in 23 s|-");
+}
+
+TEST_F(TrayIconTest, ManyStatesOfWork_AreShownTwiceASecondAndTheLastAlways) {
+    host.setKind(TrayKind::Bus);
+    icon.show(StatusMenuState::Running);
+    const int before = item.changes;
+    for (int percent = 1; percent <= 30; ++percent) {
+        icon.showWork({.headline = QString::number(percent)});
+        mainQueue.advance(0.1);
+    }
+    EXPECT_LE(item.changes - before, 7);
+    EXPECT_GE(item.changes - before, 5);
+    mainQueue.advance(0.5);
+    EXPECT_EQ(item.visible->tip, u"30");
+    mainQueue.advance(0.5);
+    EXPECT_TRUE(mainQueue.idle());
+    icon.showWork({.headline = QStringLiteral("30")});
+    EXPECT_TRUE(mainQueue.idle()) << "nothing has changed";
+}
+
+TEST_F(TrayIconTest, TrayOfTheOtherKind_TakesTheIconOver) {
+    host.setKind(TrayKind::X11);
+    icon.show(StatusMenuState::Off);
+    EXPECT_TRUE(icon.shownIcon());
+    EXPECT_FALSE(item.visible);
+    host.setKind(TrayKind::Bus);
+    EXPECT_FALSE(icon.shownIcon());
+    EXPECT_TRUE(item.visible);
+    EXPECT_TRUE(icon.isReachable());
+    host.setKind(TrayKind::X11);
+    EXPECT_TRUE(icon.shownIcon());
+    EXPECT_FALSE(item.visible);
+}
+
+TEST_F(TrayIconTest, ItemActivated_ShowsTheWindow) {
+    host.setKind(TrayKind::Bus);
+    int shows = 0;
+    icon.setActions({.showWindow = [&] { ++shows; }});
+    icon.show(StatusMenuState::Off);
+    item.activate();
+    EXPECT_EQ(shows, 1);
+    item.openMenu(3, 4);
+    EXPECT_TRUE(icon.menu().isVisible());
+    icon.menu().close();
 }
 
 TEST_F(TrayIconTest, NoTray_MakesNoIcon) {
@@ -51,7 +139,7 @@ TEST_F(TrayIconTest, ToolTip_TellsTheState) {
     for (const auto state : {StatusMenuState::Off, StatusMenuState::Resting,
                              StatusMenuState::Running, StatusMenuState::Trouble}) {
         icon.show(state);
-        EXPECT_TRUE(icon.shownIcon()->toolTip().startsWith(u"Kelvo Mirror: "));
+        EXPECT_TRUE(icon.shownIcon()->toolTip().startsWith(u"Kelvo Mirror\n"));
         tips.insert(icon.shownIcon()->toolTip());
     }
     EXPECT_EQ(tips.size(), 4U);

@@ -87,6 +87,25 @@ TEST_F(WidgetMainViewTest, FieldThatEndedEditing_GivesItsFocusUpOnce) {
     EXPECT_TRUE(other->hasFocus()) << "only its own focus";
 }
 
+TEST_F(WidgetMainViewTest, Attention_FollowsWhetherTheWindowCanBeSeen) {
+    using enum Attention;
+    std::vector<Attention> told;
+    Subscription observed =
+        view.observeAttention([&told](Attention attention) { told.push_back(attention); });
+    EXPECT_EQ(told, std::vector{Seen});
+    window.hide();
+    EXPECT_EQ(told, (std::vector{Seen, Unseen}));
+    window.show();
+    window.showMinimized();
+    EXPECT_EQ(told.back(), Unseen);
+    window.showNormal();
+    EXPECT_EQ(told.back(), Seen);
+    const std::size_t sofar = told.size();
+    observed.reset();
+    window.hide();
+    EXPECT_EQ(told.size(), sofar);
+}
+
 TEST_F(WidgetMainViewTest, HiddenApplication_ComesBackToTheFront) {
     int ends = 0;
     WidgetApplication application(window, [&] { ++ends; });

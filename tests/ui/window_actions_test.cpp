@@ -1,17 +1,26 @@
 // Every control of the real window wired to the real controller in a pretend world.
 #include "app/window_actions.h"
+#include "fakes/recording_notices.h"
 #include "fakes/view_controller_world.h"
+#include "ui/close_policy.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/path_control_view.h"
+#include "ui/widgets/recent_arrivals.h"
+#include "ui/widgets/sheet_presenter.h"
+#include "ui/widgets/sync_tab.h"
 #include "ui/widgets/widget_button.h"
 #include "ui/widgets/widget_controls.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
@@ -34,6 +43,7 @@ protected:
                !console.logged().filter(start).isEmpty();
     }
 
+    RecordingNotices notices;
     MainWindow mainWindow{defaults, mainQueue};
     std::shared_ptr<WidgetPathControl> shownPath =
         std::make_shared<WidgetPathControl>(mainWindow.fNsPathControl1());
@@ -41,6 +51,7 @@ protected:
 };
 
 TEST_F(WindowActionsTest, NoButton_IsDead) {
+    mainWindow.showWork({.phase = WorkPhase::Running, .maySyncNow = true, .mayCancel = true});
     for (const QPushButton* found : mainWindow.findChildren<QPushButton*>())
         EXPECT_TRUE(found->isEnabled()) << qPrintable(found->objectName());
 }
@@ -65,6 +76,58 @@ TEST_F(WindowActionsTest, EachButton_RunsTheActionOfItsName) {
         EXPECT_TRUE(printed(QString(u"->" + QString::fromLatin1(line) + u"(_:)"))) << name;
     }
     EXPECT_EQ(relaunches, 1);
+}
+
+TEST_F(WindowActionsTest, QuitWhileAMovieIsCopied_AsksUntilItIsNotToBeAskedAgain) {
+    SheetPresenter alerts(
+        {.mainWindow = mainWindow, .mainQueue = mainQueue, .notices = notices, .showWhy = [] {}});
+    const ClosePolicy policy;
+    int asked = 0;
+    const auto quitAnd = [&](Qt::Key key, bool tick) {
+        QTimer::singleShot(0, &mainWindow, [&, key, tick] {
+            auto* box = mainWindow.findChild<QMessageBox*>(QStringLiteral("alert"));
+            if (!box)
+                return;
+            ++asked;
+            EXPECT_TRUE(box->informativeText().startsWith(
+                u"The pass that runs will be ended: Feature.mkv, 48 %."));
+            if (tick)
+                QTest::keyClick(box->checkBox(), Qt::Key_Space);
+            QTest::keyClick(box, key);
+        });
+        const bool may = askBeforeQuitting(mainWindow.work(), policy, defaults, alerts);
+        QCoreApplication::processEvents();
+        return may;
+    };
+    EXPECT_TRUE(quitAnd(Qt::Key_Escape, false));
+    EXPECT_EQ(asked, 0) << "nothing is being copied";
+    mainWindow.showWork(
+        {.phase = WorkPhase::Running, .file = QStringLiteral("Feature.mkv"), .share = 0.48});
+    EXPECT_FALSE(quitAnd(Qt::Key_Escape, true));
+    EXPECT_FALSE(defaults.boolForKey(prefQuitWithoutAsking)) << "who stays is asked again";
+    EXPECT_TRUE(quitAnd(Qt::Key_Return, false));
+    EXPECT_TRUE(quitAnd(Qt::Key_Return, true));
+    EXPECT_EQ(asked, 3);
+    EXPECT_TRUE(defaults.boolForKey(prefQuitWithoutAsking));
+    EXPECT_TRUE(quitAnd(Qt::Key_Escape, false));
+    EXPECT_EQ(asked, 3);
+}
+
+TEST_F(WindowActionsTest, Arrival_IsOpened) {
+    mainWindow.syncTab().recentArrivals().setStore(passStore);
+    PassRecord pass;
+    pass.arrivals.push_back({"/in/box/new.mkv", 1, now});
+    passStore.append(pass);
+    mainWindow.show();
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::processEvents();
+        mainQueue.runDue();
+    }
+    auto* list = mainWindow.findChild<QTreeWidget*>(QStringLiteral("arrivals"));
+    ASSERT_NE(list, nullptr);
+    list->setCurrentItem(list->topLevelItem(0));
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(workspace.requests, QStringList{QStringLiteral("openFile /in/box/new.mkv")});
 }
 
 TEST_F(WindowActionsTest, ClickOnTheSourcePath_SendsTheControlsActionAlone) {

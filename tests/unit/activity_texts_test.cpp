@@ -1,6 +1,8 @@
 #include "ui/activity_texts.h"
 #include "ui/pass_words.h"
 
+#include <QLocale>
+
 #include <gtest/gtest.h>
 
 namespace kelvo {
@@ -16,34 +18,6 @@ PassRecord passAgo(qint64 seconds, PassCause cause) {
     pass.cause = cause;
     pass.transfer = {TransferSource::Statistics, 3, 3000};
     return pass;
-}
-
-TEST(ActivityTextsTest, NoPass_IsSaid) {
-    EXPECT_EQ(activityHeadline({}, cNow), QStringLiteral("No pass yet."));
-}
-
-TEST(ActivityTextsTest, Health_IsOneSentence) {
-    const std::vector<PassRecord> records{passAgo(240, PassCause::Well),
-                                          passAgo(300, PassCause::HostAway)};
-    EXPECT_EQ(activityHeadline(records, cNow),
-              QStringLiteral("Last success: 4 minutes ago, 3 files."));
-}
-
-TEST(ActivityTextsTest, Trouble_SaysSinceWhenWhyAndWhatToDo) {
-    const std::vector<PassRecord> records{
-        passAgo(60, PassCause::HostAway), passAgo(3600, PassCause::HostNotFound),
-        passAgo(7200, PassCause::Well), passAgo(9000, PassCause::DiskFull)};
-    const QString line = activityHeadline(records, cNow);
-    EXPECT_TRUE(line.startsWith(QStringLiteral("Last success: 2 hours ago, 3 files. ")));
-    EXPECT_TRUE(line.contains(QString(u"since " + beganText(records[1]) + u':')));
-    EXPECT_TRUE(line.contains(wordsFor(PassCause::HostAway).sentence));
-    EXPECT_TRUE(line.endsWith(wordsFor(PassCause::HostAway).nextStep));
-}
-
-TEST(ActivityTextsTest, TroubleFromTheBeginning_SaysThatToo) {
-    const std::vector<PassRecord> records{passAgo(60, PassCause::KeyMissing)};
-    EXPECT_TRUE(
-        activityHeadline(records, cNow).startsWith(QStringLiteral("No success yet. In trouble")));
 }
 
 TEST(ActivityTextsTest, Report_HoldsEveryCommandAndSpellsControlsOut) {
@@ -66,6 +40,80 @@ TEST(ActivityTextsTest, Report_HoldsEveryCommandAndSpellsControlsOut) {
           u"\\x1b[31m\n… 77 bytes left out …\nend\n", u"given up", u"the command did not say"})
         EXPECT_TRUE(report.contains(part)) << part.toUtf8().constData();
     EXPECT_FALSE(report.contains(u'\x1b'));
+}
+
+TEST(ActivityTextsTest, CancelledPass_IsToldWithItsArrivalsAndTheCommandAfterThem) {
+    PassRecord pass = passAgo(0, PassCause::Cancelled);
+    pass.arrivals = {{"/in/a\x1b[31m\n.mov", 1'200'000'000, cNow}};
+    CommandRecord pull;
+    pull.command = QStringLiteral("rsync it");
+    CommandRecord after;
+    after.role = CommandRole::AfterArrivals;
+    after.command = QStringLiteral("tell");
+    after.exitStatus = 3;
+    pass.commands = {pull, after};
+    const QString report = passReport(pass);
+    for (const QStringView part :
+         {u"Cancelled by you.", u"\nArrived:\n  /in/a\\x1b[31m\\x0a.mov, 1.2 GB\n",
+          u"$ rsync it\n(ended when the pass was cancelled",
+          u"\nRun after arrivals:\n$ tell\n(exit status 3"})
+        EXPECT_TRUE(report.contains(part)) << part.toUtf8().constData() << report.toStdString();
+}
+
+TEST(ActivityTextsTest, ManyArrivals_AreCountedNotListed) {
+    PassRecord pass = passAgo(0, PassCause::Well);
+    pass.arrivals.assign(50'000, {"/in/a.mov", 1, cNow});
+    const QString report = passReport(pass);
+    EXPECT_EQ(report.count(QStringLiteral("/in/a.mov")), 1000);
+    EXPECT_TRUE(report.contains(QStringLiteral("  … and 49000 more\n")));
+}
+
+TEST(ActivityTextsTest, ArrivedName_IsRelativeAndOneHarmlessLine) {
+    const QString folder = QStringLiteral("/in/Films ü");
+    EXPECT_EQ(arrivedName("/in/Films ü/Café/a.mov", folder), QStringLiteral("Café/a.mov"));
+    EXPECT_EQ(arrivedName("/in/Films ü/a.mov", folder + u'/'), QStringLiteral("a.mov"));
+    EXPECT_EQ(arrivedName("/in/Films übrig/a.mov", folder),
+              QStringLiteral("/in/Films übrig/a.mov"));
+    EXPECT_EQ(arrivedName("/in/a.mov", {}), QStringLiteral("/in/a.mov"));
+    EXPECT_EQ(arrivedName("/\xffé\xe2\x82\t\xe2\x80\xaevom.a", {}),
+              QStringLiteral("/\\xffé\\xe2\\x82\\x09\\u202evom.a"));
+}
+
+TEST(ActivityTextsTest, Sizes_HaveThreeFigures) {
+    EXPECT_EQ(bytesText(0), QStringLiteral("0 bytes"));
+    EXPECT_EQ(bytesText(999), QStringLiteral("999 bytes"));
+    EXPECT_EQ(bytesText(1'240'000'000), QStringLiteral("1.2 GB"));
+    EXPECT_EQ(bytesText(640'000'000), QStringLiteral("640 MB"));
+}
+
+TEST(ActivityTextsTest, Days_AreNamedAndSummedUp) {
+    const QDate today(2026, 3, 1);
+    EXPECT_EQ(dayText(today, today), QStringLiteral("Today"));
+    EXPECT_EQ(dayText(QDate(2026, 2, 28), today), QStringLiteral("Yesterday"));
+    EXPECT_EQ(dayText(QDate(2026, 2, 27), today),
+              QLocale().toString(QDate(2026, 2, 27), QLocale::LongFormat));
+    const DayOfPasses first{today, 1, 1'500'000'000, true};
+    EXPECT_EQ(dayReport(first), QStringLiteral("1.5 GB, 1 movie; a pass was in trouble"));
+    EXPECT_EQ(totalText(std::vector{first, DayOfPasses{today, 47, 210'500'000'000, false}}, 30),
+              QStringLiteral("212 GB, 48 movies in 30 days"));
+    EXPECT_EQ(totalText({}, 30), QStringLiteral("nothing new in 30 days"));
+}
+
+TEST(ActivityTextsTest, RunningPass_TellsWhatIsKnown) {
+    WorkState work;
+    work.phase = WorkPhase::Running;
+    EXPECT_EQ(runningText(work), QStringLiteral("Running"));
+    work.step = QStringLiteral("First pull");
+    work.count = QStringLiteral("file 7 of 15");
+    work.share = 0.489;
+    EXPECT_EQ(runningText(work), QStringLiteral("First pull, file 7 of 15, 48 %"));
+    work.file = QStringLiteral("a.mov");
+    work.phase = WorkPhase::Cancelling;
+    EXPECT_EQ(runningReport(work),
+              QStringLiteral("First pull, file 7 of 15, 48 %, being cancelled\na.mov\n"));
+    EXPECT_TRUE(isRunning(work));
+    work.phase = WorkPhase::Resting;
+    EXPECT_FALSE(isRunning(work));
 }
 
 TEST(ActivityTextsTest, Csv_IsQuotedAndHoldsNoFormula) {

@@ -28,6 +28,11 @@ public:
     QString description() const override { return QStringLiteral("<view>"); }
     void viewDidLoad() override { fConsole.print(QStringLiteral("(view loaded)")); }
     void clickStartButton() override {}
+    void syncNow() override {}
+    void cancelPass() override {}
+    void showActivity(std::optional<qint64>) override {}
+    void revealFolder() override {}
+    void menuShown(bool) override {}
     void quitAndRelaunch() override { fConsole.print(QStringLiteral("(relaunch)")); }
 
 private:

@@ -61,6 +61,8 @@ TEST(ChecklistTest, Key_IsALineUntilItIsAccepted) {
               QStringList{QStringLiteral("The program has no ssh key of its own yet.")});
     EXPECT_EQ(linesFor(KeyState::NotAccepted, {}), QStringList{notAccepted});
     EXPECT_EQ(linesFor(KeyState::NotAccepted, PassCause::DiskFull), QStringList{notAccepted});
+    EXPECT_EQ(linesFor(KeyState::NotAccepted, PassCause::RemoteLoginOff), QStringList())
+        << "nobody was asked";
     EXPECT_EQ(linesFor(KeyState::NotAccepted, PassCause::HostKeyChanged),
               QStringList{wordsFor(PassCause::HostKeyChanged).sentence.toString()});
     EXPECT_EQ(linesFor(KeyState::Accepted, PassCause::KeyRefused), QStringList());

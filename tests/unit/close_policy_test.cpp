@@ -38,6 +38,38 @@ TEST(ClosePolicyTest, OnlyTheFirstButton_ClosesTheWindow) {
     EXPECT_EQ(policy.result(cModalResponseStop), CloseResult::KeepOpen);
 }
 
+const WorkState cCopying{
+    .phase = WorkPhase::Running, .file = QStringLiteral("Feature.mkv"), .share = 0.489};
+
+TEST(ClosePolicyTest, QuitWhileAMovieIsCopied_SaysWhatItEnds) {
+    const ClosePolicy policy;
+    const auto question = policy.questionBeforeQuitting(cCopying, false);
+    ASSERT_TRUE(question);
+    EXPECT_EQ(question->informativeText, u"The pass that runs will be ended: Feature.mkv, 48 %. "
+                                         u"The next start goes on from there.");
+    EXPECT_EQ(question->buttons,
+              (QStringList{QStringLiteral("Quit"), QStringLiteral("Keep Running")}));
+    WorkState unknownShare = cCopying;
+    unknownShare.phase = WorkPhase::Finishing;
+    unknownShare.share.reset();
+    EXPECT_TRUE(policy.questionBeforeQuitting(unknownShare, false)
+                    ->informativeText.contains(u"ended: Feature.mkv. The"));
+}
+
+TEST(ClosePolicyTest, QuitThatEndsNothing_AsksNothing) {
+    ClosePolicy policy;
+    EXPECT_EQ(policy.questionBeforeQuitting(cCopying, true), std::nullopt);
+    for (const WorkPhase phase :
+         {WorkPhase::Off, WorkPhase::Missing, WorkPhase::Cancelling, WorkPhase::Resting}) {
+        WorkState work = cCopying;
+        work.phase = phase;
+        EXPECT_EQ(policy.questionBeforeQuitting(work, false), std::nullopt);
+    }
+    EXPECT_EQ(policy.questionBeforeQuitting({.phase = WorkPhase::Running}, false), std::nullopt);
+    policy.programQuits();
+    EXPECT_EQ(policy.questionBeforeQuitting(cCopying, false), std::nullopt);
+}
+
 TEST(ClosePolicyTest, Quitting_ClosesWithoutAWord) {
     ClosePolicy policy;
     policy.programQuits();

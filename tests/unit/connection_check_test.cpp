@@ -5,7 +5,6 @@
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
 #include "remote/connection_check.h"
-#include "remote/share_commands.h"
 #include "settings/preference_keys.h"
 #include "ui/alerts.h"
 
@@ -20,8 +19,6 @@ using Lines = std::vector<RecordingConsole::Line>;
 const QString cCommand = QStringLiteral(
     "ssh -i /Users/localuser/.ssh/id_kelvoRsync -o BatchMode=yes -o ConnectTimeout=5 "
     "ann@Office-Mac-Mini.local echo \"remoteisgood\" 2>&1");
-const QString cShareCommand =
-    QStringLiteral("open \"smb://ann@Office%20Mac%20Mini._smb._tcp.local/Macintosh%20HD\"");
 
 class ConnectionCheckTest : public ::testing::Test {
 protected:
@@ -51,7 +48,6 @@ protected:
     ScriptedShell shell;
     FakeAlertPresenter presenter;
     Alerts alerts{mainQueue, console, presenter};
-    MacShareCommands commands;
     std::vector<bool> busySigns;
     ConnectionCheck connection{{
         .defaults = defaults,
@@ -60,7 +56,6 @@ protected:
         .mainQueue = mainQueue,
         .bgQueue = bgQueue,
         .shell = shell,
-        .commands = commands,
         .showAlert =
             [this](const QString& message, const QString& text, AlertCompletion completion) {
                 alerts.showAlertWithClosure(message, text, std::nullopt, std::move(completion));
@@ -247,43 +242,6 @@ TEST_F(ConnectionCheckTest, HostThatNeverEnds_IsCutOffAndTheButtonIsFreeAgain) {
     mainQueue.advance(0.1);
     EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{35.0});
     EXPECT_EQ(busySigns, (std::vector<bool>{true, false}));
-}
-
-// -- the share
-
-TEST_F(ConnectionCheckTest, OpenShare_ListsTheVolumesHalfASecondLater) {
-    shell.answerTo(QStringLiteral("df"), QStringLiteral("a volume"));
-    connection.ibTestShellCommand111();
-    EXPECT_EQ(shell.commands(), QStringList{cShareCommand});
-    mainQueue.advance(0.499);
-    EXPECT_EQ(shell.commands().size(), 1);
-    mainQueue.advance(0.001);
-    EXPECT_EQ(shell.commands(), (QStringList{cShareCommand, QStringLiteral("df -ahY -T smbfs")}));
-    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>(2, 50.0));
-    const QString prefix = QStringLiteral("Inside ViewController->ibTestShellCommand111(_:)");
-    EXPECT_EQ(console.logged(),
-              (QStringList{QString(prefix + u"......."),
-                           QString(prefix + u".......response[" + cShareCommand + u"]= []"),
-                           QString(prefix + u".......response[df -ahY -T smbfs]= a volume")}));
-}
-
-TEST_F(ConnectionCheckTest, OpenShareThatSaysSomething_IsTheEnd) {
-    shell.answerTo(QStringLiteral("open"), QStringLiteral("no"));
-    connection.ibTestShellCommand111();
-    const QString prefix = QStringLiteral("Inside ViewController->ibTestShellCommand111(_:)");
-    EXPECT_EQ(console.logged(),
-              (QStringList{QString(prefix + u"......."),
-                           QString(prefix + u".......response[" + cShareCommand + u"]= [no]"),
-                           QString(prefix + u".......OH OH????")}));
-    EXPECT_TRUE(mainQueue.idle());
-}
-
-TEST_F(ConnectionCheckTest, OpenShareWithoutAHost_IsSilent) {
-    defaults.removeObject(prefRemoteBonjourName);
-    connection.ibTestShellCommand111();
-    EXPECT_EQ(console.lines().size(), 1U);
-    EXPECT_TRUE(shell.commands().isEmpty());
-    EXPECT_TRUE(mainQueue.idle());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "app/commands/once.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
@@ -91,6 +92,9 @@ TEST(OnceTest, Lines_TellOutcomeAndNextStep) {
     const QString trouble = outcomeOf(passWith(PassCause::HostAway), false).output;
     EXPECT_TRUE(trouble.startsWith(QStringLiteral("The Mac is away or asleep. (")));
     EXPECT_TRUE(trouble.contains(QStringLiteral("\nNext step: Wake the Mac")));
+    PassRecord hostile = passWith(PassCause::Unknown);
+    hostile.lastLine = QStringLiteral("\x1b[2Jclosed");
+    EXPECT_FALSE(outcomeOf(hostile, false).output.contains(QChar(0x1b)));
 }
 
 TEST(OnceTest, Json_IsOneObjectOnOneLine) {
@@ -108,6 +112,23 @@ TEST(OnceTest, Json_IsOneObjectOnOneLine) {
     EXPECT_EQ(object.value(u"seconds"), 65.2);
     EXPECT_EQ(object.value(u"exitCode"), answer.exitCode);
     EXPECT_EQ(object.value(u"lastLine"), pass.lastLine);
+    EXPECT_TRUE(object.value(u"arrivals").isArray());
+}
+
+TEST(OnceTest, Arrivals_AreNamedUpToTwentyAndAllInJson) {
+    PassRecord pass = passWith(PassCause::Well);
+    for (int i = 1; i <= 23; ++i)
+        pass.arrivals.push_back({"/in/" + QByteArray::number(i) + "\n.mov", i, pass.began});
+    const QStringList lines = outcomeOf(pass, false).output.split(u'\n');
+    ASSERT_EQ(lines.size(), 24) << "outcome, heading, twenty, the rest, the end";
+    EXPECT_EQ(lines[1], QStringLiteral("Arrived:"));
+    EXPECT_EQ(lines[21], QStringLiteral("  /in/20\\x0a.mov"));
+    EXPECT_EQ(lines[22], QStringLiteral("  and 3 more"));
+    const auto json = QJsonDocument::fromJson(outcomeOf(pass, true).output.toUtf8()).object();
+    ASSERT_EQ(json.value(u"arrivals").toArray().size(), 23);
+    EXPECT_EQ(json.value(u"arrivals")[22][u"path"], QStringLiteral("/in/23\n.mov"));
+    pass.arrivals.resize(20);
+    EXPECT_FALSE(outcomeOf(pass, false).output.contains(QStringLiteral("more")));
 }
 
 } // namespace

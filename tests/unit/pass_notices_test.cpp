@@ -13,19 +13,24 @@ namespace {
 
 class PassNoticesTest : public ::testing::Test {
 protected:
-    void pass(PassCause cause) {
+    void pass(PassCause cause, std::initializer_list<const char*> arrived = {}) {
         PassRecord record;
         record.cause = cause;
         record.lastLine = QStringLiteral("<b>said by the host</b>");
+        for (const char* path : arrived)
+            record.arrivals.push_back({path, 0, {}});
         store.append(record);
         mainQueue.runDue();
     }
 
     VirtualMainQueue mainQueue;
     MemoryPassStore store{mainQueue};
-    MemoryDefaults defaults{{{prefShowNotices.toString(), true}}};
+    MemoryDefaults defaults{
+        {{prefShowNotices.toString(), true}, {prefShowArrivals.toString(), true}}};
     RecordingNotices desktop;
-    PassNotices notices{store, defaults, desktop};
+    std::vector<std::optional<qint64>> asked; ///< for the record of passes
+    PassNotices notices{store, defaults, desktop,
+                        [this](std::optional<qint64> pass) { asked.push_back(pass); }};
 };
 
 TEST_F(PassNoticesTest, ScriptedDay_GivesOneNoticeATurn) {
@@ -71,6 +76,54 @@ TEST_F(PassNoticesTest, WordsOfTheHost_AreNotShown) {
     pass(PassCause::Unknown);
     ASSERT_EQ(desktop.shown.size(), 1);
     EXPECT_FALSE(desktop.shown[0].contains(QStringLiteral("said by the host")));
+}
+
+TEST_F(PassNoticesTest, Arrivals_AreNamed) {
+    pass(PassCause::Well, {"/m/A.mov", "/m/B.mov", "/m/C.mov"});
+    pass(PassCause::Well);
+    pass(PassCause::Cancelled, {"/m/D\n.mov"});
+    EXPECT_EQ(desktop.shown,
+              (QStringList{QStringLiteral("3 new movies | A.mov, B.mov and one more"),
+                           QStringLiteral("1 new movie | D\\x0a.mov")}));
+    EXPECT_FALSE(desktop.notices.back().urgent);
+}
+
+TEST_F(PassNoticesTest, ArrivalsAndTurns_AreSwitchedApart) {
+    defaults.setObject(prefShowArrivals, false);
+    pass(PassCause::Well, {"A"});
+    EXPECT_TRUE(desktop.shown.isEmpty());
+    pass(PassCause::DiskFull);
+    EXPECT_EQ(desktop.shown.size(), 1);
+    defaults.setObject(prefShowArrivals, true);
+    defaults.setObject(prefShowNotices, false);
+    pass(PassCause::Well, {"A"});
+    ASSERT_EQ(desktop.shown.size(), 2);
+    EXPECT_TRUE(desktop.shown[1].startsWith(QStringLiteral("1 new movie")));
+}
+
+TEST_F(PassNoticesTest, TurnWithArrivals_IsOneNotice) {
+    pass(PassCause::AfterFailed, {"A"});
+    pass(PassCause::Well, {"B"});
+    ASSERT_EQ(desktop.shown.size(), 2);
+    EXPECT_TRUE(desktop.shown[0].startsWith(QStringLiteral("Kelvo Mirror is in trouble")));
+    EXPECT_TRUE(desktop.shown[1].startsWith(QStringLiteral("Kelvo Mirror is well again")));
+}
+
+TEST_F(PassNoticesTest, TroubleThatOnlyAPersonMends_IsUrgent) {
+    pass(PassCause::HostAway);
+    EXPECT_FALSE(desktop.notices.back().urgent) << "a Mac may sleep at night";
+    pass(PassCause::Well);
+    EXPECT_FALSE(desktop.notices.back().urgent);
+    pass(PassCause::KeyRefused);
+    EXPECT_TRUE(desktop.notices.back().urgent);
+}
+
+TEST_F(PassNoticesTest, Show_AsksForThePassOfTheNotice) {
+    pass(PassCause::Well);
+    pass(PassCause::DiskFull);
+    pass(PassCause::DiskFull);
+    EXPECT_TRUE(desktop.chooseShow());
+    EXPECT_EQ(asked, std::vector{std::optional<qint64>(2)});
 }
 
 } // namespace

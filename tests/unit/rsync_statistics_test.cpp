@@ -44,6 +44,13 @@ TEST(RsyncStatisticsTest, NamesAlone_TellNoBytes) {
     EXPECT_FALSE(transfer.bytes.has_value());
 }
 
+TEST(RsyncStatisticsTest, NamesWithTheirSizes_AreCounted) {
+    const auto transfer = transferOf(u"/usr/bin/rsync --out-format='%l %n' a/ b/",
+                                     u"4096 sub/\n70 sub/sent 5.mov\nConnection to mac closed.\n");
+    EXPECT_EQ(transfer.source, TransferSource::Lines);
+    EXPECT_EQ(transfer.files, 1);
+}
+
 TEST(RsyncStatisticsTest, NoNames_AreNoBytes) {
     const auto transfer = transferOf(u"/usr/bin/rsync -rv a/ b/",
                                      u"receiving incremental file list\n\n"

@@ -19,7 +19,16 @@ public:
     explicit ScriptedCommands(double& clock) : fClock(clock) {}
 
     CommandResult run(const Command& command) override {
-        if (whileRunning)
+        if (command.started)
+            command.started(1);
+        for (const char* piece : pieces) {
+            if (!command.received)
+                break;
+            command.received(piece);
+            if (whileRunning)
+                whileRunning();
+        }
+        if (whileRunning && pieces.empty())
             whileRunning();
         if (command.text == endless) {
             fClock += command.seconds.value_or(0);
@@ -32,8 +41,16 @@ public:
         }
         return {{}, {}, 0};
     }
+    void cancel(CommandId) override {}
+    std::optional<FileBeingWritten> fileBeingWritten(CommandId) const override {
+        ++looks;
+        return writing;
+    }
 
     std::function<void()> whileRunning;
+    std::vector<const char*> pieces; ///< printed one by one
+    std::optional<FileBeingWritten> writing;
+    mutable int looks = 0;
     QString endless; ///< this command never ends by itself
 
     std::map<QString, CommandResult> results;
@@ -45,8 +62,8 @@ private:
 class RunningPassTest : public ::testing::Test {
 protected:
     static CommandResult run(RunningPass& pass, const char* command,
-                             CommandRole role = CommandRole::Pull) {
-        return pass.run(role, {.text = QString::fromLatin1(command)});
+                             PassStep step = PassStep::Pull) {
+        return pass.run(step, {.text = QString::fromLatin1(command)});
     }
 
     double clock = 100;
@@ -64,7 +81,7 @@ TEST_F(RunningPassTest, RemotePass_IsWrittenDownWhole) {
     commands.results[QStringLiteral("second")] = {{}, QStringLiteral("oops\n"), 24};
     {
         RunningPass pass(passes, PassKind::Remote);
-        run(pass, "ssh whoami", CommandRole::HostCheck);
+        run(pass, "ssh whoami", PassStep::AskingTheMac);
         pass.judged(HostVerdict::Valid);
         run(pass, "first --stats");
         run(pass, "second");
@@ -137,19 +154,19 @@ TEST_F(RunningPassTest, PassesUnderWay_TellWhatRunsSinceWhen) {
     commands.whileRunning = [&] { seen = passes.underWay(); };
     {
         RunningPass pass(passes, PassKind::Remote);
-        run(pass, "ssh whoami", CommandRole::HostCheck);
+        run(pass, "ssh whoami", PassStep::AskingTheMac);
         ASSERT_EQ(seen.size(), 1U);
         EXPECT_EQ(seen[0].kind, PassKind::Remote);
         EXPECT_EQ(seen[0].began, noon);
-        EXPECT_EQ(seen[0].role, CommandRole::HostCheck);
+        EXPECT_EQ(seen[0].progress.step, PassStep::AskingTheMac);
         EXPECT_EQ(seen[0].command, QStringLiteral("ssh whoami"));
         const RunningPass second(passes, PassKind::Plain);
         run(pass, "pull");
         ASSERT_EQ(seen.size(), 2U);
-        EXPECT_EQ(seen[0].role, CommandRole::Pull);
+        EXPECT_EQ(seen[0].progress.step, PassStep::Pull);
         EXPECT_EQ(seen[0].command, QStringLiteral("pull"));
-        EXPECT_FALSE(seen[1].role.has_value());
-        EXPECT_FALSE(passes.underWay()[0].role.has_value()) << "between two commands";
+        EXPECT_EQ(seen[1].progress.step, PassStep::Begun);
+        EXPECT_EQ(passes.underWay()[0].progress.step, PassStep::Begun) << "between two commands";
     }
     EXPECT_TRUE(passes.underWay().empty());
 }
@@ -163,12 +180,87 @@ TEST_F(RunningPassTest, Result_IsHandedBackUntouched) {
     EXPECT_EQ(result.exitStatus, 3);
 }
 
+TEST_F(RunningPassTest, PullThatTellsItsProgress_IsSeenAsItIs) {
+    std::vector<PassProgress> seen;
+    commands.pieces = {"70 a\\#377.mov\n\r      0   0%    0.00kB/s    0:00:00  ",
+                       "\r     70 100%    1.00kB/s    0:00:01 (xfr#1, to-chk=0/2)\n"};
+    commands.whileRunning = [&] { seen.push_back(passes.underWay().at(0).progress); };
+    RunningPass pass(passes, PassKind::Plain);
+    run(pass, "rsync --info=progress2 --out-format='%l %n'", PassStep::Pull);
+    ASSERT_EQ(seen.size(), 2U);
+    EXPECT_EQ(seen[0].step, PassStep::Pull);
+    EXPECT_EQ(seen[0].file, QStringLiteral("a\\#377.mov"));
+    EXPECT_EQ(seen[0].bytesDone, 0);
+    EXPECT_EQ(seen[1].share, 1);
+    EXPECT_EQ(seen[1].filesDone, 1);
+    EXPECT_EQ(commands.looks, 0) << "the command tells by itself";
+    EXPECT_EQ(passes.underWay().at(0).progress, PassProgress()) << "the command has ended";
+    EXPECT_EQ(pass.names(), std::vector<QByteArray>{"a\xff.mov"});
+}
+
+TEST_F(RunningPassTest, SamePullOnceMore_KnowsThatTheRestIsHere) {
+    std::vector<PassProgress> seen;
+    commands.pieces = {"100 a.mov\n\r      50   0%    1.00kB/s    0:01:01  "};
+    commands.whileRunning = [&] { seen.push_back(passes.underWay().at(0).progress); };
+    RunningPass pass(passes, PassKind::Plain);
+    run(pass, "rsync --info=progress2 --out-format='%l %n'");
+    run(pass, "rsync --info=progress2 --out-format='%l %n'");
+    ASSERT_EQ(seen.size(), 2U);
+    EXPECT_FALSE(seen[0].bytesKnown);
+    EXPECT_EQ(seen[1].bytesKnown, 100);
+    EXPECT_EQ(seen[1].share, 0.5);
+}
+
+TEST_F(RunningPassTest, PullThatSaysNothing_IsSeenByTheFileItWrites) {
+    std::vector<PassProgress> seen;
+    const auto look = [&](std::optional<FileBeingWritten> writing, double seconds) {
+        commands.writing = std::move(writing);
+        clock += seconds;
+        seen.push_back(passes.underWay().at(0).progress);
+    };
+    commands.whileRunning = [&] {
+        look(FileBeingWritten{"one.mov", 1000}, 0);
+        look(FileBeingWritten{"one.mov", 9000}, 0.1);
+        look(FileBeingWritten{"one.mov", 3000}, 1);
+        look(FileBeingWritten{"two\x1b.mov", 500}, 1);
+        look(std::nullopt, 1);
+    };
+    RunningPass pass(passes, PassKind::Remote);
+    run(pass, "rsync", PassStep::Movies);
+    ASSERT_EQ(seen.size(), 5U);
+    EXPECT_EQ(seen[0].step, PassStep::Movies);
+    EXPECT_EQ(seen[0].file, QStringLiteral("one.mov"));
+    EXPECT_EQ(seen[0].bytesDone, 1000);
+    EXPECT_EQ(seen[1].bytesDone, 1000) << "looked at too short a while ago";
+    EXPECT_EQ(seen[2].bytesDone, 3000);
+    EXPECT_NEAR(seen[2].bytesPerSecond.value_or(0), 2000 / 1.1, 1);
+    EXPECT_EQ(seen[3].file, QStringLiteral("two\\x1b.mov"));
+    EXPECT_EQ(seen[3].filesDone, 1);
+    EXPECT_EQ(seen[3].bytesDone, 3500);
+    EXPECT_EQ(seen[4].filesDone, 2);
+    EXPECT_FALSE(seen[4].share);
+    EXPECT_EQ(commands.looks, 4);
+}
+
+TEST_F(RunningPassTest, ProgressOfAPull_IsNotKept) {
+    const QString text = QStringLiteral("a.mov\n\r   70 100%  1.00kB/s  0:00:01 (xfr#1, "
+                                        "to-chk=0/2)\nend\n");
+    commands.results[QStringLiteral("x")] = {text, {}, 0};
+    {
+        RunningPass pass(passes, PassKind::Plain);
+        EXPECT_EQ(run(pass, "x").output, QStringLiteral("a.mov\nend\n"));
+        EXPECT_EQ(run(pass, "x", PassStep::AskingTheMac).output, text);
+    }
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].commands.at(0).text.head, QStringLiteral("a.mov\nend\n"));
+}
+
 TEST_F(RunningPassTest, CheckWhoseTimeWasUp_IsWrittenDownAsAHostThatIsAway) {
     commands.endless = QStringLiteral("ssh whoami");
     {
         RunningPass pass(passes, PassKind::Remote);
         const CommandResult result =
-            pass.run(CommandRole::HostCheck, {.text = commands.endless, .seconds = 33});
+            pass.run(PassStep::AskingTheMac, {.text = commands.endless, .seconds = 33});
         EXPECT_EQ(result.output, QStringLiteral("so far\n"));
         pass.judged(HostVerdict::UnknownError);
     }
@@ -218,6 +310,7 @@ TEST(RecordedCycleTest, PlainPass_EndsWithItsBody) {
     ViewControllerWorld world;
     world.defaults.setObject(prefRsyncWithSSH, false);
     world.defaults.setObject(prefIsScanning, false);
+    world.files.folders.insert(QStringLiteral("/a"));
     world.defaults.setObject(prefPath1, QStringLiteral("/a"));
     world.defaults.setObject(prefPath2, QStringLiteral("/b"));
     world.defaults.setObject(prefRsyncCommandString1, QStringLiteral("cp %@1 %@2"));

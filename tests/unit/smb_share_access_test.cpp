@@ -17,6 +17,7 @@ namespace {
 const QString cReveal = QStringLiteral("Inside ViewController->ibRevealSourcePathSMB(_:)");
 const QString cDebug = QStringLiteral("Inside ViewController->ibRevealSourcePathSMBdebug(_:)");
 const QString cOlder = QStringLiteral("Inside ViewController->ibRevealSourcePathSMBdebugOLD(_:)");
+const QString cTest = QStringLiteral("Inside ViewController->ibTestShellCommand111(_:)");
 const QString cOpenShare =
     QStringLiteral("open \"smb://ann@Office%20Mac%20Mini._smb._tcp.local/Macintosh%20HD\"");
 const QString cList = QStringLiteral("df -ahY -T smbfs");
@@ -158,6 +159,40 @@ TEST_F(SmbShareAccessTest, OlderWay_GoesOnAfterAnEmptyListing) {
 
 // -- Linux
 
+TEST_F(SmbShareAccessTest, Test_ListsTheVolumesHalfASecondLater) {
+    shell.answerTo(QStringLiteral("df"), QStringLiteral("a volume"));
+    share.ibTestShellCommand111();
+    EXPECT_EQ(shell.commands(), QStringList{cOpenShare});
+    mainQueue.advance(0.499);
+    EXPECT_EQ(shell.commands().size(), 1);
+    mainQueue.advance(0.001);
+    EXPECT_EQ(shell.commands(), (QStringList{cOpenShare, cList}));
+    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>(2, 50.0));
+    EXPECT_EQ(console.logged(),
+              (QStringList{QString(cTest + u"......."),
+                           QString(cTest + u".......response[" + cOpenShare + u"]= []"),
+                           QString(cTest + u".......response[" + cList + u"]= a volume")}));
+    EXPECT_TRUE(workspace.requests.isEmpty()) << "the command itself has opened it";
+}
+
+TEST_F(SmbShareAccessTest, TestThatIsToldSomething_IsTheEnd) {
+    shell.answerTo(QStringLiteral("open"), QStringLiteral("no"));
+    share.ibTestShellCommand111();
+    EXPECT_EQ(console.logged(),
+              (QStringList{QString(cTest + u"......."),
+                           QString(cTest + u".......response[" + cOpenShare + u"]= [no]"),
+                           QString(cTest + u".......OH OH????")}));
+    EXPECT_TRUE(mainQueue.idle());
+}
+
+TEST_F(SmbShareAccessTest, TestWithoutAHost_IsSilent) {
+    defaults.removeObject(prefRemoteBonjourName);
+    share.ibTestShellCommand111();
+    EXPECT_EQ(console.lines().size(), 1U);
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_TRUE(mainQueue.idle());
+}
+
 class GioShareAccessTest : public ShareWorld<GioShareCommands> {
 protected:
     static constexpr auto cVolume = u"/run/user/1/gvfs/smb-share:server=m,share=macintosh%20hd";
@@ -183,6 +218,29 @@ TEST_F(GioShareAccessTest, Debug_OpensThroughTheDesktop) {
     share.ibRevealSourcePathSMBdebug();
     mainQueue.advance(0.6);
     EXPECT_EQ(workspace.requests, QStringList{QString::fromUtf16(cFolder)});
+}
+
+TEST_F(GioShareAccessTest, Test_OpensTheShareAndListsIt) {
+    mount();
+    share.ibTestShellCommand111();
+    mainQueue.advance(0.5);
+    EXPECT_EQ(workspace.requests, QStringList{QString(u"openFile " + QString::fromUtf16(cVolume))});
+    EXPECT_TRUE(console.logged().contains(QString(cTest + u".......response[" +
+                                                  commands.listVolumes(*shareTarget(defaults)) +
+                                                  u"]= local path: …")));
+}
+
+TEST_F(GioShareAccessTest, TestThatIsAskedForAPassword_GoesOnAfterTheTerminal) {
+    mount();
+    shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("Password: "));
+    share.ibTestShellCommand111();
+    EXPECT_TRUE(console.logged().constLast().endsWith(u".......OH OH????"));
+    mainQueue.advance(1);
+    EXPECT_TRUE(workspace.requests.isEmpty());
+    ASSERT_EQ(terminal.windows.size(), 1U);
+    terminal.windows.front().ended(TerminalOutcome::Ended);
+    mainQueue.advance(0.5);
+    EXPECT_EQ(workspace.requests, QStringList{QString(u"openFile " + QString::fromUtf16(cVolume))});
 }
 
 TEST_F(GioShareAccessTest, PasswordQuestion_IsAskedInATerminalAndThenItGoesOn) {

@@ -7,7 +7,6 @@
 #include "settings/preference_keys.h"
 #include "ui/kelvo_status_menu_handler.h"
 #include "ui/main_window_controller.h"
-#include "ui/status_line.h"
 #include "ui/status_menu_presence.h"
 
 #include <gtest/gtest.h>
@@ -26,9 +25,19 @@ struct FakeMainView final : MainViewController {
     QString description() const override { return {}; }
     void viewDidLoad() override {}
     void clickStartButton() override { ++clicks; }
+    void syncNow() override { asked << QStringLiteral("syncNow"); }
+    void cancelPass() override { asked << QStringLiteral("cancelPass"); }
+    void showActivity(std::optional<qint64> pass) override {
+        asked << (pass ? QString::number(*pass) : QStringLiteral("showActivity"));
+    }
+    void revealFolder() override { asked << QStringLiteral("revealFolder"); }
+    void menuShown(bool shown) override {
+        asked << (shown ? QStringLiteral("menu opened") : QStringLiteral("menu closed"));
+    }
     void quitAndRelaunch() override { ++relaunches; }
     int clicks = 0;
     int relaunches = 0;
+    QStringList asked; ///< what else was asked for
 };
 
 class StatusMenuTest : public ::testing::Test {
@@ -38,6 +47,10 @@ protected:
     void set(QStringView key, bool value) {
         defaults.setObject(key, value);
         mainQueue.advance(0);
+    }
+
+    void work(HealthSign sign) {
+        presence.showWork({.headline = QStringLiteral("the headline"), .health = {.sign = sign}});
     }
 
     FakeTrayHost host;
@@ -57,20 +70,21 @@ class KelvoStatusMenuHandlerTest : public StatusMenuTest {};
 TEST_F(KelvoStatusMenuHandlerTest, NotSetUp_ShowsNothing) {
     delegates.removeStatusMenuStuff();
     set(prefIsScanning, true);
-    presence.setTrouble(true);
+    work(HealthSign::Trouble);
     EXPECT_TRUE(menu.shown.empty());
     EXPECT_EQ(menu.hides, 0);
 }
 
-TEST_F(KelvoStatusMenuHandlerTest, BothSetUp_ShowOneIconUntilTheLastRemoves) {
-    delegates.setupStatusMenuStuff();
-    views.setupStatusMenuStuff();
-    EXPECT_EQ(menu.shown, std::vector{Off});
-    delegates.removeStatusMenuStuff();
-    EXPECT_EQ(menu.visible(), Off);
-    views.removeStatusMenuStuff();
-    EXPECT_EQ(menu.visible(), std::nullopt);
-    EXPECT_EQ(menu.hides, 1);
+TEST_F(KelvoStatusMenuHandlerTest, BothSetUp_ShowOneIconAndEitherRemovesIt) {
+    for (KelvoStatusMenuHandler* remover : {&delegates, &views}) {
+        delegates.setupStatusMenuStuff();
+        views.setupStatusMenuStuff();
+        EXPECT_EQ(menu.visible(), Off);
+        remover->removeStatusMenuStuff();
+        EXPECT_EQ(menu.visible(), std::nullopt);
+    }
+    EXPECT_EQ(menu.shown, (std::vector{Off, Off}));
+    EXPECT_EQ(menu.hides, 2);
 }
 
 TEST_F(KelvoStatusMenuHandlerTest, SetUpTwice_CountsOnce) {
@@ -90,13 +104,19 @@ TEST_F(KelvoStatusMenuHandlerTest, SetUpAgain_ShowsTheIconAgain) {
     EXPECT_EQ(menu.visible(), Running);
 }
 
-TEST_F(KelvoStatusMenuHandlerTest, Destroyed_TakesItsWishBack) {
+TEST_F(KelvoStatusMenuHandlerTest, Destroyed_TheIconGoesWithTheLast) {
     {
         KelvoStatusMenuHandler passing(presence, console);
         passing.setupStatusMenuStuff();
         EXPECT_EQ(menu.visible(), Off);
     }
     EXPECT_EQ(menu.visible(), std::nullopt);
+    views.setupStatusMenuStuff();
+    {
+        KelvoStatusMenuHandler passing(presence, console);
+        passing.setupStatusMenuStuff();
+    }
+    EXPECT_EQ(menu.visible(), Off);
 }
 
 TEST_F(KelvoStatusMenuHandlerTest, DelegateFunctions_OnlyPrintTheirLines) {
@@ -164,14 +184,35 @@ TEST_F(StatusMenuPresenceTest, MissingTargets_MakeAnEntryDoNothing) {
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(StatusMenuPresenceTest, RemovedHandler_IsNotActedOn) {
-    ShownWindow first;
-    ShownWindow second;
-    delegates.setWindowController(&first.controller);
-    views.setWindowController(&second.controller);
+TEST_F(StatusMenuPresenceTest, SetUpByAnotherAfterARemoval_EveryEntryActs) {
+    ShownWindow window;
+    FakeMainView mainView;
     delegates.setupStatusMenuStuff();
+    delegates.setWindowController(&window.controller);
+    delegates.setMainVC(&mainView);
     views.setupStatusMenuStuff();
     delegates.removeStatusMenuStuff();
+    views.setupStatusMenuStuff();
+    menu.choose(&StatusMenuActions::showWindow);
+    menu.choose(&StatusMenuActions::startOrStop);
+    menu.choose(&StatusMenuActions::quitAndRelaunch);
+    menu.choose(&StatusMenuActions::quit);
+    EXPECT_EQ(window.shows, 1);
+    EXPECT_EQ(mainView.clicks, 1);
+    EXPECT_EQ(mainView.relaunches, 1);
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(StatusMenuPresenceTest, HandlerThatIsGone_IsNotActedOn) {
+    ShownWindow first;
+    ShownWindow second;
+    views.setWindowController(&second.controller);
+    {
+        KelvoStatusMenuHandler passing(presence, console);
+        passing.setWindowController(&first.controller);
+        passing.setupStatusMenuStuff();
+        views.setupStatusMenuStuff();
+    }
     menu.choose(&StatusMenuActions::showWindow);
     EXPECT_EQ(first.shows, 0);
     EXPECT_EQ(second.shows, 1);
@@ -207,7 +248,7 @@ TEST_F(StatusMenuPresenceTest, Settings_ChangeTheIconLaterOnTheMainQueue) {
 TEST_F(StatusMenuPresenceTest, EqualState_IsNotShownAgain) {
     delegates.setupStatusMenuStuff();
     set(prefIsScanning, false);
-    presence.setTrouble(false);
+    work(HealthSign::Well);
     set(prefEnableScanning, false);
     EXPECT_EQ(menu.shown, std::vector{Off});
 }
@@ -226,7 +267,7 @@ TEST_F(StatusMenuPresenceTest, StartTitle_FollowsTheSwitch) {
 TEST_F(StatusMenuPresenceTest, Destroyed_HidesAndLetsGoOfTheSettings) {
     auto passing = std::make_unique<StatusMenuPresence>(menu, defaults, mainQueue, [] {});
     const StatusMenuTargets targets;
-    passing->add(targets);
+    passing->show(targets);
     EXPECT_EQ(menu.visible(), Off);
     passing.reset();
     EXPECT_EQ(menu.visible(), std::nullopt);
@@ -234,41 +275,42 @@ TEST_F(StatusMenuPresenceTest, Destroyed_HidesAndLetsGoOfTheSettings) {
     EXPECT_EQ(menu.visible(), std::nullopt);
 }
 
-class StatusLineTroubleTest : public StatusMenuTest {
-protected:
-    std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
-    StatusLine line{defaults, mainQueue, field,
-                    [this](bool trouble) { presence.setTrouble(trouble); }};
-};
-
-TEST_F(StatusLineTroubleTest, RedMessage_IsShownAndMeansTrouble) {
+TEST_F(StatusMenuPresenceTest, Trouble_IsWhatTheHealthSays) {
     delegates.setupStatusMenuStuff();
-    line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
-    EXPECT_EQ(menu.visible(), Off);
-    mainQueue.advance(0.1);
+    work(HealthSign::Trouble);
     EXPECT_EQ(menu.visible(), Trouble);
-    EXPECT_EQ(field->shown.back().string, u"no");
-    EXPECT_EQ(field->shown.back().foregroundColor, StatusColor::Red);
+    set(prefIsScanning, true);
+    EXPECT_EQ(menu.visible(), Trouble) << "a pass that asks again mends nothing yet";
+    work(HealthSign::Well);
+    EXPECT_EQ(menu.visible(), Running);
+    ASSERT_EQ(menu.works.size(), 2U);
+    EXPECT_EQ(menu.works.front().headline, u"the headline");
 }
 
-TEST_F(StatusLineTroubleTest, BlackMessageOrClear_EndsTheTrouble) {
-    delegates.setupStatusMenuStuff();
-    for (const auto& mesg : {std::optional(QStringLiteral("fine")), std::optional<QString>()}) {
-        line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
-        mainQueue.advance(0.1);
-        EXPECT_EQ(menu.visible(), Trouble);
-        line.updateStatusMessage(mesg, StatusColor::Black, true);
-        mainQueue.advance(0.1);
-        EXPECT_EQ(menu.visible(), Off);
-    }
-    EXPECT_EQ(field->shown.size(), 4U);
-}
-
-TEST_F(StatusLineTroubleTest, TroubleBeforeSetUp_IsRemembered) {
-    line.updateStatusMessage(QStringLiteral("no"), StatusColor::Red, true);
-    mainQueue.advance(0.1);
+TEST_F(StatusMenuPresenceTest, TroubleBeforeSetUp_IsRemembered) {
+    work(HealthSign::Trouble);
+    EXPECT_EQ(menu.visible(), std::nullopt);
     delegates.setupStatusMenuStuff();
     EXPECT_EQ(menu.visible(), Trouble);
+}
+
+TEST_F(StatusMenuPresenceTest, EntriesOfTheWork_ReachTheMainView) {
+    FakeMainView mainView;
+    delegates.setupStatusMenuStuff();
+    presence.showWork({.maySyncNow = true, .mayCancel = true});
+    menu.choose(&StatusMenuActions::syncNow);
+    EXPECT_TRUE(mainView.asked.isEmpty()) << "nobody is there to be asked";
+    delegates.setMainVC(&mainView);
+    menu.choose(&StatusMenuActions::syncNow);
+    menu.choose(&StatusMenuActions::cancelPass);
+    menu.choose(&StatusMenuActions::showActivity);
+    menu.choose(&StatusMenuActions::revealFolder);
+    menu.openMenu(true);
+    menu.openMenu(false);
+    EXPECT_EQ(mainView.asked,
+              (QStringList{QStringLiteral("syncNow"), QStringLiteral("cancelPass"),
+                           QStringLiteral("showActivity"), QStringLiteral("revealFolder"),
+                           QStringLiteral("menu opened"), QStringLiteral("menu closed")}));
 }
 
 TEST(HeadlessStatusMenuTest, Shown_IsStillOutOfReach) {

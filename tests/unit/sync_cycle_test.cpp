@@ -1,138 +1,9 @@
-#include "fakes/fake_file_manager.h"
-#include "fakes/fake_front.h"
-#include "fakes/memory_defaults.h"
-#include "fakes/recording_console.h"
-#include "fakes/scripted_shell.h"
-#include "fakes/virtual_queues.h"
-#include "passes/running_pass.h"
-#include "settings/preference_keys.h"
-#include "sync/rsync_command.h"
-#include "sync/sync_cycle.h"
-#include "ui/alerts.h"
-#include "ui/status_line.h"
-
-#include <gtest/gtest.h>
+#include "unit/sync_cycle_fixture.h"
 
 #include <csignal>
-#include <deque>
 
 namespace kelvo {
 namespace {
-
-const QString cTrying = QStringLiteral("Trying to rsync From Destination to Source...");
-const QString cResting = QStringLiteral("Resting a bit ...");
-const QString cMovieRules = QStringLiteral("-f '+ */'");
-
-struct ScriptedValidator {
-    HostVerdict validate(qint64 timeout) {
-        timeouts.push_back(timeout);
-        if (whileAsked)
-            whileAsked();
-        if (verdicts.empty())
-            return HostVerdict::fromText(usual);
-        const QString verdict = verdicts.front();
-        verdicts.pop_front();
-        return HostVerdict::fromText(verdict);
-    }
-
-    QString usual = QStringLiteral("valid");
-    std::deque<QString> verdicts; ///< the next answers, before the usual one
-    std::vector<qint64> timeouts;
-    std::function<void()> whileAsked;
-};
-
-class SyncCycleTest : public ::testing::Test {
-protected:
-    SyncCycleTest() {
-        defaults.setObject(prefRsyncCommandOptionTag, 100);
-        defaults.setObject(prefRsyncWithSSH, true);
-        defaults.setObject(prefDelayBetweenScans, 30.0);
-        defaults.setObject(prefRsyncCommandString1,
-                           QStringLiteral("pull %@98 %@99 \"%@1\" \"%@2\""));
-        defaults.setObject(prefPath1, QStringLiteral(" /Volumes/Cam\n"));
-        defaults.setObject(prefPath2, QStringLiteral("/Incoming "));
-        defaults.setObject(prefRemoteUsername, QStringLiteral("mediauser"));
-        defaults.setObject(prefRemoteBonjourName, QStringLiteral("RemoteMac"));
-        defaults.setObject(prefSampleRemoteFullPath, QStringLiteral(" mediauser@RemoteMac:Movies"));
-        button.action = [this](Control* sender) { cycle.ibStartRSyncProcess(sender); };
-    }
-
-    bool enabled() const { return defaults.boolForKey(prefEnableScanning); }
-    bool scanning() const { return defaults.boolForKey(prefIsScanning); }
-
-    /// Runs the waiting pass bodies and what they leave due on the main queue.
-    void runBodies() {
-        bgQueue.runAll();
-        mainQueue.runDue();
-    }
-
-    /// The status texts so far, those still on their way included.
-    QStringList statusTexts() {
-        mainQueue.advance(0.1);
-        QStringList texts;
-        for (const AttributedString& message : field->shown)
-            texts.append(message.string);
-        return texts;
-    }
-
-    AttributedString lastStatus() {
-        mainQueue.advance(0.1);
-        return field->shown.empty() ? AttributedString() : field->shown.back();
-    }
-
-    /// Lets `count` remote passes fail, the first one started by the button.
-    void failPasses(int count) {
-        validator.usual = QStringLiteral("unknownerror");
-        if (!enabled())
-            button.performClick();
-        for (int i = 0; i < count; ++i) {
-            runBodies();
-            if (i + 1 < count)
-                mainQueue.advance(1.0 + 30.0);
-        }
-    }
-
-    bool logged(const QString& line) const { return console.logged().contains(line); }
-    qsizetype timesLogged(const QString& line) const { return console.logged().count(line); }
-
-    MemoryDefaults defaults;
-    VirtualMainQueue mainQueue;
-    ManualBackgroundQueue bgQueue;
-    ScriptedShell shell;
-    FakeFileManager files;
-    RecordingConsole console;
-    RsyncCommand rsyncCommand{defaults, console};
-    ScriptedValidator validator;
-    std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
-    StatusLine statusLine{defaults, mainQueue, field};
-    FakeAlertPresenter presenter;
-    Alerts alerts{mainQueue, console, presenter};
-    FakeButton button;
-    std::vector<PassRecord> records;
-    RunningPasses passes{shell,
-                         {[] { return QDateTime(); }, [] { return 0.0; }},
-                         [this](const PassRecord& record) { records.push_back(record); }};
-    SyncCycle cycle{
-        {.defaults = defaults,
-         .mainQueue = mainQueue,
-         .bgQueue = bgQueue,
-         .passes = passes,
-         .files = files,
-         .console = console,
-         .rsyncCommand = rsyncCommand,
-         .validateRemoteHost = [this](qint64 timeout,
-                                      const RunCommand&) { return validator.validate(timeout); },
-         .view = {
-             .updateStatusMessage =
-                 [this](std::optional<QString> mesg, StatusColor color, bool docenter) {
-                     statusLine.updateStatusMessage(std::move(mesg), color, docenter);
-                 },
-             .showProblemWithBonjourClosure =
-                 [this](const QString& message, const QString& text, AlertCompletion completion) {
-                     alerts.showProblemWithBonjourClosure(message, text, std::move(completion));
-                 },
-             .ibStartButton = &button}}};
-};
 
 // -- the actions
 
@@ -158,7 +29,8 @@ TEST_F(SyncCycleTest, MissingStartButton_StopsTheProgramAtTheClick) {
                        .console = console,
                        .rsyncCommand = rsyncCommand,
                        .validateRemoteHost = {},
-                       .view = {}});
+                       .view = {},
+                       .seconds = {}});
     EXPECT_EXIT(without.clickStartButton(), ::testing::KilledBySignal(SIGILL), "start button");
 }
 
@@ -319,7 +191,7 @@ TEST_F(PlainPassTest, MissingFolder_EndsTheChainSilently) {
         button.current = 0;
         button.performClick();
         runBodies();
-        EXPECT_TRUE(mainQueue.idle());
+        EXPECT_EQ(cycle.state().nextPass, std::nullopt);
         EXPECT_TRUE(enabled()) << "the setting stays on";
         EXPECT_FALSE(scanning());
         defaults.setObject(key, kept);
@@ -368,12 +240,31 @@ TEST_F(PlainPassTest, SecondRequestWhileRunning_IsRefusedAndForgotten) {
     EXPECT_EQ(bgQueue.size(), 1U) << "the running chain goes on alone";
 }
 
-TEST_F(PlainPassTest, TwoRequestsCloseTogether_BothRun) {
+TEST_F(PlainPassTest, TwoRequestsCloseTogether_RunOnePass) {
     button.performClick();
     cycle.doSyncOnce();
-    EXPECT_EQ(bgQueue.size(), 2U) << "the busy flag is set only once a body has read its paths";
+    EXPECT_FALSE(scanning()) << "that flag is set only once a body has read its paths";
+    EXPECT_EQ(bgQueue.size(), 1U);
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnce()"
+                                       u".......ALREADY in Middle of a Scan...");
     runBodies();
-    EXPECT_EQ(shell.commands().size(), 2);
+    EXPECT_EQ(shell.commands().size(), 1);
+}
+
+TEST_F(PlainPassTest, MissingSourceFolder_IsRecordedWithoutACommandAndTriedAgainAfterTheRest) {
+    files.folders.clear();
+    button.performClick();
+    runBodies();
+    EXPECT_TRUE(shell.commands().isEmpty());
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].cause, PassCause::SourceMissing);
+    EXPECT_EQ(records[0].lastLine, u"/Volumes/Cam: No such file or directory");
+    EXPECT_FALSE(cycle.state().waits);
+    files.folders.insert(QStringLiteral("/Volumes/Cam"));
+    mainQueue.advance(31.0);
+    runBodies();
+    EXPECT_EQ(shell.commands().size(), 1);
+    EXPECT_EQ(records.at(1).cause, PassCause::Well);
 }
 
 TEST_F(PlainPassTest, SwitchedOffDuringAPass_EndsAtTheNextCheck) {
@@ -460,7 +351,7 @@ TEST_F(RemotePassTest, MissingSourceOrDestination_EndsTheChainSilently) {
         button.performClick();
         runBodies();
         EXPECT_EQ(statusTexts().last(), cTrying) << "the line of the start stays";
-        EXPECT_TRUE(mainQueue.idle());
+        EXPECT_EQ(cycle.state().nextPass, std::nullopt);
         EXPECT_TRUE(enabled());
         EXPECT_FALSE(scanning());
         defaults.setObject(key, kept);
@@ -484,7 +375,7 @@ TEST_F(RemotePassTest, TextThatCannotStandInACommand_EndsTheChainBeforeAnybodyIs
         button.performClick();
         runBodies();
         EXPECT_EQ(statusTexts().last(), cTrying) << text;
-        EXPECT_TRUE(mainQueue.idle()) << text;
+        EXPECT_EQ(cycle.state().nextPass, std::nullopt) << text;
         EXPECT_TRUE(console.logged().last().contains(u"doSyncOnceBonjour().......REFUSED: the "))
             << text;
         ASSERT_EQ(records.size(), 1U);
@@ -540,10 +431,12 @@ TEST_F(RemotePassTest, SecondRequestWhileRunning_IsRefusedAndItsStatusLineStays)
     EXPECT_EQ(lastStatus().string, cTrying);
 }
 
-TEST_F(RemotePassTest, SecondRequestDuringValidation_RunsBesideTheFirst) {
+TEST_F(RemotePassTest, SecondRequestDuringValidation_IsRefused) {
     button.performClick();
     cycle.doSyncOnceBonjour();
-    EXPECT_EQ(bgQueue.size(), 2U) << "the busy flag is set only after the validation";
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour()"
+                                       u".......ALREADY in Middle of a Scan...");
+    EXPECT_EQ(bgQueue.size(), 1U) << "the busy flag is set only after the validation";
 }
 
 TEST_F(RemotePassTest, SwitchedOffDuringAPass_EndsAtTheNextCheckAndClearsTheLine) {
@@ -715,37 +608,85 @@ TEST_F(FailedValidationTest, NoAnswer_StartsAgainByItself) {
     EXPECT_EQ(bgQueue.size(), 1U);
 }
 
-TEST_F(FailedValidationTest, AnsweredStop_TheAlertsOwnAnswerStillComes) {
+TEST_F(FailedValidationTest, AnsweredStop_StaysOffWhenTheAlertsOwnAnswerComes) {
     failPasses(10);
     mainQueue.advance(0.2);
     presenter.answer(1, cAlertSecondButtonReturn);
-    mainQueue.advance(6.2);
+    mainQueue.advance(60.0);
     EXPECT_EQ(timesLogged(QStringLiteral("response = 1000")), 1);
-    EXPECT_TRUE(enabled());
+    EXPECT_FALSE(enabled());
+    EXPECT_TRUE(lastStatus().string.startsWith(u"oops - ")) << "the red text stays";
 }
 
-TEST_F(FailedValidationTest, AnsweredRetry_TheAlertsOwnAnswerTurnsTheButtonOverOnceMore) {
+TEST_F(FailedValidationTest, AnsweredRetry_StaysOnWhenTheAlertsOwnAnswerComes) {
     failPasses(10);
     mainQueue.advance(0.2);
     presenter.answer(1, cAlertFirstButtonReturn);
     mainQueue.advance(0.1);
     EXPECT_TRUE(enabled());
-    mainQueue.advance(6.1);
-    EXPECT_FALSE(enabled());
-    EXPECT_EQ(button.clicks, 4);
+    runBodies();
+    EXPECT_EQ(cycle.badWhoamiCount(), 1);
+    mainQueue.advance(6.2);
+    EXPECT_EQ(timesLogged(QStringLiteral("response = 1000")), 2);
+    EXPECT_TRUE(enabled());
+    EXPECT_EQ(button.clicks, 3);
+    EXPECT_EQ(cycle.badWhoamiCount(), 1) << "the second answer is not listened to";
 }
 
-TEST_F(FailedValidationTest, SwitchedOffBeforeTheTenthFailureEnds_TheClickSwitchesItOn) {
+TEST_F(FailedValidationTest, AnsweredRetryTwiceInARow_EachAlertHasItsOwnAnswer) {
+    failPasses(10);
+    mainQueue.advance(0.2);
+    presenter.answer(1, cAlertSecondButtonReturn);
+    mainQueue.advance(7.0);
+    failPasses(10);
+    mainQueue.advance(0.2);
+    ASSERT_TRUE(presenter.answer(2, cAlertFirstButtonReturn));
+    mainQueue.advance(0.1);
+    EXPECT_TRUE(enabled());
+}
+
+TEST_F(FailedValidationTest, SwitchedOffBeforeTheTenthFailureEnds_StaysOff) {
     failPasses(9);
     mainQueue.advance(31.0);
     button.performClick();
     EXPECT_FALSE(enabled());
     runBodies();
-    mainQueue.advance(0.01);
-    EXPECT_TRUE(enabled());
-    EXPECT_EQ(bgQueue.size(), 1U) << "a new pass starts while the alert is on its way";
-    mainQueue.advance(0.19);
+    mainQueue.advance(0.2);
+    EXPECT_FALSE(enabled());
     EXPECT_EQ(presenter.alerts.size(), 1U);
+    mainQueue.advance(10.0);
+    EXPECT_FALSE(enabled()) << "nobody asked for it to be switched on";
+    EXPECT_EQ(bgQueue.size(), 0U);
+}
+
+TEST_F(FailedValidationTest, SwitchedOffBeforeTheTenthFailureEnds_AnswerRetrySwitchesOn) {
+    failPasses(9);
+    mainQueue.advance(31.0);
+    button.performClick();
+    runBodies();
+    mainQueue.advance(0.2);
+    presenter.answer(1, cAlertFirstButtonReturn);
+    mainQueue.advance(7.0);
+    EXPECT_TRUE(enabled());
+}
+
+TEST_F(FailedValidationTest, SwitchedOnWhileTheAlertStands_StaysOnAtItsOwnAnswer) {
+    failPasses(10);
+    mainQueue.advance(1.0);
+    button.performClick();
+    EXPECT_TRUE(enabled());
+    mainQueue.advance(10.0);
+    EXPECT_TRUE(enabled());
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(FailedValidationTest, SwitchedOnAndOffWhileTheAlertStands_StaysOff) {
+    failPasses(10);
+    mainQueue.advance(1.0);
+    button.performClick();
+    button.performClick();
+    mainQueue.advance(10.0);
+    EXPECT_FALSE(enabled());
 }
 
 TEST_F(FailedValidationTest, EleventhFailureAfterRetry_CountsFromTheStart) {

@@ -1,6 +1,7 @@
 kelvo_tests(unit
   SOURCES
     unit/activity_texts_test.cpp
+    unit/after_arrivals_test.cpp
     unit/app_delegate_test.cpp
     unit/bonjour_selection_test.cpp
     unit/bonjour_view_controller_test.cpp
@@ -17,6 +18,7 @@ kelvo_tests(unit
     unit/notification_center_test.cpp
     unit/once_test.cpp
     unit/pass_cause_test.cpp
+    unit/passes_test.cpp
     unit/running_pass_test.cpp
     unit/pass_notices_test.cpp
     unit/plain_line_test.cpp
@@ -29,6 +31,7 @@ kelvo_tests(unit
     unit/remote_side_test.cpp
     unit/repeat_timer_test.cpp
     unit/rsync_command_test.cpp
+    unit/rsync_output_reader_test.cpp
     unit/service_name_rules_test.cpp
     unit/share_commands_test.cpp
     unit/shell_words_test.cpp
@@ -39,11 +42,14 @@ kelvo_tests(unit
     unit/status_menu_test.cpp
     unit/stored_value_test.cpp
     unit/settings_commands_test.cpp
+    unit/sync_chain_test.cpp
     unit/sync_cycle_test.cpp
     unit/text_test.cpp
     unit/view_controller_setup_test.cpp
     unit/view_controller_test.cpp
     unit/watchdog_test.cpp
+    unit/work_watch_test.cpp
+    unit/work_words_test.cpp
   LINKS kelvo_app_start kelvo_app_commands kelvo_adapters_console kelvo_passes
 )
 target_compile_definitions(unit_tests PRIVATE

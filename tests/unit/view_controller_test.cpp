@@ -195,5 +195,28 @@ TEST_F(ViewControllerTest, WholePass_GoesThroughTheRealParts) {
     EXPECT_EQ(field->shown.back().string, u"Resting a bit ...");
 }
 
+TEST_F(ViewControllerTest, Work_ReachesViewAndMenuAlike) {
+    load();
+    ASSERT_FALSE(view.works.empty());
+    EXPECT_EQ(view.works.back().phase, WorkPhase::Off);
+    PassRecord pass;
+    pass.cause = PassCause::DiskFull;
+    passStore.append(pass);
+    mainQueue.advance(0.2);
+    EXPECT_EQ(view.works.back().health.sign, HealthSign::Trouble);
+    EXPECT_EQ(menu.works, view.works);
+    tray.setPresent(true);
+    EXPECT_EQ(menu.visible(), StatusMenuState::Trouble);
+    EXPECT_EQ(controller.work().health, view.works.back().health);
+}
+
+TEST_F(ViewControllerTest, ShowActivity_BringsTheWindowUpAtThePass) {
+    load();
+    application.requests.clear();
+    controller.showActivity(7);
+    EXPECT_EQ(application.requests, std::vector<std::string>{"bringToFront"});
+    EXPECT_EQ(activityShown, std::vector{std::optional<qint64>(7)});
+}
+
 } // namespace
 } // namespace kelvo

@@ -260,7 +260,7 @@ TEST_F(WatchdogTest, Term_IsLoggedAndEndsInOrder) {
     EXPECT_EQ(terminations, 1);
 }
 
-TEST_F(WatchdogTest, EveryOtherSignal_LeavesAtOnceWithItsNumberAndTheSettingsSafe) {
+TEST_F(WatchdogTest, EveryOtherSignal_LeavesAtOnceWithItsNumberAndWritesNothing) {
     begin();
     Watchdog::catchCrashSignals();
     std::vector<int> expected;
@@ -269,7 +269,7 @@ TEST_F(WatchdogTest, EveryOtherSignal_LeavesAtOnceWithItsNumberAndTheSettingsSaf
         if (number != 9)
             expected.push_back(number);
         queue.runDue();
-        EXPECT_EQ(synchronizedWhenLeft, static_cast<int>(expected.size()));
+        EXPECT_EQ(synchronizedWhenLeft, 0);
     }
     EXPECT_EQ(left, expected);
     EXPECT_EQ(console.logged(), QStringList());

@@ -32,6 +32,7 @@ class HeadlessStatusMenu final : public StatusMenu {
 public:
     void setActions(StatusMenuActions) override {}
     void show(StatusMenuState) override {}
+    void showWork(const WorkState&) override {}
     void setStartTitle(const QString&) override {}
     void hide() override {}
     bool isReachable() const override { return false; }

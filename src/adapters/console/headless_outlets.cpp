@@ -4,6 +4,8 @@
 #include "ports/dispatch_queue.h"
 #include "support/text.h"
 
+#include <utility>
+
 namespace kelvo {
 namespace {
 
@@ -16,6 +18,19 @@ QString onOneLine(QString text) {
 void HeadlessView::showNetworkStatus(const QString& text) {
     if (!text.isEmpty())
         fConsole.print(u"network: " + text);
+}
+
+void HeadlessView::showWork(const WorkState& work) {
+    const QString progress = progressLine(work);
+    if (progress != std::exchange(fProgress, progress) && !progress.isEmpty())
+        fConsole.print(u"progress: " + progress);
+    if (work.health.text != std::exchange(fHealth, work.health.text))
+        fConsole.print(u"health: " + work.health.text);
+}
+
+Subscription HeadlessView::observeAttention(std::function<void(Attention)> changed) {
+    changed(Attention::Lines);
+    return {};
 }
 
 bool HeadlessView::presentSheet(QStringView identifier) {

@@ -16,7 +16,8 @@ namespace kelvo {
 class Console;
 class DispatchQueue;
 
-/// Prints the network line as "network: <text>".
+/// Prints the network line as "network: <text>", the progress as "progress: <text>" and the health
+/// as "health: <text>" whenever they read otherwise than before.
 class HeadlessView final : public MainView {
 public:
     explicit HeadlessView(Console& console) : fConsole(console) {}
@@ -26,6 +27,8 @@ public:
     void showNetworkStatus(const QString& text) override;
     void showTesting(bool) override {}
     void showKeyState(KeyState) override {}
+    void showWork(const WorkState& work) override;
+    Subscription observeAttention(std::function<void(Attention)> changed) override;
     void beep() override {}
     Subscription monitorRightMouseDown(const Control&, std::function<void(bool)>) override {
         return {};
@@ -36,6 +39,8 @@ public:
 
 private:
     Console& fConsole;
+    QString fProgress;
+    QString fHealth;
 };
 
 /// A start button that nobody can see; the program itself clicks it.

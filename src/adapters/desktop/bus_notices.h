@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <functional>
+#include <map>
 
 namespace kelvo {
 
@@ -15,14 +16,24 @@ class BusNotices final : public QObject, public DesktopNotices {
 public:
     /// `otherwise` (if any) shows what the service could not; main thread. `connect` gives the
     /// session bus; it is called with the first notice.
-    explicit BusNotices(std::function<void(const QString&, const QString&)> otherwise,
+    explicit BusNotices(std::function<void(const Notice&)> otherwise,
                         std::function<QDBusConnection()> connect = QDBusConnection::sessionBus);
 
-    void showNotice(const QString& title, const QString& text) override;
+    /// A notice with a choice is shown once the service has told whether it can offer choices.
+    void showNotice(const Notice& notice) override;
+
+private Q_SLOTS:
+    void actionInvoked(uint id, const QString& action);
+    void notificationClosed(uint id, uint reason);
 
 private:
-    const std::function<void(const QString&, const QString&)> fOtherwise;
+    void listen(QDBusConnection bus);
+    void notify(const QDBusConnection& bus, const Notice& notice, const QStringList& actions);
+
+    const std::function<void(const Notice&)> fOtherwise;
     const std::function<QDBusConnection()> fConnect;
+    bool fListens = false;
+    std::map<uint, std::function<void()>> fShows; ///< of the notices that stand
 };
 
 } // namespace kelvo

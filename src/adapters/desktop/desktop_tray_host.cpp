@@ -67,10 +67,10 @@ Subscription DesktopTrayHost::observe(std::function<void()> changed) {
     });
 }
 
-void DesktopTrayHost::set(bool& kind, bool present) {
-    const bool before = isPresent();
-    kind = present;
-    if (isPresent() == before)
+void DesktopTrayHost::set(bool& place, bool present) {
+    const TrayKind before = kind();
+    place = present;
+    if (kind() == before)
         return;
     for (const auto& observer : Observers(*fObservers)) {
         if (!observer->ended)

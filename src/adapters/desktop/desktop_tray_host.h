@@ -1,4 +1,4 @@
-// DesktopTrayHost: the tray as a D-Bus service or as an X11 tray manager, whichever appears first.
+// DesktopTrayHost: the tray as a D-Bus service or as an X11 tray manager, the bus going first.
 #pragma once
 
 #include "ports/tray_host.h"
@@ -21,7 +21,9 @@ public:
     explicit DesktopTrayHost(const QDBusConnection& bus = QDBusConnection::sessionBus());
     ~DesktopTrayHost() override;
 
-    bool isPresent() const override { return fOnBus || fOnX11; }
+    TrayKind kind() const override {
+        return fOnBus ? TrayKind::Bus : fOnX11 ? TrayKind::X11 : TrayKind::None;
+    }
     Subscription observe(std::function<void()> changed) override;
 
 private Q_SLOTS:
@@ -38,7 +40,7 @@ private:
     void watchBus();
     void watchX11();
     void askX11();
-    void set(bool& kind, bool present);
+    void set(bool& place, bool present);
 
     QDBusConnection fBus;
     QDBusServiceWatcher fWatcher;

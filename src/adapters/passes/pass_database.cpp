@@ -1,6 +1,5 @@
 #include "adapters/passes/pass_database.h"
 
-#include "adapters/passes/pass_statements.h"
 #include "adapters/system/private_places.h"
 #include "adapters/system/unique_fd.h"
 #include "support/system_error_text.h"
@@ -18,7 +17,6 @@
 namespace kelvo {
 namespace {
 
-constexpr int cLayout = 1;
 constexpr int cMostAsides = 1000;
 /// How long another program may keep the file locked, in milliseconds.
 const QString cOptions = QStringLiteral("QSQLITE_BUSY_TIMEOUT=2000");
@@ -37,8 +35,8 @@ PassDatabase::Outcome failed(const QString& reason) {
 
 } // namespace
 
-PassDatabase::PassDatabase(const QString& path, int most)
-    : fPath(path), fMost(most), fConnection(nextConnection()) {}
+PassDatabase::PassDatabase(const QString& path, PassLimits limits, Access access)
+    : fPath(path), fLimits(limits), fAccess(access), fConnection(nextConnection()) {}
 
 PassDatabase::~PassDatabase() {
     close();
@@ -68,20 +66,57 @@ PassDatabase::Outcome PassDatabase::run(const QString& statement) {
     return outcomeOf(query);
 }
 
+PassDatabase::Outcome PassDatabase::prepare(QSqlQuery& query, PassStatement statement) const {
+    query.setForwardOnly(true);
+    query.prepare(sqlOf(statement));
+    return outcomeOf(query);
+}
+
+PassDatabase::Outcome PassDatabase::execute(QSqlQuery& query, const QVariantList& values) const {
+    for (qsizetype i = 0; i < values.size(); ++i)
+        query.bindValue(static_cast<int>(i), values[i]);
+    query.exec();
+    return outcomeOf(query);
+}
+
+PassDatabase::Outcome PassDatabase::run(PassStatement statement, const QVariantList& values,
+                                        const RowReader& take) {
+    QSqlQuery query(fDatabase);
+    if (Outcome outcome = prepare(query, statement); !outcome)
+        return outcome;
+    if (Outcome outcome = execute(query, values); !outcome)
+        return outcome;
+    while (query.next())
+        take(query);
+    return outcomeOf(query);
+}
+
+PassDatabase::Outcome PassDatabase::inTransaction(const std::function<Outcome()>& work) {
+    if (Outcome outcome = run(QStringLiteral("BEGIN IMMEDIATE")); !outcome)
+        return outcome;
+    Outcome outcome = work();
+    if (outcome)
+        outcome = run(QStringLiteral("COMMIT"));
+    if (!outcome)
+        (void)run(QStringLiteral("ROLLBACK"));
+    return outcome;
+}
+
 PassDatabase::Outcome PassDatabase::open() {
     if (fDatabase.isOpen())
         return {};
-    if (Outcome outcome = prepareFile(); !outcome)
+    const bool writes = fAccess == Access::ReadAndWrite;
+    if (Outcome outcome = writes ? prepareFile() : Outcome(); !outcome)
         return outcome;
     fDatabase = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), fConnection);
     fDatabase.setDatabaseName(fPath);
-    fDatabase.setConnectOptions(cOptions);
+    fDatabase.setConnectOptions(writes ? cOptions : QString(cOptions + u";QSQLITE_OPEN_READONLY"));
     Outcome outcome;
     if (!fDatabase.isValid())
         outcome = failed(QStringLiteral("Qt's SQLite driver is not installed"));
     else if (!fDatabase.open())
         outcome = failed(fDatabase.lastError().databaseText());
-    else
+    else if (outcome = readLayout(); outcome && writes)
         outcome = prepareTables();
     if (!outcome)
         close();
@@ -104,6 +139,16 @@ PassDatabase::Outcome PassDatabase::prepareFile() const {
     return {};
 }
 
+PassDatabase::Outcome PassDatabase::readLayout() {
+    QSqlQuery layout(fDatabase);
+    layout.exec(QStringLiteral("PRAGMA user_version"));
+    if (Outcome outcome = outcomeOf(layout); !outcome)
+        return outcome;
+    fLayout = layout.next() ? layout.value(0).toInt() : 0;
+    return fLayout > cPassLayout ? failed(QStringLiteral("a newer Kelvo Mirror has written it"))
+                                 : Outcome();
+}
+
 PassDatabase::Outcome PassDatabase::prepareTables() {
     // With a log beside the file a record costs no wait for the disk. A file system that cannot
     // have it keeps SQLite's usual way.
@@ -115,88 +160,83 @@ PassDatabase::Outcome PassDatabase::prepareTables() {
         if (Outcome outcome = run(setting); !outcome)
             return outcome;
     }
-    QSqlQuery layout(fDatabase);
-    layout.exec(QStringLiteral("PRAGMA user_version"));
-    if (Outcome outcome = outcomeOf(layout); !outcome)
+    return fLayout == cPassLayout ? Outcome() : inTransaction([this] { return takeOver(); });
+}
+
+PassDatabase::Outcome PassDatabase::takeOver() {
+    // Another program may have done it meanwhile.
+    if (Outcome outcome = readLayout(); !outcome || fLayout == cPassLayout)
         return outcome;
-    const int found = layout.next() ? layout.value(0).toInt() : 0;
-    layout.finish();
-    if (found > cLayout)
-        return failed(QStringLiteral("a newer Kelvo Mirror has written it"));
-    if (found == cLayout)
-        return {};
-    for (const QString& statement : passTableStatements(cLayout)) {
-        if (Outcome outcome = run(statement); !outcome) {
-            (void)run(QStringLiteral("ROLLBACK"));
+    for (const QString& statement : layoutStatements(fLayout)) {
+        if (Outcome outcome = run(statement); !outcome)
             return outcome;
-        }
     }
+    fLayout = cPassLayout;
     return {};
 }
 
 PassDatabase::Outcome PassDatabase::insert(PassRecord& record) {
     if (Outcome outcome = open(); !outcome)
         return outcome;
-    if (Outcome outcome = run(QStringLiteral("BEGIN IMMEDIATE")); !outcome)
-        return outcome;
-    Outcome outcome = insertRows(record);
-    if (outcome)
-        outcome = run(QStringLiteral("COMMIT"));
-    if (!outcome) {
+    Outcome outcome = inTransaction([&] { return insertRows(record); });
+    if (!outcome)
         record.id = 0;
-        (void)run(QStringLiteral("ROLLBACK"));
-    }
     return outcome;
 }
 
 PassDatabase::Outcome PassDatabase::insertRows(PassRecord& record) {
     QSqlQuery pass(fDatabase);
-    bindPass(pass, record);
-    pass.exec();
-    if (Outcome outcome = outcomeOf(pass); !outcome)
+    if (Outcome outcome = prepare(pass, PassStatement::InsertPass); !outcome)
+        return outcome;
+    if (Outcome outcome = execute(pass, valuesOf(record)); !outcome)
         return outcome;
     record.id = pass.lastInsertId().toLongLong();
-    QSqlQuery row(fDatabase);
-    for (std::size_t i = 0; i < record.commands.size(); ++i) {
-        bindCommand(row, record.id, static_cast<int>(i), record.commands[i]);
-        row.exec();
-        if (Outcome outcome = outcomeOf(row); !outcome)
+    QSqlQuery command(fDatabase);
+    if (Outcome outcome = prepare(command, PassStatement::InsertCommand); !outcome)
+        return outcome;
+    int number = 0;
+    for (const CommandRecord& each : record.commands) {
+        if (Outcome outcome = execute(command, valuesOf(record.id, number++, each)); !outcome)
             return outcome;
     }
-    for (const QString& statement : dropStatements(fMost)) {
-        if (Outcome outcome = run(statement); !outcome)
+    if (Outcome outcome = insertArrivals(record); !outcome)
+        return outcome;
+    if (Outcome outcome = noteStanding(record); !outcome)
+        return outcome;
+    // Numbers have no gaps.
+    const qint64 old = record.id - fLimits.passes;
+    if (Outcome outcome = run(PassStatement::DropCommands, {old}); !outcome)
+        return outcome;
+    return run(PassStatement::DropPasses, {old});
+}
+
+PassDatabase::Outcome PassDatabase::insertArrivals(const PassRecord& record) {
+    if (record.arrivals.empty())
+        return {};
+    QSqlQuery query(fDatabase);
+    if (Outcome outcome = prepare(query, PassStatement::InsertArrival); !outcome)
+        return outcome;
+    for (const Arrival& arrival : record.arrivals) {
+        if (Outcome outcome = execute(query, valuesOf(record.id, arrival)); !outcome)
             return outcome;
     }
-    return {};
+    return run(PassStatement::DropArrivals, {query.lastInsertId().toLongLong() - fLimits.arrivals});
 }
 
-PassDatabase::Outcome PassDatabase::readAll(std::vector<PassRecord>& records) {
-    if (Outcome outcome = open(); !outcome)
+PassDatabase::Outcome PassDatabase::noteStanding(const PassRecord& record) {
+    const auto becomes = [&](StandingRow row) {
+        return run(PassStatement::SetStanding, {static_cast<int>(row), record.id});
+    };
+    Outcome outcome = run(PassStatement::AddToDay, {record.id, record.id});
+    if (!outcome || saysNothing(record.cause))
         return outcome;
-    QSqlQuery query(fDatabase);
-    query.setForwardOnly(true);
-    query.exec(selectPasses());
-    while (query.next())
-        records.push_back(passFrom(query));
-    return outcomeOf(query);
-}
-
-PassDatabase::Outcome PassDatabase::read(qint64 id, std::optional<PassRecord>& record) {
-    if (Outcome outcome = open(); !outcome)
+    if (outcome = becomes(StandingRow::LastPass); !outcome)
         return outcome;
-    QSqlQuery query(fDatabase);
-    query.setForwardOnly(true);
-    query.exec(selectPass(id));
-    if (!query.next())
-        return outcomeOf(query);
-    PassRecord found = passFrom(query);
-    query.exec(selectCommands(id));
-    while (query.next())
-        found.commands.push_back(commandFrom(query));
-    Outcome outcome = outcomeOf(query);
-    if (outcome)
-        record = std::move(found);
-    return outcome;
+    if (isTrouble(record.cause))
+        return run(PassStatement::AddTrouble, {record.began.toMSecsSinceEpoch()});
+    if (outcome = becomes(StandingRow::LastSuccess); !outcome)
+        return outcome;
+    return run(PassStatement::EndTrouble, {});
 }
 
 std::optional<QString> PassDatabase::moveAside(const QDateTime& now) {

@@ -1,17 +1,22 @@
 // PassDatabase: the SQLite file with the records of passes.
 #pragma once
 
-#include "support/pass_record.h"
+#include "adapters/passes/pass_statements.h"
 
 #include <QSqlDatabase>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
-class QSqlQuery;
-
 namespace kelvo {
+
+/// How much is kept: the newest.
+struct PassLimits {
+    int passes = PassStore::cMostPasses;
+    int arrivals = PassStore::cMostArrivals;
+};
 
 /// One thread only, the one that first opens it. Several programs may have the same file open.
 class PassDatabase {
@@ -28,22 +33,31 @@ public:
         explicit operator bool() const { return kind == Done; }
     };
 
-    /// Of `most` passes the newest are kept.
-    PassDatabase(const QString& path, int most);
+    enum class Access {
+        ReadAndWrite,
+        ReadOnly, ///< `readAll` and `readArrivals` of any layout; nothing is made or taken over
+    };
+
+    explicit PassDatabase(const QString& path, PassLimits limits = {},
+                          Access access = Access::ReadAndWrite);
     ~PassDatabase();
     PassDatabase(const PassDatabase&) = delete;
     PassDatabase& operator=(const PassDatabase&) = delete;
 
     /// Opens the file, made with mode 0600 when it is missing, its folder with 0700; at once when
-    /// it is open already. A file that a newer program has written is refused.
+    /// it is open already. What an older program has written is taken over in one transaction; a
+    /// file that a newer one has written is refused and stays as it is.
     Outcome open();
 
     /// Stores `record` and gives it its number; drops what is too old.
     Outcome insert(PassRecord& record);
 
-    /// Newest first, without commands.
+    // Questions, answered as PassStore says. What was found before a failure is in the answer.
     Outcome readAll(std::vector<PassRecord>& records);
-    /// Empty when there is none of that number.
+    Outcome readArrivals(const ArrivalQuestion& question, std::vector<KeptArrival>& arrivals);
+    Outcome readDays(int days, std::vector<DayOfPasses>& found);
+    /// What the file says; without fault and aside.
+    Outcome readStanding(Standing& standing);
     Outcome read(qint64 id, std::optional<PassRecord>& record);
 
     /// Closes a broken file and moves it to a free name beside its own. Returns the new name, or
@@ -51,17 +65,32 @@ public:
     std::optional<QString> moveAside(const QDateTime& now);
 
 private:
+    using RowReader = std::function<void(const QSqlQuery&)>;
+
     Outcome outcomeOf(const QSqlQuery& query) const;
     Outcome run(const QString& statement);
+    Outcome prepare(QSqlQuery& query, PassStatement statement) const;
+    Outcome execute(QSqlQuery& query, const QVariantList& values) const;
+    /// Gives `take` each row of the answer.
+    Outcome run(
+        PassStatement statement, const QVariantList& values,
+        const RowReader& take = [](const QSqlQuery&) {});
+    Outcome inTransaction(const std::function<Outcome()>& work);
     Outcome prepareFile() const;
     Outcome prepareTables();
+    Outcome readLayout();
+    Outcome takeOver();
     Outcome insertRows(PassRecord& record);
+    Outcome insertArrivals(const PassRecord& record);
+    Outcome noteStanding(const PassRecord& record);
     void close();
 
     const QString fPath;
-    const int fMost;
+    const PassLimits fLimits;
+    const Access fAccess;
     const QString fConnection;
     QSqlDatabase fDatabase;
+    int fLayout = 0; ///< of the open file
 };
 
 } // namespace kelvo

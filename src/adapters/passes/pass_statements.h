@@ -1,30 +1,58 @@
-// The SQL statements of the record of passes, filled from records and read back into them.
+// The SQL statements of the record of passes, their values, and the rows read back into records.
 #pragma once
 
-#include "support/pass_record.h"
+#include "ports/pass_store.h"
 
 #include <QStringList>
+#include <QVariantList>
 
 class QSqlQuery;
 
 namespace kelvo {
 
-/// Makes the tables in one transaction; a program that does the same at this moment does no harm.
-QStringList passTableStatements(int layout);
+/// The layout that this program writes; 0 is a file without tables.
+inline constexpr int cPassLayout = 2;
 
-/// Drop all passes but the newest `most`, with their commands.
-QStringList dropStatements(int most);
+/// Everything that is asked of the tables; question marks stand for what is told behind.
+enum class PassStatement {
+    InsertPass,    ///< `valuesOf` a record
+    InsertCommand, ///< `valuesOf` a command
+    InsertArrival, ///< `valuesOf` an arrival
+    AddToDay,      ///< pass, twice
+    SetStanding,   ///< StandingRow, pass
+    AddTrouble,    ///< when it began, in milliseconds since 1970
+    EndTrouble,
+    DropPasses,   ///< the newest to be dropped
+    DropCommands, ///< the newest pass to be dropped
+    DropArrivals, ///< the newest to be dropped
+    AllPasses,
+    OnePass,          ///< pass
+    CommandsOfPass,   ///< pass
+    ArrivalsOfPass,   ///< pass
+    Arrivals,         ///< before which one, how many
+    ArrivalsWithText, ///< before which one, folded text, how many
+    Days,             ///< the first one, as ISO has it
+    ReadStanding,     ///< StandingRow
+    ReadTrouble,
+    Last = ReadTrouble
+};
 
-QString selectPasses();
-QString selectPass(qint64 id);
-QString selectCommands(qint64 id);
+enum class StandingRow { LastPass = 0, LastSuccess = 1 };
 
-/// Prepare `query` to insert a row. Texts are packed.
-void bindPass(QSqlQuery& query, const PassRecord& record);
-void bindCommand(QSqlQuery& query, qint64 pass, int number, const CommandRecord& command);
+QString sqlOf(PassStatement statement);
+
+/// What makes the newest layout out of layout `found`; part of one transaction.
+QStringList layoutStatements(int found);
+
+/// Texts of commands are packed.
+QVariantList valuesOf(const PassRecord& record);
+QVariantList valuesOf(qint64 pass, int number, const CommandRecord& command);
+QVariantList valuesOf(qint64 pass, const Arrival& arrival);
 
 /// Read the row on which `query` stands; a number that no name is known for counts as Unknown.
 PassRecord passFrom(const QSqlQuery& query);
 CommandRecord commandFrom(const QSqlQuery& query);
+KeptArrival arrivalFrom(const QSqlQuery& query);
+DayOfPasses dayFrom(const QSqlQuery& query);
 
 } // namespace kelvo

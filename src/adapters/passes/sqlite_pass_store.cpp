@@ -3,6 +3,7 @@
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 
+#include <type_traits>
 #include <utility>
 
 namespace kelvo {
@@ -13,8 +14,8 @@ constexpr std::size_t cMostUnwritten = 100;
 } // namespace
 
 SqlitePassStore::SqlitePassStore(const QString& path, DispatchQueue& mainQueue, Console& console,
-                                 int most)
-    : fPath(path), fMost(most), fMainQueue(mainQueue), fConsole(console),
+                                 PassLimits limits)
+    : fPath(path), fLimits(limits), fMainQueue(mainQueue), fConsole(console),
       fThread([this] { work(); }) {}
 
 SqlitePassStore::~SqlitePassStore() {
@@ -37,34 +38,50 @@ void SqlitePassStore::append(const PassRecord& record) {
     post([this, record](PassDatabase& database) { write(database, record); }, false);
 }
 
-void SqlitePassStore::readAll(Records answerWith) {
+template <typename Result, typename Read>
+void SqlitePassStore::ask(Read read, std::function<void(Result)> answerWith) {
     post(
-        [this, answerWith = std::move(answerWith)](PassDatabase& database) {
-            auto records = std::make_shared<std::vector<PassRecord>>();
-            auto outcome = database.readAll(*records);
+        [this, read, answerWith = std::move(answerWith)](PassDatabase& database) {
+            auto result = std::make_shared<Result>();
+            auto outcome = read(database, *result);
             if (!outcome && repaired(database, outcome)) {
-                records->clear();
-                outcome = database.readAll(*records);
+                *result = {};
+                outcome = read(database, *result);
             }
             note(outcome);
             if (!outcome)
-                records->clear();
-            answer([records, answerWith] { answerWith(std::move(*records)); });
+                *result = {};
+            if constexpr (std::is_same_v<Result, Standing>)
+                completeStanding(*result);
+            answer([result, answerWith] { answerWith(std::move(*result)); });
         },
         true);
 }
 
+void SqlitePassStore::readAll(Records answerWith) {
+    ask([](PassDatabase& database, auto& records) { return database.readAll(records); },
+        std::move(answerWith));
+}
+
+void SqlitePassStore::readArrivals(const ArrivalQuestion& question, Arrivals answerWith) {
+    ask([question](PassDatabase& database,
+                   auto& arrivals) { return database.readArrivals(question, arrivals); },
+        std::move(answerWith));
+}
+
+void SqlitePassStore::readDays(int days, Days answerWith) {
+    ask([days](PassDatabase& database, auto& found) { return database.readDays(days, found); },
+        std::move(answerWith));
+}
+
+void SqlitePassStore::readStanding(StandingAnswer answerWith) {
+    ask([](PassDatabase& database, auto& standing) { return database.readStanding(standing); },
+        std::move(answerWith));
+}
+
 void SqlitePassStore::read(qint64 id, Record answerWith) {
-    post(
-        [this, id, answerWith = std::move(answerWith)](PassDatabase& database) {
-            std::optional<PassRecord> record;
-            auto outcome = database.read(id, record);
-            if (!outcome && repaired(database, outcome))
-                outcome = database.read(id, record);
-            note(outcome);
-            answer([record = std::move(record), answerWith] { answerWith(record); });
-        },
-        true);
+    ask([id](PassDatabase& database, auto& record) { return database.read(id, record); },
+        std::move(answerWith));
 }
 
 Subscription SqlitePassStore::observe(std::function<void(const PassRecord&)> observer) {
@@ -88,7 +105,7 @@ void SqlitePassStore::post(Job job, bool question) {
 // -- the store's own thread
 
 void SqlitePassStore::work() {
-    PassDatabase database(fPath, fMost);
+    PassDatabase database(fPath, fLimits);
     std::unique_lock lock(fMutex);
     for (;;) {
         fPosted.wait(lock, [this] { return fStopping || !fJobs.empty(); });
@@ -135,18 +152,26 @@ bool SqlitePassStore::repaired(PassDatabase& database, const PassDatabase::Outco
     const auto aside = database.moveAside(QDateTime::currentDateTimeUtc());
     if (!aside)
         return false;
+    fAside = *aside;
     fConsole.log(u"The record of passes was damaged (" + outcome.reason + u") and is kept as " +
                  *aside + u"; a new one is begun.");
     return true;
 }
 
 void SqlitePassStore::note(const PassDatabase::Outcome& outcome) {
-    if (outcome.reason == fTrouble)
+    if (outcome.reason == fTrouble || (outcome && !fUnwritten.empty()))
         return;
     fTrouble = outcome.reason;
     fConsole.log(outcome ? QStringLiteral("The record of passes works again.")
                          : QString(u"The record of passes " + fPath + u" is set aside for now: " +
                                    outcome.reason));
+}
+
+void SqlitePassStore::completeStanding(Standing& standing) const {
+    for (const PassRecord& record : fUnwritten)
+        standing.add(record);
+    standing.fault = fTrouble;
+    standing.aside = fAside;
 }
 
 void SqlitePassStore::answer(std::function<void()> give) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "adapters/passes/pass_database.h"
-#include "ports/pass_store.h"
 
 #include <condition_variable>
 #include <deque>
@@ -19,12 +18,12 @@ class DispatchQueue;
 
 /// The file is opened with the first question or record. One that is broken is kept under another
 /// name, `<path>.corrupt-<UTC time>`, and begun anew. Each kind of trouble is said in the log once,
-/// and when it is over.
+/// and when it is over; it is over when nothing is left to be written.
 class SqlitePassStore final : public PassStore {
 public:
     /// `mainQueue` and `console` must outlive the store.
     SqlitePassStore(const QString& path, DispatchQueue& mainQueue, Console& console,
-                    int most = cMostPasses);
+                    PassLimits limits = {});
 
     /// Writes what has been appended; questions are not answered any more. Takes some seconds at
     /// worst, when another program keeps the file locked.
@@ -32,6 +31,9 @@ public:
 
     void append(const PassRecord& record) override;
     void readAll(Records answer) override;
+    void readArrivals(const ArrivalQuestion& question, Arrivals answer) override;
+    void readDays(int days, Days answer) override;
+    void readStanding(StandingAnswer answer) override;
     void read(qint64 id, Record answer) override;
     Subscription observe(std::function<void(const PassRecord&)> observer) override;
 
@@ -48,16 +50,21 @@ private:
     };
 
     void post(Job job, bool question);
+    /// Answers with what `read` found, with an empty result when it could not read.
+    template <typename Result, typename Read>
+    void ask(Read read, std::function<void(Result)> answerWith);
     void work();
     void write(PassDatabase& database, const PassRecord& record);
     PassDatabase::Outcome insert(PassDatabase& database, PassRecord& record);
     bool repaired(PassDatabase& database, const PassDatabase::Outcome& outcome);
     void note(const PassDatabase::Outcome& outcome);
+    /// Adds what the file does not know.
+    void completeStanding(Standing& standing) const;
     void answer(std::function<void()> give);
     void announce(PassRecord record);
 
     const QString fPath;
-    const int fMost;
+    const PassLimits fLimits;
     DispatchQueue& fMainQueue;
     Console& fConsole;
     std::shared_ptr<Observers> fObservers = std::make_shared<Observers>();
@@ -70,6 +77,7 @@ private:
     // The store's own thread only.
     std::deque<PassRecord> fUnwritten;
     QString fTrouble;
+    QString fAside;
 
     std::thread fThread;
 };

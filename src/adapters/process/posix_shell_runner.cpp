@@ -1,6 +1,7 @@
 #include "adapters/process/posix_shell_runner.h"
 
 #include "adapters/process/command_processes.h"
+#include "adapters/process/open_files.h"
 #include "adapters/process/shell_child.h"
 #include "adapters/process/utf8_collector.h"
 #include "ports/console.h"
@@ -52,6 +53,18 @@ int millisecondsUntil(const Deadline& deadline) {
     return static_cast<int>(std::clamp<std::int64_t>(left.count(), 0, cMost));
 }
 
+void tell(int eventDescriptor) {
+    (void)::eventfd_write(eventDescriptor, 1);
+}
+
+/// What has left the session, such as the shared connection that ssh can keep for later, is not
+/// this command's any more.
+void endSession(pid_t pid) {
+    const CommandProcesses own{{&pid, 1}, {}};
+    if (!endProcesses(own, SIGTERM, cAskPatience))
+        (void)endProcesses(own, SIGKILL, cForcePatience);
+}
+
 /// Whether `pid` was there to be reaped.
 bool reap(pid_t pid, int options) {
     pid_t reaped = 0;
@@ -74,18 +87,19 @@ siginfo_t endOf(pid_t pid, int options) {
 /// One run: reads both streams until the shell has ended and its standard output is closed.
 class PosixShellRunner::Capture {
 public:
-    Capture(const ShellChild& child, int giveUp,
+    Capture(const ShellChild& child, int giveUp, int cancelled,
             const std::function<void(QByteArrayView)>& received)
         : fReceived(received), fWatched{{child.output.get(), POLLIN, 0},
                                         {child.errors.get(), POLLIN, 0},
                                         {child.ended.get(), POLLIN, 0},
-                                        {giveUp, POLLIN, 0}} {}
+                                        {giveUp, POLLIN, 0},
+                                        {cancelled, POLLIN, 0}} {}
 
-    /// Returns at the end of both, or of the program; false when the deadline came first.
-    bool follow(const Deadline& deadline) {
+    /// Returns at the end of both, or of the program, unless the deadline or a cancel comes first.
+    End follow(const Deadline& deadline) {
         while (fWatched[Output].fd >= 0 || fWatched[Ended].fd >= 0) {
             if (deadline && Clock::now() >= *deadline)
-                return false;
+                return End::Cut;
             if (::poll(fWatched.data(), fWatched.size(), millisecondsUntil(deadline)) <= 0)
                 continue;
             if (fWatched[Errors].revents != 0)
@@ -96,8 +110,10 @@ public:
                 fWatched[Ended].fd = -1;
             if (fWatched[GiveUp].revents != 0)
                 break;
+            if (fWatched[Cancelled].revents != 0)
+                return End::Cancelled;
         }
-        return true;
+        return End::Own;
     }
 
     /// What is there without waiting for more.
@@ -128,7 +144,7 @@ public:
     }
 
 private:
-    enum { Output, Errors, Ended, GiveUp };
+    enum { Output, Errors, Ended, GiveUp, Cancelled };
 
     /// The number of bytes that came; 0 when none is there, with the stream closed at its end.
     std::size_t readSome(int stream, std::span<char> room) {
@@ -179,15 +195,17 @@ PosixShellRunner::~PosixShellRunner() {
 CommandResult PosixShellRunner::run(const Command& command) {
     const Deadline deadline = deadlineAfter(command.seconds);
     const std::string text = command.text.toStdString();
+    const auto environment = environmentWith(command.variables, fEnvironment);
+    const UniqueFd cancelled(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
     ShellChild child;
     int failure = 0;
     {
         const std::lock_guard lock(fMutex);
         if (fEnding)
             return {};
-        failure = startShell(text, fEnvironment, child);
+        failure = cancelled ? startShell(text, environment, command.input, child) : errno;
         if (failure == 0) {
-            fSessions.push_back(child.pid);
+            fSessions.push_back({child.pid, cancelled.get()});
             ++fCallers;
         }
     }
@@ -196,10 +214,14 @@ CommandResult PosixShellRunner::run(const Command& command) {
         return {{}, {}, cCannotStart};
     }
 
-    Capture capture(child, fGiveUp.get(), command.received);
-    End end = End::Own;
-    if (!capture.follow(deadline))
+    if (command.started)
+        command.started(child.pid);
+    Capture capture(child, fGiveUp.get(), cancelled.get(), command.received);
+    End end = capture.follow(deadline);
+    if (end == End::Cut)
         end = cutOff(child.pid, command);
+    else if (end == End::Cancelled)
+        endSession(child.pid);
     capture.readRest();
     if (const QString line = capture.errorLine(); !line.isEmpty())
         fConsole.log(line);
@@ -209,21 +231,18 @@ CommandResult PosixShellRunner::run(const Command& command) {
     return {capture.output(), capture.errors(), exitStatus};
 }
 
-/// What has left the session, such as the shared connection that ssh can keep for later, is not
-/// this command's any more.
 PosixShellRunner::End PosixShellRunner::cutOff(pid_t pid, const Command& command) {
     const bool hadEnded = endOf(pid, WNOHANG).si_pid == pid;
     fConsole.log(u"A shell command was cut off after " + QString::number(*command.seconds) +
                  u" s: " +
                  withVisibleControls(QStringView(command.text).left(cLongestCommandSaid)));
-    const CommandProcesses own{{&pid, 1}, {}};
-    if (!endProcesses(own, SIGTERM, cAskPatience))
-        (void)endProcesses(own, SIGKILL, cForcePatience);
+    endSession(pid);
     return hadEnded ? End::Own : End::Cut;
 }
 
-/// The shell is reaped under the lock, so that `endAll` never sees a number that is free again. One
-/// that was cut off and that even the system cannot end yet is left for `endAll` to reap.
+/// The shell is reaped under the lock, so that `endAll` and `cancel` never see a number that is
+/// free again. One that was ended and that even the system cannot end yet is left for `endAll` to
+/// reap.
 std::optional<int> PosixShellRunner::leave(pid_t pid, End end) {
     siginfo_t ended{};
     const bool givenUp = [this] {
@@ -236,13 +255,27 @@ std::optional<int> PosixShellRunner::leave(pid_t pid, End end) {
     std::optional<int> exitStatus;
     if (!givenUp && !fEnding && end == End::Cut)
         exitStatus = cTimeIsUp;
-    else if (!givenUp && !fEnding)
+    else if (!givenUp && !fEnding && end == End::Own)
         exitStatus = ended.si_code == CLD_EXITED ? ended.si_status : cSignalled + ended.si_status;
-    if (!fEnding && reap(pid, end == End::Cut ? WNOHANG : 0))
-        std::erase(fSessions, pid);
+    const auto ours = std::ranges::find(fSessions, pid, &Session::pid);
+    ours->cancelled = -1;
+    if (!fEnding && reap(pid, end == End::Own ? 0 : WNOHANG))
+        fSessions.erase(ours);
     --fCallers;
     fLeft.notify_all();
     return exitStatus;
+}
+
+/// The thread that runs the command does the rest.
+void PosixShellRunner::cancel(CommandId command) {
+    const std::lock_guard lock(fMutex);
+    const auto found = std::ranges::find(fSessions, command, &Session::pid);
+    if (found != fSessions.end() && found->cancelled >= 0)
+        tell(found->cancelled);
+}
+
+std::optional<FileBeingWritten> PosixShellRunner::fileBeingWritten(CommandId command) const {
+    return fileWrittenBy(static_cast<pid_t>(command));
 }
 
 void PosixShellRunner::endAll() {
@@ -251,14 +284,14 @@ void PosixShellRunner::endAll() {
     {
         const std::lock_guard lock(fMutex);
         fEnding = true;
-        sessions = fSessions;
+        for (const Session& session : fSessions)
+            sessions.push_back(session.pid);
     }
     const CommandProcesses commands{sessions, commandMark(::getpid())};
     if (!endProcesses(commands, SIGTERM, cAskPatience))
         (void)endProcesses(commands, SIGKILL, cForcePatience);
 
-    const std::uint64_t one = 1;
-    (void)!::write(fGiveUp.get(), &one, sizeof one);
+    tell(fGiveUp.get());
     std::unique_lock lock(fMutex);
     fLeft.wait(lock, [this] { return fCallers == 0; });
     for (const pid_t session : sessions)

@@ -31,6 +31,10 @@ public:
     /// is said too.
     CommandResult run(const Command& command) override;
 
+    void cancel(CommandId command) override;
+
+    std::optional<FileBeingWritten> fileBeingWritten(CommandId command) const override;
+
     /// For an orderly quit: from now on every command returns the empty text at once. Whatever any
     /// command has started and is still there, in its session or in another, is asked to end, 2 s
     /// later forced; callers get what was captured so far, even if somebody still holds the output.
@@ -40,9 +44,13 @@ public:
 
 private:
     class Capture;
-    enum class End { Own, Cut };
+    enum class End { Own, Cut, Cancelled };
+    struct Session {
+        pid_t pid = -1;
+        int cancelled = -1; ///< the descriptor that tells its caller; -1 once the caller is gone
+    };
     End cutOff(pid_t pid, const Command& command);
-    /// The shell's exit status; nothing when it was given up.
+    /// The shell's exit status; nothing when it was given up or cancelled.
     std::optional<int> leave(pid_t pid, End end);
 
     Console& fConsole;
@@ -51,7 +59,7 @@ private:
     std::mutex fEndMutex;
     std::mutex fMutex;
     std::condition_variable fLeft;
-    std::vector<pid_t> fSessions;
+    std::vector<Session> fSessions;
     int fCallers = 0;
     bool fEnding = false;
 };

@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/mman.h>
 
 #include <algorithm>
 #include <array>
@@ -42,6 +43,26 @@ int openPipe(Pipe& made) {
     return 0;
 }
 
+/// A file in memory, not a pipe: nobody has to wait for a command that does not read, and none that
+/// stops reading sends us a signal.
+int openInput(QByteArrayView input, UniqueFd& opened) {
+    if (input.isEmpty()) {
+        opened = aboveStandardStreams(UniqueFd(::open("/dev/null", O_RDONLY | O_CLOEXEC)));
+        return opened ? 0 : errno;
+    }
+    opened = aboveStandardStreams(UniqueFd(::memfd_create("input", MFD_CLOEXEC)));
+    if (!opened)
+        return errno;
+    while (!input.isEmpty()) {
+        const ssize_t size =
+            ::write(opened.get(), input.data(), static_cast<std::size_t>(input.size()));
+        if (size < 0 && errno != EINTR)
+            return errno;
+        input = input.sliced(std::max<ssize_t>(size, 0));
+    }
+    return ::lseek(opened.get(), 0, SEEK_SET) == 0 ? 0 : errno;
+}
+
 class FileActions {
 public:
     FileActions() { ::posix_spawn_file_actions_init(&fActions); }
@@ -49,9 +70,8 @@ public:
     FileActions(const FileActions&) = delete;
     FileActions& operator=(const FileActions&) = delete;
 
-    int connect(int output, int errors) {
-        int failure =
-            ::posix_spawn_file_actions_addopen(&fActions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    int connect(int input, int output, int errors) {
+        int failure = ::posix_spawn_file_actions_adddup2(&fActions, input, STDIN_FILENO);
         if (failure == 0)
             failure = ::posix_spawn_file_actions_adddup2(&fActions, output, STDOUT_FILENO);
         if (failure == 0)
@@ -80,12 +100,25 @@ std::vector<std::string> environmentWithoutPrompts() {
     return kept;
 }
 
+std::vector<std::string> environmentWith(const std::map<QByteArray, QByteArray>& variables,
+                                         std::vector<std::string> environment) {
+    for (const auto& [name, value] : variables) {
+        const std::string begin = name.toStdString() + '=';
+        std::erase_if(environment, [&](const auto& entry) { return entry.starts_with(begin); });
+        environment.push_back(begin + value.toStdString());
+    }
+    return environment;
+}
+
 int startShell(const std::string& command, const std::vector<std::string>& environment,
-               ShellChild& child) {
+               QByteArrayView input, ShellChild& child) {
     if (command.find('\0') != std::string::npos)
         return EINVAL;
+    UniqueFd standardInput;
     Pipe output;
     Pipe errors;
+    if (const int failure = openInput(input, standardInput))
+        return failure;
     if (const int failure = openPipe(output))
         return failure;
     if (const int failure = openPipe(errors))
@@ -94,7 +127,8 @@ int startShell(const std::string& command, const std::vector<std::string>& envir
     (void)::fcntl(output.write.get(), F_SETPIPE_SZ, cPipeSize);
 
     FileActions actions;
-    if (const int failure = actions.connect(output.write.get(), errors.write.get()))
+    if (const int failure =
+            actions.connect(standardInput.get(), output.write.get(), errors.write.get()))
         return failure;
     const CleanAttributes attributes;
 

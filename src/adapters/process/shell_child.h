@@ -3,8 +3,12 @@
 
 #include "adapters/system/unique_fd.h"
 
+#include <QByteArray>
+#include <QByteArrayView>
+
 #include <sys/types.h>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -25,10 +29,14 @@ struct ShellChild {
 /// display stay. The mark of our commands is added.
 std::vector<std::string> environmentWithoutPrompts();
 
+/// `environment` with `variables`, in the place of those of the same names.
+std::vector<std::string> environmentWith(const std::map<QByteArray, QByteArray>& variables,
+                                         std::vector<std::string> environment);
+
 /// Starts `/bin/sh -c command` in a session of its own, with the default action for every signal,
-/// none blocked, standard input empty and no other descriptor of ours. Returns 0, or the errno
-/// value that tells why there is no child. Any thread.
+/// none blocked, `input` as its standard input and no other descriptor of ours. Returns 0, or the
+/// errno value that tells why there is no child. Any thread.
 int startShell(const std::string& command, const std::vector<std::string>& environment,
-               ShellChild& child);
+               QByteArrayView input, ShellChild& child);
 
 } // namespace kelvo

@@ -65,6 +65,11 @@ QString DefaultsDisk::trouble() {
     return fTrouble.isEmpty() ? QString() : sentence();
 }
 
+SettingsStanding DefaultsDisk::standing() const {
+    const std::lock_guard lock(fStandingMutex);
+    return fStanding;
+}
+
 void DefaultsDisk::run(const std::stop_token& stop) {
     Deadline firstChange;
     Deadline next;
@@ -243,6 +248,10 @@ QString DefaultsDisk::moveAside(const QString& fault) {
         return QStringLiteral("%1; it cannot be moved aside: %2").arg(fault, failure);
     fConsole.log(QStringLiteral("The settings file %1 cannot be read: %2. It is kept as %3")
                      .arg(fFile.path(), fault, aside));
+    {
+        const std::lock_guard lock(fStandingMutex);
+        fStanding.aside = aside;
+    }
     fBytes.reset();
     fBase.clear();
     fUnwritten = fValues.userValues();
@@ -270,6 +279,7 @@ void DefaultsDisk::settle(const QString& failure) {
                                  : QStringLiteral("The settings in %1 are known now"))
                              .arg(fFile.path()));
         fTrouble.clear();
+        remember();
         fRetryDelay = {};
         return;
     }
@@ -277,8 +287,14 @@ void DefaultsDisk::settle(const QString& failure) {
         fConsole.log(sentence() +
                      (fKnown ? u". They hold in memory and will be saved when that is possible"
                              : u". Until they are, no pass begins and nothing is written there"));
+    remember();
     fRetryDelay = fRetryDelay == 0s ? cFirstRetry : std::min(fRetryDelay * 2, cLastRetry);
     fRetryAt = Clock::now() + fRetryDelay;
+}
+
+void DefaultsDisk::remember() {
+    const std::lock_guard lock(fStandingMutex);
+    fStanding.fault = fTrouble.isEmpty() ? QString() : sentence();
 }
 
 QString DefaultsDisk::sentence() const {

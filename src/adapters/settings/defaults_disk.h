@@ -5,6 +5,7 @@
 #include "adapters/settings/file_watch.h"
 #include "adapters/settings/plist_file.h"
 #include "ports/console.h"
+#include "ports/user_defaults.h"
 
 #include <QStringList>
 
@@ -46,6 +47,9 @@ public:
     /// all is well. Any thread; waits for the disk.
     QString trouble();
 
+    /// What was last found out of the file. Any thread; never waits for the disk.
+    SettingsStanding standing() const;
+
 private:
     using Clock = std::chrono::steady_clock;
     using Deadline = std::optional<Clock::time_point>;
@@ -71,6 +75,7 @@ private:
     QString moveAside(const QString& fault);
     QStringList adoptBase();
     void settle(const QString& failure);
+    void remember();
     QString sentence() const;
 
     const DamagedFile fDamaged;
@@ -89,6 +94,8 @@ private:
     DefaultsChanges fOwnState;        ///< the state that was ever taken from fValues
     QString fTrouble;                 ///< why reading or saving fails; empty while it works
     std::chrono::seconds fRetryDelay{};
+    mutable std::mutex fStandingMutex; ///< for fStanding only; taken last
+    SettingsStanding fStanding;
     Clock::time_point fRetryAt;
     std::jthread fThread;
 };

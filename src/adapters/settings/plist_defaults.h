@@ -57,6 +57,7 @@ public:
     void synchronize() override;
     Subscription observe(QStringView key, DefaultsObserver observer) override;
     bool areKnown() const override { return fShared->known; }
+    SettingsStanding standing() const override { return fDisk.standing(); }
 
     /// Why the values are not known or not saved, as a sentence without its full stop; empty while
     /// all is well. Waits for the disk.

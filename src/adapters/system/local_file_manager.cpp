@@ -1,5 +1,6 @@
 #include "adapters/system/local_file_manager.h"
 
+#include "adapters/system/folder_walk.h"
 #include "adapters/system/private_places.h"
 #include "adapters/system/unique_fd.h"
 #include "support/system_error_text.h"
@@ -71,6 +72,17 @@ bool LocalFileManager::isProgram(const QString& path) const {
 
 bool LocalFileManager::isWritableFolder(const QString& path) const {
     return kindOf(path) == S_IFDIR && allows(path, W_OK | X_OK);
+}
+
+std::optional<FoundFile> LocalFileManager::fileBeneath(const QByteArray& folder,
+                                                       const QByteArray& name) const {
+    return kelvo::fileBeneath(folder, name);
+}
+
+std::vector<FoundFile> LocalFileManager::filesChangedSince(
+    const QByteArray& folder, const QDateTime& moment,
+    const std::function<bool(QByteArrayView name)>& passedOver) const {
+    return kelvo::filesChangedSince(folder, moment, passedOver);
 }
 
 QString LocalFileManager::homeDirectory() const {

@@ -11,6 +11,12 @@ public:
     bool isProgram(const QString& path) const override;
     bool isWritableFolder(const QString& path) const override;
 
+    std::optional<FoundFile> fileBeneath(const QByteArray& folder,
+                                         const QByteArray& name) const override;
+    std::vector<FoundFile>
+    filesChangedSince(const QByteArray& folder, const QDateTime& moment,
+                      const std::function<bool(QByteArrayView name)>& passedOver) const override;
+
     /// $HOME, or the user's entry in the account database when that is unset or empty.
     QString homeDirectory() const override;
 

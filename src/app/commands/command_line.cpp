@@ -35,8 +35,15 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         QStringLiteral(
             "Run one pass with the stored settings, tell how it went and end with a code "
             "that names the kind of trouble."));
-    const QCommandLineOption json(QStringLiteral("json"),
-                                  QStringLiteral("With --once: tell it as one JSON object."));
+    const QCommandLineOption passes(QStringLiteral("passes"),
+                                    QStringLiteral("Print the record of passes, newest last."));
+    const QCommandLineOption since(
+        QStringLiteral("since"),
+        QStringLiteral("With --passes: those since a date, a date-time, or 30min, 2h, 3d ago."),
+        QStringLiteral("WHEN"));
+    const QCommandLineOption json(
+        QStringLiteral("json"),
+        QStringLiteral("With --once, --passes: tell each pass as one JSON object on a line."));
     const QCommandLineOption get(QStringLiteral("get"), QStringLiteral("Print a setting."),
                                  QStringLiteral("KEY"));
     const QCommandLineOption set(QStringLiteral("set"), QStringLiteral("Change a setting."),
@@ -46,8 +53,8 @@ CommandLine parseCommandLine(const QStringList& arguments) {
                                    QStringLiteral("KEY"));
     const QCommandLineOption settings(QStringLiteral("settings"),
                                       QStringLiteral("Print all settings as JSON."));
-    parser.addOptions(
-        {headless, once, json, get, set, unset, settings, version, help, autorelaunched});
+    parser.addOptions({headless, once, passes, since, json, get, set, unset, settings, version,
+                       help, autorelaunched});
 
     const auto refuse = [](const QString& reason) {
         return CommandLine{LaunchKind::Refuse, false,
@@ -75,6 +82,22 @@ CommandLine parseCommandLine(const QStringList& arguments) {
             return refuse(u"--" + each->names().constFirst() +
                           u" stands alone, with blanks between its words");
     }
+    if (parser.isSet(passes)) {
+        if (parser.isSet(headless) || parser.isSet(once))
+            return refuse(QStringLiteral("--passes goes with --json and --since only"));
+        CommandLine line{LaunchKind::Passes, false, {}};
+        line.passes.json = parser.isSet(json);
+        if (!parser.isSet(since))
+            return line;
+        line.passes.since = momentFrom(parser.value(since), QDateTime::currentDateTime());
+        if (line.passes.since)
+            return line;
+        return refuse(u'\'' + parser.value(since) +
+                      u"' is no time: --since takes a date (2026-11-22), a date-time "
+                      u"(2026-11-22T19:02), or 30min, 2h, 3d");
+    }
+    if (parser.isSet(since))
+        return refuse(QStringLiteral("--since goes with --passes"));
     if (parser.isSet(once)) {
         if (parser.isSet(headless))
             return refuse(QStringLiteral("--once and --headless do not go together"));
@@ -83,7 +106,7 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         return line;
     }
     if (parser.isSet(json))
-        return refuse(QStringLiteral("--json goes with --once"));
+        return refuse(QStringLiteral("--json goes with --once or --passes"));
     return {parser.isSet(headless) ? LaunchKind::Headless : LaunchKind::Window,
             parser.isSet(autorelaunched),
             {}};

@@ -1,6 +1,7 @@
 // The program's command line.
 #pragma once
 
+#include "app/commands/passes.h"
 #include "app/commands/settings_commands.h"
 
 #include <QString>
@@ -8,13 +9,14 @@
 
 namespace kelvo {
 
-enum class LaunchKind { Window, Headless, Once, Settings, PrintVersion, PrintHelp, Refuse };
+enum class LaunchKind { Window, Headless, Once, Passes, Settings, PrintVersion, PrintHelp, Refuse };
 
 struct CommandLine {
     LaunchKind kind = LaunchKind::Window;
     bool autorelaunched = false; ///< started again by the sentinel, not by a person
     QString message;             ///< what to print for PrintVersion, PrintHelp and Refuse
     bool json = false;           ///< for Once
+    PassesRequest passes{};      ///< for Passes
     SettingsRequest settings{};  ///< for Settings
 };
 

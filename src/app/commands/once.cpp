@@ -1,38 +1,36 @@
 #include "app/commands/once.h"
 
+#include "app/commands/passes.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
 
 namespace kelvo {
 namespace {
 
-QJsonValue orNull(const std::optional<qint64>& number) {
-    return number ? QJsonValue(*number) : QJsonValue(QJsonValue::Null);
-}
+constexpr std::size_t cMostNames = 20;
 
-QString asJson(const PassRecord& pass, const CauseWords& words) {
-    const QJsonObject object{
-        {QStringLiteral("kind"),
-         pass.kind == PassKind::Remote ? QStringLiteral("remote") : QStringLiteral("plain")},
-        {QStringLiteral("began"), pass.began.toString(Qt::ISODateWithMs)},
-        {QStringLiteral("seconds"), pass.seconds},
-        {QStringLiteral("verdict"), pass.verdict.text()},
-        {QStringLiteral("cause"), words.name.toString()},
-        {QStringLiteral("message"), words.sentence.toString()},
-        {QStringLiteral("nextStep"), words.nextStep.toString()},
-        {QStringLiteral("lastLine"), pass.lastLine},
-        {QStringLiteral("files"), orNull(pass.transfer.files)},
-        {QStringLiteral("bytes"), orNull(pass.transfer.bytes)},
-        {QStringLiteral("exitCode"), exitCodeFor(words.group)},
-    };
+QString asJson(const PassRecord& pass, CauseGroup group) {
+    QJsonObject object = jsonOf(pass);
+    object.insert(QStringLiteral("exitCode"), exitCodeFor(group));
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n';
 }
 
+QString arrivalLines(const std::vector<Arrival>& arrivals) {
+    if (arrivals.empty())
+        return {};
+    QString lines = QStringLiteral("Arrived:\n");
+    for (std::size_t i = 0; i < std::min(arrivals.size(), cMostNames); ++i)
+        lines += u"  " + pathLine(arrivals[i]) + u'\n';
+    if (arrivals.size() > cMostNames)
+        lines += u"  and " + QString::number(arrivals.size() - cMostNames) + u" more\n";
+    return lines;
+}
+
 QString asLines(const PassRecord& pass, const CauseWords& words) {
-    const QString size = sizeText(pass.transfer);
-    QString lines = sentenceFor(pass) + u" (" + filesText(pass) +
-                    (size.isEmpty() ? QString() : QString(u", " + size)) + u", " +
-                    secondsText(pass.seconds) + u")\n";
+    QString lines = outcomeLine(pass) + u'\n' + arrivalLines(pass.arrivals);
     if (!words.nextStep.isEmpty())
         lines += u"Next step: " + words.nextStep + u'\n';
     return lines;
@@ -62,6 +60,8 @@ int exitCodeFor(CauseGroup group) {
         return 17;
     case CauseGroup::Interrupted:
         return 18;
+    case CauseGroup::AfterArrivals:
+        return 19;
     case CauseGroup::Unknown:
         break;
     }
@@ -70,7 +70,7 @@ int exitCodeFor(CauseGroup group) {
 
 CommandAnswer outcomeOf(const PassRecord& pass, bool json) {
     const CauseWords words = wordsFor(pass.cause);
-    return {exitCodeFor(words.group), json ? asJson(pass, words) : asLines(pass, words), {}};
+    return {exitCodeFor(words.group), json ? asJson(pass, words.group) : asLines(pass, words), {}};
 }
 
 } // namespace kelvo

@@ -57,6 +57,8 @@ public:
         }
     }
 
+    bool catchesCrashSignals() const { return fSignalSources.has_value(); }
+
     void keepUsRunning() {
         std::call_once(fKeepOnce, [this] {
             fKept = true;
@@ -95,6 +97,8 @@ public:
         if (decision.line)
             fParts.console.log(*decision.line);
         fParts.defaults.setObject(prefRecentLaunchDates, decision.record);
+        // The next end may come at once.
+        fParts.defaults.synchronize();
         if (!decision.keepRunning) {
             // A later set-up in the same run leaves the sentinel of the first alone.
             if (!fKept)
@@ -107,7 +111,9 @@ public:
 
     void quitAndRelaunch() {
         keepUsRunning();
-        leave(0);
+        // The store's own thread ends with the process, whatever it has not written yet.
+        fParts.defaults.synchronize();
+        fParts.leaveAtOnce(0);
     }
 
 private:
@@ -121,19 +127,13 @@ private:
                 fParts.terminate();
             };
         default:
-            return [this, number] { leave(number); };
+            return [this, number] { fParts.leaveAtOnce(number); };
         }
     }
 
     void said(int number, const char* what) {
         fParts.console.log(QStringLiteral("Caught %1 ... %2.")
                                .arg(description(number), QString::fromLatin1(what)));
-    }
-
-    /// The store's own thread ends with the process, whatever it has not written yet.
-    void leave(int status) {
-        fParts.defaults.synchronize();
-        fParts.leaveAtOnce(status);
     }
 
     void watch(const QString& path) {
@@ -227,6 +227,11 @@ Subscription Watchdog::catchSignal(int number, std::function<void()> handler) {
 void Watchdog::catchCrashSignals() {
     if (const auto state = current())
         state->catchCrashSignals();
+}
+
+bool Watchdog::catchesCrashSignals() {
+    const auto state = current();
+    return state && state->catchesCrashSignals();
 }
 
 void Watchdog::keepUsRunning() {

@@ -37,7 +37,7 @@ struct WatchdogParts {
     qint64 processIdentifier = 0;
     std::function<QDateTime()> now;       ///< the date, in UTC
     std::function<void()> terminate;      ///< asks for the orderly end and returns
-    std::function<void(int)> leaveAtOnce; ///< ends the process with this status; settings are safe
+    std::function<void(int)> leaveAtOnce; ///< ends the process with this status
 };
 
 /// Its state belongs to the process. Main thread, where nothing else is said. Before `begin`, and
@@ -57,6 +57,9 @@ public:
     /// Catches the signals 1 to 15, once: the hang-up is ignored, the request to terminate ends the
     /// program in order, all others that can be caught end it at once with their number as status.
     static void catchCrashSignals();
+
+    /// Whether the signals 1 to 15 are caught: those reactions are then the only ones.
+    static bool catchesCrashSignals();
 
     /// Starts the sentinel and catches the crash signals, once in the life of the process; without
     /// a sentinel says so. Before the orderly end the sentinel is told to end. Any thread; from

@@ -1,34 +1,34 @@
 #include "ui/widgets/activity_tab.h"
 
-#include "ports/pass_store.h"
 #include "ui/activity_texts.h"
-#include "ui/widgets/pass_rows.h"
+#include "ui/widgets/passes_view.h"
 #include "ui_activity_tab.h"
 
-#include <QClipboard>
-#include <QFileDialog>
-#include <QFontDatabase>
-#include <QGuiApplication>
 #include <QPointer>
-#include <QSaveFile>
-#include <QStyle>
+#include <QShortcut>
+
+#include <utility>
 
 namespace kelvo {
 namespace {
 
-constexpr int cHeadlineInterval = 30'000; // milliseconds
+constexpr int cLinesWithChart = 25; // of text, the tab's height
 
 } // namespace
 
-ActivityTab::ActivityTab(QWidget* parent) : QWidget(parent) {
-    fHeadlineTimer.setInterval(cHeadlineInterval);
-    connect(&fHeadlineTimer, &QTimer::timeout, this, [this] { showHeadline(); });
-}
+ActivityTab::ActivityTab(QWidget* parent) : QWidget(parent) {}
 
 ActivityTab::~ActivityTab() = default;
 
+void ActivityTab::setParts(ActivityParts parts) {
+    fParts.emplace(std::move(parts));
+    // The tab that the window was last left on is shown before there are any.
+    if (!isHidden())
+        build();
+}
+
 void ActivityTab::setVisible(bool visible) {
-    if (visible && !fUi)
+    if (visible && !fUi && fParts)
         build();
     QWidget::setVisible(visible);
 }
@@ -36,102 +36,83 @@ void ActivityTab::setVisible(bool visible) {
 void ActivityTab::build() {
     fUi = std::make_unique<Ui::ActivityTab>();
     fUi->setupUi(this);
-    fRows = new PassRows(style()->standardIcon(QStyle::SP_DialogApplyButton),
-                         style()->standardIcon(QStyle::SP_MessageBoxWarning), this);
-    QHeaderView& columns = *fUi->passes->horizontalHeader();
-    fUi->passes->setModel(fRows);
-    columns.setSectionResizeMode(QHeaderView::Interactive);
-    columns.setSectionResizeMode(PassRows::Outcome, QHeaderView::Stretch);
-    columns.resizeSection(PassRows::When,
-                          fontMetrics().horizontalAdvance(QStringLiteral("00 May 0000 00:00:00")) *
-                              6 / 5);
-    fUi->passes->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
-    fUi->passText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    connect(fUi->troubleOnly, &QCheckBox::toggled, fRows, &PassRows::setTroubleOnly);
-    connect(fUi->passes->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this] { showSelected(); });
-    connect(fRows, &QAbstractItemModel::modelReset, this, [this] { showSelected(); });
-    connect(fUi->copyPass, &QPushButton::clicked, this, [this] { copyPass(); });
-    connect(fUi->exportPasses, &QPushButton::clicked, this, [this] { exportPasses(); });
-    showHeadline();
-}
-
-void ActivityTab::setStore(PassStore& store) {
-    fStore = &store;
-    if (isVisible())
-        readStore();
+    fArrivals = new ArrivalsView(*fParts);
+    fPasses = new PassesView(fParts->store);
+    fUi->pages->addWidget(fArrivals);
+    fUi->pages->addWidget(fPasses);
+    connect(fUi->showArrived, &QPushButton::toggled, this, [this](bool arrived) {
+        fUi->pages->setCurrentIndex(arrived ? 0 : 1);
+        fitChart();
+    });
+    auto* find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, this, [this] {
+        showArrived();
+        fArrivals->beginSearch();
+    });
+    fPasses->showWork(fWork);
+    if (const auto wanted = std::exchange(fWanted, {}))
+        showPass(*wanted);
+    fObservation = fParts->store.observe([this](const PassRecord& record) { add(record); });
 }
 
 void ActivityTab::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    readStore();
-    showHeadline();
-    fHeadlineTimer.start();
+    readDays();
 }
 
-void ActivityTab::hideEvent(QHideEvent* event) {
-    fHeadlineTimer.stop();
-    QWidget::hideEvent(event);
+void ActivityTab::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (fUi)
+        fitChart();
 }
 
-void ActivityTab::readStore() {
-    if (!fStore || fRead)
+/// In a low window the passes and their text need the room.
+void ActivityTab::fitChart() {
+    const bool room =
+        fUi->showArrived->isChecked() || height() >= cLinesWithChart * fontMetrics().lineSpacing();
+    fUi->days->setVisible(room);
+    fUi->total->setVisible(room);
+}
+
+void ActivityTab::readDays() {
+    if (!fUi || !isVisible())
         return;
-    fRead = true;
-    fStore->readAll([this, alive = QPointer<ActivityTab>(this)](std::vector<PassRecord> records) {
-        if (!alive)
-            return;
-        fRows->setRecords(std::move(records));
-        showHeadline();
-        // What is told from here on is not in the answer yet.
-        fObservation = fStore->observe([this](const PassRecord& record) { add(record); });
-    });
+    fParts->store.readDays(DayChart::cDays,
+                           [this, alive = QPointer(this)](const std::vector<DayOfPasses>& days) {
+                               if (!alive)
+                                   return;
+                               fUi->days->setDays(days, QDate::currentDate());
+                               fUi->total->setText(totalText(days, DayChart::cDays));
+                           });
 }
 
 void ActivityTab::add(const PassRecord& record) {
-    fRows->addNewest(record, PassStore::cMostPasses);
-    showHeadline();
+    fPasses->add(record);
+    if (!record.arrivals.empty())
+        fArrivals->refresh();
+    if (record.transfer.files.value_or(0) > 0 || isTrouble(record.cause))
+        readDays();
 }
 
-void ActivityTab::showHeadline() {
-    fUi->headline->setText(activityHeadline(fRows->records(), QDateTime::currentDateTimeUtc()));
+void ActivityTab::showWork(const WorkState& work) {
+    fWork = work;
+    if (fPasses)
+        fPasses->showWork(work);
 }
 
-void ActivityTab::showSelected() {
-    const PassRecord* selected = fRows->recordAt(fUi->passes->currentIndex().row());
-    fUi->passText->setPlainText(selected ? passReport(*selected) : QString());
-    if (!selected || selected->id == 0)
+void ActivityTab::showArrived() {
+    if (fUi)
+        fUi->showArrived->setChecked(true);
+    fWanted.reset();
+}
+
+void ActivityTab::showPass(qint64 id) {
+    if (!fUi) {
+        fWanted = id;
         return;
-    fStore->read(selected->id, [this, alive = QPointer<ActivityTab>(this),
-                                id = selected->id](const std::optional<PassRecord>& whole) {
-        if (!alive || !whole)
-            return;
-        const PassRecord* now = fRows->recordAt(fUi->passes->currentIndex().row());
-        if (now && now->id == id)
-            fUi->passText->setPlainText(passReport(*whole));
-    });
-}
-
-void ActivityTab::copyPass() {
-    QGuiApplication::clipboard()->setText(fUi->passText->toPlainText());
-}
-
-void ActivityTab::exportPasses() {
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Export passes"), QDir::home().filePath(QStringLiteral("kelvo-mirror-passes.csv")),
-        tr("Comma-separated values (*.csv)"));
-    if (!path.isEmpty())
-        exportTo(path);
-}
-
-void ActivityTab::exportTo(const QString& path) {
-    const std::vector<PassRecord> records = fRows->records();
-    QSaveFile file(path);
-    const bool written = file.open(QIODevice::WriteOnly) &&
-                         file.write(passesAsCsv(records).toUtf8()) >= 0 && file.commit();
-    fUi->exportResult->setText(
-        written ? tr("%n passes written.", nullptr, static_cast<int>(records.size()))
-                : tr("Not written: %1").arg(file.errorString()));
+    }
+    fUi->showPasses->setChecked(true);
+    fPasses->showPass(id);
 }
 
 } // namespace kelvo

@@ -1,5 +1,6 @@
 #include "ui/widgets/application_menu.h"
 
+#include "support/work_state.h"
 #include "ui/widgets/edit_menu.h"
 
 #include <QActionGroup>
@@ -57,6 +58,7 @@ ApplicationMenu::ApplicationMenu(const ApplicationMenuActions& actions, const QS
     addFileMenu(actions);
     addEditMenu(actions);
     addViewMenu(actions, tabs);
+    addPassesMenu(actions);
     addTrayMenu(actions);
     addHelpMenu(actions);
 }
@@ -114,6 +116,37 @@ void ApplicationMenu::addViewMenu(const ApplicationMenuActions& actions, const Q
     addIfFilled(*this, menu);
 }
 
+void ApplicationMenu::addPassesMenu(const ApplicationMenuActions& actions) {
+    QMenu* menu = newMenu("passesMenu", tr("&Passes"), this);
+    addEntry(*menu, {"startOrStop", tr("&Start Syncing"), QKeySequence(Qt::CTRL | Qt::Key_T),
+                     actions.startOrStop, tr("Switches syncing on and off")});
+    menu->addSeparator();
+    addEntry(*menu, {"syncNow", tr("Sync &Now"), QKeySequence(Qt::CTRL | Qt::Key_R),
+                     actions.syncNow, tr("Begins the next pass now")});
+    addEntry(*menu, {"cancelPass",
+                     tr("&Cancel This Pass"),
+                     {},
+                     actions.cancelPass,
+                     tr("Ends the pass that runs; what it has begun to copy is kept for the next "
+                        "one")});
+    for (QAction* entry : menu->actions())
+        entry->setAutoRepeat(false); // A held key is one wish.
+    addIfFilled(*this, menu);
+    showWork({});
+}
+
+void ApplicationMenu::setSyncing(bool on) {
+    if (auto* entry = findChild<QAction*>(QStringLiteral("startOrStop")))
+        entry->setText(on ? tr("&Stop Syncing") : tr("&Start Syncing"));
+}
+
+void ApplicationMenu::showWork(const WorkState& work) {
+    if (auto* entry = findChild<QAction*>(QStringLiteral("syncNow")))
+        entry->setEnabled(work.maySyncNow);
+    if (auto* entry = findChild<QAction*>(QStringLiteral("cancelPass")))
+        entry->setEnabled(work.mayCancel);
+}
+
 void ApplicationMenu::addTrayMenu(const ApplicationMenuActions& actions) {
     QMenu* menu = newMenu("trayMenu", tr("&Tray"), this);
     addEntry(*menu, {"setupStatusItem",
@@ -125,13 +158,12 @@ void ApplicationMenu::addTrayMenu(const ApplicationMenuActions& actions) {
                      tr("&Remove Tray Icon"),
                      {},
                      actions.removeStatusItem,
-                     tr("Takes the request for the tray icon back; the icon goes with the last "
-                        "request")});
+                     tr("Takes the icon out of the tray; the program keeps running")});
     addEntry(*menu, {"delegateQuitAndRelaunch",
                      tr("Remove Tray Icon as &Before a Relaunch"),
                      {},
                      actions.delegateQuitAndRelaunch,
-                     tr("Takes the request for the tray icon back; the program keeps running")});
+                     tr("Takes the icon out of the tray; the program keeps running")});
     menu->addSeparator();
     addEntry(*menu, {"setupWatchdog",
                      tr("Set Up &Watchdog Again"),

@@ -10,6 +10,8 @@ class QActionGroup;
 
 namespace kelvo {
 
+struct WorkState;
+
 /// What the entries do, on the main thread. An entry whose action is missing is left out, and so
 /// is a menu without entries.
 struct ApplicationMenuActions {
@@ -18,6 +20,9 @@ struct ApplicationMenuActions {
     std::function<void()> quit = {};
     std::function<void()> showSettings = {};
     std::function<void(int)> showTab = {}; ///< the tab's place, from 0
+    std::function<void()> startOrStop = {};
+    std::function<void()> syncNow = {};
+    std::function<void()> cancelPass = {};
     std::function<void()> setupStatusItem = {};
     std::function<void()> removeStatusItem = {};
     std::function<void()> delegateQuitAndRelaunch =
@@ -37,10 +42,17 @@ public:
     /// Marks the tab that is shown, without showing it.
     void setCurrentTab(int index);
 
+    /// Whether syncing is on: the entry that starts it stops it then.
+    void setSyncing(bool on);
+
+    /// Which entries about passes can be chosen.
+    void showWork(const WorkState& work);
+
 private:
     void addFileMenu(const ApplicationMenuActions& actions);
     void addEditMenu(const ApplicationMenuActions& actions);
     void addViewMenu(const ApplicationMenuActions& actions, const QStringList& tabs);
+    void addPassesMenu(const ApplicationMenuActions& actions);
     void addTrayMenu(const ApplicationMenuActions& actions);
     void addHelpMenu(const ApplicationMenuActions& actions);
 

@@ -108,4 +108,28 @@ QIcon startIcon(bool stops, const QPalette& palette) {
     return icon;
 }
 
+QPixmap healthSign(HealthSign sign, const QColor& ink, int side, qreal ratio) {
+    QPixmap picture(QSize(side, side) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(side / 16.0, side / 16.0); // drawn on a field of 16 by 16
+    painter.setPen(QPen(ink, 2.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    switch (sign) {
+    case HealthSign::Well:
+        painter.drawPolyline(QPolygonF({QPointF(2.5, 8.5), QPointF(6.5, 12.5), QPointF(13.5, 4)}));
+        break;
+    case HealthSign::Trouble:
+        painter.drawLine(QPointF(3.5, 3.5), QPointF(12.5, 12.5));
+        painter.drawLine(QPointF(12.5, 3.5), QPointF(3.5, 12.5));
+        break;
+    case HealthSign::Unknown:
+        painter.setBrush(ink);
+        painter.drawEllipse(QPointF(8, 8), 1.5, 1.5);
+        break;
+    }
+    return picture;
+}
+
 } // namespace kelvo

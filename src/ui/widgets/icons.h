@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ports/status_menu.h"
+#include "support/work_state.h"
 
 #include <QColor>
 #include <QIcon>
@@ -19,5 +20,10 @@ QIcon statusIcon(StatusMenuState state, const QColor& ink, const QColor& ground)
 /// A triangle that starts, or a square that stops, in the colours of `palette`. Main thread; needs
 /// a QGuiApplication.
 QIcon startIcon(bool stops, const QPalette& palette);
+
+/// A tick, a cross, or a dot for what is not known, in `ink`, `side` points high and wide on a
+/// screen with `ratio` pixels a point. The signs differ by shape. Main thread; needs a
+/// QGuiApplication.
+QPixmap healthSign(HealthSign sign, const QColor& ink, int side, qreal ratio);
 
 } // namespace kelvo

@@ -14,6 +14,7 @@
 #include "ui_main_window.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QTableView>
@@ -33,10 +34,16 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     addTab(fSettingsTab, "prefs", tr("Settings"));
     addTab(diagnostics, "diagnostics", tr("Diagnostics"));
     addTab(fActivityTab, "activity", tr("Activity"));
-    for (QPushButton* button : findChildren<QPushButton*>())
+    for (QPushButton* button : findChildren<QPushButton*>()) {
         button->setToolTip(button->accessibleDescription());
+        button->installEventFilter(this);
+    }
     ibStartButton().setToolTip({}); // Its title says it all.
     setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
+    setAction(QStringLiteral("showAllArrivals"), [this] {
+        showTab(QStringLiteral("activity"));
+        fActivityTab->showArrived();
+    });
     connect(&ibStartButton(), &QPushButton::toggled, this, [this] { showStartIcon(); });
     showStartIcon();
     restoreLook();
@@ -141,6 +148,16 @@ void MainWindow::hideEvent(QHideEvent* event) {
     QMainWindow::hideEvent(event);
 }
 
+/// A button whose key is held down is pressed once.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space)
+            return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
 void MainWindow::restoreLook() {
     const QStringList sides =
         fDefaults.stringForKey(prefMainWindowSize).value_or(QString()).split(u'x');
@@ -179,6 +196,20 @@ PathControlView& MainWindow::destinationPath() {
 void MainWindow::showKeyState(KeyState state) {
     fRemoteTab->setKeyState(keyStateWords(state));
     Q_EMIT keyStateShown(state);
+}
+
+void MainWindow::showWork(const WorkState& work) {
+    fWork = work;
+    fSyncTab->showWork(work);
+    fActivityTab->showWork(work);
+    Q_EMIT workShown();
+}
+
+void MainWindow::showActivity(std::optional<qint64> pass) {
+    showTab(QStringLiteral("activity"));
+    bringToFront();
+    if (pass)
+        fActivityTab->showPass(*pass);
 }
 
 QTableView& MainWindow::foundServices() {

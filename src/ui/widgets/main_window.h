@@ -2,12 +2,14 @@
 #pragma once
 
 #include "support/key_state.h"
+#include "support/work_state.h"
 #include "ui/widgets/bindings.h"
 
 #include <QMainWindow>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QPushButton;
 class QTableView;
@@ -17,6 +19,9 @@ class MainWindow;
 }
 
 namespace kelvo {
+
+/// For MainWindow::showActivity: no pass has this number, and the newest is taken.
+inline constexpr qint64 cNewestPass = 0;
 
 class ActivityTab;
 class DispatchQueue;
@@ -56,8 +61,15 @@ public:
     std::vector<Tab> tabs() const;
     int currentTab() const;
     void showTab(int index);
-    void showKeyState(KeyState state);
     void showTab(const QString& identifier);
+    void showKeyState(KeyState state);
+    void showWork(const WorkState& work);
+    /// What was shown last.
+    const WorkState& work() const { return fWork; }
+
+    /// Brings the window with the Activity tab to the front, there to the row of `pass` if one is
+    /// given.
+    void showActivity(std::optional<qint64> pass = {});
 
     /// Brings the window to the front, out of hiding and out of its minimised state.
     void bringToFront();
@@ -78,11 +90,13 @@ Q_SIGNALS:
     /// The person has come to the window.
     void activated();
     void keyStateShown(KeyState state);
+    void workShown();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void addTab(QWidget* tab, const char* identifier, const QString& label);
@@ -91,6 +105,7 @@ private:
     void showStartIcon();
 
     UserDefaults& fDefaults;
+    WorkState fWork;
     Bindings fBindings;
     std::unique_ptr<Ui::MainWindow> fUi;
     SyncTab* fSyncTab;

@@ -5,27 +5,47 @@
 #include "ui/widgets/elided_label.h"
 
 #include <QAction>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QResizeEvent>
+#include <QStylePainter>
 #include <QToolButton>
 #include <QUrl>
 
 #include <algorithm>
+#include <numeric>
 
 namespace kelvo {
 namespace {
 
-constexpr int cGap = 2;
-
 std::vector<PathControlView::Part> partsOf(const QString& path) {
     if (!path.isEmpty() && !path.startsWith(u'/'))
         return {{path, path}};
+    const QString home = QDir::homePath();
+    const bool atHome = path == home || path.startsWith(home + u'/');
     std::vector<PathControlView::Part> parts;
-    for (const PathControl::Item& item : pathItemsOf(fileUrl(path)))
-        parts.push_back({item.title, QUrl(item.url).toLocalFile()});
+    if (atHome)
+        parts.push_back({QStringLiteral("~"), home});
+    for (const PathControl::Item& item : pathItemsOf(fileUrl(path))) {
+        const QString whole = QUrl(item.url).toLocalFile();
+        if (!atHome || whole.size() > home.size())
+            parts.push_back({item.title, whole});
+    }
     return parts;
 }
+
+/// Keeps its context menu to itself: the sign for it would stand in the path.
+class PartButton final : public QToolButton {
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void initStyleOption(QStyleOptionToolButton* option) const override {
+        QToolButton::initStyleOption(option);
+        option->features &= ~QStyleOptionToolButton::HasMenu;
+    }
+};
 
 /// A name on a button: "&" is a letter, not a mnemonic.
 QString literal(QString name) {
@@ -35,9 +55,9 @@ QString literal(QString name) {
 } // namespace
 
 PathControlView::PathControlView(QWidget* parent)
-    : QWidget(parent), fHidden(makeButton(QStringLiteral("hiddenParts"), QStringLiteral("…"))),
-      fEmpty(new QLabel(this)) {
+    : QWidget(parent), fHidden(new QToolButton(this)), fEmpty(new QLabel(this)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    prepare(*fHidden, QStringLiteral("hiddenParts"), QStringLiteral("…"));
     fHidden->setPopupMode(QToolButton::InstantPopup);
     fHidden->setAccessibleName(tr("Folders above"));
     fHidden->setMenu(new QMenu(fHidden));
@@ -50,6 +70,7 @@ void PathControlView::setPath(const QString& path) {
     if (path == fPath)
         return;
     fPath = path;
+    setToolTip(plainToolTip(path));
     rebuild();
 }
 
@@ -59,9 +80,9 @@ void PathControlView::setTextWhenEmpty(const QString& text) {
 }
 
 QSize PathControlView::sizeHint() const {
-    int width = cGap;
+    int width = 0;
     for (const QToolButton* button : fButtons)
-        width += button->sizeHint().width() + cGap;
+        width += button->sizeHint().width() + separatorWidth();
     return {fParts.empty() ? fEmpty->sizeHint().width() : width,
             std::max(fHidden->sizeHint().height(), fEmpty->sizeHint().height())};
 }
@@ -81,13 +102,11 @@ void PathControlView::changeEvent(QEvent* event) {
         rebuild();
 }
 
-QToolButton* PathControlView::makeButton(const QString& name, const QString& title) {
-    auto* button = new QToolButton(this);
-    button->setObjectName(name);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setText(literal(title));
-    return button;
+void PathControlView::prepare(QToolButton& button, const QString& name, const QString& title) {
+    button.setObjectName(name);
+    button.setAutoRaise(true);
+    button.setFocusPolicy(Qt::StrongFocus);
+    button.setText(literal(title));
 }
 
 void PathControlView::rebuild() {
@@ -95,8 +114,8 @@ void PathControlView::rebuild() {
     fButtons.clear();
     fParts = partsOf(fPath);
     for (std::size_t i = 0; i < fParts.size(); ++i) {
-        QToolButton* button =
-            makeButton(QStringLiteral("part%1").arg(static_cast<int>(i)), fParts[i].title);
+        auto* button = new PartButton(this);
+        prepare(*button, QStringLiteral("part%1").arg(static_cast<int>(i)), fParts[i].title);
         button->setAccessibleName(fParts[i].title);
         button->setAccessibleDescription(fParts[i].path);
         button->setToolTip(plainToolTip(fParts[i].path));
@@ -117,47 +136,73 @@ void PathControlView::rebuild() {
 }
 
 void PathControlView::placeParts() {
-    const int height = this->height();
-    fEmpty->setGeometry(0, 0, width(), height);
-    for (std::size_t i = 0; i < fButtons.size(); ++i)
+    const int gap = separatorWidth();
+    fEmpty->setGeometry(0, 0, width(), height());
+    fSeparators.clear();
+    fHidden->menu()->clear();
+    fHidden->hide();
+    if (fParts.empty())
+        return;
+    std::vector<int> widths;
+    for (std::size_t i = 0; i < fButtons.size(); ++i) {
         fButtons[i]->setText(literal(fParts[i].title));
-    // From the last part backwards, as many as fit; the last one is always there, cut if need be.
-    const int hiddenWidth = fHidden->sizeHint().width();
-    std::size_t first = fButtons.size();
-    int used = 0;
-    while (first > 0) {
-        const int wanted = fButtons[first - 1]->sizeHint().width() + cGap;
-        const int reserved = first > 1 ? hiddenWidth + cGap : 0;
-        if (first < fButtons.size() && used + wanted + reserved > width())
-            break;
-        used += wanted;
-        --first;
+        widths.push_back(fButtons[i]->sizeHint().width());
+    }
+    // The first part, then from the last one backwards as many as fit; the last one is always
+    // there, cut if need be.
+    const std::size_t last = fParts.size() - 1;
+    const int whole = std::accumulate(widths.begin(), widths.end(), static_cast<int>(last) * gap);
+    std::size_t first = 0;
+    if (whole > width() && last > 0) {
+        const int hidden = fHidden->sizeHint().width();
+        int used = widths[0] + gap + hidden + gap + widths[last];
+        for (first = last; first > 1 && used + gap + widths[first - 1] <= width(); --first)
+            used += gap + widths[first - 1];
     }
 
-    fHidden->menu()->clear();
-    for (std::size_t i = 0; i < first; ++i)
-        fHidden->menu()->addAction(literal(fParts[i].title), this,
-                                   [this, path = fParts[i].path] { Q_EMIT partClicked(path); });
-    fHidden->setVisible(first > 0);
     int x = 0;
-    if (first > 0) {
-        fHidden->setGeometry(0, 0, hiddenWidth, height);
-        x = hiddenWidth + cGap;
-    }
-    for (std::size_t i = 0; i < fButtons.size(); ++i) {
-        QToolButton* button = fButtons[i];
-        button->setVisible(i >= first);
-        if (i < first)
+    const auto place = [&](QToolButton& button, int wanted) {
+        const int given = std::max(std::min(wanted, width() - x), 0);
+        button.setGeometry(x, 0, given, height());
+        button.show();
+        x += given;
+    };
+    const auto separate = [&] {
+        fSeparators.push_back(x);
+        x += gap;
+    };
+    for (std::size_t i = 0; i < fParts.size(); ++i) {
+        const bool hides = i > 0 && i < first;
+        fButtons[i]->setVisible(!hides);
+        if (hides) {
+            fHidden->menu()->addAction(literal(fParts[i].title), this,
+                                       [this, path = fParts[i].path] { Q_EMIT partClicked(path); });
             continue;
-        const int room = width() - x;
-        const int wanted = button->sizeHint().width();
-        const int frame = wanted - button->fontMetrics().horizontalAdvance(button->text());
-        if (wanted > room)
-            button->setText(literal(
-                button->fontMetrics().elidedText(fParts[i].title, Qt::ElideMiddle, room - frame)));
-        button->setGeometry(x, 0, std::min(wanted, room), height);
-        x += std::min(wanted, room) + cGap;
+        }
+        if (i > 0 && i == first && first > 1) {
+            place(*fHidden, fHidden->sizeHint().width());
+            separate();
+        }
+        const int frame = widths[i] - fontMetrics().horizontalAdvance(fParts[i].title);
+        if (widths[i] > width() - x)
+            fButtons[i]->setText(literal(
+                fontMetrics().elidedText(fParts[i].title, Qt::ElideMiddle, width() - x - frame)));
+        place(*fButtons[i], widths[i]);
+        if (i < last && fParts[i].title != u'/')
+            separate();
     }
+    update();
+}
+
+int PathControlView::separatorWidth() const {
+    return fontMetrics().horizontalAdvance(u'/') + 2;
+}
+
+void PathControlView::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    for (const int x : fSeparators)
+        style()->drawItemText(&painter, QRect(x, 0, separatorWidth(), height()), Qt::AlignCenter,
+                              palette(), isEnabled(), QStringLiteral("/"), QPalette::WindowText);
 }
 
 } // namespace kelvo

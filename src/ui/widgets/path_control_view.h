@@ -10,13 +10,13 @@ class QToolButton;
 
 namespace kelvo {
 
-/// Shows as many of the last parts as there is room for; the others stand in a menu in front of
-/// them. Text is plain text.
+/// Shows the first part and as many of the last ones as there is room for; the others stand in a
+/// menu between them. The user's home is "~". Text is plain text.
 class PathControlView final : public QWidget {
     Q_OBJECT
 public:
     struct Part {
-        QString title; ///< one name; "/" for the root
+        QString title; ///< one name; "/" for the root, "~" for the home
         QString path;  ///< the whole path up to and including it
     };
 
@@ -40,18 +40,21 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
     void rebuild();
     void placeParts();
-    QToolButton* makeButton(const QString& name, const QString& title);
+    int separatorWidth() const;
+    static void prepare(QToolButton& button, const QString& name, const QString& title);
 
     QString fPath;
     QString fTextWhenEmpty;
     std::vector<Part> fParts;
     std::vector<QToolButton*> fButtons; ///< one a part
     QToolButton* fHidden;               ///< the parts there is no room for
+    std::vector<int> fSeparators;       ///< where each begins
     QLabel* fEmpty;
 };
 

@@ -39,6 +39,9 @@ SettingsTab::SettingsTab(Bindings& bindings, QWidget* parent)
     bindings.flag(*fUi->autoStart, prefAutoStartScanOnLaunch);
     bindings.flag(*fUi->hideOnLaunch, prefHideOnLaunch);
     bindings.flag(*fUi->showNotices, prefShowNotices);
+    bindings.flag(*fUi->showArrivals, prefShowArrivals);
+    bindings.flag(*fUi->quitWithoutAsking, prefQuitWithoutAsking);
+    bindings.text(*fUi->commandAfterArrivals, prefCommandAfterArrivals);
     bindings.follow(*this, {prefVersionDisplayString}, [this, &defaults] {
         const QString version = defaults.stringForKey(prefVersionDisplayString).value_or(QString());
         fUi->versionText->setFullText(version.isEmpty() ? QString()

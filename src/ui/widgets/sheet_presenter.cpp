@@ -1,9 +1,13 @@
 #include "ui/widgets/sheet_presenter.h"
 
+#include "ports/desktop_notices.h"
+#include "ports/dispatch_queue.h"
+
+#include <QCheckBox>
 #include <QMessageBox>
 #include <QPushButton>
 
-#include <memory>
+#include <utility>
 
 namespace kelvo {
 namespace {
@@ -41,43 +45,86 @@ ModalResponse responseOf(const QMessageBox& box) {
 
 } // namespace
 
-SheetPresenter::SheetPresenter(QWidget& mainWindow) : fMainWindow(&mainWindow) {}
+SheetPresenter::SheetPresenter(Parts parts)
+    : fMainWindow(&parts.mainWindow), fMainQueue(parts.mainQueue), fNotices(parts.notices),
+      fShowWhy(std::move(parts.showWhy)) {}
 
 SheetPresenter::~SheetPresenter() {
-    for (const auto& [sheet, box] : fOpenSheets) {
-        if (box) {
-            box->disconnect();
-            delete box;
+    for (const auto& [number, sheet] : fOpenSheets) {
+        if (sheet.box) {
+            sheet.box->disconnect();
+            delete sheet.box;
         }
     }
 }
 
 SheetId SheetPresenter::beginSheet(const Alert& alert, std::function<void(ModalResponse)> handler) {
     const SheetId sheet = ++fLastSheet;
+    Sheet& open = fOpenSheets[sheet];
+    open.handler = std::move(handler);
+    if (alert.answersItself && !isSeen()) {
+        fNotices.showNotice({.title = alert.messageText,
+                             .text = alert.informativeText.trimmed(),
+                             .urgent = true,
+                             .show = fShowWhy});
+        return sheet;
+    }
     QMessageBox* box = makeBox(alert, fMainWindow).release();
+    open.box = box;
     box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setAttribute(Qt::WA_ShowWithoutActivating, !fMainWindow->isActiveWindow());
     box->setWindowModality(Qt::WindowModal);
-    fOpenSheets.emplace(sheet, box);
     QObject::connect(box, &QMessageBox::finished, box,
-                     [this, sheet, box, handler = std::move(handler)] {
-                         if (fOpenSheets.erase(sheet) > 0 && handler)
-                             handler(responseOf(*box));
-                     });
+                     [this, sheet, box] { answer(sheet, responseOf(*box)); });
+    if (alert.answersItself)
+        countDown(sheet, alert.informativeText, cSelfAnswerSeconds);
     box->show();
     return sheet;
 }
 
 void SheetPresenter::endSheet(SheetId sheet) {
     const auto found = fOpenSheets.find(sheet);
-    if (found != fOpenSheets.end() && found->second)
-        found->second->done(cModalResponseStop);
+    if (found == fOpenSheets.end())
+        return;
+    if (found->second.box)
+        found->second.box->done(cModalResponseStop);
+    else
+        answer(sheet, cModalResponseStop);
 }
 
 ModalResponse SheetPresenter::runModal(const Alert& alert) {
+    return runModal(alert, {}).response;
+}
+
+SheetPresenter::Answer SheetPresenter::runModal(const Alert& alert, const QString& tick) {
     const auto box = makeBox(alert, fMainWindow);
     box->setWindowModality(Qt::ApplicationModal);
+    if (!tick.isEmpty())
+        box->setCheckBox(new QCheckBox(tick));
     box->exec();
-    return responseOf(*box);
+    return {responseOf(*box), box->checkBox() && box->checkBox()->isChecked()};
+}
+
+bool SheetPresenter::isSeen() const {
+    return fMainWindow && fMainWindow->isVisible() && !fMainWindow->isMinimized();
+}
+
+void SheetPresenter::answer(SheetId sheet, ModalResponse response) {
+    const auto answered = fOpenSheets.extract(sheet);
+    if (answered && answered.mapped().handler)
+        answered.mapped().handler(response);
+}
+
+void SheetPresenter::countDown(SheetId sheet, const QString& text, int secondsLeft) {
+    const auto found = fOpenSheets.find(sheet);
+    if (secondsLeft == 0 || found == fOpenSheets.end() || !found->second.box)
+        return;
+    found->second.box->setInformativeText(QString(
+        text + u'\n' + QObject::tr("Without an answer, it tries again in %1 s.").arg(secondsLeft)));
+    fMainQueue.asyncAfter(1.0, [this, sheet, text, secondsLeft, alive = std::weak_ptr(fAlive)] {
+        if (!alive.expired())
+            countDown(sheet, text, secondsLeft - 1);
+    });
 }
 
 } // namespace kelvo

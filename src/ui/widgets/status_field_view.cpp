@@ -1,5 +1,7 @@
 #include "ui/widgets/status_field_view.h"
 
+#include "ui/widgets/trouble_color.h"
+
 #include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -7,14 +9,6 @@
 #include <QStyle>
 
 namespace kelvo {
-namespace {
-
-/// A red that keeps a contrast of at least 4.5 to 1 on the given background.
-QColor readableRed(const QColor& background) {
-    return background.lightnessF() < 0.5F ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x00, 0x20);
-}
-
-} // namespace
 
 StatusFieldView::StatusFieldView(QWidget* parent)
     : QFrame(parent), fSign(new QLabel(this)), fText(new QLabel(this)) {
@@ -73,8 +67,9 @@ void StatusFieldView::changeEvent(QEvent* event) {
 }
 
 void StatusFieldView::applyColor() {
-    const QColor color = fColor == StatusColor::Red ? readableRed(palette().color(QPalette::Window))
-                                                    : palette().color(QPalette::WindowText);
+    const QColor color = fColor == StatusColor::Red
+                             ? troubleColor(palette().color(QPalette::Window))
+                             : palette().color(QPalette::WindowText);
     QPalette shown = fText->palette();
     if (shown.color(QPalette::WindowText) == color)
         return;

@@ -3,11 +3,14 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "support/text.h"
+#include "support/work_state.h"
 #include "ui/widgets/bindings.h"
+#include "ui/widgets/flow_layout.h"
 #include "ui/widgets/source_notice.h"
 #include "ui_sync_tab.h"
 
 #include <QDir>
+#include <QEvent>
 
 namespace kelvo {
 namespace {
@@ -22,6 +25,7 @@ QString folder(const UserDefaults& defaults, QStringView key) {
 SyncTab::SyncTab(Bindings& bindings, QWidget* parent)
     : QWidget(parent), fUi(std::make_unique<Ui::SyncTab>()) {
     fUi->setupUi(this);
+    layOut();
     UserDefaults& defaults = bindings.defaults();
     fUi->fNsPathControl1->setTextWhenEmpty(tr("No source folder chosen yet"));
     fUi->destinationPath->setTextWhenEmpty(tr("No destination folder chosen yet"));
@@ -35,12 +39,20 @@ SyncTab::SyncTab(Bindings& bindings, QWidget* parent)
     bindings.follow(*this, {prefPath2}, [this, &defaults] {
         fUi->destinationPath->setPath(folder(defaults, prefPath2));
     });
-    bindings.follow(*this, {prefIsScanning}, [this, &defaults] {
-        fUi->busySign->setVisible(defaults.boolForKey(prefIsScanning));
-    });
 }
 
 SyncTab::~SyncTab() = default;
+
+void SyncTab::layOut() {
+    QSizePolicy keepsItsRoom = fUi->ibCancelPass->sizePolicy();
+    keepsItsRoom.setRetainSizeWhenHidden(true);
+    fUi->ibCancelPass->setSizePolicy(keepsItsRoom);
+    fUi->ibCancelPass->hide();
+    fitStartIcon();
+    for (QWidget* row :
+         {fUi->remoteSource, fUi->folderSource, fUi->destination, fUi->buttons, fUi->arrivalsHead})
+        new FlowLayout(*row);
+}
 
 PathControlView& SyncTab::fNsPathControl1() {
     return *fUi->fNsPathControl1;
@@ -56,6 +68,37 @@ StatusFieldView& SyncTab::ibStatusTextField() {
 
 ChecklistView& SyncTab::checklist() {
     return *fUi->checklist;
+}
+
+RecentArrivals& SyncTab::recentArrivals() {
+    return *fUi->recentArrivals;
+}
+
+void SyncTab::setRemedyChosen(const std::function<void(Remedy)>& chosen) {
+    fUi->health->setRemedyChosen(chosen);
+    fUi->checklist->setRemedyChosen(chosen);
+}
+
+void SyncTab::showWork(const WorkState& work) {
+    fUi->progress->showWork(work);
+    fUi->health->showHealth(work.health);
+    fUi->remarks->setText(work.remarks.join(u'\n'));
+    fUi->remarks->setVisible(!work.remarks.isEmpty());
+    fUi->ibSyncNow->setEnabled(work.maySyncNow);
+    fUi->ibCancelPass->setEnabled(work.mayCancel);
+    fUi->ibCancelPass->setVisible(passRuns(work.phase));
+}
+
+void SyncTab::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange)
+        fitStartIcon();
+    QWidget::changeEvent(event);
+}
+
+/// No higher than the letters: the button is as high as the others.
+void SyncTab::fitStartIcon() {
+    const int side = fontMetrics().height();
+    fUi->ibStartButton->setIconSize({side, side});
 }
 
 void SyncTab::setNetworkStatus(const QString& text) {

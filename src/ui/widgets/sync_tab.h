@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -14,7 +15,10 @@ namespace kelvo {
 class Bindings;
 class ChecklistView;
 class PathControlView;
+class RecentArrivals;
 class StatusFieldView;
+struct WorkState;
+enum class Remedy;
 
 class SyncTab final : public QWidget {
     Q_OBJECT
@@ -27,12 +31,24 @@ public:
     PathControlView& destinationPath();
     StatusFieldView& ibStatusTextField();
     ChecklistView& checklist();
+    RecentArrivals& recentArrivals();
+
+    void showWork(const WorkState& work);
+
+    /// From now on a click on the button of the health line or of a line of the checklist calls
+    /// `chosen`.
+    void setRemedyChosen(const std::function<void(Remedy)>& chosen);
 
     /// The network line; an empty text leaves its place empty.
     void setNetworkStatus(const QString& text);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void showSource(Bindings& bindings);
+    void layOut();
+    void fitStartIcon();
 
     std::unique_ptr<Ui::SyncTab> fUi;
 };

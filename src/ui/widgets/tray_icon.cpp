@@ -1,52 +1,106 @@
 #include "ui/widgets/tray_icon.h"
 
+#include "ports/dispatch_queue.h"
 #include "ports/tray_host.h"
 #include "ui/widgets/icons.h"
 
 #include <QEvent>
 #include <QPalette>
+#include <QtEndian>
+
+#include <utility>
 
 namespace kelvo {
 namespace {
 
+constexpr double cQuiet = 0.5; // seconds between two changes of what is said of the work
+
 QString stateText(StatusMenuState state) {
     switch (state) {
     case StatusMenuState::Off:
-        return TrayIcon::tr("Kelvo Mirror: syncing is off");
+        return TrayIcon::tr("Syncing is off");
     case StatusMenuState::Resting:
-        return TrayIcon::tr("Kelvo Mirror: waiting for the next pass");
+        return TrayIcon::tr("Waiting for the next pass");
     case StatusMenuState::Running:
-        return TrayIcon::tr("Kelvo Mirror: syncing now");
+        return TrayIcon::tr("Syncing now");
     case StatusMenuState::Trouble:
-        return TrayIcon::tr("Kelvo Mirror: needs attention");
+        return TrayIcon::tr("Needs attention");
     }
     return {};
 }
 
+/// What tooltip and menu say of the work; an empty one has nothing to say.
+std::array<QString, 3> facts(const WorkState& work) {
+    const bool said = work.headline.contains(work.nextPass, Qt::CaseInsensitive);
+    return {work.headline, work.health.lastSuccess, said ? QString() : work.nextPass};
+}
+
+QString literalTitle(const QString& title) {
+    return QString(title).replace(u'&', QStringLiteral("&&"));
+}
+
+std::vector<TrayPicture> pictures(const QIcon& icon) {
+    std::vector<TrayPicture> all;
+    for (const QSize size : icon.availableSizes()) {
+        const QImage image =
+            icon.pixmap(size, 1.0).toImage().convertToFormat(QImage::Format_ARGB32);
+        QByteArray argb(image.sizeInBytes(), Qt::Uninitialized);
+        qToBigEndian<quint32>(image.constBits(), image.sizeInBytes() / 4, argb.data());
+        all.push_back({.side = image.width(), .argb = argb});
+    }
+    return all;
+}
+
 } // namespace
 
-TrayIcon::TrayIcon(TrayHost& host) : fHost(host), fHostChanges(host.observe([this] { update(); })) {
+TrayIcon::TrayIcon(TrayHost& host, TrayItem& item, DispatchQueue& mainQueue)
+    : fHost(host), fItem(item), fMainQueue(mainQueue),
+      fHostChanges(host.observe([this] { update(); })) {
+    using Actions = StatusMenuActions;
     fMenu.setObjectName(QStringLiteral("trayMenu"));
     fMenu.setAccessibleName(QStringLiteral("Kelvo Mirror"));
-    fMenu.setDefaultAction(
-        addEntry(QStringLiteral("showWindow"), tr("Show &Window"), &StatusMenuActions::showWindow));
+    addFactLines();
+    fStartEntry = addEntry("startOrStop", tr("Start Syncing"), &Actions::startOrStop);
+    fSyncNowEntry = addEntry("syncNow", tr("Sync &Now"), &Actions::syncNow);
+    fCancelEntry = addEntry("cancelPass", tr("&Cancel This Pass"), &Actions::cancelPass);
     fMenu.addSeparator();
-    fStartEntry = addEntry(QStringLiteral("startOrStop"), tr("Start Syncing"),
-                           &StatusMenuActions::startOrStop);
+    fMenu.setDefaultAction(addEntry("showWindow", tr("Open &Window"), &Actions::showWindow));
+    addEntry("showActivity", tr("&Activity"), &Actions::showActivity);
+    addEntry("revealFolder", tr("Reveal &Folder"), &Actions::revealFolder);
     fMenu.addSeparator();
-    addEntry(QStringLiteral("quitAndRelaunch"), tr("Quit and &Relaunch"),
-             &StatusMenuActions::quitAndRelaunch);
-    addEntry(QStringLiteral("quit"), tr("&Quit"), &StatusMenuActions::quit);
+    addEntry("quitAndRelaunch", tr("Quit and &Relaunch"), &Actions::quitAndRelaunch);
+    addEntry("quit", tr("&Quit"), &Actions::quit);
     fMenu.installEventFilter(this);
+    showWorkNow();
+    fItem.setChoices({
+        .activate = [this] { run(&Actions::showWindow); },
+        .choose = [this](std::size_t entry) { choose(entry); },
+        .openMenu = [this](int x, int y) { fMenu.popup(QPoint(x, y)); },
+        .menuShown = [this](bool shown) { tellMenuShown(shown); },
+    });
+    connect(&fMenu, &QMenu::aboutToShow, this, [this] { tellMenuShown(true); });
+    connect(&fMenu, &QMenu::aboutToHide, this, [this] { tellMenuShown(false); });
 }
 
 TrayIcon::~TrayIcon() {
+    fItem.setChoices({});
+    fItem.hide();
     fMenu.removeEventFilter(this);
 }
 
-QAction* TrayIcon::addEntry(const QString& name, const QString& title, Action action) {
+void TrayIcon::addFactLines() {
+    constexpr std::array cNames{"headline", "lastSuccess", "nextPass"};
+    for (std::size_t at = 0; at < fFacts.size(); ++at) {
+        fFacts[at] = fMenu.addAction(QString());
+        fFacts[at]->setObjectName(QString::fromLatin1(cNames[at]));
+        fFacts[at]->setEnabled(false);
+    }
+    fFactsEnd = fMenu.addSeparator();
+}
+
+QAction* TrayIcon::addEntry(const char* name, const QString& title, Action action) {
     QAction* entry = fMenu.addAction(title);
-    entry->setObjectName(name);
+    entry->setObjectName(QString::fromLatin1(name));
     connect(entry, &QAction::triggered, this, [this, action] { run(action); });
     return entry;
 }
@@ -57,13 +111,25 @@ void TrayIcon::run(Action action) {
         chosen();
 }
 
+void TrayIcon::tellMenuShown(bool shown) {
+    if (const auto told = fActions.menuShown; told && fState)
+        told(shown);
+}
+
+void TrayIcon::choose(std::size_t entry) {
+    if (const QList<QAction*> entries = fMenu.actions();
+        entry < static_cast<std::size_t>(entries.size()))
+        entries[static_cast<qsizetype>(entry)]->trigger();
+}
+
 void TrayIcon::show(StatusMenuState state) {
     fState = state;
     update();
 }
 
 void TrayIcon::setStartTitle(const QString& title) {
-    fStartEntry->setText(QString(title).replace(u'&', QStringLiteral("&&")));
+    fStartEntry->setText(literalTitle(title));
+    fillItem();
 }
 
 void TrayIcon::hide() {
@@ -72,32 +138,95 @@ void TrayIcon::hide() {
 }
 
 bool TrayIcon::isReachable() const {
-    return shownIcon() && fHost.isPresent();
+    return fState && fHost.isPresent();
 }
 
 const QSystemTrayIcon* TrayIcon::shownIcon() const {
     return fIcon && fIcon->isVisible() ? fIcon.get() : nullptr;
 }
 
-void TrayIcon::showNotice(const QString& title, const QString& text) {
+void TrayIcon::showNotice(const Notice& notice) {
     if (shownIcon())
-        fIcon->showMessage(title, text);
+        fIcon->showMessage(notice.title, notice.text);
 }
 
+// -- what is said of the work
+
+void TrayIcon::showWork(const WorkState& work) {
+    fWork = work;
+    if (fIsQuiet || fWork == fShownWork)
+        return;
+    showWorkNow();
+    fIsQuiet = true;
+    fMainQueue.asyncAfter(cQuiet, [this] {
+        fIsQuiet = false;
+        showWork(fWork);
+    });
+}
+
+void TrayIcon::showWorkNow() {
+    fShownWork = fWork;
+    const auto texts = facts(fWork);
+    bool any = false;
+    for (std::size_t at = 0; at < texts.size(); ++at) {
+        fFacts[at]->setText(literalTitle(texts[at]));
+        fFacts[at]->setVisible(!texts[at].isEmpty());
+        any = any || !texts[at].isEmpty();
+    }
+    fFactsEnd->setVisible(any);
+    fSyncNowEntry->setEnabled(fWork.maySyncNow);
+    fCancelEntry->setEnabled(fWork.mayCancel);
+    fillItem();
+    update();
+}
+
+void TrayIcon::fillItem() {
+    std::vector<TrayEntry> entries;
+    for (const QAction* entry : fMenu.actions())
+        entries.push_back({.title = entry->text(),
+                           .isSeparator = entry->isSeparator(),
+                           .isEnabled = entry->isEnabled(),
+                           .isVisible = entry->isVisible()});
+    fItem.setEntries(std::move(entries));
+}
+
+QString TrayIcon::tip() const {
+    QStringList lines;
+    for (const QString& fact : facts(fShownWork)) {
+        if (!fact.isEmpty())
+            lines.append(fact);
+    }
+    return lines.isEmpty() ? stateText(*fState) : lines.join(u'\n');
+}
+
+// -- the icon
+
 void TrayIcon::update() {
-    if (!fState) {
-        if (fIcon)
-            fIcon->hide();
+    const TrayKind kind = fState ? fHost.kind() : TrayKind::None;
+    if (kind != TrayKind::Bus)
+        fItem.hide();
+    if (kind != TrayKind::X11 && fIcon)
+        fIcon->hide();
+    if (kind == TrayKind::None)
+        return;
+    if (std::exchange(fDrawn, fState) != fState) {
+        const QPalette palette = fMenu.palette();
+        fPicture = statusIcon(*fState, palette.color(QPalette::WindowText),
+                              palette.color(QPalette::Window));
+        fLook.pictures = pictures(fPicture);
+    }
+    if (kind == TrayKind::Bus) {
+        fLook.needsAttention = fState == StatusMenuState::Trouble;
+        fLook.tip = tip();
+        fItem.show(fLook);
         return;
     }
-    if (!fIcon && fHost.isPresent())
-        makeIcon();
     if (!fIcon)
-        return;
-    const QPalette palette = fMenu.palette();
-    fIcon->setIcon(
-        statusIcon(*fState, palette.color(QPalette::WindowText), palette.color(QPalette::Window)));
-    fIcon->setToolTip(stateText(*fState));
+        makeIcon();
+    if (fIcon->icon().cacheKey() != fPicture.cacheKey())
+        fIcon->setIcon(fPicture);
+    // The name stands on a line of its own: what follows a line end is never taken for marks.
+    fIcon->setToolTip(QStringLiteral("Kelvo Mirror\n") + tip());
     fIcon->show();
 }
 
@@ -112,8 +241,10 @@ void TrayIcon::makeIcon() {
 }
 
 bool TrayIcon::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == &fMenu && event->type() == QEvent::PaletteChange)
+    if (watched == &fMenu && event->type() == QEvent::PaletteChange) {
+        fDrawn.reset();
         update();
+    }
     return QObject::eventFilter(watched, event);
 }
 

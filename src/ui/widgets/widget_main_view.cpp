@@ -40,6 +40,39 @@ private:
     std::function<void(bool)> fHandler;
 };
 
+/// Follows whether the window can be seen.
+class AttentionMonitor final : public QObject {
+public:
+    AttentionMonitor(QWidget* window, std::function<void(Attention)> changed)
+        : fWindow(window), fChanged(std::move(changed)) {
+        window->installEventFilter(this);
+        look();
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        const QEvent::Type type = event->type();
+        if (type == QEvent::Show || type == QEvent::Hide || type == QEvent::WindowStateChange)
+            look();
+        return false;
+    }
+
+private:
+    void look() {
+        const Attention now =
+            fWindow->isVisible() && !fWindow->isMinimized() ? Attention::Seen : Attention::Unseen;
+        if (std::exchange(fTold, now) == now)
+            return;
+        // The handler may end this monitor.
+        const auto changed = fChanged;
+        changed(now);
+    }
+
+    QPointer<QWidget> fWindow;
+    std::optional<Attention> fTold;
+    std::function<void(Attention)> fChanged;
+};
+
 } // namespace
 
 WidgetMainView::WidgetMainView(MainWindow& window) : fWindow(&window) {}
@@ -66,6 +99,18 @@ void WidgetMainView::showTesting(bool testing) {
 void WidgetMainView::showKeyState(KeyState state) {
     if (fWindow)
         fWindow->showKeyState(state);
+}
+
+void WidgetMainView::showWork(const WorkState& work) {
+    if (fWindow)
+        fWindow->showWork(work);
+}
+
+Subscription WidgetMainView::observeAttention(std::function<void(Attention)> changed) {
+    if (!fWindow)
+        return {};
+    auto monitor = std::make_shared<AttentionMonitor>(fWindow, std::move(changed));
+    return Subscription([monitor]() mutable { monitor.reset(); });
 }
 
 void WidgetMainView::beep() {

@@ -18,6 +18,8 @@ public:
     void showNetworkStatus(const QString& text) override;
     void showTesting(bool testing) override;
     void showKeyState(KeyState state) override;
+    void showWork(const WorkState& work) override;
+    Subscription observeAttention(std::function<void(Attention)> changed) override;
     void beep() override;
 
     /// `view` is a WidgetControl; any other hears nothing.

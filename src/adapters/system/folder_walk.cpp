@@ -1,0 +1,121 @@
+#include "adapters/system/folder_walk.h"
+
+#include "adapters/system/unique_fd.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <memory>
+
+namespace kelvo {
+namespace {
+
+constexpr int cMostEntries = 1'000'000;
+constexpr int cMostDepth = 100;
+
+/// Not a link, but for what is named outright.
+UniqueFd openFolder(int parent, const char* name, int flags = O_NOFOLLOW) {
+    return UniqueFd(::openat(parent, name, O_RDONLY | O_DIRECTORY | O_CLOEXEC | flags));
+}
+
+qint64 millisecondsOf(const timespec& time) {
+    return qint64{time.tv_sec} * 1000 + time.tv_nsec / 1'000'000;
+}
+
+std::optional<FoundFile> regularFile(int parent, const char* name, const QByteArray& path) {
+    struct stat entry {};
+    if (::fstatat(parent, name, &entry, AT_SYMLINK_NOFOLLOW) != 0 || !S_ISREG(entry.st_mode))
+        return {};
+    return FoundFile{.path = path,
+                     .size = entry.st_size,
+                     .changed =
+                         QDateTime::fromMSecsSinceEpoch(millisecondsOf(entry.st_ctim), Qt::UTC)};
+}
+
+class Walk {
+public:
+    Walk(const QDateTime& moment, const std::function<bool(QByteArrayView)>& passedOver)
+        : fMoment(moment.toMSecsSinceEpoch()), fPassedOver(passedOver) {}
+
+    /// What comes into a folder changes the folder too: in the others only folders are of interest.
+    void enter(UniqueFd folder, const QByteArray& path, int depth) {
+        struct stat own {};
+        if (!folder || depth > cMostDepth || ::fstat(folder.get(), &own) != 0)
+            return;
+        const bool changed = millisecondsOf(own.st_ctim) >= fMoment;
+        const std::unique_ptr<DIR, int (*)(DIR*)> entries(::fdopendir(folder.get()), ::closedir);
+        if (!entries)
+            return;
+        const int descriptor = folder.release();
+        while (const dirent* const entry = ::readdir(entries.get())) {
+            if (++fEntries > cMostEntries)
+                return;
+            look(descriptor, *entry, path, changed, depth);
+        }
+    }
+
+    std::vector<FoundFile> found;
+
+private:
+    void look(int folder, const dirent& entry, const QByteArray& path, bool changed, int depth) {
+        const QByteArrayView name(entry.d_name);
+        const bool mayBeFolder = entry.d_type == DT_DIR || entry.d_type == DT_UNKNOWN;
+        const bool mayBeFile = entry.d_type == DT_REG || entry.d_type == DT_UNKNOWN;
+        if (name == "." || name == ".." || !(mayBeFolder || (mayBeFile && changed)) ||
+            fPassedOver(name))
+            return;
+        const QByteArray whole = path + '/' + name;
+        if (mayBeFolder)
+            enter(openFolder(folder, entry.d_name), whole, depth + 1);
+        if (!mayBeFile || !changed)
+            return;
+        auto file = regularFile(folder, entry.d_name, whole);
+        if (file && file->changed.toMSecsSinceEpoch() >= fMoment)
+            found.push_back(std::move(*file));
+    }
+
+    const qint64 fMoment;
+    const std::function<bool(QByteArrayView)>& fPassedOver;
+    int fEntries = 0;
+};
+
+/// The path of the root has its slash already.
+QByteArray beforeSlash(const QByteArray& folder) {
+    return folder == "/" ? QByteArray() : folder;
+}
+
+} // namespace
+
+std::optional<FoundFile> fileBeneath(const QByteArray& folder, const QByteArray& name) {
+    if (name.startsWith('/') || name.contains('\0') || folder.contains('\0'))
+        return {};
+    UniqueFd parent = openFolder(AT_FDCWD, folder.constData(), 0);
+    QByteArray path = beforeSlash(folder);
+    QByteArray last;
+    for (const QByteArray& part : name.split('/')) {
+        if (part == "..")
+            return {};
+        if (part.isEmpty() || part == ".")
+            continue;
+        if (!last.isEmpty())
+            parent = openFolder(parent.get(), last.constData());
+        if (!parent)
+            return {};
+        last = part;
+        path += '/' + part;
+    }
+    return parent && !last.isEmpty() ? regularFile(parent.get(), last.constData(), path)
+                                     : std::nullopt;
+}
+
+std::vector<FoundFile>
+filesChangedSince(const QByteArray& folder, const QDateTime& moment,
+                  const std::function<bool(QByteArrayView name)>& passedOver) {
+    Walk walk(moment, passedOver);
+    if (!folder.contains('\0'))
+        walk.enter(openFolder(AT_FDCWD, folder.constData(), 0), beforeSlash(folder), 0);
+    return std::move(walk.found);
+}
+
+} // namespace kelvo

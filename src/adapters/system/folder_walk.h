@@ -1,0 +1,14 @@
+// Looking for files beneath a folder, without following links.
+#pragma once
+
+#include "ports/file_manager.h"
+
+namespace kelvo {
+
+/// As the operations of FileManager of the same names.
+std::optional<FoundFile> fileBeneath(const QByteArray& folder, const QByteArray& name);
+std::vector<FoundFile>
+filesChangedSince(const QByteArray& folder, const QDateTime& moment,
+                  const std::function<bool(QByteArrayView name)>& passedOver);
+
+} // namespace kelvo

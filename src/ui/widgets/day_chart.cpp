@@ -1,0 +1,160 @@
+#include "ui/widgets/day_chart.h"
+
+#include "ui/activity_texts.h"
+#include "ui/widgets/elided_label.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+#include <algorithm>
+
+namespace kelvo {
+namespace {
+
+constexpr int cHeight = 48;
+constexpr int cMark = 7; ///< the triangle's height, kept free above the bars
+
+QColor troubleColor(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightnessF() < 0.5F ? QColor(0xff, 0x8a, 0x80)
+                                                               : QColor(0xb0, 0x1c, 0x1c);
+}
+
+void drawMark(QPainter& painter, const QRectF& place) {
+    painter.drawPolygon(QPolygonF(
+        {place.bottomLeft(), place.bottomRight(), QPointF(place.center().x(), place.top())}));
+}
+
+} // namespace
+
+DayChart::DayChart(QWidget* parent) : QTableView(parent) {
+    fModel.setHorizontalHeaderLabels({tr("Day"), tr("Size"), tr("Movies"), tr("Trouble")});
+    setModel(&fModel);
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameShape(NoFrame);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setSelectionBehavior(SelectRows);
+    setTabKeyNavigation(false);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    viewport()->setAutoFillBackground(false);
+}
+
+void DayChart::setDays(const std::vector<DayOfPasses>& days, QDate today) {
+    fDays.clear();
+    fMost = 0;
+    for (int row = 0; row < cDays; ++row) {
+        const QDate date = today.addDays(row + 1 - cDays);
+        const auto found = std::ranges::find(days, date, &DayOfPasses::day);
+        const DayOfPasses& day =
+            fDays.emplace_back(found == days.end() ? DayOfPasses{.day = date} : *found);
+        fMost = std::max(fMost, day.bytes);
+        const QString name = dayText(date, today);
+        const QString texts[Columns] = {name, bytesText(day.bytes), QString::number(day.files),
+                                        day.trouble ? tr("in trouble") : tr("none")};
+        for (int column = 0; column < Columns; ++column) {
+            const QModelIndex cell = fModel.index(row, column);
+            fModel.setData(cell, texts[column]);
+            fModel.setData(cell, plainToolTip(name + u": " + dayReport(day)), Qt::ToolTipRole);
+        }
+        fModel.setData(fModel.index(row, Day), dayReport(day), Qt::AccessibleDescriptionRole);
+    }
+    viewport()->update();
+}
+
+QSize DayChart::sizeHint() const {
+    return {cDays * 8, cHeight};
+}
+
+QSize DayChart::minimumSizeHint() const {
+    return {cDays * 3, cHeight};
+}
+
+QRect DayChart::visualRect(const QModelIndex& index) const {
+    if (!index.isValid())
+        return {};
+    const int width = viewport()->width();
+    const int left = width * index.row() / cDays;
+    return {left, 0, width * (index.row() + 1) / cDays - left, viewport()->height()};
+}
+
+QModelIndex DayChart::indexAt(const QPoint& point) const {
+    for (int row = 0; row < cDays; ++row) {
+        const QModelIndex day = fModel.index(row, Day);
+        if (visualRect(day).contains(point))
+            return day;
+    }
+    return {};
+}
+
+void DayChart::paintEvent(QPaintEvent*) {
+    QPainter painter(viewport());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    for (std::size_t i = 0; i < fDays.size(); ++i) {
+        const QModelIndex index = fModel.index(static_cast<int>(i), Day);
+        const QRect place = visualRect(index);
+        const QRect ground = place.adjusted(1, cMark + 2, -1, -1);
+        int height = 1; // a day without a movie is a line
+        if (fDays[i].bytes > 0)
+            height = std::max(3, static_cast<int>(double(ground.height()) * double(fDays[i].bytes) /
+                                                  double(fMost)));
+        painter.setBrush(palette().color(fDays[i].bytes > 0 ? QPalette::Highlight : QPalette::Mid));
+        painter.drawRect(
+            QRect(ground.left(), ground.bottom() + 1 - height, ground.width(), height));
+        if (fDays[i].trouble) {
+            painter.setBrush(troubleColor(palette()));
+            const QRectF mark(place.center().x() + 0.5 - cMark / 2.0,
+                              ground.bottom() - height - cMark, cMark, cMark);
+            drawMark(painter, mark);
+        }
+        if (hasFocus() && currentIndex().row() == index.row()) {
+            QStyleOptionFocusRect option;
+            option.initFrom(this);
+            option.rect = place;
+            style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+        }
+    }
+}
+
+QModelIndex DayChart::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
+    int row = currentIndex().isValid() ? currentIndex().row() : cDays;
+    switch (action) {
+    case MoveLeft:
+    case MoveUp:
+    case MovePrevious:
+        --row;
+        break;
+    case MoveRight:
+    case MoveDown:
+    case MoveNext:
+        ++row;
+        break;
+    case MoveHome:
+    case MovePageUp:
+        row = 0;
+        break;
+    case MoveEnd:
+    case MovePageDown:
+        row = cDays - 1;
+        break;
+    }
+    return fModel.index(std::clamp(row, 0, cDays - 1), Day);
+}
+
+void DayChart::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    viewport()->update();
+}
+
+void DayChart::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    if (!currentIndex().isValid())
+        setCurrentIndex(fModel.index(cDays - 1, Day));
+    viewport()->update();
+}
+
+} // namespace kelvo

@@ -1,0 +1,153 @@
+#include "ui/widgets/recent_arrivals.h"
+
+#include "ports/pass_store.h"
+#include "support/plain_line.h"
+#include "ui/pass_words.h"
+#include "ui/widgets/elided_label.h"
+
+#include <QDateTime>
+#include <QEvent>
+#include <QFile>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QPointer>
+#include <QStyle>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace kelvo {
+namespace {
+
+enum Column { Time, Name, Size, Columns };
+
+constexpr int cAroundARow = 4; // points above and below the letters together
+constexpr int cPathRole = Qt::UserRole;
+
+QString timeText(const QDateTime& arrived) {
+    const QDateTime here = arrived.toLocalTime();
+    return here.date() == QDate::currentDate()
+               ? here.toString(QStringLiteral("HH:mm"))
+               : QLocale().toString(here.date(), QLocale::ShortFormat);
+}
+
+/// `name` with all its control characters spelled out: it stands on one line.
+QString oneLine(QStringView name) {
+    return withVisibleControls(name)
+        .replace(u'\t', QStringLiteral("\\x09"))
+        .replace(u'\n', QStringLiteral("\\x0a"));
+}
+
+} // namespace
+
+RecentArrivals::RecentArrivals(QWidget* parent) : QWidget(parent), fEmpty(new QLabel) {
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    fEmpty->setObjectName(QStringLiteral("noArrivals"));
+    fEmpty->setText(tr("Movies that have arrived will stand here, the newest first. A double click "
+                       "opens one."));
+    fEmpty->setTextFormat(Qt::PlainText);
+    fEmpty->setWordWrap(true);
+    fEmpty->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    fEmpty->setForegroundRole(QPalette::PlaceholderText);
+    rows->addWidget(fEmpty);
+    keepRoom();
+}
+
+void RecentArrivals::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    if (fRead || !fStore)
+        return;
+    fRead = true;
+    QMetaObject::invokeMethod(this, &RecentArrivals::readStore, Qt::QueuedConnection);
+}
+
+void RecentArrivals::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        keepRoom();
+        showArrivals();
+    }
+    QWidget::changeEvent(event);
+}
+
+void RecentArrivals::readStore() {
+    fStore->readArrivals({.most = cMost}, [this, alive = QPointer<RecentArrivals>(this)](
+                                              const std::vector<KeptArrival>& kept) {
+        if (!alive)
+            return;
+        for (const KeptArrival& each : kept)
+            fArrivals.push_back(each.arrival);
+        showArrivals();
+        // What is told from here on is not in the answer yet.
+        fObservation = fStore->observe([this](const PassRecord& pass) { add(pass); });
+    });
+}
+
+void RecentArrivals::add(const PassRecord& pass) {
+    if (pass.arrivals.empty())
+        return;
+    fArrivals.insert(fArrivals.begin(), pass.arrivals.rbegin(), pass.arrivals.rend());
+    if (fArrivals.size() > cMost)
+        fArrivals.resize(cMost);
+    showArrivals();
+}
+
+void RecentArrivals::showArrivals() {
+    if (fArrivals.empty())
+        return;
+    list().clear();
+    for (const Arrival& arrival : fArrivals) {
+        const QString path = QFile::decodeName(arrival.path);
+        auto* row = new QTreeWidgetItem(&list());
+        row->setText(Time, timeText(arrival.arrived));
+        row->setText(Name, oneLine(path.section(u'/', -1)));
+        row->setText(Size, sizeText({TransferSource::Lines, 1, arrival.size}));
+        row->setTextAlignment(Time, Qt::AlignRight | Qt::AlignVCenter);
+        row->setTextAlignment(Size, Qt::AlignRight | Qt::AlignVCenter);
+        row->setToolTip(Name, plainToolTip(oneLine(path)));
+        row->setData(Name, cPathRole, path);
+        row->setSizeHint(Name, QSize(0, rowHeight()));
+    }
+    fEmpty->hide();
+    list().show();
+}
+
+QTreeWidget& RecentArrivals::list() {
+    if (fList)
+        return *fList;
+    fList = new QTreeWidget;
+    fList->setObjectName(QStringLiteral("arrivals"));
+    fList->setAccessibleName(tr("Movies that arrived last"));
+    fList->setColumnCount(Columns);
+    fList->setHeaderLabels({tr("Arrived"), tr("Name"), tr("Size")});
+    fList->setHeaderHidden(true);
+    fList->setRootIsDecorated(false);
+    fList->setUniformRowHeights(true);
+    fList->setTabKeyNavigation(false);
+    fList->setAllColumnsShowFocus(true);
+    fList->setTextElideMode(Qt::ElideMiddle);
+    fList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    fList->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QHeaderView& columns = *fList->header();
+    columns.setStretchLastSection(false);
+    columns.setSectionResizeMode(QHeaderView::ResizeToContents);
+    columns.setSectionResizeMode(Name, QHeaderView::Stretch);
+    connect(fList, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* row) {
+        Q_EMIT openRequested(row->data(Name, cPathRole).toString());
+    });
+    layout()->addWidget(fList);
+    return *fList;
+}
+
+int RecentArrivals::rowHeight() const {
+    return fontMetrics().lineSpacing() + cAroundARow;
+}
+
+/// The room of the whole list, also while there is none.
+void RecentArrivals::keepRoom() {
+    setFixedHeight(cMost * rowHeight() + 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth));
+}
+
+} // namespace kelvo

@@ -1,0 +1,122 @@
+#include "app/commands/command_line.h"
+#include "app/commands/passes.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+const QDateTime cNow(QDate(2026, 11, 22), QTime(19, 2));
+
+QString momentText(const QString& text) {
+    const auto moment = momentFrom(text, cNow);
+    return moment ? moment->toLocalTime().toString(Qt::ISODate) : QStringLiteral("none");
+}
+
+PassRecord passWith(std::vector<Arrival> arrivals) {
+    PassRecord pass;
+    pass.id = 7;
+    pass.began = QDateTime(QDate(2026, 11, 21), QTime(8, 30), Qt::UTC);
+    pass.seconds = 4;
+    pass.kind = PassKind::Remote;
+    pass.verdict = HostVerdict::Valid;
+    pass.cause = PassCause::Unknown;
+    pass.lastLine = QStringLiteral("gone\x1b[2J");
+    pass.transfer = {TransferSource::Lines, 2, std::nullopt};
+    pass.arrivals = std::move(arrivals);
+    return pass;
+}
+
+QStringList linesOf(const std::vector<PassRecord>& passes, bool json) {
+    QStringList lines = passesText(passes, json).split(u'\n');
+    EXPECT_EQ(lines.takeLast(), QString());
+    return lines;
+}
+
+TEST(MomentTest, DatesAndTimesBefore_AreRead) {
+    EXPECT_EQ(momentText(QStringLiteral("2026-11-20")), QStringLiteral("2026-11-20T00:00:00"));
+    EXPECT_EQ(momentText(QStringLiteral("2026-11-20T07:05")),
+              QStringLiteral("2026-11-20T07:05:00"));
+    EXPECT_EQ(momentText(QStringLiteral("2026-11-20 07:05:09")),
+              QStringLiteral("2026-11-20T07:05:09"));
+    EXPECT_EQ(momentFrom(QStringLiteral("2026-11-20T07:05:00+02:00"), cNow),
+              QDateTime(QDate(2026, 11, 20), QTime(5, 5), Qt::UTC));
+    EXPECT_EQ(momentFrom(QStringLiteral("2026-11-20T05:05:00Z"), cNow),
+              QDateTime(QDate(2026, 11, 20), QTime(5, 5), Qt::UTC));
+    EXPECT_EQ(momentText(QStringLiteral("30min")), QStringLiteral("2026-11-22T18:32:00"));
+    EXPECT_EQ(momentText(QStringLiteral("2h")), QStringLiteral("2026-11-22T17:02:00"));
+    EXPECT_EQ(momentText(QStringLiteral("3d")), QStringLiteral("2026-11-19T19:02:00"));
+}
+
+TEST(MomentTest, OtherTexts_AreNone) {
+    for (const QString& text :
+         {QString(), QStringLiteral("yesterday"), QStringLiteral("2026-11-31"),
+          QStringLiteral("2026-1-1"), QStringLiteral("-2h"), QStringLiteral("2 h"),
+          QStringLiteral("h"), QStringLiteral("2h\n"), QStringLiteral("9999999d"),
+          QStringLiteral("2026-11-20T25:00"), QStringLiteral("22.11.2026")})
+        EXPECT_EQ(momentText(text), QStringLiteral("none")) << qPrintable(text);
+}
+
+TEST(PassesTextTest, Json_IsOneObjectALineWithEveryArrival) {
+    const QDateTime arrived(QDate(2026, 11, 21), QTime(8, 31), Qt::UTC);
+    const QStringList lines = linesOf(
+        {passWith({{"/in/caf\xc3\xa9\n.mov", 5LL << 40, arrived}, {"/in/\xff.mov", 1, arrived}}),
+         passWith({})},
+        true);
+    ASSERT_EQ(lines.size(), 2);
+    const QJsonObject first = QJsonDocument::fromJson(lines[0].toUtf8()).object();
+    EXPECT_EQ(first.value(u"number"), 7);
+    EXPECT_EQ(first.value(u"began"), QStringLiteral("2026-11-21T08:30:00.000Z"));
+    EXPECT_EQ(first.value(u"cause"), QStringLiteral("unknown"));
+    EXPECT_EQ(first.value(u"files"), 2);
+    EXPECT_TRUE(first.value(u"bytes").isNull());
+    const QJsonArray arrivals = first.value(u"arrivals").toArray();
+    ASSERT_EQ(arrivals.size(), 2);
+    EXPECT_EQ(arrivals[0], (QJsonObject{{QStringLiteral("path"), QStringLiteral("/in/café\n.mov")},
+                                        {QStringLiteral("size"), 5LL << 40},
+                                        {QStringLiteral("arrived"),
+                                         QStringLiteral("2026-11-21T08:31:00.000Z")}}));
+    EXPECT_EQ(arrivals[1].toObject().value(u"path"), QStringLiteral("/in/\ufffd.mov"));
+    EXPECT_EQ(
+        QByteArray::fromBase64(arrivals[1].toObject().value(u"pathBytes").toString().toLatin1()),
+        "/in/\xff.mov");
+    EXPECT_TRUE(QJsonDocument::fromJson(lines[1].toUtf8()).object().contains(u"arrivals"));
+}
+
+TEST(PassesTextTest, Line_TellsWhenAndHowWithControlsSpelledOut) {
+    const QString line = linesOf({passWith({})}, false).value(0);
+    EXPECT_EQ(QDateTime::fromString(line.section(u' ', 0, 0), Qt::ISODate), passWith({}).began);
+    EXPECT_TRUE(line.endsWith(
+        QStringLiteral("  Something went wrong. The last line was: gone\\x1b[2J (2 files, 4 s)")))
+        << qPrintable(line);
+    PassRecord crowded = passWith({});
+    crowded.lastLine = QStringLiteral("one\ntwo");
+    EXPECT_EQ(linesOf({crowded}, false).size(), 1);
+}
+
+TEST(CommandLineTest, Passes_AreAskedForWithTimeAndForm) {
+    const auto read = [](const QString& words) {
+        return parseCommandLine(QString(u"kelvo-mirror " + words).split(u' '));
+    };
+    EXPECT_EQ(read(QStringLiteral("--passes")).kind, LaunchKind::Passes);
+    EXPECT_FALSE(read(QStringLiteral("--passes")).passes.since.has_value());
+    const CommandLine line = read(QStringLiteral("--passes --json --since 2026-11-20"));
+    EXPECT_EQ(line.kind, LaunchKind::Passes);
+    EXPECT_TRUE(line.passes.json);
+    EXPECT_EQ(line.passes.since, QDate(2026, 11, 20).startOfDay());
+    EXPECT_TRUE(read(QStringLiteral("--passes --since soon"))
+                    .message.startsWith(QStringLiteral("kelvo-mirror: 'soon' is no time: ")));
+    for (const QString& words :
+         {QStringLiteral("--passes --since soon"), QStringLiteral("--since 2h"),
+          QStringLiteral("--passes --once"), QStringLiteral("--passes --headless"),
+          QStringLiteral("--once --since 2h"), QStringLiteral("--json"),
+          QStringLiteral("--passes --since"), QStringLiteral("--passes 2h")})
+        EXPECT_EQ(read(words).kind, LaunchKind::Refuse) << qPrintable(words);
+}
+
+} // namespace
+} // namespace kelvo

@@ -1,0 +1,256 @@
+#include "passes/rsync_output_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+namespace kelvo {
+namespace {
+
+const QString cFactory =
+    QStringLiteral("/usr/bin/rsync 2>&1 -r --stats --info=progress2 --out-format='%l %n' a/ b/");
+
+/// Five files of 3,000,000 bytes, one of a million and an empty one, as rsync printed it.
+const QByteArray cFirstPull = "4096 ./\n3000000 f1.mov\n"
+                              "\r              0   0%    0.00kB/s    0:00:00  "
+                              "\r      3,000,000  18%    3.00MB/s    0:00:01 (xfr#1, to-chk=7/9)\n"
+                              "3000000 f2.mov\n"
+                              "\r      6,000,000  37%    3.00MB/s    0:00:02 (xfr#2, to-chk=6/9)\n"
+                              "3000000 f3.mov\n"
+                              "\r      7,250,000  45%    3.00MB/s    0:00:02  "
+                              "\r      9,000,000  56%    3.00MB/s    0:00:03 (xfr#3, to-chk=5/9)\n"
+                              "3000000 f4.mov\n"
+                              "\r     12,000,000  75%    3.00MB/s    0:00:04 (xfr#4, to-chk=4/9)\n"
+                              "3000000 f5.mov\n"
+                              "\r     15,000,000  93%    3.00MB/s    0:00:05 (xfr#5, to-chk=3/9)\n"
+                              "4096 sub/\n0 sub/bad\\#377\\#012nl.mov\n"
+                              "\r     15,000,000  93%    3.00MB/s    0:00:05 (xfr#6, to-chk=1/9)\n"
+                              "1000000 sub/g.mov\n"
+                              "\r     16,000,000 100%    3.00MB/s    0:00:05 (xfr#7, to-chk=0/9)"
+                              "\r     16,000,000 100%    3.00MB/s    0:00:05 (xfr#7, to-chk=0/9)\n"
+                              "\nNumber of files: 9 (reg: 7, dir: 2)\n";
+
+class Reading {
+public:
+    explicit Reading(const QString& command, bool restIsHere = false)
+        : fReader(command, restIsHere) {}
+
+    /// A second passes with each piece.
+    PassProgress operator()(const QByteArray& piece) {
+        fReader.read(piece, ++fNow);
+        return fReader.progress(fNow);
+    }
+    std::vector<QByteArray> names() { return fReader.takeNames(); }
+
+private:
+    RsyncOutputReader fReader;
+    double fNow = 0;
+};
+
+void expectNothingGoesBack(const PassProgress& before, const PassProgress& after) {
+    const auto back = [](const auto& first, const auto& second) {
+        return first && second && *second < *first;
+    };
+    EXPECT_FALSE(back(before.share, after.share)) << *before.share << " to " << *after.share;
+    EXPECT_FALSE(back(before.bytesDone, after.bytesDone));
+    EXPECT_FALSE(back(before.filesDone, after.filesDone));
+    EXPECT_FALSE(back(before.bytesKnown, after.bytesKnown));
+}
+
+TEST(RsyncOutputReaderTest, FirstPull_IsMeasuredByItsBytes) {
+    Reading read(cFactory);
+    const qsizetype third = cFirstPull.indexOf("\r      9,000,000");
+    const PassProgress begun = read(cFirstPull.first(23));
+    EXPECT_EQ(begun.file, QStringLiteral("f1.mov"));
+    EXPECT_FALSE(begun.share);
+    const PassProgress middle = read(cFirstPull.mid(23, third - 23));
+    EXPECT_EQ(middle.file, QStringLiteral("f3.mov"));
+    EXPECT_EQ(middle.filesDone, 2);
+    EXPECT_EQ(middle.filesKnown, 8) << "folders that are still to come count as files";
+    EXPECT_EQ(middle.bytesDone, 7'250'000);
+    EXPECT_NEAR(middle.share.value_or(0), 7.25 / 16, 0.02);
+    EXPECT_NEAR(static_cast<double>(middle.bytesKnown.value_or(0)), 16e6, 8e5);
+}
+
+TEST(RsyncOutputReaderTest, Figures_AreExactAtTheEnd) {
+    Reading read(cFactory);
+    const PassProgress end = read(cFirstPull);
+    EXPECT_EQ(end.share, 1);
+    EXPECT_EQ(end.filesDone, 7);
+    EXPECT_EQ(end.filesKnown, 7);
+    EXPECT_EQ(end.bytesDone, 16'000'000);
+    EXPECT_EQ(end.bytesKnown, 16'000'000);
+}
+
+TEST(RsyncOutputReaderTest, Names_AreThoseOfTheFilesInTheirOwnBytes) {
+    Reading read(cFactory);
+    read(cFirstPull);
+    const std::vector<QByteArray> expected{
+        "f1.mov", "f2.mov", "f3.mov", "f4.mov", "f5.mov", "sub/bad\xff\nnl.mov", "sub/g.mov"};
+    EXPECT_EQ(read.names(), expected);
+    EXPECT_TRUE(read.names().empty());
+}
+
+TEST(RsyncOutputReaderTest, OutputCutAnywhere_TellsTheSameAndNothingGoesBack) {
+    for (const qsizetype size : {1, 2, 3, 7, 64}) {
+        Reading read(cFactory);
+        PassProgress last;
+        for (qsizetype at = 0; at < cFirstPull.size(); at += size) {
+            const PassProgress now = read(cFirstPull.mid(at, size));
+            expectNothingGoesBack(last, now);
+            last = now;
+        }
+        EXPECT_EQ(last.share, 1);
+        EXPECT_EQ(last.bytesDone, 16'000'000);
+        EXPECT_EQ(read.names().size(), 7U);
+    }
+}
+
+TEST(RsyncOutputReaderTest, SpeedAndTimeLeft_AreThoseOfTheLastSeconds) {
+    Reading read(cFactory);
+    PassProgress now;
+    QByteArray text = "3000000 f0.mov\n\r 0   0%    0.00kB/s    0:00:00  ";
+    for (int file = 1; file <= 20; ++file) {
+        text += "\r " + QByteArray::number(file * 3'000'000) + "  " + QByteArray::number(file) +
+                "%    3.00MB/s    0:00:01 (xfr#" + QByteArray::number(file) +
+                ", to-chk=" + QByteArray::number(100 - file) + "/100)\n3000000 f" +
+                QByteArray::number(file) + ".mov\n";
+        now = read(text);
+        text.clear();
+    }
+    EXPECT_NEAR(now.bytesPerSecond.value_or(0), 3e6, 1);
+    EXPECT_NEAR(now.secondsLeft.value_or(0), 80, 5);
+}
+
+TEST(RsyncOutputReaderTest, FilesThatAreHere_MakeTheShareNoMoreThanTheTruth) {
+    Reading read(cFactory);
+    read("2000000 n1.mov\n\r  0   0%    0.00kB/s    0:00:00  ");
+    const PassProgress first = read("\r  2,000,000  30%    2.00MB/s    0:00:01 (xfr#1, "
+                                    "to-chk=3001/5004)\n2000000 n2.mov\n");
+    EXPECT_NEAR(first.share.value_or(1), 0.3, 0.01);
+    EXPECT_FALSE(first.bytesKnown) << "it is not known what is still to come";
+    EXPECT_FALSE(first.filesKnown);
+    EXPECT_FALSE(first.secondsLeft);
+    const PassProgress end =
+        read("\r  4,000,000  61%    2.00MB/s    0:00:02 (xfr#2, to-chk=0/5004)");
+    EXPECT_EQ(end.share, 1);
+    EXPECT_EQ(end.filesKnown, 2);
+    EXPECT_EQ(end.bytesKnown, 4'000'000);
+}
+
+TEST(RsyncOutputReaderTest, WhenTheRestIsHere_TheSizesOfTheNamedFilesAreAllThereIs) {
+    Reading read(cFactory, true);
+    read("2000000 n1.mov\n\r  0   0%    0.00kB/s    0:00:00  ");
+    const PassProgress half = read("\r  1,000,000   0%    1.00MB/s    1:00:00  ");
+    EXPECT_EQ(half.share, 0.5);
+    EXPECT_EQ(half.bytesKnown, 2'000'000);
+    EXPECT_NEAR(half.secondsLeft.value_or(0), 1, 0.01);
+    const PassProgress second =
+        read("\r  2,000,000   1%    1.00MB/s    0:00:02 (xfr#1, to-chk=3001/5004)\n"
+             "2000000 n2.mov\n\r  2,100,000   1%    1.00MB/s    1:00:00  ");
+    EXPECT_EQ(second.bytesKnown, 4'000'000);
+    EXPECT_NEAR(second.share.value_or(0), 2.1 / 4, 0.001);
+    read("\r  4,000,000   2%    1.00MB/s    0:00:04 (xfr#2, to-chk=2999/5004)\n");
+    const PassProgress nothing = read("2000000 n3.mov\n");
+    EXPECT_FALSE(nothing.share) << "less than was said";
+}
+
+TEST(RsyncOutputReaderTest, ListThatStillGrows_HasNoShare) {
+    Reading read(cFactory);
+    const PassProgress now = read("\r  2,000,000  30%    2.00MB/s    0:00:01 (xfr#1, "
+                                  "ir-chk=1001/1003)\n");
+    EXPECT_FALSE(now.share);
+    EXPECT_FALSE(now.filesKnown);
+    EXPECT_EQ(now.bytesDone, 2'000'000);
+}
+
+TEST(RsyncOutputReaderTest, EmptyPull_IsWhole) {
+    Reading read(cFactory);
+    EXPECT_EQ(read("\r   0   0%    0.00kB/s    0:00:00 (xfr#0, to-chk=0/9)\n").share, 1);
+}
+
+TEST(RsyncOutputReaderTest, ProgressOfEachFile_IsTakenTogether) {
+    Reading read(QStringLiteral("/usr/bin/rsync -r -P a/ b/"));
+    const PassProgress first = read("sending incremental file list\nf1.mov\n"
+                                    "\r         32,768   1%    0.00kB/s    0:00:00  ");
+    EXPECT_EQ(first.file, QStringLiteral("f1.mov"));
+    EXPECT_FALSE(first.share);
+    const PassProgress second =
+        read("\r      3,000,000 100%    5.66MB/s    0:00:00 (xfr#1, to-chk=2/4)\nf2.mov\n"
+             "\r      1.500.000  50%    2.64MB/s    0:00:00  ");
+    EXPECT_EQ(second.bytesDone, 4'500'000);
+    EXPECT_EQ(second.share, 2.5 / 4) << "the place in the list";
+    const PassProgress end =
+        read("\r          3.00M 100%    5.66MB/s    0:00:00 (xfr#2, to-chk=0/4)\n");
+    EXPECT_EQ(end.bytesDone, 6'000'000);
+    EXPECT_EQ(end.share, 1);
+}
+
+TEST(RsyncOutputReaderTest, TalkAmongTheNames_IsNoName) {
+    Reading bare(QStringLiteral("rsync -rv a/ b/"));
+    const PassProgress now = bare("receiving incremental file list\ncreated directory b\n./\nsub/\n"
+                                  "sub/one.mov\ntwo.mov\n\nsent 65 bytes  received 80 bytes\n"
+                                  "total size is 80,000  speedup is 1.00\n");
+    EXPECT_EQ(now.filesDone, 1);
+    EXPECT_EQ(bare.names(), (std::vector<QByteArray>{"sub/one.mov", "two.mov"}));
+    Reading sized(cFactory);
+    sized("Number of files: 9\n100 Number of files: 7\nsent 65 bytes\n");
+    EXPECT_EQ(sized.names(), std::vector<QByteArray>{"Number of files: 7"});
+    Reading items(QStringLiteral("rsync -rvi a/ b/"));
+    items(">f+++++++++ f1.mov\ncd+++++++++ sub/\n.f..t...... old.mov\n");
+    EXPECT_EQ(items.names(), std::vector<QByteArray>{"f1.mov"});
+    Reading other(QStringLiteral("rsync --out-format='%o %f' a/ b/"));
+    other("recv one.mov\n");
+    EXPECT_TRUE(other.names().empty());
+}
+
+TEST(RsyncOutputReaderTest, ControlCharacters_AreSpelledOut) {
+    Reading read(QStringLiteral("rsync --out-format=%n a/ b/"));
+    EXPECT_EQ(read("\x1b[31mred.mov\n").file, QStringLiteral("\\x1b[31mred.mov"));
+}
+
+TEST(RsyncOutputReaderTest, HostileOutput_TakesNoMemoryAndLittleTime) {
+    const auto begin = std::chrono::steady_clock::now();
+    Reading read(cFactory);
+    QByteArray names;
+    for (int i = 0; i < 200'000; ++i)
+        names += "1000 Features/Season 4/Episode " + QByteArray::number(i) + ".mov\n";
+    read(names);
+    for (int i = 0; i < 100; ++i)
+        read(QByteArray(1'000'000, ' '));
+    read("\n\r" + QByteArray(1'000'000, '9') + "\n" + QByteArray(1'000'000, '\r'));
+    const PassProgress now =
+        read("\n\r 99999999999999999999999 999%  9GB/s 99999999999999999:00:00  "
+             "\r 9,000,000,000,000,000,000  1%  1.00kB/s  0:00:00 (xfr#9, to-chk=99/9)\n");
+    EXPECT_FALSE(now.share.value_or(0) > 1);
+    EXPECT_EQ(read.names().size(), RsyncOutputReader::cMostNames);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
+}
+
+// -- what is kept of the text
+
+TEST(WithoutProgressTest, Names_StandAloneOnTheirLines) {
+    EXPECT_EQ(withoutProgress(QString::fromUtf8(cFirstPull)),
+              QStringLiteral("4096 ./\n3000000 f1.mov\n3000000 f2.mov\n3000000 f3.mov\n"
+                             "3000000 f4.mov\n3000000 f5.mov\n4096 sub/\n"
+                             "0 sub/bad\\#377\\#012nl.mov\n1000000 sub/g.mov\n"
+                             "\nNumber of files: 9 (reg: 7, dir: 2)\n"));
+}
+
+TEST(WithoutProgressTest, WordsBehindTheProgress_Stay) {
+    EXPECT_EQ(withoutProgress(QStringLiteral(
+                  "a.mov\n\r     32,768   0%    1.00kB/s    0:00:05  Connection to mac closed.\r\n"
+                  "rsync error: unexplained error (code 255)\n")),
+              QStringLiteral("a.mov\nConnection to mac closed.\n"
+                             "rsync error: unexplained error (code 255)\n"));
+    EXPECT_EQ(withoutProgress(QStringLiteral("10%\r20%\rdone\nrest")),
+              QStringLiteral("done\nrest"));
+}
+
+TEST(WithoutProgressTest, OtherTexts_StayAsTheyAre) {
+    for (const QString& text : {QString(), QStringLiteral("one\n\n two "), QStringLiteral("\n")})
+        EXPECT_EQ(withoutProgress(text), text);
+}
+
+} // namespace
+} // namespace kelvo
