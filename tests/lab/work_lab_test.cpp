@@ -9,7 +9,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
-#include <cmath>
+#include <algorithm>
 
 namespace kelvo {
 namespace {
@@ -55,28 +55,54 @@ protected:
         return all;
     }
 
-    /// What health says is the matter, once `harm` has been done to a program whose passes went
-    /// well.
-    static void expectTrouble(const std::function<void()>& harm, const QString& words) {
-        const auto program = startProgram(profile());
-        ASSERT_TRUE(program->waitForLine(QStringLiteral("health: All is well"), 60))
-            << program->transcript().toStdString();
+    /// Does `harm` to a program whose passes went well, and waits for `words` as its health and in
+    /// its tray. Within one pass: no other in trouble came before them.
+    void expectTrouble(const std::function<void()>& harm, const QString& words,
+                       const QVariantMap& values = profile()) {
+        const CommandResult bus =
+            near(QStringLiteral("dbus-daemon --session --fork --print-address 2>/dev/null"));
+        ASSERT_EQ(bus.exitCode, 0) << bus.output.constData();
+        const QStringList desktop{QStringLiteral("env"),
+                                  QStringLiteral("QT_QPA_PLATFORM=offscreen"),
+                                  QString(u"DBUS_SESSION_BUS_ADDRESS=" +
+                                          QString::fromLatin1(bus.output).section(u'\n', 0, 0))};
+        const auto nearBy = [&desktop](const char* program) {
+            return std::make_unique<RunningProgram>(QStringLiteral(KELVO_LAB_COMMAND),
+                                                    QStringList{QStringLiteral("near")} + desktop +
+                                                        QStringList{QString::fromLatin1(program)});
+        };
+        const auto tray = nearBy(KELVO_TRAY_READER);
+        ASSERT_TRUE(tray->waitForLine(QStringLiteral("ready"), 30))
+            << tray->transcript().toStdString();
+        writeNear(cSettings, plistText(values));
+        const auto window = nearBy(KELVO_PROGRAM);
+        ASSERT_TRUE(tray->waitForLine(QStringLiteral("Active | All is well"), 60))
+            << tray->transcript().toStdString() << window->transcript().toStdString();
         harm();
-        const auto told = program->waitForLine(
+        const auto told = tray->waitForLine(
             [&](const QString& line) {
-                return line.startsWith(u"health: ") && line.contains(words);
+                return line.startsWith(u"NeedsAttention | ") && line.contains(words);
             },
             30);
         EXPECT_TRUE(told) << words.toStdString() << " is not told:\n"
-                          << program->transcript().right(4000).toStdString();
-        // Within one pass: none in trouble came before the one that told it.
-        int inTrouble = 0;
-        for (const QJsonObject& pass : passes()) {
-            if (pass[u"cause"].toString() != u"well")
-                ++inTrouble;
-        }
+                          << tray->transcript().toStdString();
+        const QList<QJsonObject> kept = passes();
+        const auto inTrouble = std::ranges::count_if(
+            kept, [](const QJsonObject& pass) { return pass[u"cause"].toString() != u"well"; });
         EXPECT_GE(inTrouble, 1);
-        EXPECT_LE(inTrouble, 2) << "the line must not wait for later passes";
+        EXPECT_LE(inTrouble, 2) << "it must not wait for later passes";
+        EXPECT_EQ(window->stop(), 0) << window->transcript().toStdString();
+    }
+
+    /// The line of a program without a window says the same as long as the trouble lasts.
+    static void expectHealthLine(const QString& words, const QVariantMap& values = profile()) {
+        const auto program = startProgram(values);
+        EXPECT_TRUE(program->waitForLine(
+            [&](const QString& line) {
+                return line.startsWith(u"health: ") && line.contains(words);
+            },
+            30))
+            << program->transcript().right(4000).toStdString();
         EXPECT_EQ(program->stop(), 0);
     }
 };
@@ -143,13 +169,16 @@ TEST_F(WorkLabTest, FewNewFilesAmongManyOld_ShareReachesItsEndAndOnlyTheNewArriv
 }
 
 TEST_F(WorkLabTest, MissingSource_IsToldWithinOnePass) {
-    expectTrouble([] { remote(QStringLiteral("mv %1 %1.away").arg(cRemoteMovies)); },
-                  QStringLiteral("The source folder is not there"));
+    const QString words = QStringLiteral("The source folder is not there");
+    expectTrouble([] { remote(QStringLiteral("mv %1 %1.away").arg(cRemoteMovies)); }, words);
+    expectHealthLine(words);
 }
 
 TEST_F(WorkLabTest, RefusedLogin_IsToldWithinOnePass) {
+    const QString words = QStringLiteral("The Mac does not take this key for this user");
     expectTrouble([] { remote(QStringLiteral("rm /Users/mediauser/.ssh/authorized_keys")); },
-                  QStringLiteral("The Mac does not take this key for this user"));
+                  words);
+    expectHealthLine(words);
 }
 
 TEST_F(WorkLabTest, KilledRsync_IsToldWithinOnePass) {
@@ -176,17 +205,13 @@ TEST_F(WorkLabTest, FullDisk_IsToldWithinOnePass) {
     writeRemote(cRemoteMovies + QStringLiteral("/First.mov"), QByteArray(1'000'000, 'f'));
     QVariantMap values = profile();
     values[QStringLiteral("prefPath2")] = QString(cNearHome + QStringLiteral("/Small"));
-    const auto program = startProgram(values);
-    ASSERT_TRUE(program->waitForLine(QStringLiteral("health: All is well"), 60))
-        << program->transcript().toStdString();
-    writeRemote(cRemoteMovies + QStringLiteral("/Second.mov"), QByteArray(16'000'000, 's'));
-    EXPECT_TRUE(program->waitForLine(
-        [](const QString& line) {
-            return line.startsWith(u"health: ") && line.contains(u"The disk here is full");
+    const QString words = QStringLiteral("The disk here is full");
+    expectTrouble(
+        [] {
+            writeRemote(cRemoteMovies + QStringLiteral("/Second.mov"), QByteArray(16'000'000, 's'));
         },
-        30))
-        << program->transcript().right(4000).toStdString();
-    EXPECT_EQ(program->stop(), 0);
+        words, values);
+    expectHealthLine(words, values);
     near(QStringLiteral("umount Small"));
 }
 
