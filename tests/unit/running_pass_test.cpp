@@ -120,7 +120,7 @@ TEST_F(RunningPassTest, FilesThatNoCommandTold_AreCountedAsTheyArrived) {
     passThatBrought({{"/in/a.mov", 40'000, noon}, {"/in/b.movie", 7, noon}});
     EXPECT_EQ(records.back().transfer.files, 2);
     EXPECT_EQ(records.back().transfer.bytes, 40'007);
-    EXPECT_EQ(records.back().transfer.source, TransferSource::Statistics);
+    EXPECT_EQ(records.back().transfer.source, TransferSource::Lines);
     passThatBrought({});
     EXPECT_EQ(records.back().transfer.files, 1);
     EXPECT_EQ(records.back().transfer.bytes, 40'000);
