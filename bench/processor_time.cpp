@@ -18,12 +18,10 @@ double processorSeconds(qint64 pid) {
            static_cast<double>(::sysconf(_SC_CLK_TCK));
 }
 
-qint64 wakeUps(qint64 pid) {
+QHash<QString, qint64> wakeUps(qint64 pid) {
     const QDir tasks(QStringLiteral("/proc/%1/task").arg(pid));
-    if (!tasks.exists())
-        return -1;
     const QByteArray label = "\nvoluntary_ctxt_switches:";
-    qint64 all = 0;
+    QHash<QString, qint64> all;
     for (const QString& task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         QFile file(tasks.filePath(task + QStringLiteral("/status")));
         if (!file.open(QIODevice::ReadOnly))
@@ -32,9 +30,18 @@ qint64 wakeUps(qint64 pid) {
         const qsizetype at = status.indexOf(label);
         const qsizetype end = status.indexOf('\n', at + 1);
         if (at >= 0)
-            all += status.mid(at + label.size(), end - at - label.size()).trimmed().toLongLong();
+            all[task] =
+                status.mid(at + label.size(), end - at - label.size()).trimmed().toLongLong();
     }
     return all;
+}
+
+qint64 wakeUpsSince(const QHash<QString, qint64>& before, qint64 pid) {
+    qint64 sum = 0;
+    const auto now = wakeUps(pid);
+    for (auto thread = now.cbegin(); thread != now.cend(); ++thread)
+        sum += thread.value() - before.value(thread.key());
+    return sum;
 }
 
 } // namespace kelvo::bench

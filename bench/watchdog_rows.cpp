@@ -160,15 +160,15 @@ std::optional<std::vector<Figure>> measureSentinel() {
     if (!sentinel)
         return refuse("The program is not watched.");
     const QByteArray memory = procFile(*sentinel, "smaps_rollup");
-    const qint64 before = wakeUps(*sentinel);
+    const auto before = wakeUps(*sentinel);
     std::this_thread::sleep_for(cWakeUpWatch);
-    const qint64 after = wakeUps(*sentinel);
-    if (memory.isEmpty() || before <= 0 || after < before)
+    const qint64 woken = wakeUpsSince(before, *sentinel);
+    if (memory.isEmpty() || before.isEmpty() || wakeUps(*sentinel).isEmpty())
         return refuse("The sentinel did not stay up.");
     return std::vector<Figure>{
         {"the sentinel's private memory",
          field(memory, "Private_Clean:") + field(memory, "Private_Dirty:"), 300, "KiB", "one run"},
-        {"the sentinel's wake-ups in 20 s", double(after - before), 0, "", "one run"}};
+        {"the sentinel's wake-ups in 20 s", double(woken), 0, "", "one run"}};
 }
 
 } // namespace
