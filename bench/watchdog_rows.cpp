@@ -1,5 +1,6 @@
 // The watchdog: how fast the program is back after a kill, and what the sentinel costs meanwhile.
 #include "adapters/system/pidfd.h"
+#include "bench/processor_time.h"
 #include "bench/row.h"
 #include "support/descendants.h"
 
@@ -158,21 +159,16 @@ std::optional<std::vector<Figure>> measureSentinel() {
     const auto sentinel = program.sentinel();
     if (!sentinel)
         return refuse("The program is not watched.");
-    const auto wakeUps = [&] {
-        const QByteArray status = procFile(*sentinel, "status");
-        return field(status, "voluntary_ctxt_switches:") +
-               field(status, "nonvoluntary_ctxt_switches:");
-    };
     const QByteArray memory = procFile(*sentinel, "smaps_rollup");
-    const double before = wakeUps();
+    const auto before = wakeUps(*sentinel);
     std::this_thread::sleep_for(cWakeUpWatch);
-    const double after = wakeUps();
-    if (memory.isEmpty() || before <= 0 || after < before)
+    const qint64 woken = wakeUpsSince(before, *sentinel);
+    if (memory.isEmpty() || before.isEmpty() || wakeUps(*sentinel).isEmpty())
         return refuse("The sentinel did not stay up.");
     return std::vector<Figure>{
         {"the sentinel's private memory",
          field(memory, "Private_Clean:") + field(memory, "Private_Dirty:"), 300, "KiB", "one run"},
-        {"the sentinel's wake-ups in 20 s", after - before, 0, "", "one run"}};
+        {"the sentinel's wake-ups in 20 s", double(woken), 0, "", "one run"}};
 }
 
 } // namespace

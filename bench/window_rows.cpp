@@ -199,10 +199,14 @@ std::optional<std::vector<Figure>> measureIdle() {
     if (!running.settle(cSettleMilliseconds))
         return std::nullopt;
     const double before = processorSeconds(running.pid());
+    const auto wokenBefore = wakeUps(running.pid());
     if (!running.settle(cMinute))
         return std::nullopt;
     return std::vector<Figure>{{"processor time over 60 s at rest, window open",
-                                processorSeconds(running.pid()) - before, 0.02, "s", "one run"}};
+                                processorSeconds(running.pid()) - before, 0.02, "s", "one run"},
+                               {"its wake-ups in them",
+                                double(wakeUpsSince(wokenBefore, running.pid())), 0, "",
+                                "all threads"}};
 }
 
 } // namespace

@@ -34,12 +34,14 @@ void openStandardStreams() {
 }
 
 /// The C library would learn from the first flood of a command's output to keep such buffers in its
-/// heap for good; with a fixed bound each goes back to the system as soon as it is done with.
-void giveLargeBuffersBack() {
+/// heap for good; with a fixed bound each goes back to the system as soon as it is done with. The
+/// threads, which mostly wait, share one heap instead of having one each.
+void keepMemorySmall() {
 #ifdef __GLIBC__
     constexpr int cLarge = 256 * 1024;
     ::mallopt(M_MMAP_THRESHOLD, cLarge);
     ::mallopt(M_TRIM_THRESHOLD, cLarge);
+    ::mallopt(M_ARENA_MAX, 1);
 #endif
 }
 
@@ -74,7 +76,7 @@ int printAnswer(const kelvo::CommandAnswer& answer) {
 
 int main(int argc, char** argv) {
     openStandardStreams();
-    giveLargeBuffersBack();
+    keepMemorySmall();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

@@ -6,7 +6,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <ranges>
 
 namespace kelvo {
 
@@ -28,7 +27,8 @@ CommandAnswer runPassesCommand(const PassesRequest& request) {
     if (request.since)
         std::erase_if(passes, [&](const PassRecord& each) { return each.began < *request.since; });
     std::ranges::reverse(passes);
-    for (KeptArrival& each : std::views::reverse(arrivals)) {
+    std::ranges::reverse(arrivals);
+    for (KeptArrival& each : arrivals) {
         const auto pass = std::ranges::lower_bound(passes, each.pass, {}, &PassRecord::id);
         if (pass != passes.end() && pass->id == each.pass)
             pass->arrivals.push_back(std::move(each.arrival));

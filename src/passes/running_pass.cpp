@@ -4,6 +4,7 @@
 #include "passes/progress_line.h"
 #include "passes/rsync_statistics.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kelvo {
@@ -17,6 +18,19 @@ CommandRole roleOf(PassStep step) {
 
 bool isPull(PassStep step) {
     return step == PassStep::Pull || step == PassStep::Movies;
+}
+
+/// A command that says nothing may have brought more than the others told.
+void countArrivals(PassRecord& record) {
+    const auto files = static_cast<qint64>(record.arrivals.size());
+    if (files <= record.transfer.files.value_or(0))
+        return;
+    qint64 bytes = 0;
+    for (const Arrival& arrival : record.arrivals)
+        bytes += arrival.size;
+    record.transfer.files = files;
+    record.transfer.bytes = std::max(bytes, record.transfer.bytes.value_or(0));
+    record.transfer.source = std::max(record.transfer.source, TransferSource::Lines);
 }
 
 } // namespace
@@ -65,6 +79,7 @@ RunningPass::~RunningPass() {
     fRecord.seconds = fPasses.fClock.seconds() - fBegan;
     for (const CommandRecord& command : fRecord.commands)
         fRecord.transfer = sumOf(fRecord.transfer, command.transfer);
+    countArrivals(fRecord);
     NamedCause named = fRefused ? *fRefused : causeOf(fRecord);
     if (fNow.cancelled)
         named = {PassCause::Cancelled, {}};

@@ -58,7 +58,7 @@ struct CapturedText {
 enum class TransferSource {
     Unknown = 0,    ///< the command did not say
     Statistics = 1, ///< rsync's own figures
-    Lines = 2,      ///< names that rsync printed were counted
+    Lines = 2,      ///< names that rsync printed were counted, or the files that arrived
 };
 
 struct Transfer {
@@ -98,7 +98,8 @@ struct PassRecord {
     PassCause cause = PassCause::Unknown;
     /// The last line of the command that decided the cause, or what was refused; may be empty.
     QString lastLine;
-    /// The sum of what the commands said; `source` is Unknown when none of them did.
+    /// The sum of what the commands said, or of what arrived where that is more; `source` is
+    /// Unknown when neither is known.
     Transfer transfer;
     std::vector<CommandRecord> commands;
     std::vector<Arrival> arrivals; ///< in the order in which they came

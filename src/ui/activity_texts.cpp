@@ -25,7 +25,7 @@ QString oneLine(QStringView text) {
 
 /// UTF-8 as it is, any other byte as "\xff".
 QString decoded(const QByteArray& bytes) {
-    const QString whole = QString::fromUtf8(bytes);
+    QString whole = QString::fromUtf8(bytes);
     if (whole.toUtf8() == bytes)
         return whole;
     QString text;

@@ -172,7 +172,7 @@ QString agoText(double seconds) {
 double agoHolds(double seconds) {
     if (seconds < 0)
         return -seconds;
-    const double unit = seconds < 3600 ? 60 : seconds < 2 * cDay ? 3600 : cDay;
+    const double unit = seconds < 3600 ? 60 : seconds < 2 * cDay ? 3600 : static_cast<double>(cDay);
     return unit - std::fmod(seconds, unit);
 }
 

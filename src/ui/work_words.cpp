@@ -71,8 +71,7 @@ int nearestMinute(int seconds) {
 
 QString shortName(const Arrival& arrival) {
     constexpr qsizetype cMost = 60;
-    const QString name =
-        fileText(QString::fromUtf8(arrival.path.mid(arrival.path.lastIndexOf('/') + 1)));
+    QString name = fileText(QString::fromUtf8(arrival.path.mid(arrival.path.lastIndexOf('/') + 1)));
     if (name.size() <= cMost)
         return name;
     // The end tells as much as the beginning: part and kind of the file.
@@ -209,7 +208,7 @@ QString arrivalsText(const std::vector<Arrival>& arrivals) {
     const auto count = arrivals.size();
     if (count == 0)
         return {};
-    const QString first = shortName(arrivals[0]);
+    QString first = shortName(arrivals[0]);
     if (count == 1)
         return first;
     const QString second = shortName(arrivals[1]);

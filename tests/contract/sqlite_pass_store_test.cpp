@@ -19,6 +19,14 @@ TEST_F(SqlitePassStoreTest, Records_AreThereInTheNextRun) {
     EXPECT_TRUE(console.logged().isEmpty());
 }
 
+TEST_F(SqlitePassStoreTest, QuestionBeforeTheFirstRecord_MakesNoFile) {
+    const auto store = openStore();
+    EXPECT_EQ(lines(*store), QStringList());
+    EXPECT_FALSE(QFileInfo::exists(path));
+    store->append(numbered(1));
+    EXPECT_EQ(lines(*store), QStringList{QStringLiteral("1")});
+}
+
 TEST_F(SqlitePassStoreTest, File_IsPrivate) {
     path = folder.filePath(QStringLiteral("state/passes.sqlite"));
     openStore()->append(numbered(1));

@@ -12,6 +12,8 @@ set_tests_properties(Lab.up PROPERTIES FIXTURES_SETUP lab)
 set_tests_properties(Lab.down PROPERTIES FIXTURES_CLEANUP lab)
 
 add_executable(mdns_announcer children/mdns_announcer.cpp)
+add_executable(tray_reader children/tray_reader.cpp)
+target_link_libraries(tray_reader PRIVATE kelvo_bus_testing)
 add_library(moved_clock MODULE lab/moved_clock.cpp)
 target_include_directories(moved_clock PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 
@@ -37,12 +39,13 @@ kelvo_tests(lab
     RESOURCE_LOCK lab
     ENVIRONMENT KELVO_LAB=${KELVO_LAB_STATE}
 )
-add_dependencies(lab_tests mdns_announcer moved_clock)
+add_dependencies(lab_tests mdns_announcer moved_clock tray_reader)
 target_compile_definitions(lab_tests PRIVATE
   KELVO_ANNOUNCER="$<TARGET_FILE:mdns_announcer>"
   KELVO_MOVED_CLOCK="$<TARGET_FILE:moved_clock>"
   KELVO_LAB_COMMAND="${KELVO_LAB_COMMAND}"
   KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
   KELVO_PICTURES="${CMAKE_BINARY_DIR}/pictures"
+  KELVO_TRAY_READER="$<TARGET_FILE:tray_reader>"
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror")
 add_dependencies(lab_tests network_watcher)

@@ -108,6 +108,24 @@ TEST_F(RunningPassTest, RemotePass_IsWrittenDownWhole) {
     EXPECT_EQ(record.commands[2].transfer.source, TransferSource::Unknown);
 }
 
+TEST_F(RunningPassTest, FilesThatNoCommandTold_AreCountedAsTheyArrived) {
+    commands.results[QStringLiteral("first")] = {cStatistics, {}, 0};
+    const auto passThatBrought = [&](std::vector<Arrival> arrivals) {
+        RunningPass pass(passes, PassKind::Remote);
+        pass.judged(HostVerdict::Valid);
+        run(pass, "first --stats");
+        run(pass, "silent");
+        pass.brought(std::move(arrivals));
+    };
+    passThatBrought({{"/in/a.mov", 40'000, noon}, {"/in/b.movie", 7, noon}});
+    EXPECT_EQ(records.back().transfer.files, 2);
+    EXPECT_EQ(records.back().transfer.bytes, 40'007);
+    EXPECT_EQ(records.back().transfer.source, TransferSource::Lines);
+    passThatBrought({});
+    EXPECT_EQ(records.back().transfer.files, 1);
+    EXPECT_EQ(records.back().transfer.bytes, 40'000);
+}
+
 TEST_F(RunningPassTest, PassWithoutACommand_LacksItsSettings) {
     { const RunningPass pass(passes, PassKind::Plain); }
     ASSERT_EQ(records.size(), 1U);

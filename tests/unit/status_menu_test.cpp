@@ -64,7 +64,20 @@ protected:
     KelvoStatusMenuHandler views{presence, console};
 };
 
-class StatusMenuPresenceTest : public StatusMenuTest {};
+class StatusMenuPresenceTest : public StatusMenuTest {
+protected:
+    /// Chooses each entry once.
+    void expectEveryEntryActs(const ShownWindow& window, const FakeMainView& mainView) {
+        menu.choose(&StatusMenuActions::showWindow);
+        menu.choose(&StatusMenuActions::startOrStop);
+        menu.choose(&StatusMenuActions::quitAndRelaunch);
+        menu.choose(&StatusMenuActions::quit);
+        EXPECT_EQ(window.shows, 1);
+        EXPECT_EQ(mainView.clicks, 1);
+        EXPECT_EQ(mainView.relaunches, 1);
+        EXPECT_EQ(quits, 1);
+    }
+};
 class KelvoStatusMenuHandlerTest : public StatusMenuTest {};
 
 TEST_F(KelvoStatusMenuHandlerTest, NotSetUp_ShowsNothing) {
@@ -156,14 +169,7 @@ TEST_F(StatusMenuPresenceTest, Entries_ReachTheTargetsOfWhicheverHandlerHasThem)
     views.setupStatusMenuStuff();
     delegates.setMainVC(&mainView);
     views.setWindowController(&window.controller);
-    menu.choose(&StatusMenuActions::showWindow);
-    menu.choose(&StatusMenuActions::startOrStop);
-    menu.choose(&StatusMenuActions::quitAndRelaunch);
-    menu.choose(&StatusMenuActions::quit);
-    EXPECT_EQ(window.shows, 1);
-    EXPECT_EQ(mainView.clicks, 1);
-    EXPECT_EQ(mainView.relaunches, 1);
-    EXPECT_EQ(quits, 1);
+    expectEveryEntryActs(window, mainView);
 }
 
 TEST_F(StatusMenuPresenceTest, TwoHandlersWithTheSameWindow_ShowItOnce) {
@@ -193,14 +199,7 @@ TEST_F(StatusMenuPresenceTest, SetUpByAnotherAfterARemoval_EveryEntryActs) {
     views.setupStatusMenuStuff();
     delegates.removeStatusMenuStuff();
     views.setupStatusMenuStuff();
-    menu.choose(&StatusMenuActions::showWindow);
-    menu.choose(&StatusMenuActions::startOrStop);
-    menu.choose(&StatusMenuActions::quitAndRelaunch);
-    menu.choose(&StatusMenuActions::quit);
-    EXPECT_EQ(window.shows, 1);
-    EXPECT_EQ(mainView.clicks, 1);
-    EXPECT_EQ(mainView.relaunches, 1);
-    EXPECT_EQ(quits, 1);
+    expectEveryEntryActs(window, mainView);
 }
 
 TEST_F(StatusMenuPresenceTest, HandlerThatIsGone_IsNotActedOn) {

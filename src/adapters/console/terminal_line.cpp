@@ -1,5 +1,7 @@
 #include "adapters/console/terminal_line.h"
 
+#include <QList>
+
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>

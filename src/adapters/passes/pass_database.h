@@ -52,7 +52,8 @@ public:
     /// Stores `record` and gives it its number; drops what is too old.
     Outcome insert(PassRecord& record);
 
-    // Questions, answered as PassStore says. What was found before a failure is in the answer.
+    // Questions, answered as PassStore says. What was found before a failure is in the answer. As
+    // long as there is no file they find nothing, and make none.
     Outcome readAll(std::vector<PassRecord>& records);
     Outcome readArrivals(const ArrivalQuestion& question, std::vector<KeptArrival>& arrivals);
     Outcome readDays(int days, std::vector<DayOfPasses>& found);
@@ -67,6 +68,7 @@ public:
 private:
     using RowReader = std::function<void(const QSqlQuery&)>;
 
+    bool nothingIsKept() const;
     Outcome outcomeOf(const QSqlQuery& query) const;
     Outcome run(const QString& statement);
     Outcome prepare(QSqlQuery& query, PassStatement statement) const;

@@ -1,6 +1,7 @@
 // What PassDatabase reads.
 #include "adapters/passes/pass_database.h"
 
+#include <QFileInfo>
 #include <QSqlQuery>
 
 #include <limits>
@@ -12,7 +13,14 @@ constexpr int cLayoutWithArrivals = 2;
 
 } // namespace
 
+/// No file is made for a question, and the database's library is not loaded for one.
+bool PassDatabase::nothingIsKept() const {
+    return fAccess == Access::ReadAndWrite && !fDatabase.isOpen() && !QFileInfo::exists(fPath);
+}
+
 PassDatabase::Outcome PassDatabase::readAll(std::vector<PassRecord>& records) {
+    if (nothingIsKept())
+        return {};
     if (Outcome outcome = open(); !outcome || fLayout == 0)
         return outcome;
     return run(PassStatement::AllPasses, {},
@@ -21,6 +29,8 @@ PassDatabase::Outcome PassDatabase::readAll(std::vector<PassRecord>& records) {
 
 PassDatabase::Outcome PassDatabase::readArrivals(const ArrivalQuestion& question,
                                                  std::vector<KeptArrival>& arrivals) {
+    if (nothingIsKept())
+        return {};
     if (Outcome outcome = open(); !outcome || fLayout < cLayoutWithArrivals)
         return outcome;
     const RowReader take = [&](const QSqlQuery& row) { arrivals.push_back(arrivalFrom(row)); };
@@ -33,6 +43,8 @@ PassDatabase::Outcome PassDatabase::readArrivals(const ArrivalQuestion& question
 }
 
 PassDatabase::Outcome PassDatabase::readDays(int days, std::vector<DayOfPasses>& found) {
+    if (nothingIsKept())
+        return {};
     if (Outcome outcome = open(); !outcome)
         return outcome;
     const QDate first = QDate::currentDate().addDays(1 - days);
@@ -41,6 +53,8 @@ PassDatabase::Outcome PassDatabase::readDays(int days, std::vector<DayOfPasses>&
 }
 
 PassDatabase::Outcome PassDatabase::readStanding(Standing& standing) {
+    if (nothingIsKept())
+        return {};
     if (Outcome outcome = open(); !outcome)
         return outcome;
     const auto readRow = [this](StandingRow row, std::optional<PassRecord>& record) {
@@ -58,6 +72,8 @@ PassDatabase::Outcome PassDatabase::readStanding(Standing& standing) {
 }
 
 PassDatabase::Outcome PassDatabase::read(qint64 id, std::optional<PassRecord>& record) {
+    if (nothingIsKept())
+        return {};
     if (Outcome outcome = open(); !outcome)
         return outcome;
     std::optional<PassRecord> found;

@@ -16,9 +16,10 @@ namespace kelvo {
 class Console;
 class DispatchQueue;
 
-/// The file is opened with the first question or record. One that is broken is kept under another
-/// name, `<path>.corrupt-<UTC time>`, and begun anew. Each kind of trouble is said in the log once,
-/// and when it is over; it is over when nothing is left to be written.
+/// The file is opened with the first record, or the first question once there is a file. One that
+/// is broken is kept under another name, `<path>.corrupt-<UTC time>`, and begun anew. Each kind of
+/// trouble is said in the log once, and when it is over; it is over when nothing is left to be
+/// written.
 class SqlitePassStore final : public PassStore {
 public:
     /// `mainQueue` and `console` must outlive the store.

@@ -8,8 +8,6 @@
 #include <QGuiApplication>
 #include <QPalette>
 
-#include <ranges>
-
 namespace kelvo {
 
 void ArrivalRows::setArrivals(const std::vector<KeptArrival>& arrivals, const QString& folder) {
@@ -42,7 +40,8 @@ void ArrivalRows::addOlder(const std::vector<KeptArrival>& arrivals) {
 }
 
 void ArrivalRows::addNewer(const std::vector<KeptArrival>& arrivals) {
-    for (const KeptArrival& arrival : arrivals | std::views::reverse) {
+    for (auto each = arrivals.rbegin(); each != arrivals.rend(); ++each) {
+        const KeptArrival& arrival = *each;
         if (arrival.id <= newest())
             continue;
         const QDate date = fLocalDay.of(arrival.arrival.arrived);

@@ -36,7 +36,7 @@ void share(std::vector<Placed>& row, int width, int gap) {
         takers += expands(*placed.item) ? 1 : 0;
     }
     for (Placed& placed : row) {
-        if (!expands(*placed.item) || left <= 0)
+        if (!expands(*placed.item) || left <= 0 || takers <= 0)
             continue;
         const int more = left / takers--;
         placed.width += more;

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QResizeEvent>
 #include <QStylePainter>
+#include <QStyleOptionToolButton>
 #include <QToolButton>
 #include <QUrl>
 
