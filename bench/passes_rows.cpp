@@ -3,9 +3,13 @@
 #include "adapters/process/posix_shell_runner.h"
 #include "bench/row.h"
 #include "bench/run_until.h"
+#include "fakes/memory_defaults.h"
+#include "fakes/memory_pass_store.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 #include "passes/running_pass.h"
+#include "settings/preference_keys.h"
+#include "ui/work_watch.h"
 
 #include <QDir>
 #include <QFile>
@@ -173,6 +177,38 @@ private:
     std::jthread fThread;
 };
 
+/// How often a second a window that is seen is given a new state, by the test's clock, of a pass
+/// that has something new to tell 100 times a second.
+double statesShownASecond() {
+    constexpr int cSeconds = 20;
+    constexpr double cStep = 0.01;
+    MemoryDefaults defaults;
+    defaults.setObject(prefEnableScanning, 1);
+    VirtualMainQueue mainQueue;
+    MemoryPassStore store(mainQueue);
+    int shown = 0;
+    WorkWatch watch(
+        {.defaults = defaults,
+         .mainQueue = mainQueue,
+         .passStore = store,
+         .passesUnderWay =
+             [&mainQueue] {
+                 PassUnderWay pass;
+                 pass.progress = {.step = PassStep::Pull, .file = QString::number(mainQueue.now())};
+                 return std::vector{pass};
+             },
+         .cycleState = [] { return CycleState{.passRuns = true, .nextPass = {}}; },
+         .clock = {&QDateTime::currentDateTimeUtc, [&mainQueue] { return mainQueue.now(); }},
+         .show = [&shown](const WorkState&) { ++shown; }});
+    watch.setAttention(Attention::Seen);
+    watch.begin();
+    while (mainQueue.now() < cSeconds) {
+        watch.look();
+        mainQueue.advance(cStep);
+    }
+    return double(shown - 1) / cSeconds; // less the one that it begins with
+}
+
 std::optional<std::vector<Figure>> measureProgress() {
     constexpr int cRounds = 7;
     const Films films;
@@ -218,7 +254,9 @@ std::optional<std::vector<Figure>> measureProgress() {
         {"processor time of a pull whose progress is shown / of one that nobody looks at",
          median(with) / base, 1.01, "x", sideBySide(median(with), base)},
         {"the same of a pull that says nothing, by the file it writes", median(looked) / base, 1.01,
-         "x", sideBySide(median(looked), base)}};
+         "x", sideBySide(median(looked), base)},
+        {"redraws a second of a window that is seen, at most", statesShownASecond(), 10, "",
+         "by the test's clock"}};
 }
 
 } // namespace
