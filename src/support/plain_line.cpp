@@ -82,6 +82,12 @@ QString withVisibleControls(QStringView text) {
     return visible;
 }
 
+QString oneLine(QStringView text) {
+    return withVisibleControls(text)
+        .replace(u'\n', QStringLiteral("\\x0a"))
+        .replace(u'\t', QStringLiteral("\\x09"));
+}
+
 QString shortenedLine(const QStringList& pieces) {
     qsizetype size = 0;
     for (const QString& piece : pieces)

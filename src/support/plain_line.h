@@ -11,6 +11,9 @@ namespace kelvo {
 /// count as control characters. A backslash stands as it is.
 QString withVisibleControls(QStringView text);
 
+/// The same with tab and line end spelled out too: a name from elsewhere stands on one line.
+QString oneLine(QStringView text);
+
 /// `pieces` as one line: whole up to 64 KiB of UTF-8; of more, the first and the last 32 KiB with
 /// the number of bytes left out between them. Cut between characters; needs no copy of the whole.
 QString shortenedLine(const QStringList& pieces);

@@ -17,12 +17,6 @@ QString moviesText(qint64 movies) {
     return QString::number(movies) + (movies == 1 ? u" movie" : u" movies");
 }
 
-QString oneLine(QStringView text) {
-    return withVisibleControls(text)
-        .replace(u'\n', QStringLiteral("\\x0a"))
-        .replace(u'\t', QStringLiteral("\\x09"));
-}
-
 /// UTF-8 as it is, any other byte as "\xff".
 QString decoded(const QByteArray& bytes) {
     QString whole = QString::fromUtf8(bytes);

@@ -1,5 +1,6 @@
 #include "ui/health_words.h"
 
+#include "support/plain_line.h"
 #include "ui/checklist.h"
 #include "ui/pass_words.h"
 #include "ui/work_words.h"
@@ -29,9 +30,9 @@ QString sinceThen(QStringView sentence, const QString& since) {
 /// The last line tells more than the next step where the cause alone says too little.
 QString secondSentence(const PassRecord& pass) {
     if (!pass.lastLine.isEmpty() && pass.cause == PassCause::Unknown)
-        return QStringLiteral("The last line was: %1").arg(fileText(pass.lastLine));
+        return QStringLiteral("The last line was: %1").arg(oneLine(pass.lastLine));
     if (!pass.lastLine.isEmpty() && pass.cause == PassCause::SettingsRefused)
-        return QStringLiteral("The reason: %1.").arg(fileText(pass.lastLine));
+        return QStringLiteral("The reason: %1.").arg(oneLine(pass.lastLine));
     return wordsFor(pass.cause).nextStep.toString();
 }
 
@@ -79,21 +80,21 @@ HealthWords healthWords(const HealthFacts& facts) {
         words.health.remedy = remedy;
     };
     if (!facts.settings.fault.isEmpty())
-        trouble(fileText(facts.settings.fault) + u'.', Remedy::OpenLog);
+        trouble(oneLine(facts.settings.fault) + u'.', Remedy::OpenLog);
     for (const ChecklistLine& line : facts.missing) {
         if (line.remedy == Remedy::CopyInstallCommand)
             trouble(line.text, line.remedy);
     }
     if (!facts.standing.fault.isEmpty())
         trouble(QStringLiteral("The record of passes cannot be kept: %1")
-                    .arg(fileText(facts.standing.fault)),
+                    .arg(oneLine(facts.standing.fault)),
                 Remedy::OpenLog);
     if (!facts.settings.aside.isEmpty())
         words.remarks.append(QStringLiteral("The settings file was damaged. It is kept as %1")
-                                 .arg(fileText(facts.settings.aside)));
+                                 .arg(oneLine(facts.settings.aside)));
     if (!facts.standing.aside.isEmpty())
         words.remarks.append(QStringLiteral("The record of passes was damaged. It is kept as %1")
-                                 .arg(fileText(facts.standing.aside)));
+                                 .arg(oneLine(facts.standing.aside)));
     return words;
 }
 

@@ -71,7 +71,7 @@ int nearestMinute(int seconds) {
 
 QString shortName(const Arrival& arrival) {
     constexpr qsizetype cMost = 60;
-    QString name = fileText(QString::fromUtf8(arrival.path.mid(arrival.path.lastIndexOf('/') + 1)));
+    QString name = oneLine(QString::fromUtf8(arrival.path.mid(arrival.path.lastIndexOf('/') + 1)));
     if (name.size() <= cMost)
         return name;
     // The end tells as much as the beginning: part and kind of the file.
@@ -120,12 +120,6 @@ QString stepText(PassStep step, PassKind kind) {
     return {};
 }
 
-QString fileText(const QString& name) {
-    return withVisibleControls(name)
-        .replace(u'\n', QStringLiteral("\\x0a"))
-        .replace(u'\t', QStringLiteral("\\x09"));
-}
-
 QString countText(const PassProgress& progress) {
     if (!progress.filesDone)
         return {};
@@ -157,7 +151,7 @@ QString speedText(const PassProgress& progress) {
 void describeProgress(WorkState& work, const PassUnderWay& pass, TimeLeftWords& timeLeft) {
     const PassProgress& progress = pass.progress;
     work.step = stepText(progress.step, pass.kind);
-    work.file = fileText(progress.file);
+    work.file = oneLine(progress.file);
     work.count = countText(progress);
     work.amount = amountText(progress);
     work.speed = speedText(progress);

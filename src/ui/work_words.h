@@ -29,9 +29,6 @@ private:
 /// "Asking the Mac"; empty while no command runs.
 QString stepText(PassStep step, PassKind kind);
 
-/// A file's name on one line, with its control characters spelled out.
-QString fileText(const QString& name);
-
 /// "file 7 of 15" while a file is being received; "15 files" without a number to come.
 QString countText(const PassProgress& progress);
 

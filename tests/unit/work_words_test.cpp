@@ -1,4 +1,5 @@
 #include "passes/running_pass.h"
+#include "support/plain_line.h"
 #include "ui/checklist.h"
 #include "ui/health_words.h"
 #include "ui/pass_words.h"
@@ -74,7 +75,7 @@ TEST(WorkWordsTest, Figures_AreReadAtAGlance) {
 }
 
 TEST(WorkWordsTest, HostileName_StaysOneHarmlessLine) {
-    EXPECT_EQ(fileText(text("a\nb\tc\r\x1b[31m\u202e.mov")),
+    EXPECT_EQ(oneLine(text("a\nb\tc\r\x1b[31m\u202e.mov")),
               text("a\\x0ab\\x09c\\x0d\\x1b[31m\\u202e.mov"));
 }
 

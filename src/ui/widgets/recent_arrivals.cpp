@@ -33,13 +33,6 @@ QString timeText(const QDateTime& arrived) {
                : QLocale().toString(here.date(), QLocale::ShortFormat);
 }
 
-/// `name` with all its control characters spelled out: it stands on one line.
-QString oneLine(QStringView name) {
-    return withVisibleControls(name)
-        .replace(u'\t', QStringLiteral("\\x09"))
-        .replace(u'\n', QStringLiteral("\\x0a"));
-}
-
 } // namespace
 
 RecentArrivals::RecentArrivals(QWidget* parent) : QWidget(parent), fEmpty(new QLabel) {
