@@ -243,7 +243,9 @@ TEST_F(PassProgressTest, MovieCommand_IsSeenByTheFileItWrites) {
         if (!each.bytesDone)
             continue;
         ++seenWriting;
-        EXPECT_EQ(each.file, QStringLiteral("Caf\u00e9.mov"));
+        // The command may be looked at once more between its last write and its end.
+        const bool isDone = each.filesDone.value_or(0) > 0;
+        EXPECT_EQ(each.file, isDone ? QString() : QStringLiteral("Caf\u00e9.mov"));
         EXPECT_GE(*each.bytesDone, last);
         last = *each.bytesDone;
         fastest = std::max(fastest, each.bytesPerSecond.value_or(0));

@@ -29,6 +29,7 @@ RunningProgram::~RunningProgram() {
 std::optional<QString>
 RunningProgram::waitForLine(const std::function<bool(const QString&)>& pleases, double seconds) {
     const QDeadlineTimer deadline(static_cast<qint64>(seconds * 1000));
+    readMore(0);
     for (;;) {
         while (fNext < fLines.size()) {
             const QString line = fLines.at(fNext++);
