@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <limits>
 #include <map>
 #include <optional>
 
@@ -17,6 +18,19 @@ inline constexpr double cCommandGrace = 30;
 /// Names a command while it runs.
 using CommandId = qint64;
 
+/// How much of a command's standard output is taken, in bytes: nobody over there decides how much
+/// memory we need.
+struct OutputBounds {
+    /// Up to so many the whole is kept; of more, the first and the last half. The rest is read and
+    /// counted.
+    qsizetype kept = qsizetype{4} * 1024 * 1024;
+    /// A command that prints more is ended as one whose time is up, and said so in the system log.
+    qint64 most = std::numeric_limits<qint64>::max();
+};
+
+/// For a command of which some lines are expected.
+inline constexpr OutputBounds cShortAnswer{.kept = qsizetype{64} * 1024, .most = 1024 * 1024};
+
 struct Command {
     QString text; ///< one complete command line, passed to the shell as it stands
 
@@ -27,8 +41,11 @@ struct Command {
     /// notices no difference.
     std::optional<double> seconds = {};
 
-    /// Gets the standard output piece by piece as it arrives, on the thread that called `run`;
-    /// characters may be split between two pieces. While it runs nothing more is read.
+    OutputBounds bounds = {};
+
+    /// Gets all of the standard output, whatever is kept of it, piece by piece as it arrives, on
+    /// the thread that called `run`; characters may be split between two pieces. While it runs
+    /// nothing more is read.
     std::function<void(QByteArrayView)> received = {};
 
     /// Told once that the command has been started, on the thread that called `run`, before
@@ -48,16 +65,19 @@ struct FileBeingWritten {
 };
 
 struct CommandResult {
-    /// All of the standard output, untrimmed, read as UTF-8 with every broken sequence shown as
-    /// U+FFFD; empty when the command printed nothing, could not be started, or the program is
-    /// quitting.
+    /// The standard output, untrimmed, read as UTF-8 with every broken sequence shown as U+FFFD;
+    /// where bytes are left out of it stands the line "… N bytes left out …". Empty when the
+    /// command printed nothing, could not be started, or the program is quitting.
     QString output;
-    QString errors; ///< the first 64 KiB of the error output
+    /// The error output in the same way; of more than 48 KiB the first and the last 24.
+    QString errors;
     /// As a shell reports it: 124 for a command whose time was up, 126 for one that could not be
-    /// started, 128 + n for an end by signal n; the shell's own when it had ended in time and only
-    /// its output was still held open. Nothing when the command was given up because the program
-    /// is quitting, or because it was cancelled.
+    /// started, 128 + n for an end by signal n, and so 141, a closed pipe, for one that printed
+    /// more than it may; the shell's own when it had ended in time and only its output was still
+    /// held open. Nothing when the command was given up because the program is quitting, or because
+    /// it was cancelled.
     std::optional<int> exitStatus;
+    qint64 leftOut = 0; ///< bytes of the standard output that `output` does not hold
 };
 
 class CommandRunner {
@@ -65,7 +85,8 @@ public:
     virtual ~CommandRunner() = default;
 
     /// Blocks until the command has ended and its standard output is closed. Any thread, several at
-    /// once; peak memory stays under three times the bytes of output. The command has no terminal:
+    /// once; takes at most five times the bytes that are kept in memory, however much is printed.
+    /// Bytes left out are counted in one line of the system log. The command has no terminal:
     /// nothing can wait for a prompt.
     virtual CommandResult run(const Command& command) = 0;
 
@@ -88,9 +109,9 @@ inline QString outputWhenRunAsShellCommand(CommandRunner& runner, const QString&
     return runner.run({.text = command}).output;
 }
 
-/// The same, bounded.
+/// The same of a command that has some lines to say, bounded in time and output.
 inline QString outputWithin(CommandRunner& runner, double seconds, const QString& command) {
-    return runner.run({.text = command, .seconds = seconds}).output;
+    return runner.run({.text = command, .seconds = seconds, .bounds = cShortAnswer}).output;
 }
 
 } // namespace kelvo

@@ -79,7 +79,8 @@ HostVerdict RemoteHostValidation::ask(qint64 timeout, const RunCommand& run,
     const QString command = whoamiCommand(timeout, keyPath, target);
     console.print(u"cmd to check valid user and remote host = \n" + command);
     const double patience = std::max(static_cast<double>(timeout) + fParts.grace, 0.0);
-    const QString answer = trimmedText(run({.text = command, .seconds = patience}).output);
+    const QString answer =
+        trimmedText(run({.text = command, .seconds = patience, .bounds = cShortAnswer}).output);
 
     const QString rule(65, u'=');
     console.print(rule);

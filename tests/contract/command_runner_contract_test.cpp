@@ -53,7 +53,15 @@ protected:
         {QStringLiteral("echo '$HOME' | tr a-z A-Z; exit 7"), QStringLiteral("$HOME\n")},
         {QStringLiteral("exit 0"), QString()},
         {QStringLiteral("no-such-program-anywhere"), QString()},
+        {QStringLiteral("seq 100000 105000"), numberedLines()},
     };
+
+    static QString numberedLines() {
+        QString lines;
+        for (int number = 100'000; number <= 105'000; ++number)
+            lines += QString::number(number) + u'\n';
+        return lines;
+    }
     Shell fShell{fScript};
 };
 
@@ -97,6 +105,40 @@ TYPED_TEST(CommandRunnerContract, Receiver_GetsTheBytesOnTheCallersThreadBeforeT
     EXPECT_EQ(received, known.output.toUtf8());
     EXPECT_EQ(result.output, known.output);
     EXPECT_EQ(result.exitStatus, 0);
+}
+
+TYPED_TEST(CommandRunnerContract, MoreThanIsKept_LosesItsMiddleForAllButTheReceiver) {
+    const Known& known = this->fScript.back();
+    QByteArray received;
+    const CommandResult result = this->fShell.runner().run(
+        {.text = known.command, .bounds = {.kept = 1000}, .received = [&](QByteArrayView bytes) {
+             received.append(bytes);
+         }});
+    const qint64 leftOut = known.output.size() - 1000;
+    EXPECT_EQ(result.output, QString(known.output.first(500) + u"\n… " + QString::number(leftOut) +
+                                     u" bytes left out …\n" + known.output.last(500)));
+    EXPECT_EQ(result.leftOut, leftOut);
+    EXPECT_EQ(result.exitStatus, 0);
+    EXPECT_EQ(received, known.output.toUtf8());
+}
+
+TYPED_TEST(CommandRunnerContract, AsMuchAsIsKept_StaysWhole) {
+    const Known& known = this->fScript.back();
+    const CommandResult result = this->fShell.runner().run(
+        {.text = known.command,
+         .bounds = {.kept = known.output.size(), .most = known.output.size()}});
+    EXPECT_EQ(result.output, known.output);
+    EXPECT_EQ(result.leftOut, 0);
+    EXPECT_EQ(result.exitStatus, 0);
+}
+
+TYPED_TEST(CommandRunnerContract, MoreThanACommandMayPrint_EndsItAsAClosedPipeWould) {
+    const Known& known = this->fScript.back();
+    const CommandResult result = this->fShell.runner().run(
+        {.text = known.command, .bounds = {.kept = 1000, .most = known.output.size() - 1}});
+    EXPECT_EQ(result.exitStatus, 141);
+    EXPECT_TRUE(result.output.startsWith(known.output.first(500)));
+    EXPECT_GT(result.leftOut, 0);
 }
 
 TYPED_TEST(CommandRunnerContract, Result_TellsThatTheTimeWasUp) {

@@ -1,6 +1,7 @@
 #include "adapters/process/posix_shell_runner.h"
 #include "adapters/system/unique_fd.h"
 #include "fakes/recording_console.h"
+#include "support/plain_line.h"
 #include "support/sanitized.h"
 
 #include <QDir>
@@ -207,12 +208,19 @@ TEST_F(PosixShellRunnerTest, ErrorOutput_GoesToTheLogInOneLine) {
               QStringList{QStringLiteral("Error output of a shell command: wrong\nworse")});
 }
 
-TEST_F(PosixShellRunnerTest, FloodOfErrors_IsDrainedAndCutInTheLog) {
-    EXPECT_EQ(run(zoo(QStringLiteral("complain 1024"))), u"fine\n");
+TEST_F(PosixShellRunnerTest, FloodOfErrors_IsDrainedAndKeepsItsEnds) {
+    const CommandResult result =
+        resultOf(zoo(QStringLiteral("complain 1024; echo the cause >&2; exit 4")));
+    EXPECT_EQ(result.output, u"fine\n");
+    EXPECT_EQ(result.exitStatus, 4);
+    EXPECT_EQ(result.errors.section(u'\n', 0, 0), QString(1023, u'x'));
+    EXPECT_TRUE(result.errors.endsWith(u"xxx\nthe cause\n"));
+    EXPECT_TRUE(result.errors.contains(u"\n… 999434 bytes left out …\n"));
     ASSERT_EQ(fConsole.logged().size(), 1);
     const QString line = fConsole.logged().constFirst();
-    EXPECT_LT(line.size(), 65 * 1024 + 100);
-    EXPECT_TRUE(line.endsWith(u"(983040 more bytes left out)")) << line.right(60).toStdString();
+    EXPECT_TRUE(line.startsWith(u"Error output of a shell command: xxx"));
+    EXPECT_TRUE(line.endsWith(u"xxx\nthe cause"));
+    EXPECT_EQ(shortenedLine({line}), line) << "the log takes it as it is";
 }
 
 TEST_F(PosixShellRunnerTest, CommandTooLongForTheSystem_GivesTheEmptyTextAndALine) {
@@ -253,35 +261,45 @@ TEST_F(PosixShellRunnerTest, ManyRuns_LeaveNoDescriptorAndNoChildBehind) {
     EXPECT_EQ(errno, ECHILD);
 }
 
-TEST_F(PosixShellRunnerTest, Flood_ArrivesWholeUnderThreeTimesItsBytes) {
-    constexpr qint64 cBytes = 64ll * 1024 * 1024;
-    rusage before{};
-    ::getrusage(RUSAGE_SELF, &before);
-    const QString text = run(zoo(QStringLiteral("flood 64")));
-    rusage after{};
-    ::getrusage(RUSAGE_SELF, &after);
-    ASSERT_EQ(text.size(), cBytes);
-    EXPECT_TRUE(text.endsWith(u"abcde\n0123456789abcde\n"));
-    EXPECT_EQ(text.count(QStringLiteral("0123456789abcde\n")), cBytes / 16);
-    if (cSanitized)
-        GTEST_SKIP() << "a sanitizer's own memory hides the peak; the text was checked";
-    EXPECT_LT((after.ru_maxrss - before.ru_maxrss) * 1024, 3 * cBytes);
+/// Of this process, in bytes.
+qint64 peakMemory() {
+    rusage usage{};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return qint64{usage.ru_maxrss} * 1024;
 }
 
-TEST_F(PosixShellRunnerTest, OutOfMemory_CutsTheTextAndSaysSo) {
+TEST_F(PosixShellRunnerTest, Flood_IsDrainedAndTakesNoMoreThanIsKept) {
+    constexpr qint64 cBytes = 300ll * 1024 * 1024;
+    constexpr qint64 cKept = OutputBounds().kept;
+    const qint64 before = peakMemory();
+    const CommandResult result = resultOf(zoo(QStringLiteral("flood 300; echo the end")));
+    const qint64 after = peakMemory();
+    EXPECT_EQ(result.exitStatus, 0);
+    EXPECT_TRUE(result.output.startsWith(u"0123456789abcde\n0123456789abcde\n"));
+    EXPECT_TRUE(result.output.endsWith(u"abcde\n0123456789abcde\nthe end\n"));
+    EXPECT_EQ(result.leftOut, cBytes + 8 - cKept);
+    EXPECT_LT(result.output.size(), cKept + 100);
+    ASSERT_EQ(fConsole.logged().size(), 1);
+    EXPECT_TRUE(fConsole.logged().constFirst().startsWith(
+        u"A shell command printed 310378504 more bytes than kept: "))
+        << fConsole.logged().constFirst().toStdString();
     if (cSanitized)
-        GTEST_SKIP() << "sanitizers need more address space than this case leaves";
-    const auto starve = [] {
-        const rlimit little{400 * 1024 * 1024, 400 * 1024 * 1024};
-        ::setrlimit(RLIMIT_AS, &little);
-        RecordingConsole console;
-        PosixShellRunner runner(console);
-        const QString text = outputWhenRunAsShellCommand(runner, zoo(QStringLiteral("flood 300")));
-        const bool cut = text.startsWith(u"0123456789abcde\n") && text.size() < 300 * 1024 * 1024;
-        const bool said = console.logged().join(u'|').contains(u"Out of memory");
-        std::_Exit(cut && said ? 0 : 1);
-    };
-    EXPECT_EXIT(starve(), testing::ExitedWithCode(0), "");
+        GTEST_SKIP() << "a sanitizer's own memory hides the peak; the text was checked";
+    EXPECT_LT(after - before, 5 * cKept);
+}
+
+TEST_F(PosixShellRunnerTest, EndlessOutputOfAShortAnswer_EndsTheCommandAndSaysSo) {
+    const CommandResult result =
+        fRunner.run({.text = QStringLiteral("echo shell $$; exec yes"), .bounds = cShortAnswer});
+    EXPECT_EQ(result.exitStatus, 141);
+    EXPECT_LT(result.output.size(), cShortAnswer.kept + 100);
+    EXPECT_GT(result.leftOut, cShortAnswer.most - cShortAnswer.kept);
+    const pid_t shell = numberAfter(result.output, QStringLiteral("shell "));
+    ASSERT_GT(shell, 0);
+    EXPECT_TRUE(isGone(shell));
+    EXPECT_EQ(fConsole.logged(),
+              QStringList{QStringLiteral("A shell command was ended after 1048576 bytes of output: "
+                                         "echo shell $$; exec yes")});
 }
 
 // -- bounded

@@ -9,15 +9,22 @@
 namespace kelvo {
 namespace {
 
-QString collected(const std::string& bytes, std::size_t step) {
-    Utf8Collector collector;
+constexpr std::size_t cAmple = std::size_t{8} * 1024 * 1024;
+
+Utf8Collector::Collected collectedOf(const std::string& bytes, std::size_t step, std::size_t kept) {
+    Utf8Collector collector(kept);
     for (std::size_t done = 0; done < bytes.size();) {
         const std::size_t size = std::min({step, bytes.size() - done, collector.room().size()});
         std::memcpy(collector.room().data(), bytes.data() + done, size);
         collector.took(size);
         done += size;
     }
+    EXPECT_EQ(collector.total(), static_cast<qint64>(bytes.size()));
     return collector.finish();
+}
+
+QString collected(const std::string& bytes, std::size_t step) {
+    return collectedOf(bytes, step, cAmple).text;
 }
 
 TEST(Utf8CollectorTest, AnyBytesInAnyPieces_ReadAsInOnePiece) {
@@ -38,6 +45,44 @@ TEST(Utf8CollectorTest, LongText_KeepsEveryCharacterAcrossTheBuffersEdges) {
     while (text.size() < 1'500'000)
         text += u"a\u00e9\u20ac\U0001f3ac";
     EXPECT_EQ(collected(text.toStdString(), 99'991), text);
+}
+
+TEST(Utf8CollectorTest, MoreThanIsKept_IsItsFirstAndItsLastHalf) {
+    std::string bytes;
+    for (int i = 0; i < 5000; ++i)
+        bytes += std::to_string(i) + ' ';
+    for (const std::size_t kept : {10, 11, 1000, 4096, 23'889}) {
+        const auto half = static_cast<qsizetype>(kept / 2);
+        const auto rest = static_cast<qsizetype>(kept) - half;
+        const QString whole = QString::fromStdString(bytes);
+        const qint64 leftOut = whole.size() - static_cast<qint64>(kept);
+        for (const std::size_t step : {1, 7, 1000, 100'000}) {
+            const auto [text, missing] = collectedOf(bytes, step, kept);
+            EXPECT_EQ(missing, leftOut);
+            EXPECT_EQ(text, QString(whole.first(half) + u"\n… " + QString::number(leftOut) +
+                                    u" bytes left out …\n" + whole.last(rest)))
+                << kept << " in steps of " << step;
+        }
+        EXPECT_EQ(collectedOf(bytes.substr(0, kept), 7, kept).text, whole.first(half + rest));
+    }
+}
+
+TEST(Utf8CollectorTest, WhatIsLeftOut_BeginsAndEndsBetweenCharacters) {
+    for (const QString& sign :
+         {QStringLiteral("\u00e9"), QStringLiteral("\u20ac"), QStringLiteral("\U0001f3ac")}) {
+        const QString whole = sign.repeated(50);
+        const std::string bytes = whole.toStdString();
+        for (std::size_t kept = 16; kept < 24; ++kept) {
+            const auto [text, leftOut] = collectedOf(bytes, 3, kept);
+            const QString mark = u"\n… " + QString::number(leftOut) + u" bytes left out …\n";
+            const QStringList parts = text.split(mark);
+            ASSERT_EQ(parts.size(), 2) << text.toStdString();
+            EXPECT_FALSE(text.contains(u'\ufffd')) << text.toStdString();
+            EXPECT_EQ(parts.join(QString()).toUtf8().size() + leftOut, whole.toUtf8().size());
+            EXPECT_GE(parts[0].toUtf8().size(), static_cast<qsizetype>(kept / 2) - 3);
+            EXPECT_GE(parts[1].toUtf8().size(), static_cast<qsizetype>(kept / 2) - 3);
+        }
+    }
 }
 
 TEST(Utf8CollectorTest, NoBytes_GiveTheEmptyText) {

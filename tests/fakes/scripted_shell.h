@@ -49,15 +49,18 @@ public:
         const CommandId id = enter();
         if (command.started)
             command.started(id);
-        CommandResult result{.output = rule.answer ? rule.answer(command.text) : QString(),
-                             .errors = {},
-                             .exitStatus = rule.endless ? 124 : rule.exitStatus};
+        const QByteArray printed = (rule.answer ? rule.answer(command.text) : QString()).toUtf8();
+        CommandResult result = kept(printed, command.bounds.kept);
+        result.exitStatus = rule.endless ? 124 : rule.exitStatus;
+        const bool tooMuch = printed.size() > command.bounds.most;
         if (leave(id))
             result.exitStatus.reset();
+        else if (tooMuch)
+            result.exitStatus = 141;
         else if (rule.endless && !command.seconds)
             throw std::logic_error("nobody bounded a command that never ends");
-        if (command.received && !result.output.isEmpty())
-            command.received(result.output.toUtf8());
+        if (command.received && !printed.isEmpty())
+            command.received(printed);
         return result;
     }
 
@@ -98,6 +101,17 @@ private:
         int exitStatus = 0;
     };
 
+    /// For texts of single bytes where something is left out.
+    static CommandResult kept(const QByteArray& printed, qsizetype most) {
+        if (printed.size() <= most)
+            return {QString::fromUtf8(printed), {}, {}};
+        const qint64 leftOut = printed.size() - most;
+        const QString text = QString::fromUtf8(printed.first(most / 2)) + u"\n… " +
+                             QString::number(leftOut) + u" bytes left out …\n" +
+                             QString::fromUtf8(printed.last(most - most / 2));
+        return {text, {}, {}, leftOut};
+    }
+
     CommandId enter() {
         const std::lock_guard lock(fMutex);
         fRunning[++fLast] = false;
@@ -114,6 +128,7 @@ private:
         const std::lock_guard lock(fMutex);
         fAsked.push_back({.text = command.text,
                           .seconds = command.seconds,
+                          .bounds = command.bounds,
                           .input = command.input,
                           .variables = command.variables});
         Rule found;

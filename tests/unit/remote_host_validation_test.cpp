@@ -153,6 +153,18 @@ TEST_F(RemoteHostValidationTest, Valid_AddsNoRemark) {
     EXPECT_EQ(console.printed().size(), 4);
 }
 
+TEST_F(RemoteHostValidationTest, AnswerOfMoreThanSomeLines_IsCutAndNeverTheRightOne) {
+    for (const qsizetype blanks : {100'000, 5'000'000}) {
+        console.clear();
+        shell.answerTo(QStringLiteral("whoami"), QString(u"mediauser\n" + QString(blanks, u'\n')));
+        EXPECT_EQ(validation.validateRemoteHostWithWhoami(3), HostVerdict::UnknownError);
+        const QString shown = console.printed().join(QString());
+        EXPECT_LT(shown.size(), 70'000);
+        EXPECT_TRUE(shown.contains(u" bytes left out …")) << blanks;
+        EXPECT_EQ(shell.asked().back().bounds.most, 1024 * 1024);
+    }
+}
+
 TEST_F(RemoteHostValidationTest, KeyFileMissing_HandsBackSshsOwnWords) {
     files.existing.clear();
     shell.answerTo(QStringLiteral("whoami"), QStringLiteral("No Route To Host\n"));

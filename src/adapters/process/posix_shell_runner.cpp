@@ -1,9 +1,9 @@
 #include "adapters/process/posix_shell_runner.h"
 
+#include "adapters/process/command_capture.h"
 #include "adapters/process/command_processes.h"
 #include "adapters/process/open_files.h"
 #include "adapters/process/shell_child.h"
-#include "adapters/process/utf8_collector.h"
 #include "ports/console.h"
 #include "support/plain_line.h"
 #include "support/system_error_text.h"
@@ -22,36 +22,14 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::size_t cMostErrors = std::size_t{64} * 1024;
-/// A flood must not hold up the quit: no more than a full pipe is read after giving up.
-constexpr std::size_t cLastRead = std::size_t{1024} * 1024;
 /// The exit statuses that shells give where there is none.
 constexpr int cTimeIsUp = 124;
 constexpr int cCannotStart = 126;
 constexpr int cSignalled = 128;
+constexpr int cClosedPipe = cSignalled + SIGPIPE;
 constexpr auto cAskPatience = 2000ms;
 constexpr auto cForcePatience = 1000ms;
 constexpr qsizetype cLongestCommandSaid = 300;
-
-using Clock = std::chrono::steady_clock;
-using Deadline = std::optional<Clock::time_point>;
-
-Deadline deadlineAfter(std::optional<double> seconds) {
-    constexpr double cMost = 1e8; // keeps the sum within what the clock can count
-    if (!seconds)
-        return {};
-    const std::chrono::duration<double> span(std::clamp(*seconds, 0.0, cMost));
-    return Clock::now() + std::chrono::duration_cast<Clock::duration>(span);
-}
-
-/// For poll: rounded up, so that nothing wakes a little too early and turns in a circle.
-int millisecondsUntil(const Deadline& deadline) {
-    constexpr std::int64_t cMost = 3'600'000;
-    if (!deadline)
-        return -1;
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*deadline - Clock::now());
-    return static_cast<int>(std::clamp<std::int64_t>(left.count(), 0, cMost));
-}
 
 void tell(int eventDescriptor) {
     (void)::eventfd_write(eventDescriptor, 1);
@@ -84,106 +62,6 @@ siginfo_t endOf(pid_t pid, int options) {
 
 } // namespace
 
-/// One run: reads both streams until the shell has ended and its standard output is closed.
-class PosixShellRunner::Capture {
-public:
-    Capture(const ShellChild& child, int giveUp, int cancelled,
-            const std::function<void(QByteArrayView)>& received)
-        : fReceived(received), fWatched{{child.output.get(), POLLIN, 0},
-                                        {child.errors.get(), POLLIN, 0},
-                                        {child.ended.get(), POLLIN, 0},
-                                        {giveUp, POLLIN, 0},
-                                        {cancelled, POLLIN, 0}} {}
-
-    /// Returns at the end of both, or of the program, unless the deadline or a cancel comes first.
-    End follow(const Deadline& deadline) {
-        while (fWatched[Output].fd >= 0 || fWatched[Ended].fd >= 0) {
-            if (deadline && Clock::now() >= *deadline)
-                return End::Cut;
-            if (::poll(fWatched.data(), fWatched.size(), millisecondsUntil(deadline)) <= 0)
-                continue;
-            if (fWatched[Errors].revents != 0)
-                readErrors();
-            if (fWatched[Output].revents != 0)
-                readOutput();
-            if (fWatched[Ended].revents != 0)
-                fWatched[Ended].fd = -1;
-            if (fWatched[GiveUp].revents != 0)
-                break;
-            if (fWatched[Cancelled].revents != 0)
-                return End::Cancelled;
-        }
-        return End::Own;
-    }
-
-    /// What is there without waiting for more.
-    void readRest() {
-        for (std::size_t got = 0, size = 0; got < cLastRead && (size = readOutput()) > 0;)
-            got += size;
-        for (std::size_t got = 0, size = 0; got < cLastRead && (size = readErrors()) > 0;)
-            got += size;
-    }
-
-    bool overflowed() const { return fOutput.overflowed(); }
-    QString output() { return fOutput.finish(); }
-
-    QString errors() const {
-        return QString::fromUtf8(fErrors.data(), static_cast<qsizetype>(fErrors.size()));
-    }
-
-    /// What the system log shall say of the error output; empty when there was none.
-    QString errorLine() const {
-        if (fErrors.empty())
-            return {};
-        QString line = QStringLiteral("Error output of a shell command: ") + errors();
-        while (line.endsWith(u'\n'))
-            line.chop(1);
-        if (fErrorsLeftOut > 0)
-            line += u" … (" + QString::number(fErrorsLeftOut) + u" more bytes left out)";
-        return line;
-    }
-
-private:
-    enum { Output, Errors, Ended, GiveUp, Cancelled };
-
-    /// The number of bytes that came; 0 when none is there, with the stream closed at its end.
-    std::size_t readSome(int stream, std::span<char> room) {
-        pollfd& watched = fWatched[static_cast<std::size_t>(stream)];
-        if (watched.fd < 0)
-            return 0;
-        const ssize_t size = ::read(watched.fd, room.data(), room.size());
-        if (size > 0)
-            return static_cast<std::size_t>(size);
-        if (size == 0 || (errno != EAGAIN && errno != EINTR))
-            watched.fd = -1;
-        return 0;
-    }
-
-    std::size_t readOutput() {
-        const std::span<char> room = fOutput.room();
-        const std::size_t size = readSome(Output, room);
-        if (size > 0 && fReceived)
-            fReceived(QByteArrayView(room.data(), static_cast<qsizetype>(size)));
-        fOutput.took(size);
-        return size;
-    }
-
-    std::size_t readErrors() {
-        std::array<char, 4096> room; // NOLINT: filled by read
-        const std::size_t size = readSome(Errors, room);
-        const std::size_t kept = std::min(size, cMostErrors - fErrors.size());
-        fErrors.append(room.data(), kept);
-        fErrorsLeftOut += size - kept;
-        return size;
-    }
-
-    const std::function<void(QByteArrayView)>& fReceived;
-    Utf8Collector fOutput;
-    std::string fErrors;
-    std::size_t fErrorsLeftOut = 0;
-    std::vector<pollfd> fWatched;
-};
-
 PosixShellRunner::PosixShellRunner(Console& console)
     : fConsole(console), fEnvironment(environmentWithoutPrompts()),
       fGiveUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
@@ -193,7 +71,7 @@ PosixShellRunner::~PosixShellRunner() {
 }
 
 CommandResult PosixShellRunner::run(const Command& command) {
-    const Deadline deadline = deadlineAfter(command.seconds);
+    const auto deadline = deadlineAfter(command.seconds);
     const std::string text = command.text.toStdString();
     const auto environment = environmentWith(command.variables, fEnvironment);
     const UniqueFd cancelled(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
@@ -216,50 +94,67 @@ CommandResult PosixShellRunner::run(const Command& command) {
 
     if (command.started)
         command.started(child.pid);
-    Capture capture(child, fGiveUp.get(), cancelled.get(), command.received);
-    End end = capture.follow(deadline);
-    if (end == End::Cut)
+    CommandCapture capture(command, child, fGiveUp.get(), cancelled.get());
+    CommandEnd end = capture.follow(deadline);
+    if (end == CommandEnd::Cut)
         end = cutOff(child.pid, command);
-    else if (end == End::Cancelled)
+    else if (end != CommandEnd::Own)
         endSession(child.pid);
     capture.readRest();
-    if (const QString line = capture.errorLine(); !line.isEmpty())
-        fConsole.log(line);
-    if (capture.overflowed())
-        fConsole.log(QStringLiteral("Out of memory: the output of a shell command was cut off."));
-    const std::optional<int> exitStatus = leave(child.pid, end);
-    return {capture.output(), capture.errors(), exitStatus};
+    CommandResult result = capture.result();
+    logAbout(command, result, end);
+    result.exitStatus = leave(child.pid, end);
+    return result;
 }
 
-PosixShellRunner::End PosixShellRunner::cutOff(pid_t pid, const Command& command) {
-    const bool hadEnded = endOf(pid, WNOHANG).si_pid == pid;
-    fConsole.log(u"A shell command was cut off after " + QString::number(*command.seconds) +
-                 u" s: " +
+void PosixShellRunner::logAbout(const Command& command, const CommandResult& result,
+                                CommandEnd end) {
+    QStringView errors = result.errors;
+    while (errors.endsWith(u'\n'))
+        errors.chop(1);
+    if (!errors.isEmpty())
+        fConsole.log(u"Error output of a shell command: " + errors.toString());
+    const qint64 most = command.bounds.most;
+    if (end == CommandEnd::TooMuch)
+        logAbout(command, u"was ended after " + QString::number(most) + u" bytes of output");
+    else if (result.leftOut > 0)
+        logAbout(command, u"printed " + QString::number(result.leftOut) + u" more bytes than kept");
+}
+
+void PosixShellRunner::logAbout(const Command& command, const QString& what) {
+    fConsole.log(u"A shell command " + what + u": " +
                  withVisibleControls(QStringView(command.text).left(cLongestCommandSaid)));
+}
+
+CommandEnd PosixShellRunner::cutOff(pid_t pid, const Command& command) {
+    const bool hadEnded = endOf(pid, WNOHANG).si_pid == pid;
+    logAbout(command, u"was cut off after " + QString::number(*command.seconds) + u" s");
     endSession(pid);
-    return hadEnded ? End::Own : End::Cut;
+    return hadEnded ? CommandEnd::Own : CommandEnd::Cut;
 }
 
 /// The shell is reaped under the lock, so that `endAll` and `cancel` never see a number that is
 /// free again. One that was ended and that even the system cannot end yet is left for `endAll` to
 /// reap.
-std::optional<int> PosixShellRunner::leave(pid_t pid, End end) {
+std::optional<int> PosixShellRunner::leave(pid_t pid, CommandEnd end) {
     siginfo_t ended{};
     const bool givenUp = [this] {
         pollfd giveUp{fGiveUp.get(), POLLIN, 0};
         return ::poll(&giveUp, 1, 0) > 0;
     }();
-    if (!givenUp && end == End::Own)
+    if (!givenUp && end == CommandEnd::Own)
         ended = endOf(pid, 0);
     const std::lock_guard lock(fMutex);
     std::optional<int> exitStatus;
-    if (!givenUp && !fEnding && end == End::Cut)
+    if (!givenUp && !fEnding && end == CommandEnd::Cut)
         exitStatus = cTimeIsUp;
-    else if (!givenUp && !fEnding && end == End::Own)
+    else if (!givenUp && !fEnding && end == CommandEnd::TooMuch)
+        exitStatus = cClosedPipe;
+    else if (!givenUp && !fEnding && end == CommandEnd::Own)
         exitStatus = ended.si_code == CLD_EXITED ? ended.si_status : cSignalled + ended.si_status;
     const auto ours = std::ranges::find(fSessions, pid, &Session::pid);
     ours->cancelled = -1;
-    if (!fEnding && reap(pid, end == End::Own ? 0 : WNOHANG))
+    if (!fEnding && reap(pid, end == CommandEnd::Own ? 0 : WNOHANG))
         fSessions.erase(ours);
     --fCallers;
     fLeft.notify_all();

@@ -15,9 +15,10 @@
 namespace kelvo {
 
 class Console;
+enum class CommandEnd;
 
-/// Commands see the environment as it was when the runner was made, less what could prompt. The
-/// first 64 KiB of a command's error output go to the system log in one line, when it has ended.
+/// Commands see the environment as it was when the runner was made, less what could prompt. What is
+/// kept of a command's error output goes to the system log in one line, when it has ended.
 class PosixShellRunner final : public CommandRunner {
 public:
     /// `console` must outlive the runner.
@@ -27,8 +28,7 @@ public:
     ~PosixShellRunner() override;
 
     /// A text with U+0000 in it, or one longer than the system passes on (128 KiB), cannot be
-    /// started; that is said in the system log. When memory runs out the text ends there, and that
-    /// is said too.
+    /// started; that is said in the system log.
     CommandResult run(const Command& command) override;
 
     void cancel(CommandId command) override;
@@ -43,15 +43,15 @@ public:
     void endAll();
 
 private:
-    class Capture;
-    enum class End { Own, Cut, Cancelled };
     struct Session {
         pid_t pid = -1;
         int cancelled = -1; ///< the descriptor that tells its caller; -1 once the caller is gone
     };
-    End cutOff(pid_t pid, const Command& command);
+    CommandEnd cutOff(pid_t pid, const Command& command);
+    void logAbout(const Command& command, const CommandResult& result, CommandEnd end);
+    void logAbout(const Command& command, const QString& what);
     /// The shell's exit status; nothing when it was given up or cancelled.
-    std::optional<int> leave(pid_t pid, End end);
+    std::optional<int> leave(pid_t pid, CommandEnd end);
 
     Console& fConsole;
     const std::vector<std::string> fEnvironment;

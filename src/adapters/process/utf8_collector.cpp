@@ -1,91 +1,80 @@
 #include "adapters/process/utf8_collector.h"
 
+#include <QByteArrayView>
+#include <QStringDecoder>
+
 #include <algorithm>
-#include <cstring>
-#include <new>
 
 namespace kelvo {
 namespace {
 
-constexpr std::size_t cBufferSize = std::size_t{256} * 1024;
-/// Blocks from this size on are always mapped by the C library, so that growing moves pages and
-/// copies nothing; what is reserved and not written takes no memory.
-constexpr qsizetype cMappedUnits = qsizetype{20} * 1024 * 1024;
-constexpr qsizetype cSmallUnits = qsizetype{512} * 1024;
+constexpr qsizetype cLongestSequence = 4;
 
-std::size_t sequenceLength(unsigned char lead) {
-    if (lead >= 0xf0)
-        return 4;
-    if (lead >= 0xe0)
-        return 3;
-    return lead >= 0xc0 ? 2 : 1;
+bool continues(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xc0) == 0x80;
 }
 
-/// The bytes before a sequence at the end that more bytes may still complete. Cutting before a
-/// lead byte is safe: no decoder joins it to what stands before it.
-std::size_t wholeCharacters(const char* bytes, std::size_t size) {
-    for (std::size_t back = 1; back <= std::min<std::size_t>(3, size); ++back) {
-        const auto byte = static_cast<unsigned char>(bytes[size - back]);
-        if ((byte & 0xc0) == 0x80)
-            continue;
-        return sequenceLength(byte) > back ? size - back : size;
+qsizetype sequenceLength(char lead) {
+    const auto byte = static_cast<unsigned char>(lead);
+    if (byte >= 0xf0)
+        return 4;
+    if (byte >= 0xe0)
+        return 3;
+    return byte >= 0xc0 ? 2 : 1;
+}
+
+/// Without the begin of a character that goes on behind the end.
+QByteArrayView withWholeEnd(QByteArrayView bytes) {
+    for (qsizetype back = 1; back < cLongestSequence && back <= bytes.size(); ++back) {
+        const char byte = bytes[bytes.size() - back];
+        if (!continues(byte))
+            return sequenceLength(byte) > back ? bytes.chopped(back) : bytes;
     }
-    return size;
+    return bytes;
+}
+
+/// Without the rest of a character that began before.
+QByteArrayView withWholeBegin(QByteArrayView bytes) {
+    for (qsizetype cut = 1; cut < cLongestSequence && !bytes.empty() && continues(bytes[0]); ++cut)
+        bytes = bytes.sliced(1);
+    return bytes;
+}
+
+QString textOf(QByteArrayView bytes) {
+    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless |
+                                                       QStringConverter::Flag::ConvertInitialBom);
+    return decoder(bytes);
 }
 
 } // namespace
 
-Utf8Collector::Utf8Collector()
-    : fDecoder(QStringConverter::Utf8,
-               QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom),
-      fBytes(std::make_unique_for_overwrite<char[]>(cBufferSize)) {}
+Utf8Collector::Utf8Collector(std::size_t kept)
+    : fKept(kept), fHalf(kept / 2), fBytes(std::make_unique_for_overwrite<char[]>(kept)) {}
 
 std::span<char> Utf8Collector::room() {
-    return {fBytes.get() + fCarried, cBufferSize - fCarried};
+    return {fBytes.get() + fAt, fKept - fAt};
 }
 
 void Utf8Collector::took(std::size_t size) {
-    const std::size_t filled = fCarried + size;
-    const std::size_t whole = wholeCharacters(fBytes.get(), filled);
-    decode(whole);
-    fCarried = filled - whole;
-    std::memmove(fBytes.get(), fBytes.get() + whole, fCarried);
+    fTotal += static_cast<qint64>(size);
+    fAt += size;
+    if (fAt == fKept)
+        fAt = fHalf;
 }
 
-QString Utf8Collector::finish() {
-    decode(fCarried);
-    fCarried = 0;
-    fText.truncate(fUsed);
-    fText.squeeze();
-    return std::move(fText);
-}
-
-void Utf8Collector::decode(std::size_t size) {
-    if (size == 0 || fOverflowed)
-        return;
-    const auto length = static_cast<qsizetype>(size);
-    if (!makeRoomFor(fDecoder.requiredSpace(length))) {
-        fOverflowed = true;
-        return;
-    }
-    QChar* const end =
-        fDecoder.appendToBuffer(fText.data() + fUsed, QByteArrayView(fBytes.get(), length));
-    fUsed = end - fText.constData();
-}
-
-bool Utf8Collector::makeRoomFor(qsizetype units) {
-    const qsizetype needed = fUsed + units;
-    if (needed <= fText.size())
-        return true;
-    qsizetype wanted = needed;
-    if (needed > cSmallUnits)
-        wanted = std::max(cMappedUnits, needed + needed / 2);
-    try {
-        fText.resize(wanted);
-    } catch (const std::bad_alloc&) {
-        return false;
-    }
-    return true;
+Utf8Collector::Collected Utf8Collector::finish() {
+    char* const begin = fBytes.get();
+    if (fTotal <= static_cast<qint64>(fKept))
+        return {textOf({begin, static_cast<qsizetype>(fTotal)}), 0};
+    std::rotate(begin + fHalf, begin + fAt, begin + fKept);
+    const QByteArrayView head = withWholeEnd({begin, static_cast<qsizetype>(fHalf)});
+    const QByteArrayView tail =
+        withWholeBegin({begin + fHalf, static_cast<qsizetype>(fKept - fHalf)});
+    const qint64 leftOut = fTotal - head.size() - tail.size();
+    QString text = textOf(head);
+    text += u"\n… " + QString::number(leftOut) + u" bytes left out …\n";
+    text += textOf(tail);
+    return {text, leftOut};
 }
 
 } // namespace kelvo

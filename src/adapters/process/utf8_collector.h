@@ -1,8 +1,8 @@
-// Utf8Collector: UTF-8 bytes that arrive in pieces become one text, without a second copy of it.
+// Utf8Collector: UTF-8 bytes that arrive in pieces become one text; of many, the first and the
+// last.
 #pragma once
 
 #include <QString>
-#include <QStringDecoder>
 
 #include <cstddef>
 #include <memory>
@@ -10,34 +10,38 @@
 
 namespace kelvo {
 
-/// One thread at a time.
+/// One thread at a time. Takes no more memory than what is kept, however many bytes come; pages are
+/// touched only as they are filled.
 class Utf8Collector {
 public:
-    Utf8Collector();
+    /// Up to `kept` bytes are kept whole; of more, the first and the last half of that. At least 2.
+    explicit Utf8Collector(std::size_t kept);
 
-    /// Where the next bytes may be written, at least 64 KiB. Holds until the next call.
+    /// Where the next bytes may be written; never empty. Holds until the next call.
     std::span<char> room();
 
     /// The first `size` bytes of `room()` are the next bytes of the text.
     void took(std::size_t size);
 
-    /// Whether the memory did not suffice; what came after that point was left out.
-    bool overflowed() const { return fOverflowed; }
+    /// The bytes taken so far.
+    qint64 total() const { return fTotal; }
 
-    /// The whole text, once: each byte that belongs to no character is U+FFFD, a zero byte is
-    /// U+0000, a byte order mark stays.
-    QString finish();
+    struct Collected {
+        QString text;
+        qint64 leftOut = 0; ///< bytes
+    };
+
+    /// The text, once: each byte that belongs to no character is U+FFFD, a zero byte is U+0000, a
+    /// byte order mark stays. In place of what is left out, which begins and ends between
+    /// characters, stands the line "… N bytes left out …".
+    Collected finish();
 
 private:
-    void decode(std::size_t size);
-    bool makeRoomFor(qsizetype units);
-
-    QStringDecoder fDecoder;
-    std::unique_ptr<char[]> fBytes;
-    std::size_t fCarried = 0;
-    QString fText;
-    qsizetype fUsed = 0;
-    bool fOverflowed = false;
+    const std::size_t fKept;
+    const std::size_t fHalf;
+    const std::unique_ptr<char[]> fBytes; ///< the second half is written over in circles
+    std::size_t fAt = 0;
+    qint64 fTotal = 0;
 };
 
 } // namespace kelvo
