@@ -35,6 +35,7 @@ enum ShellStatus {
     CannotExecute = 126,
     NotFound = 127,
     Signalled = 128,
+    ClosedPipe = 141,
     SshFailed = 255
 };
 
@@ -158,10 +159,12 @@ PassCause pullCause(int status, const QStringList& lines) {
 }
 
 /// A host that takes the connection and then keeps silent was falling asleep, whatever ssh had said
-/// before.
+/// before; one that was ended for its many words talks.
 PassCause checkCause(int status, const QStringList& lines) {
     if (status == TimeIsUp)
         return HostAway;
+    if (status == ClosedPipe)
+        return LoginTalks;
     if (const auto cause = causeByLine(lines, cSshRules))
         return *cause;
     if (status == NotFound)

@@ -94,8 +94,10 @@ void RsyncOutputReader::named(const NamedFile& file) {
     if (file.size)
         fBytesNamed =
             std::min(fBytesNamed, std::numeric_limits<qint64>::max() - *file.size) + *file.size;
-    if (fNames.size() < cMostNames)
-        fNames.push_back(unescapedName(file.name));
+    if (fNames.size() >= cMostNames || fNameBytes + file.name.size() > cMostNameBytes)
+        return;
+    fNameBytes += file.name.size();
+    fNames.push_back(unescapedName(file.name));
 }
 
 void RsyncOutputReader::moved(const ProgressLine& line, double now) {
@@ -212,6 +214,12 @@ PassProgress RsyncOutputReader::progress(double now) {
     else if (!fRestIsHere && nothingPassedOver() && fFoldersNamed == (fRootNamed ? 1 : 0))
         progress.filesKnown = fEnd->transferred + fEnd->unchecked;
     return progress;
+}
+
+std::optional<qint64> RsyncOutputReader::filesNamed() const {
+    if (fFormat == NameFormat::None || fFormat == NameFormat::Other)
+        return std::nullopt;
+    return fFilesNamed;
 }
 
 std::vector<QByteArray> RsyncOutputReader::takeNames() {

@@ -15,11 +15,12 @@
 
 namespace kelvo {
 
-/// One thread at a time. Whatever is printed, it keeps no more than the first 50,000 names and one
-/// line of 32 KiB; its time grows with the bytes alone.
+/// One thread at a time. Whatever is printed, it keeps no more than the first 50,000 names, of 8
+/// MiB together, and one line of 32 KiB; its time grows with the bytes alone.
 class RsyncOutputReader {
 public:
     static constexpr std::size_t cMostNames = 50'000;
+    static constexpr qsizetype cMostNameBytes = qsizetype{8} * 1024 * 1024;
 
     /// `restIsHere`: the same command has gone well before, so that what is not named now is here
     /// already. It decides what the share is of: otherwise, as long as rsync has passed over
@@ -34,6 +35,9 @@ public:
 
     /// All but the step. Of what would go back since the last call, nothing is said.
     PassProgress progress(double now);
+
+    /// How many files were named so far, kept or not; nothing where lines do not tell.
+    std::optional<qint64> filesNamed() const;
 
     /// The files named so far, and forgets them; their bytes as they are over there.
     std::vector<QByteArray> takeNames();
@@ -64,7 +68,8 @@ private:
     bool fSkipping = false;  ///< the part is longer than anything worth reading
     bool fRewritten = false; ///< a carriage return has been in the line
     std::vector<QByteArray> fNames;
-    QByteArray fFile; ///< the name that was printed last
+    qsizetype fNameBytes = 0; ///< of all of them
+    QByteArray fFile;         ///< the name that was printed last
     qint64 fFilesNamed = 0;
     qint64 fFoldersNamed = 0;
     bool fRootNamed = false;

@@ -111,16 +111,18 @@ CommandResult RunningPass::run(PassStep step, const Command& command) {
     const double began = fPasses.fClock.seconds();
     CommandResult result = fPasses.fCommands.run(ours);
     const double seconds = fPasses.fClock.seconds() - began;
-    if (isPull(step))
-        result = pulled(std::move(result), command.text);
+    const Transfer transfer = isPull(step) ? pulled(result, command.text) : Transfer();
     (void)show(PassStep::Begun, {});
-    fRecord.commands.push_back(
-        {.role = roleOf(step),
-         .command = command.text,
-         .exitStatus = result.exitStatus,
-         .seconds = seconds,
-         .text = capturedText(result.output, result.errors),
-         .transfer = isPull(step) ? transferOf(command.text, result.output) : Transfer()});
+    fRecord.commands.push_back({.role = roleOf(step),
+                                .command = command.text,
+                                .exitStatus = result.exitStatus,
+                                .seconds = seconds,
+                                .text = capturedText(result.output, result.errors),
+                                .transfer = transfer});
+    // What the runner left out lies in the middle too.
+    CapturedText& text = fRecord.commands.back().text;
+    if (text.leftOut > 0)
+        text.leftOut += result.leftOut;
     return result;
 }
 
@@ -134,9 +136,13 @@ void RunningPass::received(QByteArrayView bytes, const Command& command) {
         command.received(bytes);
 }
 
-CommandResult RunningPass::pulled(CommandResult result, const QString& command) {
+/// Takes the lines that show progress out of the output. Names that were left out of it were read
+/// as they came.
+Transfer RunningPass::pulled(CommandResult& result, const QString& command) {
+    std::optional<qint64> filesNamed;
     {
         const std::lock_guard lock(fPasses.fMutex);
+        filesNamed = fReader->filesNamed();
         std::vector<QByteArray> names = fReader->takeNames();
         fNames.insert(fNames.end(), std::make_move_iterator(names.begin()),
                       std::make_move_iterator(names.end()));
@@ -144,7 +150,10 @@ CommandResult RunningPass::pulled(CommandResult result, const QString& command) 
             fPasses.fWentWell = command;
     }
     result.output = withoutProgress(std::move(result.output));
-    return result;
+    Transfer transfer = transferOf(command, result.output);
+    if (result.leftOut > 0 && transfer.source == TransferSource::Lines)
+        transfer.files = filesNamed;
+    return transfer;
 }
 
 /// Under the lock.

@@ -102,7 +102,7 @@ private:
     bool show(PassStep step, const QString& command);
     void commandStarted(CommandId id, const Command& command);
     void received(QByteArrayView bytes, const Command& command);
-    CommandResult pulled(CommandResult result, const QString& command);
+    Transfer pulled(CommandResult& result, const QString& command);
     PassUnderWay seen();
 
     RunningPasses& fPasses;

@@ -124,6 +124,15 @@ TEST(PassCauseTest, CheckWhoseTimeWasUp_MeansAHostThatIsAwayWhateverItSaid) {
     EXPECT_EQ(causeOf(ended(CommandRole::Pull, 124, QString())).cause, Unknown);
 }
 
+TEST(PassCauseTest, CheckThatPrintedTooMuch_MeansALoginThatTalksWhateverItSaid) {
+    for (const char* said :
+         {"mediauser\n", "ssh: connect to host mac port 22: Connection refused\n"})
+        EXPECT_EQ(causeOf(ended(CommandRole::HostCheck, 141, QString::fromUtf8(said))).cause,
+                  LoginTalks)
+            << said;
+    EXPECT_EQ(causeOf(ended(CommandRole::Pull, 141, QString())).cause, Unknown);
+}
+
 TEST(PassCauseTest, NameOfAFile_IsNoMessage) {
     const QString names = QStringLiteral("Host key verification failed.mov\n"
                                          "a: No space left on device (28).mov\n");

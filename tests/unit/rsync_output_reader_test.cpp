@@ -41,6 +41,7 @@ public:
         return fReader.progress(fNow);
     }
     std::vector<QByteArray> names() { return fReader.takeNames(); }
+    std::optional<qint64> filesNamed() const { return fReader.filesNamed(); }
 
 private:
     RsyncOutputReader fReader;
@@ -225,6 +226,29 @@ TEST(RsyncOutputReaderTest, HostileOutput_TakesNoMemoryAndLittleTime) {
     EXPECT_FALSE(now.share.value_or(0) > 1);
     EXPECT_EQ(read.names().size(), RsyncOutputReader::cMostNames);
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
+}
+
+TEST(RsyncOutputReaderTest, LongNames_AreCountedAndTakeNoMoreThanTheirShare) {
+    Reading read(cFactory);
+    for (int i = 0; i < 1000; ++i)
+        read("1 " + QByteArray::number(i) + QByteArray(30'000, 'x') + "\n");
+    EXPECT_EQ(read.filesNamed(), 1000);
+    qsizetype bytes = 0;
+    for (const QByteArray& name : read.names())
+        bytes += name.size();
+    EXPECT_LE(bytes, RsyncOutputReader::cMostNameBytes);
+    EXPECT_GT(bytes, RsyncOutputReader::cMostNameBytes - 31'000);
+}
+
+TEST(RsyncOutputReaderTest, FilesNamed_AreToldWhereTheLinesTellThem) {
+    for (const char* silent : {"rsync a b", "rsync --out-format='%f' a b"}) {
+        Reading read(QString::fromLatin1(silent));
+        read("one\n");
+        EXPECT_EQ(read.filesNamed(), std::nullopt) << silent;
+    }
+    Reading read(QStringLiteral("rsync -v a b"));
+    read("folder/\none\ntwo\nsent 5 bytes  received 7 bytes\n");
+    EXPECT_EQ(read.filesNamed(), 2);
 }
 
 // -- what is kept of the text

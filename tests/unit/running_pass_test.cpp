@@ -273,6 +273,44 @@ TEST_F(RunningPassTest, ProgressOfAPull_IsNotKept) {
     EXPECT_EQ(records[0].commands.at(0).text.head, QStringLiteral("a.mov\nend\n"));
 }
 
+TEST_F(RunningPassTest, PullOfWhichMuchIsLeftOut_StillTellsItsNamesAndItsFigures) {
+    constexpr const char* cNames = "1 a.mov\n1 b.mov\n1 c.mov\n1 d.mov\n";
+    const QString names = QStringLiteral("rsync --out-format='%l %n'");
+    const QString other = QStringLiteral("rsync --out-format='%f'");
+    const QString statistics = QStringLiteral("rsync --stats");
+    const QString cut = QStringLiteral("1 a.mov\n\n… 16 bytes left out …\n1 d.mov\n");
+    commands.pieces = {cNames};
+    commands.results[names] = {cut, {}, 0, 16};
+    commands.results[other] = {cut, {}, 0, 16};
+    commands.results[statistics] = {QString(cut + cStatistics), {}, 0, 16};
+    std::vector<QByteArray> named;
+    {
+        RunningPass pass(passes, PassKind::Plain);
+        for (const QString& command : {names, other, statistics})
+            (void)pass.run(PassStep::Pull, {.text = command});
+        named = pass.names();
+    }
+    EXPECT_EQ(named, (std::vector<QByteArray>{"a.mov", "b.mov", "c.mov", "d.mov"}));
+    ASSERT_EQ(records.size(), 1U);
+    const std::vector<CommandRecord>& done = records[0].commands;
+    EXPECT_EQ(done[0].transfer.files, 4) << "two of them are not in the text";
+    EXPECT_EQ(done[1].transfer.files, std::nullopt) << "nobody could count them";
+    EXPECT_EQ(done[2].transfer.files, 1);
+    EXPECT_EQ(done[2].transfer.source, TransferSource::Statistics);
+}
+
+TEST_F(RunningPassTest, BytesThatTheRunnerLeftOut_CountAmongThoseThatAreNotKept) {
+    const QString much(200'000, u'x');
+    commands.results[QStringLiteral("x")] = {much, QStringLiteral("the cause\n"), 1, 5'000'000};
+    {
+        RunningPass pass(passes, PassKind::Plain);
+        run(pass, "x");
+    }
+    const CapturedText& text = records.at(0).commands.at(0).text;
+    EXPECT_EQ(text.leftOut, 5'000'000 + 200'010 - text.head.size() - text.tail.size());
+    EXPECT_TRUE(text.tail.endsWith(u"the cause\n"));
+}
+
 TEST_F(RunningPassTest, CheckWhoseTimeWasUp_IsWrittenDownAsAHostThatIsAway) {
     commands.endless = QStringLiteral("ssh whoami");
     {
