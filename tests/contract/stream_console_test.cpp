@@ -130,8 +130,8 @@ TEST_F(StreamConsoleTest, StuckReader_TakesBoundedMemoryAndLearnsWhatIsMissing) 
         lines->print(big);
     const QByteArray all = readToEnd(lines);
     const auto whole = all.count(QByteArray(big.size(), 'x').append('\n'));
-    EXPECT_GE(whole, 8);
-    EXPECT_LT(whole, 12);
+    EXPECT_GE(whole, 2);
+    EXPECT_LT(whole, 4);
     EXPECT_TRUE(all.endsWith(QByteArray::number(20 - whole).append(" lines left out\n")))
         << all.right(40).toStdString();
 }

@@ -14,7 +14,7 @@ namespace kelvo {
 /// missing stands "N lines left out". Not locked: its owner does that.
 class LineBacklog {
 public:
-    static constexpr qsizetype cMostBytes = qsizetype{64} * 1024 * 1024;
+    static constexpr qsizetype cMostBytes = qsizetype{16} * 1024 * 1024;
 
     explicit LineBacklog(qsizetype mostBytes = cMostBytes) : fMostBytes(mostBytes) {}
 

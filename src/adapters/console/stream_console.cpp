@@ -25,7 +25,8 @@ using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
 constexpr auto cStuck = 1s;
-constexpr auto cLongestEnd = 5s;
+/// With what commands take to end, less than 5 s.
+constexpr auto cLongestEnd = 2s;
 constexpr int cLongestBlind = 200; // milliseconds
 
 QString logPrefix() {

@@ -18,7 +18,7 @@ class LogFile;
 /// "yyyy-MM-dd HH:mm:ss.zzz kelvo-mirror[pid] text", and both to the log file. A thread of its own
 /// writes; a stream whose reader is slow or gone holds up neither callers nor the other streams.
 /// Where both descriptors lead to one place, the lines stand there whole and in order.
-/// Behind a reader that is stuck at most 64 MiB of text and one line wait for each stream; what
+/// Behind a reader that is stuck at most 16 MiB of text and one line wait for each stream; what
 /// comes then is left out there, and "N lines left out" stands in its place. On a terminal control
 /// characters are spelled out ("\x1b").
 class StreamConsole final : public Console {
@@ -26,7 +26,7 @@ public:
     /// The descriptors stay open as long as the console; -1 for a stream that does not exist.
     StreamConsole(int output, int errors, LogFile& logFile);
 
-    /// Writes what waits; a reader that takes nothing for 1 s, or is not done after 5 s, loses it.
+    /// Writes what waits; a reader that takes nothing for 1 s, or is not done after 2 s, loses it.
     ~StreamConsole() override;
 
     using Console::print;
