@@ -133,51 +133,95 @@ std::optional<std::vector<Figure>> measurePass() {
                                 sideBySide(median(ours), median(theirs))}};
 }
 
+/// The program without a window, on plain passes between two folders of its own.
+class HeadlessProgram {
+public:
+    /// `rsyncTemplate`: empty for the one that people start with; "%1" is the folder it may use.
+    explicit HeadlessProgram(const QString& rsyncTemplate = {}) {
+        QDir(path()).mkpath(QStringLiteral("config/kelvo-mirror"));
+        QDir(path()).mkpath(QStringLiteral("from"));
+        QString settings = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                          "<plist version=\"1.0\"><dict>"
+                                          "<key>prefAutoStartScanOnLaunch</key><true/>"
+                                          "<key>prefRsyncWithSSH</key><false/>"
+                                          "<key>prefDelayBetweenScans</key><real>30</real>"
+                                          "<key>prefPath1</key><string>%1/from</string>"
+                                          "<key>prefPath2</key><string>%1/to</string>");
+        if (!rsyncTemplate.isEmpty())
+            settings += u"<key>prefRsyncCommandString1</key><string>" +
+                        rsyncTemplate.toHtmlEscaped() + u"</string>";
+        QFile file(path("config/kelvo-mirror/preferences.plist"));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(QString(settings + u"</dict></plist>\n").arg(path()).toUtf8());
+        file.close();
+
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
+        environment.insert(QStringLiteral("XDG_STATE_HOME"), path("state"));
+        fProcess.setProcessEnvironment(environment);
+        fProcess.setStandardOutputFile(path("output"));
+        fProcess.setStandardErrorFile(path("errors"));
+        fProcess.start(QCoreApplication::applicationDirPath() + QStringLiteral("/kelvo-mirror"),
+                       {QStringLiteral("--headless")});
+    }
+    ~HeadlessProgram() { stop(); }
+    HeadlessProgram(const HeadlessProgram&) = delete;
+    HeadlessProgram& operator=(const HeadlessProgram&) = delete;
+
+    void stop() {
+        fProcess.terminate();
+        fProcess.waitForFinished();
+    }
+
+    /// Lets it run on for a while; false when it has ended.
+    bool settle(int milliseconds) { return !fProcess.waitForFinished(milliseconds); }
+
+    /// Whether a file comes to be while it runs, within a minute.
+    bool waitForFile(const char* name) {
+        for (int i = 0; i < 600 && !QFile::exists(path(name)); ++i)
+            (void)settle(100);
+        return QFile::exists(path(name));
+    }
+
+    qint64 pid() const { return fProcess.processId(); }
+    QString path(const char* name = "") const {
+        return fFolder.filePath(QString::fromLatin1(name));
+    }
+    QByteArray output() const {
+        QFile file(path("output"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /// "VmRSS" or "VmHWM", in MiB; -1 when it cannot be read.
+    double memory(const char* figure) const {
+        QFile status(QStringLiteral("/proc/%1/status").arg(pid()));
+        if (!status.open(QIODevice::ReadOnly))
+            return -1;
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith(figure))
+                return line.simplified().split(' ').value(1).toDouble() / 1024;
+        }
+        return -1;
+    }
+
+private:
+    const QTemporaryDir fFolder;
+    QProcess fProcess;
+};
+
 std::optional<std::vector<Figure>> measureRest() {
     constexpr int minute = 60;
-    const QTemporaryDir folder;
-    const auto path = [&folder](const char* name) {
-        return folder.filePath(QString::fromLatin1(name));
-    };
-    QDir(folder.path()).mkpath(QStringLiteral("config/kelvo-mirror"));
-    QDir(folder.path()).mkpath(QStringLiteral("from"));
-    QFile settings(path("config/kelvo-mirror/preferences.plist"));
-    if (!settings.open(QIODevice::WriteOnly))
-        return std::nullopt;
-    settings.write(QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                                  "<plist version=\"1.0\"><dict>"
-                                  "<key>prefAutoStartScanOnLaunch</key><true/>"
-                                  "<key>prefRsyncWithSSH</key><false/>"
-                                  "<key>prefDelayBetweenScans</key><real>30</real>"
-                                  "<key>prefPath1</key><string>%1</string>"
-                                  "<key>prefPath2</key><string>%2</string></dict></plist>\n")
-                       .arg(path("from"), path("to"))
-                       .toUtf8());
-    settings.close();
-
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
-    environment.insert(QStringLiteral("XDG_STATE_HOME"), path("state"));
-    program.setProcessEnvironment(environment);
-    program.setStandardOutputFile(path("output"));
-    program.setStandardErrorFile(path("errors"));
-    program.start(QCoreApplication::applicationDirPath() + QStringLiteral("/kelvo-mirror"),
-                  {QStringLiteral("--headless")});
+    HeadlessProgram program;
     // The first pass and all set-up lie behind after five seconds.
-    if (!program.waitForStarted() || program.waitForFinished(5000)) {
+    if (!program.settle(5000)) {
         std::fputs("The program did not stay up.\n", stderr);
         return std::nullopt;
     }
-    const double before = processorSeconds(program.processId());
-    program.waitForFinished(minute * 1000);
-    const double after = processorSeconds(program.processId());
-    program.terminate();
-    program.waitForFinished();
-    QFile output(path("output"));
-    const bool passed =
-        output.open(QIODevice::ReadOnly) && output.readAll().count("cmd to send = ") >= 2;
-    if (before < 0 || after < 0 || !passed) {
+    const double before = processorSeconds(program.pid());
+    (void)program.settle(minute * 1000);
+    const double after = processorSeconds(program.pid());
+    program.stop();
+    if (before < 0 || after < 0 || program.output().count("cmd to send = ") < 2) {
         std::fputs("The program did not run its passes.\n", stderr);
         return std::nullopt;
     }
@@ -185,10 +229,44 @@ std::optional<std::vector<Figure>> measureRest() {
                                 after - before, 0.02, "s", "one run"}};
 }
 
+/// The peak above rest in MiB while a pull prints what `flood` does; -1 when it did not.
+double memoryOfFlood(const QString& flood) {
+    HeadlessProgram program(
+        QString(u"cd '%1'; touch begun; sleep 2; " + flood + u"; touch printed"));
+    if (!program.waitForFile("begun"))
+        return -1;
+    (void)program.settle(1000);
+    const double rest = program.memory("VmRSS");
+    const bool printed = program.waitForFile("printed") && program.settle(2000);
+    const double peak = program.memory("VmHWM");
+    return printed && rest > 0 && peak > 0 ? peak - rest : -1;
+}
+
+std::optional<std::vector<Figure>> measureFlood() {
+    std::vector<Figure> figures;
+    for (const auto& [what, flood] :
+         {std::pair("a line of 100 MB", "head -c 100000000 /dev/zero | tr '\\0' x"),
+          std::pair("1,000,000 lines", "seq 1000000 1999999"),
+          std::pair("5 s of printing without end", "timeout 5 yes")}) {
+        const double above = memoryOfFlood(QString::fromLatin1(flood));
+        if (above < 0) {
+            std::fputs("The program did not read its flood.\n", stderr);
+            return std::nullopt;
+        }
+        figures.push_back({std::string("peak memory of the program above rest, ") + what, above,
+                           64.0, "MiB", "one run"});
+    }
+    return figures;
+}
+
 } // namespace
 
 Row passRow() {
     return {"pass", measurePass};
+}
+
+Row floodRow() {
+    return {"flood", measureFlood};
 }
 
 Row restRow() {

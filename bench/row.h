@@ -26,6 +26,7 @@ Row settingsRow();
 Row templateRow();
 Row captureRow();
 Row stallRow();
+Row floodRow();
 Row restRow();
 Row passRow();
 Row relaunchRow();
