@@ -230,9 +230,11 @@ TEST(RsyncOutputReaderTest, HostileOutput_TakesNoMemoryAndLittleTime) {
 
 TEST(RsyncOutputReaderTest, LongNames_AreCountedAndTakeNoMoreThanTheirShare) {
     Reading read(cFactory);
-    for (int i = 0; i < 1000; ++i)
-        read("1 " + QByteArray::number(i) + QByteArray(30'000, 'x') + "\n");
-    EXPECT_EQ(read.filesNamed(), 1000);
+    QByteArray names;
+    for (int i = 0; i < 300; ++i)
+        names += "1 " + QByteArray::number(i) + QByteArray(30'000, 'x') + "\n";
+    read(names);
+    EXPECT_EQ(read.filesNamed(), 300);
     qsizetype bytes = 0;
     for (const QByteArray& name : read.names())
         bytes += name.size();
