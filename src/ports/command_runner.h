@@ -27,6 +27,11 @@ struct Command {
     /// notices no difference.
     std::optional<double> seconds = {};
 
+    /// For a command that must leave nothing behind: once it has ended, with its standard output
+    /// closed, what it has left running in its session is ended as `cancel` does it, before its
+    /// caller goes on; one line in the system log says so.
+    bool leavesNothing = false;
+
     /// Gets the standard output piece by piece as it arrives, on the thread that called `run`;
     /// characters may be split between two pieces. While it runs nothing more is read.
     std::function<void(QByteArrayView)> received = {};

@@ -114,6 +114,7 @@ private:
         const std::lock_guard lock(fMutex);
         fAsked.push_back({.text = command.text,
                           .seconds = command.seconds,
+                          .leavesNothing = command.leavesNothing,
                           .input = command.input,
                           .variables = command.variables});
         Rule found;
