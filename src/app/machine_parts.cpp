@@ -22,7 +22,8 @@ MachineParts::MachineParts(bool withTray)
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
       singleCopy(QFile::encodeName(logFolder()).toStdString(), console),
-      dnssdBrowser(console, mainQueue), notices([this](const Notice& notice) {
+      sentinelLauncher(commands.runningCommands()), dnssdBrowser(console, mainQueue),
+      notices([this](const Notice& notice) {
           if (fTrayIcon)
               fTrayIcon->showNotice(notice);
       }) {

@@ -105,6 +105,8 @@ CommandResult RunningPass::run(PassStep step, const Command& command) {
     if (!show(step, command.text))
         return {};
     Command ours = command;
+    // The command after arrivals may go on in the background.
+    ours.leavesNothing = step != PassStep::AfterArrivals;
     ours.started = [this, &command](CommandId id) { commandStarted(id, command); };
     if (isPull(step))
         ours.received = [this, &command](QByteArrayView bytes) { received(bytes, command); };

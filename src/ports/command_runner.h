@@ -43,6 +43,11 @@ struct Command {
 
     OutputBounds bounds = {};
 
+    /// For a command that must leave nothing behind: once it has ended, with its standard output
+    /// closed, what it has left running in its session is ended as `cancel` does it, before its
+    /// caller goes on; one line in the system log says so.
+    bool leavesNothing = false;
+
     /// Gets all of the standard output, whatever is kept of it, piece by piece as it arrives, on
     /// the thread that called `run`; characters may be split between two pieces. While it runs
     /// nothing more is read.

@@ -1,6 +1,8 @@
 // FileManager: the machine's files, as the program asks about them and changes them.
 #pragma once
 
+#include "support/subscription.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QDateTime>
@@ -56,6 +58,13 @@ public:
     virtual std::vector<FoundFile>
     filesChangedSince(const QByteArray& folder, const QDateTime& moment,
                       const std::function<bool(QByteArrayView name)>& passedOver) const = 0;
+
+    /// Claims the folder at `path`, links followed, until what is returned goes, or this program
+    /// does. Nothing when somebody else holds a claim to the same folder, whatever path they took.
+    /// Never waits for them and leaves nothing in the folder. Where nothing can be claimed (no such
+    /// folder, one that may not be read, a file system without locks) that counts as a claim. A
+    /// claim says nothing about the folders inside.
+    virtual std::optional<Subscription> claimFolder(const QString& path) const = 0;
 
     /// The user's home folder without a closing "/"; empty when it is not known.
     virtual QString homeDirectory() const = 0;

@@ -38,10 +38,10 @@ public:
     virtual bool isExecutable(const QString& path) const = 0;
 
     /// Starts `path` with `arguments`. Returns when the sentinel has taken hold of what it watches,
-    /// has ended, or after 2 s. It shares only the standard streams and the working folder with
-    /// this process, and no terminal or signal meant for this process reaches it. `terminated` (may
-    /// be empty) is called once, when it has ended, on a thread of the launcher's own. Nothing
-    /// when it cannot be started. Any thread.
+    /// has ended, or after 2 s. It shares only the standard streams, the working folder and
+    /// what the launcher hands it of this program's commands, and no terminal or signal meant for
+    /// this process reaches it. `terminated` (may be empty) is called once, when it has ended, on a
+    /// thread of the launcher's own. Nothing when it cannot be started. Any thread.
     virtual std::optional<SentinelTask> launch(const QString& path, const QStringList& arguments,
                                                Terminated terminated) = 0;
 };

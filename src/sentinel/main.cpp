@@ -1,11 +1,13 @@
 // watchdog PID: waits for the end of that program and then becomes the program anew. Told to end
 // (SIGTERM) it just ends. Takes hold of the program first, then closes every descriptor but the
-// standard streams: who has started it sees by that when it is in place.
+// standard streams and the table of the program's commands, which may be the fourth: who has
+// started it sees by that when it is in place.
 #include "sentinel/exit_code.h"
 #include "sentinel/lines.h"
 #include "sentinel/orphans.h"
 #include "sentinel/program_image.h"
 
+#include <fcntl.h>
 #include <signal.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -38,11 +40,23 @@ void endWhenTold() {
     (void)::sigaction(SIGTERM, &action, nullptr);
 }
 
-void closeAllBut(int kept) {
-    const auto number = static_cast<unsigned>(kept);
-    if (number > STDERR_FILENO + 1)
-        (void)::syscall(SYS_close_range, STDERR_FILENO + 1, number - 1, 0);
-    (void)::syscall(SYS_close_range, number + 1, ~0U, 0);
+/// -1 when there is none.
+int takeCommandTable() {
+    constexpr int cPlace = STDERR_FILENO + 2;
+    return isCommandTable(cPlace) && ::fcntl(cPlace, F_SETFD, FD_CLOEXEC) == 0 ? cPlace : -1;
+}
+
+/// Beside the standard streams; `table` may be -1.
+void closeAllBut(int handle, int table) {
+    const int low = table >= 0 && table < handle ? table : handle;
+    const int high = table > handle ? table : handle;
+    const auto close = [](int first, int last) {
+        if (first <= last)
+            (void)::syscall(SYS_close_range, first, last, 0);
+    };
+    close(STDERR_FILENO + 1, low - 1);
+    close(low + 1, high - 1);
+    close(high + 1, INT_MAX);
 }
 
 ExitCode watch(pid_t program) {
@@ -59,10 +73,11 @@ ExitCode watch(pid_t program) {
     if (const ExitCode code = learn(program, handle, image); code != ExitCode::ToldToEnd)
         return code;
     endWhenTold();
-    closeAllBut(handle);
+    const int table = takeCommandTable();
+    closeAllBut(handle, table);
 
     (void)hasEnded(handle, true);
-    endOrphans(program);
+    endOrphans(program, table);
     (void)::execve(image.path, image.arguments, image.environment);
     say({"cannot start ", image.path, " again: ", ::strerrordesc_np(errno)});
     return ExitCode::CannotRelaunch;

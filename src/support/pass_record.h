@@ -40,12 +40,13 @@ enum class PassCause {
     Interrupted = 21, ///< the program ended the commands
     LoginTalks = 22,  ///< the host prints text at login, which hides its answer
     Unknown = 23,
-    SettingsRefused = 24, ///< a text in the settings cannot stand in a command
-    Cancelled = 25,       ///< a person ended the pass; not trouble
-    AfterFailed = 26,     ///< all went well, but the command that is run after arrivals failed
+    SettingsRefused = 24,  ///< a text in the settings cannot stand in a command
+    Cancelled = 25,        ///< a person ended the pass; not trouble
+    AfterFailed = 26,      ///< all went well, but the command that is run after arrivals failed
+    DestinationTaken = 27, ///< another program is pulling into the folder
 };
 
-inline constexpr PassCause cLastPassCause = PassCause::AfterFailed;
+inline constexpr PassCause cLastPassCause = PassCause::DestinationTaken;
 
 /// A long text's beginning and end.
 struct CapturedText {

@@ -64,6 +64,9 @@ PassEnd PassBody::runPlain(RunningPass& pass) const {
         return {.lacksSettings = true};
     if (!sourceIsThere(pass, paths->source))
         return {};
+    const auto claim = claimDestination(pass, cPlainOperation, paths->destination);
+    if (!claim)
+        return {};
     fParts.pullsBegin();
     if (const auto filled = fParts.rsyncCommand.fillInParams(command, params)) {
         fParts.console.print(u"cmd to send = " + *filled);
@@ -81,6 +84,18 @@ bool PassBody::sourceIsThere(RunningPass& pass, const QString& source) const {
     logInside(cPlainOperation, QString(u".......MISSING: " + fault));
     pass.refused(fault, PassCause::SourceMissing);
     return false;
+}
+
+/// Nothing when another program is pulling into the folder.
+std::optional<Subscription> PassBody::claimDestination(RunningPass& pass, QStringView operation,
+                                                       const QString& destination) const {
+    auto claim = fParts.files.claimFolder(destination);
+    if (!claim) {
+        logInside(operation,
+                  QString(u".......TAKEN: another program is pulling into " + destination));
+        pass.refused(destination, PassCause::DestinationTaken);
+    }
+    return claim;
 }
 
 // -- the remote pass
@@ -104,6 +119,9 @@ PassEnd PassBody::runRemote(RunningPass& pass) const {
     const QString usersCommand = rsyncTemplate();
     if (refuses(pass, cRemoteOperation, commandFault(usersCommand, params)))
         return {.lacksSettings = true};
+    const auto claim = claimDestination(pass, cRemoteOperation, paths->destination);
+    if (!claim)
+        return {};
     fParts.pullsBegin();
     bool allSaid = true;
     if (const auto filled = fParts.rsyncCommand.fillInParams(usersCommand, params))

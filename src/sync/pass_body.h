@@ -4,6 +4,7 @@
 #include "ports/command_runner.h"
 #include "support/pass_progress.h"
 #include "support/pass_record.h"
+#include "support/subscription.h"
 
 #include <QString>
 #include <QStringView>
@@ -58,6 +59,8 @@ private:
     QString remoteFault(const QString& keyPath) const;
     HostVerdict validateRemoteHost(RunningPass& pass) const;
     bool sourceIsThere(RunningPass& pass, const QString& source) const;
+    std::optional<Subscription> claimDestination(RunningPass& pass, QStringView operation,
+                                                 const QString& destination) const;
     bool pull(RunningPass& pass, PassStep step, const QString& command, QStringView heading) const;
     void afterPulls(RunningPass& pass, const QString& destination, bool allSaid) const;
     QString rsyncTemplate() const;

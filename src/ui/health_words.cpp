@@ -121,6 +121,7 @@ Remedy remedyFor(const PassRecord& pass) {
     case SettingsRefused:
         return remote ? Remedy::ShowRemoteTab : Remedy::ChooseSource;
     case DestinationUnusable:
+    case DestinationTaken:
         return Remedy::ChooseDestination;
     case ToolMissingHere:
         return Remedy::CopyInstallCommand;

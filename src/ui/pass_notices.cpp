@@ -12,9 +12,11 @@
 namespace kelvo {
 namespace {
 
-/// Trouble that may go by itself: a Mac falls asleep, a network goes away and comes back.
+/// Trouble that may go by itself: a Mac falls asleep, a network goes away and comes back, another
+/// program's pass ends.
 bool mayMendItself(PassCause cause) {
-    return wordsFor(cause).group == CauseGroup::Host || cause == PassCause::CutOff;
+    return wordsFor(cause).group == CauseGroup::Host || cause == PassCause::CutOff ||
+           cause == PassCause::DestinationTaken;
 }
 
 // The words are the program's own: nothing that a host said is shown on the desktop.

@@ -100,7 +100,17 @@ private:
         else if (action == u"quit-and-relaunch") {
             fDefaults.setObject(u"setAtTheEnd", QStringLiteral("kept"));
             Watchdog::quitAndRelaunch();
-        } else if (action == u"command")
+        } else if (action == u"cleared")
+            fBgQueue.async([this] {
+                // Both forget where they come from; the second leaves the session as well.
+                outputWhenRunAsShellCommand(
+                    fShell, QString(u"cd '" + fFolder +
+                                    u"'; env -i sh -c 'trap \"\" TERM; while :; do echo x >> "
+                                    u"written; sleep 0.01; done' >/dev/null 2>&1 & "
+                                    u"exec env -i setsid sh -c 'while :; do echo x >> orphan; "
+                                    u"sleep 0.01; done'"));
+            });
+        else if (action == u"command")
             fBgQueue.async([this] {
                 outputWhenRunAsShellCommand(
                     fShell,
@@ -124,7 +134,7 @@ private:
     PosixShellRunner fShell{fConsole};
     ThreadPoolQueue fBgQueue;
     SignalPipe fSignals;
-    PosixSentinelLauncher fLauncher;
+    PosixSentinelLauncher fLauncher{fShell.runningCommands()};
 };
 
 } // namespace

@@ -305,5 +305,32 @@ TYPED_TEST(FileManagerContractTest, ChangeMode_HandsTheSystemsResultBack) {
     EXPECT_EQ(this->files.changeMode(place.at("nothing"), 0755), -1);
 }
 
+TYPED_TEST(FileManagerContractTest, Claim_IsOnesAloneUntilItGoes) {
+    auto& place = this->place;
+    place.putFolder("movies");
+    place.putFolder("others");
+    place.putLink("movies", "link");
+    const int before = place.count();
+    auto claim = this->files.claimFolder(place.at("movies"));
+    ASSERT_TRUE(claim);
+    EXPECT_FALSE(this->files.claimFolder(place.at("movies")));
+    EXPECT_FALSE(this->files.claimFolder(place.at("link"))) << "the same folder";
+    EXPECT_TRUE(this->files.claimFolder(place.at("others")));
+    EXPECT_EQ(place.count(), before);
+    claim.reset();
+    EXPECT_TRUE(this->files.claimFolder(place.at("link")));
+    EXPECT_TRUE(this->files.claimFolder(place.at("movies"))) << "nobody has kept that one";
+}
+
+TYPED_TEST(FileManagerContractTest, WhatCannotBeClaimed_CountsAsAClaim) {
+    auto& place = this->place;
+    place.putFile("file", "");
+    for (const QString& path : {place.at("nothing"), place.at("file"), QString()}) {
+        const auto claim = this->files.claimFolder(path);
+        EXPECT_TRUE(claim) << path.toStdString();
+        EXPECT_TRUE(this->files.claimFolder(path)) << path.toStdString();
+    }
+}
+
 } // namespace
 } // namespace kelvo

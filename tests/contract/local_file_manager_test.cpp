@@ -7,8 +7,12 @@
 #include <gtest/gtest.h>
 
 #include <pwd.h>
+#include <signal.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
+
+#include <array>
 
 namespace kelvo {
 namespace {
@@ -42,6 +46,28 @@ protected:
 
 TEST_F(LocalFileManagerTest, FileExists_LongPathIsNoFile) {
     EXPECT_FALSE(fManager.fileExistsAtPath(QString(10'000, u'x')));
+}
+
+TEST_F(LocalFileManagerTest, ClaimOfAProgramThatDies_IsFree) {
+    std::array<int, 2> held{};
+    ASSERT_EQ(::pipe(held.data()), 0);
+    const QString folder = fFolder.path();
+    const pid_t other = ::fork();
+    if (other == 0) {
+        const auto claim = fManager.claimFolder(folder);
+        (void)!::write(held[1], claim ? "1" : "0", 1);
+        ::pause();
+        ::_exit(0);
+    }
+    char has = '0';
+    ASSERT_EQ(::read(held[0], &has, 1), 1);
+    EXPECT_EQ(has, '1');
+    EXPECT_FALSE(fManager.claimFolder(folder));
+    ::kill(other, SIGKILL);
+    ASSERT_EQ(::waitpid(other, nullptr, 0), other);
+    EXPECT_TRUE(fManager.claimFolder(folder));
+    for (const int end : held)
+        ::close(end);
 }
 
 TEST_F(LocalFileManagerTest, Home_IsTheVariableWithoutClosingSlashes) {

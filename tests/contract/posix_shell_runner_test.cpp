@@ -74,10 +74,14 @@ private:
     const std::string fPath = std::string(::getenv("TMPDIR")) + "/meeting"; // NOLINT
 };
 
+bool hasEnded(pid_t pid) {
+    QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
+    return !status.open(QIODevice::ReadOnly) || status.readAll().contains(") Z ");
+}
+
 bool isGone(pid_t pid) {
     for (int tries = 0; tries < 500; ++tries) {
-        QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
-        if (!status.open(QIODevice::ReadOnly) || status.readAll().contains(") Z "))
+        if (hasEnded(pid))
             return true;
         std::this_thread::sleep_for(10ms);
     }
@@ -507,6 +511,47 @@ TEST_F(PosixShellRunnerTest, EndAll_ReachesOtherGroupsOfTheSession) {
     const pid_t other = numberAfter(text.get(), QStringLiteral("held by "));
     ASSERT_GT(other, 0);
     EXPECT_TRUE(isGone(other));
+}
+
+TEST_F(PosixShellRunnerTest, EndAll_ReachesAProcessThatLeftTheSessionWithoutItsVariables) {
+    Meeting meeting;
+    auto text = start(u"env -i setsid sh -c \"echo held by \\$\\$; " + meeting.announce() +
+                      u"exec sleep 60\" & wait");
+    meeting.wait();
+    fRunner.endAll();
+    const pid_t away = numberAfter(text.get(), QStringLiteral("held by "));
+    ASSERT_GT(away, 0);
+    EXPECT_TRUE(isGone(away));
+}
+
+TEST_F(PosixShellRunnerTest, CommandThatMustLeaveNothing_EndsWhatStaysInItsSession) {
+    const QString command = QStringLiteral("set -m; sleep 60 >/dev/null 2>&1 & "
+                                           "echo left $!; exit 3");
+    const CommandResult plain = resultOf(command);
+    const pid_t stays = numberAfter(plain.output, QStringLiteral("left "));
+    ASSERT_GT(stays, 0);
+    EXPECT_FALSE(hasEnded(stays));
+    ::kill(stays, SIGKILL);
+
+    const CommandResult result = fRunner.run({.text = command, .leavesNothing = true});
+    EXPECT_EQ(result.exitStatus, 3);
+    const pid_t left = numberAfter(result.output, QStringLiteral("left "));
+    ASSERT_GT(left, 0);
+    EXPECT_TRUE(hasEnded(left));
+    EXPECT_EQ(fConsole.logged().count(QStringLiteral(
+                  "A shell command has left 1 of its processes running; they are ended.")),
+              1);
+}
+
+TEST_F(PosixShellRunnerTest, CommandThatMustLeaveNothing_KeepsWhatLeftTheSession) {
+    const CommandResult result =
+        fRunner.run({.text = QStringLiteral("setsid sh -c 'echo away $$; exec sleep 60 >/dev/null "
+                                            "2>&1' &"),
+                     .leavesNothing = true});
+    const pid_t away = numberAfter(result.output, QStringLiteral("away "));
+    ASSERT_GT(away, 0);
+    EXPECT_FALSE(hasEnded(away)) << "the shared connection that ssh keeps is such a one";
+    EXPECT_TRUE(fConsole.lines().empty());
 }
 
 TEST_F(PosixShellRunnerTest, EndAll_DoesNotWaitForAProcessThatLeftTheSession) {

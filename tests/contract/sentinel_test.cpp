@@ -1,4 +1,6 @@
 // The sentinel by itself: what it takes, what it holds, how it ends.
+#include "adapters/process/command_processes.h"
+#include "adapters/process/command_table.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "sentinel/exit_code.h"
 #include "support/descendants.h"
@@ -14,11 +16,17 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <future>
 #include <optional>
+#include <set>
+#include <string>
 
 namespace kelvo {
 namespace {
@@ -61,7 +69,8 @@ protected:
         return livingChild(::getpid(), "watchdog").value_or(-1);
     }
 
-    PosixSentinelLauncher fLauncher;
+    CommandTable fCommands;
+    PosixSentinelLauncher fLauncher{fCommands.descriptor()};
     std::optional<SentinelTask> fTask;
 };
 
@@ -139,6 +148,38 @@ TEST_F(SentinelTest, ProgramThatIsGone_CannotBeStartedAgain) {
                          " again: No such file or directory\n"));
 }
 
+TEST_F(SentinelTest, TableOfCommands_EndsTheSessionsThatItMeansAndNoOther) {
+    QProcess program;
+    QProcess meant;
+    QProcess bystander; // has got the number of a session that is gone
+    for (QProcess* process : {&program, &meant, &bystander}) {
+        process->setChildProcessModifier([] { ::setsid(); });
+        process->start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+        ASSERT_TRUE(process->waitForStarted());
+    }
+    const auto id = [](const QProcess& process) { return static_cast<pid_t>(process.processId()); };
+    std::array<std::array<std::uint64_t, 4>, 64> rows{};
+    rows[7] = {std::uint64_t(id(meant)), startOf(id(meant)), 0, 0};
+    rows[63] = {std::uint64_t(id(bystander)), startOf(id(bystander)) - 1, 0, 0};
+    const UniqueFd table(::memfd_create("table", MFD_CLOEXEC));
+    ASSERT_EQ(::write(table.get(), rows.data(), sizeof rows), ssize_t{sizeof rows});
+
+    std::promise<int> ended;
+    const auto task =
+        PosixSentinelLauncher(table.get())
+            .launch(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())},
+                    [&ended](int exitCode) { ended.set_value(exitCode); });
+    ASSERT_TRUE(task);
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_TRUE(meant.waitForFinished());
+    // It becomes a program that does not know the option.
+    EXPECT_EQ(ended.get_future().get(), EXIT_FAILURE);
+    EXPECT_FALSE(bystander.waitForFinished(0));
+    bystander.kill();
+    EXPECT_TRUE(bystander.waitForFinished());
+}
+
 TEST_F(SentinelTest, WhileItWaits_ItSharesStreamsOnlyAndNoTerminalOrSignal) {
     const int inheritable = ::open("/dev/null", O_RDONLY); // NOLINT: shall be inherited
     sigset_t blocked;
@@ -153,6 +194,7 @@ TEST_F(SentinelTest, WhileItWaits_ItSharesStreamsOnlyAndNoTerminalOrSignal) {
     ASSERT_GT(sentinel, 0);
 
     const QDir descriptors(QStringLiteral("/proc/%1/fd").arg(sentinel));
+    std::set<std::string> targets;
     int held = 0;
     for (const QString& name :
          descriptors.entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System)) {
@@ -160,11 +202,12 @@ TEST_F(SentinelTest, WhileItWaits_ItSharesStreamsOnlyAndNoTerminalOrSignal) {
         (void)!::readlink(descriptors.filePath(name).toLocal8Bit().constData(), target.data(),
                           target.size() - 1);
         if (name.toInt() > STDERR_FILENO) {
-            EXPECT_STREQ(target.data(), "anon_inode:[pidfd]") << name.toStdString();
+            targets.insert(target.data());
         }
         ++held;
     }
-    EXPECT_EQ(held, 4);
+    EXPECT_EQ(targets, (std::set<std::string>{"/memfd:commands (deleted)", "anon_inode:[pidfd]"}));
+    EXPECT_EQ(held, 5);
     EXPECT_EQ(::getsid(sentinel), sentinel);
     EXPECT_EQ(::getpgid(sentinel), sentinel);
     EXPECT_EQ(procFile(sentinel, "environ"), "");

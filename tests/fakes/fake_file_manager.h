@@ -40,6 +40,14 @@ public:
         }
         return changed;
     }
+    std::optional<Subscription> claimFolder(const QString& path) const override {
+        if (!folders.contains(followed(path)))
+            return Subscription();
+        if (claimed.contains(followed(path)))
+            return std::nullopt;
+        claimed.insert(followed(path));
+        return Subscription([this, folder = followed(path)] { claimed.remove(folder); });
+    }
     QString homeDirectory() const override { return home; }
     FolderOrFault temporaryFolder() override {
         if (!temporary.path.isEmpty() && !folders.contains(temporary.path)) {
@@ -92,8 +100,9 @@ public:
     QStringList removed;                       ///< every path so far
     QList<std::pair<QString, unsigned>> modes; ///< every one given so far
     int modeResult = 0;
-    std::vector<FoundFile> found; ///< what the two operations for files of a folder know of
-    QString guarded;              ///< nothing changes at this path
+    mutable QSet<QString> claimed; ///< the folders that somebody holds a claim to
+    std::vector<FoundFile> found;  ///< what the two operations for files of a folder know of
+    QString guarded;               ///< nothing changes at this path
 
 private:
     QString followed(const QString& path) const { return links.value(path, path); }

@@ -129,6 +129,7 @@ private:
         fAsked.push_back({.text = command.text,
                           .seconds = command.seconds,
                           .bounds = command.bounds,
+                          .leavesNothing = command.leavesNothing,
                           .input = command.input,
                           .variables = command.variables});
         Rule found;

@@ -3,6 +3,7 @@
 #include "support/program_profile.h"
 #include "support/running_program.h"
 #include "support/sanitized.h"
+#include "support/wait_until.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -10,12 +11,15 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <cstring>
 
 namespace kelvo {
 namespace {
 
 const QString cProgram = QStringLiteral(KELVO_PROGRAM);
+constexpr auto cEverything = QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot;
 
 class OnceSystemTest : public ::testing::Test, public ProgramProfile {
 protected:
@@ -92,6 +96,36 @@ TEST_F(OnceSystemTest, MissingSource_IsNamed) {
     EXPECT_EQ(ended.code, 13);
     EXPECT_EQ(object(ended).value(u"cause"), QStringLiteral("source-missing"));
     EXPECT_FALSE(object(ended).value(u"nextStep").toString().isEmpty());
+}
+
+TEST_F(OnceSystemTest, FolderThatAnotherProgramPullsInto_IsNamedAndLeftAlone) {
+    write(path(QStringLiteral("Camera/a.mov")), "movie");
+    write(path(QStringLiteral("Incoming/kept.txt")), "mine");
+    const QString goOn = path(QStringLiteral("go-on"));
+    writeProfile(QStringLiteral("prefRsyncCommandString1"),
+                 QStringLiteral("echo begun > '%1'; read line < '%2'")
+                     .arg(path(QStringLiteral("mark")), goOn));
+    ASSERT_EQ(::mkfifo(goOn.toLocal8Bit().constData(), 0600), 0);
+    QProcess first;
+    first.setProcessEnvironment(environment());
+    first.start(cProgram, {QStringLiteral("--once")});
+    ASSERT_TRUE(waitUntil([&] { return contents(path(QStringLiteral("mark"))) == "begun\n"; }));
+
+    const ProgramProfile other;
+    write(other.settingsFile(), plistText(plainProfile()));
+    const Ended taken =
+        other.runToEnd(cProgram, {QStringLiteral("--once"), QStringLiteral("--json")});
+    EXPECT_EQ(taken.code, 14);
+    EXPECT_EQ(object(taken).value(u"cause"), QStringLiteral("destination-taken"));
+    EXPECT_FALSE(object(taken).value(u"nextStep").toString().isEmpty());
+    EXPECT_EQ(QDir(path(QStringLiteral("Incoming"))).entryList(cEverything),
+              QStringList{QStringLiteral("kept.txt")});
+
+    write(goOn, "well\n");
+    ASSERT_TRUE(first.waitForFinished());
+    EXPECT_EQ(first.exitCode(), 0);
+    EXPECT_EQ(other.runToEnd(cProgram, {QStringLiteral("--once")}).code, 0);
+    EXPECT_EQ(contents(path(QStringLiteral("Incoming/a.mov"))), "movie");
 }
 
 TEST_F(OnceSystemTest, NothingSet_IsNamedForPeople) {

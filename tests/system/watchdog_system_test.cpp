@@ -324,6 +324,22 @@ TEST_F(WatchdogSystemTest, CommandsOfTheDeadProgram_HaveEndedBeforeItIsRelaunche
     EXPECT_EQ(size("orphan"), orphan);
 }
 
+TEST_F(WatchdogSystemTest, CommandsWithoutTheirVariables_HaveEndedBeforeItIsRelaunched) {
+    const Start first = start(QStringLiteral("cleared"));
+    const auto size = [this](const char* name) {
+        return QFileInfo(path(QString::fromLatin1(name))).size();
+    };
+    ASSERT_TRUE(waitUntil([&] { return size("written") > 0 && size("orphan") > 0; }));
+    ::kill(first.pid, SIGKILL);
+    const Start second = waitForStart(2);
+    ASSERT_GT(second.pid, 0);
+    const qint64 written = size("written");
+    const qint64 orphan = size("orphan");
+    endInOrder(second.pid);
+    EXPECT_EQ(size("written"), written);
+    EXPECT_EQ(size("orphan"), orphan);
+}
+
 TEST_F(WatchdogSystemTest, FiftyRounds_LeaveNothingBehind) {
     constexpr std::size_t cRounds = 50;
     Start last = start(QStringLiteral("wait"), {QStringLiteral("clear-record")});

@@ -76,6 +76,18 @@ TEST_F(AfterArrivalsTest, FailedCheck_BringsNothing) {
     EXPECT_TRUE(records.at(0).arrivals.empty());
 }
 
+TEST_F(AfterArrivalsTest, Command_MayLeaveSomethingRunningAsNoPullMay) {
+    shell.answerTo(QStringLiteral("pull"), [this](const QString&) {
+        arrive("new");
+        return QString();
+    });
+    button.performClick();
+    runBodies();
+    ASSERT_EQ(shell.asked().size(), 2U);
+    EXPECT_TRUE(shell.asked()[0].leavesNothing);
+    EXPECT_FALSE(shell.asked()[1].leavesNothing);
+}
+
 TEST_F(AfterArrivalsTest, BlankCommand_IsNotRun) {
     shell.answerTo(QStringLiteral("pull"), [this](const QString&) {
         arrive("new");

@@ -114,6 +114,9 @@ TEST_F(PassNoticesTest, TroubleThatOnlyAPersonMends_IsUrgent) {
     EXPECT_FALSE(desktop.notices.back().urgent) << "a Mac may sleep at night";
     pass(PassCause::Well);
     EXPECT_FALSE(desktop.notices.back().urgent);
+    pass(PassCause::DestinationTaken);
+    EXPECT_FALSE(desktop.notices.back().urgent) << "the other program's pass ends";
+    pass(PassCause::Well);
     pass(PassCause::KeyRefused);
     EXPECT_TRUE(desktop.notices.back().urgent);
 }

@@ -267,6 +267,36 @@ TEST_F(PlainPassTest, MissingSourceFolder_IsRecordedWithoutACommandAndTriedAgain
     EXPECT_EQ(records.at(1).cause, PassCause::Well);
 }
 
+TEST_F(PlainPassTest, DestinationOfAnotherProgram_IsNotPulledIntoAndTriedAgainAfterTheRest) {
+    files.folders.insert(QStringLiteral("/Incoming"));
+    files.claimed.insert(QStringLiteral("/Incoming"));
+    button.performClick();
+    runBodies();
+    EXPECT_TRUE(shell.commands().isEmpty());
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].cause, PassCause::DestinationTaken);
+    EXPECT_FALSE(scanning());
+    files.claimed.clear();
+    mainQueue.advance(31.0);
+    runBodies();
+    EXPECT_EQ(shell.commands().size(), 1);
+    EXPECT_EQ(records.at(1).cause, PassCause::Well);
+}
+
+TEST_F(PlainPassTest, Destination_IsClaimedForThePassAlone) {
+    files.folders.insert(QStringLiteral("/Incoming"));
+    bool claimed = false;
+    shell.answerTo(QStringLiteral("pull"), [&](const QString&) {
+        claimed = files.claimed.contains(QStringLiteral("/Incoming"));
+        return QString();
+    });
+    button.performClick();
+    EXPECT_TRUE(files.claimed.isEmpty());
+    runBodies();
+    EXPECT_TRUE(claimed);
+    EXPECT_TRUE(files.claimed.isEmpty());
+}
+
 TEST_F(PlainPassTest, SwitchedOffDuringAPass_EndsAtTheNextCheck) {
     button.performClick();
     runBodies();
@@ -280,6 +310,30 @@ TEST_F(PlainPassTest, SwitchedOffDuringAPass_EndsAtTheNextCheck) {
 // -- the remote pass
 
 using RemotePassTest = SyncCycleTest;
+
+TEST_F(RemotePassTest, DestinationOfAnotherProgram_CountsNoFailureAndIsLeftAlone) {
+    files.folders.insert(QStringLiteral("/Incoming"));
+    files.claimed.insert(QStringLiteral("/Incoming"));
+    button.performClick();
+    runBodies();
+    EXPECT_TRUE(shell.commands().isEmpty());
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].cause, PassCause::DestinationTaken);
+    EXPECT_EQ(records[0].verdict, HostVerdict::Valid);
+    EXPECT_TRUE(enabled());
+    EXPECT_FALSE(lastStatus().string.contains(u"something went wrong"));
+    files.claimed.clear();
+    bool claimed = false;
+    shell.answerTo(cMovieRules, [&](const QString&) {
+        claimed = files.claimed.contains(QStringLiteral("/Incoming"));
+        return QString();
+    });
+    mainQueue.advance(31.0);
+    runBodies();
+    EXPECT_EQ(shell.commands().size(), 2);
+    EXPECT_TRUE(claimed);
+    EXPECT_TRUE(files.claimed.isEmpty());
+}
 
 TEST_F(RemotePassTest, Body_ValidatesThenPullsTwice) {
     shell.answerTo(QStringLiteral("pull"), QStringLiteral("one\n"));

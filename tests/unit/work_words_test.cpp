@@ -228,6 +228,7 @@ TEST_F(HealthWordsTest, EveryTrouble_HasARemedyOrANextStep) {
         EXPECT_NE(words().health.remedy, Remedy::None) << i;
         EXPECT_FALSE(words().health.text.contains(u'\n')) << i;
     }
+    EXPECT_EQ(remedyFor(passOf(PassCause::DestinationTaken)), Remedy::ChooseDestination);
     EXPECT_EQ(remedyFor(passOf(PassCause::SourceMissing, PassKind::Plain)), Remedy::ChooseSource);
     EXPECT_EQ(remedyFor(passOf(PassCause::SourceMissing, PassKind::Remote)), Remedy::ShowRemoteTab);
 }

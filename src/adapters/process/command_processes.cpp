@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cinttypes>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -20,24 +21,32 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// The session of a living process; -1 when it is gone or a zombie.
-pid_t livingSession(pid_t pid) {
+struct Status {
+    char state = 'X';
+    int session = -1;
+    std::uint64_t start = 0;
+};
+
+Status statusOf(pid_t pid) {
     const UniqueFd file(
         ::open(("/proc/" + std::to_string(pid) + "/stat").c_str(), O_RDONLY | O_CLOEXEC));
     std::array<char, 512> text{};
     const ssize_t size = file ? ::read(file.get(), text.data(), text.size() - 1) : -1;
-    if (size <= 0)
-        return -1;
     // The name, in brackets, may hold anything; the fields start behind the last bracket.
-    const char* const name = std::strrchr(text.data(), ')');
-    char state = 'X';
-    int parent = 0;
-    int group = 0;
-    int session = -1;
-    if (name == nullptr ||
-        std::sscanf(name + 1, " %c %d %d %d", &state, &parent, &group, &session) != 4) // NOLINT
-        return -1;
-    return state == 'Z' || state == 'X' ? -1 : session;
+    const char* const name = size > 0 ? std::strrchr(text.data(), ')') : nullptr;
+    Status status;
+    constexpr const char* cFields = " %c %*d %*d %d %*s %*s %*s %*s %*s %*s %*s %*s %*s %*s %*s "
+                                    "%*s %*s %*s %*s %" SCNu64;
+    if (name == nullptr || std::sscanf(name + 1, cFields, &status.state, &status.session, // NOLINT
+                                       &status.start) != 3)
+        return {};
+    return status;
+}
+
+/// The session of a living process; -1 when it is gone or a zombie.
+pid_t livingSession(pid_t pid) {
+    const Status status = statusOf(pid);
+    return status.state == 'Z' || status.state == 'X' ? -1 : status.session;
 }
 
 /// Whether `mark` is one of the variables the process was started with. One of another user, or one
@@ -53,10 +62,24 @@ bool carries(pid_t pid, const std::string& mark) {
     return variables.find(wanted) != std::string::npos;
 }
 
+bool writesInto(pid_t pid, std::span<const ino_t> pipes) {
+    const auto isBehind = [pid, pipes](const char* stream) {
+        // The link alone is read: what lies behind it may be a file on a server that is away.
+        std::array<char, 64> target{};
+        const std::string link = "/proc/" + std::to_string(pid) + stream;
+        return ::readlink(link.c_str(), target.data(), target.size() - 1) > 0 &&
+               std::ranges::any_of(pipes, [&target](ino_t pipe) {
+                   return "pipe:[" + std::to_string(pipe) + "]" == target.data();
+               });
+    };
+    return !pipes.empty() && (isBehind("/fd/1") || isBehind("/fd/2"));
+}
+
 bool belongs(pid_t pid, const CommandProcesses& commands) {
     const pid_t session = livingSession(pid);
     return session >= 0 && (std::ranges::count(commands.sessions, session) > 0 ||
-                            (!commands.mark.empty() && carries(pid, commands.mark)));
+                            (!commands.mark.empty() && carries(pid, commands.mark)) ||
+                            writesInto(pid, commands.pipes));
 }
 
 struct Member {
@@ -87,6 +110,10 @@ void waitForAnEnd(const std::vector<Member>& members, std::chrono::milliseconds 
 
 std::string commandMark(pid_t program) {
     return "KELVO_MIRROR_PID=" + std::to_string(program);
+}
+
+std::uint64_t startOf(pid_t pid) {
+    return statusOf(pid).start;
 }
 
 std::vector<pid_t> livingProcesses(const CommandProcesses& commands) {

@@ -4,6 +4,7 @@
 #include <sys/types.h>
 
 #include <chrono>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <vector>
@@ -14,11 +15,17 @@ namespace kelvo {
 /// comes from. It stays with a process that has left its session or lost its parent.
 std::string commandMark(pid_t program);
 
-/// A process belongs to commands when it runs in one of their sessions or carries their mark.
+/// A process belongs to commands when it runs in one of their sessions, carries their mark, or has
+/// one of their pipes as standard output or error output: that stays with a process that has left
+/// its session with an empty environment.
 struct CommandProcesses {
     std::span<const pid_t> sessions; ///< ids not free for reuse: their leaders are not reaped yet
-    std::string mark;                ///< empty: the sessions alone
+    std::string mark;                ///< may be empty
+    std::span<const ino_t> pipes = {};
 };
+
+/// When `pid` was started, in clock ticks since the machine was; 0 when there is no such process.
+std::uint64_t startOf(pid_t pid);
 
 /// The living processes (no zombies, not this one) that belong to `commands`. Costs a walk over
 /// /proc.

@@ -28,6 +28,7 @@ using namespace std::chrono_literals;
 constexpr auto cInPlacePatience = 2000ms;
 constexpr auto cEndPatience = 1000ms;
 constexpr int cReadyEnd = STDERR_FILENO + 1;
+constexpr int cCommandsEnd = cReadyEnd + 1;
 
 bool becomesReadable(int fd, std::chrono::milliseconds patience) {
     const auto deadline = std::chrono::steady_clock::now() + patience;
@@ -45,8 +46,10 @@ bool becomesReadable(int fd, std::chrono::milliseconds patience) {
     }
 }
 
-/// The child's streams are ours, and its descriptor after them is `readyEnd`.
-pid_t spawn(const std::string& path, std::vector<std::string> texts, int readyEnd) {
+/// The child's streams are ours, and its descriptors after them are `readyEnd` and `commands`, if
+/// there is such a one.
+pid_t spawn(const std::string& path, std::vector<std::string> texts, const UniqueFd& readyEnd,
+            int commands) {
     std::vector<char*> arguments;
     arguments.reserve(texts.size() + 1);
     for (std::string& text : texts)
@@ -55,11 +58,15 @@ pid_t spawn(const std::string& path, std::vector<std::string> texts, int readyEn
     std::array<char*, 1> environment = {nullptr};
 
     const CleanAttributes attributes;
+    // Clear of the places that they take in the child.
+    const UniqueFd ready(::fcntl(readyEnd.get(), F_DUPFD_CLOEXEC, cCommandsEnd + 1));
+    const UniqueFd table(::fcntl(commands, F_DUPFD_CLOEXEC, cCommandsEnd + 1));
     posix_spawn_file_actions_t actions{};
     ::posix_spawn_file_actions_init(&actions);
     pid_t pid = -1;
-    if (::posix_spawn_file_actions_adddup2(&actions, readyEnd, cReadyEnd) != 0 ||
-        ::posix_spawn_file_actions_addclosefrom_np(&actions, cReadyEnd + 1) != 0 ||
+    if (::posix_spawn_file_actions_adddup2(&actions, ready.get(), cReadyEnd) != 0 ||
+        (table && ::posix_spawn_file_actions_adddup2(&actions, table.get(), cCommandsEnd) != 0) ||
+        ::posix_spawn_file_actions_addclosefrom_np(&actions, cCommandsEnd + (table ? 1 : 0)) != 0 ||
         ::posix_spawn(&pid, path.c_str(), &actions, attributes.get(), arguments.data(),
                       environment.data()) != 0)
         pid = -1;
@@ -142,7 +149,7 @@ std::optional<SentinelTask> PosixSentinelLauncher::launch(const QString& path,
     std::vector<std::string> texts{path.toStdString()};
     for (const QString& argument : arguments)
         texts.push_back(argument.toStdString());
-    const pid_t pid = spawn(texts.front(), texts, readyEnd.get());
+    const pid_t pid = spawn(texts.front(), texts, readyEnd, fRunningCommands);
     if (pid < 0)
         return std::nullopt;
     readyEnd.reset();

@@ -83,7 +83,8 @@ CommandResult PosixShellRunner::run(const Command& command) {
             return {};
         failure = cancelled ? startShell(text, environment, command.input, child) : errno;
         if (failure == 0) {
-            fSessions.push_back({child.pid, cancelled.get()});
+            fSessions.push_back({child.pid, child.pipes, cancelled.get()});
+            fTable.add(child);
             ++fCallers;
         }
     }
@@ -100,6 +101,8 @@ CommandResult PosixShellRunner::run(const Command& command) {
         end = cutOff(child.pid, command);
     else if (end != CommandEnd::Own)
         endSession(child.pid);
+    else if (command.leavesNothing)
+        endWhatIsLeft(child.pid);
     capture.readRest();
     CommandResult result = capture.result();
     logAbout(command, result, end);
@@ -133,15 +136,27 @@ CommandEnd PosixShellRunner::cutOff(pid_t pid, const Command& command) {
     return hadEnded ? CommandEnd::Own : CommandEnd::Cut;
 }
 
+void PosixShellRunner::endWhatIsLeft(pid_t pid) {
+    const std::size_t left = givenUp() ? 0 : livingProcesses({{&pid, 1}, {}}).size();
+    if (left == 0)
+        return;
+    fConsole.log(QStringLiteral("A shell command has left %1 of its processes running; they are "
+                                "ended.")
+                     .arg(left));
+    endSession(pid);
+}
+
+bool PosixShellRunner::givenUp() const {
+    pollfd giveUp{fGiveUp.get(), POLLIN, 0};
+    return ::poll(&giveUp, 1, 0) > 0;
+}
+
 /// The shell is reaped under the lock, so that `endAll` and `cancel` never see a number that is
 /// free again. One that was ended and that even the system cannot end yet is left for `endAll` to
 /// reap.
 std::optional<int> PosixShellRunner::leave(pid_t pid, CommandEnd end) {
     siginfo_t ended{};
-    const bool givenUp = [this] {
-        pollfd giveUp{fGiveUp.get(), POLLIN, 0};
-        return ::poll(&giveUp, 1, 0) > 0;
-    }();
+    const bool givenUp = this->givenUp();
     if (!givenUp && end == CommandEnd::Own)
         ended = endOf(pid, 0);
     const std::lock_guard lock(fMutex);
@@ -154,8 +169,10 @@ std::optional<int> PosixShellRunner::leave(pid_t pid, CommandEnd end) {
         exitStatus = ended.si_code == CLD_EXITED ? ended.si_status : cSignalled + ended.si_status;
     const auto ours = std::ranges::find(fSessions, pid, &Session::pid);
     ours->cancelled = -1;
-    if (!fEnding && reap(pid, end == CommandEnd::Own ? 0 : WNOHANG))
+    if (!fEnding && reap(pid, end == CommandEnd::Own ? 0 : WNOHANG)) {
+        fTable.remove(pid);
         fSessions.erase(ours);
+    }
     --fCallers;
     fLeft.notify_all();
     return exitStatus;
@@ -176,21 +193,26 @@ std::optional<FileBeingWritten> PosixShellRunner::fileBeingWritten(CommandId com
 void PosixShellRunner::endAll() {
     const std::lock_guard once(fEndMutex);
     std::vector<pid_t> sessions;
+    std::vector<ino_t> pipes;
     {
         const std::lock_guard lock(fMutex);
         fEnding = true;
-        for (const Session& session : fSessions)
+        for (const Session& session : fSessions) {
             sessions.push_back(session.pid);
+            pipes.insert(pipes.end(), session.pipes.begin(), session.pipes.end());
+        }
     }
-    const CommandProcesses commands{sessions, commandMark(::getpid())};
+    const CommandProcesses commands{sessions, commandMark(::getpid()), pipes};
     if (!endProcesses(commands, SIGTERM, cAskPatience))
         (void)endProcesses(commands, SIGKILL, cForcePatience);
 
     tell(fGiveUp.get());
     std::unique_lock lock(fMutex);
     fLeft.wait(lock, [this] { return fCallers == 0; });
-    for (const pid_t session : sessions)
+    for (const pid_t session : sessions) {
         (void)reap(session, WNOHANG);
+        fTable.remove(session);
+    }
     fSessions.clear();
 }
 

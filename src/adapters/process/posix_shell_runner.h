@@ -1,11 +1,13 @@
 // PosixShellRunner: runs command lines through /bin/sh, each in a session of its own.
 #pragma once
 
+#include "adapters/process/command_table.h"
 #include "adapters/system/unique_fd.h"
 #include "ports/command_runner.h"
 
 #include <sys/types.h>
 
+#include <array>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
@@ -42,14 +44,21 @@ public:
     /// runs a command; calling it again does nothing.
     void endAll();
 
+    /// The descriptor of a CommandTable with the commands that run, for as long as the runner
+    /// lives.
+    int runningCommands() const { return fTable.descriptor(); }
+
 private:
     struct Session {
         pid_t pid = -1;
+        std::array<ino_t, 2> pipes{};
         int cancelled = -1; ///< the descriptor that tells its caller; -1 once the caller is gone
     };
     CommandEnd cutOff(pid_t pid, const Command& command);
     void logAbout(const Command& command, const CommandResult& result, CommandEnd end);
     void logAbout(const Command& command, const QString& what);
+    void endWhatIsLeft(pid_t pid);
+    bool givenUp() const;
     /// The shell's exit status; nothing when it was given up or cancelled.
     std::optional<int> leave(pid_t pid, CommandEnd end);
 
@@ -60,6 +69,7 @@ private:
     std::mutex fMutex;
     std::condition_variable fLeft;
     std::vector<Session> fSessions;
+    CommandTable fTable; ///< of the same; guarded by the same mutex
     int fCallers = 0;
     bool fEnding = false;
 };

@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/mman.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <array>
@@ -61,6 +62,12 @@ int openInput(QByteArrayView input, UniqueFd& opened) {
         input = input.sliced(std::max<ssize_t>(size, 0));
     }
     return ::lseek(opened.get(), 0, SEEK_SET) == 0 ? 0 : errno;
+}
+
+/// Both ends of a pipe have the same one.
+ino_t inodeOf(const UniqueFd& fd) {
+    struct stat status {};
+    return ::fstat(fd.get(), &status) == 0 ? status.st_ino : 0;
 }
 
 class FileActions {
@@ -151,6 +158,7 @@ int startShell(const std::string& command, const std::vector<std::string>& envir
     child.ended = openProcess(pid);
     child.output = std::move(output.read);
     child.errors = std::move(errors.read);
+    child.pipes = {inodeOf(child.output), inodeOf(child.errors)};
     return 0;
 }
 

@@ -8,6 +8,7 @@
 
 #include <sys/types.h>
 
+#include <array>
 #include <map>
 #include <string>
 #include <vector>
@@ -22,6 +23,7 @@ struct ShellChild {
     /// Our ends of its standard output and its error output; reading does not block.
     UniqueFd output;
     UniqueFd errors;
+    std::array<ino_t, 2> pipes{}; ///< the inodes of the two
 };
 
 /// The environment for a command: our own as it is now, without the programs that could ask the

@@ -7,12 +7,14 @@
 
 #include <fcntl.h>
 #include <pwd.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <vector>
 
 namespace kelvo {
@@ -83,6 +85,18 @@ std::vector<FoundFile> LocalFileManager::filesChangedSince(
     const QByteArray& folder, const QDateTime& moment,
     const std::function<bool(QByteArrayView name)>& passedOver) const {
     return kelvo::filesChangedSince(folder, moment, passedOver);
+}
+
+/// The lock lies on the folder itself: no file to leave behind, and a way through a link or another
+/// mount comes to the same one.
+std::optional<Subscription> LocalFileManager::claimFolder(const QString& path) const {
+    const auto folder = std::make_shared<UniqueFd>(
+        usable(path) ? ::open(path.toLocal8Bit().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)
+                     : -1);
+    if (*folder && ::flock(folder->get(), LOCK_EX | LOCK_NB) == 0)
+        // A command that is just being started may hold the folder open for a moment longer.
+        return Subscription([folder] { (void)::flock(folder->get(), LOCK_UN); });
+    return *folder && errno == EWOULDBLOCK ? std::nullopt : std::optional(Subscription());
 }
 
 QString LocalFileManager::homeDirectory() const {

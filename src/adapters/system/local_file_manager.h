@@ -17,6 +17,9 @@ public:
     filesChangedSince(const QByteArray& folder, const QDateTime& moment,
                       const std::function<bool(QByteArrayView name)>& passedOver) const override;
 
+    /// Programs of other users on this machine are kept out too, those on other machines are not.
+    std::optional<Subscription> claimFolder(const QString& path) const override;
+
     /// $HOME, or the user's entry in the account database when that is unset or empty.
     QString homeDirectory() const override;
 
