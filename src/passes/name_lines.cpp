@@ -1,5 +1,7 @@
 #include "passes/name_lines.h"
 
+#include "support/shell_reader.h"
+
 #include <QList>
 #include <QString>
 
@@ -30,6 +32,11 @@ constexpr auto cRemarks = std::to_array<std::string_view>({
     "building file list"sv,
     "sending incremental"sv,
     "Warning: "sv,
+    "protocol version mismatch -- "sv,
+    "(see the rsync "sv,
+    "Server is very old version of rsync"sv,
+    "filter rules are too modern "sv,
+    "--prune-empty-dirs requires protocol "sv,
     "Connection "sv,
     "cd+++"sv,
     ".d"sv,
@@ -72,7 +79,11 @@ bool isTag(QChar letter) {
 
 NameFormat formatByWords(QStringView command) {
     NameFormat found = NameFormat::None;
+    ShellReader reader(command);
     for (const QStringView word : command.split(u' ', Qt::SkipEmptyParts)) {
+        const Quoting quoting = reader.placeAt(word.begin() - command.begin()).quoting;
+        if (quoting == Quoting::Single || quoting == Quoting::Double)
+            continue; // as the -i in -e 'ssh -i key'
         if (word.startsWith(u"--itemize-changes"))
             return NameFormat::Itemized;
         if (word.startsWith(u"--verbose") || word.startsWith(u"--progress") ||

@@ -1,6 +1,7 @@
 #include "passes/pass_cause.h"
 
 #include "passes/captured_text.h"
+#include "passes/movie_pull.h"
 
 #include <QStringList>
 #include <QStringView>
@@ -68,6 +69,8 @@ constexpr auto cPullRules = std::to_array<LineRule>({
     {u"rsync error: remote command not found", u"", RsyncMissingThere},
     {u"rsync: on remote machine", u"unknown option", RsyncTooOldThere},
     {u"rsync error:", u"(code 1) at", CommandNotUnderstood},
+    {u"rsync error: protocol incompatibility", u"[sender", RsyncTooOldThere},
+    {u"protocol version mismatch -- is your shell clean?", u"", LoginTalks},
     {u"rsync error: protocol incompatibility", u"", RsyncTooOldThere},
     {u"rsync: ", u"no space left on device", DiskFull},
     {u"rsync: ", u"disk quota exceeded", DiskFull},
@@ -201,16 +204,23 @@ NamedCause causeOf(const CommandRecord& command) {
 
 NamedCause causeOf(const PassRecord& pass) {
     const bool checkFailed = endedAtTheCheck(pass);
-    bool pulled = false;
+    const CommandRecord* pulled = nullptr;
     for (const CommandRecord& command : pass.commands) {
         if (command.role == CommandRole::HostCheck) {
             if (checkFailed)
                 return causeOf(command);
             continue;
         }
-        pulled = true;
-        if (NamedCause named = causeOf(command); named.cause != Well)
+        NamedCause named = causeOf(command);
+        // Behind a pull that went well it is the built-in command that was refused.
+        if (pulled && named.cause == RsyncTooOldThere) {
+            if (bringsEveryMovie(pulled->command, command.command))
+                continue;
+            named.cause = MovieCommandRefused;
+        }
+        if (named.cause != Well)
             return named;
+        pulled = &command;
     }
     return {pulled ? Well : SettingsMissing, {}};
 }

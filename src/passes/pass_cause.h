@@ -17,8 +17,9 @@ struct NamedCause {
 NamedCause causeOf(const CommandRecord& command);
 
 /// What the whole of `pass` comes to: that of the host check when it failed, else of the first
-/// command after it that is not well: a pull goes before what is run once files have arrived. Reads
-/// everything but `cause` and `lastLine`.
+/// command after it that is not well: a pull goes before what is run once files have arrived. The
+/// built-in movie command may be refused by an old rsync when the pull before it has brought every
+/// movie. Reads everything but `cause` and `lastLine`.
 NamedCause causeOf(const PassRecord& pass);
 
 } // namespace kelvo

@@ -37,6 +37,12 @@ std::optional<qint64> figureAfter(QStringView line, std::initializer_list<QStrin
     return std::nullopt;
 }
 
+/// rsync gave up while the two sides were agreeing on how to speak, before any file.
+bool isRefusal(QStringView line) {
+    return line.startsWith(u"rsync error: ") &&
+           (line.contains(u"compat.c(") || line.contains(u"(code 2) at exclude.c("));
+}
+
 bool namesFile(QStringView line, NameFormat format) {
     // A folder ends in "/"; rsync's progress lines begin with blanks.
     if (line.isEmpty() || line.endsWith(u'/') || line[0].isSpace())
@@ -53,6 +59,7 @@ Transfer transferOf(QStringView command, QStringView output) {
     Transfer statistics;
     std::optional<qint64> received;
     qint64 names = 0;
+    bool refused = false;
     for (qsizetype begin = 0; begin < output.size();) {
         qsizetype end = output.indexOf(u'\n', begin);
         if (end < 0)
@@ -72,12 +79,16 @@ Transfer transferOf(QStringView command, QStringView output) {
             const qsizetype at = line.indexOf(u"received ");
             if (at >= 0)
                 received = rsyncNumber(line.sliced(at + 9));
+        } else if (isRefusal(line)) {
+            refused = true;
         } else if (namesFile(line, format)) {
             ++names;
         }
     }
     if (statistics.source == TransferSource::Statistics)
         return statistics;
+    if (refused)
+        return {TransferSource::Lines, 0, 0};
     if (format != NameFormat::None)
         return {TransferSource::Lines, names, names == 0 ? 0 : received};
     return {};

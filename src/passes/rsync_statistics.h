@@ -8,7 +8,8 @@
 namespace kelvo {
 
 /// `output` is all that `command` printed. rsync's own statistics go first ("--stats"); without
-/// them the names it printed are counted, when the command asked for names; else it is unknown.
+/// them a command that the other side's protocol refused has brought nothing; else the names it
+/// printed are counted, when the command asked for names; else it is unknown.
 Transfer transferOf(QStringView command, QStringView output);
 
 /// What two commands brought together. What one of them does not say is not known of the sum

@@ -38,15 +38,16 @@ enum class PassCause {
     CommandNotUnderstood = 19, ///< rsync here refused the command line
     SettingsMissing = 20,
     Interrupted = 21, ///< the program ended the commands
-    LoginTalks = 22,  ///< the host prints text at login, which hides its answer
+    LoginTalks = 22,  ///< the host prints text at login, which hides its answer or rsync's
     Unknown = 23,
-    SettingsRefused = 24,  ///< a text in the settings cannot stand in a command
-    Cancelled = 25,        ///< a person ended the pass; not trouble
-    AfterFailed = 26,      ///< all went well, but the command that is run after arrivals failed
-    DestinationTaken = 27, ///< another program is pulling into the folder
+    SettingsRefused = 24,     ///< a text in the settings cannot stand in a command
+    Cancelled = 25,           ///< a person ended the pass; not trouble
+    AfterFailed = 26,         ///< all went well, but the command that is run after arrivals failed
+    DestinationTaken = 27,    ///< another program is pulling into the folder
+    MovieCommandRefused = 28, ///< by an rsync too old for it; the pull before it went well
 };
 
-inline constexpr PassCause cLastPassCause = PassCause::DestinationTaken;
+inline constexpr PassCause cLastPassCause = PassCause::MovieCommandRefused;
 
 /// A long text's beginning and end.
 struct CapturedText {

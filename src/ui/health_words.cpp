@@ -127,6 +127,7 @@ Remedy remedyFor(const PassRecord& pass) {
         return Remedy::CopyInstallCommand;
     case RsyncMissingThere:
     case RsyncTooOldThere:
+    case MovieCommandRefused:
     case CommandNotUnderstood:
     case FilesNotTaken:
     case AfterFailed:

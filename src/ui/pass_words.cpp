@@ -56,8 +56,15 @@ constexpr auto cTable = std::to_array<Row>({
       u"Install rsync on the Mac, or give its place in the template with --rsync-path.",
       RemoteSide}},
     {PassCause::RsyncTooOldThere,
-     {u"rsync-too-old-there", u"The rsync on the Mac does not know an option of the template.",
+     {u"rsync-too-old-there", u"The rsync on the Mac is too old for an option of the template.",
       u"Update rsync on the Mac, or take the option out of the template.", RemoteSide}},
+    {PassCause::MovieCommandRefused,
+     {u"movie-command-refused",
+      u"The rsync on the Mac is too old for the built-in movie command: only what the template "
+      u"takes has arrived.",
+      u"Update rsync on the Mac, or let the template take every movie: without filters, and with "
+      u"-r.",
+      RemoteSide}},
     {PassCause::SourceMissing,
      {u"source-missing", u"The source folder is not there.",
       u"Check the remote path, and that the disk with it is connected.", RemoteSide}},

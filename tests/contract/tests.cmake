@@ -18,6 +18,7 @@ kelvo_tests(contract
     contract/dnssd_browser_contract_test.cpp
     contract/endpoint_search_contract_test.cpp
     contract/factory_template_test.cpp
+    contract/far_end_test.cpp
     contract/file_manager_contract_test.cpp
     contract/file_watch_test.cpp
     contract/line_backlog_test.cpp

@@ -51,6 +51,16 @@ TEST(PassWordsTest, RefusedSettings_AreToldWithTheReason) {
                              "command. The reason: the destination begins with \"-\"."));
 }
 
+TEST(PassWordsTest, RefusedMovieCommand_IsToldWithWhatDidArrive) {
+    const QString lines = outcomeOf(passWith(PassCause::MovieCommandRefused), false).output;
+    EXPECT_TRUE(lines.startsWith(
+        u"The rsync on the Mac is too old for the built-in movie command: only what the template "
+        u"takes has arrived. (3 files, "))
+        << lines.toStdString();
+    EXPECT_TRUE(lines.contains(u"\nNext step: Update rsync on the Mac, or let the template take "))
+        << lines.toStdString();
+}
+
 TEST(PassWordsTest, Figures_ReadWell) {
     EXPECT_EQ(filesText(Transfer{TransferSource::Lines, 1, {}}), QStringLiteral("1 file"));
     EXPECT_EQ(filesText(Transfer{TransferSource::Lines, 0, {}}), QStringLiteral("nothing new"));

@@ -36,8 +36,11 @@ const std::map<std::string, PassCause> cRecorded{
     {"key-too-open", KeyRefused},
     {"login-closed", Unknown},
     {"login-talks", LoginTalks},
+    {"login-talks-to-rsync", LoginTalks},
     {"plain-source-missing", SourceMissing},
     {"plain-well", Well},
+    {"protocol-too-old-there", RsyncTooOldThere},
+    {"protocol-unknown-there", RsyncTooOldThere},
     {"remote-login-off", RemoteLoginOff},
     {"remote-login-off-between", RemoteLoginOff},
     {"rsync-missing-there", RsyncMissingThere},
@@ -96,7 +99,8 @@ TEST(PassCauseTest, EveryCause_HasAText) {
     for (int i = 0; i <= static_cast<int>(cLastPassCause); ++i) {
         const auto cause = static_cast<PassCause>(i);
         if (cause == SettingsMissing || cause == SettingsRefused || cause == Interrupted ||
-            cause == Cancelled || cause == AfterFailed || cause == DestinationTaken)
+            cause == Cancelled || cause == AfterFailed || cause == DestinationTaken ||
+            cause == MovieCommandRefused)
             continue; // told by the record itself
         EXPECT_GE(texts[cause], 1) << "cause " << i;
     }
@@ -188,6 +192,119 @@ TEST(PassCauseTest, FirstPullInTrouble_NamesThePass) {
 TEST(PassCauseTest, NothingAsked_MeansSettingsAreMissing) {
     EXPECT_EQ(causeOf(remotePass({}, {})).cause, SettingsMissing);
     EXPECT_EQ(causeOf(PassRecord()).cause, SettingsMissing);
+}
+
+const QString cSshPart =
+    QStringLiteral("2>&1 --timeout=5  -e 'ssh -i /home/ann/.ssh/id_kelvoRsync' ");
+const QString cPlaces = QStringLiteral(" \"ann@Mac.local:Movies/\" \"/in/\" ");
+
+/// The cause of a pass whose pull went well and whose movie command an old rsync refused.
+NamedCause refusedBehind(const QString& pull, const QString& places = cPlaces) {
+    CommandRecord first = ended(CommandRole::Pull, 0, {});
+    first.command = pull;
+    CommandRecord movies =
+        recorded(std::filesystem::path(KELVO_TEXTS) / "protocol-too-old-there.txt");
+    movies.command = u"/usr/bin/rsync " + cSshPart +
+                     u" -f '+ */' -f '+ *.[mM][oOpP][vV4]*' -f '- *' -r  --times  "
+                     u"--prune-empty-dirs" +
+                     places;
+    return causeOf(remotePass(QStringLiteral("valid"), {first, movies}));
+}
+
+/// The same behind the template `/usr/bin/rsync %@98 OPTIONS "%@1" "%@2"`.
+PassCause causeBehind(const QString& options) {
+    return refusedBehind(u"/usr/bin/rsync " + cSshPart + options + cPlaces).cause;
+}
+
+TEST(PassCauseTest, RefusedMovieCommand_IsNoTroubleWhenThePullBroughtEveryMovie) {
+    for (const QString& options :
+         {QStringLiteral("-r --times"), QStringLiteral("-avP --stats --bwlimit=9"),
+          QStringLiteral("--recursive -f '- .kelvo-partial/'"), QStringLiteral("-r --update"),
+          QStringLiteral("-r --ignore-existing"),
+          QStringLiteral("-r --times --partial-dir=.kelvo-partial --stats --info=progress2 "
+                         "--out-format='%l %n' -f '- .kelvo-partial/' -f '+ */' "
+                         "-f '+ *.[mM][oO][vV]' -f '+ *.[mM][pP]4' -f '- *'"),
+          QStringLiteral("-r -f '+ */' -f '+ *.[mM][oO][vV]' -f \"+ *.[mM][pP]4\" -f '- *' "
+                         "-f '- *.mov'")})
+        EXPECT_EQ(causeBehind(options), Well) << options.toStdString();
+    EXPECT_EQ(refusedBehind(u"rsync -r" + cPlaces).lastLine, QString());
+}
+
+TEST(PassCauseTest, RefusedMovieCommand_IsNamedWhereThePullMayHaveLeftMoviesOut) {
+    for (const QString& options :
+         {QStringLiteral("--times"), QStringLiteral("-r -f '- *.mp4'"), QStringLiteral("-rn"),
+          QStringLiteral("-r --max-size=9G"), QStringLiteral("-r --exclude='*.mov'"),
+          QStringLiteral("-r -f '. rules'"), QStringLiteral("-rf '- *'"), QStringLiteral("-r -f"),
+          QStringLiteral("-r -f '+ */' -f '+ *.[mM][oO][vV]' -f '- *'"),
+          QStringLiteral("-r -f '+ */' -f '+ *.[mM][pP]4' -f '- *'"),
+          QStringLiteral("-r -f '+ *.[mM][oO][vV]' -f '+ *.[mM][pP]4' -f '- *'"),
+          QStringLiteral("-r -f '- *' -f '+ */' -f '+ *.[mM][oO][vV]' -f '+ *.[mM][pP]4'"),
+          QStringLiteral("-r $OPTIONS"), QStringLiteral("-r \"`cat options`\""),
+          QStringLiteral("-r 'elsewhere'"), QStringLiteral("-r; true"), QStringLiteral("-r 'open")})
+        EXPECT_EQ(causeBehind(options), MovieCommandRefused) << options.toStdString();
+    EXPECT_EQ(refusedBehind(QStringLiteral("rsync -r \"ann@Mac.local:Films/\" \"/in/\"")).cause,
+              MovieCommandRefused)
+        << "from another folder";
+    for (const QChar sign : QStringView(u"$`&|;<>()*?[{~#\t\n"))
+        EXPECT_EQ(causeBehind(u"-r --info=x" + sign + u'y'), MovieCommandRefused)
+            << QString(sign).toStdString();
+    EXPECT_EQ(refusedBehind(u"rsync -r" + cPlaces + u"--info='x").cause, MovieCommandRefused);
+    EXPECT_EQ(refusedBehind(u"copy -r" + cPlaces).cause, MovieCommandRefused);
+    EXPECT_EQ(refusedBehind(u"/opt/new/rsync -r" + cPlaces).cause, Well);
+    EXPECT_EQ(refusedBehind({}).lastLine,
+              QStringLiteral("rsync error: protocol incompatibility (code 2) at compat.c(720) "
+                             "[Receiver=3.5.0]"));
+}
+
+TEST(PassCauseTest, PlacesOfAPull_AreReadAsAShellReadsThem) {
+    const QString odd =
+        QStringLiteral(" \"ann@Mac.local:Films \\$5 \\\\[x] it's/\" \"/in 2>&1/\" ");
+    EXPECT_EQ(refusedBehind(u"rsync -r" + odd, odd).cause, Well);
+    EXPECT_EQ(refusedBehind(QStringLiteral("rsync -r ann@Mac.local:Films\\ \\$5' \\[x] it'\\'s/ "
+                                           "'/in 2>&1/'"),
+                            odd)
+                  .cause,
+              Well);
+    EXPECT_EQ(refusedBehind(QStringLiteral("rsync -r 'ann@Mac.local:Films \\$5 \\[x] it'\\''s/' "
+                                           "'/in 2>&1/'"),
+                            odd)
+                  .cause,
+              MovieCommandRefused)
+        << "a backslash more";
+    EXPECT_EQ(refusedBehind(QStringLiteral("rsync -r 'h:a\\Mb' /in/"),
+                            QStringLiteral(" \"h:a\\Mb\" \"/in/\""))
+                  .cause,
+              Well);
+    EXPECT_EQ(
+        refusedBehind(QStringLiteral("rsync -r h:a /in/"), QStringLiteral(" \"h:a\" \"2>&1/in/\""))
+            .cause,
+        MovieCommandRefused);
+    EXPECT_EQ(
+        refusedBehind(QStringLiteral("rsync -r h:a /in/"), QStringLiteral(" \"h:a\" /in2>&1/"))
+            .cause,
+        MovieCommandRefused);
+}
+
+TEST(PassCauseTest, RefusedTemplate_NamesThePassWhateverFollows) {
+    const auto refused =
+        recorded(std::filesystem::path(KELVO_TEXTS) / "protocol-too-old-there.txt");
+    EXPECT_EQ(causeOf(remotePass(QStringLiteral("valid"), {refused, refused})).cause,
+              RsyncTooOldThere);
+    EXPECT_EQ(
+        causeOf(remotePass(QStringLiteral("valid"), {refused, ended(CommandRole::Pull, 0, {})}))
+            .cause,
+        RsyncTooOldThere);
+}
+
+TEST(PassCauseTest, CommandBehindARefusal_IsJudgedToo) {
+    CommandRecord pull = ended(CommandRole::Pull, 0, {});
+    pull.command = u"rsync -r" + cPlaces;
+    CommandRecord movies =
+        recorded(std::filesystem::path(KELVO_TEXTS) / "protocol-too-old-there.txt");
+    movies.command = pull.command;
+    const auto after = ended(CommandRole::AfterArrivals, 1, QStringLiteral("no player"));
+    const auto named = causeOf(remotePass(QStringLiteral("valid"), {pull, movies, after}));
+    EXPECT_EQ(named.cause, AfterFailed);
 }
 
 // -- kept text

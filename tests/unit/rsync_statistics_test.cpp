@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace kelvo {
 namespace {
 
@@ -42,6 +44,66 @@ TEST(RsyncStatisticsTest, NamesAlone_TellNoBytes) {
     EXPECT_EQ(transfer.source, TransferSource::Lines);
     EXPECT_EQ(transfer.files, 1);
     EXPECT_FALSE(transfer.bytes.has_value());
+}
+
+TEST(RsyncStatisticsTest, RefusalOfTheProtocol_BroughtNothing) {
+    constexpr auto cRefusals = std::to_array<QStringView>({
+        u"protocol version mismatch -- is your shell clean?\n"
+        u"(see the rsync manpage for an explanation)\n"
+        u"rsync error: protocol incompatibility (code 2) at compat.c(625) [Receiver=3.5.0]\n",
+        u"--acls requires protocol 30 or higher (negotiated 27).\n"
+        u"rsync error: protocol incompatibility (code 2) at compat.c(672) [sender=3.5.0]\n"
+        u"--acls requires protocol 30 or higher (negotiated 27).\n"
+        u"rsync error: protocol incompatibility (code 2) at compat.c(672) [Receiver=3.5.0]\n",
+        u"filter rules are too modern for remote rsync.\n"
+        u"rsync error: protocol incompatibility (code 2) at exclude.c(1926) [Receiver=3.5.0]\n",
+        u"Server is very old version of rsync, upgrade recommended.\n"
+        u"--prune-empty-dirs requires protocol 29 or higher (negotiated 20).\n"
+        u"rsync error: protocol incompatibility (code 2) at /src/rsync/compat.c(720) "
+        u"[Receiver=3.5.0]\n"
+        u"rsync: [sender] safe_write failed to write 4 bytes to socket: Broken pipe (32)\n"
+        u"rsync error: error in rsync protocol data stream (code 12) at io.c(387) [sender=3.5.0]\n",
+    });
+    for (const QStringView said : cRefusals) {
+        for (const QStringView command : {u"rsync -rv a b", u"rsync -ri a b", u"rsync -r a b",
+                                          u"rsync --stats --out-format='%l %n' a b"}) {
+            const auto transfer = transferOf(command, said);
+            EXPECT_EQ(transfer.source, TransferSource::Lines) << command.toUtf8().constData();
+            EXPECT_EQ(transfer.files, 0) << said.toUtf8().constData();
+            EXPECT_EQ(transfer.bytes, 0) << said.toUtf8().constData();
+        }
+    }
+}
+
+TEST(RsyncStatisticsTest, ProtocolThatBrokeInTheMiddle_LeavesWhatCame) {
+    const auto transfer = transferOf(
+        u"rsync -rv a b", u"one.mov\ntwo.mov\nInvalid file index: 9 (-1 - 3) [generator]\n"
+                          u"rsync error: protocol incompatibility (code 2) at rsync.c(437)\n");
+    EXPECT_GE(transfer.files.value_or(0), 2);
+    EXPECT_EQ(transferOf(u"rsync --stats --out-format=%n a b; rsync -rm b c",
+                         u"Number of regular files transferred: 5\n"
+                         u"rsync error: protocol incompatibility (code 2) at compat.c(720)\n")
+                  .files,
+              5);
+}
+
+TEST(RsyncStatisticsTest, OptionsOfSsh_AskForNoNames) {
+    const QStringView said = u"[Receiver] io timeout after 6 seconds -- exiting\n";
+    EXPECT_EQ(transferOf(u"/usr/bin/rsync 2>&1 -e 'ssh -i /k'  -f '- -v' -r a b", said).source,
+              TransferSource::Unknown);
+    EXPECT_EQ(transferOf(u"/usr/bin/rsync -e \"ssh -v\" -r a b", said).source,
+              TransferSource::Unknown);
+    const auto named = transferOf(u"/usr/bin/rsync -e 'ssh -i /k' -rv a b", u"one.mov\n");
+    EXPECT_EQ(named.source, TransferSource::Lines);
+    EXPECT_EQ(named.files, 1);
+}
+
+TEST(RsyncStatisticsTest, RemarkAboutAnOldServer_IsNoFile) {
+    EXPECT_EQ(transferOf(u"rsync -rv a b",
+                         u"Server is very old version of rsync, upgrade recommended.\n"
+                         u"receiving file list ... done\none.mov\n")
+                  .files,
+              1);
 }
 
 TEST(RsyncStatisticsTest, NamesWithTheirSizes_AreCounted) {
