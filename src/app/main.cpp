@@ -12,8 +12,11 @@
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
+#include <signal.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -21,6 +24,9 @@ namespace {
 
 constexpr int cExitUsage = 2;
 constexpr int cExitNoDisplay = 3;
+constexpr int cExitTooFewFiles = 7;
+/// What a window at work needs, with room to spare; below that something fails at any place.
+constexpr rlim_t cOpenFiles = 64;
 
 /// A standard stream that came closed would give its number to the next file we open, and our lines
 /// would be written into that.
@@ -33,6 +39,15 @@ void openStandardStreams() {
         ::close(fd);
 }
 
+/// Whoever started the program may have left it with blocked signals, the request to end among
+/// them, and a file that may not grow any more is told by the failed write alone.
+void openToSignals() {
+    sigset_t none;
+    ::sigemptyset(&none);
+    ::pthread_sigmask(SIG_SETMASK, &none, nullptr);
+    (void)::signal(SIGXFSZ, SIG_IGN);
+}
+
 /// The C library would learn from the first flood of a command's output to keep such buffers in its
 /// heap for good; with a fixed bound each goes back to the system as soon as it is done with. The
 /// threads, which mostly wait, share one heap instead of having one each.
@@ -43,6 +58,26 @@ void keepMemorySmall() {
     ::mallopt(M_TRIM_THRESHOLD, cLarge);
     ::mallopt(M_ARENA_MAX, 1);
 #endif
+}
+
+/// Whether passes are run.
+bool worksOn(kelvo::LaunchKind kind) {
+    using enum kelvo::LaunchKind;
+    return kind == Once || kind == Headless || kind == Window;
+}
+
+/// Why the program cannot work here; empty when it can. A limit that may be raised is raised.
+QString missingFiles() {
+    rlimit files{};
+    if (::getrlimit(RLIMIT_NOFILE, &files) != 0 || files.rlim_cur >= cOpenFiles)
+        return {};
+    files.rlim_cur = std::min(cOpenFiles, files.rlim_max);
+    if (files.rlim_cur == cOpenFiles && ::setrlimit(RLIMIT_NOFILE, &files) == 0)
+        return {};
+    return QStringLiteral("it may have only %1 files open at a time here, and needs %2. Raise the "
+                          "limit with 'ulimit -n %2' where it is started")
+        .arg(files.rlim_cur)
+        .arg(cOpenFiles);
 }
 
 /// Why no window can be opened here; empty when one can.
@@ -65,6 +100,10 @@ int printAndEnd(std::FILE* stream, const QString& text, int exitCode) {
     return exitCode;
 }
 
+int printReason(const QString& reason, int exitCode) {
+    return printAndEnd(stderr, QString(u"kelvo-mirror: " + reason + u".\n"), exitCode);
+}
+
 int printAnswer(const kelvo::CommandAnswer& answer) {
     std::fputs(answer.errors.toUtf8().constData(), stderr);
     const QByteArray output = answer.output.toUtf8();
@@ -76,12 +115,15 @@ int printAnswer(const kelvo::CommandAnswer& answer) {
 
 int main(int argc, char** argv) {
     openStandardStreams();
+    openToSignals();
     keepMemorySmall();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     const kelvo::CommandLine commandLine = kelvo::parseCommandLine(arguments);
 
+    if (const QString missing = missingFiles(); !missing.isEmpty() && worksOn(commandLine.kind))
+        return printReason(missing, cExitTooFewFiles);
     switch (commandLine.kind) {
     case kelvo::LaunchKind::Refuse:
         return printAndEnd(stderr, commandLine.message, cExitUsage);
@@ -108,9 +150,7 @@ int main(int argc, char** argv) {
         break;
     }
     if (const QString missing = missingDisplay(); !missing.isEmpty())
-        return printAndEnd(stderr,
-                           QString(u"kelvo-mirror: " + missing +
-                                   u". Run 'kelvo-mirror --headless' to work without one.\n"),
+        return printReason(missing + u". Run 'kelvo-mirror --headless' to work without one",
                            cExitNoDisplay);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo-mirror"));

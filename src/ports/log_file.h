@@ -21,7 +21,8 @@ public:
     /// (as UTF-8) keeps its first and last 32 KiB and says how much was left out between. A line
     /// end inside it is followed by four blanks and a bar, so that no text can pass for a line of
     /// its own, and control characters are spelled out ("\x1b"). Without a file nothing happens. A
-    /// file over its size is rotated. A failed write drops the line; later lines try again.
+    /// file over its size is rotated. Lines that cannot be written wait for a later one to try
+    /// again; beyond a bound they are left out and counted.
     void append(const QString& line) { append(QStringList{line}); }
 
     /// The same for a line in pieces, which are not joined in memory.

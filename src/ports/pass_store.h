@@ -49,6 +49,7 @@ struct Standing {
     qint64 passesInTrouble = 0; ///< since then
     QString fault;              ///< why the record cannot be written or read now; empty when it can
     QString aside; ///< the damaged record was kept under this name, in this run of the program
+    bool replaced = false; ///< the record was removed or replaced by others, in this run
 
     /// Takes a pass into account that came after all others. Of records only what a list of them
     /// holds is kept: no commands, no arrivals.

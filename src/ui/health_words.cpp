@@ -95,6 +95,9 @@ HealthWords healthWords(const HealthFacts& facts) {
     if (!facts.standing.aside.isEmpty())
         words.remarks.append(QStringLiteral("The record of passes was damaged. It is kept as %1")
                                  .arg(oneLine(facts.standing.aside)));
+    if (facts.standing.replaced)
+        words.remarks.append(QStringLiteral("The record of passes was removed or replaced. The "
+                                            "passes since the start were written again"));
     return words;
 }
 

@@ -97,6 +97,10 @@ private:
             std::printf("%ld\n", overflow(1L << 40));
         else if (action == u"trap")
             __builtin_trap();
+#ifdef __x86_64__
+        else if (action == u"breakpoint")
+            __asm__ volatile("int3");
+#endif
         else if (action == u"quit-and-relaunch") {
             fDefaults.setObject(u"setAtTheEnd", QStringLiteral("kept"));
             Watchdog::quitAndRelaunch();

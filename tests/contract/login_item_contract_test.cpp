@@ -2,9 +2,12 @@
 #include "adapters/desktop/autostart_entry.h"
 #include "adapters/system/local_file_manager.h"
 #include "fakes/fake_login_item.h"
+#include "support/wait_until.h"
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -97,9 +100,28 @@ TEST_F(AutostartEntryTest, Entry_IsForTheUserAloneAndNothingLiesBesideIt) {
 
 TEST_F(AutostartEntryTest, PathWithOddCharacters_StaysOneWord) {
     EXPECT_TRUE(autostartText(QStringLiteral("/opt/a b/100%/$x\"`\\k"))
-                    .contains("\nExec=\"/opt/a b/100%%/\\\\$x\\\\\"\\\\`\\\\\\\\k\"\n"));
+                    .contains("\nExec=nice -n 0 \"/opt/a b/100%%/\\\\$x\\\\\"\\\\`\\\\\\\\k\"\n"));
     EXPECT_TRUE(autostartText(QStringLiteral("/a\nHidden=true")).contains("\"/a\\nHidden=true\""))
         << "a line end in the path begins no line of the entry";
+}
+
+TEST_F(AutostartEntryTest, PathWithOddCharacters_IsStartedByADesktop) {
+    if (QStandardPaths::findExecutable(QStringLiteral("gio")).isEmpty())
+        GTEST_SKIP() << "no gio on this machine to start an entry with";
+    for (const char* name : {"plain", "100%", "50%f", "a b=$x\"`'\\k", "a b=%$x\"`'\\k"}) {
+        const QString bin = folder.filePath(QString::fromLatin1(name));
+        const QString program = bin + u"/kelvo-mirror";
+        ASSERT_TRUE(QDir().mkpath(bin));
+        QFile script(program);
+        ASSERT_TRUE(script.open(QFile::WriteOnly));
+        script.write("#!/bin/sh\n: >\"${0%/*}/started\"\n");
+        script.close();
+        ASSERT_TRUE(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        put(autostartText(program));
+        EXPECT_EQ(QProcess::execute(QStringLiteral("gio"), {QStringLiteral("launch"), entry}), 0)
+            << name;
+        EXPECT_TRUE(waitUntil([&] { return QFile::exists(bin + u"/started"); })) << name;
+    }
 }
 
 TEST_F(AutostartEntryTest, OursSwitchedOffByADesktop_IsOffAndCanBeSwitchedOn) {

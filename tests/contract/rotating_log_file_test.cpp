@@ -1,4 +1,5 @@
 #include "adapters/console/rotating_log_file.h"
+#include "adapters/system/unique_fd.h"
 
 #include <QDir>
 #include <QFile>
@@ -6,12 +7,32 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <cstdlib>
 
 namespace kelvo {
 namespace {
+
+using namespace std::chrono_literals;
+
+/// As long as it lives no file grows beyond `size`, as if the disk were full.
+struct LargestFile {
+    explicit LargestFile(qint64 size) {
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit small{static_cast<rlim_t>(size), before.rlim_max};
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    }
+    ~LargestFile() { ::setrlimit(RLIMIT_FSIZE, &before); }
+    LargestFile(const LargestFile&) = delete;
+    LargestFile& operator=(const LargestFile&) = delete;
+
+    rlimit before{};
+};
 
 class RotatingLogFileTest : public testing::Test {
 protected:
@@ -24,6 +45,18 @@ protected:
     QString read(const QString& name) const {
         QFile file(fFolder + u'/' + name);
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
+    /// The lines of `names`, one file after the other, without their times.
+    QStringList texts(const QStringList& names) const {
+        QStringList found;
+        for (const QString& name : names) {
+            QStringList lines = read(name).split(u'\n');
+            lines.removeLast();
+            for (const QString& line : lines)
+                found.append(line.mid(24));
+        }
+        return found;
     }
 
     const QString fFolder = qEnvironmentVariable("TMPDIR") + u"/rotating_log_file";
@@ -88,29 +121,103 @@ TEST_F(RotatingLogFileTest, OpenFileOfOthers_BecomesPrivate) {
     EXPECT_EQ(mode(fPath), 0600u);
 }
 
-TEST_F(RotatingLogFileTest, FullDisk_DropsLinesQuietlyAndLeavesTheDeviceAlone) {
-    const unsigned before = mode(QStringLiteral("/dev/full"));
-    RotatingLogFile log;
-    ASSERT_TRUE(log.setLogFile(QStringLiteral("/dev/full")));
-    for (int i = 0; i < 10; ++i)
-        log.append(QString(1000, u'x'));
-    EXPECT_EQ(mode(QStringLiteral("/dev/full")), before);
+TEST_F(RotatingLogFileTest, FullDisk_LosesNoLineThatCanWait) {
+    RotatingLogFile log(RotatingLogFile::cFileSize, 0ms);
     ASSERT_TRUE(log.setLogFile(fPath));
+    log.append(QStringLiteral("before"));
+    {
+        // Room for half a line.
+        const LargestFile full(QFileInfo(fPath).size() + 20);
+        for (int i = 0; i < 3; ++i)
+            log.append(QStringLiteral("line %1").arg(i));
+        EXPECT_EQ(texts({QStringLiteral("x.log")}), QStringList{QStringLiteral("before")});
+    }
     log.append(QStringLiteral("after"));
-    EXPECT_TRUE(read(QStringLiteral("x.log")).endsWith(u" after\n"));
+    EXPECT_EQ(texts({QStringLiteral("x.log")}).join(u','), u"before,line 0,line 1,line 2,after");
 }
 
-TEST_F(RotatingLogFileTest, RotationThatFails_DropsLinesAndGoesOnLater) {
-    RotatingLogFile log(200);
+TEST_F(RotatingLogFileTest, FullDisk_CountsWhatIsLost) {
+    RotatingLogFile log(RotatingLogFile::cFileSize, 0ms);
     ASSERT_TRUE(log.setLogFile(fPath));
-    // Something stands where the older lines should go, and cannot be moved out of the way.
-    ASSERT_TRUE(QDir().mkpath(fFolder + u"/x.1.log/full"));
-    for (int i = 0; i < 20; ++i)
-        log.append(QString(100, u'x'));
-    ASSERT_TRUE(QDir(fFolder + u"/x.1.log").removeRecursively());
-    ASSERT_TRUE(log.setLogFile(fPath));
+    log.append(QStringLiteral("before"));
+    constexpr int cLines = 400;
+    {
+        const LargestFile full(QFileInfo(fPath).size());
+        for (int i = 0; i < cLines; ++i)
+            log.append(QString(1000, u'x'));
+    }
     log.append(QStringLiteral("after"));
-    EXPECT_TRUE(read(QStringLiteral("x.log")).endsWith(u" after\n"));
+    QStringList found = texts({QStringLiteral("x.log")});
+    ASSERT_GT(found.size(), 3);
+    EXPECT_EQ(found.takeFirst(), u"before");
+    EXPECT_EQ(found.takeLast(), u"after");
+    const QString note = found.takeLast();
+    EXPECT_EQ(note, QStringLiteral("%1 lines left out: File too large").arg(cLines - found.size()));
+    EXPECT_EQ(found.count(QString(1000, u'x')), found.size());
+    EXPECT_LE(found.size() * 1000, RotatingLogFile::cMostWaiting);
+}
+
+TEST_F(RotatingLogFileTest, DiskThatIsFullTillTheEnd_GetsTheLinesThen) {
+    {
+        RotatingLogFile log(RotatingLogFile::cFileSize, 1h);
+        ASSERT_TRUE(log.setLogFile(fPath));
+        const LargestFile full(0);
+        log.append(QStringLiteral("first"));
+        ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &full.before), 0);
+        log.append(QStringLiteral("second"));
+        EXPECT_EQ(read(QStringLiteral("x.log")), QString()) << "a new attempt comes later";
+    }
+    EXPECT_EQ(texts({QStringLiteral("x.log")}).join(u','), u"first,second");
+}
+
+TEST_F(RotatingLogFileTest, RotationThatFails_LosesNothing) {
+    RotatingLogFile log(1200, 0ms);
+    ASSERT_TRUE(log.setLogFile(fPath));
+    // Something stands where the oldest lines should go, and cannot be moved out of the way.
+    ASSERT_TRUE(QDir().mkpath(fFolder + u"/x.2.log/full"));
+    QStringList all;
+    for (int i = 0; i < 20; ++i) {
+        all.append(QStringLiteral("%1 ").arg(i) + QString(100, u'x'));
+        log.append(all.constLast());
+    }
+    EXPECT_LE(QFileInfo(fPath).size(), 1200);
+    EXPECT_LT(texts({QStringLiteral("x.1.log"), QStringLiteral("x.log")}).size(), all.size());
+    ASSERT_TRUE(QDir(fFolder + u"/x.2.log").removeRecursively());
+    log.append(QStringLiteral("after"));
+    EXPECT_EQ(
+        texts({QStringLiteral("x.2.log"), QStringLiteral("x.1.log"), QStringLiteral("x.log")}),
+        all << QStringLiteral("after"));
+}
+
+TEST_F(RotatingLogFileTest, FileTakenAwayOrReplaced_IsBegunAnew) {
+    RotatingLogFile log;
+    ASSERT_TRUE(log.setLogFile(fPath));
+    log.append(QStringLiteral("one"));
+    ASSERT_TRUE(QDir(fFolder).removeRecursively());
+    log.append(QStringLiteral("two"));
+    EXPECT_EQ(texts({QStringLiteral("x.log")}).join(u','), u"two");
+    const QString moved = fFolder + u"/moved";
+    ASSERT_TRUE(QFile::rename(fPath, moved));
+    ASSERT_TRUE(QFile::copy(moved, fPath));
+    log.append(QStringLiteral("three"));
+    EXPECT_EQ(texts({QStringLiteral("x.log")}).join(u','), u"two,three");
+    EXPECT_EQ(texts({QStringLiteral("moved")}).join(u','), u"two");
+}
+
+TEST_F(RotatingLogFileTest, PipeOrDevice_IsRefusedWithoutWaiting) {
+    const unsigned device = mode(QStringLiteral("/dev/full"));
+    RotatingLogFile log;
+    EXPECT_FALSE(log.setLogFile(QStringLiteral("/dev/full")));
+    EXPECT_EQ(mode(QStringLiteral("/dev/full")), device);
+    ASSERT_TRUE(QDir().mkpath(fFolder));
+    const QByteArray name = QFile::encodeName(fPath);
+    ASSERT_EQ(::mkfifo(name.constData(), 0600), 0);
+    EXPECT_FALSE(log.setLogFile(fPath));
+    const UniqueFd reader(::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    EXPECT_FALSE(log.setLogFile(fPath));
+    log.append(QStringLiteral("nobody's"));
+    char byte = 0;
+    EXPECT_EQ(::read(reader.get(), &byte, 1), 0);
 }
 
 TEST_F(RotatingLogFileTest, Line_IsOnTheDiskAtOnce) {

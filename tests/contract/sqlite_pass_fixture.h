@@ -70,7 +70,9 @@ protected:
     qsizetype logged(const QString& part) const { return console.logged().filter(part).size(); }
 
     QStringList setAside() const {
-        return QDir(folder.path()).entryList({QStringLiteral("passes.sqlite.corrupt-*")});
+        return QDir(folder.path())
+            .entryList({QStringLiteral("passes.sqlite.corrupt-*")},
+                       QDir::AllEntries | QDir::System);
     }
 
     /// Runs `statements` as another program would, on a connection of its own.

@@ -8,6 +8,8 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -169,6 +171,25 @@ TEST_F(StreamConsoleTest, FullDisk_LosesLinesOnly) {
     lines.print(QStringLiteral("a"));
     EXPECT_TRUE(lines.flush(30s));
     EXPECT_EQ(fFile.lines(cPath).size(), 1);
+}
+
+TEST_F(StreamConsoleTest, FileThatMayNotGrow_LosesLinesOnly) {
+    QFile file(qEnvironmentVariable("TMPDIR") + u"/may_not_grow");
+    ASSERT_TRUE(file.open(QFile::ReadWrite | QFile::Truncate));
+    StreamConsole lines(file.handle(), -1, fFile);
+    ::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit none{0, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &none), 0);
+    lines.print(QStringLiteral("a"));
+    EXPECT_TRUE(lines.flush(30s));
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    lines.print(QStringLiteral("b"));
+    EXPECT_TRUE(lines.flush(30s));
+    ASSERT_TRUE(file.seek(0));
+    EXPECT_EQ(file.readAll(), "b\n");
+    EXPECT_TRUE(file.remove());
 }
 
 TEST_F(StreamConsoleTest, PairCutByTheChunks_StaysWhole) {

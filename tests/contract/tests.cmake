@@ -46,6 +46,7 @@ kelvo_tests(contract
     contract/single_copy_contract_test.cpp
     contract/shell_words_contract_test.cpp
     contract/words_of_passes_test.cpp
+    contract/sqlite_pass_healing_test.cpp
     contract/sqlite_pass_layout_test.cpp
     contract/sqlite_pass_store_test.cpp
     contract/stream_console_test.cpp

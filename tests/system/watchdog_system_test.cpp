@@ -291,6 +291,12 @@ TEST_P(RealFaultTest, EndsAtOnceAndIsRelaunched) {
     endInOrder(second.pid);
 }
 
+#ifdef __x86_64__
+// What ends a program in GLib's place.
+INSTANTIATE_TEST_SUITE_P(Traps, RealFaultTest, ::testing::Values(Fault{"breakpoint", SIGTRAP}),
+                         [](const auto& given) { return std::string(given.param.action); });
+#endif
+
 INSTANTIATE_TEST_SUITE_P(Faults, RealFaultTest,
                          ::testing::Values(Fault{"null", SIGSEGV}, Fault{"abort", SIGABRT},
                                            Fault{"overflow", SIGSEGV}, Fault{"trap", SIGILL}),

@@ -264,5 +264,14 @@ TEST_F(HealthWordsTest, WhatWasSetAside_IsSaidWithTheNameOfTheCopy) {
                            text("The record of passes was damaged. It is kept as /p.corrupt-2")}));
 }
 
+TEST_F(HealthWordsTest, RecordThatWasReplaced_IsSaid) {
+    standing.last = passOf(PassCause::Well);
+    standing.replaced = true;
+    EXPECT_EQ(words().health.sign, HealthSign::Well) << "it is over";
+    EXPECT_EQ(words().remarks,
+              QStringList{text("The record of passes was removed or replaced. The passes since the "
+                               "start were written again")});
+}
+
 } // namespace
 } // namespace kelvo

@@ -56,8 +56,9 @@ bool LineStream::writeSome() {
     if (size < 0) {
         if (errno == EAGAIN || errno == EINTR)
             return false;
-        // A full disk may get room again, at the cost of this line; anything else is the end.
-        fGone = errno != ENOSPC && errno != EDQUOT;
+        // A full disk or file may get room again, at the cost of this line; anything else is the
+        // end.
+        fGone = errno != ENOSPC && errno != EDQUOT && errno != EFBIG;
         endLine();
         return true;
     }

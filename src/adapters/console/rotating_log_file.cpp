@@ -2,48 +2,30 @@
 
 #include "adapters/system/private_places.h"
 #include "support/plain_line.h"
+#include "support/system_error_text.h"
 
-#include <spdlog/details/log_msg.h>
-#include <spdlog/sinks/rotating_file_sink.h>
+#include <QDateTime>
+#include <QFile>
 
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cstdio>
+#include <cerrno>
 #include <cstdlib>
-#include <exception>
-#include <string_view>
+#include <utility>
 
 namespace kelvo {
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr std::size_t cOlderFiles = 2;
-constexpr auto cPause = 5s;
+constexpr int cOlderFiles = 2;
 constexpr mode_t cFileMode = S_IRUSR | S_IWUSR;
 
-void makePrivate(int fd) {
-    struct stat status {};
-    if (::fstat(fd, &status) == 0 && S_ISREG(status.st_mode))
-        (void)::fchmod(fd, cFileMode);
-    (void)::fcntl(fd, F_SETFD, FD_CLOEXEC);
-}
-
-/// The file is there, and private, before the logging library opens it: also after a rotation.
-spdlog::file_event_handlers privateFiles() {
-    spdlog::file_event_handlers handlers;
-    handlers.before_open = [](const spdlog::filename_t& name) {
-        const int fd = ::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NOCTTY, cFileMode);
-        if (fd >= 0)
-            ::close(fd);
-    };
-    handlers.after_open = [](const spdlog::filename_t&, std::FILE* file) {
-        makePrivate(::fileno(file));
-    };
-    return handlers;
+QByteArray stamped(const QString& line) {
+    const QString now =
+        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz "));
+    return (now + line + u'\n').toUtf8();
 }
 
 std::string homeFolder() {
@@ -55,9 +37,13 @@ std::string homeFolder() {
 
 } // namespace
 
-RotatingLogFile::RotatingLogFile(std::size_t fileSize) : fFileSize(fileSize) {}
+RotatingLogFile::RotatingLogFile(off_t fileSize, std::chrono::milliseconds pause)
+    : fFileSize(fileSize), fPause(pause) {}
 
-RotatingLogFile::~RotatingLogFile() = default;
+RotatingLogFile::~RotatingLogFile() {
+    if (!fPath.isEmpty())
+        (void)writeOut();
+}
 
 QString RotatingLogFile::defaultLogFileWithinSubdirectory(const QString& subdirectory) const {
     const char* const state = std::getenv("XDG_STATE_HOME"); // NOLINT
@@ -68,38 +54,111 @@ QString RotatingLogFile::defaultLogFileWithinSubdirectory(const QString& subdire
 
 bool RotatingLogFile::setLogFile(const QString& path) {
     const std::lock_guard lock(fMutex);
-    fSink.reset();
-    fPath = path.toStdString();
-    return !fPath.empty() && open();
+    fFile.reset();
+    fWaiting.clear();
+    fLeftOut = 0;
+    fPath = QFile::encodeName(path);
+    return !fPath.isEmpty() && writeOut();
 }
 
 void RotatingLogFile::append(const QStringList& pieces) {
-    const std::string line = logLine(pieces).toStdString();
+    const QByteArray line = stamped(logLine(pieces));
     const std::lock_guard lock(fMutex);
-    if (fPath.empty() || (!fSink && (std::chrono::steady_clock::now() < fNextTry || !open())))
+    if (fPath.isEmpty())
         return;
-    try {
-        fSink->log(spdlog::details::log_msg(spdlog::string_view_t(), spdlog::level::info, line));
-        fSink->flush();
-    } catch (const std::exception&) {
-        // A sink that has failed may have lost its file: begin again with a new one.
-        fSink.reset();
-        fNextTry = std::chrono::steady_clock::now() + cPause;
-    }
+    const bool tries =
+        fTrouble == 0 || (std::chrono::steady_clock::now() >= fNextTry && writeOut());
+    if (fLeftOut > 0 || (!fWaiting.isEmpty() && fWaiting.size() + line.size() > cMostWaiting))
+        ++fLeftOut;
+    else
+        fWaiting += line;
+    if (tries)
+        (void)writeOut();
 }
 
-bool RotatingLogFile::open() {
-    fNextTry = std::chrono::steady_clock::now() + cPause;
-    try {
-        (void)makePrivateFolders(fPath.substr(0, fPath.rfind('/')));
-        fSink = std::make_unique<spdlog::sinks::rotating_file_sink_st>(
-            fPath, fFileSize, cOlderFiles, false, privateFiles());
-        fSink->set_pattern("%Y-%m-%d %H:%M:%S.%e %v");
-        return true;
-    } catch (const std::exception&) {
-        fSink.reset();
-        return false;
+/// Writes everything that waits; false when that does not go now.
+bool RotatingLogFile::writeOut() {
+    const int before = fTrouble;
+    fTrouble = openUnlessOpen();
+    if (fTrouble == 0)
+        fTrouble = writeWaiting();
+    if (fTrouble == 0 && fLeftOut > 0) {
+        fWaiting = stamped(QStringLiteral("%1 lines left out: %2")
+                               .arg(std::exchange(fLeftOut, 0))
+                               .arg(systemErrorText(before)));
+        fTrouble = writeWaiting();
     }
+    if (fTrouble == 0)
+        return true;
+    fNextTry = std::chrono::steady_clock::now() + fPause;
+    return false;
+}
+
+int RotatingLogFile::openUnlessOpen() {
+    struct stat there {};
+    struct stat ours {};
+    if (fFile && ::fstat(fFile.get(), &ours) == 0 && ::stat(fPath.constData(), &there) == 0 &&
+        there.st_dev == ours.st_dev && there.st_ino == ours.st_ino)
+        return 0;
+    return open();
+}
+
+/// 0, or the errno that tells why not.
+int RotatingLogFile::open() {
+    fFile.reset();
+    if (const int error = makePrivateFolders(fPath.left(fPath.lastIndexOf('/')).toStdString()))
+        return error;
+    // A pipe would wait for its reader.
+    UniqueFd file(::open(fPath.constData(),
+                         O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOCTTY | O_NONBLOCK,
+                         cFileMode));
+    struct stat status {};
+    if (!file || ::fstat(file.get(), &status) != 0)
+        return errno;
+    if (!S_ISREG(status.st_mode))
+        return EINVAL;
+    (void)::fchmod(file.get(), cFileMode);
+    fSize = status.st_size;
+    fFile = std::move(file);
+    return 0;
+}
+
+/// What is not written stays waiting; a line is written in one piece where that goes.
+int RotatingLogFile::writeWaiting() {
+    while (!fWaiting.isEmpty()) {
+        const qsizetype line = fWaiting.indexOf('\n') + 1;
+        if (fSize > 0 && fSize + line > fFileSize) {
+            if (const int error = rotate())
+                return error;
+        }
+        const ssize_t size =
+            ::write(fFile.get(), fWaiting.constData(), static_cast<std::size_t>(line));
+        if (size < 0 && errno == EINTR)
+            continue;
+        if (size <= 0)
+            return size < 0 ? errno : EIO;
+        fSize += size;
+        fWaiting.remove(0, size);
+    }
+    return 0;
+}
+
+/// Where a step fails no file is lost, and the next attempt takes the rest.
+int RotatingLogFile::rotate() {
+    for (int number = cOlderFiles; number >= 1; --number) {
+        if (::rename(olderName(number - 1).constData(), olderName(number).constData()) != 0 &&
+            errno != ENOENT)
+            return errno;
+    }
+    return open();
+}
+
+/// "name.N.log"; 0 is the file itself.
+QByteArray RotatingLogFile::olderName(int number) const {
+    const qsizetype dot = fPath.lastIndexOf('.');
+    if (number == 0 || dot <= fPath.lastIndexOf('/'))
+        return number == 0 ? fPath : fPath + '.' + QByteArray::number(number);
+    return fPath.left(dot) + '.' + QByteArray::number(number) + fPath.mid(dot);
 }
 
 } // namespace kelvo

@@ -1,30 +1,33 @@
 // RotatingLogFile: the log file on disk.
 #pragma once
 
+#include "adapters/system/unique_fd.h"
 #include "ports/log_file.h"
 
-#include <chrono>
-#include <cstddef>
-#include <memory>
-#include <mutex>
-#include <string>
+#include <QByteArray>
 
-namespace spdlog::sinks {
-class sink;
-} // namespace spdlog::sinks
+#include <sys/types.h>
+
+#include <chrono>
+#include <mutex>
 
 namespace kelvo {
 
 /// Three files of at most 5 MiB: `name.log`, then `name.1.log` and `name.2.log` with the older
 /// lines. The files are readable by the user alone (0600), folders made for them too (0700);
-/// folders that are there already stay as they are. Each line is handed to the system at once, so
-/// that it outlives a crash of the program. While the file cannot be written a new attempt is made
-/// at most every 5 s.
+/// folders that are there already stay as they are. Only an ordinary file is written. Each line is
+/// handed to the system at once, so that it outlives a crash of the program. A file that was taken
+/// away or replaced is begun anew. While the file cannot be written 256 KiB of lines wait, with a
+/// new attempt at most every 5 s; what comes beyond that is left out, and "N lines left out" with
+/// the reason stands in its place.
 class RotatingLogFile final : public LogFile {
 public:
-    static constexpr std::size_t cFileSize = std::size_t{5} * 1024 * 1024;
+    static constexpr off_t cFileSize = off_t{5} * 1024 * 1024;
+    static constexpr qsizetype cMostWaiting = qsizetype{256} * 1024;
 
-    explicit RotatingLogFile(std::size_t fileSize = cFileSize);
+    explicit RotatingLogFile(off_t fileSize = cFileSize,
+                             std::chrono::milliseconds pause = std::chrono::seconds(5));
+    /// Tries once more to write what waits.
     ~RotatingLogFile() override;
 
     /// "$XDG_STATE_HOME/subdirectory/kelvo-mirror.log"; "~/.local/state" stands in for a variable
@@ -37,12 +40,22 @@ public:
     void append(const QStringList& pieces) override;
 
 private:
-    bool open();
+    int open();
+    int openUnlessOpen();
+    int rotate();
+    int writeWaiting();
+    bool writeOut();
+    QByteArray olderName(int number) const;
 
-    const std::size_t fFileSize;
+    const off_t fFileSize;
+    const std::chrono::milliseconds fPause;
     std::mutex fMutex;
-    std::string fPath;
-    std::unique_ptr<spdlog::sinks::sink> fSink;
+    QByteArray fPath;
+    UniqueFd fFile;
+    off_t fSize = 0;
+    QByteArray fWaiting; ///< whole lines, but for the first one when a part of it is written
+    qint64 fLeftOut = 0;
+    int fTrouble = 0; ///< errno of the last attempt
     std::chrono::steady_clock::time_point fNextTry;
 };
 

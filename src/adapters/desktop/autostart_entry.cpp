@@ -36,6 +36,12 @@ QByteArray execWord(const QString& word) {
     return QByteArray(quoted + '"').replace('\\', "\\\\").replace('\n', "\\n").replace('\r', "\\r");
 }
 
+/// Desktops look for the first word of the key as it stands, before they read its percent signs:
+/// such a path goes behind a command that becomes the program.
+QByteArray execKey(const QString& program) {
+    return (program.contains(u'%') ? "nice -n 0 " : "") + execWord(program);
+}
+
 /// `fault` without the path that it begins with.
 QString reasonIn(const QString& fault, const QString& path) {
     const QString start = path + u": ";
@@ -80,7 +86,7 @@ QByteArray autostartText(const QString& program) {
            "Comment=Keep a local folder supplied with movie files from a remote Mac\n"
            "Icon=kelvo-mirror\n"
            "Exec=" +
-           execWord(program) + "\n" + "Terminal=false\n" + cAutostartMark + "\n";
+           execKey(program) + "\n" + "Terminal=false\n" + cAutostartMark + "\n";
 }
 
 AutostartEntry::AutostartEntry(const QString& folder, const QString& program, FileManager& files)

@@ -1,28 +1,25 @@
 #include "adapters/passes/pass_database.h"
 
-#include "adapters/system/private_places.h"
-#include "adapters/system/unique_fd.h"
-#include "support/system_error_text.h"
-
-#include <QFile>
-#include <QFileInfo>
 #include <QSqlError>
 #include <QSqlQuery>
 
-#include <fcntl.h>
-
 #include <atomic>
-#include <cerrno>
 
 namespace kelvo {
 namespace {
 
-constexpr int cMostAsides = 1000;
+/// How many passes of this run are written once more where the file is lost.
+constexpr std::size_t cMostOwn = 100;
 /// How long another program may keep the file locked, in milliseconds.
 const QString cOptions = QStringLiteral("QSQLITE_BUSY_TIMEOUT=2000");
 
-/// SQLite's own numbers for a file that cannot be repaired by waiting.
-enum SqliteCode { Corrupt = 11, NotADatabase = 26 };
+/// SQLite's own numbers for a file that cannot be repaired by waiting. An error is what a statement
+/// gives that does not fit the tables; so is, when something is stored, a constraint.
+enum SqliteCode { Error = 1, Corrupt = 11, Constraint = 19, NotADatabase = 26 };
+
+bool isBroken(int code) {
+    return code == Error || code == Corrupt || code == Constraint || code == NotADatabase;
+}
 
 QString nextConnection() {
     static std::atomic<int> made = 0;
@@ -48,6 +45,9 @@ void PassDatabase::close() {
     fDatabase.close();
     fDatabase = QSqlDatabase();
     QSqlDatabase::removeDatabase(fConnection);
+    fWritten.clear();
+    fPlace.reset();
+    fLog.reset();
 }
 
 PassDatabase::Outcome PassDatabase::outcomeOf(const QSqlQuery& query) const {
@@ -57,7 +57,7 @@ PassDatabase::Outcome PassDatabase::outcomeOf(const QSqlQuery& query) const {
     // The upper bits tell more about the same trouble.
     const int code = error.nativeErrorCode().toInt() & 0xff;
     const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
-    return {code == Corrupt || code == NotADatabase ? Outcome::Broken : Outcome::Failed, text};
+    return {isBroken(code) ? Outcome::Broken : Outcome::Failed, text};
 }
 
 PassDatabase::Outcome PassDatabase::run(const QString& statement) {
@@ -97,8 +97,8 @@ PassDatabase::Outcome PassDatabase::inTransaction(const std::function<Outcome()>
     Outcome outcome = work();
     if (outcome)
         outcome = run(QStringLiteral("COMMIT"));
-    if (!outcome)
-        (void)run(QStringLiteral("ROLLBACK"));
+    if (!outcome && !run(QStringLiteral("ROLLBACK")))
+        close();
     return outcome;
 }
 
@@ -118,73 +118,41 @@ PassDatabase::Outcome PassDatabase::open() {
         outcome = failed(fDatabase.lastError().databaseText());
     else if (outcome = readLayout(); outcome && writes)
         outcome = prepareTables();
-    if (!outcome)
+    if (!outcome) {
         close();
+        return outcome;
+    }
+    fPlace = placeOf(fileName());
+    fLog = placeOf(fileName("-wal"));
     return outcome;
-}
-
-PassDatabase::Outcome PassDatabase::prepareFile() const {
-    const QString folder = QFileInfo(fPath).path();
-    if (makePrivateFolders(QFile::encodeName(folder).toStdString()) != 0)
-        return failed(QStringLiteral("its folder cannot be made"));
-    const QByteArray path = QFile::encodeName(fPath);
-    // An existing file is not opened: closing it here would end SQLite's locks on it.
-    if (QFileInfo::exists(fPath)) {
-        closeToOthers(path.toStdString());
-        return {};
-    }
-    const UniqueFd file(::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
-    if (!file)
-        return failed(systemErrorText(errno));
-    return {};
-}
-
-PassDatabase::Outcome PassDatabase::readLayout() {
-    QSqlQuery layout(fDatabase);
-    layout.exec(QStringLiteral("PRAGMA user_version"));
-    if (Outcome outcome = outcomeOf(layout); !outcome)
-        return outcome;
-    fLayout = layout.next() ? layout.value(0).toInt() : 0;
-    return fLayout > cPassLayout ? failed(QStringLiteral("a newer Kelvo Mirror has written it"))
-                                 : Outcome();
-}
-
-PassDatabase::Outcome PassDatabase::prepareTables() {
-    // With a log beside the file a record costs no wait for the disk. A file system that cannot
-    // have it keeps SQLite's usual way.
-    if (Outcome outcome = run(QStringLiteral("PRAGMA journal_mode = WAL"));
-        outcome.kind == Outcome::Broken)
-        return outcome;
-    for (const QString& setting : {QStringLiteral("PRAGMA synchronous = NORMAL"),
-                                   QStringLiteral("PRAGMA cache_size = -256")}) {
-        if (Outcome outcome = run(setting); !outcome)
-            return outcome;
-    }
-    return fLayout == cPassLayout ? Outcome() : inTransaction([this] { return takeOver(); });
-}
-
-PassDatabase::Outcome PassDatabase::takeOver() {
-    // Another program may have done it meanwhile.
-    if (Outcome outcome = readLayout(); !outcome || fLayout == cPassLayout)
-        return outcome;
-    for (const QString& statement : layoutStatements(fLayout)) {
-        if (Outcome outcome = run(statement); !outcome)
-            return outcome;
-    }
-    fLayout = cPassLayout;
-    return {};
 }
 
 PassDatabase::Outcome PassDatabase::insert(PassRecord& record) {
     if (Outcome outcome = open(); !outcome)
         return outcome;
+    const qint64 before = record.id;
     Outcome outcome = inTransaction([&] { return insertRows(record); });
-    if (!outcome)
-        record.id = 0;
+    if (!outcome) {
+        record.id = before;
+        return outcome;
+    }
+    fWritten.push_back(record.id);
+    if (fWritten.size() > cMostOwn)
+        fWritten.pop_front();
     return outcome;
 }
 
 PassDatabase::Outcome PassDatabase::insertRows(PassRecord& record) {
+    if (record.id != 0) {
+        std::optional<qint64> there;
+        Outcome outcome =
+            run(PassStatement::SamePass, {record.began.toMSecsSinceEpoch(), record.seconds},
+                [&](const QSqlQuery& row) { there = row.value(0).toLongLong(); });
+        if (!outcome || there) {
+            record.id = there.value_or(0);
+            return outcome;
+        }
+    }
     QSqlQuery pass(fDatabase);
     if (Outcome outcome = prepare(pass, PassStatement::InsertPass); !outcome)
         return outcome;
@@ -237,25 +205,6 @@ PassDatabase::Outcome PassDatabase::noteStanding(const PassRecord& record) {
     if (outcome = becomes(StandingRow::LastSuccess); !outcome)
         return outcome;
     return run(PassStatement::EndTrouble, {});
-}
-
-std::optional<QString> PassDatabase::moveAside(const QDateTime& now) {
-    close();
-    const QString wanted = fPath + QStringLiteral(".corrupt-") +
-                           now.toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
-    for (int attempt = 1; attempt <= cMostAsides; ++attempt) {
-        const QString aside =
-            attempt == 1 ? wanted : QString(wanted + u'-' + QString::number(attempt));
-        if (QFileInfo::exists(aside))
-            continue;
-        if (!QFile::rename(fPath, aside))
-            return std::nullopt;
-        // What belongs to the broken file must not be laid over the next one.
-        QFile::rename(fPath + QStringLiteral("-wal"), aside + QStringLiteral("-wal"));
-        QFile::remove(fPath + QStringLiteral("-shm"));
-        return aside;
-    }
-    return std::nullopt;
 }
 
 } // namespace kelvo

@@ -6,8 +6,12 @@
 #include <QSqlDatabase>
 #include <QString>
 
+#include <sys/types.h>
+
+#include <deque>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace kelvo {
@@ -25,7 +29,7 @@ public:
     struct Outcome {
         enum Kind {
             Done,
-            Broken, ///< the file is no database, or a damaged one
+            Broken, ///< the file is no database, a damaged one or another program's
             Failed, ///< no room, no permission, kept locked by another program …
         };
         Kind kind = Done;
@@ -46,10 +50,12 @@ public:
 
     /// Opens the file, made with mode 0600 when it is missing, its folder with 0700; at once when
     /// it is open already. What an older program has written is taken over in one transaction; a
-    /// file that a newer one has written is refused and stays as it is.
+    /// file that a newer one has written is refused and stays as it is. Nothing is written into a
+    /// file that is not the record.
     Outcome open();
 
-    /// Stores `record` and gives it its number; drops what is too old.
+    /// Stores `record` and gives it its number; drops what is too old. A record that has a number
+    /// has been written before, and is not written twice.
     Outcome insert(PassRecord& record);
 
     // Questions, answered as PassStore says. What was found before a failure is in the answer. As
@@ -61,13 +67,24 @@ public:
     Outcome readStanding(Standing& standing);
     Outcome read(qint64 id, std::optional<PassRecord>& record);
 
-    /// Closes a broken file and moves it to a free name beside its own. Returns the new name, or
-    /// nothing when that cannot be done.
+    /// Whether the open file is no longer the one at its path. Costs one look at the folder.
+    bool fileIsGone() const;
+
+    /// Closes the file. Returns the newest 100 passes that were written into it since it was
+    /// opened, oldest first, as far as they can be read.
+    std::vector<PassRecord> leave();
+
+    /// Closes a broken file and moves it, or the link to it, to a free name beside its own. Returns
+    /// the new name, or nothing when that cannot be done.
     std::optional<QString> moveAside(const QDateTime& now);
 
 private:
     using RowReader = std::function<void(const QSqlQuery&)>;
+    using FilePlace = std::optional<std::pair<dev_t, ino_t>>; ///< device and inode
 
+    /// The file's name with `ending`, for the system.
+    QByteArray fileName(const char* ending = "") const;
+    static FilePlace placeOf(const QByteArray& name);
     bool nothingIsKept() const;
     Outcome outcomeOf(const QSqlQuery& query) const;
     Outcome run(const QString& statement);
@@ -80,6 +97,7 @@ private:
     Outcome inTransaction(const std::function<Outcome()>& work);
     Outcome prepareFile() const;
     Outcome prepareTables();
+    Outcome checkTables() const;
     Outcome readLayout();
     Outcome takeOver();
     Outcome insertRows(PassRecord& record);
@@ -92,7 +110,11 @@ private:
     const Access fAccess;
     const QString fConnection;
     QSqlDatabase fDatabase;
-    int fLayout = 0; ///< of the open file
+    // Of the open file.
+    int fLayout = 0;
+    FilePlace fPlace;
+    FilePlace fLog;
+    std::deque<qint64> fWritten; ///< numbers of the newest passes of ours
 };
 
 } // namespace kelvo

@@ -112,7 +112,8 @@ QStringList secondTables() {
 
 QStringList layoutStatements(int found) {
     return (found == 0 ? firstTables() : QStringList()) + secondTables() +
-           QStringList(u"PRAGMA user_version = " + QString::number(cPassLayout));
+           QStringList{u"PRAGMA application_id = " + QString::number(cPassApplication),
+                       u"PRAGMA user_version = " + QString::number(cPassLayout)};
 }
 
 QString sqlOf(PassStatement statement) {
@@ -171,6 +172,14 @@ QString sqlOf(PassStatement statement) {
         return u"SELECT " + cPassColumns + u" FROM standing WHERE which = ?";
     case PassStatement::ReadTrouble:
         return QStringLiteral("SELECT since, passes FROM trouble");
+    case PassStatement::SamePass:
+        return QStringLiteral("SELECT id FROM pass WHERE id > (SELECT max(id) FROM pass) - 1000 "
+                              "AND began = ? AND seconds = ?");
+    case PassStatement::WhatLiesThere:
+        return QStringLiteral("SELECT (SELECT application_id FROM pragma_application_id), "
+                              "(SELECT user_version FROM pragma_user_version), count(*), "
+                              "coalesce(max(name = 'pass'), 0) FROM sqlite_master "
+                              "WHERE type = 'table'");
     }
     return {};
 }

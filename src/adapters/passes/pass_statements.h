@@ -13,6 +13,9 @@ namespace kelvo {
 /// The layout that this program writes; 0 is a file without tables.
 inline constexpr int cPassLayout = 2;
 
+/// Marks files of this program; those of its first releases bear 0.
+inline constexpr int cPassApplication = 0x4b6c764d;
+
 /// Everything that is asked of the tables; question marks stand for what is told behind.
 enum class PassStatement {
     InsertPass,    ///< `valuesOf` a record
@@ -34,7 +37,9 @@ enum class PassStatement {
     Days,             ///< the first one, as ISO has it
     ReadStanding,     ///< StandingRow
     ReadTrouble,
-    Last = ReadTrouble
+    SamePass,      ///< of the newest; when it began, in milliseconds since 1970; seconds
+    WhatLiesThere, ///< application, layout, tables, whether there is one of passes
+    Last = WhatLiesThere
 };
 
 enum class StandingRow { LastPass = 0, LastSuccess = 1 };

@@ -42,9 +42,11 @@ template <typename Result, typename Read>
 void SqlitePassStore::ask(Read read, std::function<void(Result)> answerWith) {
     post(
         [this, read, answerWith = std::move(answerWith)](PassDatabase& database) {
+            findLostFile(database);
             auto result = std::make_shared<Result>();
             auto outcome = read(database, *result);
             if (!outcome && repaired(database, outcome)) {
+                (void)writeOut(database);
                 *result = {};
                 outcome = read(database, *result);
             }
@@ -110,7 +112,7 @@ void SqlitePassStore::work() {
     for (;;) {
         fPosted.wait(lock, [this] { return fStopping || !fJobs.empty(); });
         if (fJobs.empty())
-            return;
+            break;
         const auto [job, question] = std::move(fJobs.front());
         fJobs.pop_front();
         if (question && fStopping)
@@ -119,36 +121,45 @@ void SqlitePassStore::work() {
         job(database);
         lock.lock();
     }
+    // Trouble of the last pass may be over.
+    (void)writeOut(database);
 }
 
-void SqlitePassStore::write(PassDatabase& database, const PassRecord& record) {
+void SqlitePassStore::write(PassDatabase& database, PassRecord record) {
+    findLostFile(database);
+    record.id = 0;
     fUnwritten.push_back(record);
-    PassRecord newest = record;
+    record.id = writeOut(database);
+    announce(std::move(record));
+    while (fUnwritten.size() > cMostUnwritten)
+        fUnwritten.pop_front();
+}
+
+/// The number of the newest record; 0 when it could not be written.
+qint64 SqlitePassStore::writeOut(PassDatabase& database) {
+    if (fUnwritten.empty())
+        return 0;
     PassDatabase::Outcome outcome;
-    while (!fUnwritten.empty()) {
-        outcome = insert(database, fUnwritten.front());
+    qint64 number = 0;
+    for (bool mayRepair = true; !fUnwritten.empty();) {
+        outcome = database.insert(fUnwritten.front());
+        if (!outcome && std::exchange(mayRepair, false) && repaired(database, outcome))
+            continue;
         if (!outcome)
             break;
-        newest = std::move(fUnwritten.front());
+        number = fUnwritten.front().id;
         fUnwritten.pop_front();
     }
     note(outcome);
-    announce(std::move(newest));
-    if (fUnwritten.size() > cMostUnwritten)
-        fUnwritten.pop_front();
-}
-
-PassDatabase::Outcome SqlitePassStore::insert(PassDatabase& database, PassRecord& record) {
-    auto outcome = database.insert(record);
-    if (!outcome && repaired(database, outcome))
-        outcome = database.insert(record);
-    return outcome;
+    return fUnwritten.empty() ? number : 0;
 }
 
 /// Whether there is a new file to try again with.
 bool SqlitePassStore::repaired(PassDatabase& database, const PassDatabase::Outcome& outcome) {
     if (outcome.kind != PassDatabase::Outcome::Broken)
         return false;
+    const auto own = database.leave();
+    fUnwritten.insert(fUnwritten.begin(), own.begin(), own.end());
     const auto aside = database.moveAside(QDateTime::currentDateTimeUtc());
     if (!aside)
         return false;
@@ -156,6 +167,19 @@ bool SqlitePassStore::repaired(PassDatabase& database, const PassDatabase::Outco
     fConsole.log(u"The record of passes was damaged (" + outcome.reason + u") and is kept as " +
                  *aside + u"; a new one is begun.");
     return true;
+}
+
+/// Somebody has taken the file away or replaced it: what this run had written goes into the one
+/// that is there now.
+void SqlitePassStore::findLostFile(PassDatabase& database) {
+    if (!database.fileIsGone())
+        return;
+    const auto own = database.leave();
+    fUnwritten.insert(fUnwritten.begin(), own.begin(), own.end());
+    fReplaced = true;
+    fConsole.log(u"The record of passes " + fPath +
+                 u" was removed or replaced; the passes of this run are written again.");
+    (void)writeOut(database);
 }
 
 void SqlitePassStore::note(const PassDatabase::Outcome& outcome) {
@@ -172,6 +196,7 @@ void SqlitePassStore::completeStanding(Standing& standing) const {
         standing.add(record);
     standing.fault = fTrouble;
     standing.aside = fAside;
+    standing.replaced = fReplaced;
 }
 
 void SqlitePassStore::answer(std::function<void()> give) {

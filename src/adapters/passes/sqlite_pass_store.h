@@ -17,9 +17,11 @@ class Console;
 class DispatchQueue;
 
 /// The file is opened with the first record, or the first question once there is a file. One that
-/// is broken is kept under another name, `<path>.corrupt-<UTC time>`, and begun anew. Each kind of
-/// trouble is said in the log once, and when it is over; it is over when nothing is left to be
-/// written.
+/// is broken, or another program's, is kept under another name, `<path>.corrupt-<UTC time>`, and
+/// begun anew; where it is taken away or replaced while it is open, that is noticed with the next
+/// record or question. Either way the newest 100 passes of this run are written into the file that
+/// is there then. Each kind of trouble is said in the log once, and when it is over; it is over
+/// when nothing is left to be written.
 class SqlitePassStore final : public PassStore {
 public:
     /// `mainQueue` and `console` must outlive the store.
@@ -55,8 +57,9 @@ private:
     template <typename Result, typename Read>
     void ask(Read read, std::function<void(Result)> answerWith);
     void work();
-    void write(PassDatabase& database, const PassRecord& record);
-    PassDatabase::Outcome insert(PassDatabase& database, PassRecord& record);
+    void write(PassDatabase& database, PassRecord record);
+    qint64 writeOut(PassDatabase& database);
+    void findLostFile(PassDatabase& database);
     bool repaired(PassDatabase& database, const PassDatabase::Outcome& outcome);
     void note(const PassDatabase::Outcome& outcome);
     /// Adds what the file does not know.
@@ -79,6 +82,7 @@ private:
     std::deque<PassRecord> fUnwritten;
     QString fTrouble;
     QString fAside;
+    bool fReplaced = false;
 
     std::thread fThread;
 };

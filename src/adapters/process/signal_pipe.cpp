@@ -26,16 +26,19 @@ std::atomic<int> gWriteEnd{-1}; // NOLINT
 
 bool isFault(int number, const siginfo_t& info) {
     const bool raisedByProcessor = info.si_code > 0;
-    return raisedByProcessor &&
-           (number == SIGSEGV || number == SIGBUS || number == SIGILL || number == SIGFPE);
+    return raisedByProcessor && (number == SIGSEGV || number == SIGBUS || number == SIGILL ||
+                                 number == SIGFPE || number == SIGTRAP);
 }
 
 /// Does only what is safe inside a signal handler. After a fault the instruction runs again and
-/// meets the default action.
+/// meets the default action; a trap, with which libraries end a program, is left behind, and comes
+/// once more.
 void passOn(int number, siginfo_t* info, void*) {
     const int before = errno;
     if (isFault(number, *info)) {
         (void)::signal(number, SIG_DFL);
+        if (number == SIGTRAP)
+            (void)::raise(number);
     } else {
         const auto byte = static_cast<unsigned char>(number);
         (void)!::write(gWriteEnd.load(), &byte, 1);
