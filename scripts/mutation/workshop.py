@@ -3,6 +3,7 @@
 The copy is never changed either. A mutant's one object file lies in its worker's folder and is linked
 before the libraries; its programs are laid over the copy's own in the sandbox of that one run.
 """
+import fcntl
 import hashlib
 import json
 import os
@@ -38,6 +39,15 @@ class Workshop:
         self.build = self.tree / "build" / "base"  # as deep as any build tree: ccache can help
 
     # -- the copy and its build
+
+    def take(self):
+        """For one run at a time; given back when the program ends."""
+        self.home.mkdir(parents=True, exist_ok=True)
+        lock = os.open(self.home / "lock", os.O_RDWR | os.O_CREAT | os.O_CLOEXEC)
+        try:
+            fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+        except BlockingIOError:
+            raise Fault("another run is under way in this tree") from None
 
     def prepare(self):
         self.tree.mkdir(parents=True, exist_ok=True)
@@ -164,9 +174,7 @@ class Workshop:
         words[words.index("-c") + 1:words.index("-c") + 1] = [str(changed)]
         # What stands beside the source is found by its own name too.
         words += ["-w", "-iquote", str((self.tree / name).parent)]
-        compiled = subprocess.run(words, cwd=self.build, stdout=subprocess.DEVNULL,
-                                  stderr=subprocess.DEVNULL)
-        if compiled.returncode != 0:
+        if not self._builds(words):
             return {}
         path, _ = self._object_names(name)
         programs = {}
@@ -178,9 +186,12 @@ class Workshop:
                 words[words.index(path)] = str(made)
             else:
                 words.insert(words.index("-o"), str(made))
-            linked = subprocess.run(words, cwd=self.build, stdout=subprocess.DEVNULL,
-                                    stderr=subprocess.DEVNULL)
-            if linked.returncode != 0:
+            if not self._builds(words):
                 return {}
             programs[str(self.build / program)] = out
         return programs
+
+    def _builds(self, words):
+        # In a session of its own: Ctrl-C lets what is under way come to its end.
+        return subprocess.run(words, cwd=self.build, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL, start_new_session=True).returncode == 0
