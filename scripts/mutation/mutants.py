@@ -104,7 +104,8 @@ class _Finder:
 
     def removed(self, cursor):
         place = self.range(cursor)
-        if place:
+        # Without room kept ready the same happens, a little later.
+        if place and not re.match(rb"[\w.]+(\.|->)reserve\(", self.source[slice(*place)]):
             self.add(*place, b"(void)0", "removed: " + one_line(self.source[slice(*place)]))
 
     def negated(self, cursor):

@@ -158,7 +158,6 @@ class Trial:
         """The suite that noticed the change, or None."""
         output = folder / "output"
         for suite, tests in self.stages(name, programs):
-            tests = [t for t in tests if t not in self.flaky]
             while tests:
                 limit = 10 + 4 * sum(suite.seconds[t] for t in tests)
                 status = sandboxed(self.workshop, programs, suite.command(tests, True), output,

@@ -49,7 +49,7 @@ class Workshop:
         except BlockingIOError:
             raise Fault("another run is under way in this tree") from None
 
-    def prepare(self):
+    def prepare(self, suites):
         self.tree.mkdir(parents=True, exist_ok=True)
         run(["rsync", "-a", "--delete", "--exclude", "/build", "--exclude", "/.git",
              f"{self.root}/", f"{self.tree}/"])
@@ -59,7 +59,9 @@ class Workshop:
              "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld", "-DCMAKE_MODULE_LINKER_FLAGS=-fuse-ld=lld"])
         known = set(re.findall(r"^([^:\n]+): ", run(["ninja", "-C", self.build, "-t", "targets",
                                                     "all"]), re.M))
-        self.targets = [t for t in [f"{s}_tests" for s in SUITES] + list(CHILDREN) if t in known]
+        wanted = [f"{s}_tests" for s in SUITES if s in suites]
+        wanted += CHILDREN if "contract" in suites else ()
+        self.targets = [t for t in wanted if t in known]
         run(["cmake", "--build", self.build, "--target", *self.targets])
         with open(self.build / "compile_commands.json") as file:
             entries = json.load(file)
