@@ -72,7 +72,7 @@ class Workshop:
 
     def _link(self, target):
         """The command that links it, and the program's path below the build."""
-        last = run(["ninja", "-C", self.build, "-t", "commands", "-s", target]).strip()
+        last = run(["ninja", "-C", self.build, "-t", "commands", target]).strip().splitlines()[-1]
         if last.endswith("&& :"):
             last = last.removeprefix(": &&").removesuffix("&& :")
         words = shlex.split(last)
