@@ -7,6 +7,7 @@ brackets of templates.
 import bisect
 import ctypes
 import re
+import sys
 from dataclasses import dataclass
 
 from clang.cindex import CursorKind as K, Index, TokenKind, TypeKind, conf
@@ -307,8 +308,10 @@ def mutants_of(path: str, name: str, arguments: list[str]) -> list[Mutant]:
         source = file.read()
     unit = Index.create().parse(path, args=arguments)
     faults = [d for d in unit.diagnostics if d.severity >= 3]
-    if faults:
+    if any(d.severity > 3 for d in faults):
         raise RuntimeError(f"{name}: libclang cannot read it: {faults[0].spelling}")
+    if faults:  # a statement that it does not understand has no mutants
+        print(f"mutate: {name}: not wholly read: {faults[0].spelling}", file=sys.stderr)
     found = sorted(_Finder(unit, path, name, source).found.values(),
                    key=lambda m: (m.start, m.end, m.text))
     # The same change twice in a line: the second is told apart by its number.
