@@ -1,0 +1,5 @@
+# ./dev mutate can fail: tried on a program of five lines.
+add_test(NAME Mutate.smallProgram_KnownMutantsAreCaughtAndKnownOnesSurvive
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/mutate/self-test)
+set_tests_properties(Mutate.smallProgram_KnownMutantsAreCaughtAndKnownOnesSurvive PROPERTIES
+  LABELS system TIMEOUT 300 SKIP_RETURN_CODE 77)
