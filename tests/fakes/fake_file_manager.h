@@ -1,6 +1,7 @@
 // FakeFileManager: files, folders and links in memory.
 #pragma once
 
+#include "fakes/event_list.h"
 #include "ports/file_manager.h"
 
 #include <QMap>
@@ -59,6 +60,7 @@ public:
         written.remove(path);
         programs.remove(path);
         removed.append(path);
+        events.note(u"remove " + path);
         return {};
     }
     FileFault writeAtomically(const QString& path, const QByteArray& content) override {
@@ -70,10 +72,12 @@ public:
         programs.remove(path);
         existing.insert(path);
         written[path] = content;
+        events.note(u"write " + path);
         modes.append({path, 0600});
         return {};
     }
     int changeMode(const QString& path, unsigned mode) override {
+        events.note(u"mode " + QString::number(mode, 8) + u' ' + path);
         modes.append({followed(path), mode});
         if (!fileExistsAtPath(path))
             return -1;
@@ -94,6 +98,7 @@ public:
     int modeResult = 0;
     std::vector<FoundFile> found; ///< what the two operations for files of a folder know of
     QString guarded;              ///< nothing changes at this path
+    EventList events;
 
 private:
     QString followed(const QString& path) const { return links.value(path, path); }
