@@ -58,6 +58,8 @@ constexpr Wire cButtons[] = {
     {"ibKillTimer", &ViewController::ibKillTimer},
 };
 
+constexpr const char* cRevealInFinder = "ibRevealInFinderAction";
+
 constexpr Wire cOnceButtons[] = {
     {"ibRSyncOnce", &ViewController::ibRSyncOnce},
     {"ibRSyncOnceBonjour", &ViewController::ibRSyncOnceBonjour},
@@ -77,6 +79,15 @@ void showAbout(MainWindow& window) {
 }
 
 } // namespace
+
+QStringList sentButtons() {
+    QStringList names{QString::fromLatin1(cRevealInFinder)};
+    for (const Wire& wire : cButtons)
+        names.append(QString::fromLatin1(wire.control));
+    for (const Wire& wire : cOnceButtons)
+        names.append(QString::fromLatin1(wire.control));
+    return names;
+}
 
 OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Workspace& workspace,
                               const std::shared_ptr<PathControl>& fNsPathControl1) {
@@ -100,7 +111,7 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
     const auto revealInFinder = [&controller, fNsPathControl1] {
         controller.ibRevealInFinderAction(fNsPathControl1.get());
     };
-    window.setAction(QStringLiteral("ibRevealInFinderAction"), revealInFinder);
+    window.setAction(QString::fromLatin1(cRevealInFinder), revealInFinder);
     QObject::connect(&window.fNsPathControl1(), &PathControlView::partClicked, &window,
                      revealInFinder);
     const auto openPart = [&workspace](const QString& path) { workspace.openFile(path); };

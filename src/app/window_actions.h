@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -23,6 +24,9 @@ struct WorkState;
 
 /// The two-state buttons beside the start button; they live as long as the window sends actions.
 using OnceButtons = std::vector<std::unique_ptr<WidgetButton>>;
+
+/// The names of the buttons whose clicks go to the view controller.
+QStringList sentButtons();
 
 /// Connects every button, path control, field and tab of `window`. All arguments outlive the
 /// window's event loop.

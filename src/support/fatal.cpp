@@ -10,4 +10,11 @@ void stopProgram(std::string_view message) noexcept {
     __builtin_trap();
 }
 
+long long oneMore(long long count) noexcept {
+    long long next = 0;
+    if (__builtin_add_overflow(count, 1, &next))
+        stopProgram();
+    return next;
+}
+
 } // namespace kelvo

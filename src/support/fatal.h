@@ -9,4 +9,7 @@ namespace kelvo {
 /// A message, when given, goes to standard error first. Any thread; never returns.
 [[noreturn]] void stopProgram(std::string_view message = {}) noexcept;
 
+/// `count` and one; where there is no such number the program stops.
+long long oneMore(long long count) noexcept;
+
 } // namespace kelvo

@@ -216,8 +216,7 @@ void SyncCycle::handleFailedCheck(const HostVerdict& verdict) {
     fParts.console.print(u"NEED to handle possible ERROR:\n" + verdict.text());
     fParts.console.print(rule);
 
-    if (__builtin_add_overflow(fBadWhoamiCount, qint64{1}, &fBadWhoamiCount))
-        stopProgram();
+    fBadWhoamiCount = oneMore(fBadWhoamiCount);
     showStatus(u"something went wrong - waiting to retry again... [" +
                    QString::number(fBadWhoamiCount) + u']',
                StatusColor::Red);

@@ -1,6 +1,7 @@
 // FakeWorkspace, FakeOpenPanel and FakePathControl: a desktop that tests look at and answer for.
 #pragma once
 
+#include "fakes/event_list.h"
 #include "ports/open_panel.h"
 #include "ports/path_control.h"
 #include "ports/workspace.h"
@@ -13,15 +14,22 @@ namespace kelvo {
 
 class FakeWorkspace final : public Workspace {
 public:
-    void openUrl(const QString& url) override { requests.append(u"openUrl " + url); }
-    void openFile(const QString& path) override { requests.append(u"openFile " + path); }
-    void revealInFinder(const QString& path) override { requests.append(u"reveal " + path); }
+    void openUrl(const QString& url) override { request(u"openUrl " + url); }
+    void openFile(const QString& path) override { request(u"openFile " + path); }
+    void revealInFinder(const QString& path) override { request(u"reveal " + path); }
     void activateFileViewerSelecting(const QStringList& paths) override {
         if (!paths.isEmpty())
-            requests.append(u"select " + paths.join(u'|'));
+            request(u"select " + paths.join(u'|'));
     }
 
     QStringList requests; ///< every request so far
+    EventList events;
+
+private:
+    void request(const QString& what) {
+        requests.append(what);
+        events.note(what);
+    }
 };
 
 class FakeOpenPanel final : public OpenPanel {

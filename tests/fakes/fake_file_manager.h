@@ -1,6 +1,7 @@
 // FakeFileManager: files, folders and links in memory.
 #pragma once
 
+#include "fakes/event_list.h"
 #include "ports/file_manager.h"
 
 #include <QMap>
@@ -67,6 +68,7 @@ public:
         written.remove(path);
         programs.remove(path);
         removed.append(path);
+        events.note(u"remove " + path);
         return {};
     }
     FileFault writeAtomically(const QString& path, const QByteArray& content) override {
@@ -78,10 +80,12 @@ public:
         programs.remove(path);
         existing.insert(path);
         written[path] = content;
+        events.note(u"write " + path);
         modes.append({path, 0600});
         return {};
     }
     int changeMode(const QString& path, unsigned mode) override {
+        events.note(u"mode " + QString::number(mode, 8) + u' ' + path);
         modes.append({followed(path), mode});
         if (!fileExistsAtPath(path))
             return -1;
@@ -103,6 +107,7 @@ public:
     mutable QSet<QString> claimed; ///< the folders that somebody holds a claim to
     std::vector<FoundFile> found;  ///< what the two operations for files of a folder know of
     QString guarded;               ///< nothing changes at this path
+    EventList events;
 
 private:
     QString followed(const QString& path) const { return links.value(path, path); }

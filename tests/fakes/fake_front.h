@@ -34,9 +34,13 @@ public:
     void setAttributedStringValue(const AttributedString& value) override {
         shown.push_back(value);
     }
-    void clear() override { shown.push_back({}); }
+    void clear() override {
+        shown.push_back({});
+        ++clears;
+    }
 
     std::vector<AttributedString> shown; ///< everything so far; an empty text for a clear
+    int clears = 0;
 };
 
 class FakeAlertPresenter final : public AlertPresenter {

@@ -1,6 +1,7 @@
 // FakeTerminal: a terminal that tests look at and answer for.
 #pragma once
 
+#include "fakes/event_list.h"
 #include "ports/terminal.h"
 
 #include <vector>
@@ -18,9 +19,11 @@ public:
     void openCommandFile(const QString& path, const QString& command,
                          std::function<void(TerminalOutcome)> ended) override {
         windows.push_back({path, command, std::move(ended)});
+        events.note(u"terminal " + command);
     }
 
     std::vector<Window> windows; ///< everything opened so far
+    EventList events;
 };
 
 } // namespace kelvo

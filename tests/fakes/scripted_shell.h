@@ -1,6 +1,7 @@
 // ScriptedShell: answers commands from a script and remembers what it was asked.
 #pragma once
 
+#include "fakes/event_list.h"
 #include "ports/command_runner.h"
 
 #include <QStringList>
@@ -93,6 +94,8 @@ public:
         return seconds;
     }
 
+    EventList events;
+
 private:
     struct Rule {
         QString part;
@@ -126,6 +129,7 @@ private:
 
     Rule ruleFor(const Command& command) {
         const std::lock_guard lock(fMutex);
+        events.note(u"run " + command.text);
         fAsked.push_back({.text = command.text,
                           .seconds = command.seconds,
                           .bounds = command.bounds,

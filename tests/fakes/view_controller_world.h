@@ -52,6 +52,7 @@ public:
     FakeFileManager files;
     FakeTerminal terminal;
     QString clipboard;
+    QStringList sheets; ///< every one shown so far
     GioShareCommands shareCommands;
     RecordingConsole console;
     NotificationCenter notificationCenter;
@@ -94,7 +95,11 @@ public:
         .outlets = {.application = application,
                     .view = view,
                     .alertPresenter = presenter,
-                    .presentSheet = [](QStringView) { return true; },
+                    .presentSheet =
+                        [this](QStringView identifier) {
+                            sheets.append(identifier.toString());
+                            return true;
+                        },
                     .openPanel = openPanel,
                     .terminal = terminal,
                     .copyText = [this](const QString& text) { clipboard = text; },

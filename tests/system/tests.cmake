@@ -20,7 +20,7 @@ kelvo_tests(system
     system/tray_system_test.cpp
     system/watchdog_system_test.cpp
     system/window_system_test.cpp
-  LINKS kelvo_bus_testing
+  LINKS kelvo_bus_testing Qt6::Gui
   TIMEOUT 120
   PROPERTIES
     ENVIRONMENT LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/support/leaks.supp

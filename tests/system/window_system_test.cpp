@@ -6,6 +6,8 @@
 #include "support/virtual_desktop.h"
 #include "support/wait_until.h"
 
+#include <QColor>
+#include <QImage>
 #include <QPoint>
 #include <QProcess>
 #include <QRect>
@@ -14,6 +16,8 @@
 #include <gtest/gtest.h>
 
 #include <signal.h>
+
+#include <cstdlib>
 
 namespace kelvo {
 namespace {
@@ -98,6 +102,33 @@ protected:
 
     void keepPicture(const char* name) const {
         EXPECT_TRUE(screen.keepPicture(QStringLiteral(KELVO_PICTURES), name));
+    }
+
+    /// The colour of the window's ground, and the height in pixels of the letters in its menu bar,
+    /// once they stand out from the ground.
+    struct Look {
+        QColor ground;
+        int letters = 0;
+    };
+    Look lookOf(const char* picture) const {
+        keepPicture(picture);
+        const QImage image = QImage(QStringLiteral(KELVO_PICTURES "/") +
+                                    QString::fromLatin1(picture) + QStringLiteral(".png"));
+        constexpr int cBelowTheFrame = 22; // of a window in the display's corner
+        Look look{.ground = image.pixelColor(windowPlace().width() - 5, cBelowTheFrame)};
+        const auto hasLetters = [&](int y) {
+            for (int x = 4; x < 50; ++x) {
+                if (std::abs(image.pixelColor(x, y).lightness() - look.ground.lightness()) > 100)
+                    return true;
+            }
+            return false;
+        };
+        int y = cBelowTheFrame;
+        while (y < 60 && !hasLetters(y))
+            ++y;
+        for (; y < 60 && hasLetters(y); ++y)
+            ++look.letters;
+        return look;
     }
 
     QVariantMap quietProfile() const {
@@ -251,9 +282,31 @@ TEST_F(WindowSystemTest, HideOnLaunch_HidesUntilASecondCopyAsks) {
 }
 
 TEST_F(WindowSystemTest, DarkColoursAndLargeLetters_AreTakenOver) {
-    desktop.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("1.5"));
+    desktop.insert(QStringLiteral("XDG_CURRENT_DESKTOP"), QStringLiteral("KDE"));
+    desktop.insert(QStringLiteral("KDE_SESSION_VERSION"), QStringLiteral("5"));
+    write(path(QStringLiteral("config/kdeglobals")), R"([General]
+font=DejaVu Sans,20,-1,5,50,0,0,0,0,0
+
+[Colors:Window]
+BackgroundNormal=32,32,32
+ForegroundNormal=240,240,240
+
+[Colors:Button]
+BackgroundNormal=48,48,48
+ForegroundNormal=240,240,240
+
+[Colors:View]
+BackgroundNormal=24,24,24
+ForegroundNormal=240,240,240
+)");
     startAndSettle(quietProfile());
-    keepPicture("large");
+    Look look;
+    EXPECT_TRUE(waitUntil([&] {
+        look = lookOf("dark-and-large");
+        return look.letters > 0;
+    }));
+    EXPECT_LT(look.ground.lightness(), 64);
+    EXPECT_GT(look.letters, 15) << "usual ones have ten";
     EXPECT_EQ(program->stop(), 0);
 }
 

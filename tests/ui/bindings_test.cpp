@@ -215,12 +215,16 @@ TEST_F(BindingsTest, NumberOutOfRange_StaysStored) {
 }
 
 TEST_F(BindingsTest, ControlThatIsGone_HearsNothing) {
-    auto* field = new QLineEdit;
-    bindings.text(*field, cKey);
+    auto field = std::make_unique<QLineEdit>();
+    int shown = 0;
+    bindings.follow(*field, {cKey}, [&shown] { ++shown; });
+    setOutside(QStringLiteral("early"));
+    EXPECT_EQ(shown, 2) << "at once and after the change";
     defaults.setObject(cKey, QStringLiteral("late"));
-    delete field;
+    field.reset();
     mainQueue.runDue();
     setOutside(QStringLiteral("later"));
+    EXPECT_EQ(shown, 2);
 }
 
 } // namespace

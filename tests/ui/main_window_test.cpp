@@ -29,6 +29,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace kelvo {
 namespace {
 
@@ -159,10 +161,21 @@ TEST_F(MainWindowTest, Trouble_HasASignBesideItsColour) {
 TEST_F(MainWindowTest, FieldThatIsGone_DropsTheMessage) {
     auto view = std::make_unique<StatusFieldView>();
     WidgetStatusField field(*view);
-    view.reset();
     field.setAttributedStringValue(
-        {QStringLiteral("late"), StatusColor::Red, TextAlignment::Natural});
-    field.clear();
+        {QStringLiteral("early"), StatusColor::Red, TextAlignment::Natural});
+    EXPECT_EQ(view->findChild<QLabel*>(QStringLiteral("statusText"))->text(), u"early");
+    view.reset();
+    const auto show = [&field] {
+        field.setAttributedStringValue(
+            {QStringLiteral("late"), StatusColor::Red, TextAlignment::Natural});
+        std::_Exit(0);
+    };
+    EXPECT_EXIT(show(), ::testing::ExitedWithCode(0), "");
+    const auto clear = [&field] {
+        field.clear();
+        std::_Exit(0);
+    };
+    EXPECT_EXIT(clear(), ::testing::ExitedWithCode(0), "");
 }
 
 // -- the other tabs

@@ -74,6 +74,16 @@ TEST_F(WidgetMainViewTest, NothingFirstResponder_TakesTheFocusAway) {
     EXPECT_FALSE(window.ibStartButton().hasFocus());
 }
 
+TEST_F(WidgetMainViewTest, ConnectionTest_HasItsSignWhileItRuns) {
+    window.showTab(QStringLiteral("remote"));
+    const auto& sign = *window.findChild<QWidget*>(QStringLiteral("testBusySign"));
+    EXPECT_FALSE(sign.isVisible());
+    view.showTesting(true);
+    EXPECT_TRUE(sign.isVisible());
+    view.showTesting(false);
+    EXPECT_FALSE(sign.isVisible());
+}
+
 TEST_F(WidgetMainViewTest, FieldThatEndedEditing_GivesItsFocusUpOnce) {
     window.showTab(QStringLiteral("remote"));
     auto* field = window.findChild<QLineEdit*>(QStringLiteral("remoteUser"));

@@ -56,28 +56,6 @@ TEST_F(WindowActionsTest, NoButton_IsDead) {
         EXPECT_TRUE(found->isEnabled()) << qPrintable(found->objectName());
 }
 
-TEST_F(WindowActionsTest, EachButton_RunsTheActionOfItsName) {
-    for (const auto& [name, line] : {std::pair("ibSelectFolder1Action", "ibSelectFolder1Action"),
-                                     std::pair("ibSelectFolder2Action", "ibSelectFolder2Action"),
-                                     std::pair("ibRevealButton1", "ibRevealSourcePath"),
-                                     std::pair("ibRevealButton2", "ibRevealDestPath"),
-                                     std::pair("ibSelectSourceByBonjor", "ibSelectSourceByBonjor"),
-                                     std::pair("ibSelectDestByBonjor", "ibSelectDestByBonjor"),
-                                     std::pair("ibSearchBonjour", "ibSearchBonjour"),
-                                     std::pair("ibTestNWBrowser", "ibTestNWBrowser"),
-                                     std::pair("ibRevealInFinderAction", "ibRevealInFinderAction"),
-                                     std::pair("ibOpenTempFolder", "ibOpenTempFolder"),
-                                     std::pair("ibSetNoFirstResponder", "ibSetNoFirstResponder"),
-                                     std::pair("ibQuitAndRelaunch", "ibQuitAndRelaunch"),
-                                     std::pair("ibRSyncOnce", "ibRSyncOnce"),
-                                     std::pair("ibRSyncOnceBonjour", "ibRSyncOnceBonjour")}) {
-        console.clear();
-        click(name);
-        EXPECT_TRUE(printed(QString(u"->" + QString::fromLatin1(line) + u"(_:)"))) << name;
-    }
-    EXPECT_EQ(relaunches, 1);
-}
-
 TEST_F(WindowActionsTest, QuitWhileAMovieIsCopied_AsksUntilItIsNotToBeAskedAgain) {
     SheetPresenter alerts(
         {.mainWindow = mainWindow, .mainQueue = mainQueue, .notices = notices, .showWhy = [] {}});

@@ -71,6 +71,18 @@ TEST(ChecklistTest, Key_IsALineUntilItIsAccepted) {
 
 // -- looking
 
+QStringList texts(const std::vector<ChecklistLine>& lines) {
+    QStringList all;
+    for (const ChecklistLine& line : lines)
+        all << line.text;
+    return all;
+}
+
+const QString cNoMac = QStringLiteral("No Mac is chosen yet.");
+const QString cNoUser = QStringLiteral("The user name on the Mac is missing.");
+const QString cNoSsh = QStringLiteral("ssh is not installed on this machine.");
+const QString cNoRsync = QStringLiteral("rsync is not installed on this machine.");
+
 class ChecklistLookTest : public ::testing::Test {
 protected:
     ChecklistLookTest() {
@@ -114,6 +126,55 @@ TEST_F(ChecklistLookTest, SettingThatChanges_IsLookedAtAgain) {
     store.append({});
     settle();
     EXPECT_EQ(shown.back().size(), 1U) << "and after each pass";
+}
+
+TEST_F(ChecklistLookTest, RemotePass_AsksForWhatItNeeds) {
+    files.programs.clear();
+    files.folders = {files.home + QStringLiteral("/in")};
+    defaults.setObject(prefPath2, QStringLiteral("~/in"));
+    defaults.setObject(prefRsyncWithSSH, true);
+    settle();
+    EXPECT_EQ(texts(shown.back()), (QStringList{cNoMac, cNoUser, cNoSsh, cNoRsync}));
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral("mac.local"));
+    settle();
+    EXPECT_EQ(texts(shown.back()), (QStringList{cNoUser, cNoSsh, cNoRsync}));
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral(" \n"));
+    defaults.setObject(prefRemoteUsername, QStringLiteral("ann"));
+    settle();
+    EXPECT_EQ(texts(shown.back()), (QStringList{cNoMac, cNoSsh, cNoRsync}));
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral("mac.local"));
+    settle();
+    files.programs = {QStringLiteral("/usr/bin/rsync")};
+    list->look();
+    settle();
+    EXPECT_EQ(texts(shown.back()), QStringList{cNoSsh});
+    files.programs = {QStringLiteral("/usr/bin/ssh")};
+    list->look();
+    settle();
+    EXPECT_EQ(texts(shown.back()), QStringList{cNoRsync});
+}
+
+TEST_F(ChecklistLookTest, EachSettingOfAPass_IsLookedAtWhenItChanges) {
+    settle();
+    for (const QStringView key :
+         {prefRsyncWithSSH, prefRemoteBonjourName, prefRemoteUsername, prefPath1, prefPath2}) {
+        const std::size_t before = shown.size();
+        defaults.setObject(key, QStringLiteral("other"));
+        settle();
+        EXPECT_EQ(shown.size(), before + 1) << key.toString().toStdString();
+    }
+}
+
+TEST_F(ChecklistLookTest, CauseOfTheLastPass_GivesTheKeyItsWords) {
+    defaults.setObject(prefRsyncWithSSH, true);
+    list->setKeyState(KeyState::NotAccepted);
+    settle();
+    PassRecord pass;
+    pass.cause = PassCause::HostKeyChanged;
+    store.append(pass);
+    settle();
+    EXPECT_TRUE(
+        texts(shown.back()).contains(wordsFor(PassCause::HostKeyChanged).sentence.toString()));
 }
 
 TEST_F(ChecklistLookTest, StateOfTheKey_IsLookedAtOnceItIsKnown) {

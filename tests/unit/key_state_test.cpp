@@ -112,6 +112,9 @@ TEST_F(KeyStateWatchTest, CheckAgain_AsksInTheBackground) {
     EXPECT_TRUE(shell.commands().isEmpty());
     settle();
     EXPECT_EQ(shown, (std::vector{KeyState::Asking, KeyState::Accepted}));
+    ASSERT_EQ(shell.commands().size(), 1);
+    EXPECT_TRUE(shell.commands().front().contains(u"ConnectTimeout=5 "));
+    EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{35.0});
 }
 
 TEST_F(KeyStateWatchTest, CheckWhileAsking_WaitsForItsEnd) {

@@ -73,7 +73,12 @@ TEST(PassWordsTest, Figures_ReadWell) {
     EXPECT_EQ(sizeText({TransferSource::Statistics, 1, 40000}), QStringLiteral("40.0 kB"));
     EXPECT_EQ(sizeText({}), QString());
     EXPECT_EQ(secondsText(4.4), QStringLiteral("4 s"));
+    EXPECT_EQ(secondsText(59), QStringLiteral("59 s"));
+    EXPECT_EQ(secondsText(60), QStringLiteral("1 min 0 s"));
+    EXPECT_EQ(secondsText(61), QStringLiteral("1 min 1 s"));
     EXPECT_EQ(secondsText(125), QStringLiteral("2 min 5 s"));
+    EXPECT_EQ(secondsText(3599), QStringLiteral("59 min 59 s"));
+    EXPECT_EQ(secondsText(3600), QStringLiteral("1 h 0 min"));
     EXPECT_EQ(secondsText(12000), QStringLiteral("3 h 20 min"));
     EXPECT_EQ(secondsText(-1), QStringLiteral("0 s"));
     EXPECT_EQ(agoText(59), QStringLiteral("just now"));

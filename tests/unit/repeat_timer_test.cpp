@@ -45,6 +45,16 @@ TEST_F(RepeatingTimerTest, ResumedTwice_TicksOncePerInterval) {
     EXPECT_EQ(ticks, 3);
 }
 
+TEST_F(RepeatingTimerTest, ResumedWithinAnInterval_KeepsItsTime) {
+    timer->resume();
+    mainQueue.advance(0.6);
+    timer->resume();
+    mainQueue.advance(0.4);
+    EXPECT_EQ(ticks, 1);
+    mainQueue.advance(1.0);
+    EXPECT_EQ(ticks, 2);
+}
+
 TEST_F(RepeatingTimerTest, SuspendedAndResumedWithinAnInterval_CountsFromTheResume) {
     timer->resume();
     mainQueue.advance(0.6);

@@ -32,12 +32,14 @@ protected:
     SshKeyProvisioningTest() {
         defaults.setObject(prefRemoteUsername, QStringLiteral("mediauser"));
         defaults.setObject(prefRemoteBonjourName, QStringLiteral("Remote-Mac.local"));
+        files.events = shell.events = terminal.events = workspace.events = {&events};
         shell.answerTo(QStringLiteral("ssh-keygen"), [this](const QString&) {
             files.existing += {cPrivateKey, cPublicKey};
             return QStringLiteral("Generating\n");
         });
     }
 
+    QStringList events; ///< what the fakes were asked for, in that order
     MemoryDefaults defaults;
     FakeFileManager files;
     FakeTerminal terminal;
@@ -54,7 +56,11 @@ protected:
          .files = files,
          .console = console,
          .shell = shell,
-         .validate = [this](qint64 timeout) { timeouts.append(timeout); },
+         .validate =
+             [this](qint64 timeout) {
+                 timeouts.append(timeout);
+                 events.append(QStringLiteral("validate"));
+             },
          .commandFiles = commandFiles,
          .workspace = workspace,
          .scriptEnded =
@@ -108,7 +114,8 @@ TEST_F(SshKeyProvisioningTest, ChmodBySystemCall_HandsAFailureBackInDecimal) {
 TEST_F(SshKeyProvisioningTest, CommandFile_IsWrittenMadeExecutableAndOpened) {
     EXPECT_TRUE(commandFiles.executeAsCommandFile(QStringLiteral("echo é"), {}));
     EXPECT_EQ(files.written.value(cScript), "echo \xc3\xa9\n");
-    EXPECT_EQ(shell.commands(), QStringList{cChmod});
+    EXPECT_EQ(events, (QStringList{QString(u"write " + cScript), QString(u"run " + cChmod),
+                                   QStringLiteral("terminal echo é")}));
     EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{30.0});
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().path, cScript);
@@ -223,7 +230,9 @@ TEST_F(SshKeyProvisioningTest, WithoutAHomeFolder_NothingIsMade) {
 TEST_F(SshKeyProvisioningTest, Sequence_ValidatesMakesAndInstalls) {
     provisioning.ibGenerateSSHKeyStuff();
     EXPECT_EQ(timeouts, QList<qint64>{2});
-    EXPECT_EQ(shell.commands(), (QStringList{cGeneration, cChmod}));
+    EXPECT_EQ(events, (QStringList{QStringLiteral("validate"), QString(u"run " + cGeneration),
+                                   QString(u"write " + cScript), QString(u"run " + cChmod),
+                                   QString(u"terminal " + cInstallation)}));
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().command, cInstallation);
     EXPECT_EQ(files.written.value(cScript), QString(cInstallation + u'\n').toUtf8());
@@ -277,19 +286,39 @@ TEST_F(SshKeyProvisioningTest, OutcomeOfTheWindow_IsPassedOnWithItsCommand) {
                                   QString(u"ended " + cInstallation)}));
 }
 
+TEST_F(SshKeyProvisioningTest, StoredTexts_AreNotTrimmed) {
+    defaults.setObject(prefRemoteUsername, QStringLiteral(" media user "));
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral(" Mac "));
+    provisioning.copyPublicKeyToRemoteHost();
+    ASSERT_EQ(terminal.windows.size(), 1U);
+    EXPECT_TRUE(terminal.windows.front().command.endsWith(u"  \" media user @ Mac \""));
+}
+
 // -- the older way
+
+TEST_F(SshKeyProvisioningTest, OlderWayWithoutASafeFolder_OpensNothing) {
+    files.temporary = {{}, QStringLiteral("/tmp/k belongs to somebody else")};
+    provisioning.createNewPrivatePublicKeysOLD();
+    EXPECT_EQ(console.printed().constLast(), u"ooops bad.../tmp/k belongs to somebody else");
+    EXPECT_EQ(events, QStringList());
+}
 
 TEST_F(SshKeyProvisioningTest, OlderWay_RemovesTheOldScriptAndShowsTheFolder) {
     files.existing = {cPrivateKey, cPublicKey, cScript};
     provisioning.createNewPrivatePublicKeysOLD();
-    EXPECT_EQ(files.removed, (QStringList{cPrivateKey, cPublicKey, cScript}));
     const QString command =
         QStringLiteral("/usr/bin/ssh-keygen -N \"\" -f \"/Users/localuser/.ssh/id_kelvoRsync\"");
     EXPECT_EQ(files.written.value(cScript), QString(command + u'\n').toUtf8());
-    EXPECT_TRUE(shell.commands().isEmpty()) << "the terminal runs it";
+    EXPECT_EQ(events,
+              (QStringList{QString(u"remove " + cPrivateKey), QString(u"remove " + cPublicKey),
+                           QString(u"remove " + cScript), QString(u"write " + cScript),
+                           QString(u"mode 755 " + cScript), QString(u"terminal " + command),
+                           QStringLiteral("openUrl file:///tmp/of%20me")}));
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().path, cScript);
-    EXPECT_EQ(workspace.requests, QStringList{QStringLiteral("openUrl file:///tmp/of%20me")});
+    EXPECT_EQ(console.logged(),
+              QStringList{QStringLiteral(
+                  "Inside ViewController->createNewPrivatePublicKeysOLD(_:).......")});
     EXPECT_EQ(console.printed().sliced(4),
               (QStringList{QStringLiteral("status1 = true"), QStringLiteral("status2 = true"),
                            QStringLiteral("chmod result = [0]"), QString()}));

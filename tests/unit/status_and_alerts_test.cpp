@@ -31,6 +31,10 @@ TEST_F(StatusLineTest, Message_IsShownATenthOfASecondLater) {
 }
 
 TEST_F(StatusLineTest, NotCentred_HasOnlyTheColour) {
+    line.updateStatusMessage(QStringLiteral("x"), StatusColor::Red, false);
+    mainQueue.advance(0.1);
+    EXPECT_EQ(field->shown.back(),
+              (AttributedString{QStringLiteral("x"), StatusColor::Red, TextAlignment::Natural}));
     EXPECT_EQ(getAttributedString(QStringLiteral("x"), StatusColor::Black, false),
               (AttributedString{QStringLiteral("x"), StatusColor::Black, TextAlignment::Natural}));
     EXPECT_EQ(getAttributedString(QStringLiteral("x"), StatusColor::Red, true),
@@ -45,6 +49,17 @@ TEST_F(StatusLineTest, EveryUpdate_WipesTheSavedText) {
         EXPECT_FALSE(defaults.object(prefStatusTextfieldString).isValid());
     }
     EXPECT_EQ(field->shown.back(), AttributedString());
+}
+
+TEST_F(StatusLineTest, NoMessage_IsAPlainClear) {
+    line.updateStatusMessage(QString(), StatusColor::Red, true);
+    mainQueue.advance(0.1);
+    EXPECT_EQ(field->clears, 0) << "an empty text has its colour";
+    EXPECT_EQ(field->shown.back(),
+              (AttributedString{QString(), StatusColor::Red, TextAlignment::Centered}));
+    line.updateStatusMessage(std::nullopt, StatusColor::Red, true);
+    mainQueue.advance(0.1);
+    EXPECT_EQ(field->clears, 1);
 }
 
 TEST_F(StatusLineTest, TwoMessages_AreShownInOrder) {

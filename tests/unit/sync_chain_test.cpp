@@ -23,6 +23,24 @@ TEST_F(ChainTest, StopsAndStartsInTheRest_AddNoChain) {
     }
 }
 
+TEST_F(ChainTest, KindSetDuringTheRest_IsThatOfTheNextStartOnly) {
+    for (const bool remote : {true, false}) {
+        defaults.setObject(prefRsyncWithSSH, remote);
+        records.clear();
+        button.performClick();
+        runBodies();
+        defaults.setObject(prefRsyncWithSSH, !remote);
+        (void)passesWithin(40.0);
+        cycle.syncNow();
+        runBodies();
+        ASSERT_EQ(records.size(), 3U);
+        for (const PassRecord& pass : records)
+            EXPECT_EQ(pass.kind, remote ? PassKind::Remote : PassKind::Plain);
+        button.performClick();
+        (void)passesWithin(40.0);
+    }
+}
+
 TEST_F(ChainTest, StopsAndStartsInTheRestAfterAFailedCheck_AddNoChain) {
     validator.usual = QStringLiteral("unknownerror");
     button.performClick();

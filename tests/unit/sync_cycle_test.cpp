@@ -1,6 +1,8 @@
+#include "support/fatal.h"
 #include "unit/sync_cycle_fixture.h"
 
 #include <csignal>
+#include <limits>
 
 namespace kelvo {
 namespace {
@@ -105,13 +107,41 @@ TEST_F(SyncCycleTest, OnceActions_ChooseTheirPassWhateverTheSettingSays) {
     button.current = 1;
     cycle.ibRSyncOnce(&button);
     EXPECT_TRUE(logged(QStringLiteral("Inside Kelvo_Mirror.ViewController->ibRSyncOnce(_:)")));
-    EXPECT_TRUE(logged(QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnce()")));
+    runBodies();
+    mainQueue.advance(1.0);
     defaults.setObject(prefRsyncWithSSH, false);
     cycle.ibRSyncOnceBonjour(&button);
     EXPECT_TRUE(
         logged(QStringLiteral("Inside Kelvo_Mirror.ViewController->ibRSyncOnceBonjour(_:)")));
-    EXPECT_TRUE(
-        logged(QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour().......")));
+    runBodies();
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[0].kind, PassKind::Plain);
+    EXPECT_EQ(records[1].kind, PassKind::Remote);
+}
+
+TEST_F(SyncCycleTest, OnceActions_StoreTheStateOfTheirButton) {
+    for (const auto action : {&SyncCycle::ibRSyncOnce, &SyncCycle::ibRSyncOnceBonjour}) {
+        for (const int state : {1, 0}) {
+            button.current = state;
+            (cycle.*action)(&button);
+            EXPECT_EQ(defaults.object(prefEnableScanning), QVariant(qint64{state}));
+        }
+        defaults.removeObject(prefEnableScanning);
+    }
+}
+
+TEST_F(SyncCycleTest, SwitchedOffWhileAPassRuns_IsFoundBeforeThatItRuns) {
+    button.performClick();
+    runBodies();
+    ASSERT_TRUE(scanning());
+    button.performClick();
+    cycle.doSyncOnce();
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnce()"
+                                       u".......prefEnableScanning = FALSE... cannot start");
+    cycle.doSyncOnceBonjour();
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour()"
+                                       u".......prefEnableScanning = FALSE... cannot start");
+    EXPECT_EQ(lastStatus().string, u"") << "cleared";
 }
 
 // -- the plain pass
@@ -179,6 +209,19 @@ TEST_F(PlainPassTest, RestAboveZero_IsTakenAsItIs) {
     button.performClick();
     runBodies();
     mainQueue.advance(1.499);
+    EXPECT_EQ(bgQueue.size(), 0U);
+    mainQueue.advance(0.001);
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(PlainPassTest, Rest_IsReadWhenTheSecondAfterThePassIsOver) {
+    button.performClick();
+    runBodies();
+    mainQueue.advance(0.5);
+    defaults.setObject(prefDelayBetweenScans, 7.0);
+    mainQueue.advance(0.5);
+    EXPECT_EQ(cycle.state().nextPass, 7.0);
+    mainQueue.advance(6.999);
     EXPECT_EQ(bgQueue.size(), 0U);
     mainQueue.advance(0.001);
     EXPECT_EQ(bgQueue.size(), 1U);
@@ -482,7 +525,7 @@ TEST_F(RemotePassTest, SecondRequestWhileRunning_IsRefusedAndItsStatusLineStays)
     EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour()"
                                        u".......ALREADY in Middle of a Scan...");
     EXPECT_EQ(bgQueue.size(), 0U);
-    EXPECT_EQ(lastStatus().string, cTrying);
+    EXPECT_EQ(statusTexts(), (QStringList{cTrying, cTrying}));
 }
 
 TEST_F(RemotePassTest, SecondRequestDuringValidation_IsRefused) {
@@ -575,11 +618,28 @@ TEST_F(FailedValidationTest, TenthFailure_SchedulesNoFurtherPass) {
     failPasses(10);
     mainQueue.advance(1.0);
     presenter.answer(1, cAlertSecondButtonReturn);
-    mainQueue.advance(5.0);
+    mainQueue.advance(100.0);
     EXPECT_EQ(bgQueue.size(), 0U);
-    EXPECT_EQ(timesLogged(
-                  QStringLiteral("Inside Kelvo_Mirror.ViewController->doSyncOnceBonjour().......")),
-              10);
+    EXPECT_EQ(statusTexts().count(cTrying), 10) << "none is begun, or asked for";
+    EXPECT_TRUE(mainQueue.idle());
+}
+
+TEST(FailureCountTest, LargestNumber_StopsTheProgram) {
+    constexpr qint64 last = std::numeric_limits<qint64>::max();
+    EXPECT_EQ(oneMore(0), 1);
+    EXPECT_EQ(oneMore(last - 1), last);
+    EXPECT_EXIT((void)oneMore(last), ::testing::KilledBySignal(SIGILL), "");
+}
+
+TEST_F(FailedValidationTest, FailureAfterTheTenth_RaisesTheAlertAgain) {
+    failPasses(10);
+    mainQueue.advance(1.0);
+    button.performClick();
+    runBodies();
+    EXPECT_EQ(cycle.badWhoamiCount(), 11);
+    mainQueue.advance(0.2);
+    EXPECT_EQ(presenter.alerts.size(), 2U);
+    EXPECT_FALSE(enabled());
 }
 
 TEST_F(FailedValidationTest, NineFailuresASuccessAndOneMore_RaiseTheAlert) {
@@ -654,12 +714,14 @@ TEST_F(FailedValidationTest, NoAnswer_StartsAgainByItself) {
     mainQueue.advance(0.2 + 6.0);
     EXPECT_TRUE(presenter.open.empty());
     EXPECT_TRUE(logged(QStringLiteral("response = -1000"))) << "the sheet taken away";
+    EXPECT_EQ(cycle.badWhoamiCount(), 0);
     EXPECT_FALSE(enabled()) << "that answer does nothing more";
     mainQueue.advance(0.1);
     EXPECT_TRUE(logged(QStringLiteral("response = 1000")));
     mainQueue.advance(0.1);
     EXPECT_TRUE(enabled());
     EXPECT_EQ(bgQueue.size(), 1U);
+    EXPECT_TRUE(statusTexts().filter(QStringLiteral("oops")).isEmpty());
 }
 
 TEST_F(FailedValidationTest, AnsweredStop_StaysOffWhenTheAlertsOwnAnswerComes) {

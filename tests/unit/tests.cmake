@@ -24,6 +24,7 @@ kelvo_tests(unit
     unit/plain_line_test.cpp
     unit/rsync_statistics_test.cpp
     unit/preferences_test.cpp
+    unit/problem_alert_test.cpp
     unit/property_value_test.cpp
     unit/relaunch_decision_test.cpp
     unit/remote_account_test.cpp

@@ -40,14 +40,15 @@ TEST_F(ViewControllerTest, Load_LeavesNothingTicking) {
 }
 
 TEST_F(ViewControllerTest, Load_RebuildsTheSamplePathAtHalfASecond) {
-    defaults.setObject(prefRemoteUsername, QStringLiteral("u"));
-    defaults.setObject(prefRemoteBonjourName, QStringLiteral("h"));
-    defaults.setObject(prefRemotePath, QStringLiteral("p"));
+    defaults.setObject(prefRemoteUsername, QStringLiteral(" u "));
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral(" h "));
+    defaults.setObject(prefRemotePath, QStringLiteral(" p "));
     controller.viewDidLoad();
     mainQueue.advance(0.499);
     EXPECT_FALSE(defaults.object(prefSampleRemoteFullPath).isValid());
     mainQueue.advance(0.001);
-    EXPECT_EQ(defaults.stringForKey(prefSampleRemoteFullPath), QStringLiteral("u@h:p"));
+    EXPECT_EQ(defaults.stringForKey(prefSampleRemoteFullPath), QStringLiteral(" u @ h : p "))
+        << "not trimmed";
     EXPECT_EQ(button.title, u"Start rsync with bonjour");
 }
 

@@ -1,0 +1,53 @@
+#include "fakes/fake_front.h"
+#include "fakes/recording_console.h"
+#include "fakes/virtual_queues.h"
+#include "sync/problem_alert.h"
+#include "sync/sync_cycle.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+class ProblemAlertTest : public ::testing::Test {
+protected:
+    ProblemAlertTest() {
+        button.current = 1;
+        button.action = [this](Control*) { events.append(QStringLiteral("click")); };
+    }
+
+    QStringList events; ///< in the order in which they came
+    VirtualMainQueue mainQueue;
+    RecordingConsole console;
+    FakeButton button;
+    CycleView view{.updateStatusMessage =
+                       [this](std::optional<QString> mesg, StatusColor, bool) {
+                           events.append(mesg ? QString(u"show " + *mesg)
+                                              : QStringLiteral("clear"));
+                       },
+                   .showProblemWithBonjourClosure =
+                       [this](const QString&, const QString&, std::function<void(ModalResponse)>) {
+                           events.append(QStringLiteral("alert"));
+                       },
+                   .ibStartButton = &button};
+    ProblemAlert problem{
+        {.mainQueue = mainQueue, .console = console, .view = view, .answered = [] {}}};
+};
+
+TEST_F(ProblemAlertTest, Raised_ClicksThenClearsThenAsks) {
+    problem.raise(HostVerdict::fromText(QStringLiteral("unknownerror")));
+    mainQueue.advance(0.009);
+    EXPECT_EQ(events, QStringList());
+    mainQueue.advance(0.001);
+    EXPECT_EQ(events, (QStringList{QStringLiteral("click"), QStringLiteral("clear")}))
+        << "a click may show a text of its own";
+    mainQueue.advance(0.089);
+    EXPECT_EQ(events.size(), 2);
+    mainQueue.advance(0.001);
+    EXPECT_EQ(events.mid(2), QStringList{QStringLiteral("alert")});
+}
+
+} // namespace
+} // namespace kelvo
