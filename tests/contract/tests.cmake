@@ -12,6 +12,7 @@ kelvo_tests(contract
     contract/arrivals_test.cpp
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
+    contract/command_processes_test.cpp
     contract/console_contract_test.cpp
     contract/desktop_notices_contract_test.cpp
     contract/dispatch_queue_contract_test.cpp
