@@ -34,6 +34,7 @@ kelvo_tests(contract
     contract/plist_defaults_links_test.cpp
     contract/plist_defaults_sharing_test.cpp
     contract/plist_defaults_test.cpp
+    contract/plist_file_test.cpp
     contract/plist_guard_test.cpp
     contract/posix_shell_runner_test.cpp
     contract/qt_main_queue_test.cpp
