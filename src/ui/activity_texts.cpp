@@ -96,11 +96,12 @@ QString arrivalsReport(const std::vector<Arrival>& arrivals) {
     return report;
 }
 
-QString cell(QString text) {
-    static constexpr QStringView cFormula = u"=+-@\t\r";
+QString cell(QStringView content) {
+    static constexpr QStringView cFormula = u"=+-@\t";
+    QString text = withVisibleControls(content);
     if (!text.isEmpty() && cFormula.contains(text[0]))
         text.prepend(u'\'');
-    if (text.contains(u'"') || text.contains(u',') || text.contains(u'\n') || text.contains(u'\r'))
+    if (text.contains(u'"') || text.contains(u',') || text.contains(u'\n'))
         return u'"' + text.replace(u'"', QStringLiteral("\"\"")) + u'"';
     return text;
 }
@@ -133,12 +134,12 @@ QString passesAsCsv(std::span<const PassRecord> records) {
     QStringList lines{QStringLiteral("began,kind,cause,outcome,files,bytes,seconds,last line")};
     for (const PassRecord& pass : records) {
         const CauseWords words = wordsFor(pass.cause);
-        lines.append(QStringList{
-            pass.began.toString(Qt::ISODate),
-            pass.kind == PassKind::Remote ? QStringLiteral("remote") : QStringLiteral("plain"),
-            words.name.toString(), cell(words.sentence.toString()), numberCell(pass.transfer.files),
-            numberCell(pass.transfer.bytes), QString::number(pass.seconds, 'f', 3),
-            cell(withVisibleControls(pass.lastLine))}
+        lines.append(QStringList{pass.began.toString(Qt::ISODate),
+                                 pass.kind == PassKind::Remote ? QStringLiteral("remote")
+                                                               : QStringLiteral("plain"),
+                                 words.name.toString(), cell(words.sentence),
+                                 numberCell(pass.transfer.files), numberCell(pass.transfer.bytes),
+                                 QString::number(pass.seconds, 'f', 3), cell(pass.lastLine)}
                          .join(u','));
     }
     return lines.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n");

@@ -1,5 +1,9 @@
 // Writes settings as fast as it can, to be killed, or a number of keys beside other writers; or
-// looks what it knows of a file that fails as long as another one is there.
+// looks what it knows of a file that fails as long as another one is there; or works on the bare
+// file and says how that went.
+//   settings_writer replace PATH
+//   settings_writer aside PATH
+//   settings_writer lock PATH
 //   settings_writer generations PATH
 //   settings_writer keys PATH PREFIX COUNT
 //   settings_writer look PATH OTHER
@@ -64,16 +68,36 @@ void look(UserDefaults& defaults, VirtualMainQueue& mainQueue, const char* other
     say("at last", defaults);
 }
 
+/// What became of it, in a line.
+QString bareWork(std::string_view mode, PlistFile file) {
+    const auto said = [](const QString& failure) {
+        return failure.isEmpty() ? QStringLiteral("done") : failure;
+    };
+    if (mode == "replace")
+        return said(file.replace(QByteArray(5000, 'n')));
+    if (mode == "aside")
+        return said(file.moveAside(QDateTime(QDate(2026, 3, 1), QTime(4, 5, 6), Qt::UTC)).second);
+    const auto [held, failure] = file.lock(std::chrono::seconds(5));
+    if (!held)
+        return failure;
+    return PlistFile(file.path()).lock({}).first ? QStringLiteral("another one has it too")
+                                                 : QStringLiteral("done");
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     if (argc < 3)
         return 2;
+    const std::string_view mode = argv[1];
+    if (mode == "replace" || mode == "aside" || mode == "lock") {
+        std::puts(qPrintable(bareWork(mode, PlistFile(QString::fromLocal8Bit(argv[2])))));
+        return 0;
+    }
     VirtualMainQueue mainQueue;
     RecordingConsole console;
     PlistDefaults defaults(QString::fromLocal8Bit(argv[2]), DamagedFile::IsSetAside, isState,
                            mainQueue, console);
-    const std::string_view mode = argv[1];
     if (mode == "generations" && argc == 3)
         writeGenerations(defaults);
     if (mode == "look" && argc == 4)

@@ -16,6 +16,7 @@
 #include <cstring>
 #include <iostream>
 #include <random>
+#include <vector>
 
 namespace kelvo {
 namespace {
@@ -226,6 +227,43 @@ TEST_F(PlistDefaultsPermissionTest, FolderThatMayNotBeWritten_IsSaidOnceAndWritt
     });
     EXPECT_EQ(decodePlist(bytesOf(fPath)).root, (QVariantMap{{"a", qlonglong{4}}}));
     EXPECT_EQ(fConsole.logged().size(), 2);
+}
+
+TEST_F(PlistDefaultsPermissionTest, FolderThatMayNotBeListed_IsSaidOnce) {
+    permit(0300, 0600);
+    const auto said = [this](const QString& part) { return fConsole.logged().filter(part).size(); };
+    asPlainUser([&] {
+        PlistDefaults defaults(fPath, DamagedFile::IsSetAside, isState, fMain, fConsole);
+        EXPECT_EQ(said(QStringLiteral("are not noticed at once")), 1);
+        for (const int value : {2, 3}) {
+            defaults.setObject(u"a", value);
+            EXPECT_TRUE(waitUntil([&] {
+                const auto values = decodePlist(bytesOf(fPath)).root;
+                return values && values->value("a") == value;
+            })) << "by itself";
+        }
+        EXPECT_EQ(said(QStringLiteral("are not noticed at once")), 1);
+        EXPECT_EQ(said(QStringLiteral("cannot be saved")), 1) << "it cannot be synced";
+    });
+}
+
+TEST_F(PlistDefaultsPermissionTest, ForeignChangeMetAtSynchronize_IsTold) {
+    permit(0300, 0600); // so that nothing else meets it
+    asPlainUser([this] {
+        PlistDefaults defaults(fPath, DamagedFile::IsSetAside, isState, fMain, fConsole);
+        std::vector<int> told;
+        const auto subscription = defaults.observe(u"a", [&](const DefaultsChange& change) {
+            told.push_back(change.newValue.value_or(QVariant()).toInt());
+        });
+        write(encodePlist({{"a", 7LL}}));
+        defaults.setObject(u"b", 2);
+        defaults.synchronize();
+        EXPECT_TRUE(waitUntil([&] {
+            fMain.runDue();
+            return !told.empty();
+        }));
+        EXPECT_EQ(told, std::vector{7});
+    });
 }
 
 class PlistDefaultsReadErrorTest : public PlistDefaultsFixture,

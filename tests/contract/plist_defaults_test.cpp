@@ -114,6 +114,20 @@ TEST_F(PlistDefaultsTest, ManyChanges_AreGatheredIntoFewReplacements) {
     EXPECT_LE(replacements, gatherTimes + 2);
 }
 
+TEST_F(PlistDefaultsTest, FirstChange_IsWrittenATenthOfASecondLaterWhateverFollows) {
+    const auto defaults = open();
+    defaults->setObject(u"a", -1);
+    defaults->synchronize();
+    const auto start = std::chrono::steady_clock::now();
+    int number = 0;
+    EXPECT_TRUE(waitUntil([&] {
+        defaults->setObject(u"a", number++);
+        const auto values = fFolder.values();
+        return values && values->value("a") != QVariant(-1);
+    })) << "changes without a pause do not put it off";
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 100ms);
+}
+
 TEST_F(PlistDefaultsTest, EqualValue_LeavesTheFileAlone) {
     const auto defaults = open();
     defaults->setObject(u"a", true);
@@ -388,6 +402,24 @@ TEST_F(PlistDefaultsTest, BlockedFolder_IsSaidOnceAndWrittenWhenItWorks) {
     // The folder is new, and yet what others do there is noticed.
     fFolder.replace({{"a", 9LL}});
     EXPECT_TRUE(waitUntil([&] { return defaults->integerForKey(u"a") == 9; }));
+}
+
+TEST_F(PlistDefaultsTest, PlaceThatStaysBlocked_IsTriedAgainAfterLongerAndLongerPauses) {
+    QDir().mkpath(fFolder.path());
+    const int events = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    ASSERT_GE(::inotify_add_watch(events, QFile::encodeName(fFolder.path()), IN_OPEN), 0);
+    const auto start = std::chrono::steady_clock::now();
+    const auto defaults = open();
+    int attempts = 0;
+    EXPECT_TRUE(waitUntil([&] {
+        alignas(inotify_event) char event[sizeof(inotify_event)];
+        while (::read(events, event, sizeof event) > 0)
+            ++attempts;
+        return attempts >= 4;
+    }));
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 3500ms) << "three equal pauses are 3 s";
+    ::close(events);
+    EXPECT_EQ(fConsole.logged().size(), 1);
 }
 
 TEST_F(PlistDefaultsTest, BlockedFolder_IsTriedAgainWithoutBeingAsked) {

@@ -12,6 +12,7 @@ kelvo_tests(contract
     contract/arrivals_test.cpp
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
+    contract/command_processes_test.cpp
     contract/console_contract_test.cpp
     contract/desktop_notices_contract_test.cpp
     contract/dispatch_queue_contract_test.cpp
@@ -34,6 +35,8 @@ kelvo_tests(contract
     contract/plist_defaults_links_test.cpp
     contract/plist_defaults_sharing_test.cpp
     contract/plist_defaults_test.cpp
+    contract/plist_file_test.cpp
+    contract/plist_guard_test.cpp
     contract/posix_shell_runner_test.cpp
     contract/qt_main_queue_test.cpp
     contract/rotating_log_file_test.cpp

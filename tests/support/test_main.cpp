@@ -5,7 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include <signal.h>
+
 int main(int argc, char** argv) {
+    // A shell that starts the tests in the background has them ignored, and every child after it.
+    for (const int number : {SIGINT, SIGQUIT})
+        (void)::signal(number, SIG_DFL);
     const QTemporaryDir home;
     if (!home.isValid())
         return 1;

@@ -42,6 +42,13 @@ TEST(ActivityTextsTest, Report_HoldsEveryCommandAndSpellsControlsOut) {
     EXPECT_FALSE(report.contains(u'\x1b'));
 }
 
+TEST(ActivityTextsTest, Report_NamesTheKindOfPass) {
+    PassRecord pass = passAgo(0, PassCause::Well);
+    EXPECT_TRUE(passReport(pass).contains(u"\nRemote pass, "));
+    pass.kind = PassKind::Plain;
+    EXPECT_TRUE(passReport(pass).contains(u"\nPlain pass, "));
+}
+
 TEST(ActivityTextsTest, CancelledPass_IsToldWithItsArrivalsAndTheCommandAfterThem) {
     PassRecord pass = passAgo(0, PassCause::Cancelled);
     pass.arrivals = {{"/in/a\x1b[31m\n.mov", 1'200'000'000, cNow}};
@@ -126,6 +133,37 @@ TEST(ActivityTextsTest, Csv_IsQuotedAndHoldsNoFormula) {
         QStringLiteral("2026-03-01T12:00:00Z,remote,unknown,Something went wrong.,3,,4.000,"
                        "\"'=HYPERLINK(\"\"evil\"\"),\nmore\"\r\n")))
         << csv.toStdString();
+}
+
+/// The last cell of the only row.
+QString lastCell(const QString& lastLine) {
+    PassRecord pass = passAgo(0, PassCause::Well);
+    pass.lastLine = lastLine;
+    const QString csv = passesAsCsv(std::vector{pass});
+    const QString before = QStringLiteral(",3,3000,4.000,");
+    const qsizetype begin = csv.indexOf(before) + before.size();
+    return csv.sliced(begin, csv.size() - begin - 2);
+}
+
+TEST(ActivityTextsTest, EachSignThatACsvCellCannotHoldBare_IsQuoted) {
+    EXPECT_EQ(lastCell(QStringLiteral("plain; 'it' is")), u"plain; 'it' is");
+    EXPECT_EQ(lastCell(QStringLiteral("a,b")), u"\"a,b\"");
+    EXPECT_EQ(lastCell(QStringLiteral("a\nb")), u"\"a\nb\"");
+    EXPECT_EQ(lastCell(QStringLiteral("5\" disk\"")), u"\"5\"\" disk\"\"\"");
+    EXPECT_EQ(lastCell(QStringLiteral("a\rb")), u"a\\x0db");
+    for (const QChar sign : QStringView(u"=+-@\t")) {
+        const QString begun = sign + QStringLiteral("1");
+        EXPECT_EQ(lastCell(begun), QString(u'\'' + begun)) << int(sign.unicode());
+        const QString within = u'1' + begun;
+        EXPECT_EQ(lastCell(within), within) << int(sign.unicode());
+    }
+}
+
+TEST(ActivityTextsTest, Csv_NamesTheKindOfPass) {
+    PassRecord pass = passAgo(0, PassCause::Well);
+    EXPECT_TRUE(passesAsCsv(std::vector{pass}).contains(u"Z,remote,"));
+    pass.kind = PassKind::Plain;
+    EXPECT_TRUE(passesAsCsv(std::vector{pass}).contains(u"Z,plain,"));
 }
 
 } // namespace

@@ -120,6 +120,17 @@ TEST(PassCauseTest, MacOfAnotherAge_IsUnderstoodToo) {
     EXPECT_EQ(pull(143, ""), Unknown);
 }
 
+TEST(PassCauseTest, PullThatSaidNothing_IsJudgedByItsStatus) {
+    for (const auto& [status, cause] :
+         {std::pair(0, Well), std::pair(1, CommandNotUnderstood), std::pair(2, RsyncTooOldThere),
+          std::pair(3, DestinationUnusable), std::pair(4, RsyncTooOldThere), std::pair(5, Unknown),
+          std::pair(11, Unknown), std::pair(12, Unknown), std::pair(20, Interrupted),
+          std::pair(23, FilesNotTaken), std::pair(24, FilesVanished), std::pair(30, CutOff),
+          std::pair(35, CutOff), std::pair(126, CommandNotUnderstood),
+          std::pair(127, ToolMissingHere), std::pair(130, Unknown), std::pair(255, Unknown)})
+        EXPECT_EQ(causeOf(ended(CommandRole::Pull, status, {})).cause, cause) << status;
+}
+
 TEST(PassCauseTest, CheckWhoseTimeWasUp_MeansAHostThatIsAwayWhateverItSaid) {
     for (const char* said : {"", "mediauser\n", "Warning: Identity file x not accessible: no\n"})
         EXPECT_EQ(causeOf(ended(CommandRole::HostCheck, 124, QString::fromUtf8(said))).cause,

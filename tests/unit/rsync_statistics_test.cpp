@@ -27,6 +27,51 @@ TEST(RsyncStatisticsTest, OldOrHumanFigures_AreRead) {
     EXPECT_EQ(transfer.bytes, 1500000);
 }
 
+TEST(RsyncStatisticsTest, EachFigure_IsReadByItsOwnWord) {
+    const auto regular = transferOf({}, u"Number of regular files transferred: 3");
+    EXPECT_EQ(regular.files, 3);
+    EXPECT_FALSE(regular.bytes.has_value());
+    EXPECT_EQ(regular.source, TransferSource::Statistics);
+    EXPECT_EQ(transferOf({}, u"Number of files transferred: 4").files, 4);
+    const auto bytes = transferOf({}, u"Total transferred file size: 5 bytes");
+    EXPECT_EQ(bytes.bytes, 5);
+    EXPECT_FALSE(bytes.files.has_value());
+    EXPECT_EQ(bytes.source, TransferSource::Statistics);
+    const auto received =
+        transferOf(u"rsync -v a b", u"one.mov\nsent 65 bytes  received 6 bytes  1.00 bytes/sec");
+    EXPECT_EQ(received.source, TransferSource::Lines);
+    EXPECT_EQ(received.bytes, 6);
+    for (const QStringView other :
+         {u"Number of files: 9 (reg: 5, dir: 4)", u"Number of created files: 9 (reg: 9)",
+          u"Number of deleted files: 9", u"Total file size: 9 bytes", u"Literal data: 9 bytes",
+          u"Matched data: 9 bytes", u"File list size: 9", u"File list generation time: 9 seconds",
+          u"File list transfer time: 9 seconds", u"Total bytes sent: 9", u"Total bytes received: 9",
+          u"sent 9 bytes", u"total size is 9  speedup is 9"}) {
+        const auto none = transferOf(u"rsync -v a b", other);
+        EXPECT_EQ(none.source, TransferSource::Lines) << other.toUtf8().constData();
+        EXPECT_EQ(none.files, 0) << other.toUtf8().constData();
+    }
+}
+
+TEST(RsyncStatisticsTest, EachUnit_IsThePowerOfAThousandThatItSays) {
+    const auto bytesOf = [](const char* figure) {
+        return transferOf({}, QStringLiteral("Total transferred file size: %1 bytes")
+                                  .arg(QString::fromLatin1(figure)))
+            .bytes;
+    };
+    EXPECT_EQ(bytesOf("2,34"), 234);
+    EXPECT_EQ(bytesOf("2.345"), 2345) << "a grouping point";
+    EXPECT_EQ(bytesOf("2.34K"), 2340);
+    EXPECT_EQ(bytesOf("2,34K"), 2340) << "a decimal comma";
+    EXPECT_EQ(bytesOf("2.34M"), 2'340'000);
+    EXPECT_EQ(bytesOf("2.34G"), 2'340'000'000);
+    EXPECT_EQ(bytesOf("2.34T"), 2'340'000'000'000);
+    EXPECT_EQ(bytesOf("2.34P"), 2'340'000'000'000'000);
+    EXPECT_EQ(bytesOf("8999P"), 8'999'000'000'000'000'000);
+    EXPECT_EQ(bytesOf("9300P"), std::nullopt) << "more than can be counted";
+    EXPECT_EQ(bytesOf("1.2.3K"), std::nullopt);
+}
+
 TEST(RsyncStatisticsTest, WithoutStatistics_NamesAreCounted) {
     const auto transfer = transferOf(u"/usr/bin/rsync -rv a/ b/",
                                      u"receiving incremental file list\ncreated directory b\n./\n"

@@ -1,0 +1,96 @@
+#include "adapters/process/command_processes.h"
+#include "adapters/system/clean_attributes.h"
+
+#include <gtest/gtest.h>
+
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <time.h>
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A shell with a session and variables of its own.
+class Shell {
+public:
+    explicit Shell(std::string text, std::string variable = "NOTHING=1") {
+        std::string name = "sh";
+        std::string option = "-c";
+        const std::array<char*, 4> arguments{name.data(), option.data(), text.data(), nullptr};
+        std::string path = "PATH=/usr/bin:/bin";
+        const std::array<char*, 3> variables{path.data(), variable.data(), nullptr};
+        EXPECT_EQ(::posix_spawn(&fPid, "/bin/sh", nullptr, CleanAttributes().get(),
+                                arguments.data(), variables.data()),
+                  0);
+    }
+    ~Shell() {
+        ::kill(-fPid, SIGKILL);
+        ::waitpid(fPid, nullptr, 0);
+    }
+    Shell(const Shell&) = delete;
+    Shell& operator=(const Shell&) = delete;
+
+    pid_t pid() const { return fPid; }
+    CommandProcesses session() const { return {{&fPid, 1}, {}}; }
+
+    /// Waits for its end without reaping it; returns the signal that ended it, or 0.
+    int end() const {
+        siginfo_t ended{};
+        EXPECT_EQ(::waitid(P_PID, static_cast<id_t>(fPid), &ended, WEXITED | WNOWAIT), 0);
+        return ended.si_code == CLD_KILLED ? ended.si_status : 0;
+    }
+
+private:
+    pid_t fPid = -1;
+};
+
+TEST(CommandProcessesTest, MarkOrSession_MakesAProcessOneOfThem) {
+    const Shell ours("exec sleep 600", "KELVO_TEST_MARK=77");
+    const Shell longer("exec sleep 600", "KELVO_TEST_MARK=777");
+    const Shell other("exec sleep 600", "AKELVO_TEST_MARK=77");
+    const Shell unmarked("exec sleep 600");
+    const pid_t sessions = unmarked.pid();
+    EXPECT_EQ(livingProcesses({{}, "KELVO_TEST_MARK=77"}), std::vector{ours.pid()});
+    EXPECT_EQ(livingProcesses(unmarked.session()), std::vector{unmarked.pid()});
+    EXPECT_EQ(livingProcesses({{&sessions, 1}, "KELVO_TEST_MARK=777"}).size(), 2U);
+    EXPECT_EQ(livingProcesses({}), std::vector<pid_t>());
+}
+
+TEST(CommandProcessesTest, ProcessThatWaitsToBeReaped_IsNotLiving) {
+    const Shell shell("exit 3");
+    EXPECT_EQ(shell.end(), 0);
+    EXPECT_EQ(livingProcesses(shell.session()), std::vector<pid_t>());
+    EXPECT_TRUE(endProcesses(shell.session(), SIGTERM, 0ms));
+}
+
+TEST(CommandProcessesTest, End_IsAskedForAndWaitedFor) {
+    const Shell shell("exec sleep 600");
+    EXPECT_TRUE(endProcesses(shell.session(), SIGTERM, 60s));
+    EXPECT_EQ(shell.end(), SIGTERM);
+}
+
+TEST(CommandProcessesTest, OneThatStays_IsWaitedForInItsSleep) {
+    const Shell shell("kill -STOP $$");
+    siginfo_t stopped{};
+    ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(shell.pid()), &stopped, WSTOPPED | WNOWAIT), 0);
+    timespec before{};
+    timespec after{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &before);
+    EXPECT_FALSE(endProcesses(shell.session(), SIGTERM, 2s)) << "it cannot hear";
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &after);
+    const auto worked = static_cast<double>(after.tv_sec - before.tv_sec) +
+                        static_cast<double>(after.tv_nsec - before.tv_nsec) / 1e9;
+    EXPECT_LT(worked, 0.1) << "seconds";
+    EXPECT_TRUE(endProcesses(shell.session(), SIGKILL, 60s));
+    EXPECT_EQ(shell.end(), SIGKILL);
+}
+
+} // namespace
+} // namespace kelvo
