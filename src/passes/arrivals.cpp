@@ -60,8 +60,10 @@ std::vector<Arrival> arrivalsOf(const FileManager& files, const ArrivalSearch& s
     std::erase_if(found,
                   [&](const auto& file) { return !changedSince(search.began, file.changed); });
     std::ranges::sort(found, {}, &FoundFile::path);
-    const auto twice = std::ranges::unique(found, {}, &FoundFile::path);
-    found.erase(twice.begin(), twice.end());
+    const auto samePath = [](const FoundFile& one, const FoundFile& other) {
+        return one.path == other.path;
+    };
+    found.erase(std::unique(found.begin(), found.end(), samePath), found.end());
     std::ranges::stable_sort(found, {}, &FoundFile::changed);
     found.resize(std::min(found.size(), cMostArrivals));
 
