@@ -9,8 +9,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QResizeEvent>
-#include <QStylePainter>
 #include <QStyleOptionToolButton>
+#include <QStylePainter>
 #include <QToolButton>
 #include <QUrl>
 
