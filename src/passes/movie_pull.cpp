@@ -12,14 +12,19 @@ namespace {
 
 constexpr QStringView cErrorsToo = u"2>&1";
 
+/// Where our own commands keep half a file; no folder of movies has this name.
+constexpr QStringView cPartialFolder = u".kelvo-partial";
+
 /// Options that leave no file out, with their value behind "=" if they have one.
 constexpr auto cHarmless = std::to_array<QStringView>({
-    u"--archive",        u"--bwlimit",         u"--compress", u"--group",
-    u"--human-readable", u"--ignore-existing", u"--info",     u"--itemize-changes",
-    u"--links",          u"--out-format",      u"--owner",    u"--partial",
-    u"--partial-dir",    u"--perms",           u"--progress", u"--prune-empty-dirs",
-    u"--recursive",      u"--rsync-path",      u"--stats",    u"--timeout",
-    u"--times",          u"--update",          u"--verbose",
+    u"--archive",    u"--bwlimit",         u"--compress",
+    u"--group",      u"--human-readable",  u"--ignore-existing",
+    u"--info",       u"--itemize-changes", u"--links",
+    u"--out-format", u"--owner",           u"--partial",
+    u"--perms",      u"--progress",        u"--prune-empty-dirs",
+    u"--recursive",  u"--rsync-path",      u"--stats",
+    u"--timeout",    u"--times",           u"--update",
+    u"--verbose",
 });
 constexpr QStringView cHarmlessLetters = u"DPaghilmoprtuvz";
 
@@ -74,9 +79,13 @@ std::optional<QStringList> plainWords(QStringView command) {
 bool takeOption(QStringView option, PullWords& pull) {
     if (option.startsWith(u"--")) {
         const qsizetype end = option.indexOf(u'=');
+        const QStringView name = option.first(end < 0 ? option.size() : end);
+        const QStringView value = option.sliced(end < 0 ? option.size() : end + 1);
         pull.goesDeep = pull.goesDeep || option == u"--recursive" || option == u"--archive";
-        return std::ranges::find(cHarmless, end < 0 ? option : option.first(end)) !=
-               cHarmless.end();
+        // Folders of this name are left out of the source too, unless it begins with a slash.
+        if (name == u"--partial-dir")
+            return value == cPartialFolder || value.startsWith(u'/');
+        return std::ranges::find(cHarmless, name) != cHarmless.end();
     }
     const QStringView letters = option.sliced(1);
     pull.goesDeep = pull.goesDeep || letters.contains(u'r') || letters.contains(u'a');
@@ -116,7 +125,7 @@ bool takeMovies(const QStringList& filters) {
         else if (rule == u"- *")
             return taken.contains(u"*/") && taken.contains(u"*.[mM][oO][vV]") &&
                    taken.contains(u"*.[mM][pP]4");
-        else if (rule != u"- .kelvo-partial/")
+        else if (rule != QString(u"- " + cPartialFolder + u'/'))
             return false;
     }
     return true;

@@ -231,7 +231,7 @@ TEST(PassCauseTest, RefusedMovieCommand_IsNoTroubleWhenThePullBroughtEveryMovie)
     for (const QString& options :
          {QStringLiteral("-r --times"), QStringLiteral("-avP --stats --bwlimit=9"),
           QStringLiteral("--recursive -f '- .kelvo-partial/'"), QStringLiteral("-r --update"),
-          QStringLiteral("-r --ignore-existing"),
+          QStringLiteral("-r --ignore-existing"), QStringLiteral("-r --partial-dir=/tmp/parts"),
           QStringLiteral("-r --times --partial-dir=.kelvo-partial --stats --info=progress2 "
                          "--out-format='%l %n' -f '- .kelvo-partial/' -f '+ */' "
                          "-f '+ *.[mM][oO][vV]' -f '+ *.[mM][pP]4' -f '- *'"),
@@ -244,6 +244,7 @@ TEST(PassCauseTest, RefusedMovieCommand_IsNoTroubleWhenThePullBroughtEveryMovie)
 TEST(PassCauseTest, RefusedMovieCommand_IsNamedWhereThePullMayHaveLeftMoviesOut) {
     for (const QString& options :
          {QStringLiteral("--times"), QStringLiteral("-r -f '- *.mp4'"), QStringLiteral("-rn"),
+          QStringLiteral("-r --partial-dir=Films"), QStringLiteral("-r --partial-dir"),
           QStringLiteral("-r --max-size=9G"), QStringLiteral("-r --exclude='*.mov'"),
           QStringLiteral("-r -f '. rules'"), QStringLiteral("-rf '- *'"), QStringLiteral("-r -f"),
           QStringLiteral("-r -f '+ */' -f '+ *.[mM][oO][vV]' -f '- *'"),
