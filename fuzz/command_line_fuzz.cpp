@@ -67,6 +67,22 @@ void checkRequest(const SettingsRequest& request) {
                 static_cast<qsizetype>(preferenceTable().size()));
 }
 
+/// A moment is one that the calendar has; one that is counted back from now lies in the past.
+void checkPasses(const PassesRequest& request, const QStringList& arguments) {
+    require(arguments.contains(QStringLiteral("--passes")));
+    require(request.json == arguments.contains(QStringLiteral("--json")));
+    if (!request.since)
+        return;
+    require(request.since->isValid());
+    const QDateTime day = QDate(2026, 11, 22).startOfDay(Qt::UTC);
+    for (const QString& text : arguments) {
+        const auto moment = momentFrom(text, day);
+        require(!moment || moment->isValid());
+        if (moment && (text.endsWith(u"min") || text.endsWith(u'h') || text.endsWith(u'd')))
+            require(*moment <= day);
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -90,5 +106,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(!line.json || line.kind == LaunchKind::Once);
     if (complete)
         checkRequest(line.settings);
+    if (line.kind == LaunchKind::Passes)
+        checkPasses(line.passes, arguments);
     return 0;
 }
