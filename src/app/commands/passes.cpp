@@ -27,10 +27,6 @@ QJsonObject jsonOf(const Arrival& arrival) {
     return object;
 }
 
-QString oneLine(const QString& text) {
-    return withVisibleControls(text).replace(u'\n', QStringLiteral("\\x0a"));
-}
-
 QString lineOf(const PassRecord& pass) {
     const QDateTime local = pass.began.toLocalTime();
     return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODate) + u"  " +
