@@ -90,7 +90,7 @@ void ConnectionCheck::ibTestShellCommand222() {
     if (!command)
         return;
     fParts.console.print(u"cmd to send out is:\n" + *command);
-    const auto result = std::make_shared<std::optional<QString>>();
+    const auto result = std::make_shared<QString>();
     background(
         fParts.bgQueue, fParts.mainQueue, 0.0,
         [&shell = fParts.shell, command = *command, result] {
@@ -99,19 +99,15 @@ void ConnectionCheck::ibTestShellCommand222() {
         [this, result] { finish(*result); });
 }
 
-void ConnectionCheck::finish(const std::optional<QString>& output) {
-    if (!output) {
-        fParts.showBusy(false);
-        return;
-    }
-    fParts.console.print(u"got back:\n" + trimmedText(*output));
+void ConnectionCheck::finish(const QString& output) {
+    fParts.console.print(u"got back:\n" + trimmedText(output));
     fParts.console.print(QStringLiteral("----  END  -----"));
     // The shell has taken the quotes away by now, so the line comes only when the output has them.
     const auto token = filledIn(cGoodResponse);
-    if (token && output->contains(*token, Qt::CaseInsensitive))
+    if (token && output.contains(*token, Qt::CaseInsensitive))
         fParts.console.print(QStringLiteral("ssh remote is alive... connection good"));
 
-    const QString fault = connectionFault(*output);
+    const QString fault = connectionFault(output);
     if (fault.isEmpty())
         show(QStringLiteral("SUCCESS..."), QStringLiteral("remote seem to be alive?..."));
     else

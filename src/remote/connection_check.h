@@ -57,7 +57,7 @@ public:
     void ibTestShellCommand222();
 
 private:
-    void finish(const std::optional<QString>& output);
+    void finish(const QString& output);
     void showFault(const QString& fault);
     void show(const QString& title, const QString& text);
     QString faultOfAccount() const;

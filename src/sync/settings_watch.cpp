@@ -28,8 +28,6 @@ SettingsWatch::SettingsWatch(UserDefaults& defaults, DispatchQueue& mainQueue,
     : fDefaults(defaults), fMainQueue(mainQueue), fChanged(std::move(changed)) {}
 
 void SettingsWatch::begin() {
-    if (watches())
-        return;
     for (const QStringView key : cNeeded)
         fWatched.push_back(fDefaults.observe(key, [this](const DefaultsChange&) {
             if (fTold.exchange(true))

@@ -312,6 +312,15 @@ TEST_F(AvahiEndpointSearchTest, ServiceRestarted_FindsWhatIsThereNow) {
     EXPECT_EQ(heard.states.last(), u"ready");
 }
 
+TEST_F(AvahiEndpointSearchTest, ServiceGoneBeforeAnythingWasFound_IsNoResult) {
+    searchUntilReady();
+    ASSERT_TRUE(network.service.disappear());
+    ASSERT_TRUE(network.service.appear());
+    EXPECT_TRUE(statesBecome(
+        {QStringLiteral("ready"), QStringLiteral("waiting"), QStringLiteral("ready")}));
+    EXPECT_TRUE(heard.results.isEmpty());
+}
+
 TEST_F(AvahiEndpointSearchTest, FailureLater_IsToldInWords) {
     searchUntilReady();
     network.service.tell(1, QStringLiteral("Failure"),

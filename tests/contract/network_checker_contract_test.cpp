@@ -144,6 +144,14 @@ protected:
                                          QStringLiteral(KELVO_NETWORK_WATCHER)};
     }
 
+    static void expectLines(RunningProgram& program, const QStringList& expected) {
+        for (const QString& message : expected) {
+            const auto line = program.waitForLine([](const QString&) { return true; }, 20);
+            ASSERT_TRUE(line) << program.transcript().toStdString();
+            EXPECT_EQ(*line, message) << program.transcript().toStdString();
+        }
+    }
+
 private:
     inline static const QStringList cOwnNetwork{
         QStringLiteral("--user"), QStringLiteral("--map-root-user"),
@@ -168,13 +176,26 @@ TEST_F(OwnNetworkTest, LinksAndAddresses_ChangeTheMessage) {
                            "7) ip route del default; ip route add blackhole default ;; "
                            "8) ip address flush dev here ;; "
                            "esac; done")));
-    const QStringList expected{cNothing, cLocal, cNothing, cLocal,  cFull,
-                               cLocal,   cFull,  cLocal,   cNothing};
-    for (const QString& message : expected) {
-        const auto line = program.waitForLine([](const QString&) { return true; }, 20);
-        ASSERT_TRUE(line) << program.transcript().toStdString();
-        EXPECT_EQ(*line, message) << program.transcript().toStdString();
-    }
+    expectLines(program,
+                {cNothing, cLocal, cNothing, cLocal, cFull, cLocal, cFull, cLocal, cNothing});
+}
+
+TEST_F(OwnNetworkTest, IPv6AddressesAndRoutes_CountToo) {
+    // What a device gives itself, fe80::…, is there from the first step to the last and is none.
+    RunningProgram program(QStringLiteral("unshare"),
+                           inOwnNetwork(QStringLiteral(
+                               "ip link add here type veth peer name there; ip link set there up; "
+                               "ip link set here up; DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nowhere "
+                               "\"$1\" | while read -r line; do echo \"$line\"; "
+                               "step=$((step + 1)); case $step in "
+                               "1) ip address add fd00::7/64 dev here nodad ;; "
+                               "2) ip route add default via fd00::1 dev here ;; "
+                               "3) ip -6 route del default; ip -6 route add unreachable default ;; "
+                               "4) ip -6 route del default; ip route add default via fd00::1 ;; "
+                               "5) ip -6 route del default; ip -6 route add default dev lo ;; "
+                               "6) ip address flush dev here scope global ;; "
+                               "esac; done")));
+    expectLines(program, {cNothing, cLocal, cFull, cLocal, cFull, cLocal, cNothing});
 }
 
 } // namespace

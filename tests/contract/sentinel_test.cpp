@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -146,6 +147,71 @@ TEST_F(SentinelTest, ProgramThatIsGone_CannotBeStartedAgain) {
     EXPECT_EQ(sentinel.readAllStandardError(),
               QByteArray("watchdog: cannot start " + copy.toLocal8Bit() +
                          " again: No such file or directory\n"));
+}
+
+TEST_F(SentinelTest, RelaunchedProgram_HasItsFolderItsVariablesAndItsArgumentsWithTheMarkLast) {
+    const QTemporaryDir folder;
+    QProcess program;
+    program.setWorkingDirectory(folder.path());
+    QProcessEnvironment variables;
+    variables.insert(QStringLiteral("BIG"), QString(20'000, u'x'));
+    program.setProcessEnvironment(variables);
+    program.start(QStringLiteral("/bin/sh"),
+                  {QStringLiteral("-c"),
+                   QStringLiteral("[ ! -e begun ] || { printf '<%s>' \"${#BIG}\" \"$@\" > again; "
+                                  "exit 7; }; : > begun; read line"),
+                   QStringLiteral("name"), QStringLiteral("a b"), QString(),
+                   QStringLiteral("--autorelaunched"), QStringLiteral("z")});
+    ASSERT_TRUE(waitUntil([&] { return QFile::exists(folder.filePath(QStringLiteral("begun"))); }));
+    QProcess sentinel;
+    sentinel.start(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())});
+    ASSERT_TRUE(sentinel.waitForStarted());
+    ASSERT_TRUE(
+        waitUntil([&] { return catchesTermination(static_cast<pid_t>(sentinel.processId())); }));
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    ASSERT_TRUE(sentinel.waitForFinished());
+    EXPECT_EQ(sentinel.exitCode(), 7) << sentinel.readAllStandardError().constData();
+    QFile again(folder.filePath(QStringLiteral("again")));
+    ASSERT_TRUE(again.open(QIODevice::ReadOnly));
+    EXPECT_EQ(again.readAll(), "<20000><a b><><z><--autorelaunched>");
+}
+
+TEST_F(SentinelTest, CommandsThatCarryTheMark_AreAskedToEndAndThenForced) {
+    QProcess program;
+    program.start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+    ASSERT_TRUE(program.waitForStarted());
+    const QString pid = QString::number(program.processId());
+    QProcess willing;
+    QProcess stubborn;
+    QProcess bystander; // of another program
+    for (QProcess* process : {&willing, &stubborn, &bystander}) {
+        QProcessEnvironment variables;
+        variables.insert(QStringLiteral("FIRST"), QStringLiteral("1"));
+        variables.insert(QStringLiteral("KELVO_MIRROR_PID"),
+                         process == &bystander ? QString(pid + u'0') : pid);
+        process->setProcessEnvironment(variables);
+        if (process == &stubborn)
+            process->setChildProcessModifier([] { ::signal(SIGTERM, SIG_IGN); });
+        process->start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+        ASSERT_TRUE(process->waitForStarted());
+    }
+    QProcess sentinel;
+    sentinel.start(QStringLiteral(KELVO_SENTINEL), {pid});
+    ASSERT_TRUE(sentinel.waitForStarted());
+    ASSERT_TRUE(
+        waitUntil([&] { return catchesTermination(static_cast<pid_t>(sentinel.processId())); }));
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    ASSERT_TRUE(willing.waitForFinished());
+    EXPECT_EQ(willing.exitCode(), SIGTERM);
+    ASSERT_TRUE(stubborn.waitForFinished());
+    EXPECT_EQ(stubborn.exitCode(), SIGKILL);
+    EXPECT_TRUE(sentinel.waitForFinished());
+    EXPECT_EQ(sentinel.exitCode(), EXIT_FAILURE) << "sleep, which does not know the option";
+    EXPECT_FALSE(bystander.waitForFinished(0));
+    bystander.kill();
+    EXPECT_TRUE(bystander.waitForFinished());
 }
 
 TEST_F(SentinelTest, TableOfCommands_EndsTheSessionsThatItMeansAndNoOther) {

@@ -114,15 +114,20 @@ constexpr char cNeighbours[] =
     "10.0.0.2         0x1         0x2         AA:bb:cc:00:11:22     *        eth0\n"
     "10.0.0.2         0x1         0x2         aa:bb:cc:00:11:33     *        wlan0\n"
     "10.0.0.3         0x1         0x0         00:00:00:00:00:00     *        eth0\n"
+    "10.0.0.4         0x1         0x1         aa:bb:cc:00:11:44     *        eth0\n"
+    "10.0.0.5         0x1         0x6         aa:bb:cc:00:11:55     *        eth0\n"
     "broken line\n";
 
 TEST(NeighbourTableTest, CompleteEntryOfTheDevice_IsTheAddress) {
     EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.2"), "eth0"), u"aa:bb:cc:00:11:22");
     EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.2"), "wlan0"), u"aa:bb:cc:00:11:33");
+    EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.5"), "eth0"), u"aa:bb:cc:00:11:55")
+        << "one that was set by hand";
 }
 
 TEST(NeighbourTableTest, UnknownOrIncomplete_IsEmpty) {
     EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.3"), "eth0"), u"");
+    EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.4"), "eth0"), u"");
     EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.2"), "eth1"), u"");
     EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0"), "eth0"), u"");
     EXPECT_EQ(macAddressIn("", QStringLiteral("10.0.0.2"), "eth0"), u"");
@@ -190,6 +195,28 @@ TEST_F(ServiceTableTest, SecondSearch_DropsWhatItDoesNotMention) {
     EXPECT_EQ(table.services().size(), 2);
 }
 
+TEST_F(ServiceTableTest, DroppedService_IsForgottenAndTheOthersAreStillFound) {
+    table.found(record(a), HeardOver::IPv4);
+    table.found(record(b), HeardOver::IPv4);
+    table.vanished(a, 2, HeardOver::IPv4);
+    table.startSearch(cType);
+    EXPECT_EQ(table.services().size(), 1);
+    EXPECT_FALSE(table.vanished(b, 2, HeardOver::IPv6)) << "never heard over that one";
+    EXPECT_TRUE(table.vanished(a, 2, HeardOver::IPv4)) << "nobody knows it";
+    table.beginSearch();
+    EXPECT_TRUE(table.found(record(a), HeardOver::IPv4));
+    EXPECT_TRUE(table.found(record(b), HeardOver::IPv4));
+    EXPECT_EQ(available(), (QStringList{b, a}));
+}
+
+TEST_F(ServiceTableTest, LostDiscoveryService_LeavesTheListAndNothingAvailable) {
+    table.found(record(a), HeardOver::IPv4);
+    table.lose();
+    EXPECT_TRUE(available().isEmpty());
+    EXPECT_EQ(table.services().size(), 1);
+    EXPECT_TRUE(table.found(record(a), HeardOver::IPv4)) << "to be resolved again";
+}
+
 TEST_F(ServiceTableTest, LateWordOfTheEarlierSearch_LeavesTheServiceToBeResolvedAgain) {
     table.found(record(a), HeardOver::IPv4);
     table.startSearch(cType);
@@ -218,6 +245,10 @@ TEST_F(ServiceTableTest, Resolved_FillsInAndKeepsTheDate) {
     answered.macAddress = QStringLiteral("m");
     answered.hostPort = 445;
     table.resolved(answered);
+    answered.interface = 3;
+    answered.hostPort = 446;
+    table.resolved(answered); // of an interface that nothing was heard over
+    ASSERT_EQ(table.services().size(), 1);
     const DNSSD_Service shown = table.services().constFirst();
     EXPECT_EQ(shown.ip4Address, u"1.2.3.4");
     EXPECT_EQ(shown.hostTarget, u"h.local");

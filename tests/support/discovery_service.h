@@ -5,6 +5,7 @@
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
+#include <QHash>
 #include <QObject>
 #include <QStringList>
 #include <QThread>
@@ -33,22 +34,39 @@ public:
     /// The type and the domain of every search so far.
     QStringList asked() const;
 
+    /// A service on the loopback device, of the type _smb._tcp; every search hears of it, later
+    /// ones too. One that is known already has another port from now on, which nobody is told.
+    void announce(const QString& name, quint16 port);
+    void withdraw(const QString& name);
+
+    /// What was asked about services, as "name aprotocol".
+    QStringList resolved() const;
+
     QString tellsAtOnce; ///< the name of a service found before the answer is out; set before asked
+    int failures = 0; ///< so many questions about each service are not answered; set before asked
+    bool keepsSilent = false; ///< to all such questions; set before asked
 
 public Q_SLOTS:
     uint GetAPIVersion() const { return 0x0201; }
     int GetState() const { return 2; } // running
     QDBusObjectPath ServiceBrowserNew(int interface, int protocol, const QString& type,
                                       const QString& domain, uint flags);
+    QDBusObjectPath ServiceResolverNew(int interface, int protocol, const QString& name,
+                                       const QString& type, const QString& domain, int aprotocol,
+                                       uint flags);
 
 private:
-    void send(const QString& receiver, int search, const QString& signal,
+    void send(const QString& receiver, const QString& kind, int number, const QString& signal,
               const QVariantList& values) const;
+    void tellAll(const QString& signal, const QString& name) const;
 
     QDBusConnection& fBus;
     mutable std::mutex fMutex;
     QStringList fAsked;
     QStringList fAskers; ///< their names on the bus
+    QStringList fAnnounced;
+    QHash<QString, quint16> fPorts;
+    QStringList fResolved;
     QThread fThread;
 };
 

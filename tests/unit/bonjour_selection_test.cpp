@@ -24,7 +24,10 @@ DNSSD_Service service(const QString& name, const QString& address) {
 class BonjourSelectionTest : public ::testing::Test {
 protected:
     BonjourSelectionTest() {
-        rows.setShow([this] { ++contentSet; });
+        rows.setShow([this] {
+            ++contentSet;
+            printedBefore = console.printed().size();
+        });
     }
 
     /// What is printed after the count line and the devices' lines.
@@ -51,6 +54,7 @@ protected:
     bool available = true;
     ArrayController rows;
     int contentSet = 0;
+    qsizetype printedBefore = 0; ///< the last time
     BonjourSelection selection{{
         .mainQueue = mainQueue,
         .console = console,
@@ -112,6 +116,7 @@ TEST_F(BonjourSelectionTest, BeforeAnyScan_TheListIsEmptied) {
     selection.ibShowBonjourListInfo();
     EXPECT_EQ(rows.content(), std::nullopt);
     EXPECT_EQ(contentSet, 1);
+    EXPECT_EQ(printedBefore, 1) << "the count alone";
     EXPECT_EQ(console.printed(),
               QStringList{"self.fFoundServicesArray[nil] item"} + closing(QStringLiteral("nil")));
 }
@@ -151,7 +156,7 @@ TEST(ServiceFilterTest, FirstRecordOfAnAddress_IsAdmitted) {
               Admission::Admitted);
     EXPECT_EQ(admit(service(QStringLiteral("b"), QStringLiteral("1.2.3.4")), addresses),
               Admission::Duplicate);
-    EXPECT_EQ(admit(service(QStringLiteral("c"), QStringLiteral("1.2.3")), addresses),
+    EXPECT_EQ(admit(service(QStringLiteral("c"), QStringLiteral("1.2.34")), addresses),
               Admission::BadKey);
     EXPECT_EQ(admit(service(QStringLiteral("d"), QString()), addresses), Admission::BadKey);
     EXPECT_EQ(addresses, QSet<QString>{QStringLiteral("1.2.3.4")});
@@ -175,6 +180,8 @@ TEST(RecordTextsTest, Optionals) {
     EXPECT_EQ(tableText(QMap<QString, QVariantMap>()), u"Optional([:])");
     EXPECT_EQ(tableText(QMap<QString, QVariantMap>{{"1.2.3.4", {{"name", "a"}}}}),
               u"Optional([\"1.2.3.4\": [\"name\": \"a\"]])");
+    EXPECT_EQ(tableText(QMap<QString, QVariantMap>{{"1.2.3.4", {}}, {"1.2.3.5", {}}}),
+              u"Optional([\"1.2.3.4\": [:], \"1.2.3.5\": [:]])");
 }
 
 } // namespace

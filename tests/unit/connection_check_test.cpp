@@ -179,6 +179,8 @@ TEST_F(ConnectionCheckTest, KnownFault_IsPrintedAndShown) {
     EXPECT_EQ(presenter.alerts.front().informativeText, fault);
     EXPECT_TRUE(presenter.alerts.front().buttons.isEmpty());
     EXPECT_EQ(console.printed().count(fault), 1);
+    EXPECT_EQ(console.printed().indexOf(fault), console.printed().size() - 2)
+        << "before the line of the alert";
 }
 
 TEST_F(ConnectionCheckTest, UserThatWouldBeAnOption_IsShownAndNothingRuns) {

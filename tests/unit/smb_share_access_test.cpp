@@ -230,6 +230,15 @@ TEST_F(GioShareAccessTest, Test_OpensTheShareAndListsIt) {
                                                   u"]= local path: …")));
 }
 
+TEST_F(GioShareAccessTest, TestWithoutAMountedShare_OpensNothing) {
+    mount();
+    shell.answerTo(QStringLiteral("printf"), QString());
+    share.ibTestShellCommand111();
+    mainQueue.advance(1.0);
+    EXPECT_TRUE(workspace.requests.isEmpty());
+    EXPECT_TRUE(console.logged().constLast().endsWith(u"]= local path: …"));
+}
+
 TEST_F(GioShareAccessTest, TestThatIsAskedForAPassword_GoesOnAfterTheTerminal) {
     mount();
     shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("Password: "));

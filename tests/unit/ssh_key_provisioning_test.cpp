@@ -314,8 +314,11 @@ TEST_F(SshKeyProvisioningTest, OlderWay_RemovesTheOldScriptAndShowsTheFolder) {
                            QString(u"remove " + cScript), QString(u"write " + cScript),
                            QString(u"mode 755 " + cScript), QString(u"terminal " + command),
                            QStringLiteral("openUrl file:///tmp/of%20me")}));
+    EXPECT_EQ(keyChanges, 1);
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().path, cScript);
+    terminal.windows.front().ended(TerminalOutcome::Ended);
+    EXPECT_EQ(ended, QStringList{QString(u"ended " + command)});
     EXPECT_EQ(console.logged(),
               QStringList{QStringLiteral(
                   "Inside ViewController->createNewPrivatePublicKeysOLD(_:).......")});

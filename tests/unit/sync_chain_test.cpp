@@ -102,6 +102,8 @@ TEST_F(ChainTest, State_CountsDownToTheNextPass) {
     EXPECT_EQ(cycle.state().nextPass, 30.0);
     mainQueue.advance(7.0);
     EXPECT_EQ(cycle.state().nextPass, 23.0);
+    mainQueue.advance(22.5);
+    EXPECT_EQ(cycle.state().nextPass, 0.5);
     button.performClick();
     EXPECT_EQ(cycle.state().nextPass, std::nullopt) << "switched off";
 }
@@ -117,6 +119,7 @@ TEST_F(ChainTest, EveryChangeOfTheState_IsTold) {
     EXPECT_TRUE(toldBy([this] { runBodies(); }));
     EXPECT_TRUE(toldBy([this] { mainQueue.advance(1.0); }));
     EXPECT_FALSE(toldBy([this] { mainQueue.advance(29.0); })) << "only time has passed";
+    EXPECT_FALSE(toldBy([this] { cycle.cancelPass(); })) << "there is none";
     EXPECT_TRUE(toldBy([this] { mainQueue.advance(1.0); }));
     runBodies();
     EXPECT_TRUE(toldBy([this] { button.performClick(); }));
@@ -212,15 +215,56 @@ TEST_F(ChainTest, MissingSetting_BeginsByItselfOnceItIsThere) {
 }
 
 TEST_F(ChainTest, RefusedText_BeginsByItselfOnceItIsMended) {
-    defaults.setObject(prefPath2, QStringLiteral("h:d"));
+    for (const bool remote : {true, false}) {
+        defaults.setObject(prefRsyncWithSSH, remote);
+        defaults.setObject(prefPath2, QStringLiteral("h:d"));
+        button.performClick();
+        runBodies();
+        EXPECT_TRUE(cycle.state().waits);
+        defaults.setObject(prefPath2, QStringLiteral("-d"));
+        EXPECT_EQ(passesWithin(10.0), 0U);
+        defaults.setObject(prefPath2, QStringLiteral("/Incoming"));
+        EXPECT_EQ(passesWithin(1.0), 1U);
+        EXPECT_EQ(records.back().cause, PassCause::Well);
+        button.performClick();
+        (void)passesWithin(40.0);
+    }
+}
+
+TEST_F(ChainTest, EverySettingThatPassesNeed_IsWatched) {
+    const QString path = QStringLiteral("/In coming");
+    defaults.setObject(prefPath2, path);
+    for (const auto& [key, faulty] :
+         {std::pair(prefRemoteUsername, QVariant(QStringLiteral("-x"))),
+          std::pair(prefRemoteBonjourName, QVariant(QStringLiteral("a\nb"))),
+          std::pair(prefSampleRemoteFullPath, QVariant()), std::pair(prefPath2, QVariant()),
+          std::pair(prefRsyncCommandString1, QVariant(QStringLiteral("`%@2`")))}) {
+        const QVariant kept = defaults.object(key);
+        defaults.setObject(key, faulty);
+        button.performClick();
+        runBodies();
+        ASSERT_TRUE(cycle.state().waits) << key.toString().toStdString();
+        defaults.setObject(key, kept);
+        EXPECT_EQ(passesWithin(1.0), 1U) << key.toString().toStdString();
+        button.performClick();
+        (void)passesWithin(40.0);
+    }
+    defaults.removeObject(prefSampleRemoteFullPath);
     button.performClick();
     runBodies();
-    EXPECT_TRUE(cycle.state().waits);
-    defaults.setObject(prefPath2, QStringLiteral("-d"));
-    EXPECT_EQ(passesWithin(10.0), 0U);
+    defaults.setObject(prefRsyncWithSSH, false);
+    EXPECT_EQ(passesWithin(1.0), 1U) << "the plain one lacks nothing";
+}
+
+TEST_F(ChainTest, MissingSettingThereAsAPassIsStarted_BeginsNoSecondOne) {
+    defaults.removeObject(prefPath2);
+    button.performClick();
+    runBodies();
     defaults.setObject(prefPath2, QStringLiteral("/Incoming"));
-    EXPECT_EQ(passesWithin(1.0), 1U);
-    EXPECT_EQ(records.back().cause, PassCause::Well);
+    button.performClick();
+    button.performClick();
+    runBodies();
+    EXPECT_EQ(passesWithin(20.0), 0U) << "half a second later the pass rests";
 }
 
 TEST_F(ChainTest, MissingSettingThereAfterSwitchingOff_BeginsNothing) {
@@ -260,9 +304,15 @@ TEST_F(ChainTest, UnknownSettings_AreWaitedFor) {
     defaults.setKnown(false);
     button.performClick();
     EXPECT_TRUE(cycle.state().waits);
+    EXPECT_TRUE(told.waits);
     defaults.setKnown(true);
     mainQueue.advance(3.0);
     EXPECT_FALSE(cycle.state().waits);
+    runBodies();
+    defaults.setKnown(false);
+    mainQueue.advance(31.0);
+    EXPECT_TRUE(cycle.state().waits);
+    EXPECT_TRUE(told.waits) << "after a rest too";
 }
 
 } // namespace

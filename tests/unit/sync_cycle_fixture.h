@@ -162,9 +162,14 @@ protected:
                                                                std::move(completion));
                       },
                   .ibStartButton = &button,
-                  .stateChanged = [this] { ++changes; }},
+                  .stateChanged =
+                      [this] {
+                          ++changes;
+                          told = cycle.state();
+                      }},
          .seconds = [this] { return mainQueue.now(); }}};
     int changes = 0; ///< of the cycle's state, as told
+    CycleState told; ///< the last time
 };
 
 } // namespace kelvo

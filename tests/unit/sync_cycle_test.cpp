@@ -10,7 +10,12 @@ namespace {
 // -- the actions
 
 TEST_F(SyncCycleTest, StartButtonOn_StoresTheStateAndStartsARemotePass) {
+    QString lineBefore;
+    const Subscription stored = defaults.observe(prefEnableScanning, [&](const DefaultsChange&) {
+        lineBefore = console.logged().constLast();
+    });
     button.performClick();
+    EXPECT_EQ(lineBefore, u"button.state = 1") << "logged, then stored";
     EXPECT_EQ(defaults.object(prefEnableScanning), QVariant(qint64{1}));
     EXPECT_EQ(console.logged(),
               (QStringList{
@@ -192,6 +197,13 @@ TEST_F(PlainPassTest, End_ClearsTheFlagAfterOneSecondAndStartsAgainAfterTheRest)
     EXPECT_EQ(bgQueue.size(), 1U);
 }
 
+TEST_F(PlainPassTest, PassAndRest_ShowNothingInTheStatusLine) {
+    button.performClick();
+    runBodies();
+    mainQueue.advance(2.0);
+    EXPECT_TRUE(field->shown.empty());
+}
+
 TEST_F(PlainPassTest, RestOfZeroOrLessOrMissing_IsThreeSeconds) {
     button.performClick();
     for (const QVariant& rest : {QVariant(0), QVariant(-5), QVariant(), QVariant("soon")}) {
@@ -302,6 +314,8 @@ TEST_F(PlainPassTest, MissingSourceFolder_IsRecordedWithoutACommandAndTriedAgain
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records[0].cause, PassCause::SourceMissing);
     EXPECT_EQ(records[0].lastLine, u"/Volumes/Cam: No such file or directory");
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnce()"
+                                       u".......MISSING: /Volumes/Cam: No such file or directory");
     EXPECT_FALSE(cycle.state().waits);
     files.folders.insert(QStringLiteral("/Volumes/Cam"));
     mainQueue.advance(31.0);
@@ -318,6 +332,9 @@ TEST_F(PlainPassTest, DestinationOfAnotherProgram_IsNotPulledIntoAndTriedAgainAf
     EXPECT_TRUE(shell.commands().isEmpty());
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records[0].cause, PassCause::DestinationTaken);
+    EXPECT_EQ(records[0].lastLine, u"/Incoming");
+    EXPECT_EQ(console.logged().last(), u"Inside Kelvo_Mirror.ViewController->doSyncOnce()"
+                                       u".......TAKEN: another program is pulling into /Incoming");
     EXPECT_FALSE(scanning());
     files.claimed.clear();
     mainQueue.advance(31.0);

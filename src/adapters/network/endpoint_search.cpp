@@ -81,8 +81,7 @@ void EndpointSearch::tellEndpoints() const {
 /// One for both protocols of an interface.
 QString EndpointSearch::description(const Item& item) const {
     std::array<char, IF_NAMESIZE> device{};
-    const bool known = item.interface > 0 &&
-                       ::if_indextoname(static_cast<unsigned>(item.interface), device.data());
+    const bool known = ::if_indextoname(static_cast<unsigned>(item.interface), device.data());
     QString visible = QString::fromStdString(item.name);
     visible.replace(u'\n', QStringLiteral("\\x0a"));
     return withVisibleControls(visible) + u'.' + fRequest.type + u'.' + fRequest.domain +

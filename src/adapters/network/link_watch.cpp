@@ -95,8 +95,9 @@ bool hasDefaultRoute() {
         fields >> destination >> length;
         for (int i = 0; i < 6; ++i)
             fields >> skipped;
+        // One that leads nowhere stands with the loopback.
         if (fields >> std::hex >> flags >> interface && length == "00" && (flags & RTF_UP) &&
-            !(flags & RTF_REJECT) && interface != "lo")
+            interface != "lo")
             return true;
     }
     return false;
