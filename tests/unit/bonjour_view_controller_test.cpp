@@ -356,19 +356,21 @@ TEST_F(BonjourViewControllerTest, RowPastTheEnd_StopsTheProgram) {
     browser.announce(computer(1));
     scan();
     rows->setSelectionIndex(1);
-    EXPECT_DEATH(controller->ibSelectItem(), "past the end");
-    EXPECT_DEATH(controller->tableViewSelectionDidChange(QString(), 1), "past the end");
+    const char* pastTheEnd = "^The selected row is past the end of the list\\.\n";
+    EXPECT_DEATH(controller->ibSelectItem(), pastTheEnd);
+    EXPECT_DEATH(controller->tableViewSelectionDidChange(QString(), 1), pastTheEnd);
 }
 
 TEST_F(BonjourViewControllerTest, MissingOutlet_StopsTheProgram) {
     BonjourViewControllerParts noRows = parts();
     noRows.fArrayController = nullptr;
     const auto withoutRows = BonjourViewController::make(noRows);
-    EXPECT_DEATH(withoutRows->ibUpdateFilteredList(), "array controller");
+    EXPECT_DEATH(withoutRows->ibUpdateFilteredList(),
+                 "^The list of services has no array controller\\.\n");
     BonjourViewControllerParts noTable = parts();
     noTable.selectedRow = nullptr;
     const auto withoutTable = BonjourViewController::make(noTable);
-    EXPECT_DEATH(withoutTable->viewDidLoad(), "no table");
+    EXPECT_DEATH(withoutTable->viewDidLoad(), "^The list of services has no table\\.\n");
 }
 
 // -- the table's questions

@@ -27,21 +27,28 @@ TEST(ChecklistTest, AllWell_HasNoLine) {
 }
 
 TEST(ChecklistTest, EachLack_HasItsLineAndRemedy) {
-    const auto only = [](bool remote, bool ChecklistFacts::*fact, Remedy remedy, QStringView word) {
+    const auto only = [](bool remote, bool ChecklistFacts::*fact, Remedy remedy,
+                         const char* words) {
         ChecklistFacts facts = wellFacts(remote);
         facts.*fact = false;
         const auto lines = checklist(facts);
-        ASSERT_EQ(lines.size(), 1U) << word.toUtf8().constData();
+        ASSERT_EQ(lines.size(), 1U) << words;
         EXPECT_EQ(lines[0].remedy, remedy);
-        EXPECT_TRUE(lines[0].text.contains(word)) << lines[0].text.toStdString();
+        EXPECT_EQ(lines[0].text, QString::fromLatin1(words));
     };
-    only(true, &ChecklistFacts::hostChosen, Remedy::ShowRemoteTab, u"No Mac");
-    only(true, &ChecklistFacts::userSet, Remedy::ShowRemoteTab, u"user name");
-    only(true, &ChecklistFacts::sshThere, Remedy::CopyInstallCommand, u"ssh is not");
-    only(true, &ChecklistFacts::rsyncThere, Remedy::CopyInstallCommand, u"rsync is not");
-    only(false, &ChecklistFacts::sourceChosen, Remedy::ChooseSource, u"source");
-    only(true, &ChecklistFacts::destinationChosen, Remedy::ChooseDestination, u"chosen yet");
-    only(true, &ChecklistFacts::destinationWritable, Remedy::ChooseDestination, u"written");
+    only(true, &ChecklistFacts::hostChosen, Remedy::ShowRemoteTab, "No Mac is chosen yet.");
+    only(true, &ChecklistFacts::userSet, Remedy::ShowRemoteTab,
+         "The user name on the Mac is missing.");
+    only(true, &ChecklistFacts::sshThere, Remedy::CopyInstallCommand,
+         "ssh is not installed on this machine.");
+    only(true, &ChecklistFacts::rsyncThere, Remedy::CopyInstallCommand,
+         "rsync is not installed on this machine.");
+    only(false, &ChecklistFacts::sourceChosen, Remedy::ChooseSource,
+         "No source folder is chosen yet.");
+    only(true, &ChecklistFacts::destinationChosen, Remedy::ChooseDestination,
+         "No destination folder is chosen yet.");
+    only(true, &ChecklistFacts::destinationWritable, Remedy::ChooseDestination,
+         "The destination folder is missing or cannot be written.");
 }
 
 TEST(ChecklistTest, Key_IsALineUntilItIsAccepted) {
@@ -65,8 +72,23 @@ TEST(ChecklistTest, Key_IsALineUntilItIsAccepted) {
         << "nobody was asked";
     EXPECT_EQ(linesFor(KeyState::NotAccepted, PassCause::HostKeyChanged),
               QStringList{wordsFor(PassCause::HostKeyChanged).sentence.toString()});
+    for (const PassCause cause : {PassCause::KeyRefused, PassCause::WrongUser})
+        EXPECT_EQ(linesFor(KeyState::NotAccepted, cause),
+                  QStringList{wordsFor(cause).sentence.toString()});
     EXPECT_EQ(linesFor(KeyState::Accepted, PassCause::KeyRefused), QStringList());
     EXPECT_EQ(linesFor(KeyState::NotAsked, {}), QStringList());
+}
+
+TEST(ChecklistTest, EverythingMissing_IsListedInTheOrderOfSettingUp) {
+    ChecklistFacts facts;
+    facts.remote = true;
+    facts.key = KeyState::NotAccepted;
+    std::vector<Remedy> remedies;
+    for (const ChecklistLine& line : checklist(facts))
+        remedies.push_back(line.remedy);
+    using enum Remedy;
+    EXPECT_EQ(remedies, (std::vector{ShowRemoteTab, ShowRemoteTab, ShowRemoteTab,
+                                     CopyInstallCommand, ChooseDestination, CopyInstallCommand}));
 }
 
 // -- looking

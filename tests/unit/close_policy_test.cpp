@@ -16,7 +16,10 @@ TEST(ClosePolicyTest, NoTray_SaysSoOnce) {
     const auto note = policy.noteBeforeClosing(false);
     ASSERT_TRUE(note);
     EXPECT_EQ(note->messageText, u"Kelvo Mirror keeps running");
-    EXPECT_TRUE(note->informativeText.contains(u"start Kelvo Mirror once more"));
+    EXPECT_EQ(
+        note->informativeText,
+        u"There is no tray icon to bring the window back with. To see the window again, start "
+        u"Kelvo Mirror once more. To end the program, choose Quit from the File menu instead.");
     EXPECT_EQ(note->style, AlertStyle::Informational);
     EXPECT_EQ(note->buttons,
               (QStringList{QStringLiteral("Close Window"), QStringLiteral("Keep Open")}));
@@ -45,6 +48,9 @@ TEST(ClosePolicyTest, QuitWhileAMovieIsCopied_SaysWhatItEnds) {
     const ClosePolicy policy;
     const auto question = policy.questionBeforeQuitting(cCopying, false);
     ASSERT_TRUE(question);
+    EXPECT_EQ(question->messageText, u"Quit while movies are being copied?");
+    EXPECT_EQ(question->style, AlertStyle::Informational);
+    EXPECT_FALSE(question->answersItself);
     EXPECT_EQ(question->informativeText, u"The pass that runs will be ended: Feature.mkv, 48 %. "
                                          u"The next start goes on from there.");
     EXPECT_EQ(question->buttons,

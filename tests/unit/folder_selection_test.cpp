@@ -170,7 +170,8 @@ TEST_F(FolderSelectionTest, Action1WithAFolder_ShowsItAndStoresNothing) {
 
 TEST_F(FolderSelectionTest, Action1WithoutAPathControl_StopsTheProgram) {
     pathControl.reset();
-    EXPECT_EXIT(selection.ibAction1(nullptr), ::testing::KilledBySignal(SIGILL), "path control");
+    EXPECT_EXIT(selection.ibAction1(nullptr), ::testing::KilledBySignal(SIGILL),
+                "^the path control is not there\n");
 }
 
 TEST_F(FolderSelectionTest, RevealInFinder_OpensTheFixedPlace) {
@@ -204,11 +205,19 @@ TEST_F(FolderSelectionTest, RevealInFinderWithoutADestination_PrintsOnlyTheSende
 TEST_F(FolderSelectionTest, RevealInFinderFromElsewhere_OpensNothing) {
     defaults.setObject(prefPath2, QStringLiteral("/backup"));
     FakeButton button;
+    const auto senderOf = [this](const Control* sender) {
+        const QString type =
+            sender == pathControl.get() ? QStringLiteral("PathControl") : QStringLiteral("Control");
+        return sender ? QStringLiteral(".......sender = <%1: 0x%2>")
+                            .arg(type, QString::number(reinterpret_cast<quintptr>(sender), 16))
+                      : QStringLiteral(".......sender = nil");
+    };
     for (Control* sender : {static_cast<Control*>(nullptr), static_cast<Control*>(&button),
                             static_cast<Control*>(pathControl.get())}) {
         console.clear();
         selection.ibRevealInFinderAction(sender);
-        EXPECT_EQ(console.printed().size(), 2);
+        ASSERT_EQ(console.printed().size(), 2);
+        EXPECT_EQ(console.printed().first(), entry("ibRevealInFinderAction(_:)", senderOf(sender)));
         EXPECT_EQ(console.printed().last(), entry("ibRevealInFinderAction(_:)",
                                                   QStringLiteral(".......prefPath2 = /backup")));
     }

@@ -39,7 +39,8 @@ TEST(LoginItemSettingTest, EntryOfSomebodyElse_SwitchesTheBoxOff) {
     const LoginItemSetting::Shown shown = LoginItemSetting(item).look();
     EXPECT_FALSE(shown.checked);
     EXPECT_FALSE(shown.enabled);
-    EXPECT_TRUE(shown.trouble.startsWith(u"/config/autostart/entry.desktop was not written by"));
+    EXPECT_EQ(shown.trouble, u"/config/autostart/entry.desktop was not written by Kelvo Mirror and "
+                             u"is left alone. Move it away to switch this on here.");
 }
 
 } // namespace

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace kelvo {
 namespace {
 
@@ -22,6 +24,52 @@ PassRecord passWith(PassCause cause) {
     return pass;
 }
 
+/// Nothing in it that a desktop's notice, a terminal or a CSV file reads as its own.
+bool isPlainEnglish(QStringView text) {
+    return std::ranges::all_of(text, [](QChar letter) {
+        return letter.isLetterOrNumber() || QStringView(u" .,:;()'\"-").contains(letter);
+    });
+}
+
+// Programs read these names: they are never changed.
+TEST(PassWordsTest, Names_AreTheOnesThatOtherProgramsKnow) {
+    const QStringList names{
+        "well",
+        "host-not-found",
+        "host-away",
+        "remote-login-off",
+        "host-key-unknown",
+        "host-key-changed",
+        "key-refused",
+        "key-missing",
+        "wrong-user",
+        "rsync-missing-there",
+        "rsync-too-old-there",
+        "source-missing",
+        "source-not-permitted",
+        "disk-full",
+        "destination-unusable",
+        "files-vanished",
+        "files-not-taken",
+        "cut-off",
+        "tool-missing-here",
+        "command-not-understood",
+        "settings-missing",
+        "interrupted",
+        "login-talks",
+        "unknown",
+        "settings-refused",
+        "cancelled",
+        "after-failed",
+        "destination-taken",
+        "movie-command-refused",
+    };
+    QStringList found;
+    for (int i = 0; i < cCauses; ++i)
+        found << wordsFor(static_cast<PassCause>(i)).name.toString();
+    EXPECT_EQ(found, names);
+}
+
 TEST(PassWordsTest, EveryCause_HasItsOwnNameSentenceAndNextStep) {
     QSet<QString> names;
     QSet<QString> sentences;
@@ -31,6 +79,8 @@ TEST(PassWordsTest, EveryCause_HasItsOwnNameSentenceAndNextStep) {
         sentences.insert(words.sentence.toString());
         EXPECT_TRUE(words.sentence.endsWith(u'.')) << i;
         EXPECT_EQ(words.nextStep.isEmpty(), words.group == CauseGroup::Well) << i;
+        EXPECT_TRUE(words.nextStep.isEmpty() || words.nextStep.endsWith(u'.')) << i;
+        EXPECT_TRUE(isPlainEnglish(words.sentence) && isPlainEnglish(words.nextStep)) << i;
     }
     EXPECT_EQ(names.size(), cCauses);
     EXPECT_EQ(sentences.size(), cCauses);
@@ -40,7 +90,10 @@ TEST(PassWordsTest, UnknownCause_IsToldInTheCommandsOwnWords) {
     PassRecord pass = passWith(PassCause::Unknown);
     EXPECT_EQ(sentenceFor(pass), QStringLiteral("Something went wrong."));
     pass.lastLine = QStringLiteral("closed today");
-    EXPECT_TRUE(sentenceFor(pass).endsWith(QStringLiteral("closed today")));
+    EXPECT_EQ(sentenceFor(pass),
+              QStringLiteral("Something went wrong. The last line was: closed today"));
+    pass.cause = PassCause::DiskFull;
+    EXPECT_EQ(sentenceFor(pass), QStringLiteral("The disk here is full."));
 }
 
 TEST(PassWordsTest, RefusedSettings_AreToldWithTheReason) {
@@ -63,6 +116,7 @@ TEST(PassWordsTest, RefusedMovieCommand_IsToldWithWhatDidArrive) {
 
 TEST(PassWordsTest, Figures_ReadWell) {
     EXPECT_EQ(filesText(Transfer{TransferSource::Lines, 1, {}}), QStringLiteral("1 file"));
+    EXPECT_EQ(filesText(Transfer{TransferSource::Lines, 2, {}}), QStringLiteral("2 files"));
     EXPECT_EQ(filesText(Transfer{TransferSource::Lines, 0, {}}), QStringLiteral("nothing new"));
     EXPECT_EQ(filesText(Transfer{}), QStringLiteral("files unknown"));
     PassRecord pass;
@@ -71,6 +125,8 @@ TEST(PassWordsTest, Figures_ReadWell) {
     pass.verdict = HostVerdict::Valid;
     EXPECT_EQ(filesText(pass), QStringLiteral("files unknown"));
     EXPECT_EQ(sizeText({TransferSource::Statistics, 1, 40000}), QStringLiteral("40.0 kB"));
+    EXPECT_EQ(sizeText({TransferSource::Statistics, 1, 1}), QStringLiteral("1 bytes"));
+    EXPECT_EQ(sizeText({TransferSource::Statistics, 0, 0}), QString());
     EXPECT_EQ(sizeText({}), QString());
     EXPECT_EQ(secondsText(4.4), QStringLiteral("4 s"));
     EXPECT_EQ(secondsText(59), QStringLiteral("59 s"));
@@ -83,7 +139,12 @@ TEST(PassWordsTest, Figures_ReadWell) {
     EXPECT_EQ(secondsText(-1), QStringLiteral("0 s"));
     EXPECT_EQ(agoText(59), QStringLiteral("just now"));
     EXPECT_EQ(agoText(60), QStringLiteral("1 minute ago"));
+    EXPECT_EQ(agoText(3599), QStringLiteral("59 minutes ago"));
+    EXPECT_EQ(agoText(3600), QStringLiteral("1 hour ago"));
     EXPECT_EQ(agoText(4 * 3600), QStringLiteral("4 hours ago"));
+    EXPECT_EQ(agoText(48 * 3600 - 1), QStringLiteral("47 hours ago"));
+    EXPECT_EQ(agoText(48 * 3600), QStringLiteral("2 days ago"));
+    EXPECT_EQ(agoText(-1), QStringLiteral("just now"));
     EXPECT_EQ(agoText(49 * 3600), QStringLiteral("2 days ago"));
 }
 
@@ -101,12 +162,30 @@ TEST(OnceTest, ExitCode_IsOneForEachGroupAndZeroOnlyWhenWell) {
     EXPECT_EQ(codes.size(), groups.size());
 }
 
+// Scripts read these numbers, and the manual page lists them: they are never changed.
+TEST(OnceTest, ExitCodes_AreTheOnesOfTheManualPage) {
+    using enum CauseGroup;
+    for (const auto& [group, code] :
+         {std::pair(Well, 0), std::pair(Unknown, 1), std::pair(Host, 10), std::pair(HostKey, 11),
+          std::pair(Login, 12), std::pair(RemoteSide, 13), std::pair(ThisSide, 14),
+          std::pair(Incomplete, 15), std::pair(CutOff, 16), std::pair(Settings, 17),
+          std::pair(Interrupted, 18), std::pair(AfterArrivals, 19)})
+        EXPECT_EQ(exitCodeFor(group), code);
+}
+
 TEST(OnceTest, Lines_TellOutcomeAndNextStep) {
     EXPECT_EQ(outcomeOf(passWith(PassCause::Well), false).output,
               QStringLiteral("All is well. (3 files, 430.7 kB, 1 min 5 s)\n"));
     const QString trouble = outcomeOf(passWith(PassCause::HostAway), false).output;
-    EXPECT_TRUE(trouble.startsWith(QStringLiteral("The Mac is away or asleep. (")));
-    EXPECT_TRUE(trouble.contains(QStringLiteral("\nNext step: Wake the Mac")));
+    EXPECT_EQ(trouble, QStringLiteral("The Mac is away or asleep. (3 files, 430.7 kB, 1 min 5 s)\n"
+                                      "Next step: Wake the Mac; in its energy settings, let it "
+                                      "wake for network access.\n"));
+    PassRecord crowded = passWith(PassCause::Unknown);
+    crowded.lastLine = QStringLiteral("one\ntwo");
+    crowded.transfer.bytes.reset();
+    EXPECT_TRUE(outcomeOf(crowded, false)
+                    .output.startsWith(QStringLiteral("Something went wrong. The last line was: "
+                                                      "one\\x0atwo (3 files, 1 min 5 s)\n")));
     PassRecord hostile = passWith(PassCause::Unknown);
     hostile.lastLine = QStringLiteral("\x1b[2Jclosed");
     EXPECT_FALSE(outcomeOf(hostile, false).output.contains(QChar(0x1b)));
@@ -119,6 +198,13 @@ TEST(OnceTest, Json_IsOneObjectOnOneLine) {
     const auto answer = outcomeOf(pass, true);
     EXPECT_EQ(answer.output.count(u'\n'), 1);
     const QJsonObject object = QJsonDocument::fromJson(answer.output.toUtf8()).object();
+    EXPECT_EQ(object.keys(),
+              (QStringList{"arrivals", "began", "bytes", "cause", "exitCode", "files", "kind",
+                           "lastLine", "message", "nextStep", "seconds", "verdict"}));
+    EXPECT_EQ(object.value(u"kind"), QStringLiteral("remote"));
+    EXPECT_EQ(object.value(u"message"), QStringLiteral("The disk here is full."));
+    pass.kind = PassKind::Plain;
+    EXPECT_TRUE(outcomeOf(pass, true).output.contains(QStringLiteral("\"kind\":\"plain\"")));
     EXPECT_EQ(object.value(u"verdict"), QStringLiteral("valid"));
     EXPECT_EQ(object.value(u"cause"), QStringLiteral("disk-full"));
     EXPECT_FALSE(object.value(u"nextStep").toString().isEmpty());

@@ -4,6 +4,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -108,14 +109,96 @@ TEST(CommandLineTest, Passes_AreAskedForWithTimeAndForm) {
     EXPECT_EQ(line.kind, LaunchKind::Passes);
     EXPECT_TRUE(line.passes.json);
     EXPECT_EQ(line.passes.since, QDate(2026, 11, 20).startOfDay());
-    EXPECT_TRUE(read(QStringLiteral("--passes --since soon"))
-                    .message.startsWith(QStringLiteral("kelvo-mirror: 'soon' is no time: ")));
+    const CommandLine bare = read(QStringLiteral("--passes"));
+    EXPECT_FALSE(bare.passes.json);
     for (const QString& words :
          {QStringLiteral("--passes --since soon"), QStringLiteral("--since 2h"),
           QStringLiteral("--passes --once"), QStringLiteral("--passes --headless"),
           QStringLiteral("--once --since 2h"), QStringLiteral("--json"),
           QStringLiteral("--passes --since"), QStringLiteral("--passes 2h")})
         EXPECT_EQ(read(words).kind, LaunchKind::Refuse) << qPrintable(words);
+}
+
+TEST(CommandLineTest, WayToStart_IsReadFromTheWords) {
+    const auto read = [](const QString& words) {
+        return parseCommandLine(QString(u"kelvo-mirror" + words).split(u' '));
+    };
+    EXPECT_EQ(read({}).kind, LaunchKind::Window);
+    EXPECT_FALSE(read({}).autorelaunched);
+    EXPECT_TRUE(read(QStringLiteral(" --autorelaunched")).autorelaunched);
+    EXPECT_EQ(read(QStringLiteral(" --headless")).kind, LaunchKind::Headless);
+    EXPECT_EQ(read(QStringLiteral(" --once")).kind, LaunchKind::Once);
+    EXPECT_FALSE(read(QStringLiteral(" --once")).json);
+    EXPECT_TRUE(read(QStringLiteral(" --once --json")).json);
+    EXPECT_EQ(read(QStringLiteral(" --get prefPath1")).kind, LaunchKind::Settings);
+    EXPECT_EQ(read(QStringLiteral(" --get prefPath1")).settings.key, QStringLiteral("prefPath1"));
+    for (const QString& words : {QStringLiteral(" -V"), QStringLiteral(" --version")}) {
+        EXPECT_EQ(read(words).kind, LaunchKind::PrintVersion);
+        EXPECT_TRUE(QRegularExpression(QStringLiteral("\\Akelvo-mirror [0-9.]+[^ ~]*\n\\z"))
+                        .match(read(words).message)
+                        .hasMatch())
+            << read(words).message.toStdString();
+    }
+}
+
+TEST(CommandLineTest, EachRefusal_SaysWhy) {
+    struct Case {
+        const char* words;
+        const char* reason;
+    };
+    for (const Case& c :
+         {Case{"here", "unexpected argument 'here'"},
+          Case{"--headless --settings", "--settings stands alone, with blanks between its words"},
+          Case{"--headless --get a", "--get stands alone, with blanks between its words"},
+          Case{"--set=a b", "unexpected argument 'b'"},
+          Case{"--unset=a", "--unset stands alone, with blanks between its words"},
+          Case{"--passes --once", "--passes goes with --json and --since only"},
+          Case{"--passes --headless", "--passes goes with --json and --since only"},
+          Case{"--passes --since soon",
+               "'soon' is no time: --since takes a date (2026-11-22), a date-time "
+               "(2026-11-22T19:02), or 30min, 2h, 3d"},
+          Case{"--since 2h", "--since goes with --passes"},
+          Case{"--once --headless", "--once and --headless do not go together"},
+          Case{"--json", "--json goes with --once or --passes"},
+          Case{"--get", "it is '--get KEY', and nothing else with it"},
+          Case{"--set a", "it is '--set KEY VALUE', and nothing else with it"},
+          Case{"--unset", "it is '--unset KEY', and nothing else with it"},
+          Case{"--settings --json", "it is '--settings', and nothing else with it"}}) {
+        const CommandLine line =
+            parseCommandLine(QString(u"m " + QString::fromLatin1(c.words)).split(u' '));
+        EXPECT_EQ(line.kind, LaunchKind::Refuse) << c.words;
+        EXPECT_EQ(line.message, QStringLiteral("kelvo-mirror: %1\nTry 'kelvo-mirror --help'.\n")
+                                    .arg(QString::fromLatin1(c.reason)))
+            << c.words;
+    }
+}
+
+TEST(CommandLineTest, Help_NamesEveryOptionForPeople) {
+    for (const QString& word : {QStringLiteral("-h"), QStringLiteral("--help")}) {
+        const CommandLine line = parseCommandLine({QStringLiteral("m"), word});
+        EXPECT_EQ(line.kind, LaunchKind::PrintHelp);
+        EXPECT_EQ(
+            line.message.simplified(),
+            QStringLiteral(
+                "Usage: kelvo-mirror [options] "
+                "Keeps a local folder supplied with movie files from a remote Mac. "
+                "Options: "
+                "--headless Run without display, window or tray; status and alerts go to standard "
+                "output. "
+                "--once Run one pass with the stored settings, tell how it went and end with a "
+                "code that names the kind of trouble. "
+                "--passes Print the record of passes, newest last. "
+                "--since <WHEN> With --passes: those since a date, a date-time, or 30min, 2h, 3d "
+                "ago. "
+                "--json With --once, --passes: tell each pass as one JSON object on a line. "
+                "--get <KEY> Print a setting. "
+                "--set <KEY> <VALUE> Change a setting. "
+                "--unset <KEY> Give a setting its factory value back. "
+                "--settings Print all settings as JSON. "
+                "-V, --version Print the version and end. "
+                "-h, --help Print this help and end."))
+            << line.message.toStdString();
+    }
 }
 
 } // namespace

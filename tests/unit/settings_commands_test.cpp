@@ -91,9 +91,13 @@ TEST_F(SettingsCommandsTest, State_IsPrintedButNeitherSetNorUnset) {
             EXPECT_TRUE(answer.errors.startsWith(
                 QString(u"kelvo-mirror: " + each.key + u" is no setting: the program writes it")))
                 << answer.errors.toStdString();
-            EXPECT_EQ(answer.errors.contains(QStringLiteral("--once")),
-                      each.key == prefEnableScanning)
-                << answer.errors.toStdString();
+            EXPECT_EQ(answer.errors,
+                      QString(u"kelvo-mirror: " + each.key +
+                              u" is no setting: the program writes it as it runs" +
+                              (each.key == prefEnableScanning
+                                   ? u"; the start button switches syncing on and off, and "
+                                     u"'kelvo-mirror --once' runs one pass\n"
+                                   : u"\n")));
             EXPECT_EQ(defaults.object(each.key), sample.stored) << name;
             ++refused;
         }
@@ -135,12 +139,48 @@ TEST_F(SettingsCommandsTest, BadValue_IsRefusedAndChangesNothing) {
     EXPECT_GT(refused, 20);
 }
 
+TEST_F(SettingsCommandsTest, EachRefusal_SaysWhatTheSettingTakes) {
+    struct Case {
+        QStringView key;
+        const char* value;
+        const char* wanted;
+    };
+    for (const Case& c : {Case{prefRsyncWithSSH, "maybe", "true or false"},
+                          Case{prefRsyncCommandOptionTag, "103", "one of 100, 101, 102 and 105"},
+                          Case{prefRsyncCommandOptionTag, "x", "one of 100, 101, 102 and 105"},
+                          Case{prefDelayBetweenScans, "soon", "a number"},
+                          Case{prefRemoteDnssdServiceData, "[]", "a JSON object"}})
+        EXPECT_EQ(set(c.key, c.value).errors,
+                  QStringLiteral("kelvo-mirror: '%1' does not fit: %2 takes %3\n")
+                      .arg(QString::fromLatin1(c.value), c.key.toString(),
+                           QString::fromLatin1(c.wanted)));
+    EXPECT_EQ(get(prefPath1).errors, QStringLiteral("kelvo-mirror: prefPath1 is not set\n"));
+    EXPECT_EQ(settingsUnknown(QStringLiteral("no file")).errors,
+              QStringLiteral("kelvo-mirror: no file\n"));
+    EXPECT_EQ(settingsUnknown(QStringLiteral("no file")).exitCode, cExitSettingsUnknown);
+}
+
+TEST_F(SettingsCommandsTest, Switch_IsTurnedByEachOfItsWords) {
+    for (const char* yes : {"true", "yes", "on", "1", "TRUE", "On"}) {
+        defaults.setObject(prefRsyncWithSSH, false);
+        EXPECT_EQ(set(prefRsyncWithSSH, yes).exitCode, 0) << yes;
+        EXPECT_EQ(defaults.object(prefRsyncWithSSH), QVariant(true)) << yes;
+    }
+    for (const char* no : {"false", "no", "off", "0", "False"}) {
+        defaults.setObject(prefRsyncWithSSH, true);
+        EXPECT_EQ(set(prefRsyncWithSSH, no).exitCode, 0) << no;
+        EXPECT_EQ(defaults.object(prefRsyncWithSSH), QVariant(false)) << no;
+    }
+}
+
 TEST_F(SettingsCommandsTest, UnknownKey_IsRefusedByAll) {
     for (const SettingsVerb verb : {SettingsVerb::Get, SettingsVerb::Set, SettingsVerb::Unset}) {
         const auto answer =
             answerSettings({verb, QStringLiteral("prefColour"), QStringLiteral("1")}, defaults);
         EXPECT_EQ(answer.exitCode, cExitBadSetting);
-        EXPECT_TRUE(answer.errors.contains(QStringLiteral("prefColour")));
+        EXPECT_EQ(answer.errors,
+                  QStringLiteral("kelvo-mirror: there is no setting 'prefColour'; 'kelvo-mirror "
+                                 "--settings' prints them all\n"));
     }
     EXPECT_FALSE(defaults.object(u"prefColour").isValid());
 }

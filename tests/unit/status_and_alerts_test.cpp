@@ -198,13 +198,15 @@ using AlertsDeathTest = AlertsTest;
 TEST_F(AlertsDeathTest, SheetWithoutAWindow_StopsTheProgram) {
     presenter.window = false;
     alerts.showAlertWithClosure(QStringLiteral("M"), std::nullopt, std::nullopt, record());
-    EXPECT_EXIT(mainQueue.advance(0.1), ::testing::KilledBySignal(SIGILL), "no main window");
+    EXPECT_EXIT(mainQueue.advance(0.1), ::testing::KilledBySignal(SIGILL),
+                "^An alert has no main window to be shown on\\.\n");
 }
 
 TEST_F(AlertsDeathTest, ProblemWithoutAWindow_StopsTheProgram) {
     presenter.window = false;
     alerts.showProblemWithBonjourClosure(QStringLiteral("M"), QStringLiteral("T"), record());
-    EXPECT_EXIT(mainQueue.advance(0.1), ::testing::KilledBySignal(SIGILL), "no main window");
+    EXPECT_EXIT(mainQueue.advance(0.1), ::testing::KilledBySignal(SIGILL),
+                "^An alert has no main window to be shown on\\.\n");
 }
 
 } // namespace

@@ -100,6 +100,12 @@ TEST_F(KelvoStatusMenuHandlerTest, BothSetUp_ShowOneIconAndEitherRemovesIt) {
     EXPECT_EQ(menu.hides, 2);
 }
 
+TEST_F(KelvoStatusMenuHandlerTest, RemovedByOneThatNeverSetItUp_Stays) {
+    delegates.setupStatusMenuStuff();
+    views.removeStatusMenuStuff();
+    EXPECT_EQ(menu.visible(), Off);
+}
+
 TEST_F(KelvoStatusMenuHandlerTest, SetUpTwice_CountsOnce) {
     delegates.setupStatusMenuStuff();
     delegates.setupStatusMenuStuff();
@@ -130,6 +136,12 @@ TEST_F(KelvoStatusMenuHandlerTest, Destroyed_TheIconGoesWithTheLast) {
         passing.setupStatusMenuStuff();
     }
     EXPECT_EQ(menu.visible(), Off);
+    {
+        KelvoStatusMenuHandler passing(presence, console);
+        passing.setupStatusMenuStuff();
+        views.removeStatusMenuStuff();
+    }
+    EXPECT_EQ(menu.visible(), std::nullopt) << "what was removed does not come back";
 }
 
 TEST_F(KelvoStatusMenuHandlerTest, DelegateFunctions_OnlyPrintTheirLines) {
@@ -157,8 +169,9 @@ TEST_F(KelvoStatusMenuHandlerTest, Properties_ReadBack) {
 }
 
 TEST_F(KelvoStatusMenuHandlerTest, Description_NamesTypeAndTellsHandlersApart) {
-    EXPECT_TRUE(delegates.description().startsWith(u"<SupportKit.KelvoStatusMenuHandler: 0x"));
-    EXPECT_TRUE(delegates.description().endsWith(u'>'));
+    EXPECT_EQ(delegates.description(),
+              QString(u"<SupportKit.KelvoStatusMenuHandler: 0x" +
+                      QString::number(reinterpret_cast<quintptr>(&delegates), 16) + u'>'));
     EXPECT_NE(delegates.description(), views.description());
 }
 
@@ -264,7 +277,9 @@ TEST_F(StatusMenuPresenceTest, StartTitle_FollowsTheSwitch) {
 }
 
 TEST_F(StatusMenuPresenceTest, Destroyed_HidesAndLetsGoOfTheSettings) {
-    auto passing = std::make_unique<StatusMenuPresence>(menu, defaults, mainQueue, [] {});
+    int passingQuits = 0;
+    auto passing = std::make_unique<StatusMenuPresence>(menu, defaults, mainQueue,
+                                                        [&passingQuits] { ++passingQuits; });
     const StatusMenuTargets targets;
     passing->show(targets);
     EXPECT_EQ(menu.visible(), Off);
@@ -272,6 +287,9 @@ TEST_F(StatusMenuPresenceTest, Destroyed_HidesAndLetsGoOfTheSettings) {
     EXPECT_EQ(menu.visible(), std::nullopt);
     set(prefIsScanning, true);
     EXPECT_EQ(menu.visible(), std::nullopt);
+    menu.show(Off);
+    menu.choose(&StatusMenuActions::quit);
+    EXPECT_EQ(passingQuits, 0) << "nobody is left to act";
 }
 
 TEST_F(StatusMenuPresenceTest, Trouble_IsWhatTheHealthSays) {

@@ -12,6 +12,7 @@ kelvo_tests(unit
     unit/duplicate_check_test.cpp
     unit/folder_selection_test.cpp
     unit/headless_front_test.cpp
+    unit/health_words_test.cpp
     unit/key_state_test.cpp
     unit/login_item_setting_test.cpp
     unit/network_path_monitoring_test.cpp

@@ -24,19 +24,23 @@ TEST_F(ViewControllerTest, MissingStartButton_StopsTheTitleOfAChangeButNotTheUpd
     StartButtonTitle without(nullptr, defaults, mainQueue, console);
     without.update();
     mainQueue.runDue();
+    const char* message = "^the start button is not there\n";
     for (const bool flag : {true, false}) {
-        EXPECT_EXIT(without.showRunning(flag), ::testing::KilledBySignal(SIGILL), "start button");
-        EXPECT_EXIT(without.showKindOfPass(flag), ::testing::KilledBySignal(SIGILL),
-                    "start button");
+        EXPECT_EXIT(without.showRunning(flag), ::testing::KilledBySignal(SIGILL), message);
+        EXPECT_EXIT(without.showKindOfPass(flag), ::testing::KilledBySignal(SIGILL), message);
     }
 }
 
 TEST_F(ViewControllerTest, Load_LeavesNothingTicking) {
+    const QString timer =
+        QStringLiteral("Inside Kelvo_Mirror.ViewController->setupRepeatTimer()..........");
     controller.viewDidLoad();
-    mainQueue.advance(2.0);
+    mainQueue.advance(0.499);
+    EXPECT_FALSE(console.logged().contains(timer));
+    mainQueue.advance(0.001);
+    EXPECT_TRUE(console.logged().contains(timer));
+    mainQueue.advance(1.5);
     EXPECT_TRUE(mainQueue.idle());
-    EXPECT_TRUE(console.logged().contains(
-        QStringLiteral("Inside Kelvo_Mirror.ViewController->setupRepeatTimer()..........")));
 }
 
 TEST_F(ViewControllerTest, Load_RebuildsTheSamplePathAtHalfASecond) {
@@ -50,6 +54,13 @@ TEST_F(ViewControllerTest, Load_RebuildsTheSamplePathAtHalfASecond) {
     EXPECT_EQ(defaults.stringForKey(prefSampleRemoteFullPath), QStringLiteral(" u @ h : p "))
         << "not trimmed";
     EXPECT_EQ(button.title, u"Start rsync with bonjour");
+}
+
+TEST_F(ViewControllerTest, Load_NamesThePlainPassOnTheButton) {
+    defaults.setObject(prefRsyncWithSSH, false);
+    controller.viewDidLoad();
+    mainQueue.advance(0.5);
+    EXPECT_EQ(button.title, u"Start rsync with afp path");
 }
 
 TEST_F(ViewControllerTest, AutoStart_ClicksTheButtonAtOneSecond) {

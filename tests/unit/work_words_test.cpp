@@ -1,7 +1,5 @@
 #include "passes/running_pass.h"
 #include "support/plain_line.h"
-#include "ui/checklist.h"
-#include "ui/health_words.h"
 #include "ui/pass_words.h"
 #include "ui/work_words.h"
 
@@ -14,14 +12,6 @@ QString text(const char* utf8) {
     return QString::fromUtf8(utf8);
 }
 
-PassRecord passOf(PassCause cause, PassKind kind = PassKind::Remote) {
-    PassRecord pass;
-    pass.kind = kind;
-    pass.verdict = HostVerdict::Valid;
-    pass.cause = cause;
-    return pass;
-}
-
 TEST(TimeLeftWordsTest, EachEstimate_IsRoundedToAStepOfItsSize) {
     struct Case {
         double seconds;
@@ -29,8 +19,11 @@ TEST(TimeLeftWordsTest, EachEstimate_IsRoundedToAStepOfItsSize) {
     };
     for (const Case& c :
          {Case{0, "a few seconds"}, Case{9.9, "a few seconds"}, Case{10, "about 10 s"},
-          Case{24, "about 20 s"}, Case{58, "about 1 min"}, Case{250, "about 4 min"},
-          Case{3500, "about 58 min"}, Case{3599, "about 1 h"}, Case{4700, "about 1 h 20 min"},
+          Case{24, "about 20 s"}, Case{54.9, "about 50 s"}, Case{55, "about 1 min"},
+          Case{58, "about 1 min"}, Case{89, "about 1 min"}, Case{90, "about 2 min"},
+          Case{3569, "about 59 min"}, Case{3570, "about 1 h"}, Case{7100, "about 2 h"},
+          Case{7800, "about 2 h 10 min"}, Case{250, "about 4 min"}, Case{3500, "about 58 min"},
+          Case{3599, "about 1 h"}, Case{4700, "about 1 h 20 min"},
           Case{1e12, "about 2777 h 50 min"}, Case{-5, "a few seconds"}})
         EXPECT_EQ(TimeLeftWords().text(c.seconds), text(c.words)) << c.seconds;
     EXPECT_EQ(TimeLeftWords().text(std::nullopt), QString());
@@ -51,6 +44,64 @@ TEST(TimeLeftWordsTest, WaveringEstimate_DoesNotFlicker) {
     EXPECT_EQ(words.text(12), text("about 10 s"));
 }
 
+TEST(TimeLeftWordsTest, LongerEstimate_IsTakenOnceItIsAWholeStepAbove) {
+    struct Case {
+        double first, still, next;
+        const char* words;
+    };
+    for (const Case& c :
+         {Case{4, 10, 10.1, "about 10 s"}, Case{20, 30, 31, "about 30 s"},
+          Case{60, 120, 121, "about 2 min"}, Case{3600, 4200, 4201, "about 1 h 10 min"},
+          Case{3540, 3600, 3601, "about 1 h"}}) {
+        TimeLeftWords words;
+        const QString shown = words.text(c.first);
+        EXPECT_EQ(words.text(c.still), shown) << c.still;
+        EXPECT_EQ(words.text(c.next), text(c.words)) << c.next;
+    }
+}
+
+TEST(TimeLeftWordsTest, EstimateThatIsGone_IsForgotten) {
+    TimeLeftWords words;
+    EXPECT_EQ(words.text(60), text("about 1 min"));
+    EXPECT_EQ(words.text(std::nullopt), QString());
+    EXPECT_EQ(words.text(100), text("about 2 min")) << "nothing stood there to be kept";
+}
+
+TEST(WorkWordsTest, Steps_AreNamedAfterTheKindOfPass) {
+    for (const PassKind kind : {PassKind::Remote, PassKind::Plain}) {
+        EXPECT_EQ(stepText(PassStep::Begun, kind), QString());
+        EXPECT_EQ(stepText(PassStep::AskingTheMac, kind), text("Asking the Mac"));
+        EXPECT_EQ(stepText(PassStep::Movies, kind), text("Movies"));
+        EXPECT_EQ(stepText(PassStep::AfterArrivals, kind), text("After arrivals"));
+    }
+    EXPECT_EQ(stepText(PassStep::Pull, PassKind::Remote), text("First pull"));
+    EXPECT_EQ(stepText(PassStep::Pull, PassKind::Plain), text("Copying"));
+}
+
+TEST(WorkWordsTest, PassUnderWay_IsDescribedWithAllItsFigures) {
+    WorkState work;
+    TimeLeftWords timeLeft;
+    PassUnderWay pass;
+    pass.progress = {.step = PassStep::Movies,
+                     .file = text("a\nb"),
+                     .filesDone = 1,
+                     .bytesDone = 5'000,
+                     .share = 1.5,
+                     .bytesPerSecond = 1'000,
+                     .secondsLeft = 60};
+    describeProgress(work, pass, timeLeft);
+    EXPECT_EQ(work.step, text("Movies"));
+    EXPECT_EQ(work.file, text("a\\x0ab"));
+    EXPECT_EQ(work.count, text("1 file"));
+    EXPECT_EQ(work.amount, text("5.0 kB"));
+    EXPECT_EQ(work.speed, text("1.0 kB/s"));
+    EXPECT_EQ(work.timeLeft, text("about 1 min"));
+    EXPECT_EQ(work.share, 1.0);
+    pass.progress.share = -0.5;
+    describeProgress(work, pass, timeLeft);
+    EXPECT_EQ(work.share, 0.0);
+}
+
 TEST(WorkWordsTest, Figures_AreReadAtAGlance) {
     PassProgress progress{.filesDone = 6,
                           .filesKnown = 15,
@@ -67,7 +118,18 @@ TEST(WorkWordsTest, Figures_AreReadAtAGlance) {
     progress.bytesKnown = 900;
     progress.bytesDone = 12;
     EXPECT_EQ(amountText(progress), text("12 of 900 bytes"));
+    progress.bytesKnown = 1'000;
+    progress.bytesDone = 500;
+    EXPECT_EQ(amountText(progress), text("0.5 of 1.0 kB"));
+    progress.bytesDone.reset();
+    EXPECT_EQ(amountText(progress), text("0.0 of 1.0 kB"));
+    EXPECT_EQ(amountText({.bytesDone = 1}), text("1 bytes"));
+    EXPECT_EQ(countText({.filesDone = 0, .filesKnown = 1}), text("file 1 of 1"));
+    EXPECT_EQ(countText({.filesDone = 3, .filesKnown = 0}), text("3 files"));
+    EXPECT_EQ(countText({.filesDone = 1}), text("1 file"));
     EXPECT_EQ(countText({.filesDone = 3}), text("3 files"));
+    EXPECT_EQ(speedText({.bytesPerSecond = 1}), text("1 bytes/s"));
+    EXPECT_EQ(speedText({.bytesPerSecond = 0.9}), QString());
     EXPECT_EQ(amountText({.bytesDone = 640'000'000}), text("640.0 MB"));
     for (const QString& nothing : {countText({}), amountText({}), speedText({}),
                                    countText({.filesDone = 0}), amountText({.bytesDone = 0})})
@@ -84,9 +146,13 @@ TEST(WorkWordsTest, Wait_IsCountedInSecondsForTwoMinutes) {
     EXPECT_EQ(nextPassText(0), text("Next pass in 1 s"));
     EXPECT_EQ(nextPassText(120), text("Next pass in 120 s"));
     EXPECT_EQ(nextPassText(121), text("Next pass in 2 min"));
+    EXPECT_EQ(nextPassText(149), text("Next pass in 2 min"));
+    EXPECT_EQ(nextPassText(150), text("Next pass in 3 min"));
     EXPECT_EQ(nextPassText(601), text("Next pass in 10 min"));
     EXPECT_EQ(nextPassText(4800), text("Next pass in 1 h 20 min"));
-    for (const double seconds : {0.5, 22.3, 120.0, 121.0, 179.5, 600.0, 4800.0}) {
+    EXPECT_EQ(nextPassHolds(0.5), 1) << "an overdue pass is asked for once a second";
+    EXPECT_EQ(nextPassHolds(1), 1);
+    for (const double seconds : {0.5, 2.0, 22.3, 120.0, 121.0, 150.0, 179.5, 600.0, 4800.0}) {
         const double holds = nextPassHolds(seconds);
         EXPECT_TRUE(seconds < 1 || nextPassText(seconds - holds - 0.01) != nextPassText(seconds))
             << seconds;
@@ -95,11 +161,13 @@ TEST(WorkWordsTest, Wait_IsCountedInSecondsForTwoMinutes) {
 }
 
 TEST(WorkWordsTest, Age_HoldsUntilItsTextChanges) {
-    for (const double seconds : {0.0, 59.0, 60.0, 3599.5, 3700.0, 172'900.0}) {
+    for (const double seconds :
+         {0.0, 59.0, 60.0, 3599.5, 3600.0, 3700.0, 7200.0, 172'799.0, 172'800.0, 172'900.0}) {
         const double holds = agoHolds(seconds);
         EXPECT_EQ(agoText(seconds + holds - 0.01), agoText(seconds)) << seconds;
         EXPECT_NE(agoText(seconds + holds + 0.01), agoText(seconds)) << seconds;
     }
+    EXPECT_EQ(agoHolds(-5), 5) << "a moment that lies ahead by the clock";
 }
 
 TEST(WorkWordsTest, Headline_SaysWhatMattersMost) {
@@ -117,6 +185,18 @@ TEST(WorkWordsTest, Headline_SaysWhatMattersMost) {
     EXPECT_EQ(headlineText(work, {}), text("All is well, next pass in 23 s"));
     work.health.sign = HealthSign::Unknown;
     EXPECT_EQ(headlineText(work, {}), text("Next pass in 23 s"));
+    work.nextPass.clear();
+    work.phase = WorkPhase::Running;
+    work.step.clear();
+    work.share.reset();
+    EXPECT_EQ(headlineText(work, {}), text("Syncing"));
+    work.phase = WorkPhase::Off;
+    work.health.sign = HealthSign::Well;
+    work.nextPass = text("Syncing is off");
+    EXPECT_EQ(headlineText(work, {}), work.nextPass);
+    work.phase = WorkPhase::Cancelling;
+    work.nextPass = text("Cancelling this pass…");
+    EXPECT_EQ(headlineText(work, text("The Mac is away.")), work.nextPass);
     work.phase = WorkPhase::Finishing;
     work.nextPass = text("Finishing this pass…");
     EXPECT_EQ(headlineText(work, text("The Mac is away.")), work.nextPass);
@@ -143,134 +223,22 @@ TEST(WorkWordsTest, Arrivals_AreNamedShortAndSafe) {
     const QByteArray longName = QByteArray(200, 'x') + "part 2.mov";
     const QString shown = arrivalsText({{longName, 0, {}}});
     EXPECT_EQ(shown.size(), 60);
-    EXPECT_TRUE(shown.endsWith(u"part 2.mov"));
+    EXPECT_EQ(shown, QString(QString(30, u'x') + u'…' + QString(19, u'x') + text("part 2.mov")));
+    const QByteArray justFits(60, 'x');
+    EXPECT_EQ(arrivalsText({{justFits, 0, {}}}), QString::fromLatin1(justFits));
+    EXPECT_EQ(arrivalsText({}), QString());
 }
 
-// -- health
-
-class HealthWordsTest : public ::testing::Test {
-protected:
-    HealthWords words() {
-        return healthWords(
-            {.standing = standing, .settings = settings, .missing = missing, .now = now});
-    }
-
-    void beInTrouble(PassCause cause, PassKind kind = PassKind::Remote) {
-        standing.last = passOf(cause, kind);
-        standing.troubleSince =
-            QDateTime(now.toLocalTime().date(), QTime(15, 22)).toUTC(); // by this machine's clock
-        standing.passesInTrouble = 6;
-    }
-
-    const QDateTime now = QDateTime(QDate(2026, 3, 1), QTime(19, 0)).toUTC();
-    Standing standing;
-    SettingsStanding settings;
-    std::vector<ChecklistLine> missing;
-};
-
-TEST_F(HealthWordsTest, NoPassYet_SaysWhatWillStandHere) {
-    const Health health = words().health;
-    EXPECT_EQ(health.sign, HealthSign::Unknown);
-    EXPECT_EQ(health.text, text("No pass has ended yet. How it went will stand here."));
-    EXPECT_EQ(health.lastSuccess, QString());
-}
-
-TEST_F(HealthWordsTest, LastSuccess_StandsBesideTrouble) {
-    PassRecord success = passOf(PassCause::Well);
-    success.began = now.addSecs(-12 * 60 - 5);
-    success.transfer.files = 3;
-    standing.last = standing.lastSuccess = success;
-    EXPECT_EQ(words().health.sign, HealthSign::Well);
-    EXPECT_EQ(words().health.text, text("All is well."));
-    EXPECT_EQ(words().health.lastSuccess, text("Last success: 12 minutes ago, 3 files"));
-    beInTrouble(PassCause::RemoteLoginOff);
-    const HealthWords trouble = words();
-    EXPECT_EQ(trouble.health.sign, HealthSign::Trouble);
-    EXPECT_EQ(trouble.health.text,
-              text("The Mac is there but refuses logins since 15:22 (6 passes). On the Mac, switch "
-                   "on Remote Login (System Settings, General, Sharing)."));
-    EXPECT_EQ(trouble.matter, text("The Mac is there but refuses logins since 15:22 (6 passes)."));
-    EXPECT_EQ(trouble.health.remedy, Remedy::CheckAgain);
-    EXPECT_EQ(trouble.health.lastSuccess, text("Last success: 12 minutes ago, 3 files"));
-}
-
-TEST_F(HealthWordsTest, SinceStandsBehindWhatTheSentenceSaysFirst) {
-    beInTrouble(PassCause::HostKeyChanged);
-    EXPECT_TRUE(words().matter.startsWith(
-        text("The Mac shows another key than before since 15:22 (6 passes): it was")));
-    beInTrouble(PassCause::LoginTalks);
-    EXPECT_EQ(words().matter,
-              text("The Mac prints a text at each login since 15:22 (6 passes), which hides its "
-                   "answer."));
-    standing.passesInTrouble = 1;
-    EXPECT_TRUE(words().matter.contains(text("(1 pass)")));
-    standing.troubleSince = now.addDays(-3);
-    EXPECT_FALSE(words().matter.contains(u"since 15:22"));
-}
-
-TEST_F(HealthWordsTest, UnknownTrouble_TellsTheLastLineHarmlessly) {
-    beInTrouble(PassCause::Unknown);
-    standing.last->lastLine = text("rsync: \x1b[31mno\n");
-    EXPECT_EQ(words().health.text,
-              text("Something went wrong since 15:22 (6 passes). The last line was: rsync: "
-                   "\\x1b[31mno\\x0a"));
-    EXPECT_EQ(words().health.remedy, Remedy::ShowDetails);
-}
-
-TEST_F(HealthWordsTest, EveryTrouble_HasARemedyOrANextStep) {
-    for (int i = 0; i <= static_cast<int>(cLastPassCause); ++i) {
-        const auto cause = static_cast<PassCause>(i);
-        if (!isTrouble(cause)) {
-            EXPECT_EQ(remedyFor(passOf(cause)), Remedy::None) << i;
-            continue;
-        }
-        beInTrouble(cause);
-        EXPECT_NE(words().health.remedy, Remedy::None) << i;
-        EXPECT_FALSE(words().health.text.contains(u'\n')) << i;
-    }
-    EXPECT_EQ(remedyFor(passOf(PassCause::DestinationTaken)), Remedy::ChooseDestination);
-    EXPECT_EQ(remedyFor(passOf(PassCause::SourceMissing, PassKind::Plain)), Remedy::ChooseSource);
-    EXPECT_EQ(remedyFor(passOf(PassCause::SourceMissing, PassKind::Remote)), Remedy::ShowRemoteTab);
-}
-
-TEST_F(HealthWordsTest, WhatCannotBeKept_IsTroubleAndARemark) {
-    standing.last = passOf(PassCause::Well);
-    settings.fault = text("Settings cannot be saved to /s: full");
-    EXPECT_EQ(words().health.sign, HealthSign::Trouble);
-    EXPECT_EQ(words().health.text, text("Settings cannot be saved to /s: full."));
-    EXPECT_EQ(words().health.remedy, Remedy::OpenLog);
-    EXPECT_EQ(words().remarks, QStringList{text("Settings cannot be saved to /s: full.")});
-    beInTrouble(PassCause::HostAway);
-    EXPECT_TRUE(words().health.text.startsWith(u"The Mac is away")) << "the record goes first";
-    EXPECT_EQ(words().remarks.size(), 1);
-    settings.fault.clear();
-    standing.last->cause = PassCause::Well;
-    standing.fault = text("disk I/O error");
-    EXPECT_EQ(words().health.remedy, Remedy::OpenLog);
-    standing.fault.clear();
-    missing.push_back(
-        {text("rsync is not installed on this machine."), Remedy::CopyInstallCommand});
-    EXPECT_EQ(words().health.text, text("rsync is not installed on this machine."));
-    EXPECT_EQ(words().health.remedy, Remedy::CopyInstallCommand);
-}
-
-TEST_F(HealthWordsTest, WhatWasSetAside_IsSaidWithTheNameOfTheCopy) {
-    standing.last = passOf(PassCause::Well);
-    settings.aside = text("/s.corrupt-1");
-    standing.aside = text("/p.corrupt-2");
-    EXPECT_EQ(words().health.sign, HealthSign::Well) << "it is over";
-    EXPECT_EQ(words().remarks,
-              (QStringList{text("The settings file was damaged. It is kept as /s.corrupt-1"),
-                           text("The record of passes was damaged. It is kept as /p.corrupt-2")}));
-}
-
-TEST_F(HealthWordsTest, RecordThatWasReplaced_IsSaid) {
-    standing.last = passOf(PassCause::Well);
-    standing.replaced = true;
-    EXPECT_EQ(words().health.sign, HealthSign::Well) << "it is over";
-    EXPECT_EQ(words().remarks,
-              QStringList{text("The record of passes was removed or replaced. The passes since the "
-                               "start were written again")});
+TEST(WorkWordsTest, LongName_IsNotCutInTheMiddleOfALetter) {
+    // Each such letter takes two places of a QString.
+    const QString film = text("\xf0\x9f\x8e\xac");
+    const auto shown = [](const QString& name) { return arrivalsText({{name.toUtf8(), 0, {}}}); };
+    EXPECT_EQ(shown(QString(29, u'x') + film + QString(60, u'y')),
+              QString(QString(29, u'x') + u'…' + QString(29, u'y')));
+    EXPECT_EQ(shown(QString(60, u'x') + film + QString(28, u'y')),
+              QString(QString(30, u'x') + u'…' + QString(28, u'y')));
+    EXPECT_EQ(shown(QString(28, u'x') + film + QString(60, u'y')),
+              QString(QString(28, u'x') + film + u'…' + QString(29, u'y')));
 }
 
 } // namespace
