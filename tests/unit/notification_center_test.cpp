@@ -121,5 +121,19 @@ TEST_F(NotificationCenterTest, ManyThreads_MayPostObserveAndEnd) {
     EXPECT_EQ(heard, before);
 }
 
+TEST(NotificationTextTest, Information_IsSpelledByItsKind) {
+    EXPECT_EQ(userInfoText({}), u"nil");
+    EXPECT_EQ(userInfoText({{QStringLiteral("a \"b\""), QStringLiteral("c\\")},
+                            {QStringLiteral("n"), 5},
+                            {QStringLiteral("o"), true},
+                            {QStringLiteral("p"), QVariant()},
+                            {QStringLiteral("q"), QByteArray("x")}}),
+              u"Optional([AnyHashable(\"a \\\"b\\\"\"): \"c\\\\\", AnyHashable(\"n\"): 5, "
+              u"AnyHashable(\"o\"): 1, AnyHashable(\"p\"): (nothing), "
+              u"AnyHashable(\"q\"): (QByteArray)])");
+    EXPECT_EQ(notificationText({QStringLiteral("n"), {{QStringLiteral("k"), 1}}}),
+              u"name = n, object = nil, userInfo = Optional([AnyHashable(\"k\"): 1])");
+}
+
 } // namespace
 } // namespace kelvo

@@ -319,41 +319,5 @@ TEST(PassCauseTest, CommandBehindARefusal_IsJudgedToo) {
     EXPECT_EQ(named.cause, AfterFailed);
 }
 
-// -- kept text
-
-TEST(CapturedTextTest, ShortText_IsWhole) {
-    const auto text = capturedText(u"out\n", u"err\n");
-    EXPECT_EQ(text.head, QStringLiteral("out\nerr\n"));
-    EXPECT_EQ(text.leftOut, 0);
-    EXPECT_EQ(linesOf(text), (QStringList{QStringLiteral("out"), QStringLiteral("err")}));
-}
-
-TEST(CapturedTextTest, LongText_KeepsItsEndsAndCountsTheRest) {
-    for (const QString& unit : {QStringLiteral("a"), QStringLiteral("é"), QStringLiteral("映"),
-                                QStringLiteral("\U0001F3AC")}) {
-        const QString whole = unit.repeated(50000);
-        const auto text = capturedText(whole);
-        const qint64 bytes = whole.toUtf8().size();
-        if (text.leftOut == 0) {
-            EXPECT_EQ(text.head, whole);
-            continue;
-        }
-        EXPECT_LE(text.head.toUtf8().size(), cKeptText);
-        EXPECT_GT(text.head.toUtf8().size(), cKeptText - 4);
-        EXPECT_LE(text.tail.toUtf8().size(), cKeptText);
-        EXPECT_GT(text.tail.toUtf8().size(), cKeptText - 4);
-        EXPECT_EQ(text.head.toUtf8().size() + text.tail.toUtf8().size() + text.leftOut, bytes);
-        EXPECT_TRUE(whole.startsWith(text.head) && whole.endsWith(text.tail));
-    }
-}
-
-TEST(CapturedTextTest, ErrorsAfterALongOutput_EndTheTail) {
-    const QString output = QString(100000, u'o');
-    const QString errors = QStringLiteral("the reason\n");
-    const auto text = capturedText(output, errors);
-    EXPECT_TRUE(text.tail.endsWith(errors));
-    EXPECT_EQ(text.head.size() + text.tail.size() + text.leftOut, output.size() + errors.size());
-}
-
 } // namespace
 } // namespace kelvo

@@ -49,5 +49,43 @@ TEST(PlainLineTest, LogLine_MarksTheLinesInside) {
     EXPECT_EQ(logLine({QStringLiteral("a\n"), QStringLiteral("b\n")}), u"a\n    | b\n    | ");
 }
 
+TEST(PlainLineTest, SignsBesideTheControls_StandAsTheyAre) {
+    const QString plain =
+        QStringLiteral(" ~\u00a0\u061b\u061d\u200d\u2010\u2027\u202f\u2065\u206a");
+    EXPECT_EQ(withVisibleControls(plain), plain);
+    EXPECT_EQ(
+        withVisibleControls(u"\x01\x1f\u0080\u009f\u061c\u200e\u200f\u2028\u202e\u2066\u2069"),
+        u"\\x01\\x1f\\x80\\x9f\\u061c\\u200e\\u200f\\u2028\\u202e\\u2066\\u2069");
+    EXPECT_EQ(withVisibleControls(QStringView(u"\0", 1)), u"\\x00");
+}
+
+TEST(PlainLineTest, NameFromElsewhere_StandsOnOneLine) {
+    EXPECT_EQ(oneLine(u"a\tb\nc\x1b\\"), u"a\\x09b\\x0ac\\x1b\\");
+}
+
+TEST(PlainLineTest, Bytes_AreThoseOfUtf8) {
+    for (const char16_t code : {u'\x7f', u'\x80', u'\u07ff', u'\u0800', u'\uffff'}) {
+        const QString unit{QChar(code)};
+        const qsizetype bytes = unit.toUtf8().size();
+        const QString most = unit.repeated(64 * 1024 / bytes);
+        EXPECT_EQ(shortenedLine({most}), most) << int(code);
+        const QString half = unit.repeated(32 * 1024 / bytes);
+        const qsizetype left = (most.size() + 1) * bytes - 2 * half.size() * bytes;
+        EXPECT_EQ(shortenedLine({most, unit}),
+                  QString(half + u" … (" + QString::number(left) + u" bytes left out) … " + half))
+            << int(code);
+    }
+}
+
+TEST(PlainLineTest, Pieces_AreOneTextHoweverTheyAreCut) {
+    const QString text = QString(40'000, u'a') + QString(40'000, u'b');
+    const QString whole = shortenedLine({text});
+    EXPECT_EQ(
+        shortenedLine({text.first(7), text.sliced(7, 60'000), QString(), text.sliced(60'007)}),
+        whole);
+    EXPECT_TRUE(whole.startsWith(QString(32 * 1024, u'a') + u" … (14464 bytes"));
+    EXPECT_TRUE(whole.endsWith(QString(u"… " + QString(32 * 1024, u'b'))));
+}
+
 } // namespace
 } // namespace kelvo

@@ -100,6 +100,15 @@ TEST(PreferencesTest, FactoryValue_HasTheTypeOfItsKey) {
     EXPECT_GT(values, 0);
 }
 
+TEST(PreferencesTest, Row_IsFoundByItsKeyOnly) {
+    ASSERT_TRUE(preference(prefPath2));
+    EXPECT_EQ(preference(prefPath2)->key, prefPath2);
+    EXPECT_EQ(preference(u"prefPath3"), nullptr);
+    EXPECT_TRUE(isState(prefIsScanning));
+    EXPECT_FALSE(isState(prefPath2));
+    EXPECT_FALSE(isState(u"prefPath3"));
+}
+
 // -- the manual
 
 /// `text` as the manual's source has it, so that it is shown and copied as it is.

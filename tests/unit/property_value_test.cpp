@@ -69,5 +69,42 @@ TEST(PropertyValueTest, Dictionary_FromDictionaryOnly) {
     EXPECT_EQ(dictionaryValue(QVariant()), std::nullopt);
 }
 
+TEST(PropertyValueTest, NumberAtTheStartOfAText_EndsWhereItStopsToBeOne) {
+    for (const auto& [text, number] :
+         {std::pair("5.", 5.0), std::pair("-5.5.5", -5.5), std::pair("1e+2", 100.0),
+          std::pair("1E-1", 0.1), std::pair("1e+", 1.0), std::pair("1e2e3", 100.0),
+          std::pair(".", 0.0), std::pair("-", 0.0), std::pair("+", 0.0), std::pair("", 0.0),
+          std::pair("--5", 0.0), std::pair("0:5", 0.0), std::pair("12:5", 12.0),
+          std::pair("9/1", 9.0), std::pair("\t 0789", 789.0), std::pair("+1.5", 1.5),
+          std::pair("-0.25", -0.25), std::pair("1,5", 1.0)})
+        EXPECT_DOUBLE_EQ(doubleValue(QVariant(QString::fromLatin1(text))), number) << text;
+}
+
+TEST(PropertyValueTest, EveryKindOfNumber_Counts) {
+    for (const QVariant& two : {QVariant(2), QVariant(2U), QVariant(2LL), QVariant(2ULL),
+                                QVariant(2.0), QVariant(2.0F)}) {
+        EXPECT_TRUE(boolValue(two)) << two.typeName();
+        EXPECT_EQ(integerValue(two), 2) << two.typeName();
+        EXPECT_DOUBLE_EQ(doubleValue(two), 2.0) << two.typeName();
+        EXPECT_EQ(stringValue(two), QStringLiteral("2")) << two.typeName();
+    }
+    EXPECT_EQ(stringValue(QVariant(false)), QStringLiteral("0"));
+    EXPECT_EQ(stringValue(QVariant(0.5F)), QStringLiteral("0.5"));
+    EXPECT_TRUE(boolValue(QVariant(" Yes ")));
+    EXPECT_TRUE(boolValue(QVariant("0.5")));
+    EXPECT_FALSE(boolValue(QVariant("yess")));
+}
+
+TEST(PropertyValueTest, IntegersAtTheLimits_AreExact) {
+    constexpr qint64 cMost = std::numeric_limits<qint64>::max();
+    EXPECT_EQ(integerValue(QVariant(quint64{cMost})), cMost);
+    EXPECT_EQ(integerValue(QVariant(quint64{cMost} + 1)), cMost);
+    EXPECT_EQ(integerValue(QVariant("9223372036854775808")), cMost);
+    EXPECT_EQ(integerValue(QVariant("-9223372036854775809")), std::numeric_limits<qint64>::min());
+    EXPECT_EQ(integerValue(QVariant(0x1p63)), cMost);
+    EXPECT_EQ(integerValue(QVariant(-0x1p63)), std::numeric_limits<qint64>::min());
+    EXPECT_EQ(integerValue(QVariant(0x1p62)), qint64{1} << 62);
+}
+
 } // namespace
 } // namespace kelvo

@@ -63,5 +63,19 @@ TEST_F(RemoteAccountTest, EmptyText_CountsAsSet) {
     EXPECT_EQ(remotePaths(defaults).value().destination, QString());
 }
 
+TEST(AccountFaultTest, WhatCannotStandInACommand_IsNamed) {
+    const auto fault = [](const char* user, const char* host, QStringView key = u"/k") {
+        return accountFault({QString::fromUtf8(user), QString::fromUtf8(host)}, key);
+    };
+    EXPECT_EQ(fault("ann b", "mac:22"), QString());
+    EXPECT_EQ(fault("-l", "mac"), QStringLiteral("the user name begins with \"-\""));
+    EXPECT_EQ(fault("ann", "-l"), QStringLiteral("the host name begins with \"-\""));
+    EXPECT_EQ(fault("a:b", "mac"), QStringLiteral("the user name holds \":\" or \"/\""));
+    EXPECT_EQ(fault("a/b", "mac"), QStringLiteral("the user name holds \":\" or \"/\""));
+    EXPECT_EQ(fault("ann", "m/c"), QStringLiteral("the host name holds \"/\""));
+    EXPECT_EQ(fault("ann", "mac", u"a\nb"),
+              QStringLiteral("the path of the key file holds a line break"));
+}
+
 } // namespace
 } // namespace kelvo

@@ -152,10 +152,11 @@ TEST(RsyncStatisticsTest, RemarkAboutAnOldServer_IsNoFile) {
 }
 
 TEST(RsyncStatisticsTest, NamesWithTheirSizes_AreCounted) {
-    const auto transfer = transferOf(u"/usr/bin/rsync --out-format='%l %n' a/ b/",
-                                     u"4096 sub/\n70 sub/sent 5.mov\nConnection to mac closed.\n");
+    const auto transfer =
+        transferOf(u"/usr/bin/rsync --out-format='%l %n' a/ b/",
+                   u"4096 sub/\n70 sub/sent 5.mov\n7 one.mov\nConnection closed.\n");
     EXPECT_EQ(transfer.source, TransferSource::Lines);
-    EXPECT_EQ(transfer.files, 1);
+    EXPECT_EQ(transfer.files, 2);
 }
 
 TEST(RsyncStatisticsTest, NoNames_AreNoBytes) {

@@ -57,5 +57,14 @@ TEST(ServiceNameRulesTest, FullName_EscapesWhatSeparatesLabels) {
     EXPECT_EQ(fullServiceName(u"a\n\x7f", u"t", u"d"), u"a\\010\\127.t.d");
 }
 
+TEST(ServiceNameRulesTest, SignsBesideTheEscapedOnes_StandAsTheyAre) {
+    EXPECT_EQ(escapedForLog(u" plain ~"), u" plain ~");
+    EXPECT_EQ(escapedForLog(u"\x7f"), u"\\x7f");
+    EXPECT_EQ(escapedForLog(u"\n"), u"\\x0a");
+    EXPECT_EQ(fullServiceName(u"!~\u0080", u"t", u"d"), u"!~\u0080.t.d");
+    for (const QStringView bad : {u"1.2.3.:", u"1.2.3./", u"1.2.3.1:"})
+        EXPECT_FALSE(isDottedIPv4(bad)) << bad.toString().toStdString();
+}
+
 } // namespace
 } // namespace kelvo

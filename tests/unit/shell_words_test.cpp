@@ -33,12 +33,31 @@ TEST(ShellWordsTest, QuotesThatAreNoQuotes_AreSeen) {
     EXPECT_EQ(filled("a#' %@1 '"), std::nullopt);
 }
 
+TEST(ShellWordsTest, Remark_BeginsOnlyWhereAWordDoes) {
+    const QString doubled = insideDoubleQuotes(cOdd);
+    for (const char* before : {"lowercase x", "a#b", "\\ #b", "\"\"#b", "${x}#b", "'x'#b", "x_#",
+                               "\\case x", "\"\"case x"}) {
+        const QByteArray command = QByteArray(before) + " \"%@1\"";
+        EXPECT_EQ(filled(command.constData()),
+                  QString(QString::fromUtf8(before) + u" \"" + doubled + u'"'))
+            << before;
+    }
+    for (const char sign : QByteArrayView(" \t\n;|&()<>")) {
+        const QByteArray remark = QByteArray("x") + sign + "# \"%@1\"";
+        EXPECT_EQ(filled(remark.constData()), std::nullopt) << remark.constData();
+    }
+    for (const char* remark : {"# \"%@1\"", "$(# x\n) \"%@1\"", "case x \"%@1\"", "${x \"%@1\""})
+        EXPECT_EQ(filled(remark), std::nullopt) << remark;
+}
+
 TEST(ShellWordsTest, SubstitutedCommand_HasQuotesOfItsOwn) {
     EXPECT_EQ(filled("\"$(f \"%@1\" %@1)\" '%@1'"),
               QString(u"\"$(f \"" + insideDoubleQuotes(cOdd) + u"\" " + withoutQuotes(cOdd) +
                       u")\" '" + insideSingleQuotes(cOdd) + u'\''));
     EXPECT_EQ(filled("(cd x; y %@1) \"%@1\""), QString(u"(cd x; y " + withoutQuotes(cOdd) +
                                                        u") \"" + insideDoubleQuotes(cOdd) + u'"'));
+    EXPECT_EQ(filled("\"$( (x) \"%@1\")\""),
+              QString(u"\"$( (x) \"" + insideDoubleQuotes(cOdd) + u"\")\""));
 }
 
 TEST(ShellWordsTest, PlaceThatIsNotUnderstood_TakesOrdinaryTextsOnly) {

@@ -69,5 +69,33 @@ TEST(StoredValueTest, Same_NeedsTheSameTypeInAllParts) {
                                 QVariantMap{{"a", QVariantList{nan}}}));
 }
 
+TEST(StoredValueTest, IntegersBeyondTheRange_StayAsTheyAre) {
+    constexpr auto cMost = static_cast<quint64>(std::numeric_limits<qint64>::max());
+    EXPECT_EQ(storedValue(cMost).typeId(), QMetaType::LongLong);
+    EXPECT_EQ(storedValue(cMost + 1).typeId(), QMetaType::ULongLong);
+    EXPECT_EQ(storedValue(cMost + 1).toULongLong(), cMost + 1);
+}
+
+TEST(StoredValueTest, Years1000To9999_AreDates) {
+    for (const int year : {1000, 9999}) {
+        const QDateTime date(QDate(year, 12, 31), QTime(23, 59, 59), Qt::UTC);
+        EXPECT_EQ(storedValue(date).toDateTime(), date) << year;
+    }
+}
+
+TEST(StoredValueTest, Same_NeedsTheSameContentInAllParts) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_FALSE(sameStoredValue(nan, 1.0));
+    EXPECT_FALSE(sameStoredValue(1.0, nan));
+    EXPECT_FALSE(sameStoredValue(1.0, 2.0));
+    const QVariantMap one{{"a", 1.0}};
+    const QVariantMap two{{"a", 1.0}, {"b", 1.0}};
+    EXPECT_FALSE(sameStoredValue(one, two));
+    EXPECT_FALSE(sameStoredValue(two, one));
+    EXPECT_FALSE(sameStoredValue(two, QVariantMap{{"a", 1.0}, {"b", 2.0}}));
+    EXPECT_TRUE(sameStoredValue(two, QVariantMap(two)));
+    EXPECT_FALSE(sameStoredValue(QStringLiteral("a"), QStringLiteral("b")));
+}
+
 } // namespace
 } // namespace kelvo

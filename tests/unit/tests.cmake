@@ -3,9 +3,11 @@ kelvo_tests(unit
     unit/activity_texts_test.cpp
     unit/after_arrivals_test.cpp
     unit/app_delegate_test.cpp
+    unit/arrivals_search_test.cpp
     unit/bonjour_selection_test.cpp
     unit/bonjour_view_controller_test.cpp
     unit/bundle_version_test.cpp
+    unit/captured_text_test.cpp
     unit/checklist_test.cpp
     unit/close_policy_test.cpp
     unit/dnssd_service_test.cpp
@@ -15,14 +17,18 @@ kelvo_tests(unit
     unit/health_words_test.cpp
     unit/key_state_test.cpp
     unit/login_item_setting_test.cpp
+    unit/movie_pull_test.cpp
+    unit/name_lines_test.cpp
     unit/network_path_monitoring_test.cpp
     unit/notification_center_test.cpp
     unit/once_test.cpp
     unit/pass_cause_test.cpp
+    unit/pass_cause_rules_test.cpp
     unit/passes_test.cpp
     unit/running_pass_test.cpp
     unit/pass_notices_test.cpp
     unit/plain_line_test.cpp
+    unit/progress_line_test.cpp
     unit/rsync_statistics_test.cpp
     unit/preferences_test.cpp
     unit/problem_alert_test.cpp

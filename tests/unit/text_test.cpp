@@ -49,5 +49,10 @@ TEST(TextTest, PathComponents_AreJoinedByOneSlash) {
     EXPECT_EQ(appendingPathComponent(u"", u"b"), u"b");
 }
 
+TEST(TextTest, QuotedText_CanBeReadBack) {
+    EXPECT_EQ(quotedText(u""), u"\"\"");
+    EXPECT_EQ(quotedText(u"a \"b\" \\c"), u"\"a \\\"b\\\" \\\\c\"");
+}
+
 } // namespace
 } // namespace kelvo

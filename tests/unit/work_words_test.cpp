@@ -206,6 +206,15 @@ TEST(WorkWordsTest, ProgressLine_LeavesOutWhatIsNotKnown) {
     WorkState work{.step = text("First pull"), .file = text("Feature.mkv"), .share = 0.9999};
     EXPECT_EQ(progressLine(work), text("First pull, 99 %, Feature.mkv"));
     EXPECT_EQ(progressLine({}), QString());
+    work = {.step = text("a"),
+            .file = text("f"),
+            .count = text("b"),
+            .amount = text("c"),
+            .speed = text("d"),
+            .timeLeft = text("e"),
+            .share = 0};
+    EXPECT_EQ(progressLine(work), text("a, 0 %, b, c, d, e, f"));
+    EXPECT_EQ(shareText(1), text("100 %"));
 }
 
 TEST(WorkWordsTest, Arrivals_AreNamedShortAndSafe) {
