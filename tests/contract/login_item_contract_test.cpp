@@ -188,6 +188,8 @@ TEST_F(AutostartEntryTest, FolderThatCannotBeMade_IsSaidInTheSystemsWords) {
     EXPECT_EQ(outcome.kind, LoginItemOutcome::Failed);
     EXPECT_EQ(outcome.reason, QStringLiteral("Not a directory"));
     EXPECT_EQ(outcome.path, entry);
+    EXPECT_EQ(item.setOn(false).kind, LoginItemOutcome::Failed) << "who knows what lies there";
+    EXPECT_EQ(item.state().outcome.kind, LoginItemOutcome::Failed);
 }
 
 TEST_F(AutostartEntryTest, FolderThatNobodyCanWrite_LeavesTheEntryAsItWas) {
