@@ -145,6 +145,22 @@ TEST_F(LocalFileManagerTest, FilesChangedSince_CountFromTheMillisecondOn) {
         fManager.filesChangedSince(folder + QByteArray("\0x", 2), changed, nothing).empty());
 }
 
+TEST_F(LocalFileManagerTest, FilesChangedSince_LeaveOutTheOlderNeighbour) {
+    const auto changeOf = [this](const char* name) {
+        return fManager.fileBeneath(fFolder.path().toLocal8Bit(), name)->changed;
+    };
+    put(at("old"), "x");
+    // The clock of the disk goes on by steps.
+    do {
+        QFile::remove(at("new"));
+        put(at("new"), "x");
+    } while (changeOf("new") <= changeOf("old"));
+    const auto found = fManager.filesChangedSince(fFolder.path().toLocal8Bit(), changeOf("new"),
+                                                  [](QByteArrayView) { return false; });
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_TRUE(found[0].path.endsWith("/new"));
+}
+
 TEST_F(LocalFileManagerTest, FilesChangedSince_AreLookedForAHundredFoldersDeep) {
     QString path = fFolder.path();
     for (int depth = 1; depth <= 101; ++depth) {
