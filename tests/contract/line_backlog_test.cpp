@@ -71,5 +71,37 @@ TEST(LineBacklogTest, AfterLeavingOut_HalfMustBeFreeFirst) {
     EXPECT_TRUE(drained(backlog).endsWith(u"|6 lines left out|after"));
 }
 
+TEST(LineBacklogTest, Bound_CountsTheTextAndWhatALineCosts) {
+    constexpr qsizetype cTwoLines = 2 * (64 + 64 + 2 * 10);
+    const QStringList ten = line(QString(10, u'x'));
+    LineBacklog full(cTwoLines);
+    LineBacklog almostFull(cTwoLines + 1);
+    // What was left out before makes no room.
+    for (int round = 0; round < 2; ++round) {
+        for (int i = 0; i < 3; ++i) {
+            full.add(ten);
+            almostFull.add(ten);
+        }
+        EXPECT_EQ(drained(full), u"xxxxxxxxxx|xxxxxxxxxx|1 lines left out");
+        EXPECT_EQ(drained(almostFull), u"xxxxxxxxxx|xxxxxxxxxx|xxxxxxxxxx");
+    }
+}
+
+TEST(LineBacklogTest, AfterLeavingOut_HalfIsNotFreeWhileHalfWaits) {
+    LineBacklog backlog(4 * (64 + 64 + 2));
+    for (const char* const text : {"a", "b", "c", "d", "lost"})
+        backlog.add(line(QString::fromLatin1(text)));
+    const auto takeOne = [&backlog] {
+        EXPECT_TRUE(backlog.take());
+        backlog.finished();
+    };
+    takeOne();
+    takeOne();
+    backlog.add(line(QStringLiteral("lost too")));
+    takeOne();
+    backlog.add(line(QStringLiteral("after")));
+    EXPECT_EQ(drained(backlog), u"d|2 lines left out|after");
+}
+
 } // namespace
 } // namespace kelvo

@@ -1,5 +1,6 @@
 #include "adapters/system/local_file_manager.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -99,6 +100,80 @@ TEST_F(LocalFileManagerTest, WriteThatFails_LeavesTheOldFileAndNothingBeside) {
               QStringList{QStringLiteral("script")});
     EXPECT_EQ(fManager.writeAtomically(at("no folder/script"), "x"),
               QString(at("no folder/script") + u": No such file or directory"));
+}
+
+// -- looking for files
+
+TEST_F(LocalFileManagerTest, FileBeneath_TakesTheWayAsItIsMeantAndFollowsNoLink) {
+    ASSERT_TRUE(QDir().mkpath(at("to/deep")));
+    put(at("to/deep/film"), "12345");
+    ASSERT_TRUE(QFile::link(at("to/deep"), at("to/link")));
+    ASSERT_TRUE(QFile::link(at("to/deep/film"), at("to/linked film")));
+    ASSERT_TRUE(QFile::link(at("to"), at("way")));
+    const QByteArray folder = at("to").toLocal8Bit();
+    for (const char* const name : {"deep/film", "./deep/film", "deep//./film"}) {
+        const auto file = fManager.fileBeneath(folder, name);
+        ASSERT_TRUE(file) << name;
+        EXPECT_EQ(file->path, folder + "/deep/film");
+    }
+    for (const QByteArray name : {"link/film", "linked film", "deep/film/..", "missing/film", "."})
+        EXPECT_FALSE(fManager.fileBeneath(folder, name)) << name.constData();
+    EXPECT_FALSE(fManager.fileBeneath(folder, QByteArray("deep/film\0x", 11)));
+    EXPECT_FALSE(fManager.fileBeneath(folder + QByteArray("\0x", 2), "deep/film"));
+    EXPECT_TRUE(fManager.fileBeneath(at("way").toLocal8Bit(), "deep/film"))
+        << "the folder itself may be a link";
+    const auto fromTheRoot = fManager.fileBeneath("/", folder.mid(1) + "/deep/film");
+    ASSERT_TRUE(fromTheRoot);
+    EXPECT_EQ(fromTheRoot->path, folder + "/deep/film");
+}
+
+TEST_F(LocalFileManagerTest, FilesChangedSince_CountFromTheMillisecondOn) {
+    const auto nothing = [](QByteArrayView) { return false; };
+    put(at("film"), "12345");
+    ASSERT_TRUE(QFile::link(at("film"), at("link")));
+    const QByteArray folder = fFolder.path().toLocal8Bit();
+    struct stat entry {};
+    ASSERT_EQ(::lstat(at("film").toLocal8Bit().constData(), &entry), 0);
+    const auto changed = QDateTime::fromMSecsSinceEpoch(qint64{entry.st_ctim.tv_sec} * 1000 +
+                                                        entry.st_ctim.tv_nsec / 1'000'000);
+    const auto found = fManager.filesChangedSince(folder, changed, nothing);
+    ASSERT_EQ(found.size(), 1U) << "a link is no file";
+    EXPECT_EQ(found[0].path, folder + "/film");
+    EXPECT_EQ(found[0].changed, changed);
+    EXPECT_TRUE(fManager.filesChangedSince(folder, changed.addMSecs(1), nothing).empty());
+    EXPECT_TRUE(
+        fManager.filesChangedSince(folder + QByteArray("\0x", 2), changed, nothing).empty());
+}
+
+TEST_F(LocalFileManagerTest, FilesChangedSince_LeaveOutTheOlderNeighbour) {
+    const auto changeOf = [this](const char* name) {
+        return fManager.fileBeneath(fFolder.path().toLocal8Bit(), name)->changed;
+    };
+    put(at("old"), "x");
+    // The clock of the disk goes on by steps.
+    do {
+        QFile::remove(at("new"));
+        put(at("new"), "x");
+    } while (changeOf("new") <= changeOf("old"));
+    const auto found = fManager.filesChangedSince(fFolder.path().toLocal8Bit(), changeOf("new"),
+                                                  [](QByteArrayView) { return false; });
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_TRUE(found[0].path.endsWith("/new"));
+}
+
+TEST_F(LocalFileManagerTest, FilesChangedSince_AreLookedForAHundredFoldersDeep) {
+    QString path = fFolder.path();
+    for (int depth = 1; depth <= 101; ++depth) {
+        path += u"/d";
+        ASSERT_TRUE(QDir().mkdir(path));
+        if (depth >= 100)
+            put(path + u"/film", "x");
+    }
+    const auto found =
+        fManager.filesChangedSince(fFolder.path().toLocal8Bit(), QDateTime::fromMSecsSinceEpoch(0),
+                                   [](QByteArrayView) { return false; });
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].path.count('/'), path.count(u'/')) << "the one of the hundredth";
 }
 
 // -- the folder of the scripts

@@ -98,9 +98,31 @@ TEST_F(AutostartEntryTest, Entry_IsForTheUserAloneAndNothingLiesBesideIt) {
     EXPECT_FALSE(QFile::exists(entry));
 }
 
+TEST_F(AutostartEntryTest, Text_IsAnEntryThatDesktopsKnow) {
+    EXPECT_EQ(autostartText(QStringLiteral("/usr/bin/kelvo-mirror")).toStdString(),
+              "[Desktop Entry]\n"
+              "Type=Application\n"
+              "Name=Kelvo Mirror\n"
+              "Comment=Keep a local folder supplied with movie files from a remote Mac\n"
+              "Icon=kelvo-mirror\n"
+              "Exec=\"/usr/bin/kelvo-mirror\"\n"
+              "Terminal=false\n" +
+                  std::string(cAutostartMark) + "\n");
+}
+
+TEST_F(AutostartEntryTest, MarkBehindWhatIsRead_DoesNotMakeItOurs) {
+    const QByteArray filler = QByteArray(16 * 1024, '#') + '\n';
+    put(filler + autostartText(QStringLiteral("/usr/bin/kelvo-mirror")));
+    EXPECT_EQ(item.state().outcome.kind, LoginItemOutcome::SomebodyElses);
+    put(autostartText(QStringLiteral("/usr/bin/kelvo-mirror")) + filler);
+    EXPECT_EQ(item.state().outcome.kind, LoginItemOutcome::Done);
+    EXPECT_TRUE(item.state().isOn);
+}
+
 TEST_F(AutostartEntryTest, PathWithOddCharacters_StaysOneWord) {
     EXPECT_TRUE(autostartText(QStringLiteral("/opt/a b/100%/$x\"`\\k"))
                     .contains("\nExec=nice -n 0 \"/opt/a b/100%%/\\\\$x\\\\\"\\\\`\\\\\\\\k\"\n"));
+    EXPECT_TRUE(autostartText(QStringLiteral("/a\rb")).contains("\"/a\\rb\""));
     EXPECT_TRUE(autostartText(QStringLiteral("/a\nHidden=true")).contains("\"/a\\nHidden=true\""))
         << "a line end in the path begins no line of the entry";
 }
@@ -166,6 +188,8 @@ TEST_F(AutostartEntryTest, FolderThatCannotBeMade_IsSaidInTheSystemsWords) {
     EXPECT_EQ(outcome.kind, LoginItemOutcome::Failed);
     EXPECT_EQ(outcome.reason, QStringLiteral("Not a directory"));
     EXPECT_EQ(outcome.path, entry);
+    EXPECT_EQ(item.setOn(false).kind, LoginItemOutcome::Failed) << "who knows what lies there";
+    EXPECT_EQ(item.state().outcome.kind, LoginItemOutcome::Failed);
 }
 
 TEST_F(AutostartEntryTest, FolderThatNobodyCanWrite_LeavesTheEntryAsItWas) {

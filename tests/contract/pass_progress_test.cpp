@@ -284,6 +284,13 @@ TEST(FinalPathTest, NamesOfRsync_BecomeThoseOfTheFiles) {
     EXPECT_EQ(finalPath("/to/.hidden.mov"), "/to/.hidden.mov");
     EXPECT_EQ(finalPath("/.a1"), "/.a1");
     EXPECT_EQ(finalPath("relative"), "relative");
+    EXPECT_EQ(finalPath("/.kelvo-partial/a.mov"), "/a.mov");
+    EXPECT_EQ(finalPath("/to/.x.a1B2c3"), "/to/x");
+    EXPECT_EQ(finalPath("/to/..a1B2c3"), "/to/..a1B2c3") << "no name would be left";
+    EXPECT_EQ(finalPath("/to/.x.09azAZ"), "/to/x");
+    for (const char last : {'.', ':', '@', '[', '`', '{'})
+        EXPECT_EQ(finalPath(std::string("/to/.x.a1B2c") + last),
+                  std::string("/to/.x.a1B2c") + last);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "adapters/console/rotating_log_file.h"
 #include "adapters/system/unique_fd.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -8,9 +9,11 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <pwd.h>
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdlib>
 
@@ -77,6 +80,81 @@ TEST_F(RotatingLogFileTest, DefaultPath_FollowsTheStateFolder) {
     qputenv("XDG_STATE_HOME", state);
 }
 
+TEST_F(RotatingLogFileTest, DefaultPathWithoutAHomeFolder_IsTheAccounts) {
+    const passwd* const account = ::getpwuid(::getuid());
+    if (account == nullptr)
+        GTEST_SKIP() << "this user has no entry in the account database";
+    const QString expected =
+        QString::fromUtf8(account->pw_dir) + u"/.local/state/Kelvo/kelvo-mirror.log";
+    const QByteArray state = qgetenv("XDG_STATE_HOME");
+    const QByteArray home = qgetenv("HOME");
+    qunsetenv("XDG_STATE_HOME");
+    qunsetenv("HOME");
+    const RotatingLogFile log;
+    EXPECT_EQ(log.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")), expected);
+    qputenv("HOME", "not/absolute");
+    EXPECT_EQ(log.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")), expected);
+    qputenv("HOME", home);
+    qputenv("XDG_STATE_HOME", state);
+}
+
+TEST_F(RotatingLogFileTest, Lines_BeginWithTheirTime) {
+    RotatingLogFile log;
+    ASSERT_TRUE(log.setLogFile(fPath));
+    log.append(QStringLiteral("now"));
+    const QString line = read(QStringLiteral("x.log"));
+    EXPECT_EQ(line.mid(23), u" now\n");
+    const QDateTime time =
+        QDateTime::fromString(line.left(23), QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz"));
+    EXPECT_LT(std::abs(time.secsTo(QDateTime::currentDateTime())), 60) << line.toStdString();
+}
+
+/// A line of a hundred bytes, its time and its end included.
+QString hundredBytes(char sign) {
+    return QString(75, QChar::fromLatin1(sign));
+}
+
+TEST_F(RotatingLogFileTest, File_IsFilledToItsLastByte) {
+    RotatingLogFile log(300);
+    ASSERT_TRUE(log.setLogFile(fPath));
+    for (const char sign : {'a', 'b', 'c', 'd'})
+        log.append(hundredBytes(sign));
+    EXPECT_EQ(texts({QStringLiteral("x.1.log")}),
+              (QStringList{hundredBytes('a'), hundredBytes('b'), hundredBytes('c')}));
+    EXPECT_EQ(texts({QStringLiteral("x.log")}), QStringList{hundredBytes('d')});
+}
+
+TEST_F(RotatingLogFileTest, LineLongerThanAFile_HasOneOfItsOwn) {
+    RotatingLogFile log(50);
+    ASSERT_TRUE(log.setLogFile(fPath));
+    for (const char sign : {'a', 'b'})
+        log.append(hundredBytes(sign));
+    EXPECT_EQ(QDir(fFolder).entryList(QDir::Files),
+              (QStringList{QStringLiteral("x.1.log"), QStringLiteral("x.log")}));
+    EXPECT_EQ(texts({QStringLiteral("x.1.log")}), QStringList{hundredBytes('a')});
+    EXPECT_EQ(texts({QStringLiteral("x.log")}), QStringList{hundredBytes('b')});
+}
+
+TEST_F(RotatingLogFileTest, NameWithoutAnEnding_GetsItsNumberBehind) {
+    RotatingLogFile log(100);
+    ASSERT_TRUE(log.setLogFile(fFolder + u"/with.dot/log"));
+    for (const char sign : {'a', 'b'})
+        log.append(hundredBytes(sign));
+    EXPECT_EQ(QDir(fFolder + u"/with.dot").entryList(QDir::Files),
+              (QStringList{QStringLiteral("log"), QStringLiteral("log.1")}));
+}
+
+TEST_F(RotatingLogFileTest, OtherFile_GetsNothingThatWaitedForTheFirst) {
+    RotatingLogFile log(RotatingLogFile::cFileSize, 0ms);
+    EXPECT_FALSE(log.setLogFile({}));
+    EXPECT_FALSE(log.setLogFile(QStringLiteral("/dev/full")));
+    for (int i = 0; i < 3; ++i)
+        log.append(QString(RotatingLogFile::cMostWaiting / 2, u'x'));
+    EXPECT_TRUE(log.setLogFile(fPath));
+    log.append(QStringLiteral("after"));
+    EXPECT_EQ(texts({QStringLiteral("x.log")}), QStringList{QStringLiteral("after")});
+}
+
 TEST_F(RotatingLogFileTest, FullFile_RotatesAndKeepsThreeInAll) {
     RotatingLogFile log(1000);
     ASSERT_TRUE(log.setLogFile(fPath));
@@ -126,8 +204,8 @@ TEST_F(RotatingLogFileTest, FullDisk_LosesNoLineThatCanWait) {
     ASSERT_TRUE(log.setLogFile(fPath));
     log.append(QStringLiteral("before"));
     {
-        // Room for half a line.
-        const LargestFile full(QFileInfo(fPath).size() + 20);
+        // Room for the first byte of a line.
+        const LargestFile full(QFileInfo(fPath).size() + 1);
         for (int i = 0; i < 3; ++i)
             log.append(QStringLiteral("line %1").arg(i));
         EXPECT_EQ(texts({QStringLiteral("x.log")}), QStringList{QStringLiteral("before")});
@@ -155,6 +233,23 @@ TEST_F(RotatingLogFileTest, FullDisk_CountsWhatIsLost) {
     EXPECT_EQ(note, QStringLiteral("%1 lines left out: File too large").arg(cLines - found.size()));
     EXPECT_EQ(found.count(QString(1000, u'x')), found.size());
     EXPECT_LE(found.size() * 1000, RotatingLogFile::cMostWaiting);
+}
+
+TEST_F(RotatingLogFileTest, FullDisk_KeepsAQuarterOfAMebibyteWaiting) {
+    RotatingLogFile log(RotatingLogFile::cFileSize, 0ms);
+    ASSERT_TRUE(log.setLogFile(fPath));
+    constexpr int cFitting = 256;
+    {
+        const LargestFile full(0);
+        // A kibibyte each, with its time and its end.
+        for (int i = 0; i < cFitting + 2; ++i)
+            log.append(QString(1024 - 25, u'x'));
+    }
+    log.append(QStringLiteral("after"));
+    const QStringList found = texts({QStringLiteral("x.log")});
+    EXPECT_EQ(found.count(QString(1024 - 25, u'x')), cFitting);
+    EXPECT_EQ(found.mid(cFitting), (QStringList{QStringLiteral("2 lines left out: File too large"),
+                                                QStringLiteral("after")}));
 }
 
 TEST_F(RotatingLogFileTest, DiskThatIsFullTillTheEnd_GetsTheLinesThen) {

@@ -2,6 +2,7 @@
 #include "adapters/system/unique_fd.h"
 #include "fakes/memory_log_file.h"
 
+#include <QDateTime>
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -101,6 +102,9 @@ TEST_F(StreamConsoleTest, LogLine_StartsWithTheTimeAndTheProgram) {
     EXPECT_TRUE(lines->flush(30s));
     const QString line = QString::fromUtf8(readOnce());
     EXPECT_EQ(line.mid(23), QStringLiteral(" kelvo-mirror[%1] noted\n").arg(::getpid()));
+    const QDateTime time =
+        QDateTime::fromString(line.left(23), QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz"));
+    EXPECT_LT(std::abs(time.secsTo(QDateTime::currentDateTime())), 60) << line.toStdString();
 }
 
 TEST_F(StreamConsoleTest, StuckReader_StopsNeitherTheLogFileNorTheOtherStream) {

@@ -20,7 +20,10 @@ protected:
         ASSERT_EQ(::unlockpt(master.get()), 0);
         terminal = UniqueFd(::open(::ptsname(master.get()), O_RDWR | O_NOCTTY | O_CLOEXEC));
         ASSERT_GE(terminal.get(), 0);
-        const winsize size{.ws_row = 24, .ws_col = 11, .ws_xpixel = 0, .ws_ypixel = 0};
+        setWidth(11);
+    }
+    void setWidth(unsigned short columns) {
+        const winsize size{.ws_row = 24, .ws_col = columns, .ws_xpixel = 0, .ws_ypixel = 0};
         ASSERT_EQ(::ioctl(terminal.get(), TIOCSWINSZ, &size), 0);
     }
 
@@ -64,6 +67,30 @@ TEST_F(TerminalLineTest, HaltedTerminal_HoldsNobodyUp) {
     ASSERT_EQ(::tcflow(terminal.get(), TCOON), 0);
     line.show(QStringLiteral("at last"));
     EXPECT_TRUE(got().endsWith("\rat last\x1b[K"));
+}
+
+TEST_F(TerminalLineTest, TwoColumns_AreTakenByTheKoreanLettersAndWhatFollows) {
+    TerminalLine line(terminal.get());
+    line.show(QString(11, QChar(0x10ff)));
+    EXPECT_EQ(got(), '\r' + QString(10, QChar(0x10ff)).toUtf8() + "\x1b[K");
+    line.show(QString(11, QChar(0x1100)));
+    EXPECT_EQ(got(), '\r' + QString(5, QChar(0x1100)).toUtf8() + "\x1b[K");
+    line.show(u'x' + QString(5, QChar(0x1100)));
+    EXPECT_EQ(got(), "\rx" + QString(4, QChar(0x1100)).toUtf8() + "\x1b[K") << "none is halved";
+}
+
+TEST_F(TerminalLineTest, TerminalWithoutAWidth_CountsAsEightyColumns) {
+    setWidth(0);
+    TerminalLine line(terminal.get());
+    line.show(QString(100, u'x'));
+    EXPECT_EQ(got(), '\r' + QByteArray(79, 'x') + "\x1b[K");
+}
+
+TEST_F(TerminalLineTest, TerminalOfOneColumn_StaysEmpty) {
+    setWidth(1);
+    TerminalLine line(terminal.get());
+    line.show(QStringLiteral("48 %"));
+    EXPECT_EQ(got(), QByteArray());
 }
 
 } // namespace

@@ -15,12 +15,14 @@ kelvo_tests(contract
     contract/command_processes_test.cpp
     contract/console_contract_test.cpp
     contract/desktop_notices_contract_test.cpp
+    contract/detached_start_test.cpp
     contract/dispatch_queue_contract_test.cpp
     contract/dnssd_browser_contract_test.cpp
     contract/endpoint_search_contract_test.cpp
     contract/factory_template_test.cpp
     contract/far_end_test.cpp
     contract/file_manager_contract_test.cpp
+    contract/file_trust_test.cpp
     contract/file_watch_test.cpp
     contract/line_backlog_test.cpp
     contract/local_file_manager_test.cpp
@@ -38,6 +40,7 @@ kelvo_tests(contract
     contract/plist_file_test.cpp
     contract/plist_guard_test.cpp
     contract/posix_shell_runner_test.cpp
+    contract/private_places_test.cpp
     contract/qt_main_queue_test.cpp
     contract/rotating_log_file_test.cpp
     contract/sentinel_launcher_contract_test.cpp

@@ -68,8 +68,11 @@ TEST(Utf8CollectorTest, MoreThanIsKept_IsItsFirstAndItsLastHalf) {
 }
 
 TEST(Utf8CollectorTest, WhatIsLeftOut_BeginsAndEndsBetweenCharacters) {
+    // The first and the last of each length among them.
     for (const QString& sign :
-         {QStringLiteral("\u00e9"), QStringLiteral("\u20ac"), QStringLiteral("\U0001f3ac")}) {
+         {QStringLiteral("\u0080"), QStringLiteral("\u00e9"), QStringLiteral("\u07ff"),
+          QStringLiteral("\u0800"), QStringLiteral("\u20ac"), QStringLiteral("\uffee"),
+          QStringLiteral("\U00010000"), QStringLiteral("\U0001f3ac")}) {
         const QString whole = sign.repeated(50);
         const std::string bytes = whole.toStdString();
         for (std::size_t kept = 16; kept < 24; ++kept) {
@@ -79,8 +82,10 @@ TEST(Utf8CollectorTest, WhatIsLeftOut_BeginsAndEndsBetweenCharacters) {
             ASSERT_EQ(parts.size(), 2) << text.toStdString();
             EXPECT_FALSE(text.contains(u'\ufffd')) << text.toStdString();
             EXPECT_EQ(parts.join(QString()).toUtf8().size() + leftOut, whole.toUtf8().size());
-            EXPECT_GE(parts[0].toUtf8().size(), static_cast<qsizetype>(kept / 2) - 3);
-            EXPECT_GE(parts[1].toUtf8().size(), static_cast<qsizetype>(kept / 2) - 3);
+            const auto length = static_cast<std::size_t>(sign.toUtf8().size());
+            EXPECT_EQ(parts[0].size(), sign.size() * static_cast<qsizetype>(kept / 2 / length));
+            EXPECT_EQ(parts[1].size(),
+                      sign.size() * static_cast<qsizetype>((kept - kept / 2) / length));
         }
     }
 }

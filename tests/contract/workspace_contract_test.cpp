@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 namespace kelvo {
 namespace {
 
@@ -153,6 +155,37 @@ TEST(DesktopWorkspaceTest, VanishedPath_IsALineInTheLog) {
     RealDesktop desktop(QDBusConnection(QStringLiteral("no bus")), "exit 2");
     desktop.workspace->openFile(QStringLiteral("/gone"));
     EXPECT_TRUE(desktop.says(QStringLiteral("Cannot open file:///gone: there is no such file")));
+}
+
+TEST(DesktopWorkspaceTest, FailureOfTheOpener_IsSaidInWords) {
+    const std::map<QByteArray, QString> reasons{
+        {"1", QStringLiteral("exit code 1")},
+        {"3", QStringLiteral("the desktop has no program for it")},
+        {"4", QStringLiteral("the desktop's program for it failed")}};
+    for (const auto& [code, reason] : reasons) {
+        RealDesktop desktop(QDBusConnection(QStringLiteral("no bus")), "exit " + code);
+        desktop.workspace->openFile(QStringLiteral("/x"));
+        EXPECT_TRUE(desktop.says(u"Cannot open file:///x: " + reason)) << code.constData();
+    }
+}
+
+TEST(DesktopWorkspaceTest, Refusals_NameWhatIsRefused) {
+    RealDesktop desktop;
+    desktop.workspace->openUrl(QStringLiteral("ssh://host/\x1b"));
+    desktop.workspace->openFile(QStringLiteral("Movies"));
+    EXPECT_EQ(desktop.console.logged().value(0),
+              u"Cannot open ssh://host/\\x1b: this is no address to open.");
+    EXPECT_TRUE(desktop.console.logged().value(1).startsWith(u"Cannot show "));
+    EXPECT_TRUE(desktop.console.logged().value(1).endsWith(
+        u"Movies\": the path does not begin at the root folder."));
+}
+
+TEST(DesktopWorkspaceTest, WebAddresses_AreOpened) {
+    for (const char* const url : {"http://example.org/a", "https://example.org/a"}) {
+        RealDesktop desktop;
+        desktop.workspace->openUrl(QString::fromLatin1(url));
+        EXPECT_TRUE(desktop.opens(QString::fromLatin1(url)));
+    }
 }
 
 TEST(DesktopWorkspaceTest, OpenerKilled_IsALineInTheLog) {

@@ -11,9 +11,12 @@
 namespace kelvo {
 namespace {
 
+/// Empty without one.
 std::string parentOf(const std::string& path) {
-    const std::size_t slash = path.find_last_not_of('/', path.rfind('/'));
-    return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string::npos)
+        return {};
+    return path.substr(0, path.find_last_not_of('/', slash) + 1);
 }
 
 std::string environmentPath(const char* name) {
