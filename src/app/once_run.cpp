@@ -6,6 +6,7 @@
 #include "settings/factory_defaults.h"
 #include "settings/overlay_defaults.h"
 #include "settings/preference_keys.h"
+#include "support/plain_line.h"
 #include "ui/work_words.h"
 
 #include <QCoreApplication>
@@ -58,9 +59,13 @@ public:
         QCoreApplication::exec();
         fProgress.reset();
         fMachine.end();
+        fUnrecorded = fMachine.passes.finish();
         const std::lock_guard lock(fMutex);
         return fRecord.value_or(withoutPass(PassCause::Interrupted));
     }
+
+    /// Why the record does not hold the pass that was run; empty when it does.
+    QString unrecorded() const { return fUnrecorded; }
 
 private:
     void showProgress() {
@@ -90,6 +95,7 @@ private:
 
     std::mutex fMutex;
     std::optional<PassRecord> fRecord;
+    QString fUnrecorded;
     std::optional<TerminalLine> fProgress;
     TimeLeftWords fTimeLeft;
     PassMachine fMachine{-1, -1, DamagedFile::IsLeftAlone};
@@ -112,7 +118,11 @@ CommandAnswer runOnce(bool json) {
     OncePass pass;
     if (const QString unknown = pass.unknownSettings(); !unknown.isEmpty())
         return settingsUnknown(unknown);
-    return outcomeOf(pass.run(!json), json);
+    CommandAnswer answer = outcomeOf(pass.run(!json), json);
+    if (const QString reason = pass.unrecorded(); !reason.isEmpty())
+        answer.errors = u"kelvo-mirror: the record of passes does not hold this pass: " +
+                        oneLine(reason) + u'\n';
+    return answer;
 }
 
 } // namespace kelvo

@@ -46,19 +46,14 @@ std::optional<QString> fillInSshParams(const QString& text, const UserDefaults& 
     };
     const QString hostAlone = withoutBlanksBehind(*host);
     const QString blanks = host->sliced(hostAlone.size());
-    std::optional<QString> filled =
-        QString(text).replace(cGoodResponse, QStringLiteral("\"remoteisgood\""));
-    const auto fill = [&filled](const QString& placeholder, const QString& value) {
-        if (filled)
-            filled = withWord(*filled, placeholder, value);
-    };
-    fill(QStringLiteral("%@4"), trimmedText(expandingTilde(cPrivateKeyFile, home)));
-    fill(QStringLiteral("%@3"), trimmedSetting(prefRemotePath));
-    fill(QStringLiteral("%@1"), trimmedSetting(prefRemoteUsername));
-    if (filled)
-        filled->replace(cHost, cHost + blanks);
-    fill(cHost, hostAlone);
-    return filled;
+    QString command = text;
+    command.replace(cGoodResponse, QStringLiteral("\"remoteisgood\""));
+    command.replace(cHost, cHost + blanks);
+    return withFillings(
+        command, {{QStringLiteral("%@4"), trimmedText(expandingTilde(cPrivateKeyFile, home))},
+                  {QStringLiteral("%@3"), trimmedSetting(prefRemotePath)},
+                  {QStringLiteral("%@1"), trimmedSetting(prefRemoteUsername)},
+                  {cHost, hostAlone}});
 }
 
 QString connectionFault(const QString& output) {

@@ -39,8 +39,9 @@ JudgedAnswer judgedAnswer(const QString& answer, const QString& username, bool k
 QString whoamiCommand(qint64 timeout, const QString& keyPath, const QString& target) {
     const QString command = u"/usr/bin/ssh 2>&1  -o ConnectTimeout=" + QString::number(timeout) +
                             u"  -i %@1 \"%@2\" whoami";
-    const QString withKey = withWord(command, u"%@1", keyPath).value();
-    return withWord(withKey, u"%@2", target).value();
+    return withFillings(command,
+                        {{QStringLiteral("%@1"), keyPath}, {QStringLiteral("%@2"), target}})
+        .value();
 }
 
 RemoteHostValidation::RemoteHostValidation(RemoteHostValidationParts parts)

@@ -10,11 +10,12 @@
 namespace kelvo {
 namespace {
 
-/// All placeholders of `text` stand between double quotes.
-QString filledIn(QString text, const ShareTarget& target) {
-    text.replace(QStringLiteral("%@3"), insideDoubleQuotes(target.remotePath));
-    text.replace(QStringLiteral("%@1"), insideDoubleQuotes(target.user));
-    return text.replace(QStringLiteral("%@2"), insideDoubleQuotes(shareHost(target.host)));
+/// All placeholders of `text` stand between double quotes, where any word can be put.
+QString filledIn(const QString& text, const ShareTarget& target) {
+    return withFillings(text, {{QStringLiteral("%@3"), target.remotePath},
+                               {QStringLiteral("%@1"), target.user},
+                               {QStringLiteral("%@2"), shareHost(target.host)}})
+        .value();
 }
 
 QString remoteFolderFrom(const QString& start, const ShareTarget& target) {

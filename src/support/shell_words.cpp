@@ -3,7 +3,6 @@
 #include "support/shell_reader.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace kelvo {
 namespace {
@@ -67,22 +66,27 @@ std::optional<QString> wordAt(const ShellPlace& place, const QString& value) {
     return escaped(value, place.quoting);
 }
 
-using Writer = std::function<std::optional<QString>(const ShellPlace&)>;
+std::optional<QString> pieceAt(const ShellPlace& place, const Filling& piece) {
+    if (place.quoting == Quoting::Unclear && !isOrdinary(*piece.valueOfPiece))
+        return {};
+    if (place.quoting == Quoting::Bare || place.quoting == Quoting::Unclear)
+        return piece.text;
+    return escaped(piece.text, place.quoting);
+}
 
-std::optional<QString> written(const QString& command, QStringView placeholder,
-                               const Writer& write) {
-    ShellReader reader(command);
-    QString result;
-    qsizetype from = 0;
-    for (qsizetype at = command.indexOf(placeholder); at >= 0;
-         at = command.indexOf(placeholder, from)) {
-        const auto text = write(reader.placeAt(at));
-        if (!text)
-            return {};
-        result += QStringView(command).sliced(from, at - from) + *text;
-        from = at + placeholder.size();
+struct Found {
+    qsizetype at = -1;
+    const Filling* filling = nullptr;
+};
+
+Found firstFrom(qsizetype from, const QString& command, const std::vector<Filling>& fillings) {
+    Found first;
+    for (const Filling& filling : fillings) {
+        const qsizetype at = command.indexOf(filling.placeholder, from);
+        if (at >= 0 && (first.filling == nullptr || at < first.at))
+            first = {at, &filling};
     }
-    return result + QStringView(command).sliced(from);
+    return first;
 }
 
 } // namespace
@@ -125,19 +129,25 @@ QString withoutQuotes(QStringView text) {
 
 std::optional<QString> withWord(const QString& command, QStringView placeholder,
                                 const QString& value) {
-    return written(command, placeholder,
-                   [&value](const ShellPlace& place) { return wordAt(place, value); });
+    return withFillings(command, {{placeholder.toString(), value}});
 }
 
-std::optional<QString> withPiece(const QString& command, QStringView placeholder,
-                                 const QString& text, QStringView value) {
-    return written(command, placeholder, [&](const ShellPlace& place) -> std::optional<QString> {
-        if (place.quoting == Quoting::Unclear && !isOrdinary(value))
+std::optional<QString> withFillings(const QString& command, const std::vector<Filling>& fillings) {
+    ShellReader reader(command);
+    QString result;
+    qsizetype from = 0;
+    for (Found found = firstFrom(from, command, fillings); found.filling != nullptr;
+         found = firstFrom(from, command, fillings)) {
+        const Filling& filling = *found.filling;
+        const ShellPlace place = reader.placeAt(found.at);
+        const auto text =
+            filling.valueOfPiece ? pieceAt(place, filling) : wordAt(place, filling.text);
+        if (!text)
             return {};
-        if (place.quoting == Quoting::Bare || place.quoting == Quoting::Unclear)
-            return text;
-        return escaped(text, place.quoting);
-    });
+        result += QStringView(command).sliced(from, found.at - from) + *text;
+        from = found.at + filling.placeholder.size();
+    }
+    return result + QStringView(command).sliced(from);
 }
 
 } // namespace kelvo

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace kelvo {
 
@@ -31,10 +32,18 @@ QString withoutQuotes(QStringView text);
 std::optional<QString> withWord(const QString& command, QStringView placeholder,
                                 const QString& value);
 
-/// `command` with `text`, a piece of a command that holds `value`, in place of each `placeholder`.
-/// It stays as it is where the shell reads a command, and is escaped between quotes. Nothing in the
-/// same places.
-std::optional<QString> withPiece(const QString& command, QStringView placeholder,
-                                 const QString& text, QStringView value);
+/// What comes into a command in place of a placeholder.
+struct Filling {
+    QString placeholder;
+    QString text;
+    /// Of a `text` that is a piece of a command: the value that it holds. Such a text stays as it
+    /// is where the shell reads a command, and is escaped between quotes. Without it `text` is a
+    /// word.
+    std::optional<QString> valueOfPiece = {};
+};
+
+/// `command` with all of `fillings`, in one walk: a placeholder that stands in a text filled in
+/// stays there. No placeholder begins another one. Nothing in the same places.
+std::optional<QString> withFillings(const QString& command, const std::vector<Filling>& fillings);
 
 } // namespace kelvo

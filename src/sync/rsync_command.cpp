@@ -49,14 +49,6 @@ QString keptWhole(const QString& source) {
     return kept;
 }
 
-std::optional<QString> withKey(const QString& command, const QString& keyPath) {
-    const auto filled = withWord(command, cKeyFile, keyPath);
-    const auto sshPart = withWord(cSshPart.toString(), cKeyFile, keyPath);
-    if (!filled || !sshPart)
-        return {};
-    return withPiece(*filled, cSsh, *sshPart, keyPath);
-}
-
 } // namespace
 
 std::optional<QStringView> optionStringForTag(qint64 tag) {
@@ -75,18 +67,24 @@ std::optional<QStringView> optionStringForTag(qint64 tag) {
 
 std::optional<QString> filledCommand(const QString& command, const RsyncParams& params,
                                      QStringView optionString) {
-    std::optional<QString> filled = command;
-    if (params.srcpath)
-        filled = withWord(*filled, cSource, keptWhole(withTrailingSlash(*params.srcpath)));
-    if (filled && params.dstpath)
-        filled = withWord(*filled, cDestination, withTrailingSlash(*params.dstpath));
-    if (filled && params.sshfilepath)
-        filled = withKey(*filled, *params.sshfilepath);
-    if (!filled)
+    const auto withSource =
+        params.srcpath ? withWord(command, cSource, keptWhole(withTrailingSlash(*params.srcpath)))
+                       : command;
+    if (!withSource)
         return {};
-    if (!params.sshfilepath)
-        filled->remove(cSsh);
-    return filled->replace(cOption, optionString.toString());
+    std::vector<Filling> later{{cOption, optionString.toString(), QString()}};
+    if (params.dstpath)
+        later.push_back({cDestination, withTrailingSlash(*params.dstpath)});
+    if (const auto& key = params.sshfilepath) {
+        const auto sshPart = withWord(cSshPart.toString(), cKeyFile, *key);
+        if (!sshPart)
+            return {};
+        later.push_back({cKeyFile, *key});
+        later.push_back({cSsh, *sshPart, *key});
+    } else {
+        later.push_back({cSsh, QString(), QString()});
+    }
+    return withFillings(*withSource, later);
 }
 
 QString commandFault(const QString& command, const RsyncParams& params) {
@@ -103,10 +101,6 @@ QString commandFault(const QString& command, const RsyncParams& params) {
         return u"the destination " + fault;
     if (pathOf(destination) > 0)
         return QStringLiteral("the destination would be read as the name of a host");
-    for (const QString& later : {cKeyFile, cSsh, cOption}) {
-        if (destination.contains(later))
-            return u"the destination holds " + later + u", which would be filled in";
-    }
     if (const QString fault = wordFault(params.sshfilepath.value_or(QString())); !fault.isEmpty())
         return u"the path of the key file " + fault;
     if (!filledCommand(command, params, {}))

@@ -25,11 +25,10 @@ struct RsyncParams {
     std::optional<QString> sshfilepath; ///< private key; given only for passes over ssh
 };
 
-/// `command` with its placeholders replaced in their fixed order: source, destination, key file,
-/// ssh part, option. Each step works on the text that the earlier ones left, so a placeholder
-/// inside a source is filled by the later steps. What is filled in stays in its word: it is escaped
-/// for the shell and, the path on another host, for the shell there. Nothing when `command` puts a
-/// text where that cannot be done.
+/// `command` with its placeholders replaced: the source first, then in one walk destination, key
+/// file, ssh part and option. So a placeholder inside a source is filled, and one inside any other
+/// text stays. What is filled in stays in its word: it is escaped for the shell and, the path on
+/// another host, for the shell there. Nothing when `command` puts a text where that cannot be done.
 std::optional<QString> filledCommand(const QString& command, const RsyncParams& params,
                                      QStringView optionString);
 

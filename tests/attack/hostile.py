@@ -14,8 +14,7 @@ TEXTS = (
     "ends\\", "a#b", "~root", "%@1 %@2", "a b  c", "é 漢 🎬", "x)\ntouch injected; (", "<(touch injected)",
 )
 FIELDS = ("prefRemoteUsername", "prefRemoteBonjourName", "prefRemotePath", "prefPath1", "prefPath2", "home")
-MEANT = (("prefRemotePath", "~root"),  # root's own home over there
-         ("home", "%@1 %@2"))  # filled in by the later steps, and still one word
+MEANT = (("prefRemotePath", "~root"),)  # root's own home over there
 STEP_OF_SHORT = 5  # no divisor of the number of fields, so that each has its turn
 
 

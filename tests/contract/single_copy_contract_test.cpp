@@ -237,6 +237,21 @@ TEST_F(SingleCopySocketTest, ChildProcess_DoesNotInheritTheLock) {
     EXPECT_EQ(locks, 1);
 }
 
+TEST_F(SingleCopySocketTest, PlaceGivenUp_IsFreeWhoeverHoldsItsDescriptors) {
+    auto first = copy();
+    ASSERT_EQ(first->claim([] {}), Claim::First);
+    // As a child does between its start and its own program.
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::pause();
+        ::_exit(0);
+    }
+    first.reset();
+    EXPECT_EQ(copy(100ms)->claim([] {}), Claim::First);
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+}
+
 TEST_F(SingleCopySocketTest, FilesAreTheUsersAlone) {
     const auto first = copy();
     ASSERT_EQ(first->claim([] {}), Claim::First);

@@ -31,6 +31,23 @@ TEST_F(SqlitePassStoreTest, QuestionBeforeTheFirstRecord_MakesNoFile) {
     EXPECT_EQ(lines(*store), QStringList{QStringLiteral("1")});
 }
 
+TEST_F(SqlitePassStoreTest, Finish_WritesEverythingOrTellsWhyNot) {
+    const auto store = openStore();
+    store->append(numbered(1));
+    EXPECT_EQ(store->finish(), QString());
+    EXPECT_EQ(store->finish(), QString()) << "it is done already";
+    EXPECT_EQ(lines(*openStore()), QStringList{QStringLiteral("1")});
+
+    path = folder.filePath(QStringLiteral("a file/passes.sqlite"));
+    QFile file(folder.filePath(QStringLiteral("a file")));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    const auto nowhere = openStore();
+    nowhere->append(numbered(2));
+    const QString reason = nowhere->finish();
+    EXPECT_FALSE(reason.isEmpty());
+    EXPECT_TRUE(console.logged().last().endsWith(reason));
+}
+
 TEST_F(SqlitePassStoreTest, File_IsPrivate) {
     path = folder.filePath(QStringLiteral("state/passes.sqlite"));
     openStore()->append(numbered(1));

@@ -171,7 +171,7 @@ TEST_F(WordsOfPassesTest, PlainPass_FillsExactlyThatFolderOrRefuses) {
                                   fRoot + "/from/plain", to))
             refused.append(name);
     }
-    EXPECT_EQ(refused, (QStringList{"%@3", "x%@98", "%@99", "a\nb", "a\rb"}));
+    EXPECT_EQ(refused, (QStringList{"a\nb", "a\rb"}));
 }
 
 TEST_F(WordsOfPassesTest, PlainPass_TakesExactlyThatFolderOrRefuses) {
@@ -192,8 +192,7 @@ TEST_F(WordsOfPassesTest, FolderBesideTheProgram_IsThatFolderOrRefused) {
                                   fRoot + "/from/plain", fRoot + "/here/" + name))
             refused.append(name);
     }
-    EXPECT_EQ(refused, (QStringList{"-x", "--delete", "-", "%@3", "x%@98", "%@99", "a:b", "u@h:b",
-                                    "a\nb", "a\rb"}));
+    EXPECT_EQ(refused, (QStringList{"-x", "--delete", "-", "a:b", "u@h:b", "a\nb", "a\rb"}));
 }
 
 TEST_F(WordsOfPassesTest, PlainPass_FillsAnyByteStringOrRefuses) {
@@ -254,7 +253,7 @@ TEST_F(WordsOfPassesTest, OddHomesAndHosts_ReachSshAsOneWord) {
     defaults.setObject(prefRemoteBonjourName, host);
     const QString account = "a nn$(touch x)@" + host;
     for (const QString& name : cOddNames) {
-        if (name.contains("%@") || name.contains(u'\n'))
+        if (name.contains(u'\n'))
             continue;
         const QString home = fRoot + "/homes/" + name;
         const QString key = home + "/.ssh/id_kelvoRsync";

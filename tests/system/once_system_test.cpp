@@ -89,6 +89,20 @@ TEST_F(OnceSystemTest, Passes_ArePrintedFromTheRecordAlone) {
     EXPECT_EQ(contents(record), "no database") << "nothing is set aside";
 }
 
+TEST_F(OnceSystemTest, PassThatIsNotRecorded_IsToldAndEndsAsItWent) {
+    writeProfile();
+    write(path(QStringLiteral("Camera/a.mov")), "movie");
+    write(path(QStringLiteral("state/kelvo-mirror")), "a file where a folder should be");
+    const Ended ended = once();
+    EXPECT_EQ(ended.code, 0) << ended.output.constData();
+    EXPECT_EQ(contents(path(QStringLiteral("Incoming/a.mov"))), "movie");
+    EXPECT_EQ(object(ended).value(u"cause"), QStringLiteral("well"));
+    EXPECT_TRUE(
+        ended.errors.startsWith("kelvo-mirror: the record of passes does not hold this pass: "))
+        << ended.errors.constData();
+    EXPECT_EQ(ended.errors.count('\n'), 1);
+}
+
 TEST_F(OnceSystemTest, MissingSource_IsNamed) {
     writeProfile(QStringLiteral("prefPath1"), path(QStringLiteral("unplugged")));
     write(path(QStringLiteral("Incoming/kept.txt")), "mine");

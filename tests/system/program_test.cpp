@@ -1,4 +1,5 @@
 // The built program from outside, on a profile of its own and with real rsync between two folders.
+#include "adapters/system/pidfd.h"
 #include "support/program_profile.h"
 #include "support/running_program.h"
 #include "support/virtual_display.h"
@@ -22,6 +23,19 @@ protected:
     }
 
     Ended run(const QStringList& arguments) const { return runToEnd(cProgram, arguments); }
+
+    /// One more descriptor of the lock that the process holds, as a child has that is just being
+    /// started; empty where it may not be taken.
+    static UniqueFd lockOf(qint64 process) {
+        const UniqueFd handle = openProcess(static_cast<pid_t>(process));
+        const QDir open(QStringLiteral("/proc/%1/fd").arg(process));
+        for (const QFileInfo& entry : open.entryInfoList(QDir::Files | QDir::System)) {
+            if (entry.symLinkTarget().endsWith(u"kelvo-mirror.lock"))
+                return UniqueFd(static_cast<int>(
+                    ::syscall(SYS_pidfd_getfd, handle.get(), entry.fileName().toInt(), 0)));
+        }
+        return {};
+    }
 };
 
 TEST_F(ProgramTest, Version_IsPrinted) {
@@ -79,6 +93,19 @@ TEST_F(ProgramTest, SecondCopy_EndsWithNothingWhileTheFirstRunsOn) {
     EXPECT_FALSE(output.contains("viewDidLoad()")) << output.constData();
     EXPECT_TRUE(first->isRunning());
     EXPECT_EQ(first->stop(), 0);
+}
+
+TEST_F(ProgramTest, StartAfterAnEnd_AlwaysWorks) {
+    std::vector<UniqueFd> held;
+    for (int turn = 1; turn <= 30; ++turn) {
+        const auto program = start({});
+        ASSERT_TRUE(program->waitForLine(QStringLiteral("Got version = "), 60))
+            << turn << ": " << program->transcript().toStdString();
+        held.push_back(lockOf(program->processId()));
+        ASSERT_EQ(program->stop(), 0) << turn << ": " << program->transcript().toStdString();
+    }
+    if (!held.front())
+        GTEST_SKIP() << "no descriptor of another process may be taken on this machine";
 }
 
 TEST_F(ProgramTest, LogFolderThatCannotBeWritten_IsSaidAndTheProgramRuns) {

@@ -1,3 +1,4 @@
+#include "support/contrast.h"
 #include "ui/widgets/icons.h"
 
 #include <QImage>
@@ -38,20 +39,6 @@ int inkedPixels(const QImage& mask) {
             inked += qAlpha(mask.pixel(x, y)) > 127 ? 1 : 0;
     }
     return inked;
-}
-
-double luminance(const QColor& color) {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b) {
-    const double first = luminance(a) + 0.05;
-    const double second = luminance(b) + 0.05;
-    return std::max(first, second) / std::min(first, second);
 }
 
 /// The colour of a pixel as it appears over `ground`.

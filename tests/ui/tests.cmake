@@ -13,6 +13,7 @@ kelvo_tests(ui WIDGETS
     ui/day_chart_test.cpp
     ui/icons_test.cpp
     ui/main_window_test.cpp
+    ui/muted_hints_test.cpp
     ui/path_control_view_test.cpp
     ui/settings_places_test.cpp
     ui/settings_tab_test.cpp

@@ -74,11 +74,12 @@ TEST_F(ConnectionCheckTest, FillIn_ReplacesEveryPlaceholderEachTime) {
               QStringList{QStringLiteral("Inside String->fillInSshParams().......")});
 }
 
-TEST_F(ConnectionCheckTest, FillIn_GoesInItsOrder) {
+TEST_F(ConnectionCheckTest, FillIn_LeavesPlaceholdersInValuesAlone) {
     defaults.setObject(prefRemotePath, QStringLiteral("%@1/%@2/%@4"));
     defaults.setObject(prefRemoteUsername, QStringLiteral("%@2%@3"));
-    EXPECT_EQ(filledIn(QStringLiteral("%@3")),
-              u"Office-Mac-Mini.local%@3/Office-Mac-Mini.local/%@4");
+    files.home = QStringLiteral("/a%@2b%@sshgoodresponsestring");
+    EXPECT_EQ(filledIn(QStringLiteral("%@3 %@1 %@4")),
+              u"%@1/%@2/%@4 %@2%@3 /a%@2b%@sshgoodresponsestring/.ssh/id_kelvoRsync");
 }
 
 TEST_F(ConnectionCheckTest, FillIn_LeavesTheHostAsItIsStored) {

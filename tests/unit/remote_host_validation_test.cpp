@@ -93,8 +93,8 @@ TEST_F(RemoteHostValidationTest, Command_IsExact) {
 TEST_F(RemoteHostValidationTest, Command_QuotesBlanksAndTakesAnyTimeout) {
     EXPECT_EQ(whoamiCommand(0, QStringLiteral("/k"), QStringLiteral("a b@c d")),
               u"/usr/bin/ssh 2>&1  -o ConnectTimeout=0  -i /k \"a b@c d\" whoami");
-    EXPECT_EQ(whoamiCommand(-1, QStringLiteral("%@2"), QStringLiteral("t")),
-              u"/usr/bin/ssh 2>&1  -o ConnectTimeout=-1  -i t \"t\" whoami");
+    EXPECT_EQ(whoamiCommand(-1, QStringLiteral("/%@2/%@1"), QStringLiteral("%@1@t")),
+              u"/usr/bin/ssh 2>&1  -o ConnectTimeout=-1  -i /%@2/%@1 \"%@1@t\" whoami");
 }
 
 TEST_F(RemoteHostValidationTest, Command_KeepsOddTextsInOneWord) {

@@ -68,10 +68,16 @@ TEST_F(RsyncCommandTest, SourceWithLaterPlaceholders_IsFilledByTheLaterSteps) {
               u"[s-/d/-/k-2>&1 --timeout=5  -e 'ssh -i /k'---update/]");
 }
 
-TEST_F(RsyncCommandTest, DestinationWithSourcePlaceholder_KeepsIt) {
+TEST_F(RsyncCommandTest, PlaceholdersInDestinationAndKeyPath_Stay) {
     EXPECT_EQ(filledCommand(QStringLiteral("%@1>%@2"),
                             {QStringLiteral("/s"), QStringLiteral("/%@1"), std::nullopt}, u""),
               u"/s/>/%@1/");
+    EXPECT_EQ(filledCommand(QStringLiteral("%@1>%@2 %@3 %@98 %@99"),
+                            {QStringLiteral("/s"), QStringLiteral("/%@2%@3%@98%@99"),
+                             QStringLiteral("/%@1%@2%@3%@98%@99/k")},
+                            u"--update"),
+              u"/s/>/%@2%@3%@98%@99/ /%@1%@2%@3%@98%@99/k 2>&1 --timeout=5  "
+              u"-e 'ssh -i /%@1%@2%@3%@98%@99/k' --update");
 }
 
 TEST_F(RsyncCommandTest, EveryOccurrence_IsReplaced) {
@@ -140,7 +146,7 @@ TEST_F(RsyncCommandTest, OrdinaryTexts_HaveNoFault) {
     EXPECT_EQ(faultOf("u@h:Movies", "/Incoming"), u"");
     EXPECT_EQ(faultOf(" /Volumes/a:b \n", "\t~/Films - $5 %@1\n", "/a b/\"c'/k"), u"");
     EXPECT_EQ(faultOf("", ""), u"");
-    EXPECT_EQ(faultOf("s%@2%@3%@98%@99", "./-x:y"), u"");
+    EXPECT_EQ(faultOf("s%@2%@3%@98%@99", "./-x:y%@3%@98%@99", "/%@98%@99/k"), u"");
 }
 
 TEST_F(RsyncCommandTest, TextsThatLeadElsewhere_AreRefused) {
@@ -155,10 +161,6 @@ TEST_F(RsyncCommandTest, TextsThatLeadElsewhere_AreRefused) {
     for (const char* host : {"h:d", "u@h:/d", ":d", "rsync://h/d"})
         EXPECT_EQ(faultOf("/s", host), u"the destination would be read as the name of a host")
             << host;
-    for (const char* later : {"%@3", "%@98", "%@99"})
-        EXPECT_EQ(faultOf("/s", later),
-                  QString(u"the destination holds " + QString::fromUtf8(later) +
-                          u", which would be filled in"));
     EXPECT_EQ(faultOf("/s", "/d", "/home/a\nb/k"), u"the path of the key file holds a line break");
 }
 

@@ -57,6 +57,9 @@ TEST(MacShareCommandsTest, NothingIsReadAsTheShellsOwn) {
     EXPECT_EQ(commands.pickVolume(QStringLiteral("a \"$(listing)\""), odd),
               u"echo \"a \\\"\\$(listing)\\\"\" | awk ' $1 ~ /h'\\''\\/ {system(\"x\")} "
               u"\\/$(y)/ {print $'10'\" \"$'11'}' ");
+    EXPECT_EQ(commands.openRemoteFolder(
+                  {QStringLiteral("h"), QStringLiteral("%@2"), QStringLiteral("%@1")}),
+              u"open \"smb://%@2@h._smb._tcp.local/Macintosh%20HD/Users/%@2/%@1\"");
     EXPECT_EQ(commands.openLocalPath(QStringLiteral("./$(x)")), u"open \"./\\$(x)\"");
 }
 

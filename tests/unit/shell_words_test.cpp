@@ -114,14 +114,27 @@ TEST(ShellWordsTest, WordOfARemoteShellCommand_IsQuotedAsRsyncReadsIt) {
 
 TEST(ShellWordsTest, PieceOfACommand_StaysOneInQuotes) {
     const auto piece = [](const char* command, const char* value) {
-        return withPiece(QString::fromUtf8(command), u"%@98", QStringLiteral("-e 'a $b'"),
-                         QString::fromUtf8(value));
+        return withFillings(
+            QString::fromUtf8(command),
+            {{QStringLiteral("%@98"), QStringLiteral("-e 'a $b'"), QString::fromUtf8(value)}});
     };
     EXPECT_EQ(piece("x %@98", "$b"), QStringLiteral("x -e 'a $b'"));
     EXPECT_EQ(piece("x \"%@98\"", "$b"), QStringLiteral("x \"-e 'a \\$b'\""));
     EXPECT_EQ(piece("x '%@98'", "b"), QStringLiteral("x '-e '\\''a $b'\\'''"));
     EXPECT_EQ(piece("`x %@98`", "$b"), std::nullopt);
     EXPECT_EQ(piece("`x %@98`", "b"), QStringLiteral("`x -e 'a $b'`"));
+}
+
+TEST(ShellWordsTest, PlaceholderInAText_StaysThere) {
+    const auto both = [](const char* first, const char* second) {
+        return withFillings(QStringLiteral("x \"%@2\" %@1 '%@98' %@2"),
+                            {{QStringLiteral("%@1"), QString::fromUtf8(first)},
+                             {QStringLiteral("%@2"), QString::fromUtf8(second)},
+                             {QStringLiteral("%@98"), QStringLiteral("-e %@1"), QString()}});
+    };
+    EXPECT_EQ(both("a", "b"), QStringLiteral("x \"b\" a '-e %@1' b"));
+    EXPECT_EQ(both("/%@2/%@98", "%@1"), QStringLiteral("x \"%@1\" /%@2/%@98 '-e %@1' %@1"));
+    EXPECT_EQ(both("'%@", "2$"), QStringLiteral("x \"2\\$\" \\'%@ '-e %@1' 2\\$"));
 }
 
 TEST(ShellWordsTest, WhatIsNoWord_IsNamed) {

@@ -24,12 +24,18 @@ SqlitePassStore::~SqlitePassStore() {
         fObservers->gone = true;
         fObservers->observers.clear();
     }
+    (void)finish();
+}
+
+QString SqlitePassStore::finish() {
     {
         const std::lock_guard lock(fMutex);
         fStopping = true;
+        fPosted.notify_all();
     }
-    fPosted.notify_all();
-    fThread.join();
+    if (fThread.joinable())
+        fThread.join();
+    return fUnwritten.empty() ? QString() : fTrouble;
 }
 
 // -- any thread
@@ -97,10 +103,8 @@ Subscription SqlitePassStore::observe(std::function<void(const PassRecord&)> obs
 }
 
 void SqlitePassStore::post(Job job, bool question) {
-    {
-        const std::lock_guard lock(fMutex);
-        fJobs.emplace_back(std::move(job), question);
-    }
+    const std::lock_guard lock(fMutex);
+    fJobs.emplace_back(std::move(job), question);
     fPosted.notify_one();
 }
 

@@ -32,6 +32,10 @@ public:
     /// worst, when another program keeps the file locked.
     ~SqlitePassStore() override;
 
+    /// Does at once what the end of the store does: nothing that comes later is kept or answered.
+    /// Why some of what has been appended could not be written; empty when all of it was.
+    QString finish();
+
     void append(const PassRecord& record) override;
     void readAll(Records answer) override;
     void readArrivals(const ArrivalQuestion& question, Arrivals answer) override;

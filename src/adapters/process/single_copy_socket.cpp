@@ -104,9 +104,11 @@ class SingleCopySocket::Listener {
 public:
     Listener(UniqueFd lock, std::function<void()> show)
         : fLock(std::move(lock)), fShow(std::move(show)) {}
+    /// Let go of by hand: a child that was just being started may have the lock's descriptor too.
     ~Listener() {
         if (!fPath.empty())
             ::unlink(fPath.c_str());
+        (void)::flock(fLock.get(), LOCK_UN);
     }
     Listener(const Listener&) = delete;
     Listener& operator=(const Listener&) = delete;

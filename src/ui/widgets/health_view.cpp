@@ -2,6 +2,7 @@
 
 #include "ui/widgets/flow_layout.h"
 #include "ui/widgets/icons.h"
+#include "ui/widgets/muted_hints.h"
 #include "ui/widgets/remedy_title.h"
 #include "ui/widgets/trouble_color.h"
 
@@ -77,6 +78,7 @@ HealthView::HealthView(QWidget* parent)
     flow->addWidget(words);
     flow->addWidget(fButton);
     applyLook();
+    muteHints(*this);
 }
 
 void HealthView::showHealth(const Health& health) {

@@ -3,6 +3,7 @@
 #include "ports/path_control.h"
 #include "support/file_url.h"
 #include "ui/widgets/elided_label.h"
+#include "ui/widgets/muted_hints.h"
 
 #include <QAction>
 #include <QDir>
@@ -64,6 +65,7 @@ PathControlView::PathControlView(QWidget* parent)
     fHidden->setMenu(new QMenu(fHidden));
     fEmpty->setTextFormat(Qt::PlainText);
     fEmpty->setForegroundRole(QPalette::PlaceholderText);
+    muteHints(*this);
     rebuild();
 }
 

@@ -3,6 +3,7 @@
 #include "support/work_state.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/flow_layout.h"
+#include "ui/widgets/muted_hints.h"
 
 #include <QBasicTimer>
 #include <QProgressBar>
@@ -129,6 +130,7 @@ ProgressView::ProgressView(QWidget* parent)
     FlowLayout* files = addRow(*rows);
     files->addWidget(fFile);
     files->addWidget(fCount);
+    muteHints(*this);
     showWork({});
 }
 

@@ -4,6 +4,7 @@
 #include "support/plain_line.h"
 #include "ui/pass_words.h"
 #include "ui/widgets/elided_label.h"
+#include "ui/widgets/muted_hints.h"
 
 #include <QDateTime>
 #include <QEvent>
@@ -45,6 +46,7 @@ RecentArrivals::RecentArrivals(QWidget* parent) : QWidget(parent), fEmpty(new QL
     fEmpty->setWordWrap(true);
     fEmpty->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     fEmpty->setForegroundRole(QPalette::PlaceholderText);
+    muteHints(*this);
     rows->addWidget(fEmpty);
     keepRoom();
 }
