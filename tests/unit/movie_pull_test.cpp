@@ -23,12 +23,11 @@ bool same(const QByteArray& left, const QByteArray& right) {
 
 TEST(MoviePullTest, EachHarmlessOption_LeavesNothingOut) {
     constexpr auto cOptions = std::to_array<const char*>({
-        "archive",        "bwlimit",         "compress", "group",
-        "human-readable", "ignore-existing", "info",     "itemize-changes",
-        "links",          "out-format",      "owner",    "partial",
-        "partial-dir",    "perms",           "progress", "prune-empty-dirs",
-        "recursive",      "rsync-path",      "stats",    "timeout",
-        "times",          "update",          "verbose",
+        "archive",         "bwlimit",    "compress",        "group",    "human-readable",
+        "ignore-existing", "info",       "itemize-changes", "links",    "out-format",
+        "owner",           "partial",    "perms",           "progress", "prune-empty-dirs",
+        "recursive",       "rsync-path", "stats",           "timeout",  "times",
+        "update",          "verbose",
     });
     for (const char* option : cOptions) {
         const QString name = QStringLiteral("--") + QLatin1StringView(option);
@@ -38,6 +37,13 @@ TEST(MoviePullTest, EachHarmlessOption_LeavesNothingOut) {
         EXPECT_FALSE(takeAll(u"--x=" + name)) << option;
     }
     EXPECT_FALSE(takeAll(QStringLiteral("--")));
+}
+
+TEST(MoviePullTest, FolderForPartialFiles_MayBearTheNameOfOneWithMovies) {
+    EXPECT_TRUE(takeAll(QStringLiteral("--partial-dir=.kelvo-partial")));
+    EXPECT_TRUE(takeAll(QStringLiteral("--partial-dir=/var/tmp/films")));
+    EXPECT_FALSE(takeAll(QStringLiteral("--partial-dir=Films")));
+    EXPECT_FALSE(takeAll(QStringLiteral("--partial-dir")));
 }
 
 TEST(MoviePullTest, EachLetter_IsHarmlessOrNot) {

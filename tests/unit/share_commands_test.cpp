@@ -63,12 +63,6 @@ TEST(MacShareCommandsTest, NothingIsReadAsTheShellsOwn) {
     EXPECT_EQ(commands.openLocalPath(QStringLiteral("./$(x)")), u"open \"./\\$(x)\"");
 }
 
-TEST(MacShareCommandsTest, PlaceholdersInTheTexts_AreFilledByTheLaterSteps) {
-    EXPECT_EQ(MacShareCommands().openRemoteFolder(
-                  {QStringLiteral("%@3"), QStringLiteral("u%@2"), QStringLiteral("%@1/x")}),
-              u"open \"smb://u%@3@%@3._smb._tcp.local/Macintosh%20HD/Users/u%@3/u%@3/x\"");
-}
-
 TEST(MacShareCommandsTest, EmptyRemotePath_LeavesTheSlash) {
     const MacShareCommands commands;
     EXPECT_EQ(commands.openRemoteFolder({QStringLiteral("h"), QStringLiteral("ann"), {}}),
