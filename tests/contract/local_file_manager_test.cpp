@@ -150,10 +150,12 @@ TEST_F(LocalFileManagerTest, FilesChangedSince_LeaveOutTheOlderNeighbour) {
         return fManager.fileBeneath(fFolder.path().toLocal8Bit(), name)->changed;
     };
     put(at("old"), "x");
-    // The clock of the disk goes on by steps.
+    // The clock of the disk goes on by steps. A file that is renamed changes its folder last, as
+    // rsync does it.
     do {
         QFile::remove(at("new"));
-        put(at("new"), "x");
+        put(at("half"), "x");
+        QFile::rename(at("half"), at("new"));
     } while (changeOf("new") <= changeOf("old"));
     const auto found = fManager.filesChangedSince(fFolder.path().toLocal8Bit(), changeOf("new"),
                                                   [](QByteArrayView) { return false; });
