@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 namespace kelvo {
 namespace {
 
@@ -20,6 +23,8 @@ protected:
         write(path(QStringLiteral("Movies/one.mov")), "movie");
         write(path(QStringLiteral("Incoming/kept.txt")), "mine");
         write(path(QStringLiteral("home/.ssh/id_kelvoRsync")), "no key");
+        // What changes 20 ms before a pass counts as its arrival.
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
     }
 
     /// One pass with `rsyncTemplate`; the login prints `says` before rsync speaks, the rsync over
