@@ -90,7 +90,7 @@ def bombs(healthy):
     binary = plistlib.dumps(healthy, fmt=plistlib.FMT_BINARY)
     xml = plistlib.dumps(healthy)
     head = b'<?xml version="1.0"?><plist version="1.0">'
-    made = {f"{kind} cut at {at}": text[:at] for kind, text in (("binary", binary), ("xml", xml))
+    made = {f"{kind} cut at {at}": text[:at] for kind, text in (("binary", binary), ("xml", xml.rstrip()))
             for at in range(len(text))}
     made["nested xml"] = head + b"<array>" * 200000
     made["nested and closed xml"] = head + b"<array>" * 50000 + b"</array>" * 50000 + b"</plist>"
