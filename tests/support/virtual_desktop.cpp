@@ -4,6 +4,9 @@
 #include <QFile>
 #include <QStandardPaths>
 
+#include <chrono>
+#include <thread>
+
 namespace kelvo {
 namespace {
 
@@ -36,9 +39,13 @@ bool VirtualDesktop::start() {
     environment.insert(QStringLiteral("DISPLAY"), fName);
     fManager.setProcessEnvironment(environment);
     fManager.start(QStringLiteral("openbox"), QStringList());
-    return fManager.waitForStarted(cPatience) && waitUntil([this] {
-               return !tool("xdotool", {QStringLiteral("getdisplaygeometry")}).isEmpty();
-           });
+    const bool manages =
+        fManager.waitForStarted(cPatience) && waitUntil([this] {
+            return !tool("xdotool", {QStringLiteral("get_num_desktops")}).isEmpty();
+        });
+    // A window that comes while openbox begins may stay unseen, and nothing tells when it is ready.
+    std::this_thread::sleep_for(std::chrono::milliseconds(600));
+    return manages;
 }
 
 QString VirtualDesktop::tool(const char* program, const QStringList& arguments) const {
