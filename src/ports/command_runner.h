@@ -29,7 +29,8 @@ struct OutputBounds {
 };
 
 /// For a command of which some lines are expected.
-inline constexpr OutputBounds cShortAnswer{.kept = qsizetype{64} * 1024, .most = 1024 * 1024};
+inline constexpr OutputBounds cShortAnswer{.kept = qsizetype{64} * 1024,
+                                           .most = qint64{1024} * 1024};
 
 struct Command {
     QString text; ///< one complete command line, passed to the shell as it stands

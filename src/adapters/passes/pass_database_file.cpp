@@ -61,7 +61,7 @@ PassDatabase::Outcome PassDatabase::readLayout() {
     int application = 0;
     int tables = 0;
     bool hasPasses = false;
-    const Outcome outcome = run(PassStatement::WhatLiesThere, {}, [&](const QSqlQuery& row) {
+    Outcome outcome = run(PassStatement::WhatLiesThere, {}, [&](const QSqlQuery& row) {
         application = row.value(0).toInt();
         fLayout = row.value(1).toInt();
         tables = row.value(2).toInt();
