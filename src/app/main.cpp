@@ -4,9 +4,11 @@
 #include "app/commands/once.h"
 #include "app/commands/passes.h"
 #include "app/commands/settings_commands.h"
+#include "app/language.h"
 #include "app/program.h"
 
 #include <QApplication>
+#include <QLocale>
 
 #include <fcntl.h>
 #ifdef __GLIBC__
@@ -120,6 +122,7 @@ int main(int argc, char** argv) {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
+    QLocale::setDefault(QLocale::c()); // Lines are the same everywhere.
     const kelvo::CommandLine commandLine = kelvo::parseCommandLine(arguments);
 
     if (const QString missing = missingFiles(); !missing.isEmpty() && worksOn(commandLine.kind))
@@ -157,5 +160,6 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName(QStringLiteral("Kelvo Mirror"));
     QApplication::setDesktopFileName(QStringLiteral("org.kelvo.KelvoMirror"));
     QApplication::setQuitOnLastWindowClosed(false);
+    kelvo::speakTheirLanguage(application);
     return kelvo::runProgram(kelvo::FrontKind::Window);
 }

@@ -66,7 +66,7 @@ constexpr Wire cOnceButtons[] = {
 };
 
 TabViewItem item(const MainWindow::Tab& tab) {
-    return {tab.label, tab.identifier};
+    return {tab.name, tab.identifier}; // It is printed.
 }
 
 void showAbout(MainWindow& window) {

@@ -2,6 +2,7 @@
 
 #include "support/plain_line.h"
 #include "ui/pass_words.h"
+#include "ui/words.h"
 
 #include <QLocale>
 #include <QStringList>
@@ -14,7 +15,7 @@ namespace {
 constexpr std::size_t cMostListed = 1000; // files in a report
 
 QString moviesText(qint64 movies) {
-    return QString::number(movies) + (movies == 1 ? u" movie" : u" movies");
+    return Words::counted("%Ln movie", QT_TRANSLATE_N_NOOP("Words", "%Ln movies"), movies);
 }
 
 /// UTF-8 as it is, any other byte as "\xff".
@@ -42,7 +43,7 @@ QString decoded(const QByteArray& bytes) {
 
 QString withSize(const QString& files, const Transfer& transfer) {
     const QString size = sizeText(transfer);
-    return size.isEmpty() ? files : QString(files + u", " + size);
+    return size.isEmpty() ? files : Words::listed({files, size});
 }
 
 /// ssh ends its lines as a terminal in raw mode wants them.
@@ -52,35 +53,35 @@ QString shownOutput(QString text) {
 
 QString statusText(const CommandRecord& command, PassCause cause) {
     if (command.exitStatus)
-        return u"exit status " + QString::number(*command.exitStatus);
-    return cause == PassCause::Cancelled ? QStringLiteral("ended when the pass was cancelled")
-                                         : QStringLiteral("given up when the program ended");
+        return Words::tr("exit status %1").arg(*command.exitStatus);
+    return cause == PassCause::Cancelled ? Words::tr("ended when the pass was cancelled")
+                                         : Words::tr("given up when the program ended");
 }
 
 QString sourceText(const Transfer& transfer) {
     switch (transfer.source) {
     case TransferSource::Statistics:
-        return QStringLiteral("by rsync's own figures");
+        return Words::tr("by rsync's own figures");
     case TransferSource::Lines:
-        return QStringLiteral("counted from its lines");
+        return Words::tr("counted from its lines");
     case TransferSource::Unknown:
         break;
     }
-    return QStringLiteral("the command did not say");
+    return Words::tr("the command did not say");
 }
 
 QString commandReport(const CommandRecord& command, PassCause cause) {
     QString report = command.role == CommandRole::AfterArrivals
-                         ? QStringLiteral("Run after arrivals:\n")
+                         ? QString(Words::tr("Run after arrivals:") + u'\n')
                          : QString();
-    report += u"$ " + withVisibleControls(command.command) + u"\n(" + statusText(command, cause) +
-              u", " + secondsText(command.seconds);
+    QStringList facts{statusText(command, cause), secondsText(command.seconds)};
     if (command.role == CommandRole::Pull)
-        report += u", " + withSize(filesText(command.transfer), command.transfer) + u", " +
-                  sourceText(command.transfer);
-    report += u")\n" + shownOutput(command.text.head);
+        facts << withSize(filesText(command.transfer), command.transfer)
+              << sourceText(command.transfer);
+    report += u"$ " + withVisibleControls(command.command) + u"\n(" + Words::listed(facts) +
+              u")\n" + shownOutput(command.text.head);
     if (command.text.leftOut > 0)
-        report += u"\n… " + QString::number(command.text.leftOut) + u" bytes left out …\n" +
+        report += u'\n' + Words::tr("… %L1 bytes left out …").arg(command.text.leftOut) + u'\n' +
                   shownOutput(command.text.tail);
     return report.endsWith(u'\n') ? report : QString(report + u'\n');
 }
@@ -88,11 +89,15 @@ QString commandReport(const CommandRecord& command, PassCause cause) {
 QString arrivalsReport(const std::vector<Arrival>& arrivals) {
     if (arrivals.empty())
         return {};
-    QString report = QStringLiteral("\nArrived:\n");
+    QString report = u'\n' + Words::tr("Arrived:") + u'\n';
     for (const Arrival& arrival : std::span(arrivals).first(std::min(arrivals.size(), cMostListed)))
-        report += u"  " + arrivedName(arrival.path, {}) + u", " + bytesText(arrival.size) + u'\n';
+        report +=
+            u"  " + Words::listed({arrivedName(arrival.path, {}), bytesText(arrival.size)}) + u'\n';
     if (arrivals.size() > cMostListed)
-        report += u"  … and " + QString::number(arrivals.size() - cMostListed) + u" more\n";
+        report += u"  " +
+                  Words::counted("… and %Ln more", QT_TRANSLATE_N_NOOP("Words", "… and %Ln more"),
+                                 static_cast<qint64>(arrivals.size() - cMostListed)) +
+                  u'\n';
     return report;
 }
 
@@ -117,13 +122,14 @@ QString beganText(const PassRecord& pass) {
 }
 
 QString passReport(const PassRecord& pass) {
-    const CauseWords words = wordsFor(pass.cause);
+    const QString nextStep = nextStepFor(pass.cause);
     QString report = beganText(pass) + u" – " + withVisibleControls(sentenceFor(pass)) + u'\n';
-    if (!words.nextStep.isEmpty())
-        report += u"Next step: " + words.nextStep + u'\n';
-    report += (pass.kind == PassKind::Remote ? QStringLiteral("Remote pass, ")
-                                             : QStringLiteral("Plain pass, ")) +
-              withSize(filesText(pass), pass.transfer) + u", " + secondsText(pass.seconds) + u'\n';
+    if (!nextStep.isEmpty())
+        report += Words::tr("Next step: %1").arg(nextStep) + u'\n';
+    report += Words::listed({pass.kind == PassKind::Remote ? Words::tr("Remote pass")
+                                                           : Words::tr("Plain pass"),
+                             withSize(filesText(pass), pass.transfer), secondsText(pass.seconds)}) +
+              u'\n';
     report += arrivalsReport(pass.arrivals);
     for (const CommandRecord& command : pass.commands)
         report += u'\n' + commandReport(command, pass.cause);
@@ -137,7 +143,7 @@ QString passesAsCsv(std::span<const PassRecord> records) {
         lines.append(QStringList{pass.began.toString(Qt::ISODate),
                                  pass.kind == PassKind::Remote ? QStringLiteral("remote")
                                                                : QStringLiteral("plain"),
-                                 words.name.toString(), cell(words.sentence),
+                                 words.name.toString(), cell(words.sentence.toString()),
                                  numberCell(pass.transfer.files), numberCell(pass.transfer.bytes),
                                  QString::number(pass.seconds, 'f', 3), cell(pass.lastLine)}
                          .join(u','));
@@ -152,8 +158,8 @@ QString timeText(const QDateTime& moment) {
 }
 
 QString foldedText(qint64 passes, const QDateTime& first, const QDateTime& last) {
-    return QString::number(passes) + u" passes, nothing new, " + timeText(first) + u" to " +
-           timeText(last);
+    constexpr const char* cText = QT_TRANSLATE_N_NOOP("Words", "%Ln passes, nothing new, %1 to %2");
+    return Words::counted(cText, cText, passes).arg(timeText(first), timeText(last));
 }
 
 bool isRunning(const WorkState& work) {
@@ -162,14 +168,14 @@ bool isRunning(const WorkState& work) {
 }
 
 QString runningText(const WorkState& work) {
-    QStringList parts{work.step.isEmpty() ? QStringLiteral("Running") : work.step};
+    QStringList parts{work.step.isEmpty() ? Words::tr("Running") : work.step};
     if (!work.count.isEmpty())
         parts.append(work.count);
     if (work.share)
-        parts.append(QString::number(static_cast<int>(*work.share * 100)) + u" %");
+        parts.append(Words::percent(*work.share));
     if (work.phase == WorkPhase::Cancelling)
-        parts.append(QStringLiteral("being cancelled"));
-    return parts.join(QStringLiteral(", "));
+        parts.append(Words::tr("being cancelled"));
+    return Words::listed(parts);
 }
 
 QString runningReport(const WorkState& work) {
@@ -182,10 +188,11 @@ QString runningReport(const WorkState& work) {
 }
 
 QString bytesText(qint64 bytes) {
-    const QLocale locale = QLocale::c();
+    const QLocale locale;
     const QString text = locale.formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
-    return text.indexOf(u'.') < 3 ? text
-                                  : locale.formattedDataSize(bytes, 0, QLocale::DataSizeSIFormat);
+    return text.indexOf(locale.decimalPoint()) < 3
+               ? text
+               : locale.formattedDataSize(bytes, 0, QLocale::DataSizeSIFormat);
 }
 
 QString arrivedName(const QByteArray& path, const QString& folder) {
@@ -197,16 +204,16 @@ QString arrivedName(const QByteArray& path, const QString& folder) {
 
 QString dayText(QDate day, QDate today) {
     if (day == today)
-        return QStringLiteral("Today");
-    return day.addDays(1) == today ? QStringLiteral("Yesterday")
+        return Words::tr("Today");
+    return day.addDays(1) == today ? Words::tr("Yesterday")
                                    : QLocale().toString(day, QLocale::LongFormat);
 }
 
 QString dayReport(const DayOfPasses& day) {
     const QString came = day.files == 0
-                             ? QStringLiteral("nothing new")
-                             : QString(bytesText(day.bytes) + u", " + moviesText(day.files));
-    return day.trouble ? QString(came + u"; a pass was in trouble") : came;
+                             ? Words::tr("nothing new")
+                             : Words::listed({bytesText(day.bytes), moviesText(day.files)});
+    return day.trouble ? Words::tr("%1; a pass was in trouble").arg(came) : came;
 }
 
 QString totalText(std::span<const DayOfPasses> all, int days) {
@@ -215,7 +222,8 @@ QString totalText(std::span<const DayOfPasses> all, int days) {
         sum.files += day.files;
         sum.bytes += day.bytes;
     }
-    return dayReport(sum) + u" in " + QString::number(days) + u" days";
+    constexpr const char* cText = QT_TRANSLATE_N_NOOP("Words", "%1 in %Ln days");
+    return Words::counted(cText, cText, days).arg(dayReport(sum));
 }
 
 } // namespace kelvo

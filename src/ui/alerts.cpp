@@ -5,6 +5,7 @@
 #include "ports/dispatch_queue.h"
 #include "support/fatal.h"
 #include "support/text.h"
+#include "ui/words.h"
 
 #include <utility>
 
@@ -41,7 +42,7 @@ bool Alerts::showChoices(const QString& message, const QString& text) {
     const Alert alert{message,
                       text,
                       AlertStyle::Informational,
-                      {QStringLiteral("Open in Finder"), QStringLiteral("Show Enclosing")},
+                      {Words::tr("Open in Finder"), Words::tr("Show Enclosing")},
                       false};
     return fPresenter.runModal(alert) == cAlertFirstButtonReturn;
 }
@@ -52,7 +53,7 @@ std::optional<Alert> Alerts::showProblemWithBonjourNew(const QString& message,
     return Alert{message,
                  text,
                  AlertStyle::Critical,
-                 {QStringLiteral("Retry Again..."), QStringLiteral("Stop")},
+                 {Words::tr("Retry Again..."), Words::tr("Stop")},
                  true};
 }
 

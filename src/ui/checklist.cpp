@@ -7,6 +7,7 @@
 #include "settings/preference_keys.h"
 #include "support/text.h"
 #include "ui/pass_words.h"
+#include "ui/words.h"
 
 #include <utility>
 
@@ -20,8 +21,8 @@ QString text(const UserDefaults& defaults, QStringView key) {
 QString whyNotAccepted(std::optional<PassCause> lastCause) {
     if (lastCause && (wordsFor(*lastCause).group == CauseGroup::HostKey ||
                       lastCause == PassCause::KeyRefused || lastCause == PassCause::WrongUser))
-        return wordsFor(*lastCause).sentence.toString();
-    return QStringLiteral("The Mac has not accepted the program's key yet.");
+        return sentenceFor(*lastCause);
+    return Words::tr("The Mac has not accepted the program's key yet.");
 }
 
 } // namespace
@@ -33,30 +34,30 @@ std::vector<ChecklistLine> checklist(const ChecklistFacts& facts) {
             lines.push_back({words, remedy});
     };
     if (facts.remote) {
-        need(facts.hostChosen, QStringLiteral("No Mac is chosen yet."), Remedy::ShowRemoteTab);
-        need(facts.userSet, QStringLiteral("The user name on the Mac is missing."),
+        need(facts.hostChosen, Words::tr("No Mac is chosen yet."), Remedy::ShowRemoteTab);
+        need(facts.userSet, Words::tr("The user name on the Mac is missing."),
              Remedy::ShowRemoteTab);
-        need(facts.key != KeyState::NoKey,
-             QStringLiteral("The program has no ssh key of its own yet."), Remedy::ShowRemoteTab);
+        need(facts.key != KeyState::NoKey, Words::tr("The program has no ssh key of its own yet."),
+             Remedy::ShowRemoteTab);
         // A Mac that was not reached has said nothing of the key.
         const bool reached =
             !facts.lastCause || wordsFor(*facts.lastCause).group != CauseGroup::Host;
         need(facts.key != KeyState::NotAccepted || !reached, whyNotAccepted(facts.lastCause),
              Remedy::ShowRemoteTab);
-        need(facts.sshThere, QStringLiteral("ssh is not installed on this machine."),
+        need(facts.sshThere, Words::tr("ssh is not installed on this machine."),
              Remedy::CopyInstallCommand);
     } else {
-        need(facts.sourceChosen, QStringLiteral("No source folder is chosen yet."),
+        need(facts.sourceChosen, Words::tr("No source folder is chosen yet."),
              Remedy::ChooseSource);
     }
     if (!facts.destinationChosen)
         lines.push_back(
-            {QStringLiteral("No destination folder is chosen yet."), Remedy::ChooseDestination});
+            {Words::tr("No destination folder is chosen yet."), Remedy::ChooseDestination});
     else
         need(facts.destinationWritable,
-             QStringLiteral("The destination folder is missing or cannot be written."),
+             Words::tr("The destination folder is missing or cannot be written."),
              Remedy::ChooseDestination);
-    need(facts.rsyncThere, QStringLiteral("rsync is not installed on this machine."),
+    need(facts.rsyncThere, Words::tr("rsync is not installed on this machine."),
          Remedy::CopyInstallCommand);
     return lines;
 }

@@ -1,17 +1,19 @@
 #include "ui/close_policy.h"
 
+#include "ui/words.h"
+
 namespace kelvo {
 
 std::optional<Alert> ClosePolicy::noteBeforeClosing(bool trayReachable) {
     if (trayReachable || fQuitting || fSaid)
         return std::nullopt;
     fSaid = true;
-    return Alert{QStringLiteral("Kelvo Mirror keeps running"),
-                 QStringLiteral("There is no tray icon to bring the window back with. To see the "
-                                "window again, start Kelvo Mirror once more. To end the program, "
-                                "choose Quit from the File menu instead."),
+    return Alert{Words::tr("Kelvo Mirror keeps running"),
+                 Words::tr("There is no tray icon to bring the window back with. To see the "
+                           "window again, start Kelvo Mirror once more. To end the program, "
+                           "choose Quit from the File menu instead."),
                  AlertStyle::Informational,
-                 {QStringLiteral("Close Window"), QStringLiteral("Keep Open")},
+                 {Words::tr("Close Window"), Words::tr("Keep Open")},
                  false};
 }
 
@@ -31,13 +33,13 @@ std::optional<Alert> ClosePolicy::questionBeforeQuitting(const WorkState& work,
         return std::nullopt;
     QString what = work.file;
     if (work.share)
-        what += QStringLiteral(", %1 %").arg(wholePercent(*work.share));
-    return Alert{QStringLiteral("Quit while movies are being copied?"),
-                 QStringLiteral("The pass that runs will be ended: %1. The next start goes on from "
-                                "there.")
+        what = Words::listed({what, Words::percent(*work.share)});
+    return Alert{Words::tr("Quit while movies are being copied?"),
+                 Words::tr("The pass that runs will be ended: %1. The next start goes on from "
+                           "there.")
                      .arg(what),
                  AlertStyle::Informational,
-                 {QStringLiteral("Quit"), QStringLiteral("Keep Running")},
+                 {Words::tr("Quit"), Words::tr("Keep Running")},
                  false};
 }
 

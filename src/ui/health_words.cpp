@@ -1,9 +1,10 @@
 #include "ui/health_words.h"
 
 #include "support/plain_line.h"
+#include "ui/activity_texts.h"
 #include "ui/checklist.h"
 #include "ui/pass_words.h"
-#include "ui/work_words.h"
+#include "ui/words.h"
 
 #include <QLocale>
 
@@ -13,56 +14,41 @@ namespace {
 QString sinceText(const QDateTime& since, const QDateTime& now) {
     const QDateTime local = since.toLocalTime();
     return local.date() == now.toLocalTime().date()
-               ? local.toString(QStringLiteral("HH:mm"))
+               ? timeText(since)
                : QLocale().toString(local, QLocale::ShortFormat);
-}
-
-/// The cause's sentence with `since` at the end of what it says first.
-QString sinceThen(QStringView sentence, const QString& since) {
-    for (const QStringView end : {u":", u", which"}) {
-        if (const qsizetype place = sentence.indexOf(end); place >= 0)
-            return sentence.left(place) + u' ' + since + sentence.mid(place);
-    }
-    const QStringView open = sentence.endsWith(u'.') ? sentence.chopped(1) : sentence;
-    return open + u' ' + since + u'.';
 }
 
 /// The last line tells more than the next step where the cause alone says too little.
 QString secondSentence(const PassRecord& pass) {
-    if (!pass.lastLine.isEmpty() && pass.cause == PassCause::Unknown)
-        return QStringLiteral("The last line was: %1").arg(oneLine(pass.lastLine));
-    if (!pass.lastLine.isEmpty() && pass.cause == PassCause::SettingsRefused)
-        return QStringLiteral("The reason: %1.").arg(oneLine(pass.lastLine));
-    return wordsFor(pass.cause).nextStep.toString();
+    const QString reason = reasonFor(pass.cause, oneLine(pass.lastLine));
+    return reason.isEmpty() ? nextStepFor(pass.cause) : reason;
 }
 
 void describeRecord(HealthWords& words, const HealthFacts& facts) {
     const Standing& standing = facts.standing;
     if (standing.lastSuccess)
         words.health.lastSuccess =
-            QStringLiteral("Last success: %1, %2")
+            Words::tr("Last success: %1, %2")
                 .arg(agoText(static_cast<double>(standing.lastSuccess->began.secsTo(facts.now))),
                      filesText(*standing.lastSuccess));
     if (!standing.last) {
-        words.health.text = QStringLiteral("No pass has ended yet. How it went will stand here.");
+        words.health.text = Words::tr("No pass has ended yet. How it went will stand here.");
         return;
     }
     const PassRecord& last = *standing.last;
     if (!isTrouble(last.cause)) {
         words.health.sign = HealthSign::Well;
-        words.health.text = wordsFor(PassCause::Well).sentence.toString();
+        words.health.text = sentenceFor(PassCause::Well);
         return;
     }
     const qint64 passes = std::max<qint64>(standing.passesInTrouble, 1);
     const QString since =
-        (passes == 1 ? QStringLiteral("since %1 (%2 pass)")
-                     : QStringLiteral("since %1 (%2 passes)"))
+        Words::counted("%1 (%Ln pass)", QT_TRANSLATE_N_NOOP("Words", "%1 (%Ln passes)"), passes)
             .arg(sinceText(standing.troubleSince.isValid() ? standing.troubleSince : last.began,
-                           facts.now))
-            .arg(passes);
-    words.matter = sinceThen(wordsFor(last.cause).sentence, since);
+                           facts.now));
+    words.matter = sentenceFor(last.cause, since);
     words.health.sign = HealthSign::Trouble;
-    words.health.text = words.matter + u' ' + secondSentence(last);
+    words.health.text = Words::tr("%1 %2", "two sentences").arg(words.matter, secondSentence(last));
     words.health.remedy = remedyFor(last);
 }
 
@@ -80,24 +66,26 @@ HealthWords healthWords(const HealthFacts& facts) {
         words.health.remedy = remedy;
     };
     if (!facts.settings.fault.isEmpty())
-        trouble(oneLine(facts.settings.fault) + u'.', Remedy::OpenLog);
+        trouble(Words::tr("%1.", "a sentence without its full stop")
+                    .arg(oneLine(Words::shown(facts.settings.fault))),
+                Remedy::OpenLog);
     for (const ChecklistLine& line : facts.missing) {
         if (line.remedy == Remedy::CopyInstallCommand)
             trouble(line.text, line.remedy);
     }
     if (!facts.standing.fault.isEmpty())
-        trouble(QStringLiteral("The record of passes cannot be kept: %1")
-                    .arg(oneLine(facts.standing.fault)),
+        trouble(Words::tr("The record of passes cannot be kept: %1")
+                    .arg(oneLine(Words::shown(facts.standing.fault))),
                 Remedy::OpenLog);
     if (!facts.settings.aside.isEmpty())
-        words.remarks.append(QStringLiteral("The settings file was damaged. It is kept as %1")
+        words.remarks.append(Words::tr("The settings file was damaged. It is kept as %1")
                                  .arg(oneLine(facts.settings.aside)));
     if (!facts.standing.aside.isEmpty())
-        words.remarks.append(QStringLiteral("The record of passes was damaged. It is kept as %1")
+        words.remarks.append(Words::tr("The record of passes was damaged. It is kept as %1")
                                  .arg(oneLine(facts.standing.aside)));
     if (facts.standing.replaced)
-        words.remarks.append(QStringLiteral("The record of passes was removed or replaced. The "
-                                            "passes since the start were written again"));
+        words.remarks.append(Words::tr("The record of passes was removed or replaced. The "
+                                       "passes since the start were written again"));
     return words;
 }
 

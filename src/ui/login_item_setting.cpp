@@ -1,6 +1,7 @@
 #include "ui/login_item_setting.h"
 
 #include "ports/login_item.h"
+#include "ui/words.h"
 
 namespace kelvo {
 namespace {
@@ -10,11 +11,11 @@ QString troubleOf(const LoginItemOutcome& outcome) {
     case LoginItemOutcome::Done:
         break;
     case LoginItemOutcome::SomebodyElses:
-        return QStringLiteral("%1 was not written by Kelvo Mirror and is left alone. Move it away "
-                              "to switch this on here.")
+        return Words::tr("%1 was not written by Kelvo Mirror and is left alone. Move it away "
+                         "to switch this on here.")
             .arg(outcome.path);
     case LoginItemOutcome::Failed:
-        return QStringLiteral("%1 cannot be changed: %2").arg(outcome.path, outcome.reason);
+        return Words::tr("%1 cannot be changed: %2").arg(outcome.path, outcome.reason);
     }
     return {};
 }

@@ -5,6 +5,7 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "ui/pass_words.h"
+#include "ui/words.h"
 #include "ui/work_words.h"
 
 #include <utility>
@@ -22,19 +23,17 @@ bool mayMendItself(PassCause cause) {
 // The words are the program's own: nothing that a host said is shown on the desktop.
 Notice turnNotice(const PassRecord& pass) {
     if (!isTrouble(pass.cause))
-        return {.title = QStringLiteral("Kelvo Mirror is well again"),
-                .text =
-                    QStringLiteral("The last pass went well: %1.").arg(filesText(pass.transfer))};
-    const CauseWords words = wordsFor(pass.cause);
-    return {.title = QStringLiteral("Kelvo Mirror is in trouble"),
-            .text = QString(words.sentence + QLatin1String(" ") + words.nextStep),
+        return {.title = Words::tr("Kelvo Mirror is well again"),
+                .text = Words::tr("The last pass went well: %1.").arg(filesText(pass.transfer))};
+    return {.title = Words::tr("Kelvo Mirror is in trouble"),
+            .text = Words::tr("%1 %2", "two sentences")
+                        .arg(sentenceFor(pass.cause), nextStepFor(pass.cause)),
             .urgent = !mayMendItself(pass.cause)};
 }
 
 Notice arrivalsNotice(const std::vector<Arrival>& arrivals) {
-    const auto count = arrivals.size();
-    return {.title = count == 1 ? QStringLiteral("1 new movie")
-                                : QStringLiteral("%1 new movies").arg(count),
+    return {.title = Words::counted("%Ln new movie", QT_TRANSLATE_N_NOOP("Words", "%Ln new movies"),
+                                    static_cast<qint64>(arrivals.size())),
             .text = arrivalsText(arrivals)};
 }
 

@@ -3,6 +3,7 @@
 
 #include "support/pass_record.h"
 
+#include <QLatin1StringView>
 #include <QString>
 
 namespace kelvo {
@@ -23,16 +24,29 @@ enum class CauseGroup {
     Unknown
 };
 
+/// In English, for scripts and files, whatever the language of the window.
 struct CauseWords {
-    QStringView name;     ///< for scripts; never changes
-    QStringView sentence; ///< what is the matter
-    QStringView nextStep; ///< what to do; empty when all is well
+    QLatin1StringView name;     ///< never changes
+    QLatin1StringView sentence; ///< what is the matter
+    QLatin1StringView nextStep; ///< what to do; empty when all is well
     CauseGroup group;
 };
 
 CauseWords wordsFor(PassCause cause);
 
-/// The sentence, with the last line behind it where the cause alone says too little.
+/// What is the matter, for people.
+QString sentenceFor(PassCause cause);
+
+/// The same of a trouble, with `since` in it: "15:22 (6 passes)". Empty for a cause that is none.
+QString sentenceFor(PassCause cause, const QString& since);
+
+/// What to do, for people; empty when all is well.
+QString nextStepFor(PassCause cause);
+
+/// The last line of a pass as a sentence, where the cause alone says too little; else empty.
+QString reasonFor(PassCause cause, const QString& lastLine);
+
+/// What is the matter, with the reason behind it.
 QString sentenceFor(const PassRecord& pass);
 
 /// "3 files", "1 file", "nothing new"; "files unknown" when the commands did not say.

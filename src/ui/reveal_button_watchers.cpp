@@ -8,6 +8,7 @@
 #include "settings/preference_keys.h"
 #include "support/text.h"
 #include "ui/alerts.h"
+#include "ui/words.h"
 
 #include <utility>
 
@@ -38,8 +39,8 @@ void RevealButtonWatchers::clickedButton1() {
     if (!stored)
         return;
     const QString path = expandingTilde(*stored, fParts.files.homeDirectory());
-    if (fParts.alerts.showChoices(QStringLiteral("Reveal In Finder"),
-                                  QString(u"path:\n" + optionalText(path))))
+    if (fParts.alerts.showChoices(Words::tr("Reveal In Finder"),
+                                  Words::tr("path:\n%1").arg(optionalText(path))))
         fParts.workspace.revealInFinder(path);
     else
         fParts.workspace.activateFileViewerSelecting({path});

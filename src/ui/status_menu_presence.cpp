@@ -4,6 +4,7 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "ui/main_window_controller.h"
+#include "ui/words.h"
 
 #include <algorithm>
 #include <utility>
@@ -103,8 +104,7 @@ void StatusMenuPresence::refresh() {
     }
     const bool enabled = fDefaults.boolForKey(prefEnableScanning);
     if (std::exchange(fTitleIsStop, enabled) != enabled)
-        fMenu.setStartTitle(enabled ? QStringLiteral("Stop Syncing")
-                                    : QStringLiteral("Start Syncing"));
+        fMenu.setStartTitle(enabled ? Words::tr("Stop Syncing") : Words::tr("Start Syncing"));
     const StatusMenuState state =
         statusMenuState(enabled, fDefaults.boolForKey(prefIsScanning), fTrouble);
     if (std::exchange(fShown, state) != state)

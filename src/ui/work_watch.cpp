@@ -5,6 +5,7 @@
 #include "settings/preference_keys.h"
 #include "ui/health_words.h"
 #include "ui/pass_words.h"
+#include "ui/words.h"
 
 #include <algorithm>
 #include <utility>
@@ -24,13 +25,13 @@ constexpr double cJustAfter = 0.01;
 QString waitingText(WorkPhase phase) {
     switch (phase) {
     case WorkPhase::Off:
-        return QStringLiteral("Syncing is off");
+        return Words::tr("Syncing is off");
     case WorkPhase::Missing:
-        return QStringLiteral("Waiting for what is missing");
+        return Words::tr("Waiting for what is missing");
     case WorkPhase::Finishing:
-        return QStringLiteral("Finishing this pass…");
+        return Words::tr("Finishing this pass…");
     case WorkPhase::Cancelling:
-        return QStringLiteral("Cancelling this pass…");
+        return Words::tr("Cancelling this pass…");
     case WorkPhase::Running:
     case WorkPhase::Resting:
         break;
@@ -92,19 +93,23 @@ WorkState WorkWatch::state() {
     work.nextPass = waitingText(work.phase);
     work.health = std::move(words.health);
     work.remarks = std::move(words.remarks);
-    if (passes.empty())
+    HeadlineFacts headline;
+    if (passes.empty()) {
         fTimeLeft = {};
-    else
+    } else {
         describeProgress(work, passes.front(), fTimeLeft);
+        headline.step = passes.front().progress.step;
+        headline.kind = passes.front().kind;
+    }
     if (work.phase == WorkPhase::Resting && cycle.nextPass) {
         work.maySyncNow = true;
         if (isSeen())
-            work.nextPass = nextPassText(*cycle.nextPass);
+            work.nextPass = nextPassText(*(headline.nextPass = cycle.nextPass));
     }
     work.mayCancel = work.phase == WorkPhase::Running || work.phase == WorkPhase::Finishing;
-    if (work.phase == WorkPhase::Missing && !fMissing.empty())
-        words.matter = fMissing.front().text;
-    work.headline = headlineText(work, words.matter);
+    headline.matter = work.phase == WorkPhase::Missing && !fMissing.empty() ? fMissing.front().text
+                                                                            : words.matter;
+    work.headline = headlineText(work, headline);
     return work;
 }
 

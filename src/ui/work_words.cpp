@@ -2,6 +2,7 @@
 
 #include "passes/running_pass.h"
 #include "support/plain_line.h"
+#include "ui/words.h"
 
 #include <QLocale>
 
@@ -37,17 +38,17 @@ int nearestStep(double seconds) {
 
 QString timeText(int seconds) {
     if (seconds < cMinute)
-        return QStringLiteral("%1 s").arg(seconds);
+        return Words::tr("%L1 s").arg(seconds);
     const int minutes = seconds % cHour / cMinute;
     if (seconds < cHour)
-        return QStringLiteral("%1 min").arg(minutes);
+        return Words::tr("%L1 min").arg(minutes);
     if (minutes == 0)
-        return QStringLiteral("%1 h").arg(seconds / cHour);
-    return QStringLiteral("%1 h %2 min").arg(seconds / cHour).arg(minutes);
+        return Words::tr("%L1 h").arg(seconds / cHour);
+    return Words::tr("%L1 h %L2 min").arg(seconds / cHour).arg(minutes);
 }
 
 QString sizeOf(qint64 bytes) {
-    return QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
 }
 
 /// `bytes` in the unit in which `whole` is written, without the unit.
@@ -55,8 +56,8 @@ QString shareOf(qint64 bytes, qint64 whole) {
     double unit = 1;
     while (static_cast<double>(whole) / unit >= 1000)
         unit *= 1000;
-    return unit == 1 ? QString::number(bytes)
-                     : QString::number(static_cast<double>(bytes) / unit, 'f', 1);
+    return unit == 1 ? QLocale().toString(bytes)
+                     : QLocale().toString(static_cast<double>(bytes) / unit, 'f', 1);
 }
 
 constexpr int cCountedInSeconds = 2 * cMinute;
@@ -84,10 +85,28 @@ QString shortName(const Arrival& arrival) {
     return name.left(begin) + u'…' + name.mid(end);
 }
 
-QString withSmallBegin(QString text) {
-    if (!text.isEmpty())
-        text[0] = text[0].toLower();
-    return text;
+/// "23 s", beyond two minutes "4 min".
+QString untilText(double seconds) {
+    const int whole = wholeSeconds(seconds);
+    return whole <= cCountedInSeconds ? Words::tr("%L1 s").arg(whole)
+                                      : timeText(nearestMinute(whole) * cMinute);
+}
+
+QString syncingText(PassStep step, PassKind kind) {
+    switch (step) {
+    case PassStep::AskingTheMac:
+        return Words::tr("Syncing: asking the Mac");
+    case PassStep::Pull:
+        return kind == PassKind::Remote ? Words::tr("Syncing: first pull")
+                                        : Words::tr("Syncing: copying");
+    case PassStep::Movies:
+        return Words::tr("Syncing: movies");
+    case PassStep::AfterArrivals:
+        return Words::tr("Syncing: after arrivals");
+    case PassStep::Begun:
+        break;
+    }
+    return Words::tr("Syncing");
 }
 
 } // namespace
@@ -100,20 +119,19 @@ QString TimeLeftWords::text(std::optional<double> seconds) {
     const int step = nearestStep(std::max(*seconds, 0.0));
     if (!fShown || step < *fShown || *seconds > *fShown + stepWidth(*fShown))
         fShown = step;
-    return *fShown == 0 ? QStringLiteral("a few seconds")
-                        : QStringLiteral("about %1").arg(timeText(*fShown));
+    return *fShown == 0 ? Words::tr("a few seconds") : Words::tr("about %1").arg(timeText(*fShown));
 }
 
 QString stepText(PassStep step, PassKind kind) {
     switch (step) {
     case PassStep::AskingTheMac:
-        return QStringLiteral("Asking the Mac");
+        return Words::tr("Asking the Mac");
     case PassStep::Pull:
-        return kind == PassKind::Remote ? QStringLiteral("First pull") : QStringLiteral("Copying");
+        return kind == PassKind::Remote ? Words::tr("First pull") : Words::tr("Copying");
     case PassStep::Movies:
-        return QStringLiteral("Movies");
+        return Words::tr("Movies");
     case PassStep::AfterArrivals:
-        return QStringLiteral("After arrivals");
+        return Words::tr("After arrivals");
     case PassStep::Begun:
         break;
     }
@@ -125,27 +143,27 @@ QString countText(const PassProgress& progress) {
         return {};
     const qint64 done = *progress.filesDone;
     if (progress.filesKnown && *progress.filesKnown > 0)
-        return QStringLiteral("file %1 of %2")
+        return Words::tr("file %L1 of %L2")
             .arg(std::min(done + 1, *progress.filesKnown))
             .arg(*progress.filesKnown);
     if (done == 0)
         return {};
-    return done == 1 ? QStringLiteral("1 file") : QStringLiteral("%1 files").arg(done);
+    return Words::counted("%Ln file", QT_TRANSLATE_N_NOOP("Words", "%Ln files"), done);
 }
 
 QString amountText(const PassProgress& progress) {
     const qint64 done = progress.bytesDone.value_or(0);
     if (!progress.bytesKnown)
         return done > 0 ? sizeOf(done) : QString();
-    return QStringLiteral("%1 of %2")
+    return Words::tr("%1 of %2", "as in: 18.2 of 37.6 GB")
         .arg(shareOf(done, *progress.bytesKnown), sizeOf(*progress.bytesKnown));
 }
 
 QString speedText(const PassProgress& progress) {
     if (progress.bytesPerSecond.value_or(0) < 1)
         return {};
-    return QStringLiteral("%1/s").arg(
-        sizeOf(static_cast<qint64>(std::min(*progress.bytesPerSecond, 1e15))));
+    return Words::tr("%1/s", "as in: 92.0 MB/s")
+        .arg(sizeOf(static_cast<qint64>(std::min(*progress.bytesPerSecond, 1e15))));
 }
 
 void describeProgress(WorkState& work, const PassUnderWay& pass, TimeLeftWords& timeLeft) {
@@ -161,10 +179,7 @@ void describeProgress(WorkState& work, const PassUnderWay& pass, TimeLeftWords& 
 }
 
 QString nextPassText(double seconds) {
-    const int whole = wholeSeconds(seconds);
-    return QStringLiteral("Next pass in %1")
-        .arg(whole <= cCountedInSeconds ? QStringLiteral("%1 s").arg(whole)
-                                        : timeText(nearestMinute(whole) * cMinute));
+    return Words::tr("Next pass in %1").arg(untilText(seconds));
 }
 
 double nextPassHolds(double seconds) {
@@ -178,24 +193,23 @@ double nextPassHolds(double seconds) {
     return std::max(seconds - next, 0.0);
 }
 
-QString headlineText(const WorkState& work, const QString& matter) {
+QString headlineText(const WorkState& work, const HeadlineFacts& facts) {
     if (work.phase == WorkPhase::Cancelling || work.phase == WorkPhase::Finishing)
         return work.nextPass;
     if (work.phase == WorkPhase::Running && work.share)
         return work.timeLeft.isEmpty()
-                   ? QStringLiteral("Syncing: %1").arg(shareText(*work.share))
-                   : QStringLiteral("Syncing: %1, %2").arg(shareText(*work.share), work.timeLeft);
+                   ? Words::tr("Syncing: %1").arg(Words::percent(*work.share))
+                   : Words::tr("Syncing: %1, %2").arg(Words::percent(*work.share), work.timeLeft);
     // A pass that only asks the Mac again tells less than why it has to.
-    if (!matter.isEmpty())
-        return matter;
+    if (!facts.matter.isEmpty())
+        return facts.matter;
     if (work.phase == WorkPhase::Running)
-        return work.step.isEmpty() ? QStringLiteral("Syncing")
-                                   : QStringLiteral("Syncing: %1").arg(withSmallBegin(work.step));
+        return syncingText(facts.step, facts.kind);
     if (work.phase != WorkPhase::Resting || work.health.sign != HealthSign::Well)
         return work.nextPass;
-    return work.nextPass.isEmpty()
-               ? QStringLiteral("All is well")
-               : QStringLiteral("All is well, %1").arg(withSmallBegin(work.nextPass));
+    return facts.nextPass
+               ? Words::tr("All is well, next pass in %1").arg(untilText(*facts.nextPass))
+               : Words::tr("All is well");
 }
 
 QString arrivalsText(const std::vector<Arrival>& arrivals) {
@@ -207,10 +221,11 @@ QString arrivalsText(const std::vector<Arrival>& arrivals) {
         return first;
     const QString second = shortName(arrivals[1]);
     if (count == 2)
-        return QStringLiteral("%1 and %2").arg(first, second);
-    if (count == 3)
-        return QStringLiteral("%1, %2 and one more").arg(first, second);
-    return QStringLiteral("%1, %2 and %3 more").arg(first, second, QString::number(count - 2));
+        return Words::tr("%1 and %2", "two movies").arg(first, second);
+    return Words::counted("%1, %2 and one more",
+                          QT_TRANSLATE_N_NOOP("Words", "%1, %2 and %Ln more"),
+                          static_cast<qint64>(count) - 2)
+        .arg(first, second);
 }
 
 } // namespace kelvo

@@ -47,9 +47,16 @@ QString nextPassText(double seconds);
 /// How long from now that text stays true, in seconds.
 double nextPassHolds(double seconds);
 
-/// The one line of a tray: the progress, what is the matter, or when the next pass comes. `matter`
-/// is what a waiting pass lacks, or the first sentence of the trouble; else empty.
-QString headlineText(const WorkState& work, const QString& matter);
+/// What the headline says beyond the texts of the work.
+struct HeadlineFacts {
+    QString matter = {}; ///< what a waiting pass lacks, or the first sentence of the trouble
+    PassStep step = PassStep::Begun;
+    PassKind kind = PassKind::Remote;
+    std::optional<double> nextPass = {}; ///< seconds, where that may be said
+};
+
+/// The one line of a tray: the progress, what is the matter, or when the next pass comes.
+QString headlineText(const WorkState& work, const HeadlineFacts& facts);
 
 /// "A, B and one more", by name alone, each name on one line and at most 60 characters long.
 QString arrivalsText(const std::vector<Arrival>& arrivals);

@@ -1,9 +1,11 @@
 kelvo_tests(architecture
-  SOURCES architecture/include_arrows_test.cpp
+  SOURCES architecture/catalogues_test.cpp architecture/include_arrows_test.cpp
 )
 target_compile_definitions(architecture_tests PRIVATE
   KELVO_SOURCE_FOLDER="${CMAKE_SOURCE_DIR}/src"
-  KELVO_ARCHITECTURE="${CMAKE_SOURCE_DIR}/docs/architecture.md")
+  KELVO_ARCHITECTURE="${CMAKE_SOURCE_DIR}/docs/architecture.md"
+  KELVO_TRANSLATIONS="${CMAKE_SOURCE_DIR}/resources/translations"
+  KELVO_REFRESH="${CMAKE_SOURCE_DIR}/scripts/translations")
 
 add_test(NAME Security.everyNamedTest_IsThere
   COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/architecture/security-names)

@@ -2,6 +2,7 @@
 #include "support/private_folders.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <gtest/gtest.h>
 
@@ -15,6 +16,8 @@ int main(int argc, char** argv) {
     if (!home.isValid())
         return 1;
     kelvo::usePrivateFolders(home);
+
+    QLocale::setDefault(QLocale::c());
 
     ::testing::InitGoogleTest(&argc, argv);
     ::testing::GTEST_FLAG(death_test_style) = "threadsafe";

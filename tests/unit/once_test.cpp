@@ -80,7 +80,9 @@ TEST(PassWordsTest, EveryCause_HasItsOwnNameSentenceAndNextStep) {
         EXPECT_TRUE(words.sentence.endsWith(u'.')) << i;
         EXPECT_EQ(words.nextStep.isEmpty(), words.group == CauseGroup::Well) << i;
         EXPECT_TRUE(words.nextStep.isEmpty() || words.nextStep.endsWith(u'.')) << i;
-        EXPECT_TRUE(isPlainEnglish(words.sentence) && isPlainEnglish(words.nextStep)) << i;
+        EXPECT_TRUE(isPlainEnglish(words.sentence.toString()) &&
+                    isPlainEnglish(words.nextStep.toString()))
+            << i;
     }
     EXPECT_EQ(names.size(), cCauses);
     EXPECT_EQ(sentences.size(), cCauses);

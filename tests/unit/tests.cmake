@@ -57,6 +57,7 @@ kelvo_tests(unit
     unit/view_controller_test.cpp
     unit/watchdog_test.cpp
     unit/work_watch_test.cpp
+    unit/words_test.cpp
     unit/work_words_test.cpp
   LINKS kelvo_app_start kelvo_app_commands kelvo_adapters_console kelvo_passes
 )

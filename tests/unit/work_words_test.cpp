@@ -173,18 +173,19 @@ TEST(WorkWordsTest, Age_HoldsUntilItsTextChanges) {
 TEST(WorkWordsTest, Headline_SaysWhatMattersMost) {
     WorkState work{.phase = WorkPhase::Running, .step = text("Asking the Mac")};
     work.health.sign = HealthSign::Well;
-    EXPECT_EQ(headlineText(work, {}), text("Syncing: asking the Mac"));
-    EXPECT_EQ(headlineText(work, text("The Mac is away.")), text("The Mac is away."));
+    EXPECT_EQ(headlineText(work, {.step = PassStep::AskingTheMac}),
+              text("Syncing: asking the Mac"));
+    EXPECT_EQ(headlineText(work, {.matter = text("The Mac is away.")}), text("The Mac is away."));
     work.share = 0.489;
-    EXPECT_EQ(headlineText(work, text("The Mac is away.")), text("Syncing: 48 %"));
+    EXPECT_EQ(headlineText(work, {.matter = text("The Mac is away.")}), text("Syncing: 48 %"));
     work.timeLeft = text("about 4 min");
     EXPECT_EQ(headlineText(work, {}), text("Syncing: 48 %, about 4 min"));
     work.phase = WorkPhase::Resting;
     EXPECT_EQ(headlineText(work, {}), text("All is well"));
     work.nextPass = text("Next pass in 23 s");
-    EXPECT_EQ(headlineText(work, {}), text("All is well, next pass in 23 s"));
+    EXPECT_EQ(headlineText(work, {.nextPass = 23}), text("All is well, next pass in 23 s"));
     work.health.sign = HealthSign::Unknown;
-    EXPECT_EQ(headlineText(work, {}), text("Next pass in 23 s"));
+    EXPECT_EQ(headlineText(work, {.nextPass = 23}), text("Next pass in 23 s"));
     work.nextPass.clear();
     work.phase = WorkPhase::Running;
     work.step.clear();
@@ -196,10 +197,10 @@ TEST(WorkWordsTest, Headline_SaysWhatMattersMost) {
     EXPECT_EQ(headlineText(work, {}), work.nextPass);
     work.phase = WorkPhase::Cancelling;
     work.nextPass = text("Cancelling this pass…");
-    EXPECT_EQ(headlineText(work, text("The Mac is away.")), work.nextPass);
+    EXPECT_EQ(headlineText(work, {.matter = text("The Mac is away.")}), work.nextPass);
     work.phase = WorkPhase::Finishing;
     work.nextPass = text("Finishing this pass…");
-    EXPECT_EQ(headlineText(work, text("The Mac is away.")), work.nextPass);
+    EXPECT_EQ(headlineText(work, {.matter = text("The Mac is away.")}), work.nextPass);
 }
 
 TEST(WorkWordsTest, ProgressLine_LeavesOutWhatIsNotKnown) {

@@ -143,7 +143,8 @@ QVariant ArrivalRows::ofArrival(const KeptArrival& arrival, int column, int role
         if (column == Size)
             return bytesText(arrival.arrival.size);
         return fault == fFaults.end() ? nameOf(arrival)
-                                      : QString(nameOf(arrival) + u" (" + fault->second + u')');
+                                      : tr("%1 (%2)", "a movie, what is the matter with it")
+                                            .arg(nameOf(arrival), fault->second);
     case Qt::ToolTipRole:
         return column == Name ? plainToolTip(arrivedName(arrival.arrival.path, {})) : QVariant();
     case Qt::ForegroundRole:

@@ -7,6 +7,7 @@
 #include "ui/widgets/arrival_rows.h"
 #include "ui/widgets/kept_place.h"
 #include "ui/widgets/wide_column.h"
+#include "ui/words.h"
 #include "ui_arrivals_view.h"
 
 #include <QAction>
@@ -28,8 +29,8 @@ QString faultOf(const QByteArray& path) {
     if (::stat(path.constData(), &status) == 0)
         return {};
     const int error = errno;
-    return error == ENOENT || error == ENOTDIR ? QStringLiteral("not there any more")
-                                               : systemErrorText(error);
+    return error == ENOENT || error == ENOTDIR ? ArrivalsView::tr("not there any more")
+                                               : Words::shown(systemErrorText(error));
 }
 
 /// Byte for byte, whatever the encoding of the name.
@@ -46,11 +47,12 @@ ArrivalsView::ArrivalsView(ActivityParts parts, QWidget* parent)
     QTreeView& list = *fUi->arrivals;
     list.setModel(fRows);
     list.setIndentation(fontMetrics().height());
-    list.header()->resizeSection(ArrivalRows::Time,
-                                 fontMetrics().horizontalAdvance(QStringLiteral("00:00 mmm")) +
-                                     2 * list.indentation());
-    list.header()->resizeSection(ArrivalRows::Size,
-                                 fontMetrics().horizontalAdvance(QStringLiteral("0000.0 MB")));
+    list.header()->resizeSection(
+        ArrivalRows::Time,
+        fontMetrics().horizontalAdvance(QString(timeText(QDateTime::currentDateTime()) + u" mmm")) +
+            2 * list.indentation());
+    list.header()->resizeSection(
+        ArrivalRows::Size, fontMetrics().horizontalAdvance(QString(bytesText(88'800'000) + u"mm")));
     new WideColumn(list, ArrivalRows::Name);
     connect(fRows, &QAbstractItemModel::rowsInserted, this,
             [&list](const QModelIndex& parent, int first, int last) {

@@ -6,6 +6,7 @@
 #include "support/array_controller.h"
 #include "support/text.h"
 #include "ui/bonjour_view_controller.h"
+#include "ui/words.h"
 #include "ui_bonjour_sheet.h"
 
 #include <QApplication>
@@ -116,7 +117,7 @@ void BonjourSheet::selectionChanged() {
 void BonjourSheet::showState() {
     const bool scanning = fParts.defaults.boolForKey(prefScanningBonjour);
     fUi->firstLineMessage->setText(
-        fParts.defaults.stringForKey(perfFirstLineMessage).value_or(QString()));
+        Words::shown(fParts.defaults.stringForKey(perfFirstLineMessage).value_or(QString())));
     fUi->scanningSign->setVisible(scanning);
     // The setting may be left over from an earlier sheet.
     fUi->selectButton->setEnabled(fParts.defaults.boolForKey(prefSelectedValidRow) &&

@@ -4,6 +4,7 @@
 #include "ui/widgets/elided_label.h"
 
 #include <QHeaderView>
+#include <QLocale>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
@@ -53,12 +54,15 @@ void DayChart::setDays(const std::vector<DayOfPasses>& days, QDate today) {
             fDays.emplace_back(found == days.end() ? DayOfPasses{.day = date} : *found);
         fMost = std::max(fMost, day.bytes);
         const QString name = dayText(date, today);
-        const QString texts[Columns] = {name, bytesText(day.bytes), QString::number(day.files),
+        const QString texts[Columns] = {name, bytesText(day.bytes), QLocale().toString(day.files),
                                         day.trouble ? tr("in trouble") : tr("none")};
         for (int column = 0; column < Columns; ++column) {
             const QModelIndex cell = fModel.index(row, column);
             fModel.setData(cell, texts[column]);
-            fModel.setData(cell, plainToolTip(name + u": " + dayReport(day)), Qt::ToolTipRole);
+            fModel.setData(
+                cell,
+                plainToolTip(tr("%1: %2", "a day, what came on it").arg(name, dayReport(day))),
+                Qt::ToolTipRole);
         }
         fModel.setData(fModel.index(row, Day), dayReport(day), Qt::AccessibleDescriptionRole);
     }
@@ -78,7 +82,8 @@ QRect DayChart::visualRect(const QModelIndex& index) const {
         return {};
     const int width = viewport()->width();
     const int left = width * index.row() / cDays;
-    return {left, 0, width * (index.row() + 1) / cDays - left, viewport()->height()};
+    const QRect place(left, 0, width * (index.row() + 1) / cDays - left, viewport()->height());
+    return QStyle::visualRect(layoutDirection(), viewport()->rect(), place);
 }
 
 QModelIndex DayChart::indexAt(const QPoint& point) const {
@@ -122,6 +127,8 @@ void DayChart::paintEvent(QPaintEvent*) {
 
 QModelIndex DayChart::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
     int row = currentIndex().isValid() ? currentIndex().row() : cDays;
+    if (isRightToLeft() && (action == MoveLeft || action == MoveRight))
+        action = action == MoveLeft ? MoveRight : MoveLeft;
     switch (action) {
     case MoveLeft:
     case MoveUp:

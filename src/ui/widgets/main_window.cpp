@@ -29,11 +29,11 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     fUi->setupUi(this);
     auto* diagnostics = new DiagnosticsTab;
     fFoundServices = &diagnostics->foundServices();
-    addTab(fSyncTab, "sync", tr("Sync"));
-    addTab(fRemoteTab, "remote", tr("Remote Mac"));
-    addTab(fSettingsTab, "prefs", tr("Settings"));
-    addTab(diagnostics, "diagnostics", tr("Diagnostics"));
-    addTab(fActivityTab, "activity", tr("Activity"));
+    addTab(fSyncTab, "sync", QT_TR_NOOP("Sync"));
+    addTab(fRemoteTab, "remote", QT_TR_NOOP("Remote Mac"));
+    addTab(fSettingsTab, "prefs", QT_TR_NOOP("Settings"));
+    addTab(diagnostics, "diagnostics", QT_TR_NOOP("Diagnostics"));
+    addTab(fActivityTab, "activity", QT_TR_NOOP("Activity"));
     for (QPushButton* button : findChildren<QPushButton*>()) {
         button->setToolTip(button->accessibleDescription());
         button->installEventFilter(this);
@@ -64,9 +64,10 @@ MainWindow::~MainWindow() {
     delete takeCentralWidget();
 }
 
-void MainWindow::addTab(QWidget* tab, const char* identifier, const QString& label) {
+void MainWindow::addTab(QWidget* tab, const char* identifier, const char* name) {
     tab->setProperty("identifier", QString::fromLatin1(identifier));
-    fUi->tabView->addTab(tab, label);
+    tab->setProperty("name", QString::fromLatin1(name));
+    fUi->tabView->addTab(tab, tr(name));
 }
 
 // -- actions
@@ -91,9 +92,12 @@ void MainWindow::showStartIcon() {
 std::vector<MainWindow::Tab> MainWindow::tabs() const {
     std::vector<Tab> all;
     all.reserve(static_cast<std::size_t>(fUi->tabView->count()));
-    for (int i = 0; i < fUi->tabView->count(); ++i)
-        all.push_back(
-            {fUi->tabView->widget(i)->property("identifier").toString(), fUi->tabView->tabText(i)});
+    for (int i = 0; i < fUi->tabView->count(); ++i) {
+        const QWidget& tab = *fUi->tabView->widget(i);
+        all.push_back({.identifier = tab.property("identifier").toString(),
+                       .label = fUi->tabView->tabText(i),
+                       .name = tab.property("name").toString()});
+    }
     return all;
 }
 

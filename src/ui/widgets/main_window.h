@@ -39,7 +39,8 @@ class MainWindow final : public QMainWindow {
 public:
     struct Tab {
         QString identifier;
-        QString label;
+        QString label; ///< what a person reads
+        QString name;  ///< the same in English
     };
 
     MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue);
@@ -99,7 +100,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addTab(QWidget* tab, const char* identifier, const QString& label);
+    void addTab(QWidget* tab, const char* identifier, const char* name);
     void restoreLook();
     void keepLook();
     void showStartIcon();

@@ -2,10 +2,12 @@
 
 #include "ports/pass_store.h"
 #include "ui/activity_texts.h"
+#include "ui/pass_words.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/kept_place.h"
 #include "ui/widgets/pass_rows.h"
 #include "ui/widgets/wide_column.h"
+#include "ui/work_words.h"
 #include "ui_passes_view.h"
 
 #include <QClipboard>
@@ -36,9 +38,9 @@ PassesView::PassesView(PassStore& store, QWidget* parent)
     PassRecord widest;
     widest.began = QDateTime(QDate(2000, 12, 28), QTime(22, 28, 28));
     widen(PassRows::When, beganText(widest), fUi->passes->indentation());
-    widen(PassRows::Files, QStringLiteral("nothing new"));
-    widen(PassRows::Size, QStringLiteral("000.0 MB"));
-    widen(PassRows::Time, QStringLiteral("about 00 min"));
+    widen(PassRows::Files, filesText(Transfer{TransferSource::Lines, 0, 0}));
+    widen(PassRows::Size, bytesText(888'800'000));
+    widen(PassRows::Time, TimeLeftWords().text(55 * 60));
     new WideColumn(*fUi->passes, PassRows::Outcome);
     fUi->passText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     connect(fUi->broughtFiles, &QCheckBox::toggled, this, [this] { setFilter(); });
@@ -178,7 +180,7 @@ void PassesView::exportTo(const QString& path) {
     const bool written = file.open(QIODevice::WriteOnly) &&
                          file.write(passesAsCsv(records).toUtf8()) >= 0 && file.commit();
     fUi->exportResult->setText(
-        written ? tr("%n passes written.", nullptr, static_cast<int>(records.size()))
+        written ? tr("%Ln passes written.", nullptr, static_cast<int>(records.size()))
                 : tr("Not written: %1").arg(file.errorString()));
 }
 

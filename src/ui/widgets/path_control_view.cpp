@@ -101,7 +101,8 @@ void PathControlView::resizeEvent(QResizeEvent* event) {
 
 void PathControlView::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::LayoutDirectionChange)
         rebuild();
 }
 
@@ -166,7 +167,8 @@ void PathControlView::placeParts() {
     int x = 0;
     const auto place = [&](QToolButton& button, int wanted) {
         const int given = std::max(std::min(wanted, width() - x), 0);
-        button.setGeometry(x, 0, given, height());
+        button.setGeometry(
+            QStyle::visualRect(layoutDirection(), rect(), QRect(x, 0, given, height())));
         button.show();
         x += given;
     };
@@ -204,8 +206,10 @@ int PathControlView::separatorWidth() const {
 void PathControlView::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     for (const int x : fSeparators)
-        style()->drawItemText(&painter, QRect(x, 0, separatorWidth(), height()), Qt::AlignCenter,
-                              palette(), isEnabled(), QStringLiteral("/"), QPalette::WindowText);
+        style()->drawItemText(
+            &painter,
+            QStyle::visualRect(layoutDirection(), rect(), QRect(x, 0, separatorWidth(), height())),
+            Qt::AlignCenter, palette(), isEnabled(), QStringLiteral("/"), QPalette::WindowText);
 }
 
 } // namespace kelvo

@@ -4,6 +4,7 @@
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/flow_layout.h"
 #include "ui/widgets/muted_hints.h"
+#include "ui/words.h"
 
 #include <QBasicTimer>
 #include <QProgressBar>
@@ -40,7 +41,8 @@ protected:
         option.maximum = 1;
         painter.drawControl(QStyle::CE_ProgressBarGroove, option);
         const int block = width() / cStepsToTheEnd;
-        painter.fillRect(QRect(fStep * block, 1, block, height() - 2),
+        const QRect place(fStep * block, 1, block, height() - 2);
+        painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), place),
                          palette().color(QPalette::Highlight));
     }
     void timerEvent(QTimerEvent*) override {
@@ -148,7 +150,7 @@ void ProgressView::showWork(const WorkState& work) {
     fBar->setMaximum(known || !running ? cWholeBar : 0);
     fBar->setValue(known ? static_cast<int>(share * cWholeBar) : 0);
     fBar->setVisible(running);
-    showFigure(*fShare, known ? tr("%1 %").arg(wholePercent(share)) : QString());
+    showFigure(*fShare, known ? Words::percent(share) : QString());
     showFigure(*fAmount, work.amount);
     showFigure(*fSpeed, work.speed);
     showFigure(*fTimeLeft, work.timeLeft);

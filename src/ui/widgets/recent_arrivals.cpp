@@ -2,6 +2,7 @@
 
 #include "ports/pass_store.h"
 #include "support/plain_line.h"
+#include "ui/activity_texts.h"
 #include "ui/pass_words.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/muted_hints.h"
@@ -27,10 +28,10 @@ enum Column { Time, Name, Size, Columns };
 constexpr int cAroundARow = 4; // points above and below the letters together
 constexpr int cPathRole = Qt::UserRole;
 
-QString timeText(const QDateTime& arrived) {
+QString whenText(const QDateTime& arrived) {
     const QDateTime here = arrived.toLocalTime();
     return here.date() == QDate::currentDate()
-               ? here.toString(QStringLiteral("HH:mm"))
+               ? timeText(arrived)
                : QLocale().toString(here.date(), QLocale::ShortFormat);
 }
 
@@ -96,7 +97,7 @@ void RecentArrivals::showArrivals() {
     for (const Arrival& arrival : fArrivals) {
         const QString path = QFile::decodeName(arrival.path);
         auto* row = new QTreeWidgetItem(&list());
-        row->setText(Time, timeText(arrival.arrived));
+        row->setText(Time, whenText(arrival.arrived));
         row->setText(Name, oneLine(path.section(u'/', -1)));
         row->setText(Size, sizeText({TransferSource::Lines, 1, arrival.size}));
         row->setTextAlignment(Time, Qt::AlignRight | Qt::AlignVCenter);

@@ -2,6 +2,7 @@
 
 #include "ports/desktop_notices.h"
 #include "ports/dispatch_queue.h"
+#include "ui/words.h"
 
 #include <QCheckBox>
 #include <QMessageBox>
@@ -13,6 +14,13 @@ namespace kelvo {
 namespace {
 
 constexpr const char* cPlace = "place"; // a button's place in the alert, as a property
+
+/// The same in the person's language; the program's lower parts ask in English.
+Alert shown(Alert alert) {
+    alert.messageText = Words::shown(alert.messageText);
+    alert.informativeText = Words::shown(alert.informativeText);
+    return alert;
+}
 
 std::unique_ptr<QMessageBox> makeBox(const Alert& alert, QWidget* parent) {
     auto box = std::make_unique<QMessageBox>(parent);
@@ -58,7 +66,8 @@ SheetPresenter::~SheetPresenter() {
     }
 }
 
-SheetId SheetPresenter::beginSheet(const Alert& alert, std::function<void(ModalResponse)> handler) {
+SheetId SheetPresenter::beginSheet(const Alert& said, std::function<void(ModalResponse)> handler) {
+    const Alert alert = shown(said);
     const SheetId sheet = ++fLastSheet;
     Sheet& open = fOpenSheets[sheet];
     open.handler = std::move(handler);
@@ -97,7 +106,7 @@ ModalResponse SheetPresenter::runModal(const Alert& alert) {
 }
 
 SheetPresenter::Answer SheetPresenter::runModal(const Alert& alert, const QString& tick) {
-    const auto box = makeBox(alert, fMainWindow);
+    const auto box = makeBox(shown(alert), fMainWindow);
     box->setWindowModality(Qt::ApplicationModal);
     if (!tick.isEmpty())
         box->setCheckBox(new QCheckBox(tick));

@@ -6,29 +6,26 @@
 #include <QCoreApplication>
 
 namespace kelvo {
-namespace {
-
-QString say(const char* text) {
-    return QCoreApplication::translate("sourceNotice", text);
-}
-
-} // namespace
-
 QString sourceNotice(const UserDefaults& defaults) {
     const auto user = defaults.stringForKey(prefRemoteUsername);
     const auto host = defaults.stringForKey(prefRemoteBonjourName);
     const auto path = defaults.stringForKey(prefRemotePath);
     if (!host)
-        return say("Choose the remote Mac on the Remote Mac tab.");
+        return QCoreApplication::translate("sourceNotice",
+                                           "Choose the remote Mac on the Remote Mac tab.");
     if (!user)
-        return say("Enter the user name on the Remote Mac tab.");
+        return QCoreApplication::translate("sourceNotice",
+                                           "Enter the user name on the Remote Mac tab.");
     if (!path)
-        return say("Enter the remote folder on the Remote Mac tab.");
+        return QCoreApplication::translate("sourceNotice",
+                                           "Enter the remote folder on the Remote Mac tab.");
     const QString named = *user + u'@' + *host + u':' + *path;
     if (defaults.stringForKey(prefSampleRemoteFullPath) == named)
         return {};
-    return say("Passes still pull from the source above. The new host or folder takes effect when "
-               "the user name changes or the program starts again.");
+    return QCoreApplication::translate(
+        "sourceNotice",
+        "Passes still pull from the source above. The new host or folder takes effect when "
+        "the user name changes or the program starts again.");
 }
 
 } // namespace kelvo

@@ -1,6 +1,7 @@
 #include "ui/widgets/status_field_view.h"
 
 #include "ui/widgets/trouble_color.h"
+#include "ui/words.h"
 
 #include <QAccessible>
 #include <QEvent>
@@ -78,8 +79,11 @@ void StatusFieldView::applyColor() {
 }
 
 void WidgetStatusField::setAttributedStringValue(const AttributedString& value) {
-    if (fView)
-        fView->show(value);
+    if (!fView)
+        return;
+    AttributedString inTheLanguage = value;
+    inTheLanguage.string = Words::shown(value.string);
+    fView->show(inTheLanguage);
 }
 
 void WidgetStatusField::clear() {

@@ -31,7 +31,8 @@ QString stateText(StatusMenuState state) {
 
 /// What tooltip and menu say of the work; an empty one has nothing to say.
 std::array<QString, 3> facts(const WorkState& work) {
-    const bool said = work.headline.contains(work.nextPass, Qt::CaseInsensitive);
+    const bool said = work.headline == work.nextPass ||
+                      (work.phase == WorkPhase::Resting && work.health.sign == HealthSign::Well);
     return {work.headline, work.health.lastSuccess, said ? QString() : work.nextPass};
 }
 

@@ -1,5 +1,7 @@
 #include "ui/widgets/widget_button.h"
 
+#include "ui/words.h"
+
 #include <utility>
 
 namespace kelvo {
@@ -14,8 +16,9 @@ WidgetButton::~WidgetButton() {
 }
 
 void WidgetButton::setTitle(const QString& title) {
-    fButton.setText(title);
-    fButton.setAccessibleName(title);
+    const QString words = Words::shown(title);
+    fButton.setText(words);
+    fButton.setAccessibleName(words);
 }
 
 } // namespace kelvo

@@ -3,6 +3,7 @@
 #include "ui/widgets/remote_tab.h"
 #include "ui/widgets/sync_tab.h"
 #include "ui/widgets/widget_controls.h"
+#include "ui/words.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -88,7 +89,7 @@ void WidgetMainView::makeNothingFirstResponder() {
 
 void WidgetMainView::showNetworkStatus(const QString& text) {
     if (fWindow)
-        fWindow->syncTab().setNetworkStatus(text);
+        fWindow->syncTab().setNetworkStatus(Words::shown(text));
 }
 
 void WidgetMainView::showTesting(bool testing) {
