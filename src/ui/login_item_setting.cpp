@@ -15,7 +15,8 @@ QString troubleOf(const LoginItemOutcome& outcome) {
                          "to switch this on here.")
             .arg(outcome.path);
     case LoginItemOutcome::Failed:
-        return Words::tr("%1 cannot be changed: %2").arg(outcome.path, outcome.reason);
+        return Words::tr("%1 cannot be changed: %2")
+            .arg(outcome.path, Words::shown(outcome.reason));
     }
     return {};
 }

@@ -143,6 +143,22 @@ protected:
     std::unique_ptr<RunningProgram> program;
 };
 
+TEST_F(WindowSystemTest, GermanMachine_IsSpokenToInGermanAndGetsEnglishLines) {
+    desktop.insert(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
+    desktop.remove(QStringLiteral("LANGUAGE"));
+    startAndSettle({});
+    screen.keys({QStringLiteral("ctrl+2")});
+    EXPECT_TRUE(program->waitForLine(
+        QStringLiteral("Inside Kelvo_Mirror.ViewController->tabView(_:willSelect:).......tabViewIte"
+                       "m.label = Optional(\"Remote Mac\")"),
+        20))
+        << program->transcript().toStdString();
+    keepPicture("german");
+    screen.keys({QStringLiteral("alt+h"), QStringLiteral("b")}); // Hilfe, Über Kelvo Mirror
+    EXPECT_TRUE(waitUntil([this] { return screen.activeTitle() == u"Über Kelvo Mirror"; }))
+        << screen.activeTitle().toStdString();
+}
+
 TEST_F(WindowSystemTest, StartButton_ByMouseAndByKey) {
     write(path(QStringLiteral("Camera/a.mov")), "movie");
     QDir().mkpath(path(QStringLiteral("Incoming")));

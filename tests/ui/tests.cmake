@@ -12,6 +12,7 @@ kelvo_tests(ui WIDGETS
     ui/checklist_view_test.cpp
     ui/day_chart_test.cpp
     ui/icons_test.cpp
+    ui/language_test.cpp
     ui/main_window_test.cpp
     ui/muted_hints_test.cpp
     ui/path_control_view_test.cpp
@@ -24,3 +25,5 @@ kelvo_tests(ui WIDGETS
     ui/window_actions_test.cpp
   LINKS kelvo_app kelvo_ui_widgets kelvo_adapters_desktop kelvo_bus_testing Qt6::Test
 )
+target_compile_definitions(ui_tests PRIVATE
+  KELVO_TRANSLATIONS="${CMAKE_SOURCE_DIR}/resources/translations")

@@ -79,9 +79,17 @@ TEST_F(TrayIconTest, Work_StandsAboveTheEntriesAndInTheToolTip) {
 }
 
 TEST_F(TrayIconTest, NextPass_IsNotSaidTwice) {
-    icon.showWork({.headline = QStringLiteral("All is well, next pass in 23 s"),
-                   .nextPass = QStringLiteral("Next pass in 23 s")});
-    EXPECT_EQ(facts().join(u'|'), u"All is well, next pass in 23 s|-");
+    // Whatever the words: another language turns them round.
+    icon.showWork({.phase = WorkPhase::Resting,
+                   .headline = QStringLiteral("In 23 s goes on what is well"),
+                   .nextPass = QStringLiteral("Next pass in 23 s"),
+                   .health = {.sign = HealthSign::Well}});
+    EXPECT_EQ(facts().join(u'|'), u"In 23 s goes on what is well|-");
+    icon.showWork({});
+    icon.showWork({.headline = QStringLiteral("Syncing is off"),
+                   .nextPass = QStringLiteral("Syncing is off")});
+    mainQueue.advance(1);
+    EXPECT_EQ(facts().join(u'|'), u"Syncing is off|-");
 }
 
 TEST_F(TrayIconTest, ManyStatesOfWork_AreShownTwiceASecondAndTheLastAlways) {

@@ -27,7 +27,7 @@ QDBusMessage callOf(const QString& method) {
 
 /// "default" is a click on the notice itself, "show" a button on it.
 QStringList showActions() {
-    const QString label = QStringLiteral("Show");
+    const QString label = BusNotices::tr("Show");
     return {QStringLiteral("default"), label, QStringLiteral("show"), label};
 }
 

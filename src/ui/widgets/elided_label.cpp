@@ -12,6 +12,7 @@ namespace kelvo {
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    alignToLayout();
 }
 
 void ElidedLabel::setFullText(const QString& text) {
@@ -42,6 +43,14 @@ void ElidedLabel::changeEvent(QEvent* event) {
     QLabel::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         elide();
+    if (event->type() == QEvent::LayoutDirectionChange)
+        alignToLayout();
+}
+
+/// A path or a name begins where the window's lines begin, whichever way it is written itself.
+void ElidedLabel::alignToLayout() {
+    setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                 Qt::AlignVCenter);
 }
 
 void ElidedLabel::contextMenuEvent(QContextMenuEvent* event) {

@@ -24,6 +24,7 @@ protected:
 
 private:
     void elide();
+    void alignToLayout();
 
     QString fFullText;
 };

@@ -1,0 +1,414 @@
+// The window in other languages: nothing is left in English, and what is printed stays so.
+#include "app/language.h"
+#include "app/window_actions.h"
+#include "fakes/view_controller_world.h"
+#include "settings/remote_account.h"
+#include "sync/rsync_command.h"
+#include "ui/activity_texts.h"
+#include "ui/widgets/activity_tab.h"
+#include "ui/widgets/application_menu.h"
+#include "ui/widgets/bonjour_sheet.h"
+#include "ui/widgets/day_chart.h"
+#include "ui/widgets/main_window.h"
+#include "ui/widgets/path_control_view.h"
+#include "ui/widgets/status_field_view.h"
+#include "ui/widgets/sync_tab.h"
+#include "ui/widgets/widget_button.h"
+#include "ui/widgets/widget_controls.h"
+#include "ui/words.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFile>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace kelvo {
+namespace {
+
+using Asked = std::pair<QString, QString>; ///< context and source
+
+QString text(const char* utf8) {
+    return QString::fromUtf8(utf8);
+}
+
+/// Marks every text that is looked up, and keeps what was asked for.
+class Marks final : public QTranslator {
+public:
+    Marks() { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* source, const char*, int) const override {
+        asked.emplace(text(context), text(source));
+        return *source ? QString(u'«' + text(source) + u'»') : QString();
+    }
+
+    mutable std::set<Asked> asked;
+};
+
+/// A language that the program speaks while this lives.
+class Language {
+public:
+    explicit Language(const QString& name) { isLoaded = speak(*qApp, name); }
+    ~Language() {
+        qDeleteAll(qApp->findChildren<QTranslator*>());
+        QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
+    }
+    bool isLoaded = false;
+};
+
+class Mirrored {
+public:
+    Mirrored() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
+    ~Mirrored() { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); }
+};
+
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// All texts of the catalogues' sources.
+std::set<Asked> knownTexts() {
+    std::set<Asked> known;
+    QXmlStreamReader xml(contents(QStringLiteral(KELVO_TRANSLATIONS "/kelvo-mirror_de.ts")));
+    QString context;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u"name")
+            context = xml.readElementText();
+        else if (xml.name() == u"source")
+            known.emplace(context, xml.readElementText());
+    }
+    return known;
+}
+
+QStringList finishedLanguages() {
+    return text(contents(QStringLiteral(KELVO_TRANSLATIONS "/finished.txt")))
+        .split(u'\n', Qt::SkipEmptyParts);
+}
+
+/// Everything that `top` and what is in it says to eyes and ears, with who says it.
+std::vector<std::pair<QString, QString>> textsOf(QWidget& top) {
+    std::vector<std::pair<QString, QString>> texts;
+    QList<QWidget*> widgets = top.findChildren<QWidget*>();
+    widgets.prepend(&top);
+    for (QWidget* widget : widgets) {
+        const QString who = widget->objectName() + u' ' + text(widget->metaObject()->className());
+        const auto says = [&](const QString& what) { texts.emplace_back(who, what); };
+        says(widget->accessibleName());
+        says(widget->accessibleDescription());
+        says(widget->toolTip());
+        if (const auto* label = qobject_cast<QLabel*>(widget))
+            says(label->text());
+        if (const auto* button = qobject_cast<QAbstractButton*>(widget))
+            says(button->text());
+        if (const auto* group = qobject_cast<QGroupBox*>(widget))
+            says(group->title());
+        if (const auto* field = qobject_cast<QLineEdit*>(widget))
+            says(field->placeholderText());
+        if (const auto* number = qobject_cast<QDoubleSpinBox*>(widget))
+            says(number->specialValueText());
+        if (const auto* tabs = qobject_cast<QTabWidget*>(widget)) {
+            for (int i = 0; i < tabs->count(); ++i)
+                says(tabs->tabText(i));
+        }
+        if (const auto* choice = qobject_cast<QComboBox*>(widget)) {
+            for (int i = 0; i < choice->count(); ++i)
+                says(choice->itemText(i));
+        }
+        if (const auto* header = qobject_cast<QHeaderView*>(widget);
+            header && header->model() && header->orientation() == Qt::Horizontal) {
+            for (int i = 0; i < header->count(); ++i)
+                says(header->model()->headerData(i, Qt::Horizontal).toString());
+        }
+    }
+    for (const QAction* action : top.findChildren<QAction*>())
+        texts.emplace_back(action->objectName(), action->text());
+    return texts;
+}
+
+bool hasLetters(const QString& text) {
+    return std::ranges::any_of(text, [](QChar sign) { return sign.isLetter(); });
+}
+
+class LanguageTest : public ::testing::Test, public ViewControllerWorld {
+protected:
+    std::unique_ptr<MainWindow> makeWindow() {
+        auto window = std::make_unique<MainWindow>(defaults, mainQueue);
+        window->activityTab().setParts({.store = passStore,
+                                        .workspace = workspace,
+                                        .mainQueue = mainQueue,
+                                        .bgQueue = bgQueue,
+                                        .destination = [] { return QString(); }});
+        window->setMenuBar(menuOf(*window));
+        window->show();
+        for (const MainWindow::Tab& tab : window->tabs()) {
+            window->showTab(tab.identifier);
+            QCoreApplication::processEvents();
+        }
+        return window;
+    }
+
+    static ApplicationMenu* menuOf(MainWindow& window) {
+        QStringList labels;
+        for (const MainWindow::Tab& tab : window.tabs())
+            labels.append(tab.label);
+        return new ApplicationMenu({}, labels, &window);
+    }
+};
+
+TEST_F(LanguageTest, EveryTextOfTheWindow_IsLookedUp) {
+    const Marks marks;
+    const auto window = makeWindow();
+    BonjourSheet sheet({defaults, mainQueue, console, dnssdBrowser}, window.get());
+    sheet.show();
+    const auto texts = textsOf(*window);
+    EXPECT_GT(texts.size(), 400U);
+    for (const auto& [who, said] : texts) {
+        EXPECT_TRUE(!hasLetters(said) || said.contains(u'«'))
+            << qPrintable(who) << " says " << qPrintable(said);
+    }
+}
+
+TEST_F(LanguageTest, EveryTextThatIsLookedUp_IsInTheCatalogues) {
+    const Marks marks;
+    const auto window = makeWindow();
+    BonjourSheet sheet({defaults, mainQueue, console, dnssdBrowser}, window.get());
+    load();
+    button.performClick();
+    bgQueue.runAll();
+    mainQueue.advance(30);
+    const std::set<Asked> known = knownTexts();
+    std::set<QString> contexts;
+    for (const auto& [context, source] : known)
+        contexts.insert(context);
+    EXPECT_GT(marks.asked.size(), 200U);
+    for (const auto& [context, source] : marks.asked) {
+        const bool isOurs = contexts.contains(context) || context.startsWith(u"kelvo");
+        if (isOurs && context != u"FixedWords" && context != u"QObject") {
+            EXPECT_TRUE(known.contains({context, source}) || source.isEmpty())
+                << qPrintable(context) << ": " << qPrintable(source);
+        }
+    }
+}
+
+TEST_F(LanguageTest, TextsFromBelow_AreTranslatedWhereTheyAreShown) {
+    const Language german(text("de"));
+    ASSERT_TRUE(german.isLoaded);
+    const auto window = makeWindow();
+    WidgetButton start(window->ibStartButton(), [](Control*) {});
+    start.setTitle(text("click to stop bonjour rsync"));
+    EXPECT_EQ(window->ibStartButton().text(), text("Klicken, um rsync mit Bonjour anzuhalten"));
+    WidgetStatusField status(window->ibStatusTextField());
+    status.setAttributedStringValue(getAttributedString(
+        text("something went wrong - waiting to retry again... [3]"), StatusColor::Red, true));
+    EXPECT_EQ(window->findChild<QLabel*>(text("statusText"))->text(),
+              text("Etwas ging schief - gleich folgt ein neuer Versuch... [3]"));
+    // Each text is asked of those who say it.
+    QStringList said;
+    for (const char* user : {"-u", "a\nb", "a:b"})
+        said << accountFault({.user = text(user), .host = text("h")}, u"/k");
+    for (const char* name : {"-h", "a\nb", "a/b"})
+        said << accountFault({.user = text("u"), .host = text(name)}, u"/k");
+    said << commandFault(text("%@1 %@2"), {text("-s"), text("/d"), {}})
+         << commandFault(text("%@1 %@2"), {text("/s"), text("-d"), {}})
+         << commandFault(text("%@1 %@2"), {text("/s"), text("h:d"), {}});
+    for (const QString& english : said) {
+        EXPECT_FALSE(english.isEmpty());
+        EXPECT_NE(Words::shown(english), english);
+    }
+}
+
+TEST_F(LanguageTest, WhatIsPrintedLoggedAndStored_StaysEnglish) {
+    const auto lines = [](bool translated) {
+        const std::unique_ptr<Language> german =
+            translated ? std::make_unique<Language>(text("de")) : nullptr;
+        ViewControllerWorld world;
+        MainWindow window{world.defaults, world.mainQueue};
+        const auto path = std::make_shared<WidgetPathControl>(window.fNsPathControl1());
+        const OnceButtons once = sendWindowActions(window, world.controller, world.workspace, path);
+        world.load();
+        window.show();
+        for (const MainWindow::Tab& tab : window.tabs())
+            window.showTab(tab.identifier);
+        world.defaults.setObject(prefIsScanning, false);
+        world.defaults.setObject(prefRemoteUsername, text("u"));
+        world.defaults.setObject(prefRemoteBonjourName, text("h"));
+        for (int i = 0; i < 2; ++i) {
+            world.button.performClick();
+            world.bgQueue.runAll();
+            world.mainQueue.advance(20);
+        }
+        QStringList all = world.console.printed() + world.console.logged();
+        for (const AttributedString& shown : world.field->shown)
+            all.append(shown.string);
+        for (const QStringView key : {perfFirstLineMessage, prefVersionDisplayString,
+                                      prefStatusTextfieldString, prefMainWindowTab})
+            all.append(world.defaults.stringForKey(key).value_or(QString()));
+        // Addresses differ from run to run.
+        return all.replaceInStrings(QRegularExpression(text("0x[0-9a-f]+")), text("0x"));
+    };
+    const QStringList english = lines(false);
+    EXPECT_GT(english.size(), 50);
+    EXPECT_EQ(lines(true), english);
+}
+
+TEST_F(LanguageTest, Export_IsTheSameInEachLanguage) {
+    const std::vector<PassRecord> records(1);
+    const QString english = passesAsCsv(records);
+    const Language german(text("de"));
+    EXPECT_EQ(passesAsCsv(records), english);
+    EXPECT_TRUE(passReport(records[0]).contains(text("Nächster Schritt: "))) << "it is loaded";
+}
+
+TEST_F(LanguageTest, MnemonicsOfATabAndOfAMenu_AreDifferent) {
+    for (const QString& name : finishedLanguages()) {
+        const Language language(name);
+        ASSERT_TRUE(language.isLoaded) << qPrintable(name);
+        const auto window = makeWindow();
+        QSet<QString> bar;
+        for (const QAction* menu : window->menuBar()->actions()) {
+            const QString key = QKeySequence::mnemonic(menu->text()).toString();
+            EXPECT_FALSE(key.isEmpty() || bar.contains(key)) << qPrintable(menu->text());
+            bar.insert(key);
+            QSet<QString> entries;
+            for (const QAction* entry : menu->menu()->actions()) {
+                const QString own = QKeySequence::mnemonic(entry->text()).toString();
+                EXPECT_TRUE(entry->isSeparator() || !(own.isEmpty() || entries.contains(own)))
+                    << qPrintable(entry->text());
+                entries.insert(own);
+            }
+        }
+        for (const MainWindow::Tab& tab : window->tabs()) {
+            window->showTab(tab.identifier);
+            QSet<QString> seen = bar;
+            QList<QWidget*> holders = window->findChildren<QWidget*>();
+            for (const QWidget* holder : holders) {
+                const auto* button = qobject_cast<const QAbstractButton*>(holder);
+                const auto* label = qobject_cast<const QLabel*>(holder);
+                const QString own = button                    ? button->text()
+                                    : label && label->buddy() ? label->text()
+                                                              : QString();
+                const QString key = QKeySequence::mnemonic(own).toString();
+                if (!holder->isVisible() || key.isEmpty())
+                    continue;
+                EXPECT_FALSE(seen.contains(key))
+                    << qPrintable(name + u", " + tab.label + u": " + own);
+                seen.insert(key);
+            }
+        }
+    }
+}
+
+TEST_F(LanguageTest, Catalogue_IsThatOfTheDearestLanguageThereIs) {
+    const auto found = [](const char* languages) {
+        return catalogueFor(text(languages).split(u' '));
+    };
+    EXPECT_EQ(found("de-AT"), u"de");
+    EXPECT_EQ(found("de"), u"de");
+    EXPECT_EQ(found("fr-CA de"), u"fr");
+    EXPECT_EQ(found("en-GB de"), u"") << "who reads English first, reads English";
+    EXPECT_EQ(found("C"), u"");
+    EXPECT_EQ(found("fi sv de"), u"de");
+    EXPECT_EQ(found("fi"), u"");
+    EXPECT_EQ(found("zh-CN"), u"zh_CN");
+    EXPECT_EQ(found("zh-Hans-SG"), u"zh_CN");
+    EXPECT_EQ(found("zh-TW"), u"") << "written with other signs";
+    EXPECT_EQ(found("ar-EG"), u"ar");
+    EXPECT_EQ(catalogueFor({}), u"");
+}
+
+TEST_F(LanguageTest, Speak_TurnsTheWindowTheWayTheLanguageIsWritten) {
+    EXPECT_FALSE(speak(*qApp, text("xx")));
+    {
+        const Language german(text("de"));
+        EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+    }
+    if (!finishedLanguages().contains(text("ar")))
+        GTEST_SKIP() << "there are no Arabic words yet";
+    const Language arabic(text("ar"));
+    ASSERT_TRUE(arabic.isLoaded);
+    EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+}
+
+TEST_F(LanguageTest, NumbersAndSizes_FollowTheLocale) {
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    EXPECT_EQ(bytesText(1'500'000'000), text("1,5 GB"));
+    EXPECT_EQ(bytesText(212'000'000'000), text("212 GB"));
+    EXPECT_EQ(Words::counted("%Ln file", "%Ln files", 12345), text("12.345 files"));
+    QLocale::setDefault(before);
+    EXPECT_EQ(bytesText(1'500'000'000), text("1.5 GB"));
+}
+
+// -- written from right to left
+
+TEST_F(LanguageTest, Mirrored_TheFirstPartOfAPathStandsAtTheRight) {
+    const Mirrored arabic;
+    PathControlView view;
+    view.resize(900, 30);
+    view.show();
+    view.setPath(text("/Users/near"));
+    const auto place = [&](const char* part) {
+        return view.findChild<QToolButton*>(text(part))->geometry();
+    };
+    EXPECT_EQ(place("part0").right(), view.width() - 1);
+    EXPECT_LT(place("part1").right(), place("part0").left());
+    EXPECT_LT(place("part2").right(), place("part1").left());
+}
+
+TEST_F(LanguageTest, Mirrored_TodayStandsAtTheLeftOfTheChart) {
+    const Mirrored arabic;
+    DayChart chart;
+    chart.resize(300, 48);
+    chart.setDays({}, QDate(2026, 3, 30));
+    chart.show();
+    const auto place = [&](int row) { return chart.visualRect(chart.model()->index(row, 0)); };
+    EXPECT_EQ(place(29).left(), 0);
+    EXPECT_EQ(place(0).right(), chart.viewport()->width() - 1);
+    EXPECT_EQ(chart.indexAt(place(3).center()).row(), 3);
+    chart.setFocus();
+    chart.setCurrentIndex(chart.model()->index(10, 0));
+    QTest::keyClick(&chart, Qt::Key_Left);
+    EXPECT_EQ(chart.currentIndex().row(), 11) << "where the eyes go";
+}
+
+TEST_F(LanguageTest, Mirrored_TheWindowIsTheOtherWayRound) {
+    const auto distances = [this] {
+        const auto window = makeWindow();
+        window->resize(900, 700);
+        window->showTab(text("sync"));
+        QCoreApplication::processEvents();
+        const auto left = [&](const QWidget& widget) {
+            return widget.mapTo(window.get(), QPoint(0, 0)).x();
+        };
+        const auto right = [&](const QWidget& widget) {
+            return window->width() - left(widget) - widget.width();
+        };
+        const QWidget& start = window->ibStartButton();
+        const QWidget& now = window->button(text("ibSyncNow"));
+        return std::pair(std::pair(left(start), left(now)), std::pair(right(start), right(now)));
+    };
+    const auto usual = distances();
+    const Mirrored arabic;
+    EXPECT_EQ(distances().second, usual.first);
+}
+
+} // namespace
+} // namespace kelvo
