@@ -80,7 +80,8 @@ QString commandReport(const CommandRecord& command, PassCause cause) {
                   sourceText(command.transfer);
     report += u")\n" + shownOutput(command.text.head);
     if (command.text.leftOut > 0)
-        report += u"\n… " + QString::number(command.text.leftOut) + u" bytes left out …\n" +
+        report += u"\n… " + QString::number(command.text.leftOut) +
+                  (command.text.leftOut == 1 ? u" byte" : u" bytes") + u" left out …\n" +
                   shownOutput(command.text.tail);
     return report.endsWith(u'\n') ? report : QString(report + u'\n');
 }
