@@ -11,6 +11,7 @@ from .workshop import CHILDREN, Fault
 
 MOST_MEMORY = 6 << 30
 MOST_OF_A_FILE = 256 << 20
+MOST_BY_TURNS = 3
 
 
 def sandboxed(workshop, programs, command, output: Path, limit: float):
@@ -156,8 +157,17 @@ class Trial:
 
     def killer(self, name, programs, folder: Path):
         """The suite that noticed the change, or None."""
-        output = folder / "output"
+        alone = set()
+        killer = self._killer(name, programs, folder / "output", alone)
+        if len(alone) < MOST_BY_TURNS:
+            with self.lock:
+                self.flaky |= alone
+        return killer
+
+    def _killer(self, name, programs, output: Path, alone):
+        """`alone` receives the tests that failed among others and passed by themselves."""
         for suite, tests in self.stages(name, programs):
+            slow = False
             while tests:
                 limit = 10 + 4 * sum(suite.seconds[t] for t in tests)
                 status = sandboxed(self.workshop, programs, suite.command(tests, True), output,
@@ -166,14 +176,18 @@ class Trial:
                     break
                 culprit = Results(output).culprit()
                 if status is None:
-                    return f"{suite.name}, time-out"
+                    if slow:
+                        return f"{suite.name}, time-out"
+                    slow = True  # the machine may have been
+                    continue
                 if culprit is None:
                     return suite.name
                 # Once may be chance, on a busy machine above all.
                 limit = 10 + 4 * suite.seconds.get(culprit, 1)
                 if sandboxed(self.workshop, programs, suite.command([culprit]), output, limit) != 0:
                     return suite.name
-                with self.lock:
-                    self.flaky.add(culprit)
+                alone.add(culprit)
+                if len(alone) == MOST_BY_TURNS:
+                    return f"{suite.name}, by turns"
                 tests = [t for t in tests if t != culprit]
         return None

@@ -17,7 +17,8 @@ from pathlib import Path
 from . import mutants
 
 SUITES = ("unit", "contract", "ui")
-CHILDREN = ("kelvo_sentinel", "network_watcher", "settings_writer")  # what contract tests start
+# What contract tests start.
+CHILDREN = ("kelvo_sentinel", "network_watcher", "record_writer", "settings_writer")
 
 
 class Fault(RuntimeError):
@@ -110,6 +111,12 @@ class Workshop:
                     found[name] = {f"{folder}/{q}" for q in quoted for folder in ("src", "tests")}
         return found
 
+    def _headers_of(self, source):
+        """Its own; a source without one carries out those of its folder that it includes."""
+        own = str(Path(source).with_suffix(".h"))
+        beside = {h for h in self.includes[source] if Path(h).parent == Path(source).parent}
+        return {own} if own in self.includes else beside & self.includes.keys()
+
     def nearness(self, name):
         """How many steps each test file is away: 0 for a file's own test, 1 where its header is
         included, 2 where a part that uses it is. Files that are not there have no way to it."""
@@ -128,9 +135,8 @@ class Workshop:
         while queue:
             current = queue.popleft()
             # Whoever uses a source's header uses the source.
-            header = str(Path(current).with_suffix(".h"))
-            nearer = users.get(header if current.startswith("src/") else current, set())
-            for user in nearer:
+            used = self._headers_of(current) if current.startswith("src/") else {current}
+            for user in set().union(*(users.get(header, set()) for header in used)):
                 if user not in steps:
                     steps[user] = steps[current] + 1
                     queue.append(user)

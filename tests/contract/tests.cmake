@@ -1,5 +1,7 @@
 add_executable(settings_writer children/settings_writer.cpp)
 target_link_libraries(settings_writer PRIVATE kelvo_testing kelvo_adapters)
+add_executable(record_writer children/record_writer.cpp)
+target_link_libraries(record_writer PRIVATE kelvo_testing kelvo_adapters)
 add_library(failing_file MODULE children/failing_file.cpp)
 target_include_directories(failing_file PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 add_executable(zoo children/zoo.cpp)
@@ -52,6 +54,7 @@ kelvo_tests(contract
     contract/single_copy_contract_test.cpp
     contract/shell_words_contract_test.cpp
     contract/words_of_passes_test.cpp
+    contract/sqlite_pass_faults_test.cpp
     contract/sqlite_pass_healing_test.cpp
     contract/sqlite_pass_layout_test.cpp
     contract/sqlite_pass_store_test.cpp
@@ -67,11 +70,14 @@ kelvo_tests(contract
     contract/workspace_contract_test.cpp
   LINKS kelvo_sync kelvo_remote kelvo_adapters kelvo_bus_testing
 )
-add_dependencies(contract_tests failing_file kelvo_sentinel network_watcher settings_writer zoo)
+add_dependencies(contract_tests failing_call failing_file kelvo_sentinel network_watcher
+  record_writer settings_writer zoo)
 target_compile_definitions(contract_tests PRIVATE
+  KELVO_FAILING_CALL="$<TARGET_FILE:failing_call>"
   KELVO_FAILING_FILE="$<TARGET_FILE:failing_file>"
   KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
   KELVO_SENTINEL="$<TARGET_FILE:kelvo_sentinel>"
+  KELVO_RECORD_WRITER="$<TARGET_FILE:record_writer>"
   KELVO_RESOURCES="${CMAKE_BINARY_DIR}/lib/kelvo-mirror"
   KELVO_VERSION="${PROJECT_VERSION}"
   KELVO_SETTINGS_WRITER="$<TARGET_FILE:settings_writer>"

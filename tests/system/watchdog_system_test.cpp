@@ -312,14 +312,23 @@ TEST_F(WatchdogSystemTest, QuitAndRelaunch_KeepsWhatWasJustSet) {
     endInOrder(second.pid);
 }
 
-TEST_F(WatchdogSystemTest, CommandsOfTheDeadProgram_HaveEndedBeforeItIsRelaunched) {
+TEST_F(WatchdogSystemTest, Command_StartsWithNoSignalBlockedOrIgnored) {
     const Start first = start(QStringLiteral("command"));
+    ASSERT_TRUE(waitUntil([&] { return QFileInfo(path(QStringLiteral("written"))).size() > 0; }));
+    for (const char* set : {"SigBlk", "SigIgn"})
+        EXPECT_EQ(ordinarySignals(set), 0U) << set;
+    endInOrder(first.pid);
+}
+
+class DeadProgramsCommandsTest : public WatchdogSystemTest,
+                                 public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(DeadProgramsCommandsTest, Commands_HaveEndedBeforeItIsRelaunched) {
+    const Start first = start(QString::fromLatin1(GetParam()));
     const auto size = [this](const char* name) {
         return QFileInfo(path(QString::fromLatin1(name))).size();
     };
     ASSERT_TRUE(waitUntil([&] { return size("written") > 0 && size("orphan") > 0; }));
-    for (const char* set : {"SigBlk", "SigIgn"})
-        EXPECT_EQ(ordinarySignals(set), 0U) << set;
     ::kill(first.pid, SIGKILL);
     const Start second = waitForStart(2);
     ASSERT_GT(second.pid, 0);
@@ -330,21 +339,8 @@ TEST_F(WatchdogSystemTest, CommandsOfTheDeadProgram_HaveEndedBeforeItIsRelaunche
     EXPECT_EQ(size("orphan"), orphan);
 }
 
-TEST_F(WatchdogSystemTest, CommandsWithoutTheirVariables_HaveEndedBeforeItIsRelaunched) {
-    const Start first = start(QStringLiteral("cleared"));
-    const auto size = [this](const char* name) {
-        return QFileInfo(path(QString::fromLatin1(name))).size();
-    };
-    ASSERT_TRUE(waitUntil([&] { return size("written") > 0 && size("orphan") > 0; }));
-    ::kill(first.pid, SIGKILL);
-    const Start second = waitForStart(2);
-    ASSERT_GT(second.pid, 0);
-    const qint64 written = size("written");
-    const qint64 orphan = size("orphan");
-    endInOrder(second.pid);
-    EXPECT_EQ(size("written"), written);
-    EXPECT_EQ(size("orphan"), orphan);
-}
+INSTANTIATE_TEST_SUITE_P(Marked, DeadProgramsCommandsTest, ::testing::Values("command", "cleared"),
+                         [](const auto& given) { return std::string(given.param); });
 
 TEST_F(WatchdogSystemTest, FiftyRounds_LeaveNothingBehind) {
     constexpr std::size_t cRounds = 50;

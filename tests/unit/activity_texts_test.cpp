@@ -21,20 +21,30 @@ PassRecord passAgo(qint64 seconds, PassCause cause) {
     return pass;
 }
 
-TEST(ActivityTextsTest, Report_HoldsEveryCommandAndSpellsControlsOut) {
-    PassRecord pass = passAgo(0, PassCause::FilesNotTaken);
+CommandRecord wellCheck() {
     CommandRecord check;
     check.role = CommandRole::HostCheck;
     check.command = QStringLiteral("ssh it");
     check.exitStatus = 0;
     check.text.head = QStringLiteral("me\r\n");
+    return check;
+}
+
+CommandRecord partialPull(const CapturedText& text) {
     CommandRecord pull;
     pull.command = QStringLiteral("rsync it");
     pull.exitStatus = 23;
-    pull.text = {QStringLiteral("begin\x1b[31m"), QStringLiteral("end"), 77};
+    pull.text = text;
+    return pull;
+}
+
+TEST(ActivityTextsTest, Report_HoldsEveryCommandAndSpellsControlsOut) {
+    PassRecord pass = passAgo(0, PassCause::FilesNotTaken);
     CommandRecord given;
     given.command = QStringLiteral("rsync again");
-    pass.commands = {check, pull, given};
+    pass.commands = {wellCheck(),
+                     partialPull({QStringLiteral("begin\x1b[31m"), QStringLiteral("end"), 77}),
+                     given};
     const QString report = passReport(pass);
     for (const QStringView part :
          {u"Next step: ", u"$ ssh it\n(exit status 0, 0 s)\nme\n", u"exit status 23",
@@ -46,17 +56,9 @@ TEST(ActivityTextsTest, Report_HoldsEveryCommandAndSpellsControlsOut) {
 TEST(ActivityTextsTest, Report_ReadsAsAWhole) {
     PassRecord pass = passAgo(0, PassCause::FilesNotTaken);
     pass.arrivals = {{"/in/a.mov", 1'200'000'000, cNow}, {"/in/b.mov", 5, cNow}};
-    CommandRecord check;
-    check.role = CommandRole::HostCheck;
-    check.command = QStringLiteral("ssh it");
-    check.exitStatus = 0;
-    check.text.head = QStringLiteral("me\r\n");
-    CommandRecord pull;
-    pull.command = QStringLiteral("rsync it");
-    pull.exitStatus = 23;
+    CommandRecord pull = partialPull({QStringLiteral("begin"), QStringLiteral("end"), 1});
     pull.seconds = 3;
     pull.transfer = {TransferSource::Lines, 1, 1500};
-    pull.text = {QStringLiteral("begin"), QStringLiteral("end"), 1};
     CommandRecord movies = pull;
     movies.transfer = {TransferSource::Statistics, 0, 0};
     movies.text = {QStringLiteral("done"), {}, 0};
@@ -64,7 +66,7 @@ TEST(ActivityTextsTest, Report_ReadsAsAWhole) {
     after.role = CommandRole::AfterArrivals;
     after.command = QStringLiteral("tell");
     after.exitStatus = 0;
-    pass.commands = {check, pull, movies, after};
+    pass.commands = {wellCheck(), pull, movies, after};
     EXPECT_EQ(passReport(pass),
               QString(beganText(pass) +
                       QStringLiteral(
@@ -74,7 +76,7 @@ TEST(ActivityTextsTest, Report_ReadsAsAWhole) {
                           "\nArrived:\n  /in/a.mov, 1.2 GB\n  /in/b.mov, 5 bytes\n"
                           "\n$ ssh it\n(exit status 0, 0 s)\nme\n"
                           "\n$ rsync it\n(exit status 23, 3 s, 1 file, 1.5 kB, counted from its "
-                          "lines)\nbegin\n… 1 bytes left out …\nend\n"
+                          "lines)\nbegin\n… 1 byte left out …\nend\n"
                           "\n$ rsync it\n(exit status 23, 3 s, nothing new, by rsync's own "
                           "figures)\ndone\n"
                           "\nRun after arrivals:\n$ tell\n(exit status 0, 0 s)\n")))

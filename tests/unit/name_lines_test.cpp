@@ -10,43 +10,46 @@
 namespace kelvo {
 namespace {
 
-TEST(NameLinesTest, OutFormat_DecidesHoweverItIsQuoted) {
-    for (const auto& [command, format] :
-         {std::pair(u"rsync --out-format=%n a b", NameFormat::Bare),
-          std::pair(u"rsync --out-format=%n%L a b", NameFormat::Bare),
-          std::pair(u"rsync --out-format='%i %n' a b", NameFormat::Itemized),
-          std::pair(u"rsync --out-format=\"%i %n%L\" a b", NameFormat::Itemized),
-          std::pair(u"rsync '--out-format=%i %n' a b", NameFormat::Itemized),
-          std::pair(u"rsync \"--out-format=%l %n\" a b", NameFormat::Sized),
-          std::pair(u"rsync --out-format='%l %n", NameFormat::Sized),
-          std::pair(u"rsync a b --out-format=%n", NameFormat::Bare),
-          std::pair(u"--out-format=%n", NameFormat::Bare),
-          std::pair(u"rsync --out-format=%i -v a b", NameFormat::Other),
-          std::pair(u"rsync --out-format=", NameFormat::Other)})
+using Formats = std::initializer_list<std::pair<const char16_t*, NameFormat>>;
+
+void expectFormats(const Formats& formats) {
+    for (const auto& [command, format] : formats)
         EXPECT_EQ(nameFormatOf(command), format) << QStringView(command).toUtf8().constData();
 }
 
+TEST(NameLinesTest, OutFormat_DecidesHoweverItIsQuoted) {
+    expectFormats({{u"rsync --out-format=%n a b", NameFormat::Bare},
+                   {u"rsync --out-format=%n%L a b", NameFormat::Bare},
+                   {u"rsync --out-format='%i %n' a b", NameFormat::Itemized},
+                   {u"rsync --out-format=\"%i %n%L\" a b", NameFormat::Itemized},
+                   {u"rsync '--out-format=%i %n' a b", NameFormat::Itemized},
+                   {u"rsync \"--out-format=%l %n\" a b", NameFormat::Sized},
+                   {u"rsync --out-format='%l %n", NameFormat::Sized},
+                   {u"rsync a b --out-format=%n", NameFormat::Bare},
+                   {u"--out-format=%n", NameFormat::Bare},
+                   {u"rsync --out-format=%i -v a b", NameFormat::Other},
+                   {u"rsync --out-format=", NameFormat::Other}});
+}
+
 TEST(NameLinesTest, WithoutAFormat_TheOptionsDecide) {
-    for (const auto& [command, format] :
-         {std::pair(u"rsync -r a b", NameFormat::None),
-          std::pair(u"rsync -rv a b", NameFormat::Bare),
-          std::pair(u"rsync -P a b", NameFormat::Bare),
-          std::pair(u"rsync --verbose a b", NameFormat::Bare),
-          std::pair(u"rsync --progress a b", NameFormat::Bare),
-          std::pair(u"rsync --info=stats1,name1 a b", NameFormat::Bare),
-          std::pair(u"rsync --info=progress2 a b", NameFormat::None),
-          std::pair(u"rsync --rename a b", NameFormat::None),
-          std::pair(u"rsync --itemize-changes a b", NameFormat::Itemized),
-          std::pair(u"rsync -v --itemize-changes a b", NameFormat::Itemized),
-          std::pair(u"rsync -rvi a b", NameFormat::Itemized),
-          std::pair(u"rsync -i -v a b", NameFormat::Itemized),
-          std::pair(u"rsync --inplace a b", NameFormat::None),
-          std::pair(u"rsync ri v P a b", NameFormat::None),
-          std::pair(u"rsync -ei -fv a b", NameFormat::None),
-          std::pair(u"rsync -ve i a b", NameFormat::Bare),
-          std::pair(u"rsync -e 'ssh -i key -v' a b", NameFormat::None),
-          std::pair(u"rsync -e \"ssh -i key -v\" -v a b", NameFormat::Bare)})
-        EXPECT_EQ(nameFormatOf(command), format) << QStringView(command).toUtf8().constData();
+    expectFormats({{u"rsync -r a b", NameFormat::None},
+                   {u"rsync -rv a b", NameFormat::Bare},
+                   {u"rsync -P a b", NameFormat::Bare},
+                   {u"rsync --verbose a b", NameFormat::Bare},
+                   {u"rsync --progress a b", NameFormat::Bare},
+                   {u"rsync --info=stats1,name1 a b", NameFormat::Bare},
+                   {u"rsync --info=progress2 a b", NameFormat::None},
+                   {u"rsync --rename a b", NameFormat::None},
+                   {u"rsync --itemize-changes a b", NameFormat::Itemized},
+                   {u"rsync -v --itemize-changes a b", NameFormat::Itemized},
+                   {u"rsync -rvi a b", NameFormat::Itemized},
+                   {u"rsync -i -v a b", NameFormat::Itemized},
+                   {u"rsync --inplace a b", NameFormat::None},
+                   {u"rsync ri v P a b", NameFormat::None},
+                   {u"rsync -ei -fv a b", NameFormat::None},
+                   {u"rsync -ve i a b", NameFormat::Bare},
+                   {u"rsync -e 'ssh -i key -v' a b", NameFormat::None},
+                   {u"rsync -e \"ssh -i key -v\" -v a b", NameFormat::Bare}});
 }
 
 TEST(NameLinesTest, TalkOfEveryKind_IsKnownByItsBeginning) {

@@ -74,6 +74,10 @@ public:
     /// opened, oldest first, as far as they can be read.
     std::vector<PassRecord> leave();
 
+    /// Closes the file. Why it, or its log, cannot be read to the end; empty when both can be, and
+    /// when it is missing or no ordinary file. Costs a reading of all of it.
+    QString readFault();
+
     /// Closes a broken file and moves it, or the link to it, to a free name beside its own. Returns
     /// the new name, or nothing when that cannot be done.
     std::optional<QString> moveAside(const QDateTime& now);

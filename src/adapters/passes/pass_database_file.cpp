@@ -12,6 +12,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 
@@ -19,6 +20,24 @@ namespace kelvo {
 namespace {
 
 constexpr int cMostAsides = 1000;
+
+/// 0, or why not.
+int readToTheEnd(const QByteArray& name) {
+    struct stat status {};
+    if (::stat(name.constData(), &status) != 0)
+        return errno == ENOENT || errno == ENOTDIR || errno == ELOOP ? 0 : errno;
+    if (!S_ISREG(status.st_mode))
+        return 0;
+    const UniqueFd file(::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!file)
+        return errno;
+    std::array<char, 65536> room{};
+    ssize_t size = 0;
+    do
+        size = ::read(file.get(), room.data(), room.size());
+    while (size > 0 || (size < 0 && errno == EINTR));
+    return size < 0 ? errno : 0;
+}
 
 } // namespace
 
@@ -143,6 +162,15 @@ std::vector<PassRecord> PassDatabase::leave() {
         ::unlink(fileName("-shm").constData());
     }
     return own;
+}
+
+QString PassDatabase::readFault() {
+    close();
+    for (const char* part : {"", "-wal"}) {
+        if (const int error = readToTheEnd(fileName(part)); error != 0)
+            return systemErrorText(error);
+    }
+    return {};
 }
 
 std::optional<QString> PassDatabase::moveAside(const QDateTime& now) {

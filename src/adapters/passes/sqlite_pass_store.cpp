@@ -10,6 +10,8 @@ namespace kelvo {
 namespace {
 
 constexpr std::size_t cMostUnwritten = 100;
+/// A connection of its own, then a new file.
+constexpr int cMostRepairs = 2;
 
 } // namespace
 
@@ -51,7 +53,7 @@ void SqlitePassStore::ask(Read read, std::function<void(Result)> answerWith) {
             findLostFile(database);
             auto result = std::make_shared<Result>();
             auto outcome = read(database, *result);
-            if (!outcome && repaired(database, outcome)) {
+            for (int repairs = 0; !outcome && repaired(database, outcome, repairs);) {
                 (void)writeOut(database);
                 *result = {};
                 outcome = read(database, *result);
@@ -145,9 +147,9 @@ qint64 SqlitePassStore::writeOut(PassDatabase& database) {
         return 0;
     PassDatabase::Outcome outcome;
     qint64 number = 0;
-    for (bool mayRepair = true; !fUnwritten.empty();) {
+    for (int repairs = 0; !fUnwritten.empty();) {
         outcome = database.insert(fUnwritten.front());
-        if (!outcome && std::exchange(mayRepair, false) && repaired(database, outcome))
+        if (!outcome && repaired(database, outcome, repairs))
             continue;
         if (!outcome)
             break;
@@ -158,12 +160,20 @@ qint64 SqlitePassStore::writeOut(PassDatabase& database) {
     return fUnwritten.empty() ? number : 0;
 }
 
-/// Whether there is a new file to try again with.
-bool SqlitePassStore::repaired(PassDatabase& database, const PassDatabase::Outcome& outcome) {
-    if (outcome.kind != PassDatabase::Outcome::Broken)
+/// Whether to try again, after `repairs` repairs. SQLite takes a page that could not be read just
+/// now for a damaged one: only a file that fails twice and can be read whole is damaged.
+bool SqlitePassStore::repaired(PassDatabase& database, PassDatabase::Outcome& outcome,
+                               int& repairs) {
+    if (outcome.kind != PassDatabase::Outcome::Broken || repairs == cMostRepairs)
         return false;
     const auto own = database.leave();
     fUnwritten.insert(fUnwritten.begin(), own.begin(), own.end());
+    if (++repairs < cMostRepairs)
+        return true;
+    if (const QString fault = database.readFault(); !fault.isEmpty()) {
+        outcome = {PassDatabase::Outcome::Failed, fault};
+        return false;
+    }
     const auto aside = database.moveAside(QDateTime::currentDateTimeUtc());
     if (!aside)
         return false;

@@ -18,7 +18,7 @@ class DispatchQueue;
 
 /// The file is opened with the first record, or the first question once there is a file. One that
 /// is broken, or another program's, is kept under another name, `<path>.corrupt-<UTC time>`, and
-/// begun anew; where it is taken away or replaced while it is open, that is noticed with the next
+/// begun anew, unless it cannot be read just now; where it is taken away or replaced while it is open, that is noticed with the next
 /// record or question. Either way the newest 100 passes of this run are written into the file that
 /// is there then. Each kind of trouble is said in the log once, and when it is over; it is over
 /// when nothing is left to be written.
@@ -64,7 +64,7 @@ private:
     void write(PassDatabase& database, PassRecord record);
     qint64 writeOut(PassDatabase& database);
     void findLostFile(PassDatabase& database);
-    bool repaired(PassDatabase& database, const PassDatabase::Outcome& outcome);
+    bool repaired(PassDatabase& database, PassDatabase::Outcome& outcome, int& repairs);
     void note(const PassDatabase::Outcome& outcome);
     /// Adds what the file does not know.
     void completeStanding(Standing& standing) const;
