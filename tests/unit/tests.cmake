@@ -17,6 +17,7 @@ kelvo_tests(unit
     unit/health_words_test.cpp
     unit/key_state_test.cpp
     unit/login_item_setting_test.cpp
+    unit/movie_kinds_test.cpp
     unit/movie_pull_test.cpp
     unit/name_lines_test.cpp
     unit/network_path_monitoring_test.cpp
