@@ -53,6 +53,8 @@ kelvo_tests(unit
     unit/settings_commands_test.cpp
     unit/sync_chain_test.cpp
     unit/sync_cycle_test.cpp
+    unit/template_faults_test.cpp
+    unit/template_setting_test.cpp
     unit/text_test.cpp
     unit/view_controller_setup_test.cpp
     unit/view_controller_test.cpp
