@@ -66,7 +66,8 @@ ViewController::ViewController(const ViewControllerParts& parts)
       fRepeatTimer(parts.engine.mainQueue, parts.engine.console),
       fStartButtonTitle(parts.outlets.ibStartButton, parts.engine.defaults, parts.engine.mainQueue,
                         parts.engine.console),
-      fCommandExample(parts.engine.defaults, fEngine.rsyncCommand, parts.engine.console),
+      fCommandExample(parts.engine.defaults, parts.engine.mainQueue, fEngine.rsyncCommand,
+                      parts.engine.console),
       fFolders({
           .defaults = parts.engine.defaults,
           .console = parts.engine.console,
@@ -165,6 +166,7 @@ void ViewController::viewDidLoad() {
     defaults.setObject(prefEnableScanning, false);
     observe(prefRsyncCommandOptionTag);
     observe(prefEnableScanning);
+    fCommandExample.followTemplate();
 
     startScanOnLaunch();
     mainQueue.asyncAfter(0.6, [this] {

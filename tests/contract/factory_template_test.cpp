@@ -3,6 +3,7 @@
 #include "passes/progress_line.h"
 #include "settings/preferences.h"
 #include "support/stored_value.h"
+#include "ui/movie_kinds.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -85,7 +86,7 @@ protected:
 
     /// The template with its placeholders filled, run by the shell: what it printed.
     QString run(const QString& source, const QString& sshPart, const QString& option) {
-        QString command = factoryDefaults().value("prefRsyncCommandString1").toString();
+        QString command = fTemplate;
         command.replace("%@1", source).replace("%@2", fDestination + u'/');
         command.replace("%@98", sshPart).replace("%@99", option);
         EXPECT_FALSE(command.contains("%@")) << command.toStdString();
@@ -108,6 +109,7 @@ protected:
         return names;
     }
 
+    QString fTemplate = factoryDefaults().value("prefRsyncCommandString1").toString();
     const QDateTime fTime{QDate(2020, 2, 3), QTime(4, 5, 6), Qt::UTC};
     QTemporaryDir fRoot;
     const QString fSource = fRoot.filePath("the source");
@@ -145,6 +147,20 @@ TEST_F(FactoryTemplateTest, Pull_BringsTheMoviesAndNothingElse) {
     }
     EXPECT_TRUE(output.contains("Number of files")) << output.toStdString();
     EXPECT_TRUE(output.contains("Total transferred file size")) << output.toStdString();
+}
+
+TEST_F(FactoryTemplateTest, OtherKinds_BringThemAndNothingElse) {
+    for (const char* name : {"a.mov", "b.mkv", "c.MXF", "d.m2ts", "e.mts", "f.wmv", "g.WEBM"})
+        make(QString::fromLatin1(name));
+    MovieKinds kinds;
+    for (std::size_t i = 0; i < cMovieKinds.size(); ++i) {
+        const QStringView suffix = cMovieKinds[i].suffix;
+        kinds[i] = suffix == u"mxf" || suffix == u"m2ts" || suffix == u"webm";
+    }
+    fTemplate = templateWithKinds(kinds);
+    const QString output = run(fSource + u'/', QString(), QString());
+    EXPECT_EQ(contentOf(fDestination), (QSet<QString>{"c.MXF", "d.m2ts", "g.WEBM"}))
+        << output.toStdString();
 }
 
 TEST_F(FactoryTemplateTest, SecondPull_NamesNoFile) {

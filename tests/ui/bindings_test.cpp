@@ -2,6 +2,7 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
 #include "ui/widgets/bindings.h"
+#include "ui/widgets/seconds_box.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -10,6 +11,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -212,6 +214,73 @@ TEST_F(BindingsTest, NumberOutOfRange_StaysStored) {
     bindings.number(box, cKey);
     EXPECT_EQ(box.value(), 0.0);
     EXPECT_EQ(defaults.doubleForKey(cKey), -5.0);
+}
+
+TEST_F(BindingsTest, Seconds_AreShownAsTheyAreStored) {
+    auto& box = add<SecondsBox>();
+    box.setSpecialValueText(QStringLiteral("automatic"));
+    bindings.number(box, cKey);
+    show();
+    const std::pair<QVariant, QString> cases[] = {
+        {0.04, QStringLiteral("0.04")},
+        {100000, QStringLiteral("100000")},
+        {1e-9, QStringLiteral("0.000000001")},
+        {2500000.125, QStringLiteral("2500000.125")},
+        {QStringLiteral("12.50"), QStringLiteral("12.5")},
+        {0, QStringLiteral("automatic")},
+        {-5.0, QStringLiteral("automatic")},
+        {QStringLiteral("soon"), QStringLiteral("automatic")}};
+    for (const auto& [value, text] : cases) {
+        setOutside(value);
+        EXPECT_EQ(box.text(), text);
+        const std::size_t before = defaults.changes().size();
+        box.setFocus();
+        QTest::keyClick(&box, Qt::Key_Tab);
+        EXPECT_FALSE(box.hasFocus());
+        EXPECT_EQ(box.text(), text) << "after a look";
+        EXPECT_EQ(defaults.changes().size(), before) << qPrintable(text);
+    }
+}
+
+TEST_F(BindingsTest, TypedSeconds_AreStoredAsTyped) {
+    auto& box = add<SecondsBox>();
+    defaults.setObject(cKey, 30.0);
+    bindings.number(box, cKey);
+    show();
+    for (const auto& [typed, value] : {std::pair("0.04", 0.04), std::pair("100000", 100000.0),
+                                       std::pair("0.000001", 0.000001), std::pair("0", 0.0)}) {
+        box.setFocus();
+        box.selectAll();
+        QTest::keyClicks(&box, QString::fromLatin1(typed));
+        other->setFocus();
+        EXPECT_EQ(stored(), QVariant(value)) << typed;
+    }
+}
+
+void turnWheelOver(QWidget& control) {
+    const QPointF middle(control.rect().center());
+    QWheelEvent event(middle, control.mapToGlobal(middle), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&control, &event);
+}
+
+TEST_F(BindingsTest, WheelOverAControlWithoutTheFocus_ChangesNothing) {
+    auto& seconds = add<SecondsBox>();
+    auto& box = add<QComboBox>();
+    box.addItem(QStringLiteral("none"), 30);
+    box.addItem(QStringLiteral("newer"), 29);
+    defaults.setObject(cKey, 30);
+    bindings.number(seconds, cKey);
+    bindings.choice(box, cKey, [](int number) { return QString::number(number); });
+    show();
+    for (QWidget* control : std::initializer_list<QWidget*>{&seconds, &box}) {
+        turnWheelOver(*control);
+        EXPECT_FALSE(control->hasFocus());
+        EXPECT_EQ(stored(), QVariant(30LL)) << control->metaObject()->className();
+    }
+    seconds.setFocus();
+    turnWheelOver(seconds);
+    EXPECT_EQ(defaults.doubleForKey(cKey), 29.0);
 }
 
 TEST_F(BindingsTest, ControlThatIsGone_HearsNothing) {

@@ -17,6 +17,7 @@ kelvo_tests(unit
     unit/health_words_test.cpp
     unit/key_state_test.cpp
     unit/login_item_setting_test.cpp
+    unit/movie_kinds_test.cpp
     unit/movie_pull_test.cpp
     unit/name_lines_test.cpp
     unit/network_path_monitoring_test.cpp
@@ -52,6 +53,8 @@ kelvo_tests(unit
     unit/settings_commands_test.cpp
     unit/sync_chain_test.cpp
     unit/sync_cycle_test.cpp
+    unit/template_faults_test.cpp
+    unit/template_setting_test.cpp
     unit/text_test.cpp
     unit/view_controller_setup_test.cpp
     unit/view_controller_test.cpp

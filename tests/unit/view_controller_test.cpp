@@ -178,6 +178,42 @@ TEST_F(ViewControllerTest, OptionTagChange_RefreshesTheExample) {
         console.printed().contains(QStringLiteral("current prefRsyncCommandOptionTag = 101")));
 }
 
+TEST_F(ViewControllerTest, TemplateChanges_RefreshTheExampleOnceAndQuietly) {
+    load();
+    defaults.setObject(prefRsyncCommandOptionTag, 102);
+    mainQueue.advance(1.0);
+    console.clear();
+    const std::size_t before = defaults.changes().size();
+    for (const char* typed : {"r", "r %@", "r %@99 x %@99"})
+        defaults.setObject(prefRsyncCommandString1, QString::fromLatin1(typed));
+    mainQueue.advance(0.09);
+    EXPECT_NE(defaults.stringForKey(prefRsyncCommandStringExample),
+              QStringLiteral("r --ignore-existing x --ignore-existing"));
+    mainQueue.advance(0.01);
+    EXPECT_EQ(defaults.stringForKey(prefRsyncCommandStringExample),
+              QStringLiteral("r --ignore-existing x --ignore-existing"));
+    EXPECT_EQ(defaults.changes().size(), before + 4) << "three templates, one example";
+    EXPECT_EQ(console.printed(), QStringList());
+    defaults.setObject(prefRsyncCommandString1, QStringLiteral("again %@99"));
+    mainQueue.advance(0.1);
+    EXPECT_EQ(defaults.stringForKey(prefRsyncCommandStringExample),
+              QStringLiteral("again --ignore-existing"));
+}
+
+TEST_F(ViewControllerTest, TemplateChangeWithoutAnOption_LeavesTheExample) {
+    for (const QVariant& tag : {QVariant(), QVariant(103)}) {
+        // The program ends at a tag that does not exist; only a template may change here.
+        MemoryDefaults store({{prefRsyncCommandStringExample.toString(), QStringLiteral("old")}});
+        store.setObject(prefRsyncCommandOptionTag, tag);
+        const RsyncCommand command(store, console);
+        CommandExample example(store, mainQueue, command, console);
+        example.followTemplate();
+        store.setObject(prefRsyncCommandString1, QStringLiteral("new"));
+        mainQueue.advance(0.1);
+        EXPECT_EQ(store.stringForKey(prefRsyncCommandStringExample), QStringLiteral("old"));
+    }
+}
+
 TEST_F(ViewControllerTest, ExampleWithoutTemplateOrTag_SaysSo) {
     load();
     controller.ibUpdateTabViewItem();

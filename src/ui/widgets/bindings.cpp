@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -45,6 +46,25 @@ void setEdited(QPlainTextEdit& field, bool edited) {
 
 /// Marks the item that stands for a stored value outside the list.
 constexpr int cForeignRole = Qt::UserRole + 1;
+
+/// Leaves the wheel over a control without the focus to whatever scrolls there.
+class WheelGuard final : public QObject {
+public:
+    explicit WheelGuard(QWidget& control) : QObject(&control), fControl(control) {
+        control.setFocusPolicy(Qt::StrongFocus);
+        control.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Wheel || fControl.hasFocus())
+            return false;
+        event->ignore();
+        return true;
+    }
+
+private:
+    QWidget& fControl;
+};
 
 } // namespace
 
@@ -119,6 +139,7 @@ void Bindings::flag(QAbstractButton& control, QStringView key, bool negated) {
 
 void Bindings::choice(QComboBox& control, QStringView key,
                       const std::function<QString(int)>& foreignTitle) {
+    new WheelGuard(control); // the control's child
     follow(control, {key}, [this, &control, key, foreignTitle] {
         const QSignalBlocker blocker(control);
         if (const int foreign = control.findData(true, cForeignRole); foreign >= 0)
@@ -140,6 +161,7 @@ void Bindings::choice(QComboBox& control, QStringView key,
 }
 
 void Bindings::number(QDoubleSpinBox& control, QStringView key) {
+    new WheelGuard(control); // the control's child
     follow(control, {key}, [this, &control, key] {
         const QSignalBlocker blocker(control);
         control.setValue(fDefaults.doubleForKey(key));

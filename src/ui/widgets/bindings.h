@@ -45,17 +45,20 @@ public:
     void flag(QAbstractButton& control, QStringView key, bool negated = false);
 
     /// Stores the data (an integer) of the item a person chooses. A value without an item is shown
-    /// as one of its own, named by `foreignTitle`, for as long as it lasts.
+    /// as one of its own, named by `foreignTitle`, for as long as it lasts. The mouse wheel chooses
+    /// only while the control has the keyboard focus.
     void choice(QComboBox& control, QStringView key,
                 const std::function<QString(int)>& foreignTitle);
 
     /// A value outside the control's range is shown at the nearer end and stays stored as it is.
+    /// The mouse wheel changes it only while the control has the keyboard focus.
     void number(QDoubleSpinBox& control, QStringView key);
 
     /// Calls `show` now and after every change of one of `keys`, while `context` lives.
     void follow(QObject& context, const std::vector<QStringView>& keys, std::function<void()> show);
 
     UserDefaults& defaults() { return fDefaults; }
+    DispatchQueue& mainQueue() { return fMainQueue; }
 
 private:
     template <typename Field>
