@@ -81,11 +81,11 @@ QString commandReport(const CommandRecord& command, PassCause cause) {
     report += u"$ " + withVisibleControls(command.command) + u"\n(" + Words::listed(facts) +
               u")\n" + shownOutput(command.text.head);
     if (command.text.leftOut > 0)
-        report += u'
-' + (command.text.leftOut == 1 ? Words::tr("… 1 byte left out …")
-                                : Words::tr("… %L1 bytes left out …").arg(command.text.leftOut)) +
-                  u'
-' + shownOutput(command.text.tail);
+        report += u'\n' +
+                  (command.text.leftOut == 1
+                       ? Words::tr("… 1 byte left out …")
+                       : Words::tr("… %L1 bytes left out …").arg(command.text.leftOut)) +
+                  u'\n' + shownOutput(command.text.tail);
     return report.endsWith(u'\n') ? report : QString(report + u'\n');
 }
 
