@@ -2,12 +2,14 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
 #include "support/array_controller.h"
+#include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/service_list.h"
 #include "ui/widgets/widget_controls.h"
 #include "ui/widgets/widget_main_view.h"
 #include "ui/widgets/widget_open_panel.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -128,17 +130,21 @@ TEST_F(WidgetMainViewTest, HiddenApplication_ComesBackToTheFront) {
 
 TEST_F(WidgetMainViewTest, FoundServices_AreRowsOfPlainText) {
     ArrayController list;
-    showServices(list, window.foundServices());
     DNSSD_Service service;
     service.name = QStringLiteral("<b>Mac</b>");
     service.ip4Address = QStringLiteral("10.0.0.1");
     list.setContent(DNSSD_Services{service});
-    const QAbstractItemModel& model = *window.foundServices().model();
+    DiagnosticsTab tab;
+    QTableView& table = tab.foundServices();
+    showServices(list, table);
+    const QAbstractItemModel& model = *table.model();
     ASSERT_EQ(model.rowCount(), 1);
     EXPECT_EQ(model.index(0, 0).data().toString(), u"<b>Mac</b>");
     EXPECT_EQ(list.selectionIndex(), -1);
-    window.foundServices().selectRow(0);
+    table.selectRow(0);
     EXPECT_EQ(list.selectionIndex(), 0);
+    list.setContent(DNSSD_Services{service, service});
+    EXPECT_EQ(model.rowCount(), 2);
     list.setContent(std::nullopt);
     EXPECT_EQ(model.rowCount(), 0);
     EXPECT_EQ(list.content(), std::nullopt);

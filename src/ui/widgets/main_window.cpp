@@ -17,7 +17,6 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QTableView>
 
 #include <utility>
 
@@ -27,17 +26,10 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
       fSyncTab(new SyncTab(fBindings)), fRemoteTab(new RemoteTab(fBindings)),
       fActivityTab(new ActivityTab), fSettingsTab(new SettingsTab(fBindings)) {
     fUi->setupUi(this);
-    auto* diagnostics = new DiagnosticsTab;
-    fFoundServices = &diagnostics->foundServices();
     addTab(fSyncTab, "sync", tr("Sync"));
     addTab(fRemoteTab, "remote", tr("Remote Mac"));
     addTab(fSettingsTab, "prefs", tr("Settings"));
-    addTab(diagnostics, "diagnostics", tr("Diagnostics"));
     addTab(fActivityTab, "activity", tr("Activity"));
-    for (QPushButton* button : findChildren<QPushButton*>()) {
-        button->setToolTip(button->accessibleDescription());
-        button->installEventFilter(this);
-    }
     ibStartButton().setToolTip({}); // Its title says it all.
     setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
     setAction(QStringLiteral("showAllArrivals"), [this] {
@@ -46,6 +38,7 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     });
     connect(&ibStartButton(), &QPushButton::toggled, this, [this] { showStartIcon(); });
     showStartIcon();
+    fBindings.follow(*this, {prefShowDiagnostics}, [this] { followDiagnostics(); });
     restoreLook();
     connect(fUi->tabView, &QTabWidget::currentChanged, this, [this](int index) {
         fDefaults.setObject(prefMainWindowTab, tabs()[static_cast<std::size_t>(index)].identifier);
@@ -67,6 +60,10 @@ MainWindow::~MainWindow() {
 void MainWindow::addTab(QWidget* tab, const char* identifier, const QString& label) {
     tab->setProperty("identifier", QString::fromLatin1(identifier));
     fUi->tabView->addTab(tab, label);
+    for (QPushButton* button : tab->findChildren<QPushButton*>()) {
+        button->setToolTip(button->accessibleDescription());
+        button->installEventFilter(this);
+    }
 }
 
 // -- actions
@@ -91,7 +88,7 @@ void MainWindow::showStartIcon() {
 std::vector<MainWindow::Tab> MainWindow::tabs() const {
     std::vector<Tab> all;
     all.reserve(static_cast<std::size_t>(fUi->tabView->count()));
-    for (int i = 0; i < fUi->tabView->count(); ++i)
+    for (int i = 0; i < fUi->tabView->count() && fUi->tabView->isTabVisible(i); ++i)
         all.push_back(
             {fUi->tabView->widget(i)->property("identifier").toString(), fUi->tabView->tabText(i)});
     return all;
@@ -111,6 +108,41 @@ void MainWindow::showTab(const QString& identifier) {
         if (all[i].identifier == identifier)
             showTab(static_cast<int>(i));
     }
+}
+
+void MainWindow::setDiagnosticsShown(bool shown) {
+    fDefaults.setObject(prefShowDiagnostics, shown);
+    followDiagnostics();
+    if (shown)
+        showTab(QStringLiteral("diagnostics"));
+}
+
+bool MainWindow::diagnosticsAreShown() const {
+    return fDefaults.boolForKey(prefShowDiagnostics);
+}
+
+void MainWindow::whenDiagnosticsAreMade(const std::function<void(DiagnosticsTab&)>& made) {
+    if (fDiagnosticsTab)
+        made(*fDiagnosticsTab);
+    else
+        connect(this, &MainWindow::diagnosticsMade, this, made);
+}
+
+/// The page is the last one: the places of the others stay the same.
+void MainWindow::followDiagnostics() {
+    const bool shown = diagnosticsAreShown();
+    if (shown && !fDiagnosticsTab) {
+        fDiagnosticsTab = new DiagnosticsTab;
+        addTab(fDiagnosticsTab, "diagnostics", tr("Diagnostics"));
+        Q_EMIT diagnosticsMade(*fDiagnosticsTab);
+    }
+    const int place = fUi->tabView->indexOf(fDiagnosticsTab);
+    if (place < 0)
+        return;
+    if (!shown && place == currentTab())
+        showTab(QStringLiteral("sync"));
+    fUi->tabView->setTabVisible(place, shown);
+    Q_EMIT tabsChanged();
 }
 
 void MainWindow::setWillSelectTab(std::function<void(const Tab&)> willSelectTab) {
@@ -210,10 +242,6 @@ void MainWindow::showActivity(std::optional<qint64> pass) {
     bringToFront();
     if (pass)
         fActivityTab->showPass(*pass);
-}
-
-QTableView& MainWindow::foundServices() {
-    return *fFoundServices;
 }
 
 } // namespace kelvo
