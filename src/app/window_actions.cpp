@@ -2,6 +2,7 @@
 
 #include "app/start/app_delegate.h"
 #include "app/version.h"
+#include "ports/status_menu.h"
 #include "ports/user_defaults.h"
 #include "ports/workspace.h"
 #include "settings/preference_keys.h"
@@ -34,25 +35,29 @@ constexpr Wire cButtons[] = {
     {"ibRevealButton1", &ViewController::ibRevealSourcePath},
     {"ibRevealButton2", &ViewController::ibRevealDestPath},
     {"ibSelectSourceByBonjor", &ViewController::ibSelectSourceByBonjor},
+    {"ibGenerateSSHKeyStuff", &ViewController::ibGenerateSSHKeyStuff},
+    {"createNewPrivatePublicKeys", &ViewController::createNewPrivatePublicKeys},
+    {"checkKeyState", &ViewController::checkKeyState},
+    {"ibTestShellCommand", &ViewController::ibTestShellCommand},
+    {"ibRevealSourcePathSMB", &ViewController::ibRevealSourcePathSMB},
+    {"ibRevealSourcePathSMBdebug", &ViewController::ibRevealSourcePathSMBdebug},
+    {"ibSyncNow", &ViewController::ibSyncNow},
+    {"ibCancelPass", &ViewController::ibCancelPass},
+};
+
+/// Those of the Diagnostics tab.
+constexpr Wire cDiagnosticsButtons[] = {
     {"ibSelectDestByBonjor", &ViewController::ibSelectDestByBonjor},
     {"ibSearchBonjour", &ViewController::ibSearchBonjour},
     {"ibShowBonjourListInfo", &ViewController::ibShowBonjourListInfo},
     {"ibTestNWBrowser", &ViewController::ibTestNWBrowser},
     {"ibAction1", &ViewController::ibAction1},
     {"ibOpenTempFolder", &ViewController::ibOpenTempFolder},
-    {"ibGenerateSSHKeyStuff", &ViewController::ibGenerateSSHKeyStuff},
-    {"createNewPrivatePublicKeys", &ViewController::createNewPrivatePublicKeys},
     {"createNewPrivatePublicKeysOLD", &ViewController::createNewPrivatePublicKeysOLD},
-    {"checkKeyState", &ViewController::checkKeyState},
-    {"ibTestShellCommand", &ViewController::ibTestShellCommand},
     {"ibTestShellCommand111", &ViewController::ibTestShellCommand111},
-    {"ibRevealSourcePathSMB", &ViewController::ibRevealSourcePathSMB},
-    {"ibRevealSourcePathSMBdebug", &ViewController::ibRevealSourcePathSMBdebug},
     {"ibRevealSourcePathSMBdebugOLD", &ViewController::ibRevealSourcePathSMBdebugOLD},
     {"ibSetNoFirstResponder", &ViewController::ibSetNoFirstResponder},
     {"ibQuitAndRelaunch", &ViewController::ibQuitAndRelaunch},
-    {"ibSyncNow", &ViewController::ibSyncNow},
-    {"ibCancelPass", &ViewController::ibCancelPass},
     {"ibSuspendTimer", &ViewController::ibSuspendTimer},
     {"ibResumeTimer", &ViewController::ibResumeTimer},
     {"ibKillTimer", &ViewController::ibKillTimer},
@@ -67,6 +72,30 @@ constexpr Wire cOnceButtons[] = {
 
 TabViewItem item(const MainWindow::Tab& tab) {
     return {tab.name, tab.identifier}; // It is printed.
+}
+
+template <typename Wires>
+void sendButtons(MainWindow& window, ViewController& controller, const Wires& wires) {
+    for (const Wire& wire : wires) {
+        const QString name = QString::fromLatin1(wire.control);
+        auto sender = std::make_shared<WidgetControl>(window.button(name));
+        window.setAction(name, [&controller, action = wire.action, sender] {
+            (controller.*action)(sender.get());
+        });
+    }
+}
+
+QStringList tabTitles(const MainWindow& window) {
+    QStringList titles;
+    for (const MainWindow::Tab& tab : window.tabs())
+        titles.append(tab.label);
+    return titles;
+}
+
+TrayIconState trayIconState(const AppDelegate& delegate, const StatusMenu& statusMenu) {
+    if (!delegate.statusItemIsSetUp())
+        return TrayIconState::Removed;
+    return statusMenu.isReachable() ? TrayIconState::Shown : TrayIconState::Waiting;
 }
 
 void showAbout(MainWindow& window) {
@@ -84,34 +113,32 @@ QStringList sentButtons() {
     QStringList names{QString::fromLatin1(cRevealInFinder)};
     for (const Wire& wire : cButtons)
         names.append(QString::fromLatin1(wire.control));
+    for (const Wire& wire : cDiagnosticsButtons)
+        names.append(QString::fromLatin1(wire.control));
     for (const Wire& wire : cOnceButtons)
         names.append(QString::fromLatin1(wire.control));
     return names;
 }
 
-OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Workspace& workspace,
-                              const std::shared_ptr<PathControl>& fNsPathControl1) {
-    for (const Wire& wire : cButtons) {
-        const QString name = QString::fromLatin1(wire.control);
-        auto sender = std::make_shared<WidgetControl>(window.button(name));
-        window.setAction(name, [&controller, action = wire.action, sender] {
-            (controller.*action)(sender.get());
-        });
-    }
-    OnceButtons onceButtons;
-    for (const Wire& wire : cOnceButtons) {
-        const QString name = QString::fromLatin1(wire.control);
-        onceButtons.push_back(std::make_unique<WidgetButton>(
-            window.button(name), [&controller, action = wire.action](Control* sender) {
-                (controller.*action)(sender);
-            }));
-    }
-
+void sendWindowActions(MainWindow& window, ViewController& controller, Workspace& workspace,
+                       const std::shared_ptr<PathControl>& fNsPathControl1,
+                       OnceButtons& onceButtons) {
+    sendButtons(window, controller, cButtons);
     // The test button stands in for a click on the path control.
     const auto revealInFinder = [&controller, fNsPathControl1] {
         controller.ibRevealInFinderAction(fNsPathControl1.get());
     };
-    window.setAction(QString::fromLatin1(cRevealInFinder), revealInFinder);
+    window.whenDiagnosticsAreMade([&window, &controller, &onceButtons, revealInFinder](auto&) {
+        sendButtons(window, controller, cDiagnosticsButtons);
+        for (const Wire& wire : cOnceButtons) {
+            const QString name = QString::fromLatin1(wire.control);
+            onceButtons.push_back(std::make_unique<WidgetButton>(
+                window.button(name), [&controller, action = wire.action](Control* sender) {
+                    (controller.*action)(sender);
+                }));
+        }
+        window.setAction(QString::fromLatin1(cRevealInFinder), revealInFinder);
+    });
     QObject::connect(&window.fNsPathControl1(), &PathControlView::partClicked, &window,
                      revealInFinder);
     const auto openPart = [&workspace](const QString& path) { workspace.openFile(path); };
@@ -126,7 +153,6 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
         [&controller](QWidget& field) { controller.controlTextDidEndEditing(textField(field)); });
     window.setWillSelectTab(
         [&controller](const MainWindow::Tab& tab) { controller.tabViewWillSelect(item(tab)); });
-    return onceButtons;
 }
 
 bool askBeforeQuitting(const WorkState& work, const ClosePolicy& policy, UserDefaults& defaults,
@@ -144,11 +170,9 @@ bool askBeforeQuitting(const WorkState& work, const ClosePolicy& policy, UserDef
 }
 
 void addApplicationMenu(MainWindow& window, ViewController& controller, AppDelegate& delegate,
-                        Workspace& workspace, const QString& logFolder,
-                        const std::function<bool()>& mayQuit, const std::function<void()>& quit) {
-    QStringList labels;
-    for (const MainWindow::Tab& tab : window.tabs())
-        labels.append(tab.label);
+                        const StatusMenu& statusMenu, Workspace& workspace,
+                        const QString& logFolder, const std::function<bool()>& mayQuit,
+                        const std::function<void()>& quit) {
     auto* menu = new ApplicationMenu(
         {.quitAndRelaunch =
              [&controller, mayQuit] {
@@ -163,6 +187,7 @@ void addApplicationMenu(MainWindow& window, ViewController& controller, AppDeleg
              },
          .showSettings = [&window] { window.showTab(QStringLiteral("prefs")); },
          .showTab = [&window](int index) { window.showTab(index); },
+         .showDiagnostics = [&window](bool shown) { window.setDiagnosticsShown(shown); },
          .startOrStop = [&controller] { controller.clickStartButton(); },
          .syncNow = [&controller] { controller.ibSyncNow(nullptr); },
          .cancelPass = [&controller] { controller.ibCancelPass(nullptr); },
@@ -170,17 +195,26 @@ void addApplicationMenu(MainWindow& window, ViewController& controller, AppDeleg
          .removeStatusItem = [&delegate] { delegate.ibRemoveStatusItemStuff(nullptr); },
          .delegateQuitAndRelaunch = [&delegate] { delegate.ibQuitAndRelaunch(nullptr); },
          .setupWatchdog = [&delegate] { delegate.ibActionFromDelegate(nullptr); },
+         .trayIcon = [&delegate, &statusMenu] { return trayIconState(delegate, statusMenu); },
          .about = [&window] { showAbout(window); },
          .openLogFolder = [&workspace, logFolder] { workspace.openFile(logFolder); }},
-        labels, &window);
+        tabTitles(window), &window);
     window.setMenuBar(menu);
+    const auto showTabs = [menu, &window] {
+        menu->setTabs(tabTitles(window));
+        menu->setDiagnosticsShown(window.diagnosticsAreShown());
+    };
+    showTabs();
+    QObject::connect(&window, &MainWindow::tabsChanged, menu, showTabs);
     menu->setCurrentTab(window.currentTab());
     QObject::connect(&window, &MainWindow::tabShown, menu, &ApplicationMenu::setCurrentTab);
     menu->setSyncing(window.ibStartButton().isChecked());
     QObject::connect(&window.ibStartButton(), &QPushButton::toggled, menu,
                      &ApplicationMenu::setSyncing);
-    QObject::connect(&window, &MainWindow::workShown, menu,
-                     [menu, &window] { menu->showWork(window.work()); });
+    QObject::connect(&window, &MainWindow::workShown, menu, [menu, &window] {
+        menu->showWork(window.work());
+        menu->showTrayIcon();
+    });
 }
 
 } // namespace kelvo

@@ -16,6 +16,7 @@ class Control;
 class MainWindow;
 class PathControl;
 class SheetPresenter;
+class StatusMenu;
 class UserDefaults;
 class ViewController;
 class WidgetButton;
@@ -28,10 +29,12 @@ using OnceButtons = std::vector<std::unique_ptr<WidgetButton>>;
 /// The names of the buttons whose clicks go to the view controller.
 QStringList sentButtons();
 
-/// Connects every button, path control, field and tab of `window`. All arguments outlive the
-/// window's event loop.
-OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Workspace& workspace,
-                              const std::shared_ptr<PathControl>& fNsPathControl1);
+/// Connects every button, path control, field and tab of `window`, those of the Diagnostics tab as
+/// soon as it is made: its two-state buttons are added to `onceButtons` then. All arguments outlive
+/// the window's event loop.
+void sendWindowActions(MainWindow& window, ViewController& controller, Workspace& workspace,
+                       const std::shared_ptr<PathControl>& fNsPathControl1,
+                       OnceButtons& onceButtons);
 
 /// Asks a person who wants to quit, if `policy` has a question about what `window` shows. True: the
 /// program may end. Blocks as long as the question stands; a program that is told to end meanwhile
@@ -39,9 +42,11 @@ OnceButtons sendWindowActions(MainWindow& window, ViewController& controller, Wo
 bool askBeforeQuitting(const WorkState& work, const ClosePolicy& policy, UserDefaults& defaults,
                        SheetPresenter& alerts);
 
-/// Gives `window` its menu bar. `mayQuit` is asked before the program is ended or started again.
+/// Gives `window` its menu bar. `mayQuit` is asked before the program is ended or started again;
+/// `statusMenu` is only looked at.
 void addApplicationMenu(MainWindow& window, ViewController& controller, AppDelegate& delegate,
-                        Workspace& workspace, const QString& logFolder,
-                        const std::function<bool()>& mayQuit, const std::function<void()>& quit);
+                        const StatusMenu& statusMenu, Workspace& workspace,
+                        const QString& logFolder, const std::function<bool()>& mayQuit,
+                        const std::function<void()>& quit);
 
 } // namespace kelvo

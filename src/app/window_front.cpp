@@ -14,6 +14,7 @@
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/bonjour_sheet.h"
 #include "ui/widgets/checklist_view.h"
+#include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/recent_arrivals.h"
@@ -54,7 +55,8 @@ public:
                                    [this] { fWindow.bringToFront(); })) {
         // Drawing the icon takes a while; the window does not wait for it.
         machine.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
-        showServices(fFoundServices, fWindow.foundServices());
+        fWindow.whenDiagnosticsAreMade(
+            [this](DiagnosticsTab& tab) { showServices(fFoundServices, tab.foundServices()); });
         fWindow.activityTab().setParts({
             .store = machine.passes,
             .workspace = machine.workspace,
@@ -107,7 +109,7 @@ public:
     void sendActionsTo(ViewController& controller, AppDelegate& delegate) override {
         fController = &controller;
         fDelegate = &delegate;
-        fOnceButtons = sendWindowActions(fWindow, controller, fMachine.workspace, fPathControl);
+        sendWindowActions(fWindow, controller, fMachine.workspace, fPathControl, fOnceButtons);
         fWindow.syncTab().setRemedyChosen([this](Remedy remedy) { apply(remedy); });
         fChecklist.emplace(Checklist::Parts{
             .defaults = fMachine.defaults,
@@ -126,8 +128,9 @@ public:
         QObject::connect(&fWindow, &MainWindow::keyStateShown, &fWindow,
                          [this](KeyState state) { fChecklist->setKeyState(state); });
         addApplicationMenu(
-            fWindow, controller, delegate, fMachine.workspace, fMachine.logFolder(),
-            [this] { return mayQuit(); }, [this] { fApplication.terminate(); });
+            fWindow, controller, delegate, fMachine.statusMenu(), fMachine.workspace,
+            fMachine.logFolder(), [this] { return mayQuit(); },
+            [this] { fApplication.terminate(); });
     }
 
 private:

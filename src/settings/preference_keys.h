@@ -30,6 +30,7 @@ inline constexpr QStringView prefShowNotices = u"showNotices";
 inline constexpr QStringView prefShowArrivals = u"showArrivals";
 inline constexpr QStringView prefCommandAfterArrivals = u"commandAfterArrivals";
 inline constexpr QStringView prefQuitWithoutAsking = u"quitWithoutAsking";
+inline constexpr QStringView prefShowDiagnostics = u"showDiagnostics";
 inline constexpr QStringView prefMainWindowSize = u"mainWindowSize";
 inline constexpr QStringView prefMainWindowTab = u"mainWindowTab";
 inline constexpr QStringView prefRecentLaunchDates = u"recentLaunchDates";

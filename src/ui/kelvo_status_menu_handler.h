@@ -34,6 +34,9 @@ public:
     /// what it acted on before. Never set up by this handler: no change.
     void removeStatusMenuStuff();
 
+    /// Whether the icon is there, whichever handler has set it up.
+    bool isSetUp() const { return fPresence.isShown(); }
+
     /// Each prints its entry line and does nothing else.
     void delegatefunction1();
     void delegatefunction2();

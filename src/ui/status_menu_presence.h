@@ -43,6 +43,9 @@ public:
     /// Removes the icon. Nothing happens for targets it was never shown for.
     void remove(const StatusMenuTargets& targets);
 
+    /// Whether it was shown and not removed since, be there a tray or not.
+    bool isShown() const { return fIsWanted; }
+
     /// From now on nothing acts on `targets`; the icon goes with the last ones.
     void forget(const StatusMenuTargets& targets);
 

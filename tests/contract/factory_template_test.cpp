@@ -39,6 +39,7 @@ TEST(FactoryDefaultsTest, Values_HaveTheirTypes) {
         {"showNotices", true},
         {"showArrivals", true},
         {"quitWithoutAsking", false},
+        {"showDiagnostics", false},
     };
     EXPECT_TRUE(sameStoredValue(values, expected)) << ::testing::PrintToString(QVariant(values));
 }

@@ -177,7 +177,7 @@ TEST_F(WindowLabTest, SlowPull_IsSeenUnderWayCancelledAndTakenUpAgain) {
         << program->transcript().toStdString();
     EXPECT_EQ(nearChecksums(cIncoming), remoteChecksums(cRemoteMovies));
     keepPicture("work-resting");
-    screen.keys({QStringLiteral("ctrl+5")});
+    screen.keys({QStringLiteral("ctrl+4")});
     keepPicture("activity-arrived");
 
     screen.keys({QStringLiteral("ctrl+1")});

@@ -179,7 +179,7 @@ TEST_F(WindowSystemTest, StartButton_ByMouseAndByKey) {
 TEST_F(WindowSystemTest, EveryTab_ByKeyAndATextThatIsStored) {
     startAndSettle(quietProfile());
     for (const auto& [key, identifier] :
-         {std::pair("ctrl+3", "prefs"), std::pair("ctrl+4", "diagnostics"),
+         {std::pair("ctrl+3", "prefs"), std::pair("ctrl+4", "activity"),
           std::pair("ctrl+1", "sync"), std::pair("ctrl+2", "remote")}) {
         screen.keys({QString::fromLatin1(key)});
         EXPECT_TRUE(program->waitForLine(

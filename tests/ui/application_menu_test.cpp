@@ -34,6 +34,11 @@ protected:
             .quit = note("quit"),
             .showSettings = note("settings"),
             .showTab = [this](int tab) { done.append(QString(u"tab" + QString::number(tab))); },
+            .showDiagnostics =
+                [this](bool shown) {
+                    done.append(shown ? QStringLiteral("diagnostics")
+                                      : QStringLiteral("no diagnostics"));
+                },
             .startOrStop = note("start"),
             .syncNow = note("now"),
             .cancelPass = note("cancel"),
@@ -41,6 +46,7 @@ protected:
             .removeStatusItem = note("remove"),
             .delegateQuitAndRelaunch = note("delegate"),
             .setupWatchdog = note("watchdog"),
+            .trayIcon = [this] { return trayIcon; },
             .about = note("about"),
             .openLogFolder = note("log"),
         };
@@ -52,6 +58,7 @@ protected:
 
     const QStringList tabs{QStringLiteral("Sync"), QStringLiteral("Remote Mac"),
                            QStringLiteral("Settings"), QStringLiteral("Tests & Tools")};
+    TrayIconState trayIcon = TrayIconState::Shown;
     QStringList done;
 };
 
@@ -101,6 +108,7 @@ TEST_F(ApplicationMenuTest, Shortcuts_AreTheUsualOnesAndUnique) {
 TEST_F(ApplicationMenuTest, EachEntry_CallsItsAction) {
     ApplicationMenu menu(all(), tabs);
     menu.showWork({.maySyncNow = true, .mayCancel = true});
+    menu.setDiagnosticsShown(true);
     for (const char* name :
          {"quitAndRelaunch", "closeWindow", "quit", "showSettings", "showTab1", "showTab4",
           "startOrStop", "syncNow", "cancelPass", "setupStatusItem", "removeStatusItem",
@@ -158,6 +166,95 @@ TEST_F(ApplicationMenuTest, TrayEntries_SayWhatTheyDo) {
     for (const char* name :
          {"setupStatusItem", "removeStatusItem", "delegateQuitAndRelaunch", "setupWatchdog"})
         EXPECT_FALSE(entry(menu, name)->statusTip().isEmpty()) << name;
+}
+
+TEST_F(ApplicationMenuTest, EntriesForFindingFaults_AreSeenOnlyOnDemand) {
+    ApplicationMenu menu(all(), tabs);
+    for (const bool shown : {false, true, false}) {
+        menu.setDiagnosticsShown(shown);
+        EXPECT_EQ(entry(menu, "showDiagnostics")->isChecked(), shown);
+        for (const char* name : {"delegateQuitAndRelaunch", "setupWatchdog"})
+            EXPECT_EQ(entry(menu, name)->isVisible(), shown) << name;
+    }
+    const ApplicationMenu fresh(all(), tabs);
+    EXPECT_FALSE(entry(fresh, "setupWatchdog")->isVisible());
+    EXPECT_TRUE(done.isEmpty());
+    entry(menu, "showDiagnostics")->trigger();
+    entry(menu, "showDiagnostics")->trigger();
+    EXPECT_EQ(done.join(u' '), u"diagnostics no diagnostics");
+}
+
+TEST_F(ApplicationMenuTest, TabThatComesAndGoes_HasItsEntryMeanwhile) {
+    ApplicationMenu menu(all(), tabs);
+    menu.setCurrentTab(3);
+    menu.setTabs(tabs + QStringList{QStringLiteral("Fifth")});
+    QAction* fifth = entry(menu, "showTab5");
+    EXPECT_EQ(fifth->text(), u"&5 Fifth");
+    EXPECT_EQ(fifth->shortcut().toString(), u"Ctrl+5");
+    fifth->trigger();
+    EXPECT_EQ(done.join(u' '), u"tab4");
+    menu.setTabs(tabs);
+    EXPECT_FALSE(fifth->isVisible());
+    EXPECT_TRUE(entry(menu, "showTab4")->isVisible());
+    menu.setTabs(tabs + QStringList{QStringLiteral("Another")});
+    EXPECT_TRUE(fifth->isVisible());
+    EXPECT_EQ(fifth->text(), u"&5 Another");
+    const QList<QAction*> entries = menu.findChild<QMenu*>(QStringLiteral("viewMenu"))->actions();
+    EXPECT_LT(entries.indexOf(fifth), entries.indexOf(entry(menu, "showDiagnostics")));
+}
+
+TEST_F(ApplicationMenuTest, EntriesThatCanDoNothing_AreDisabledAndSayWhy) {
+    ApplicationMenu menu(all(), tabs);
+    menu.setDiagnosticsShown(true);
+    const auto look = [&](TrayIconState state) {
+        trayIcon = state;
+        menu.showTrayIcon();
+        QStringList open;
+        for (const char* name :
+             {"setupStatusItem", "removeStatusItem", "delegateQuitAndRelaunch", "setupWatchdog"}) {
+            const QAction* found = entry(menu, name);
+            EXPECT_FALSE(found->toolTip().isEmpty()) << name;
+            EXPECT_EQ(found->toolTip() == found->statusTip(), found->isEnabled()) << name;
+            if (found->isEnabled())
+                open.append(QString::fromLatin1(name));
+        }
+        return open.join(u' ');
+    };
+    EXPECT_EQ(look(TrayIconState::Shown),
+              u"removeStatusItem delegateQuitAndRelaunch setupWatchdog");
+    EXPECT_EQ(entry(menu, "setupStatusItem")->toolTip(), u"The icon is in the tray already");
+    EXPECT_EQ(look(TrayIconState::Waiting),
+              u"removeStatusItem delegateQuitAndRelaunch setupWatchdog");
+    EXPECT_EQ(entry(menu, "setupStatusItem")->toolTip(),
+              u"The icon appears as soon as the desktop has a tray for it");
+    EXPECT_EQ(look(TrayIconState::Removed), u"setupStatusItem setupWatchdog");
+
+    const auto why = [&](const WorkState& work, const char* name) {
+        menu.showWork(work);
+        const QAction* found = entry(menu, name);
+        return found->isEnabled() ? QString() : found->toolTip();
+    };
+    EXPECT_EQ(why({.phase = WorkPhase::Off}, "syncNow"), u"Syncing is off");
+    EXPECT_EQ(why({.phase = WorkPhase::Missing}, "syncNow"),
+              u"A pass begins as soon as nothing is missing");
+    EXPECT_EQ(why({.phase = WorkPhase::Running}, "syncNow"), u"A pass runs already");
+    EXPECT_EQ(why({.phase = WorkPhase::Resting}, "syncNow"), u"The next pass begins in a moment");
+    EXPECT_EQ(why({.maySyncNow = true}, "syncNow"), u"");
+    EXPECT_EQ(entry(menu, "syncNow")->toolTip(), u"Begins the next pass now");
+    EXPECT_EQ(why({.phase = WorkPhase::Resting}, "cancelPass"), u"No pass runs");
+    EXPECT_EQ(why({.phase = WorkPhase::Cancelling}, "cancelPass"),
+              u"The pass is being cancelled already");
+}
+
+TEST_F(ApplicationMenuTest, TrayEntries_AreAskedAboutBeforeAndAfterEachLook) {
+    ApplicationMenuActions actions = all();
+    actions.removeStatusItem = [this] { trayIcon = TrayIconState::Removed; };
+    ApplicationMenu menu(actions, tabs);
+    Q_EMIT menu.findChild<QMenu*>(QStringLiteral("trayMenu"))->aboutToShow();
+    EXPECT_FALSE(entry(menu, "setupStatusItem")->isEnabled());
+    entry(menu, "removeStatusItem")->trigger();
+    EXPECT_FALSE(entry(menu, "removeStatusItem")->isEnabled());
+    EXPECT_TRUE(entry(menu, "setupStatusItem")->isEnabled());
 }
 
 class EditMenuTest : public ::testing::Test {

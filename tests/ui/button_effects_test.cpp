@@ -43,7 +43,11 @@ struct World : ViewControllerWorld {
         files.folders = {text("/source"), text("/destination")};
         shell.answerTo(text("whoami"), text("ann"));
         openPanel.answer = {.ok = true, .paths = {text("/chosen")}};
+        defaults.setObject(prefShowDiagnostics, true);
         load();
+        sendWindowActions(mainWindow, controller, workspace,
+                          std::make_shared<WidgetPathControl>(mainWindow.fNsPathControl1()),
+                          onceButtons);
         mainWindow.showWork({.phase = WorkPhase::Running, .maySyncNow = true, .mayCancel = true});
     }
 
@@ -97,9 +101,7 @@ struct World : ViewControllerWorld {
 
     QStringList events;
     MainWindow mainWindow{defaults, mainQueue};
-    OnceButtons onceButtons =
-        sendWindowActions(mainWindow, controller, workspace,
-                          std::make_shared<WidgetPathControl>(mainWindow.fNsPathControl1()));
+    OnceButtons onceButtons;
 
 private:
     std::size_t fChanges = 0;

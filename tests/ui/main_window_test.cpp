@@ -37,6 +37,7 @@ namespace {
 class MainWindowTest : public ::testing::Test {
 protected:
     MainWindowTest() {
+        set(prefShowDiagnostics, true);
         window.settingsTab().setLoginItem(loginItem);
         window.activityTab().setParts({.store = store,
                                        .workspace = workspace,

@@ -2,10 +2,13 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
+#include "settings/preference_keys.h"
+#include "ui/status_line.h"
 #include "ui/widgets/application_menu.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/recent_arrivals.h"
+#include "ui/widgets/status_field_view.h"
 #include "ui/widgets/sync_tab.h"
 
 #include <QApplication>
@@ -405,6 +408,22 @@ TEST_F(SyncTabTest, SmallWindow_ScrollsDownOnlyAndNothingOverlaps) {
 TEST_F(SyncTabTest, StartButton_IsAsHighAsTheOthers) {
     QCoreApplication::processEvents();
     EXPECT_EQ(window.ibStartButton().height(), button("ibSyncNow").height());
+}
+
+TEST_F(SyncTabTest, SavedStatusText_StandsUntilTheFirstMessage) {
+    defaults.setObject(prefStatusTextfieldString, QStringLiteral("<b>Saved</b>"));
+    MainWindow next(defaults, mainQueue);
+    const auto* shown = next.findChild<QLabel*>(QStringLiteral("statusText"));
+    EXPECT_EQ(shown->text(), u"<b>Saved</b>");
+    const auto field = std::make_shared<WidgetStatusField>(next.ibStatusTextField());
+    StatusLine line(defaults, mainQueue, field);
+    line.updateStatusMessage(QStringLiteral("Resting a bit ..."), StatusColor::Black, true);
+    mainQueue.runDue();
+    EXPECT_EQ(shown->text(), u"<b>Saved</b>");
+    mainQueue.advance(0.2);
+    EXPECT_EQ(shown->text(), u"Resting a bit ...") << "the text that is wiped takes none with it";
+    const MainWindow last(defaults, mainQueue);
+    EXPECT_EQ(last.findChild<QLabel*>(QStringLiteral("statusText"))->text(), u"");
 }
 
 } // namespace

@@ -11,6 +11,7 @@ kelvo_tests(ui WIDGETS
     ui/button_effects_test.cpp
     ui/checklist_view_test.cpp
     ui/day_chart_test.cpp
+    ui/diagnostics_tab_test.cpp
     ui/icons_test.cpp
     ui/language_test.cpp
     ui/main_window_test.cpp

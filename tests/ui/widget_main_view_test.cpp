@@ -2,12 +2,14 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
 #include "support/array_controller.h"
+#include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/service_list.h"
 #include "ui/widgets/widget_controls.h"
 #include "ui/widgets/widget_main_view.h"
 #include "ui/widgets/widget_open_panel.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -21,6 +23,8 @@
 #include <QWindow>
 
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 namespace kelvo {
 namespace {
@@ -128,17 +132,21 @@ TEST_F(WidgetMainViewTest, HiddenApplication_ComesBackToTheFront) {
 
 TEST_F(WidgetMainViewTest, FoundServices_AreRowsOfPlainText) {
     ArrayController list;
-    showServices(list, window.foundServices());
     DNSSD_Service service;
     service.name = QStringLiteral("<b>Mac</b>");
     service.ip4Address = QStringLiteral("10.0.0.1");
     list.setContent(DNSSD_Services{service});
-    const QAbstractItemModel& model = *window.foundServices().model();
+    DiagnosticsTab tab;
+    QTableView& table = tab.foundServices();
+    showServices(list, table);
+    const QAbstractItemModel& model = *table.model();
     ASSERT_EQ(model.rowCount(), 1);
     EXPECT_EQ(model.index(0, 0).data().toString(), u"<b>Mac</b>");
     EXPECT_EQ(list.selectionIndex(), -1);
-    window.foundServices().selectRow(0);
+    table.selectRow(0);
     EXPECT_EQ(list.selectionIndex(), 0);
+    list.setContent(DNSSD_Services{service, service});
+    EXPECT_EQ(model.rowCount(), 2);
     list.setContent(std::nullopt);
     EXPECT_EQ(model.rowCount(), 0);
     EXPECT_EQ(list.content(), std::nullopt);
@@ -160,13 +168,42 @@ protected:
             ASSERT_TRUE(dialog);
             title = dialog->windowTitle();
             act(*dialog);
+            if (dialog->isVisible()) {
+                ADD_FAILURE() << "the panel still stands open";
+                dialog->reject();
+            }
         });
         return panel.selectDirectoryUrl();
     }
+    static QPushButton* openButton(QFileDialog& dialog) {
+        return dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
+    }
     static void pressOpen(QFileDialog& dialog) {
-        auto* open = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return open->isEnabled(); }));
-        open->click();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return openButton(dialog)->isEnabled(); }, 2000));
+        openButton(dialog)->click();
+    }
+    /// The rows that can be seen, of the test's folder.
+    QAbstractItemView& list(QFileDialog& dialog) {
+        dialog.setDirectory(folder.path());
+        for (const char* name : {"listView", "treeView"}) {
+            auto* rows = dialog.findChild<QAbstractItemView*>(QString::fromLatin1(name));
+            if (rows->isVisible())
+                return *rows;
+        }
+        throw std::runtime_error("the panel has no list");
+    }
+    /// The row named `name`, once the panel has read it.
+    static QModelIndex row(QAbstractItemView& rows, QStringView name) {
+        QModelIndex found;
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            for (int at = 0; at < rows.model()->rowCount(rows.rootIndex()); ++at) {
+                const QModelIndex each = rows.model()->index(at, 0, rows.rootIndex());
+                if (each.data().toString() == name)
+                    found = each;
+            }
+            return found.isValid();
+        }));
+        return found;
     }
 
     const QTemporaryDir folder;
@@ -185,15 +222,76 @@ TEST_F(WidgetOpenPanelTest, Folder_IsChosen) {
     EXPECT_EQ(title, u"Select Directory");
 }
 
-TEST_F(WidgetOpenPanelTest, File_IsChosenToo) {
-    const QString wanted = folder.filePath(QStringLiteral("a.mov"));
+TEST_F(WidgetOpenPanelTest, FileClicked_IsOpenedByTheButton) {
+    for (const QFileDialog::ViewMode mode : {QFileDialog::List, QFileDialog::Detail}) {
+        EXPECT_EQ(choose([&](QFileDialog& dialog) {
+                      dialog.setViewMode(mode);
+                      auto& rows = list(dialog);
+                      const QModelIndex file = row(rows, u"a.mov");
+                      QTest::mouseClick(rows.viewport(), Qt::LeftButton, {},
+                                        rows.visualRect(file).center());
+                      pressOpen(dialog);
+                  }),
+                  folder.filePath(QStringLiteral("a.mov")));
+    }
+}
+
+TEST_F(WidgetOpenPanelTest, FileReachedByKeys_IsOpenedByReturnAndByTheButton) {
+    for (const bool byReturn : {true, false}) {
+        EXPECT_EQ(choose([&](QFileDialog& dialog) {
+                      auto& rows = list(dialog);
+                      const int file = row(rows, u"a.mov").row();
+                      const QModelIndex other = row(rows, u"Movies");
+                      rows.setCurrentIndex(other);
+                      QTest::keyClick(&rows, file > other.row() ? Qt::Key_Down : Qt::Key_Up);
+                      EXPECT_EQ(rows.currentIndex().data().toString(), u"a.mov");
+                      if (byReturn)
+                          QTest::keyClick(&rows, Qt::Key_Return);
+                      else
+                          pressOpen(dialog);
+                  }),
+                  folder.filePath(QStringLiteral("a.mov")));
+    }
+}
+
+TEST_F(WidgetOpenPanelTest, FileTyped_IsOpenedByReturnAndByTheButton) {
+    for (const bool byReturn : {true, false}) {
+        EXPECT_EQ(choose([&](QFileDialog& dialog) {
+                      row(list(dialog), u"a.mov");
+                      auto* field = dialog.findChild<QLineEdit*>();
+                      field->setFocus();
+                      QTest::keyClicks(field, QStringLiteral("a.mov"));
+                      if (byReturn)
+                          QTest::keyClick(field, Qt::Key_Return);
+                      else
+                          pressOpen(dialog);
+                  }),
+                  folder.filePath(QStringLiteral("a.mov")));
+    }
+}
+
+TEST_F(WidgetOpenPanelTest, FolderClicked_IsOpenedByTheButtonAndNothingThatIsNotThereIs) {
     EXPECT_EQ(choose([&](QFileDialog& dialog) {
-                  dialog.setDirectory(folder.path());
-                  dialog.selectFile(wanted);
-                  Q_EMIT dialog.currentChanged(wanted);
+                  auto& rows = list(dialog);
+                  const QModelIndex inside = row(rows, u"Movies");
+                  auto* field = dialog.findChild<QLineEdit*>();
+                  QTest::keyClicks(field, QStringLiteral("b.mov"));
+                  EXPECT_FALSE(openButton(dialog)->isEnabled());
+                  field->clear();
+                  QTest::mouseClick(rows.viewport(), Qt::LeftButton, {},
+                                    rows.visualRect(inside).center());
                   pressOpen(dialog);
               }),
-              wanted);
+              folder.filePath(QStringLiteral("Movies")));
+}
+
+TEST_F(WidgetOpenPanelTest, Words_SpeakOfFilesToo) {
+    choose([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.labelText(QFileDialog::FileName), u"&Folder or file:");
+        for (const char* name : {"fileTypeLabel", "fileTypeCombo"})
+            EXPECT_FALSE(dialog.findChild<QWidget*>(QString::fromLatin1(name))->isVisible());
+        dialog.reject();
+    });
 }
 
 TEST_F(WidgetOpenPanelTest, Cancelled_GivesNothing) {

@@ -35,7 +35,10 @@ const QString cTestFolder =
 
 class WindowActionsTest : public ::testing::Test, public ViewControllerWorld {
 protected:
-    WindowActionsTest() { load(); }
+    WindowActionsTest() {
+        load();
+        sendWindowActions(mainWindow, controller, workspace, shownPath, onceButtons);
+    }
 
     void click(const char* name) { mainWindow.button(QString::fromLatin1(name)).click(); }
     bool printed(const QString& start) const {
@@ -47,10 +50,11 @@ protected:
     MainWindow mainWindow{defaults, mainQueue};
     std::shared_ptr<WidgetPathControl> shownPath =
         std::make_shared<WidgetPathControl>(mainWindow.fNsPathControl1());
-    OnceButtons onceButtons = sendWindowActions(mainWindow, controller, workspace, shownPath);
+    OnceButtons onceButtons;
 };
 
 TEST_F(WindowActionsTest, NoButton_IsDead) {
+    mainWindow.setDiagnosticsShown(true);
     mainWindow.showWork({.phase = WorkPhase::Running, .maySyncNow = true, .mayCancel = true});
     for (const QPushButton* found : mainWindow.findChildren<QPushButton*>())
         EXPECT_TRUE(found->isEnabled()) << qPrintable(found->objectName());
@@ -121,6 +125,7 @@ TEST_F(WindowActionsTest, ClickOnTheSourcePath_SendsTheControlsActionAlone) {
 TEST_F(WindowActionsTest, RevealTestFolder_HasThePathControlForItsSender) {
     defaults.setObject(prefPath1, QStringLiteral("/Users/me/Movies"));
     defaults.setObject(prefPath2, QStringLiteral("/in/box"));
+    mainWindow.setDiagnosticsShown(true);
     mainQueue.runDue();
     console.clear();
     click("ibRevealInFinderAction");
@@ -128,6 +133,15 @@ TEST_F(WindowActionsTest, RevealTestFolder_HasThePathControlForItsSender) {
     EXPECT_TRUE(printed(QStringLiteral("Inside Kelvo_Mirror.ViewController->"
                                        "ibRevealInFinderAction(_:).......url = file:///Users/me")));
     EXPECT_EQ(workspace.requests, QStringList{cTestFolder});
+}
+
+TEST_F(WindowActionsTest, DiagnosticsShownAgain_ActOnceAClick) {
+    for (const bool shown : {true, false, true})
+        mainWindow.setDiagnosticsShown(shown);
+    console.clear();
+    click("ibOpenTempFolder");
+    EXPECT_EQ(workspace.requests.size(), 1);
+    EXPECT_EQ(onceButtons.size(), 2U);
 }
 
 TEST_F(WindowActionsTest, ContextMenuOfAPath_OpensThePart) {

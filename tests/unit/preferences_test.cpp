@@ -52,6 +52,7 @@ TEST(PreferencesTest, Keys_AreStoredAsTheyAreSpelledHere) {
         "showArrivals",
         "commandAfterArrivals",
         "quitWithoutAsking",
+        "showDiagnostics",
         "mainWindowSize",
         "mainWindowTab",
         "recentLaunchDates",

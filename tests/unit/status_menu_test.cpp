@@ -90,11 +90,14 @@ TEST_F(KelvoStatusMenuHandlerTest, NotSetUp_ShowsNothing) {
 
 TEST_F(KelvoStatusMenuHandlerTest, BothSetUp_ShowOneIconAndEitherRemovesIt) {
     for (KelvoStatusMenuHandler* remover : {&delegates, &views}) {
+        EXPECT_FALSE(delegates.isSetUp());
         delegates.setupStatusMenuStuff();
         views.setupStatusMenuStuff();
         EXPECT_EQ(menu.visible(), Off);
+        EXPECT_TRUE(delegates.isSetUp());
         remover->removeStatusMenuStuff();
         EXPECT_EQ(menu.visible(), std::nullopt);
+        EXPECT_FALSE(delegates.isSetUp());
     }
     EXPECT_EQ(menu.shown, (std::vector{Off, Off}));
     EXPECT_EQ(menu.hides, 2);

@@ -114,6 +114,10 @@ void AppDelegate::ibQuitAndRelaunch(Control*) {
     myStatusMenuHandler().removeStatusMenuStuff();
 }
 
+bool AppDelegate::statusItemIsSetUp() const {
+    return fLazyStatusMenuHandler && fLazyStatusMenuHandler->isSetUp();
+}
+
 // -- what is made on first use
 
 MainWindowController& AppDelegate::fWindowController() {

@@ -62,6 +62,9 @@ public:
     void ibRemoveStatusItemStuff(Control* sender);
     void ibQuitAndRelaunch(Control* sender);
 
+    /// Whether the tray icon is wanted, be there a tray to show it in or not.
+    bool statusItemIsSetUp() const;
+
     /// A controller of the wrong class, or none, stops the program.
     MainWindowController& fWindowController();
     MainViewController& fViewController();

@@ -16,9 +16,10 @@ struct Entry {
     QString explanation;
 };
 
-void addEntry(QMenu& menu, const Entry& entry) {
+/// Null for an entry without an action.
+QAction* addEntry(QMenu& menu, const Entry& entry) {
     if (!entry.action)
-        return;
+        return nullptr;
     QAction* action = menu.addAction(entry.title);
     action->setObjectName(QString::fromLatin1(entry.name));
     action->setShortcut(entry.shortcut);
@@ -27,6 +28,7 @@ void addEntry(QMenu& menu, const Entry& entry) {
         action->setStatusTip(entry.explanation);
     }
     QObject::connect(action, &QAction::triggered, &menu, entry.action);
+    return action;
 }
 
 QMenu* newMenu(const char* name, const QString& title, QWidget* parent) {
@@ -34,6 +36,14 @@ QMenu* newMenu(const char* name, const QString& title, QWidget* parent) {
     menu->setObjectName(QString::fromLatin1(name));
     menu->setToolTipsVisible(true);
     return menu;
+}
+
+/// An entry that can do nothing now says why instead of what it does; without one nothing happens.
+void allow(QAction* entry, bool allowed, const QString& whyNot) {
+    if (!entry)
+        return;
+    entry->setEnabled(allowed);
+    entry->setToolTip(allowed ? entry->statusTip() : whyNot);
 }
 
 void addIfFilled(QMenuBar& bar, QMenu* menu) {
@@ -63,10 +73,70 @@ ApplicationMenu::ApplicationMenu(const ApplicationMenuActions& actions, const QS
     addHelpMenu(actions);
 }
 
+// -- what changes
+
+QAction* ApplicationMenu::entry(const char* name) const {
+    return findChild<QAction*>(QString::fromLatin1(name));
+}
+
 void ApplicationMenu::setCurrentTab(int index) {
     if (const auto tabs = fTabs->actions(); index >= 0 && index < tabs.size())
         tabs[index]->setChecked(true);
 }
+
+void ApplicationMenu::setTabs(const QStringList& tabs) {
+    if (!fShowTab)
+        return;
+    while (fTabs->actions().size() < tabs.size())
+        addTabEntry();
+    const QList<QAction*> entries = fTabs->actions();
+    for (qsizetype at = 0; at < entries.size(); ++at) {
+        entries[at]->setVisible(at < tabs.size());
+        if (at >= tabs.size())
+            continue;
+        const QString number = at < 9 ? QString(u'&' + QString::number(at + 1) + u' ') : QString();
+        entries[at]->setText(QString(number + literal(tabs[at])));
+    }
+}
+
+void ApplicationMenu::setDiagnosticsShown(bool shown) {
+    if (QAction* diagnostics = entry("showDiagnostics"))
+        diagnostics->setChecked(shown);
+    for (const char* name : {"delegateQuitAndRelaunch", "setupWatchdog"}) {
+        if (QAction* found = entry(name))
+            found->setVisible(shown);
+    }
+}
+
+void ApplicationMenu::setSyncing(bool on) {
+    if (QAction* found = entry("startOrStop"))
+        found->setText(on ? tr("&Stop Syncing") : tr("&Start Syncing"));
+}
+
+void ApplicationMenu::showWork(const WorkState& work) {
+    allow(entry("syncNow"), work.maySyncNow,
+          work.phase == WorkPhase::Off       ? tr("Syncing is off")
+          : work.phase == WorkPhase::Missing ? tr("A pass begins as soon as nothing is missing")
+          : passRuns(work.phase)             ? tr("A pass runs already")
+                                             : tr("The next pass begins in a moment"));
+    allow(entry("cancelPass"), work.mayCancel,
+          work.phase == WorkPhase::Cancelling ? tr("The pass is being cancelled already")
+                                              : tr("No pass runs"));
+}
+
+void ApplicationMenu::showTrayIcon() {
+    if (!fTrayIcon)
+        return;
+    const TrayIconState icon = fTrayIcon();
+    allow(entry("setupStatusItem"), icon == TrayIconState::Removed,
+          icon == TrayIconState::Shown
+              ? tr("The icon is in the tray already")
+              : tr("The icon appears as soon as the desktop has a tray for it"));
+    for (const char* name : {"removeStatusItem", "delegateQuitAndRelaunch"})
+        allow(entry(name), icon != TrayIconState::Removed, tr("The icon is not in the tray"));
+}
+
+// -- the menus
 
 void ApplicationMenu::addFileMenu(const ApplicationMenuActions& actions) {
     QMenu* menu = newMenu("fileMenu", tr("&File"), this);
@@ -99,21 +169,34 @@ void ApplicationMenu::addEditMenu(const ApplicationMenuActions& actions) {
 
 void ApplicationMenu::addViewMenu(const ApplicationMenuActions& actions, const QStringList& tabs) {
     QMenu* menu = newMenu("viewMenu", tr("&View"), this);
-    for (int index = 0; actions.showTab && index < tabs.size(); ++index) {
-        const QString title =
-            index < 9 ? QString(u'&' + QString::number(index + 1) + u' ' + literal(tabs[index]))
-                      : literal(tabs[index]);
-        QAction* entry = menu->addAction(title);
-        entry->setObjectName(QString(u"showTab" + QString::number(index + 1)));
-        if (index < 9)
-            entry->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)));
-        entry->setCheckable(true);
-        fTabs->addAction(entry);
-        connect(entry, &QAction::triggered, this,
-                [showTab = actions.showTab, index] { showTab(index); });
+    fShowTab = actions.showTab;
+    fTabsEnd = menu->addSeparator();
+    if (actions.showDiagnostics) {
+        const auto choose = [this, show = actions.showDiagnostics] {
+            show(entry("showDiagnostics")->isChecked());
+        };
+        addEntry(*menu, {"showDiagnostics",
+                         tr("&Diagnostics"),
+                         {},
+                         choose,
+                         tr("A tab and menu entries for finding out why something does not work")})
+            ->setCheckable(true);
     }
+    setTabs(tabs);
     setCurrentTab(0);
     addIfFilled(*this, menu);
+}
+
+void ApplicationMenu::addTabEntry() {
+    const int index = static_cast<int>(fTabs->actions().size());
+    auto* tab = new QAction(this);
+    tab->setObjectName(QString(u"showTab" + QString::number(index + 1)));
+    if (index < 9)
+        tab->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)));
+    tab->setCheckable(true);
+    fTabs->addAction(tab);
+    connect(tab, &QAction::triggered, this, [this, index] { fShowTab(index); });
+    findChild<QMenu*>(QStringLiteral("viewMenu"))->insertAction(fTabsEnd, tab);
 }
 
 void ApplicationMenu::addPassesMenu(const ApplicationMenuActions& actions) {
@@ -135,20 +218,9 @@ void ApplicationMenu::addPassesMenu(const ApplicationMenuActions& actions) {
     showWork({});
 }
 
-void ApplicationMenu::setSyncing(bool on) {
-    if (auto* entry = findChild<QAction*>(QStringLiteral("startOrStop")))
-        entry->setText(on ? tr("&Stop Syncing") : tr("&Start Syncing"));
-}
-
-void ApplicationMenu::showWork(const WorkState& work) {
-    if (auto* entry = findChild<QAction*>(QStringLiteral("syncNow")))
-        entry->setEnabled(work.maySyncNow);
-    if (auto* entry = findChild<QAction*>(QStringLiteral("cancelPass")))
-        entry->setEnabled(work.mayCancel);
-}
-
 void ApplicationMenu::addTrayMenu(const ApplicationMenuActions& actions) {
     QMenu* menu = newMenu("trayMenu", tr("&Tray"), this);
+    fTrayIcon = actions.trayIcon;
     addEntry(*menu, {"setupStatusItem",
                      tr("&Set Up Tray Icon"),
                      {},
@@ -163,13 +235,19 @@ void ApplicationMenu::addTrayMenu(const ApplicationMenuActions& actions) {
                      tr("Remove Tray Icon as &Before a Relaunch"),
                      {},
                      actions.delegateQuitAndRelaunch,
-                     tr("Takes the icon out of the tray; the program keeps running")});
+                     tr("Takes the icon out of the tray as Quit and Relaunch does; the program "
+                        "keeps running")});
     menu->addSeparator();
     addEntry(*menu, {"setupWatchdog",
-                     tr("Set Up &Watchdog Again"),
+                     tr("Start Again After a &Crash"),
                      {},
                      actions.setupWatchdog,
-                     tr("Has the program started again should it crash")});
+                     tr("Has the program started again should it crash; each start does this by "
+                        "itself")});
+    connect(menu, &QMenu::aboutToShow, this, &ApplicationMenu::showTrayIcon);
+    for (const QAction* chosen : menu->actions())
+        connect(chosen, &QAction::triggered, this, &ApplicationMenu::showTrayIcon);
+    setDiagnosticsShown(false);
     addIfFilled(*this, menu);
 }
 

@@ -17,7 +17,6 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QTableView>
 
 #include <utility>
 
@@ -27,17 +26,10 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
       fSyncTab(new SyncTab(fBindings)), fRemoteTab(new RemoteTab(fBindings)),
       fActivityTab(new ActivityTab), fSettingsTab(new SettingsTab(fBindings)) {
     fUi->setupUi(this);
-    auto* diagnostics = new DiagnosticsTab;
-    fFoundServices = &diagnostics->foundServices();
     addTab(fSyncTab, "sync", QT_TR_NOOP("Sync"));
     addTab(fRemoteTab, "remote", QT_TR_NOOP("Remote Mac"));
     addTab(fSettingsTab, "prefs", QT_TR_NOOP("Settings"));
-    addTab(diagnostics, "diagnostics", QT_TR_NOOP("Diagnostics"));
     addTab(fActivityTab, "activity", QT_TR_NOOP("Activity"));
-    for (QPushButton* button : findChildren<QPushButton*>()) {
-        button->setToolTip(button->accessibleDescription());
-        button->installEventFilter(this);
-    }
     ibStartButton().setToolTip({}); // Its title says it all.
     setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
     setAction(QStringLiteral("showAllArrivals"), [this] {
@@ -46,6 +38,7 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     });
     connect(&ibStartButton(), &QPushButton::toggled, this, [this] { showStartIcon(); });
     showStartIcon();
+    fBindings.follow(*this, {prefShowDiagnostics}, [this] { followDiagnostics(); });
     restoreLook();
     connect(fUi->tabView, &QTabWidget::currentChanged, this, [this](int index) {
         fDefaults.setObject(prefMainWindowTab, tabs()[static_cast<std::size_t>(index)].identifier);
@@ -68,6 +61,10 @@ void MainWindow::addTab(QWidget* tab, const char* identifier, const char* name) 
     tab->setProperty("identifier", QString::fromLatin1(identifier));
     tab->setProperty("name", QString::fromLatin1(name));
     fUi->tabView->addTab(tab, tr(name));
+    for (QPushButton* button : tab->findChildren<QPushButton*>()) {
+        button->setToolTip(button->accessibleDescription());
+        button->installEventFilter(this);
+    }
 }
 
 // -- actions
@@ -92,7 +89,7 @@ void MainWindow::showStartIcon() {
 std::vector<MainWindow::Tab> MainWindow::tabs() const {
     std::vector<Tab> all;
     all.reserve(static_cast<std::size_t>(fUi->tabView->count()));
-    for (int i = 0; i < fUi->tabView->count(); ++i) {
+    for (int i = 0; i < fUi->tabView->count() && fUi->tabView->isTabVisible(i); ++i) {
         const QWidget& tab = *fUi->tabView->widget(i);
         all.push_back({.identifier = tab.property("identifier").toString(),
                        .label = fUi->tabView->tabText(i),
@@ -115,6 +112,41 @@ void MainWindow::showTab(const QString& identifier) {
         if (all[i].identifier == identifier)
             showTab(static_cast<int>(i));
     }
+}
+
+void MainWindow::setDiagnosticsShown(bool shown) {
+    fDefaults.setObject(prefShowDiagnostics, shown);
+    followDiagnostics();
+    if (shown)
+        showTab(QStringLiteral("diagnostics"));
+}
+
+bool MainWindow::diagnosticsAreShown() const {
+    return fDefaults.boolForKey(prefShowDiagnostics);
+}
+
+void MainWindow::whenDiagnosticsAreMade(const std::function<void(DiagnosticsTab&)>& made) {
+    if (fDiagnosticsTab)
+        made(*fDiagnosticsTab);
+    else
+        connect(this, &MainWindow::diagnosticsMade, this, made);
+}
+
+/// The page is the last one: the places of the others stay the same.
+void MainWindow::followDiagnostics() {
+    const bool shown = diagnosticsAreShown();
+    if (shown && !fDiagnosticsTab) {
+        fDiagnosticsTab = new DiagnosticsTab;
+        addTab(fDiagnosticsTab, "diagnostics", QT_TR_NOOP("Diagnostics"));
+        Q_EMIT diagnosticsMade(*fDiagnosticsTab);
+    }
+    const int place = fUi->tabView->indexOf(fDiagnosticsTab);
+    if (place < 0)
+        return;
+    if (!shown && place == currentTab())
+        showTab(QStringLiteral("sync"));
+    fUi->tabView->setTabVisible(place, shown);
+    Q_EMIT tabsChanged();
 }
 
 void MainWindow::setWillSelectTab(std::function<void(const Tab&)> willSelectTab) {
@@ -214,10 +246,6 @@ void MainWindow::showActivity(std::optional<qint64> pass) {
     bringToFront();
     if (pass)
         fActivityTab->showPass(*pass);
-}
-
-QTableView& MainWindow::foundServices() {
-    return *fFoundServices;
 }
 
 } // namespace kelvo

@@ -1,4 +1,4 @@
-// MainWindow: the program's one window, with its five tabs.
+// MainWindow: the program's one window, with four tabs and a fifth for finding faults.
 #pragma once
 
 #include "support/key_state.h"
@@ -12,7 +12,6 @@
 #include <optional>
 
 class QPushButton;
-class QTableView;
 
 namespace Ui {
 class MainWindow;
@@ -24,6 +23,7 @@ namespace kelvo {
 inline constexpr qint64 cNewestPass = 0;
 
 class ActivityTab;
+class DiagnosticsTab;
 class DispatchQueue;
 class PathControlView;
 class RemoteTab;
@@ -59,6 +59,7 @@ public:
     /// Told from now on of each tab that is about to be shown.
     void setWillSelectTab(std::function<void(const Tab&)> willSelectTab);
 
+    /// Those that can be reached, in their order.
     std::vector<Tab> tabs() const;
     int currentTab() const;
     void showTab(int index);
@@ -67,6 +68,14 @@ public:
     void showWork(const WorkState& work);
     /// What was shown last.
     const WorkState& work() const { return fWork; }
+
+    /// A person's wish for the Diagnostics tab, the last one, which is kept: comes to it, or takes
+    /// it away.
+    void setDiagnosticsShown(bool shown);
+    bool diagnosticsAreShown() const;
+    /// Has `made` called once that tab is there, at once if it is. It is made when it is first
+    /// shown and stays from then on, out of reach or not.
+    void whenDiagnosticsAreMade(const std::function<void(DiagnosticsTab&)>& made);
 
     /// Brings the window with the Activity tab to the front, there to the row of `pass` if one is
     /// given.
@@ -79,7 +88,6 @@ public:
     StatusFieldView& ibStatusTextField();
     PathControlView& fNsPathControl1();
     PathControlView& destinationPath();
-    QTableView& foundServices();
     SyncTab& syncTab() { return *fSyncTab; }
     RemoteTab& remoteTab() { return *fRemoteTab; }
     ActivityTab& activityTab() { return *fActivityTab; }
@@ -88,6 +96,9 @@ public:
 
 Q_SIGNALS:
     void tabShown(int index);
+    void diagnosticsMade(kelvo::DiagnosticsTab& tab);
+    /// tabs() has another answer.
+    void tabsChanged();
     /// The person has come to the window.
     void activated();
     void keyStateShown(KeyState state);
@@ -101,6 +112,7 @@ protected:
 
 private:
     void addTab(QWidget* tab, const char* identifier, const char* name);
+    void followDiagnostics();
     void restoreLook();
     void keepLook();
     void showStartIcon();
@@ -113,7 +125,7 @@ private:
     RemoteTab* fRemoteTab;
     ActivityTab* fActivityTab;
     SettingsTab* fSettingsTab;
-    QTableView* fFoundServices;
+    DiagnosticsTab* fDiagnosticsTab = nullptr;
     std::function<bool()> fMayClose;
     std::function<void(const Tab&)> fWillSelectTab;
 };

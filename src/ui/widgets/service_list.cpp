@@ -19,12 +19,14 @@ void showServices(ArrayController& records, QTableView& table) {
     table.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     QObject::connect(table.selectionModel(), &QItemSelectionModel::currentRowChanged, &table,
                      [&records](const QModelIndex& row) { records.setSelectionIndex(row.row()); });
-    records.setShow([&records, rows = QPointer(rows)] {
+    const auto show = [&records, rows = QPointer(rows)] {
         if (!rows)
             return;
         rows->setRecords(records.content().value_or(DNSSD_Services()));
         records.setSelectionIndex(-1);
-    });
+    };
+    show();
+    records.setShow(show);
 }
 
 } // namespace kelvo

@@ -2,6 +2,7 @@
 
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "support/attributed_string.h"
 #include "support/text.h"
 #include "support/work_state.h"
 #include "ui/widgets/bindings.h"
@@ -33,6 +34,11 @@ SyncTab::SyncTab(Bindings& bindings, QWidget* parent)
                     {prefRsyncWithSSH, prefSampleRemoteFullPath, prefRemoteUsername,
                      prefRemoteBonjourName, prefRemotePath},
                     [this, &bindings] { showSource(bindings); });
+    // A message takes the stored text away; what it shows stays.
+    bindings.follow(*this, {prefStatusTextfieldString}, [this, &defaults] {
+        if (const auto saved = defaults.stringForKey(prefStatusTextfieldString))
+            fUi->ibStatusTextField->show(getAttributedString(*saved, StatusColor::Black, false));
+    });
     bindings.follow(*this, {prefPath1}, [this, &defaults] {
         fUi->fNsPathControl1->setPath(folder(defaults, prefPath1));
     });

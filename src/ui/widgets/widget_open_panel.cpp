@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace kelvo {
@@ -13,40 +14,59 @@ namespace {
 class FilesAndFoldersDialog final : public QFileDialog {
 public:
     explicit FilesAndFoldersDialog(QWidget* parent) : QFileDialog(parent) {
-        connect(this, &QFileDialog::currentChanged, this, [this](const QString& path) {
-            if (QFileInfo(path).isFile())
-                openButton()->setEnabled(true);
-        });
+        setOption(QFileDialog::DontUseNativeDialog);
+        setFileMode(QFileDialog::Directory);
+        setLabelText(QFileDialog::FileName, QObject::tr("&Folder or file:"));
+        // It would say that only folders can be chosen.
+        for (const char* name : {"fileTypeLabel", "fileTypeCombo"}) {
+            if (auto* kinds = findChild<QWidget*>(QString::fromLatin1(name)))
+                kinds->hide();
+        }
+        // The dialog shuts its button for a file, at moments of its own: a look afterwards.
+        connect(this, &QFileDialog::currentChanged, this, &FilesAndFoldersDialog::openForFile,
+                Qt::QueuedConnection);
+        if (auto* field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+            connect(field, &QLineEdit::textChanged, this, &FilesAndFoldersDialog::openForFile,
+                    Qt::QueuedConnection);
     }
 
     void accept() override {
-        const QStringList chosen = selectedFiles();
-        if (!chosen.isEmpty() && QFileInfo(chosen.first()).isFile())
+        if (isFileChosen())
             done(Accepted);
         else
             QFileDialog::accept();
     }
 
 private:
-    QPushButton* openButton() {
-        return findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
+    void openForFile() {
+        if (isFileChosen())
+            findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->setEnabled(true);
+    }
+    bool isFileChosen() const {
+        const QStringList chosen = selectedFiles();
+        return !chosen.isEmpty() && QFileInfo(chosen.first()).isFile();
     }
 };
+
+/// The dialog for what `options` allow.
+QPointer<QFileDialog> newDialog(const OpenPanelOptions& options, QWidget* parent) {
+    if (options.canChooseDirectories && options.canChooseFiles)
+        return new FilesAndFoldersDialog(parent);
+    auto* dialog = new QFileDialog(parent);
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setOption(QFileDialog::ShowDirsOnly, options.canChooseDirectories);
+    dialog->setFileMode(options.canChooseDirectories      ? QFileDialog::Directory
+                        : options.allowsMultipleSelection ? QFileDialog::ExistingFiles
+                                                          : QFileDialog::ExistingFile);
+    return dialog;
+}
 
 } // namespace
 
 OpenPanelAnswer WidgetOpenPanel::runModal(const OpenPanelOptions& options) {
-    const QPointer<FilesAndFoldersDialog> dialog = new FilesAndFoldersDialog(fParent);
-    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    const QPointer<QFileDialog> dialog = newDialog(options, fParent);
     dialog->setWindowTitle(options.title);
     dialog->setOption(QFileDialog::ReadOnly, !options.canCreateDirectories);
-    if (options.canChooseDirectories) {
-        dialog->setFileMode(QFileDialog::Directory);
-        dialog->setOption(QFileDialog::ShowDirsOnly, !options.canChooseFiles);
-    } else {
-        dialog->setFileMode(options.allowsMultipleSelection ? QFileDialog::ExistingFiles
-                                                            : QFileDialog::ExistingFile);
-    }
     dialog->setLabelText(QFileDialog::Accept, QObject::tr("&Open"));
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog) // The main window went while the panel was open.
