@@ -23,7 +23,7 @@ struct StatusMenuActions {
     std::function<void()> syncNow = {};
     std::function<void()> cancelPass = {};
     std::function<void()> showActivity = {};
-    std::function<void()> revealFolder = {}; ///< the destination
+    std::function<void()> revealFolder = {}; ///< the destination; disabled while empty
     std::function<void()> quitAndRelaunch = {};
     std::function<void()> quit = {};
     /// The menu is about to be seen (true; what it shows is brought up to date before this returns)

@@ -26,6 +26,9 @@ StatusMenuPresence::StatusMenuPresence(StatusMenu& menu, UserDefaults& defaults,
     for (const QStringView key : {prefEnableScanning, prefIsScanning})
         fObservations.push_back(
             defaults.observe(key, [this](const DefaultsChange&) { refreshLater(); }));
+    fObservations.push_back(defaults.observe(prefPath2, [this](const DefaultsChange&) {
+        fMainQueue.async([this] { connectActions(); });
+    }));
 }
 
 StatusMenuPresence::~StatusMenuPresence() {
@@ -81,7 +84,9 @@ void StatusMenuPresence::connectActions() {
                 if (auto* mainView = firstTarget(&StatusMenuTargets::fMainVC))
                     mainView->showActivity({});
             },
-        .revealFolder = onMainView(&MainViewController::revealFolder),
+        .revealFolder = fDefaults.stringForKey(prefPath2).value_or(QString()).isEmpty()
+                            ? std::function<void()>()
+                            : onMainView(&MainViewController::revealFolder),
         .quitAndRelaunch = onMainView(&MainViewController::quitAndRelaunch),
         .quit = fQuit,
         .menuShown =

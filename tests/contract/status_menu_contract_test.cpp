@@ -221,6 +221,21 @@ TYPED_TEST(StatusMenuContractTest, Choices_CallTheirActionOnce) {
     EXPECT_EQ(done.join(u' '), u"start quit show relaunch");
 }
 
+TYPED_TEST(StatusMenuContractTest, FolderEntry_IsChosenOnlyWhileThereIsAFolder) {
+    this->harness.setTray(true);
+    this->menu().show(Off);
+    this->harness.choose(&StatusMenuActions::revealFolder);
+    int done = 0;
+    for (int times = 1; times <= 2; ++times) {
+        this->menu().setActions({.revealFolder = [&] { ++done; }});
+        this->harness.choose(&StatusMenuActions::revealFolder);
+        EXPECT_EQ(done, times);
+        this->menu().setActions({});
+        this->harness.choose(&StatusMenuActions::revealFolder);
+        EXPECT_EQ(done, times);
+    }
+}
+
 TYPED_TEST(StatusMenuContractTest, PassEntries_AreChosenOnlyWhileTheWorkAllowsIt) {
     this->harness.setTray(true);
     this->menu().show(Off);

@@ -61,6 +61,14 @@ void tellPlace(const TrayIcon& icon) {
             .arg(place.height()));
 }
 
+/// `order` ends in the place.
+void tellScreen(const QByteArray& order) {
+    const QList<QByteArray> words = order.split(' ');
+    const QRect place(words.value(1).toInt(), words.value(2).toInt(), words.value(3).toInt(),
+                      words.value(4).toInt());
+    say(QString::fromLatin1(order) + u' ' + picture(place));
+}
+
 void obey(TrayIcon& icon, const QByteArray& order) {
     if (order == "off")
         icon.show(StatusMenuState::Off);
@@ -81,6 +89,8 @@ void obey(TrayIcon& icon, const QByteArray& order) {
         say(icon.isReachable() ? QStringLiteral("reachable yes") : QStringLiteral("reachable no"));
     else if (order == "place")
         tellPlace(icon);
+    else if (order.startsWith("screen "))
+        tellScreen(order);
     else if (order == "picture")
         say(QStringLiteral("picture ") +
             (icon.shownIcon() ? picture(icon.shownIcon()->geometry()) : QString()));

@@ -107,6 +107,17 @@ protected:
                                    : QRect();
     }
 
+    /// What stands on the screen at `place`.
+    QString screenAt(const QRect& place) {
+        return answer(QStringLiteral("screen %1 %2 %3 %4")
+                          .arg(place.x())
+                          .arg(place.y())
+                          .arg(place.width())
+                          .arg(place.height())
+                          .toLatin1()
+                          .constData());
+    }
+
     /// The icon's shape on the screen, once it has been drawn and differs from `before`.
     QString drawn(const QString& before = {}) {
         QString shape;
@@ -185,6 +196,24 @@ TEST_F(TraySystemTest, X11TrayRestarted_GetsTheIconBack) {
     startTray();
     ASSERT_TRUE(becomesReachable("yes"));
     EXPECT_EQ(drawn(), before);
+}
+
+TEST_F(TraySystemTest, IconHidden_LeavesNothingInTheX11TrayAndComesBackAlive) {
+    SKIP_WITHOUT("Xvfb", "trayer", "xdotool");
+    ASSERT_TRUE(startDisplay());
+    startTray();
+    startProgram();
+    order("running");
+    ASSERT_TRUE(becomesReachable("yes"));
+    const QString before = drawn();
+    const QRect where = place();
+    ASSERT_GT(screenAt(where).count(u'#'), 40);
+    order("hide");
+    EXPECT_TRUE(waitInLoop([&] { return screenAt(where).count(u'#') == 0; }));
+    order("running");
+    EXPECT_EQ(drawn(), before);
+    ASSERT_TRUE(click(place().center(), 1));
+    EXPECT_TRUE(hears(QStringLiteral("chosen showWindow")));
 }
 
 TEST_F(TraySystemTest, Clicks_ShowTheWindowAndOpenTheMenu) {

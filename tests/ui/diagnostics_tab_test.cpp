@@ -62,6 +62,7 @@ TEST_F(DiagnosticsTabTest, TakenAway_LeavesSyncAndComesBackTheSame) {
     EXPECT_EQ(tabs(window), cUsual);
     EXPECT_EQ(current(window), u"sync");
     window.showTab(QStringLiteral("diagnostics"));
+    window.showTab(4);
     EXPECT_EQ(current(window), u"sync");
     window.setDiagnosticsShown(true);
     EXPECT_EQ(tabs(window), cAll);

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 namespace kelvo {
@@ -122,6 +123,17 @@ TEST_F(TrayIconTest, TrayOfTheOtherKind_TakesTheIconOver) {
     host.setKind(TrayKind::X11);
     EXPECT_TRUE(icon.shownIcon());
     EXPECT_FALSE(item.visible);
+}
+
+TEST_F(TrayIconTest, FolderToReveal_IsMissingUntilThereIsOne) {
+    EXPECT_FALSE(entry("revealFolder")->isEnabled());
+    EXPECT_EQ(entry("revealFolder")->toolTip(), u"No destination folder is chosen yet");
+    icon.setActions({.revealFolder = [] {}});
+    EXPECT_TRUE(entry("revealFolder")->isEnabled());
+    const auto told =
+        std::ranges::find(item.entries, QStringLiteral("Reveal &Folder"), &TrayEntry::title);
+    ASSERT_NE(told, item.entries.end());
+    EXPECT_TRUE(told->isEnabled);
 }
 
 TEST_F(TrayIconTest, ItemActivated_ShowsTheWindow) {

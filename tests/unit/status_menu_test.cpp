@@ -325,6 +325,9 @@ TEST_F(StatusMenuPresenceTest, EntriesOfTheWork_ReachTheMainView) {
     menu.choose(&StatusMenuActions::cancelPass);
     menu.choose(&StatusMenuActions::showActivity);
     menu.choose(&StatusMenuActions::revealFolder);
+    defaults.setObject(prefPath2, QStringLiteral("/in"));
+    mainQueue.advance(0);
+    menu.choose(&StatusMenuActions::revealFolder);
     menu.openMenu(true);
     menu.openMenu(false);
     EXPECT_EQ(mainView.asked,

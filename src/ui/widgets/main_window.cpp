@@ -103,7 +103,8 @@ int MainWindow::currentTab() const {
 }
 
 void MainWindow::showTab(int index) {
-    fUi->tabView->setCurrentIndex(index);
+    if (fUi->tabView->isTabVisible(index))
+        fUi->tabView->setCurrentIndex(index);
 }
 
 void MainWindow::showTab(const QString& identifier) {

@@ -67,11 +67,13 @@ TrayIcon::TrayIcon(TrayHost& host, TrayItem& item, DispatchQueue& mainQueue)
     fMenu.addSeparator();
     fMenu.setDefaultAction(addEntry("showWindow", tr("Open &Window"), &Actions::showWindow));
     addEntry("showActivity", tr("&Activity"), &Actions::showActivity);
-    addEntry("revealFolder", tr("Reveal &Folder"), &Actions::revealFolder);
+    fRevealEntry = addEntry("revealFolder", tr("Reveal &Folder"), &Actions::revealFolder);
     fMenu.addSeparator();
     addEntry("quitAndRelaunch", tr("Quit and &Relaunch"), &Actions::quitAndRelaunch);
     addEntry("quit", tr("&Quit"), &Actions::quit);
+    fMenu.setToolTipsVisible(true);
     fMenu.installEventFilter(this);
+    setActions({});
     showWorkNow();
     fItem.setChoices({
         .activate = [this] { run(&Actions::showWindow); },
@@ -104,6 +106,14 @@ QAction* TrayIcon::addEntry(const char* name, const QString& title, Action actio
     entry->setObjectName(QString::fromLatin1(name));
     connect(entry, &QAction::triggered, this, [this, action] { run(action); });
     return entry;
+}
+
+void TrayIcon::setActions(StatusMenuActions actions) {
+    fActions = std::move(actions);
+    const bool hasFolder = fActions.revealFolder != nullptr;
+    fRevealEntry->setEnabled(hasFolder);
+    fRevealEntry->setToolTip(hasFolder ? QString() : tr("No destination folder is chosen yet"));
+    fillItem();
 }
 
 void TrayIcon::run(Action action) {

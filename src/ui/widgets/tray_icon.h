@@ -29,7 +29,7 @@ public:
     TrayIcon(TrayHost& host, TrayItem& item, DispatchQueue& mainQueue);
     ~TrayIcon() override;
 
-    void setActions(StatusMenuActions actions) override { fActions = std::move(actions); }
+    void setActions(StatusMenuActions actions) override;
     void show(StatusMenuState state) override;
     void showWork(const WorkState& work) override;
     void setStartTitle(const QString& title) override;
@@ -69,6 +69,7 @@ private:
     QAction* fStartEntry = nullptr;
     QAction* fSyncNowEntry = nullptr;
     QAction* fCancelEntry = nullptr;
+    QAction* fRevealEntry = nullptr;
     std::optional<StatusMenuState> fState; ///< nothing while hidden
     std::optional<StatusMenuState> fDrawn; ///< which state `fPicture` shows
     QIcon fPicture;
