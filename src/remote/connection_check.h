@@ -61,7 +61,7 @@ private:
     void showFault(const QString& fault);
     void show(const QString& title, const QString& text);
     QString faultOfAccount() const;
-    std::optional<QString> filledIn(const QString& text) const;
+    QString filledIn(const QString& text) const;
 
     const ConnectionCheckParts fParts;
 };

@@ -62,7 +62,7 @@ void closeAllBut(int handle, int table) {
 ExitCode watch(pid_t program) {
     const int handle = static_cast<int>(::syscall(SYS_pidfd_open, program, 0));
     if (handle < 0) {
-        const bool none = errno == ESRCH || errno == EINVAL;
+        const bool none = errno == ESRCH;
         if (none)
             say({"there is no process ", Decimal(program).text});
         else

@@ -58,7 +58,7 @@ struct Status {
     std::uint64_t start = 0;
 };
 
-/// Nothing but zeros when it has ended.
+/// Nothing but zeros, which are in no session, when it has ended.
 Status statusOf(int processes, const char* process, Bytes& bytes) {
     Status status;
     if (!readWhole(processes, ProcessFile(process, "/stat").path, bytes))
@@ -135,10 +135,9 @@ bool carries(int processes, const char* process, const char* mark, Bytes& bytes)
 }
 
 bool belongs(int processes, const char* process, const Commands& commands, Bytes& bytes) {
-    const Status status = statusOf(processes, process, bytes);
-    return status.start != 0 &&
-           (isIn(commands, status) || carries(processes, process, commands.mark, bytes) ||
-            writesInto(processes, process, commands));
+    return isIn(commands, statusOf(processes, process, bytes)) ||
+           carries(processes, process, commands.mark, bytes) ||
+           writesInto(processes, process, commands);
 }
 
 /// Handles that stay with their processes even when a number is given away; at most cMostAtOnce.

@@ -1,7 +1,8 @@
 // A library to preload: counts the calls by which this process opens, reads, writes, syncs, closes,
 // renames or removes what lies beneath the folder FAILING_UNDER, writes each down in FAILING_TRACE,
 // and lets the one with the number FAILING_AT fail with FAILING_ERRNO; with FAILING_LASTS all that
-// follow too. A failed close has closed, as the kernel's has.
+// follow too. With FAILING_ONLY the others, whose names do not hold that word, neither count nor
+// fail. A failed close has closed, as the kernel's has.
 #include "support/beneath.h"
 
 #include <fcntl.h>
@@ -43,7 +44,8 @@ void writeDown(const std::string& line) {
 
 bool fails(const char* call, std::string_view path) {
     const std::string_view folder = setting("FAILING_UNDER");
-    if (folder.empty() || !path.starts_with(folder))
+    if (folder.empty() || !path.starts_with(folder) ||
+        std::string_view(call).find(setting("FAILING_ONLY")) == std::string_view::npos)
         return false;
     const int saved = errno;
     const int now = ++sCalls;

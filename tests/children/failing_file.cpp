@@ -1,7 +1,8 @@
 // A library to preload: what FAILING_CALL names (open, read, write, fsync, close or renameat2)
 // fails with the number FAILING_ERRNO when it is done to the file named by FAILING_FILE; with
 // FAILING_WHILE, as long as that file is there. A FAILING_FILE that ends in "*" names every file
-// that begins so. Two calls do not fail but go wrong: with FAILING_CALL=short-write each write
+// that begins so. With FAILING_CALL=bad-place reading fails behind the first 4 KiB of the file. Two
+// calls do not fail but go wrong: with FAILING_CALL=short-write each write
 // takes a hundred bytes at most, and with FAILING_CALL=late-flock the file is gone when the first
 // lock on it is had.
 #include "support/beneath.h"
@@ -21,6 +22,8 @@
 #include <string_view>
 
 namespace {
+
+constexpr off_t cBadPlace = 4096;
 
 std::string_view setting(const char* name) {
     const char* const value = std::getenv(name);
@@ -82,8 +85,20 @@ int open64(const char* path, int flags, ...) {
     return openBeneath("open64", path, flags, mode);
 }
 
+ssize_t pread64(int descriptor, void* room, size_t size, off_t at) {
+    static auto* const real = kelvo::beneath<ssize_t(int, void*, size_t, off_t)>("pread64");
+    return at >= cBadPlace && fails("bad-place", descriptor) ? -1
+                                                             : real(descriptor, room, size, at);
+}
+
 ssize_t read(int descriptor, void* room, size_t size) {
     static auto* const real = kelvo::beneath<ssize_t(int, void*, size_t)>("read");
+    if (fails("bad-place", descriptor)) {
+        const off_t at = ::lseek(descriptor, 0, SEEK_CUR);
+        return at >= cBadPlace
+                   ? -1
+                   : real(descriptor, room, std::min(size, static_cast<size_t>(cBadPlace - at)));
+    }
     return fails("read", descriptor) ? -1 : real(descriptor, room, size);
 }
 

@@ -95,6 +95,12 @@ TEST_F(BusNoticesTest, Service_GetsPlainTitleAndEscapedBody) {
     shown.showNotice({.title = QStringLiteral("A & B"), .text = QStringLiteral("<b>5 < 6")});
     EXPECT_TRUE(waitInLoop([&] { return !service.shown.isEmpty(); }));
     EXPECT_EQ(service.shown, QStringList{QStringLiteral("A & B | &lt;b&gt;5 &lt; 6")});
+    EXPECT_EQ(service.frame, (QVariantList{QStringLiteral("Kelvo Mirror"), 0U,
+                                           QStringLiteral("kelvo-mirror"), -1}))
+        << "under our name and sign, beside the earlier ones, for as long as the desktop likes";
+    EXPECT_EQ(service.hints.value(QStringLiteral("desktop-entry")).toString(),
+              u"org.kelvo.KelvoMirror");
+    EXPECT_TRUE(service.actions.isEmpty());
     EXPECT_TRUE(otherwise.isEmpty());
 }
 
@@ -112,7 +118,8 @@ TEST_F(BusNoticesTest, Choice_IsOfferedWhereThereAreChoicesAndForOurNoticesOnly)
                         .show = [&shows] { ++shows; }};
     shown.showNotice(notice);
     ASSERT_TRUE(waitInLoop([&] { return service.shown.size() == 1; }));
-    EXPECT_TRUE(service.actions.contains(QStringLiteral("Show")));
+    EXPECT_EQ(service.actions, (QStringList{QStringLiteral("default"), QStringLiteral("Show"),
+                                            QStringLiteral("show"), QStringLiteral("Show")}));
     EXPECT_EQ(service.hints.value(QStringLiteral("urgency")).toInt(), 2);
     Q_EMIT service.ActionInvoked(77, QStringLiteral("show"));
     Q_EMIT service.NotificationClosed(1, 2);

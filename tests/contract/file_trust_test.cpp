@@ -1,4 +1,7 @@
 #include "adapters/system/file_trust.h"
+#include "support/private_mounts.h"
+
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -7,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <fstream>
 #include <string>
 
 namespace kelvo {
@@ -60,6 +64,40 @@ TEST(FileTrustTest, GroupOfAnotherName_IsForeign) {
     const gid_t group = other != nullptr ? other->gr_gid : cNoGroup;
     ::endgrent();
     EXPECT_EQ(foreignWriters(entry(0660, ::geteuid(), group)), u"it can be written by other users");
+}
+
+/// What is said of a file that the group 54321 may write, where `groups` are the lines of
+/// /etc/group and that group is the user's own.
+class FileTrustGroupsTest : public ::testing::Test {
+protected:
+    void expect(const std::string& groups, const QString& fault) {
+        const QTemporaryDir folder;
+        const std::string users = folder.filePath(QStringLiteral("passwd")).toStdString();
+        const std::string list = folder.filePath(QStringLiteral("group")).toStdString();
+        std::ofstream(users) << "ann:x:" << ::geteuid() << ":54321::/:/bin/sh\n";
+        std::ofstream(list) << groups;
+        withPrivateMounts(
+            [&] { return mountOver(users, "/etc/passwd") | mountOver(list, "/etc/group"); },
+            [&] {
+                EXPECT_EQ(foreignWriters(entry(0660, ::geteuid(), 54321)), fault) << groups;
+                EXPECT_EQ(foreignWriters(entry(0660, ::geteuid(), 54322)),
+                          u"it can be written by other users")
+                    << groups;
+            });
+    }
+    const QString foreign = QStringLiteral("it can be written by other users");
+};
+
+TEST_F(FileTrustGroupsTest, GroupOfTheUsersName_IsTheUserUnlessSomebodyElseIsInIt) {
+    expect("ann:x:54321:\nbob:x:54322:\n", {});
+    expect("ann:x:54321:ann\n", {});
+    expect("ann:x:54321:ann,bob\n", foreign);
+    expect("ann:x:54321:bob\n", foreign);
+}
+
+TEST_F(FileTrustGroupsTest, GroupOfAnotherNameOrNone_IsForeign) {
+    expect("staff:x:54321:\nann:x:54322:\n", foreign);
+    expect("root:x:0:\n", foreign);
 }
 
 } // namespace

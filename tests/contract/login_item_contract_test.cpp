@@ -2,6 +2,7 @@
 #include "adapters/desktop/autostart_entry.h"
 #include "adapters/system/local_file_manager.h"
 #include "fakes/fake_login_item.h"
+#include "support/private_mounts.h"
 #include "support/wait_until.h"
 
 #include <QDir>
@@ -178,6 +179,21 @@ TEST_F(AutostartEntryTest, LinkPipeOrFolderUnderTheName_IsNotOurs) {
     ASSERT_EQ(::unlink(name.constData()), 0);
     ASSERT_EQ(::mkdir(name.constData(), 0700), 0);
     EXPECT_EQ(item.setOn(false).kind, LoginItemOutcome::SomebodyElses);
+}
+
+TEST_F(AutostartEntryTest, EntryThatCannotBeRead_IsSaidAndStays) {
+    ASSERT_TRUE(item.setOn(true));
+    // A process's memory is a file whose first byte cannot be read.
+    withPrivateMounts([this] { return mountOver("/proc/self/mem", entry.toStdString()); },
+                      [this] {
+                          const QString reason = QString::fromLocal8Bit(::strerror(EIO));
+                          EXPECT_FALSE(item.state().isOn);
+                          EXPECT_EQ(item.state().outcome.kind, LoginItemOutcome::Failed);
+                          EXPECT_EQ(item.state().outcome.reason, reason);
+                          EXPECT_EQ(item.setOn(false).kind, LoginItemOutcome::Failed);
+                          EXPECT_EQ(item.setOn(true).reason, reason);
+                      });
+    EXPECT_TRUE(item.state().isOn);
 }
 
 TEST_F(AutostartEntryTest, FolderThatCannotBeMade_IsSaidInTheSystemsWords) {

@@ -1,14 +1,13 @@
 // PlistDefaults against permissions, full disks and sudden death.
 #include "contract/plist_defaults_fixture.h"
 #include "support/failing_file.h"
+#include "support/private_mounts.h"
 #include "support/sanitized.h"
 
 #include <QProcess>
 
 #include <fcntl.h>
-#include <sched.h>
 #include <signal.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -331,22 +330,13 @@ protected:
 };
 
 TEST_F(PlistDefaultsFaultTest, FullDisk_OldFileStaysAndNewOneFollowsWhenThereIsRoom) {
-    if (::geteuid() != 0)
-        GTEST_SKIP() << "needs root to mount a small disk";
     ASSERT_TRUE(QDir().mkpath(fFolder.folder()));
-    std::string refused;
-    std::thread([&] {
-        const bool mounted = ::unshare(CLONE_NEWNS) == 0 &&
-                             ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-                             ::mount("small", QFile::encodeName(fFolder.folder()), "tmpfs", 0,
-                                     "size=64k,mode=700") == 0;
-        if (mounted)
-            workOnFullDisk();
-        else
-            refused = std::strerror(errno);
-    }).join();
-    if (!refused.empty())
-        GTEST_SKIP() << "no small disk can be mounted here: " << refused;
+    withPrivateMounts(
+        [this] {
+            return ::mount("small", QFile::encodeName(fFolder.folder()), "tmpfs", 0,
+                           "size=64k,mode=700");
+        },
+        [this] { workOnFullDisk(); });
 }
 
 class PlistDefaultsKillTest : public PlistDefaultsFixture {

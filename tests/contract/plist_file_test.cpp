@@ -59,6 +59,26 @@ TEST_F(PlistFileTest, NewFileThatFailsOnItsWay_LeavesTheOldOneAndNothingElse) {
     }
 }
 
+TEST_F(PlistFileTest, DamagedFileThatCannotBeMovedAside_IsNotWrittenOver) {
+    const QByteArray damaged = "neither a list nor anything else";
+    fFolder.write(damaged);
+    QProcess writer;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(KELVO_FAILING_FILE));
+    environment.insert(QStringLiteral("FAILING_CALL"), QStringLiteral("renameat2"));
+    environment.insert(QStringLiteral("FAILING_FILE"), fFolder.path());
+    environment.insert(QStringLiteral("FAILING_ERRNO"), QString::number(EPERM));
+    writer.setProcessEnvironment(environment);
+    writer.start(
+        QStringLiteral(KELVO_SETTINGS_WRITER),
+        {QStringLiteral("keys"), fFolder.path(), QStringLiteral("key"), QStringLiteral("1")});
+    ASSERT_TRUE(writer.waitForFinished(30'000));
+    EXPECT_EQ(fFolder.bytes(), damaged);
+    EXPECT_EQ(fFolder.otherFiles(), QStringList());
+    EXPECT_TRUE(writer.readAllStandardError().contains(
+        QByteArray("it cannot be moved aside: " + textOf(EPERM).toLocal8Bit())));
+}
+
 TEST_F(PlistFileTest, WriteThatIsBrokenOffBySignals_GoesOn) {
     EXPECT_EQ(saidOf(QStringLiteral("replace"), "short-write", ofNewFiles()), u"done");
     EXPECT_EQ(fFolder.bytes(), fNew);

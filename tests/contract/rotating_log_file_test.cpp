@@ -98,6 +98,28 @@ TEST_F(RotatingLogFileTest, DefaultPathWithoutAHomeFolder_IsTheAccounts) {
     qputenv("XDG_STATE_HOME", state);
 }
 
+TEST_F(RotatingLogFileTest, FileTakenAway_IsMadeAnewWithTheDescriptorOfTheOldOne) {
+    RotatingLogFile log;
+    ASSERT_TRUE(log.setLogFile(fPath));
+    log.append(QStringLiteral("before"));
+    ASSERT_TRUE(QFile::rename(fPath, fFolder + u"/moved"));
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    {
+        std::vector<UniqueFd> held;
+        do
+            held.emplace_back(::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0));
+        while (held.back().get() < 200);
+        const rlimit none{200, before.rlim_max};
+        ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+        ASSERT_LT(::open("/dev/null", O_RDONLY | O_CLOEXEC), 0); // NOLINT: there is none to be had
+        log.append(QStringLiteral("after"));
+        ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
+    }
+    EXPECT_EQ(texts({QStringLiteral("moved")}), QStringList{QStringLiteral("before")});
+    EXPECT_EQ(texts({QStringLiteral("x.log")}), QStringList{QStringLiteral("after")});
+}
+
 TEST_F(RotatingLogFileTest, Lines_BeginWithTheirTime) {
     RotatingLogFile log;
     ASSERT_TRUE(log.setLogFile(fPath));

@@ -8,6 +8,7 @@
 #include "support/wait_until.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -28,6 +29,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <thread>
 
 namespace kelvo {
 namespace {
@@ -110,6 +112,22 @@ TEST_F(SentinelTest, ProcessThatHasEndedButIsNotReaped_IsGoneToo) {
     ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED), 0);
 }
 
+TEST_F(SentinelTest, ThreadOfAProcess_CannotBeWatched) {
+    std::promise<pid_t> number;
+    std::promise<void> end;
+    std::thread thread([&] {
+        number.set_value(::gettid());
+        end.get_future().wait();
+    });
+    const QByteArray id = QByteArray::number(number.get_future().get());
+    const auto [code, errors] = run({QString::fromLatin1(id)});
+    end.set_value();
+    thread.join();
+    EXPECT_EQ(code, static_cast<int>(ExitCode::CannotBeWatched));
+    EXPECT_TRUE(errors.startsWith(QByteArray("watchdog: cannot watch process " + id + ": ")))
+        << errors.constData();
+}
+
 TEST_F(SentinelTest, ProcessOfAnotherUser_IsNotWatched) {
     if (::geteuid() != 0)
         GTEST_SKIP() << "needs root, to be somebody else";
@@ -149,6 +167,87 @@ TEST_F(SentinelTest, ProgramThatIsGone_CannotBeStartedAgain) {
                          " again: No such file or directory\n"));
 }
 
+TEST_F(SentinelTest, ProgramThatWasReplaced_IsStartedAsWhatLiesThereNow) {
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("program"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral("/bin/sleep"), copy));
+    QProcess program;
+    program.start(copy, {QStringLiteral("1000")});
+    ASSERT_TRUE(program.waitForStarted());
+    ASSERT_TRUE(QFile::remove(copy));
+    ASSERT_TRUE(QFile::copy(QStringLiteral("/bin/true"), copy));
+    QProcess sentinel;
+    sentinel.start(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())});
+    ASSERT_TRUE(sentinel.waitForStarted());
+    ASSERT_TRUE(
+        waitUntil([&] { return catchesTermination(static_cast<pid_t>(sentinel.processId())); }));
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    ASSERT_TRUE(sentinel.waitForFinished());
+    EXPECT_EQ(sentinel.exitCode(), 0) << sentinel.readAllStandardError().constData();
+}
+
+TEST_F(SentinelTest, CommandsThatEndWhenAsked_AreNotWaitedForAnyLonger) {
+    // On a busy machine once may be slow; not waiting is never as long as two seconds each time.
+    bool quick = false;
+    for (int round = 0; round < 5 && !quick; ++round) {
+        QProcess program;
+        QProcess command;
+        program.start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+        ASSERT_TRUE(program.waitForStarted());
+        QProcessEnvironment mark;
+        mark.insert(QStringLiteral("KELVO_MIRROR_PID"), QString::number(program.processId()));
+        command.setProcessEnvironment(mark);
+        command.start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+        ASSERT_TRUE(command.waitForStarted());
+        QProcess sentinel;
+        sentinel.start(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())});
+        ASSERT_TRUE(sentinel.waitForStarted());
+        ASSERT_TRUE(waitUntil(
+            [&] { return catchesTermination(static_cast<pid_t>(sentinel.processId())); }));
+        QElapsedTimer spent;
+        spent.start();
+        program.kill();
+        ASSERT_TRUE(program.waitForFinished());
+        ASSERT_TRUE(command.waitForFinished());
+        ASSERT_TRUE(sentinel.waitForFinished());
+        quick = spent.elapsed() < 1900;
+    }
+    EXPECT_TRUE(quick);
+}
+
+TEST_F(SentinelTest, CommandThatEndedAndIsNotReaped_HoldsNothingUp) {
+    QProcess program;
+    program.start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+    ASSERT_TRUE(program.waitForStarted());
+    const pid_t command = ::fork();
+    if (command == 0) {
+        ::setsid();
+        ::pause();
+    }
+    ASSERT_TRUE(waitUntil([command] { return ::getsid(command) == command; }));
+    const std::uint64_t started = startOf(command);
+    ::kill(command, SIGKILL);
+    siginfo_t end{};
+    ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(command), &end, WEXITED | WNOWAIT), 0);
+    std::array<std::array<std::uint64_t, 4>, 64> rows{};
+    rows[0] = {std::uint64_t(command), started, 0, 0};
+    const UniqueFd table(::memfd_create("table", MFD_CLOEXEC));
+    ASSERT_EQ(::write(table.get(), rows.data(), sizeof rows), ssize_t{sizeof rows});
+    testing::internal::CaptureStderr();
+    std::promise<int> ended;
+    const auto task =
+        PosixSentinelLauncher(table.get())
+            .launch(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())},
+                    [&ended](int exitCode) { ended.set_value(exitCode); });
+    program.kill();
+    EXPECT_TRUE(program.waitForFinished());
+    EXPECT_EQ(ended.get_future().get(), EXIT_FAILURE) << "sleep, which does not know the option";
+    const std::string said = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(said.find("watchdog: "), std::string::npos) << said;
+    ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(command), &end, WEXITED), 0);
+}
+
 TEST_F(SentinelTest, RelaunchedProgram_HasItsFolderItsVariablesAndItsArgumentsWithTheMarkLast) {
     const QTemporaryDir folder;
     QProcess program;
@@ -159,10 +258,18 @@ TEST_F(SentinelTest, RelaunchedProgram_HasItsFolderItsVariablesAndItsArgumentsWi
     program.start(QStringLiteral("/bin/sh"),
                   {QStringLiteral("-c"),
                    QStringLiteral("[ ! -e begun ] || { printf '<%s>' \"${#BIG}\" \"$@\" > again; "
-                                  "exit 7; }; : > begun; read line"),
+                                  "for fd in 0 1 2 3 4 5; do [ -e /proc/$$/fd/$fd ] && "
+                                  "printf $fd; done > streams; exit 7; }; "
+                                  ": > begun; read line"),
                    QStringLiteral("name"), QStringLiteral("a b"), QString(),
                    QStringLiteral("--autorelaunched"), QStringLiteral("z")});
     ASSERT_TRUE(waitUntil([&] { return QFile::exists(folder.filePath(QStringLiteral("begun"))); }));
+    QProcess command; // has to be ended first
+    QProcessEnvironment mark;
+    mark.insert(QStringLiteral("KELVO_MIRROR_PID"), QString::number(program.processId()));
+    command.setProcessEnvironment(mark);
+    command.start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+    ASSERT_TRUE(command.waitForStarted());
     QProcess sentinel;
     sentinel.start(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())});
     ASSERT_TRUE(sentinel.waitForStarted());
@@ -170,11 +277,15 @@ TEST_F(SentinelTest, RelaunchedProgram_HasItsFolderItsVariablesAndItsArgumentsWi
         waitUntil([&] { return catchesTermination(static_cast<pid_t>(sentinel.processId())); }));
     program.kill();
     ASSERT_TRUE(program.waitForFinished());
+    ASSERT_TRUE(command.waitForFinished());
     ASSERT_TRUE(sentinel.waitForFinished());
     EXPECT_EQ(sentinel.exitCode(), 7) << sentinel.readAllStandardError().constData();
     QFile again(folder.filePath(QStringLiteral("again")));
     ASSERT_TRUE(again.open(QIODevice::ReadOnly));
     EXPECT_EQ(again.readAll(), "<20000><a b><><z><--autorelaunched>");
+    QFile streams(folder.filePath(QStringLiteral("streams")));
+    ASSERT_TRUE(streams.open(QIODevice::ReadOnly));
+    EXPECT_EQ(streams.readAll(), "012") << "all three, and nothing of the sentinel's";
 }
 
 TEST_F(SentinelTest, CommandsThatCarryTheMark_AreAskedToEndAndThenForced) {

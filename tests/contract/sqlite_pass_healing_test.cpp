@@ -39,7 +39,9 @@ protected:
     void expectSetAside(const QString& reason) {
         EXPECT_EQ(setAside().size(), 1) << reason.toStdString();
         EXPECT_EQ(logged(reason), 1) << console.logged().join(u'\n').toStdString();
-        EXPECT_EQ(logged(QStringLiteral("a new one is begun")), 1);
+        EXPECT_EQ(logged(QString(u"The record of passes was damaged (" + reason +
+                                 u") and is kept as " + asideFile() + u"; a new one is begun.")),
+                  1);
     }
 };
 
@@ -105,7 +107,10 @@ TEST_F(PassRecordHealingTest, FileRemovedWhileOpen_IsWrittenAnewWithThePassesOfT
     EXPECT_EQ(found(path), QStringLiteral("3 2 1")) << "for everybody";
     EXPECT_TRUE(standing(*store).replaced);
     EXPECT_EQ(standing(*store).fault, QString());
-    EXPECT_EQ(logged(QStringLiteral("was removed or replaced")), 1);
+    EXPECT_EQ(console.logged(),
+              QStringList{
+                  QString(u"The record of passes " + path +
+                          u" was removed or replaced; the passes of this run are written again.")});
     EXPECT_TRUE(setAside().isEmpty());
     const auto first =
         answered<std::optional<PassRecord>>([&](auto take) { store->read(1, take); });

@@ -51,9 +51,34 @@ TEST_F(SqlitePassStoreTest, Finish_WritesEverythingOrTellsWhyNot) {
 TEST_F(SqlitePassStoreTest, File_IsPrivate) {
     path = folder.filePath(QStringLiteral("state/passes.sqlite"));
     openStore()->append(numbered(1));
-    const auto others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
-    EXPECT_FALSE(QFile::permissions(path) & others);
-    EXPECT_FALSE(QFile::permissions(QFileInfo(path).path()) & others);
+    const auto modeOf = [](const QString& name) {
+        struct stat status {};
+        EXPECT_EQ(::stat(QFile::encodeName(name).constData(), &status), 0);
+        return status.st_mode & 07777U;
+    };
+    EXPECT_EQ(modeOf(path), 0600U);
+    EXPECT_EQ(modeOf(QFileInfo(path).path()), 0700U);
+}
+
+TEST_F(SqlitePassStoreTest, CauseOrRoleOfAnotherAge_IsUnknownOrAPull) {
+    openStore()->append(numbered(1));
+    for (const int number : {-1, static_cast<int>(cLastPassCause) + 1}) {
+        const QString text = QString::number(number);
+        asOther({u"UPDATE pass SET cause = " + text, u"UPDATE command SET role = " + text});
+        const auto store = openStore();
+        const auto record =
+            answered<std::optional<PassRecord>>([&](auto take) { store->read(1, take); });
+        ASSERT_TRUE(record) << number;
+        EXPECT_EQ(record->cause, PassCause::Unknown) << number;
+        ASSERT_EQ(record->commands.size(), 1U);
+        EXPECT_EQ(record->commands[0].role, CommandRole::Pull) << number;
+    }
+    const auto last = static_cast<int>(cLastPassCause);
+    asOther({u"UPDATE pass SET cause = " + QString::number(last)});
+    const auto store = openStore();
+    const auto all = answered<std::vector<PassRecord>>([&](auto take) { store->readAll(take); });
+    ASSERT_EQ(all.size(), 1U);
+    EXPECT_EQ(all[0].cause, cLastPassCause);
 }
 
 TEST_F(SqlitePassStoreTest, TooMany_DropsTheOldestWithTheirCommands) {

@@ -3,6 +3,7 @@
 #include "fakes/recording_console.h"
 #include "support/wait_in_loop.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -30,12 +31,12 @@ protected:
     }
 
     /// A terminal program with this text; "$@" is its command line.
-    TerminalProgram program(const char* name, const QByteArray& text,
+    TerminalProgram program(const QByteArray& name, const QByteArray& text,
                             std::vector<std::string> option = {"-e"}) {
         QFile file(at(name));
         EXPECT_TRUE(file.open(QFile::WriteOnly));
-        file.write("#!/bin/sh\necho " + QByteArray(name) + " >>'" + at("tried").toLocal8Bit() +
-                   "'\n" + text + "\n");
+        file.write("#!/bin/sh\necho " + name + " >>'" + at("tried").toLocal8Bit() + "'\n" + text +
+                   "\n");
         file.close();
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         return {at(name).toStdString(), std::move(option)};
@@ -134,6 +135,46 @@ TEST_F(TerminalWindowTest, ProgramsThatAreMissingOrFail_AreFollowedByTheNext) {
     EXPECT_TRUE(comesTo(TerminalOutcome::Ended));
     EXPECT_EQ(content("tried"), "bad\ngood\n");
     EXPECT_EQ(console.logged(), QStringList{QString(at("bad") + u" could not open a window.")});
+}
+
+TEST_F(TerminalWindowTest, KnownTerminals_AreTriedInTheirOrderEachWithItsOwnOption) {
+    const QByteArray options = "x-terminal-emulator -e\n"
+                               "gnome-terminal --\n"
+                               "konsole -e\n"
+                               "xfce4-terminal -x\n"
+                               "mate-terminal -x\n"
+                               "terminator -x\n"
+                               "tilix -e\n"
+                               "qterminal -e\n"
+                               "kitty /bin/sh\n"
+                               "alacritty -e\n"
+                               "foot /bin/sh\n"
+                               "urxvt -e\n"
+                               "rxvt -e\n"
+                               "xterm -e\n";
+    ASSERT_TRUE(QDir().mkdir(at("bin")));
+    for (const QByteArray& line : options.trimmed().split('\n'))
+        program("bin/" + line.split(' ')[0],
+                "echo \"${0##*/} $1\" >>'" + at("options").toLocal8Bit() + "'; exit 1");
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", at("bin").toLocal8Bit() + ":/usr/bin:/bin");
+    terminal = std::make_unique<TerminalWindow>(files, console);
+    open(script("true"));
+    EXPECT_TRUE(comesTo(TerminalOutcome::NoWindow));
+    qputenv("PATH", path);
+    EXPECT_EQ(content("options"), options);
+}
+
+TEST_F(TerminalWindowTest, AfterTheEnd_NothingTurnsInACircle) {
+    use({program("one", window())});
+    open(script("true"));
+    ASSERT_TRUE(comesTo(TerminalOutcome::Ended));
+    int turns = 0;
+    const QMetaObject::Connection counting =
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake,
+                         [&turns] { ++turns; });
+    EXPECT_FALSE(waitInLoop([&turns] { return turns > 1000; }, 1));
+    QObject::disconnect(counting);
 }
 
 TEST_F(TerminalWindowTest, NoProgramAtAll_IsSaid) {

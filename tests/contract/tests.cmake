@@ -15,6 +15,7 @@ kelvo_tests(contract
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
     contract/command_processes_test.cpp
+    contract/command_table_test.cpp
     contract/console_contract_test.cpp
     contract/desktop_notices_contract_test.cpp
     contract/detached_start_test.cpp

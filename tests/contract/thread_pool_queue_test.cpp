@@ -7,6 +7,7 @@
 #include <array>
 #include <atomic>
 #include <chrono>
+#include <fstream>
 #include <functional>
 #include <memory>
 #include <semaphore>
@@ -49,6 +50,23 @@ TEST_F(ThreadPoolQueueTest, BlockedItems_DoNotHoldUpOthersUpToSixtyFour) {
     EXPECT_TRUE(until([this] { return fRunning == 70; }));
     EXPECT_EQ(queue.threads(), 64u);
     fRelease.release(64);
+}
+
+TEST_F(ThreadPoolQueueTest, ThreadsThatHaveEnded_GiveTheirStacksBack) {
+    ThreadPoolQueue queue(0ms);
+    const auto stacks = [] {
+        std::ifstream maps("/proc/self/maps");
+        std::size_t count = 0;
+        for (std::string line; std::getline(maps, line);)
+            ++count;
+        return count;
+    };
+    const std::size_t before = stacks();
+    for (int i = 0; i < 300; ++i) {
+        queue.async([] {});
+        ASSERT_TRUE(until([&queue] { return queue.threads() == 0; })) << i;
+    }
+    EXPECT_LT(stacks(), before + 100);
 }
 
 TEST_F(ThreadPoolQueueTest, WorkThatHadToWait_StartsInTheOrderOfPosting) {

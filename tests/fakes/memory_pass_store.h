@@ -16,6 +16,8 @@ class MemoryPassStore final : public PassStore {
 public:
     explicit MemoryPassStore(DispatchQueue& mainQueue) : fMainQueue(mainQueue) {}
 
+    bool isWritable = true; ///< false: passes are told as those are that could not be written
+
     void append(const PassRecord& record) override {
         const std::lock_guard lock(fState->mutex);
         fState->records.push_back(record);
@@ -31,6 +33,8 @@ public:
             fState->records.erase(fState->records.begin());
         PassRecord told = fState->records.back();
         told.commands.clear();
+        if (!isWritable)
+            told.id = 0;
         fMainQueue.async([state = fState, told = std::move(told)] {
             for (const auto& [number, observer] : std::map(state->observers))
                 observer(told);

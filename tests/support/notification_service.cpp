@@ -9,9 +9,11 @@ bool NotificationService::appear() {
            fBus.registerService(QStringLiteral("org.freedesktop.Notifications"));
 }
 
-uint NotificationService::Notify(const QString&, uint, const QString&, const QString& summary,
-                                 const QString& body, const QStringList& newActions,
-                                 const QVariantMap& newHints, int) {
+uint NotificationService::Notify(const QString& program, uint replaces, const QString& icon,
+                                 const QString& summary, const QString& body,
+                                 const QStringList& newActions, const QVariantMap& newHints,
+                                 int milliseconds) {
+    frame = {program, replaces, icon, milliseconds};
     actions = newActions;
     hints = newHints;
     shown << summary + u" | " + body;

@@ -17,9 +17,11 @@ public:
     /// False when the name or the place on the bus is taken.
     bool appear();
 
-    QStringList shown;                          ///< "<summary> | <body>", as they came
-    QStringList actions;                        ///< of the last notice
-    QVariantMap hints;                          ///< of the last notice
+    QStringList shown;   ///< "<summary> | <body>", as they came
+    QStringList actions; ///< of the last notice
+    QVariantMap hints;   ///< of the last notice
+    /// Of the last notice: program, number of the notice that it replaces, icon, milliseconds.
+    QVariantList frame;
     QStringList can{QStringLiteral("actions")}; ///< what it says it can do
 
 Q_SIGNALS:

@@ -66,6 +66,22 @@ TEST_F(AfterArrivalsTest, RemotePass_RunsItOnceForBothPulls) {
     EXPECT_EQ(shell.commands().last(), cAfter);
 }
 
+TEST_F(AfterArrivalsTest, PullThatBroughtNothingByItsOwnFigures_IsBelieved) {
+    QByteArray count = "0";
+    shell.answerTo(QStringLiteral("pull"), [this, &count](const QString&) {
+        arrive("new");
+        return QString::fromLatin1("Number of regular files transferred: " + count +
+                                   "\nTotal transferred file size: " + count + " bytes\n");
+    });
+    button.performClick();
+    runBodies();
+    EXPECT_TRUE(records.at(0).arrivals.empty()) << "somebody else put it there";
+    count = "1";
+    mainQueue.advance(31.0);
+    runBodies();
+    EXPECT_EQ(records.at(1).arrivals.size(), 1U) << "it did not say which";
+}
+
 TEST_F(AfterArrivalsTest, FailedCheck_BringsNothing) {
     defaults.setObject(prefRsyncWithSSH, true);
     validator.usual = QStringLiteral("unknownerror");

@@ -129,6 +129,13 @@ TEST_F(PassNoticesTest, TroubleThatOnlyAPersonMends_IsUrgent) {
     EXPECT_TRUE(desktop.notices.back().urgent);
 }
 
+TEST_F(PassNoticesTest, ShowOfAPassThatCouldNotBeWritten_AsksForTheRecordAsAWhole) {
+    store.isWritable = false;
+    pass(PassCause::DiskFull);
+    EXPECT_TRUE(desktop.chooseShow());
+    EXPECT_EQ(asked, std::vector<std::optional<qint64>>{std::nullopt});
+}
+
 TEST_F(PassNoticesTest, Show_AsksForThePassOfTheNotice) {
     pass(PassCause::DiskFull);
     pass(PassCause::DiskFull);

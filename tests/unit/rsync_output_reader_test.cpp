@@ -156,6 +156,43 @@ TEST(RsyncOutputReaderTest, WhenTheRestIsHere_TheSizesOfTheNamedFilesAreAllThere
     EXPECT_FALSE(nothing.share) << "less than was said";
 }
 
+TEST(RsyncOutputReaderTest, WhatMayNotBeAll_IsNinetyNinePerCentAtMost) {
+    Reading bytes(cFactory, true);
+    bytes("2000000 n1.mov\n\r  0   0%    0.00kB/s    0:00:00  ");
+    EXPECT_EQ(bytes("\r  2,000,000   1%    1.00MB/s    0:00:02 (xfr#1, to-chk=3001/5004)").share,
+              0.99);
+    Reading places(QStringLiteral("/usr/bin/rsync -r -P a/ b/"));
+    EXPECT_EQ(places("\r  3,000,000 100%    5.66MB/s    0:00:00 (xfr#1, to-chk=1/1000)\n").share,
+              0.99);
+}
+
+TEST(RsyncOutputReaderTest, Total_IsSaidOnceItIsKnownWellEnough) {
+    const auto known = [](const char* percent) {
+        Reading read(cFactory);
+        const QByteArray figures = QByteArray("\r  6,000,000   ") + percent + "%    0.00kB/s";
+        read("6000000 f1.mov\n" + figures + "    0:00:00 (xfr#1, to-chk=7/9)\n");
+        return read("\n").bytesKnown;
+    };
+    EXPECT_FALSE(known("6")) << "between 86 and 100 million";
+    EXPECT_EQ(known("7"), 75'000'000) << "and 86 million";
+}
+
+TEST(RsyncOutputReaderTest, LineOf32KiB_IsTheLongestThatIsRead) {
+    constexpr qsizetype cMost = qsizetype{32} * 1024;
+    const auto named = [](const std::vector<QByteArray>& pieces) {
+        Reading read(QStringLiteral("rsync -v a/ b/"));
+        for (const QByteArray& piece : pieces)
+            read(piece);
+        read("next.mov\n");
+        return read.filesNamed().value_or(0) - 1;
+    };
+    EXPECT_EQ(named({QByteArray(cMost, 'x') + '\n'}), 1);
+    EXPECT_EQ(named({QByteArray(cMost + 1, 'x') + '\n'}), 0);
+    EXPECT_EQ(named({QByteArray(cMost - 1, 'x'), "x\n"}), 1) << "in two pieces";
+    EXPECT_EQ(named({QByteArray(cMost - 1, 'x'), "xx\n"}), 0);
+    EXPECT_EQ(named({"x", QByteArray(cMost, 'x'), "\n"}), 0);
+}
+
 TEST(RsyncOutputReaderTest, ListThatStillGrows_HasNoShare) {
     Reading read(cFactory);
     const PassProgress now = read("\r  2,000,000  30%    2.00MB/s    0:00:01 (xfr#1, "

@@ -233,6 +233,17 @@ TEST_F(StatusMenuPresenceTest, HandlerThatIsGone_IsNotActedOn) {
     EXPECT_EQ(second.shows, 1);
 }
 
+TEST_F(StatusMenuPresenceTest, HandlerThatGoesAfterARemoval_DoesNotBringTheIconBack) {
+    {
+        KelvoStatusMenuHandler passing(presence, console);
+        passing.setupStatusMenuStuff();
+        views.setupStatusMenuStuff();
+        views.removeStatusMenuStuff();
+        EXPECT_EQ(menu.visible(), std::nullopt);
+    }
+    EXPECT_EQ(menu.visible(), std::nullopt);
+}
+
 TEST(StatusMenuStateTest, Table) {
     struct Case {
         bool enabled, scanning, trouble;

@@ -16,7 +16,7 @@ QString busTitle(const QString& title) {
             marked += QStringLiteral("__");
         else if (title[at] != u'&')
             marked += title[at];
-        else if (at + 1 < title.size() && title[at + 1] == u'&')
+        else if (QStringView(title).sliced(at + 1).startsWith(u'&'))
             marked += title[++at];
         else
             marked += u'_';
@@ -32,6 +32,11 @@ QVariantMap entryProperties(const TrayEntry& entry) {
     return {{QStringLiteral("label"), busTitle(entry.title)},
             {QStringLiteral("enabled"), entry.isEnabled},
             {QStringLiteral("visible"), entry.isVisible}};
+}
+
+template <typename... Types>
+void registerTypes() {
+    (qDBusRegisterMetaType<Types>(), ...);
 }
 
 } // namespace
@@ -55,13 +60,8 @@ DBusMenu::DBusMenu(std::function<void(std::size_t)> choose, std::function<void(b
     qRegisterMetaType<MenuEvents>("kelvo::MenuEvents");
     qRegisterMetaType<EntryProperties>("kelvo::EntryProperties");
     qRegisterMetaType<EntryPropertyNames>("kelvo::EntryPropertyNames");
-    qDBusRegisterMetaType<MenuLayout>();
-    qDBusRegisterMetaType<MenuEvent>();
-    qDBusRegisterMetaType<MenuEvents>();
-    qDBusRegisterMetaType<EntryProperties::value_type>();
-    qDBusRegisterMetaType<EntryProperties>();
-    qDBusRegisterMetaType<EntryPropertyNames::value_type>();
-    qDBusRegisterMetaType<EntryPropertyNames>();
+    registerTypes<MenuLayout, MenuEvent, MenuEvents, EntryProperties::value_type, EntryProperties,
+                  EntryPropertyNames::value_type, EntryPropertyNames>();
 }
 
 void DBusMenu::setEntries(std::vector<TrayEntry> entries) {

@@ -28,7 +28,7 @@ int readToTheEnd(const QByteArray& name) {
         return errno == ENOENT || errno == ENOTDIR || errno == ELOOP ? 0 : errno;
     if (!S_ISREG(status.st_mode))
         return 0;
-    const UniqueFd file(::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const UniqueFd file(::open(name.constData(), O_RDONLY | O_CLOEXEC));
     if (!file)
         return errno;
     std::array<char, 65536> room{};
