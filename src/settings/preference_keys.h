@@ -32,6 +32,7 @@ inline constexpr QStringView prefCommandAfterArrivals = u"commandAfterArrivals";
 inline constexpr QStringView prefQuitWithoutAsking = u"quitWithoutAsking";
 inline constexpr QStringView prefMainWindowSize = u"mainWindowSize";
 inline constexpr QStringView prefMainWindowTab = u"mainWindowTab";
+inline constexpr QStringView prefAdvancedShown = u"advancedShown";
 inline constexpr QStringView prefRecentLaunchDates = u"recentLaunchDates";
 inline constexpr QStringView prefRelaunchGivenUp = u"relaunchGivenUp";
 

@@ -78,6 +78,8 @@ constexpr auto cTable = std::to_array<Preference>({
      u"Quitting during a pass ends it without asking."},
     {prefMainWindowSize, State, String, cNone, {}, u"The window's last size."},
     {prefMainWindowTab, State, String, cNone, {}, u"The window's last tab."},
+    {prefAdvancedShown, State, Bool, cNone, u"Settings",
+     u"What stands under Advanced there is shown."},
     {prefRecentLaunchDates,
      State,
      Times,

@@ -54,6 +54,7 @@ TEST(PreferencesTest, Keys_AreStoredAsTheyAreSpelledHere) {
         "quitWithoutAsking",
         "mainWindowSize",
         "mainWindowTab",
+        "advancedShown",
         "recentLaunchDates",
         "relaunchGivenUp",
     };

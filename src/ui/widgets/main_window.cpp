@@ -34,10 +34,8 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     addTab(fSettingsTab, "prefs", tr("Settings"));
     addTab(diagnostics, "diagnostics", tr("Diagnostics"));
     addTab(fActivityTab, "activity", tr("Activity"));
-    for (QPushButton* button : findChildren<QPushButton*>()) {
-        button->setToolTip(button->accessibleDescription());
-        button->installEventFilter(this);
-    }
+    prepareButtons(*this);
+    connect(fSettingsTab, &SettingsTab::built, this, [this] { prepareButtons(*fSettingsTab); });
     ibStartButton().setToolTip({}); // Its title says it all.
     setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
     setAction(QStringLiteral("showAllArrivals"), [this] {
@@ -70,6 +68,13 @@ void MainWindow::addTab(QWidget* tab, const char* identifier, const QString& lab
 }
 
 // -- actions
+
+void MainWindow::prepareButtons(const QWidget& parent) {
+    for (QPushButton* button : parent.findChildren<QPushButton*>()) {
+        button->setToolTip(button->accessibleDescription());
+        button->installEventFilter(this);
+    }
+}
 
 QPushButton& MainWindow::button(const QString& control) {
     auto* found = findChild<QPushButton*>(control);

@@ -100,6 +100,7 @@ protected:
 
 private:
     void addTab(QWidget* tab, const char* identifier, const QString& label);
+    void prepareButtons(const QWidget& parent);
     void restoreLook();
     void keepLook();
     void showStartIcon();
