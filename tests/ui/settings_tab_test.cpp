@@ -298,9 +298,11 @@ TEST_F(SettingsTabTest, Example_FollowsTheTypingAMomentLater) {
     set(prefRsyncCommandStringExample, QStringLiteral("stored"));
     showAdvanced();
     EXPECT_EQ(example(), u"stored");
-    type("r %@99 %@1 %@2");
+    type("r %@99 %@1");
+    mainQueue.advance(0.19);
     EXPECT_EQ(example(), u"stored") << "typing goes on";
-    mainQueue.advance(0.2);
+    QTest::keyClicks(&field(), QStringLiteral(" %@2"));
+    mainQueue.advance(0.01);
     EXPECT_EQ(example(), u"r --update %@1 %@2");
     EXPECT_TRUE(mainQueue.idle()) << "one look for all keys";
     EXPECT_EQ(defaults.stringForKey(prefRsyncCommandStringExample), QStringLiteral("stored"))
