@@ -71,6 +71,7 @@ public:
         });
         fWindow.syncTab().recentArrivals().setStore(machine.passes);
         fWindow.settingsTab().setLoginItem(machine.loginItem);
+        fWindow.settingsTab().setAlerts(fAlerts);
         fWindow.setMayClose([this] { return mayClose(); });
     }
 

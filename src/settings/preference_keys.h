@@ -33,6 +33,7 @@ inline constexpr QStringView prefQuitWithoutAsking = u"quitWithoutAsking";
 inline constexpr QStringView prefShowDiagnostics = u"showDiagnostics";
 inline constexpr QStringView prefMainWindowSize = u"mainWindowSize";
 inline constexpr QStringView prefMainWindowTab = u"mainWindowTab";
+inline constexpr QStringView prefAdvancedShown = u"advancedShown";
 inline constexpr QStringView prefRecentLaunchDates = u"recentLaunchDates";
 inline constexpr QStringView prefRelaunchGivenUp = u"relaunchGivenUp";
 

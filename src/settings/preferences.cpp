@@ -80,6 +80,8 @@ constexpr auto cTable = std::to_array<Preference>({
      u"The Diagnostics tab and the menu entries about restarts after a crash are shown."},
     {prefMainWindowSize, State, String, cNone, {}, u"The window's last size."},
     {prefMainWindowTab, State, String, cNone, {}, u"The window's last tab."},
+    {prefAdvancedShown, State, Bool, cNone, u"Settings",
+     u"What stands under Advanced there is shown."},
     {prefRecentLaunchDates,
      State,
      Times,

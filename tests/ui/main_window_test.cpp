@@ -204,6 +204,7 @@ TEST_F(MainWindowTest, Settings_AreBoundBothWays) {
     window.show();
     window.showTab(QStringLiteral("prefs"));
     QApplication::setActiveWindow(&window);
+    set(prefAdvancedShown, true);
     set(prefRsyncWithSSH, true);
     EXPECT_TRUE(child<QRadioButton>("remotePass")->isChecked());
     child<QRadioButton>("plainPass")->click();
@@ -359,6 +360,7 @@ TEST_F(MainWindowTest, EveryButtonAndField_SaysWhatItIsForOrIsNamedByItsText) {
 }
 
 TEST_F(MainWindowTest, MnemonicsOfATab_AreDifferent) {
+    set(prefAdvancedShown, true);
     for (const MainWindow::Tab& tab : window.tabs()) {
         window.showTab(tab.identifier);
         window.show();
@@ -377,6 +379,7 @@ TEST_F(MainWindowTest, MnemonicsOfATab_AreDifferent) {
 }
 
 TEST_F(MainWindowTest, TabKey_ReachesEveryControlFromTopToBottom) {
+    set(prefAdvancedShown, true);
     for (const MainWindow::Tab& tab : window.tabs()) {
         window.showTab(tab.identifier);
         for (QAbstractButton* button : window.findChildren<QAbstractButton*>())
@@ -439,6 +442,7 @@ TEST_F(MainWindowTest, LongNames_DoNotWidenTheWindow) {
 
 /// No button and no caption may lose letters, whatever the size of the letters.
 TEST_F(MainWindowTest, LettersOfDoubleSize_AreNotCut) {
+    set(prefAdvancedShown, true);
     const QFont usual = QApplication::font();
     QFont large = usual;
     large.setPointSizeF(usual.pointSizeF() * 2);

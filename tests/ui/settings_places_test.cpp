@@ -45,7 +45,8 @@ QSet<QString> keysOn() {
     NotingDefaults defaults;
     VirtualMainQueue mainQueue;
     Bindings bindings(defaults, mainQueue);
-    const Tab tab(bindings);
+    Tab tab(bindings);
+    tab.show(); // A tab may make its controls only now.
     return defaults.observed;
 }
 

@@ -64,7 +64,7 @@ TEST(MovieKindsTest, FilesOfAKind_AreTakenInCapitalAndSmallLetters) {
         static const QRegularExpression taken(QStringLiteral("-f '\\+ (\\*\\.[^']*)'"));
         const auto found = taken.match(templateWithKinds(only));
         ASSERT_TRUE(found.hasMatch());
-        const auto pattern = QRegularExpression::fromWildcard(found.captured(1));
+        const auto pattern = QRegularExpression::fromWildcard(found.captured(1), Qt::CaseSensitive);
         const QString suffix = cMovieKinds[i].suffix.toString();
         for (const QString& name : {suffix, suffix.toUpper()})
             EXPECT_TRUE(pattern.match(QString(u"a film." + name)).hasMatch()) << name.toStdString();
@@ -76,7 +76,7 @@ TEST(MovieKindsTest, KindsThatComeAnyway_AreThoseOfTheMovieTemplate) {
     static const QRegularExpression taken(QStringLiteral("-f '\\+ (\\*\\.[^']*)'"));
     const auto found = taken.match(cMovieCommandTemplate.toString());
     ASSERT_TRUE(found.hasMatch());
-    const auto pattern = QRegularExpression::fromWildcard(found.captured(1));
+    const auto pattern = QRegularExpression::fromWildcard(found.captured(1), Qt::CaseSensitive);
     for (const MovieKind& kind : cMovieKinds)
         EXPECT_EQ(pattern.match(QString(u"a." + kind.suffix)).hasMatch(), kind.comesAnyway)
             << kind.suffix.toString().toStdString();

@@ -55,6 +55,7 @@ TEST(PreferencesTest, Keys_AreStoredAsTheyAreSpelledHere) {
         "showDiagnostics",
         "mainWindowSize",
         "mainWindowTab",
+        "advancedShown",
         "recentLaunchDates",
         "relaunchGivenUp",
     };

@@ -30,6 +30,7 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     addTab(fRemoteTab, "remote", QT_TR_NOOP("Remote Mac"));
     addTab(fSettingsTab, "prefs", QT_TR_NOOP("Settings"));
     addTab(fActivityTab, "activity", QT_TR_NOOP("Activity"));
+    connect(fSettingsTab, &SettingsTab::built, this, [this] { prepareButtons(*fSettingsTab); });
     ibStartButton().setToolTip({}); // Its title says it all.
     setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
     setAction(QStringLiteral("showAllArrivals"), [this] {
@@ -61,13 +62,17 @@ void MainWindow::addTab(QWidget* tab, const char* identifier, const char* name) 
     tab->setProperty("identifier", QString::fromLatin1(identifier));
     tab->setProperty("name", QString::fromLatin1(name));
     fUi->tabView->addTab(tab, tr(name));
-    for (QPushButton* button : tab->findChildren<QPushButton*>()) {
+    prepareButtons(*tab);
+}
+
+// -- actions
+
+void MainWindow::prepareButtons(const QWidget& parent) {
+    for (QPushButton* button : parent.findChildren<QPushButton*>()) {
         button->setToolTip(button->accessibleDescription());
         button->installEventFilter(this);
     }
 }
-
-// -- actions
 
 QPushButton& MainWindow::button(const QString& control) {
     auto* found = findChild<QPushButton*>(control);

@@ -112,6 +112,7 @@ protected:
 
 private:
     void addTab(QWidget* tab, const char* identifier, const char* name);
+    void prepareButtons(const QWidget& parent);
     void followDiagnostics();
     void restoreLook();
     void keepLook();
