@@ -40,18 +40,20 @@ ViewController::ViewController(const ViewControllerParts& parts)
     : fParts(parts),
       fStatusLine(parts.engine.defaults, parts.engine.mainQueue, parts.outlets.ibStatusTextField),
       fAlerts(parts.engine.mainQueue, parts.engine.console, parts.outlets.alertPresenter),
-      fEngine(parts.engine,
-              {.updateStatusMessage =
-                   [this](std::optional<QString> mesg, StatusColor color, bool docenter) {
-                       fStatusLine.updateStatusMessage(std::move(mesg), color, docenter);
-                   },
-               .showProblemWithBonjourClosure =
-                   [this](const QString& message, const QString& text, AlertCompletion completion) {
-                       fAlerts.showProblemWithBonjourClosure(message, text, std::move(completion));
-                   },
-               .ibStartButton = parts.outlets.ibStartButton,
-               .stateChanged = [this] { fWork.look(); }},
-              [&view = parts.outlets.view](KeyState state) { view.showKeyState(state); }),
+      fEngine(
+          parts.engine,
+          {.updateStatusMessage =
+               [this](std::optional<QString> mesg, StatusColor color, bool docenter) {
+                   fStatusLine.updateStatusMessage(std::move(mesg), color, docenter);
+               },
+           .showProblemWithBonjourClosure =
+               [this](const QString& message, const QString& text, AlertCompletion completion) {
+                   fAlerts.showProblemWithBonjourClosure(message, text, std::move(completion));
+               },
+           .ibStartButton = parts.outlets.ibStartButton,
+           .stateChanged = [this] { fWork.look(); }},
+          [&view = parts.outlets.view](KeyState state) { view.showKeyState(state); },
+          parts.outlets.hostAnswered),
       fWork({.defaults = parts.engine.defaults,
              .mainQueue = parts.engine.mainQueue,
              .passStore = parts.passStore,
@@ -119,6 +121,16 @@ ViewController::ViewController(const ViewControllerParts& parts)
                   fAlerts.showAlertWithClosure(message, text, std::nullopt, std::move(completion));
               },
           .showBusy = [&view = parts.outlets.view](bool testing) { view.showTesting(testing); },
+          .answered =
+              [this](const QString& target, const CommandResult& result) {
+                  if (const auto answer = answerOfTest(target, result))
+                      hostTested(*answer);
+              },
+          .refused =
+              [this](const QString& target, const QString& fault) {
+                  hostTested(
+                      {.target = target, .cause = PassCause::SettingsRefused, .lastLine = fault});
+              },
       }),
       fProvisioning({
           .defaults = parts.engine.defaults,
@@ -244,6 +256,14 @@ void ViewController::scriptEnded(TerminalOutcome outcome, const QString& command
         fTerminalNotice.show(command);
     else
         fEngine.keyState.checkAgain();
+}
+
+/// What the test says of the key is as good as what a check says of it.
+void ViewController::hostTested(const HostAnswer& answer) {
+    if (const auto verdict = verdictOnTheKey(answer))
+        fEngine.keyState.answered(answer.target, *verdict);
+    if (fParts.outlets.hostAnswered)
+        fParts.outlets.hostAnswered(answer);
 }
 
 // -- settings
