@@ -6,10 +6,12 @@
 #include "ports/dispatch_queue.h"
 #include "ports/main_view.h"
 #include "settings/preference_keys.h"
+#include "settings/remote_account.h"
 #include "support/notification_center.h"
 #include "support/property_value.h"
 #include "support/text.h"
 #include "ui/main_window_controller.h"
+#include "ui/setup_steps.h"
 
 #include <utility>
 
@@ -145,6 +147,10 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .workspace = parts.workspace,
           .scriptEnded = [this](TerminalOutcome outcome,
                                 const QString& command) { scriptEnded(outcome, command); },
+          .windowTitle =
+              [](const RemoteAccount& account) {
+                  return passwordTitle(account.user, account.host);
+              },
           .keysChanged = [this] { fEngine.keyState.keysChanged(); },
       }),
       fShare({

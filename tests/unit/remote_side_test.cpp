@@ -128,6 +128,13 @@ TEST_F(RemoteSideTest, EveryCheckOfTheHost_IsAnAnswer) {
               (HostAnswer{.target = QStringLiteral("ann@mac.local"), .cause = PassCause::Well}));
 }
 
+TEST_F(RemoteSideTest, TerminalWindow_SaysWhosePasswordIsAsked) {
+    controller.ibGenerateSSHKeyStuff(nullptr);
+    settle();
+    ASSERT_EQ(terminal.windows.size(), 1U);
+    EXPECT_EQ(terminal.windows.front().title, u"Kelvo Mirror: the password of ann on mac.local");
+}
+
 TEST_F(RemoteSideTest, UseSourceNow_DoesWhatANewUserNameDoes) {
     defaults.setObject(prefRemotePath, QStringLiteral("Clips"));
     mainQueue.advance(5);
