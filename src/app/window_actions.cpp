@@ -44,6 +44,8 @@ constexpr Wire cButtons[] = {
     {"createNewPrivatePublicKeys", &ViewController::createNewPrivatePublicKeys},
     {"createNewPrivatePublicKeysOLD", &ViewController::createNewPrivatePublicKeysOLD},
     {"checkKeyState", &ViewController::checkKeyState},
+    {"useSourceNow", &ViewController::useSourceNow},
+    {"syncUseSourceNow", &ViewController::useSourceNow},
     {"ibTestShellCommand", &ViewController::ibTestShellCommand},
     {"ibTestShellCommand111", &ViewController::ibTestShellCommand111},
     {"ibRevealSourcePathSMB", &ViewController::ibRevealSourcePathSMB},

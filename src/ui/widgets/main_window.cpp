@@ -3,7 +3,6 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "support/fatal.h"
-#include "ui/key_state_words.h"
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/icons.h"
@@ -39,7 +38,10 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
         button->installEventFilter(this);
     }
     ibStartButton().setToolTip({}); // Its title says it all.
-    setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
+    setAction(QStringLiteral("showRemoteTab"), [this] {
+        showTab(QStringLiteral("remote"));
+        fRemoteTab->openNextStep();
+    });
     setAction(QStringLiteral("showAllArrivals"), [this] {
         showTab(QStringLiteral("activity"));
         fActivityTab->showArrived();
@@ -194,7 +196,8 @@ PathControlView& MainWindow::destinationPath() {
 }
 
 void MainWindow::showKeyState(KeyState state) {
-    fRemoteTab->setKeyState(keyStateWords(state));
+    fKeyState = state;
+    fRemoteTab->setKeyState(state);
     Q_EMIT keyStateShown(state);
 }
 

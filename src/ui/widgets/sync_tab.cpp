@@ -49,8 +49,8 @@ void SyncTab::layOut() {
     fUi->ibCancelPass->setSizePolicy(keepsItsRoom);
     fUi->ibCancelPass->hide();
     fitStartIcon();
-    for (QWidget* row :
-         {fUi->remoteSource, fUi->folderSource, fUi->destination, fUi->buttons, fUi->arrivalsHead})
+    for (QWidget* row : {fUi->remoteSource, fUi->folderSource, fUi->sourceNow, fUi->destination,
+                         fUi->buttons, fUi->arrivalsHead})
         new FlowLayout(*row);
 }
 
@@ -117,6 +117,7 @@ void SyncTab::showSource(Bindings& bindings) {
     const QString notice = remote ? sourceNotice(defaults) : QString();
     fUi->sourceNotice->setText(notice);
     fUi->sourceNotice->setVisible(!notice.isEmpty());
+    fUi->sourceNow->setVisible(remote && sourceMayBeUsed(defaults));
 }
 
 } // namespace kelvo
