@@ -38,6 +38,8 @@ constexpr Wire cButtons[] = {
     {"ibGenerateSSHKeyStuff", &ViewController::ibGenerateSSHKeyStuff},
     {"createNewPrivatePublicKeys", &ViewController::createNewPrivatePublicKeys},
     {"checkKeyState", &ViewController::checkKeyState},
+    {"useSourceNow", &ViewController::useSourceNow},
+    {"syncUseSourceNow", &ViewController::useSourceNow},
     {"ibTestShellCommand", &ViewController::ibTestShellCommand},
     {"ibRevealSourcePathSMB", &ViewController::ibRevealSourcePathSMB},
     {"ibRevealSourcePathSMBdebug", &ViewController::ibRevealSourcePathSMBdebug},

@@ -9,6 +9,7 @@
 #include "support/array_controller.h"
 #include "support/text.h"
 #include "ui/close_policy.h"
+#include "ui/connection_watch.h"
 #include "ui/main_window_controller.h"
 #include "ui/view_controller.h"
 #include "ui/widgets/activity_tab.h"
@@ -18,6 +19,7 @@
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/recent_arrivals.h"
+#include "ui/widgets/remote_tab.h"
 #include "ui/widgets/service_list.h"
 #include "ui/widgets/settings_tab.h"
 #include "ui/widgets/sheet_presenter.h"
@@ -93,6 +95,11 @@ public:
             .terminal = fMachine.terminal,
             .copyText = copyText,
             .showActivity = [this](std::optional<qint64> pass) { fWindow.showActivity(pass); },
+            .hostAnswered =
+                [this](const HostAnswer& answer) {
+                    if (fConnection)
+                        fConnection->answered(answer);
+                },
             .fArrayController = fFoundServices,
             .ibStartButton = &fStartButton,
             .ibRevealButton1 = &fRevealButton1,
@@ -128,6 +135,10 @@ public:
                          [this] { fChecklist->look(); });
         QObject::connect(&fWindow, &MainWindow::keyStateShown, &fWindow,
                          [this](KeyState state) { fChecklist->setKeyState(state); });
+        QObject::connect(&fWindow.remoteTab(), &RemoteTab::shownFirst, &fWindow,
+                         [this] { watchConnection(); });
+        if (fWindow.remoteTab().wasShown())
+            watchConnection();
         addApplicationMenu(
             fWindow, controller, delegate, fMachine.statusMenu(), fMachine.workspace,
             fMachine.logFolder(), [this] { return mayQuit(); },
@@ -140,7 +151,16 @@ private:
     void apply(Remedy remedy) {
         switch (remedy) {
         case Remedy::ShowRemoteTab:
-            fWindow.showTab(QStringLiteral("remote"));
+            fWindow.button(QStringLiteral("showRemoteTab")).click();
+            break;
+        case Remedy::ChooseMac:
+            showStep(SetupStep::Mac);
+            break;
+        case Remedy::EnterAccount:
+            showStep(SetupStep::Account);
+            break;
+        case Remedy::SetUpKey:
+            showStep(SetupStep::Key);
             break;
         case Remedy::ChooseSource:
             fWindow.button(QStringLiteral("ibSelectFolder1Action")).click();
@@ -163,6 +183,27 @@ private:
         case Remedy::None:
             break;
         }
+    }
+
+    void showStep(SetupStep step) {
+        fWindow.showTab(QStringLiteral("remote"));
+        fWindow.remoteTab().openStep(step);
+    }
+
+    /// Who never looks at the tab does not wait for the record.
+    void watchConnection() {
+        fConnection.emplace(ConnectionWatch::Parts{
+            .defaults = fMachine.defaults,
+            .passes = fMachine.passes,
+            .now = [] { return QDateTime::currentDateTimeUtc(); },
+            .keyState = fWindow.keyState(),
+            .show =
+                [this](const Connection& connection) {
+                    fWindow.remoteTab().setConnection(connection);
+                },
+        });
+        QObject::connect(&fWindow, &MainWindow::keyStateShown, &fWindow,
+                         [this](KeyState state) { fConnection->setKeyState(state); });
     }
 
     /// A second wish, from the tray, adds no second question.
@@ -195,6 +236,7 @@ private:
     ClosePolicy fClosePolicy;
     bool fAsksAboutQuit = false;
     std::optional<Checklist> fChecklist;
+    std::optional<ConnectionWatch> fConnection;
     ArrayController fFoundServices; ///< told of the table's selection until the window is gone
     MainWindow fWindow;
     WidgetMainView fView;

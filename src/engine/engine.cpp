@@ -1,11 +1,14 @@
 #include "engine/engine.h"
 
+#include "ports/dispatch_queue.h"
+
 #include <utility>
 
 namespace kelvo {
 
 Engine::Engine(const EngineParts& parts, const CycleView& view,
-               std::function<void(KeyState)> showKeyState)
+               std::function<void(KeyState)> showKeyState,
+               const std::function<void(const HostAnswer&)>& hostAnswered)
     : passes(parts.commands, parts.clock, parts.passEnded),
       rsyncCommand(parts.defaults, parts.console), samplePath(parts.defaults, parts.mainQueue),
       hostValidation(
@@ -13,8 +16,14 @@ Engine::Engine(const EngineParts& parts, const CycleView& view,
            .commands = parts.commands,
            .files = parts.files,
            .console = parts.console,
-           .answered = [this](const QString& target,
-                              const HostVerdict& verdict) { keyState.answered(target, verdict); }}),
+           .answered =
+               [this, &mainQueue = parts.mainQueue, hostAnswered](
+                   const QString& target, const HostVerdict& verdict, const CommandResult& result) {
+                   keyState.answered(target, verdict);
+                   const auto answer = answerOfCheck(target, verdict, result);
+                   if (answer && hostAnswered)
+                       mainQueue.async([hostAnswered, answer] { hostAnswered(*answer); });
+               }}),
       keyState({.defaults = parts.defaults,
                 .files = parts.files,
                 .mainQueue = parts.mainQueue,

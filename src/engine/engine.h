@@ -1,6 +1,7 @@
 // Engine: what runs the passes, put together once for every way to start the program.
 #pragma once
 
+#include "engine/host_answer.h"
 #include "passes/running_pass.h"
 #include "remote/key_state_watch.h"
 #include "remote/remote_host_validation.h"
@@ -24,9 +25,11 @@ struct EngineParts {
 
 /// Main thread. Both queues must have ended before it is destroyed: what waits there belongs to it.
 struct Engine {
-    /// `showKeyState` receives what is known of the key, on the main thread.
+    /// `showKeyState` receives what is known of the key, `hostAnswered` (may be empty) what came of
+    /// each check of the host; both on the main thread.
     Engine(const EngineParts& parts, const CycleView& view,
-           std::function<void(KeyState)> showKeyState);
+           std::function<void(KeyState)> showKeyState,
+           const std::function<void(const HostAnswer&)>& hostAnswered = {});
 
     RunningPasses passes;
     RsyncCommand rsyncCommand;

@@ -48,18 +48,19 @@ QString CommandFiles::chmodAsExecutableBySystemCall(const QString& path) {
 }
 
 bool CommandFiles::executeAsCommandFile(const QString& command,
-                                        std::function<void(TerminalOutcome)> ended) {
+                                        std::function<void(TerminalOutcome)> ended,
+                                        const QString& title) {
     const QString path = scriptPath();
     if (path.isEmpty() || !writeScript(path, command))
         return false;
     (void)chmodAsExecutable(path);
-    openScript(path, command, std::move(ended));
+    openScript(path, command, std::move(ended), title);
     return true;
 }
 
 void CommandFiles::openScript(const QString& path, const QString& command,
-                              std::function<void(TerminalOutcome)> ended) {
-    fParts.terminal.openCommandFile(path, command, std::move(ended));
+                              std::function<void(TerminalOutcome)> ended, const QString& title) {
+    fParts.terminal.openCommandFile(path, command, title, std::move(ended));
 }
 
 QString CommandFiles::scriptPath() {

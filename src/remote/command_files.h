@@ -36,9 +36,10 @@ public:
     /// The same by the system call; empty when it went well, otherwise its result in decimal.
     QString chmodAsExecutableBySystemCall(const QString& path);
 
-    /// Writes `command` into the script and opens that in a terminal window. False when it could
-    /// not be written; `ended` is called only after true, as Terminal says.
-    bool executeAsCommandFile(const QString& command, std::function<void(TerminalOutcome)> ended);
+    /// Writes `command` into the script and opens that in a terminal window with `title`. False
+    /// when it could not be written; `ended` is called only after true, as Terminal says.
+    bool executeAsCommandFile(const QString& command, std::function<void(TerminalOutcome)> ended,
+                              const QString& title = {});
 
     /// Where the script lies; empty, with a line that says why, when there is no safe place.
     QString scriptPath();
@@ -50,7 +51,7 @@ public:
     bool removeOldScript(const QString& path);
 
     void openScript(const QString& path, const QString& command,
-                    std::function<void(TerminalOutcome)> ended);
+                    std::function<void(TerminalOutcome)> ended, const QString& title = {});
 
 private:
     bool removeIfThere(const QString& path);

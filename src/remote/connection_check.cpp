@@ -47,7 +47,7 @@ std::optional<QString> fillInSshParams(const QString& text, const UserDefaults& 
     const QString hostAlone = withoutBlanksBehind(*host);
     const QString blanks = host->sliced(hostAlone.size());
     QString command = text;
-    command.replace(cGoodResponse, QStringLiteral("\"remoteisgood\""));
+    command.replace(cGoodResponse, QString(u'"' + cGoodAnswer + u'"'));
     command.replace(cHost, cHost + blanks);
     return withFillings(
         command, {{QStringLiteral("%@4"), trimmedText(expandingTilde(cPrivateKeyFile, home))},
@@ -75,6 +75,8 @@ void ConnectionCheck::ibTestShellCommand() {
 void ConnectionCheck::ibTestShellCommand222() {
     fParts.console.log(insideLine(cTypeName, u"ibTestShellCommand222(_:)"));
     if (const QString fault = faultOfAccount(); !fault.isEmpty()) {
+        if (fParts.refused)
+            fParts.refused(target(), fault);
         showFault(fault);
         return;
     }
@@ -83,22 +85,25 @@ void ConnectionCheck::ibTestShellCommand222() {
         filledIn(QStringLiteral("ssh -i %@4 -o BatchMode=yes -o ConnectTimeout=5 %@1@%@2 echo "
                                 "%@sshgoodresponsestring 2>&1"));
     fParts.console.print(u"cmd to send out is:\n" + command);
-    const auto result = std::make_shared<QString>();
+    const auto result = std::make_shared<CommandResult>();
     background(
         fParts.bgQueue, fParts.mainQueue, 0.0,
         [&shell = fParts.shell, command, result] {
-            *result = outputWithin(shell, cPatience, command);
+            *result = shell.run({.text = command, .seconds = cPatience, .bounds = cShortAnswer});
         },
-        [this, result] { finish(*result); });
+        [this, result, target = target()] { finish(target, *result); });
 }
 
-void ConnectionCheck::finish(const QString& output) {
+void ConnectionCheck::finish(const QString& target, const CommandResult& result) {
+    const QString& output = result.output;
     fParts.console.print(u"got back:\n" + trimmedText(output));
     fParts.console.print(QStringLiteral("----  END  -----"));
     // The shell has taken the quotes away by now, so the line comes only when the output has them.
     if (output.contains(filledIn(cGoodResponse), Qt::CaseInsensitive))
         fParts.console.print(QStringLiteral("ssh remote is alive... connection good"));
 
+    if (fParts.answered)
+        fParts.answered(target, result);
     const QString fault = connectionFault(output);
     if (fault.isEmpty())
         show(QStringLiteral("SUCCESS..."), QStringLiteral("remote seem to be alive?..."));
@@ -127,6 +132,11 @@ QString ConnectionCheck::faultOfAccount() const {
         trimmedText(fParts.defaults.stringForKey(prefRemoteUsername).value_or(QString()));
     return accountFault({.user = user, .host = *host},
                         expandingTilde(cPrivateKeyFile, fParts.files.homeDirectory()));
+}
+
+QString ConnectionCheck::target() const {
+    const auto account = remoteAccount(fParts.defaults);
+    return account ? account->destination() : QString();
 }
 
 /// Our own texts have no quotes in which something could not be filled in.

@@ -16,6 +16,10 @@ class DispatchQueue;
 class FileManager;
 class CommandRunner;
 class UserDefaults;
+struct CommandResult;
+
+/// What a host that lets the program in prints in the test.
+inline constexpr QStringView cGoodAnswer = u"remoteisgood";
 
 /// Fills the numbered placeholders of `text` from the settings, each escaped for the quotes around
 /// it so that it stays in its word; blanks behind the host stay as they are. `text` itself when no
@@ -42,6 +46,11 @@ struct ConnectionCheckParts {
     /// Receives true when a test begins and false as soon as the first of several has ended, on the
     /// main thread.
     std::function<void(bool)> showBusy;
+    /// Hears the whole end of each test before its alert, on the main thread; `target` is user@host
+    /// as it was when the test began. May be empty.
+    std::function<void(const QString& target, const CommandResult&)> answered = {};
+    /// The same of a user or host that cannot stand in a command. May be empty.
+    std::function<void(const QString& target, const QString& fault)> refused = {};
 };
 
 /// Main thread only. Both queues must have ended before this is destroyed.
@@ -57,10 +66,11 @@ public:
     void ibTestShellCommand222();
 
 private:
-    void finish(const QString& output);
+    void finish(const QString& target, const CommandResult& result);
     void showFault(const QString& fault);
     void show(const QString& title, const QString& text);
     QString faultOfAccount() const;
+    QString target() const;
     QString filledIn(const QString& text) const;
 
     const ConnectionCheckParts fParts;

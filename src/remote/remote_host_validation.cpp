@@ -54,34 +54,33 @@ HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout) c
 
 HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout,
                                                                const RunCommand& run) const {
-    QString target;
-    HostVerdict verdict = ask(timeout, run, target);
+    const Asked asked = ask(timeout, run);
     if (fParts.answered)
-        fParts.answered(target, verdict);
-    return verdict;
+        fParts.answered(asked.target, asked.verdict, asked.result);
+    return asked.verdict;
 }
 
-HostVerdict RemoteHostValidation::ask(qint64 timeout, const RunCommand& run,
-                                      QString& target) const {
+RemoteHostValidation::Asked RemoteHostValidation::ask(qint64 timeout, const RunCommand& run) const {
     Console& console = fParts.console;
     constexpr QStringView operation = u"validateRemoteHostWithWhoami(_:)";
     console.log(insideLine(u"ViewController", operation,
                            QString(u".......timeout = " + QString::number(timeout))));
     const auto account = remoteAccount(fParts.defaults);
     if (!account)
-        return HostVerdict::NotAsked;
-    target = account->destination();
+        return {};
+    const QString target = account->destination();
 
     const QString keyPath = expandingTilde(cPrivateKeyFile, fParts.files.homeDirectory());
     if (const QString fault = accountFault(*account, keyPath); !fault.isEmpty()) {
         console.log(insideLine(u"ViewController", operation, QString(u".......REFUSED: " + fault)));
-        return HostVerdict::NotAsked;
+        return {.target = target, .verdict = {}, .result = {}};
     }
     const QString command = whoamiCommand(timeout, keyPath, target);
     console.print(u"cmd to check valid user and remote host = \n" + command);
     const double patience = std::max(static_cast<double>(timeout) + fParts.grace, 0.0);
-    const QString answer =
-        trimmedText(run({.text = command, .seconds = patience, .bounds = cShortAnswer}).output);
+    const CommandResult result =
+        run({.text = command, .seconds = patience, .bounds = cShortAnswer});
+    const QString answer = trimmedText(result.output);
 
     const QString rule(65, u'=');
     console.print(rule);
@@ -92,7 +91,7 @@ HostVerdict RemoteHostValidation::ask(qint64 timeout, const RunCommand& run,
         judgedAnswer(answer, account->user, fParts.files.fileExistsAtPath(keyPath));
     if (!judged.remark.isEmpty())
         console.print(judged.remark);
-    return judged.verdict;
+    return {.target = target, .verdict = judged.verdict, .result = result};
 }
 
 } // namespace kelvo

@@ -33,9 +33,11 @@ struct RemoteHostValidationParts {
     CommandRunner& commands;
     const FileManager& files;
     Console& console;
-    /// Hears each verdict on the thread that asked; `target` is user@host, empty when one of them
-    /// is not set. May be empty.
-    std::function<void(const QString& target, const HostVerdict&)> answered = {};
+    /// Hears each verdict on the thread that asked, with the whole end of the command; `target` is
+    /// user@host, empty when one of them is not set. Where nobody was asked the end has no status.
+    /// May be empty.
+    std::function<void(const QString& target, const HostVerdict&, const CommandResult&)> answered =
+        {};
     /// ssh's own time-out ends with the exchange of keys; a host that stalls after that is waited
     /// for so many seconds beyond it.
     double grace = cCommandGrace;
@@ -53,7 +55,12 @@ public:
     HostVerdict validateRemoteHostWithWhoami(qint64 timeout, const RunCommand& run) const;
 
 private:
-    HostVerdict ask(qint64 timeout, const RunCommand& run, QString& target) const;
+    struct Asked {
+        QString target;
+        HostVerdict verdict;
+        CommandResult result;
+    };
+    Asked ask(qint64 timeout, const RunCommand& run) const;
 
     const RemoteHostValidationParts fParts;
 };

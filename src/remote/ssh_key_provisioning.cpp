@@ -102,7 +102,8 @@ void SshKeyProvisioning::copyPublicKeyToRemoteHost() {
         return;
     }
     const QString command = keyInstallationCommand(privateKey, *account);
-    (void)fParts.commandFiles.executeAsCommandFile(command, tellOf(command));
+    (void)fParts.commandFiles.executeAsCommandFile(command, tellOf(command),
+                                                   fParts.windowTitle(*account));
 }
 
 void SshKeyProvisioning::createNewPrivatePublicKeysOLD() {

@@ -36,6 +36,8 @@ struct SshKeyProvisioningParts {
     /// A script that was opened in a terminal has ended, or no terminal could be opened for
     /// `command`.
     std::function<void(TerminalOutcome, const QString& command)> scriptEnded;
+    /// What the title of the terminal window says that asks for the password of this account.
+    std::function<QString(const RemoteAccount&)> windowTitle;
     /// The files of the pair are not what they were.
     std::function<void()> keysChanged;
 };

@@ -28,6 +28,9 @@ inline bool passRuns(WorkPhase phase) {
 enum class Remedy {
     None,
     ShowRemoteTab,
+    ChooseMac, ///< this and the next two: a step on the Remote Mac tab
+    EnterAccount,
+    SetUpKey,
     ChooseSource,
     ChooseDestination,
     CopyInstallCommand,

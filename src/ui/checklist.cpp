@@ -34,16 +34,16 @@ std::vector<ChecklistLine> checklist(const ChecklistFacts& facts) {
             lines.push_back({words, remedy});
     };
     if (facts.remote) {
-        need(facts.hostChosen, Words::tr("No Mac is chosen yet."), Remedy::ShowRemoteTab);
+        need(facts.hostChosen, Words::tr("No Mac is chosen yet."), Remedy::ChooseMac);
         need(facts.userSet, Words::tr("The user name on the Mac is missing."),
-             Remedy::ShowRemoteTab);
+             Remedy::EnterAccount);
         need(facts.key != KeyState::NoKey, Words::tr("The program has no ssh key of its own yet."),
-             Remedy::ShowRemoteTab);
+             Remedy::SetUpKey);
         // A Mac that was not reached has said nothing of the key.
         const bool reached =
             !facts.lastCause || wordsFor(*facts.lastCause).group != CauseGroup::Host;
         need(facts.key != KeyState::NotAccepted || !reached, whyNotAccepted(facts.lastCause),
-             Remedy::ShowRemoteTab);
+             facts.lastCause == PassCause::WrongUser ? Remedy::EnterAccount : Remedy::SetUpKey);
         need(facts.sshThere, Words::tr("ssh is not installed on this machine."),
              Remedy::CopyInstallCommand);
     } else {

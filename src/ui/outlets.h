@@ -19,6 +19,7 @@ class OpenPanel;
 class PathControl;
 class StatusField;
 class Terminal;
+struct HostAnswer;
 
 /// The references live as long as the front.
 struct Outlets {
@@ -33,6 +34,8 @@ struct Outlets {
     std::function<void(const QString&)> copyText; ///< to the clipboard
     /// Brings the record of passes up, at this pass if it is still kept; may be empty.
     std::function<void(std::optional<qint64> pass)> showActivity = {};
+    /// Receives what came of each check of the host and of each connection test; may be empty.
+    std::function<void(const HostAnswer&)> hostAnswered = {};
     ArrayController& fArrayController; ///< what the main view's own search found
     Button* ibStartButton = nullptr;
     const Control* ibRevealButton1 = nullptr;

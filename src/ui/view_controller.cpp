@@ -6,10 +6,12 @@
 #include "ports/dispatch_queue.h"
 #include "ports/main_view.h"
 #include "settings/preference_keys.h"
+#include "settings/remote_account.h"
 #include "support/notification_center.h"
 #include "support/property_value.h"
 #include "support/text.h"
 #include "ui/main_window_controller.h"
+#include "ui/setup_steps.h"
 
 #include <utility>
 
@@ -40,18 +42,20 @@ ViewController::ViewController(const ViewControllerParts& parts)
     : fParts(parts),
       fStatusLine(parts.engine.defaults, parts.engine.mainQueue, parts.outlets.ibStatusTextField),
       fAlerts(parts.engine.mainQueue, parts.engine.console, parts.outlets.alertPresenter),
-      fEngine(parts.engine,
-              {.updateStatusMessage =
-                   [this](std::optional<QString> mesg, StatusColor color, bool docenter) {
-                       fStatusLine.updateStatusMessage(std::move(mesg), color, docenter);
-                   },
-               .showProblemWithBonjourClosure =
-                   [this](const QString& message, const QString& text, AlertCompletion completion) {
-                       fAlerts.showProblemWithBonjourClosure(message, text, std::move(completion));
-                   },
-               .ibStartButton = parts.outlets.ibStartButton,
-               .stateChanged = [this] { fWork.look(); }},
-              [&view = parts.outlets.view](KeyState state) { view.showKeyState(state); }),
+      fEngine(
+          parts.engine,
+          {.updateStatusMessage =
+               [this](std::optional<QString> mesg, StatusColor color, bool docenter) {
+                   fStatusLine.updateStatusMessage(std::move(mesg), color, docenter);
+               },
+           .showProblemWithBonjourClosure =
+               [this](const QString& message, const QString& text, AlertCompletion completion) {
+                   fAlerts.showProblemWithBonjourClosure(message, text, std::move(completion));
+               },
+           .ibStartButton = parts.outlets.ibStartButton,
+           .stateChanged = [this] { fWork.look(); }},
+          [&view = parts.outlets.view](KeyState state) { view.showKeyState(state); },
+          parts.outlets.hostAnswered),
       fWork({.defaults = parts.engine.defaults,
              .mainQueue = parts.engine.mainQueue,
              .passStore = parts.passStore,
@@ -120,6 +124,16 @@ ViewController::ViewController(const ViewControllerParts& parts)
                   fAlerts.showAlertWithClosure(message, text, std::nullopt, std::move(completion));
               },
           .showBusy = [&view = parts.outlets.view](bool testing) { view.showTesting(testing); },
+          .answered =
+              [this](const QString& target, const CommandResult& result) {
+                  if (const auto answer = answerOfTest(target, result))
+                      hostTested(*answer);
+              },
+          .refused =
+              [this](const QString& target, const QString& fault) {
+                  hostTested(
+                      {.target = target, .cause = PassCause::SettingsRefused, .lastLine = fault});
+              },
       }),
       fProvisioning({
           .defaults = parts.engine.defaults,
@@ -134,6 +148,10 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .workspace = parts.workspace,
           .scriptEnded = [this](TerminalOutcome outcome,
                                 const QString& command) { scriptEnded(outcome, command); },
+          .windowTitle =
+              [](const RemoteAccount& account) {
+                  return passwordTitle(account.user, account.host);
+              },
           .keysChanged = [this] { fEngine.keyState.keysChanged(); },
       }),
       fShare({
@@ -246,6 +264,14 @@ void ViewController::scriptEnded(TerminalOutcome outcome, const QString& command
         fTerminalNotice.show(command);
     else
         fEngine.keyState.checkAgain();
+}
+
+/// What the test says of the key is as good as what a check says of it.
+void ViewController::hostTested(const HostAnswer& answer) {
+    if (const auto verdict = verdictOnTheKey(answer))
+        fEngine.keyState.answered(answer.target, *verdict);
+    if (fParts.outlets.hostAnswered)
+        fParts.outlets.hostAnswered(answer);
 }
 
 // -- settings

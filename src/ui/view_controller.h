@@ -108,6 +108,8 @@ public:
     void createNewPrivatePublicKeys(Control*) { fProvisioning.createNewPrivatePublicKeys(); }
     void createNewPrivatePublicKeysOLD(Control*) { fProvisioning.createNewPrivatePublicKeysOLD(); }
     void checkKeyState(Control*) { fEngine.keyState.checkAgain(); }
+    /// Passes pull from now on from what user name, host and folder say.
+    void useSourceNow(Control*) { fEngine.samplePath.updateSampleString(); }
     void ibRevealSourcePathSMB(Control*) { fShare.ibRevealSourcePathSMB(); }
     void ibRevealSourcePathSMBdebug(Control*) { fShare.ibRevealSourcePathSMBdebug(); }
     void ibRevealSourcePathSMBdebugOLD(Control*) { fShare.ibRevealSourcePathSMBdebugOLD(); }
@@ -146,6 +148,7 @@ private:
     void handWindowControllerOver();
     void readVersion();
     void scriptEnded(TerminalOutcome outcome, const QString& command);
+    void hostTested(const HostAnswer& answer);
     void handleQuitAndRelaunchNotification(const Notification& notification);
     void printInside(QStringView operation, QStringView detail = u".......") const;
 

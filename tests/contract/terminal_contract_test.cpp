@@ -81,7 +81,7 @@ class TerminalContractTest : public ::testing::Test {
 protected:
     void open() {
         world.terminal->openCommandFile(
-            world.script(), QStringLiteral("ssh-copy-id x"),
+            world.script(), QStringLiteral("ssh-copy-id x"), QStringLiteral("A title"),
             [this](TerminalOutcome outcome) { outcomes.push_back(outcome); });
     }
 

@@ -52,7 +52,7 @@ protected:
         return file.fileName();
     }
     void open(const QString& path) {
-        terminal->openCommandFile(path, QStringLiteral("shown"),
+        terminal->openCommandFile(path, QStringLiteral("shown"), title,
                                   [this](TerminalOutcome outcome) { outcomes.push_back(outcome); });
     }
     void use(std::vector<TerminalProgram> programs) {
@@ -67,6 +67,7 @@ protected:
     FakeFileManager files;
     RecordingConsole console;
     std::vector<TerminalOutcome> outcomes;
+    QString title;
     std::unique_ptr<TerminalWindow> terminal;
 };
 
@@ -201,10 +202,22 @@ TEST_F(TerminalWindowTest, NextWindowFromTheAnswer_IsFine) {
     int ended = 0;
     std::function<void(TerminalOutcome)> again = [&](TerminalOutcome) {
         if (++ended < 3)
-            terminal->openCommandFile(path, QString(), again);
+            terminal->openCommandFile(path, QString(), QString(), again);
     };
-    terminal->openCommandFile(path, QString(), again);
+    terminal->openCommandFile(path, QString(), QString(), again);
     EXPECT_TRUE(waitInLoop([&] { return ended == 3; }));
+}
+
+TEST_F(TerminalWindowTest, Title_IsTheWindowsAndStandsAboveTheScript) {
+    title = QStringLiteral("Kelvo %s: \"$(x)\" ü");
+    use({program("one", window())});
+    open(script("echo from the script"));
+    EXPECT_TRUE(comesTo(TerminalOutcome::Ended));
+    EXPECT_TRUE(waitInLoop([this] { return content("seen").endsWith("close this window."); }));
+    const QByteArray words = title.toUtf8();
+    EXPECT_TRUE(
+        content("seen").startsWith("\033]0;" + words + "\a" + words + "\n\nfrom the script\n"))
+        << content("seen").constData();
 }
 
 TEST_F(TerminalWindowTest, AfterTheTerminalIsGone_NothingIsTold) {

@@ -13,12 +13,13 @@ public:
     struct Window {
         QString path;
         QString command;
+        QString title;
         std::function<void(TerminalOutcome)> ended;
     };
 
-    void openCommandFile(const QString& path, const QString& command,
+    void openCommandFile(const QString& path, const QString& command, const QString& title,
                          std::function<void(TerminalOutcome)> ended) override {
-        windows.push_back({path, command, std::move(ended)});
+        windows.push_back({path, command, title, std::move(ended)});
         events.note(u"terminal " + command);
     }
 

@@ -74,6 +74,7 @@ public:
     std::shared_ptr<FakeStatusField> field = std::make_shared<FakeStatusField>();
     std::shared_ptr<FakePathControl> pathControl = std::make_shared<FakePathControl>();
     std::vector<std::optional<qint64>> activityShown; ///< every call so far
+    std::vector<HostAnswer> answers;                  ///< every one so far
     int windowShown = 0;
     MainWindowController windowController{[this] { ++windowShown; }};
     MainWindowController* window = &windowController;
@@ -105,6 +106,7 @@ public:
                     .copyText = [this](const QString& text) { clipboard = text; },
                     .showActivity =
                         [this](std::optional<qint64> pass) { activityShown.push_back(pass); },
+                    .hostAnswered = [this](const HostAnswer& answer) { answers.push_back(answer); },
                     .fArrayController = foundServices,
                     .ibStartButton = &button,
                     .ibRevealButton1 = &revealButton1,

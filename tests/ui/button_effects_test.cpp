@@ -129,6 +129,13 @@ void resumeTimer(World& world) {
 void startPass(World& world) {
     world.button.performClick();
 }
+void setFolder(World& world) {
+    world.defaults.setObject(prefRemotePath, text("Clips"));
+    world.mainQueue.advance(5);
+    world.harvest();
+    EXPECT_FALSE(world.events.contains(text("set prefSampleRemoteFullPath = ann@mac.local:Clips")))
+        << "not before a person says so";
+}
 void runPass(World& world) {
     startPass(world);
     world.settle();
@@ -177,6 +184,12 @@ std::vector<Row> rows() {
           text("terminal /usr/bin/ssh-keygen -N \"\" -f \"/Users/localuser/.ssh/id_kelvoRsync\""),
           text("openUrl file:///tmp/of%20me"), cLater}},
         {"checkKeyState", {cLater, ask(5)}},
+        {"useSourceNow",
+         {cLater, text("set prefSampleRemoteFullPath = ann@mac.local:Clips")},
+         setFolder},
+        {"syncUseSourceNow",
+         {cLater, text("set prefSampleRemoteFullPath = ann@mac.local:Clips")},
+         setFolder},
         {"ibTestShellCommand",
          {text("sign"), cLater,
           text("run ssh -i /Users/localuser/.ssh/id_kelvoRsync -o BatchMode=yes -o "

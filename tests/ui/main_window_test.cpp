@@ -110,9 +110,14 @@ TEST_F(MainWindowTest, SourceInUseDiffers_IsSaidUntilItAgrees) {
     set(prefSampleRemoteFullPath, QStringLiteral("ann@old.local:Movies"));
     for (const char* notice : {"sourceNotice", "remoteNotice"})
         EXPECT_TRUE(child<QLabel>(notice)->text().contains(QStringLiteral("takes effect")));
+    EXPECT_FALSE(child<QWidget>("sourceNow")->isHidden());
     set(prefSampleRemoteFullPath, QStringLiteral("ann@new.local:Movies"));
     for (const char* notice : {"sourceNotice", "remoteNotice"})
         EXPECT_EQ(child<QLabel>(notice)->text(), u"");
+    EXPECT_TRUE(child<QWidget>("sourceNow")->isHidden());
+    set(prefRemotePath, QStringLiteral("Clips"));
+    set(prefRsyncWithSSH, false);
+    EXPECT_TRUE(child<QWidget>("sourceNow")->isHidden()) << "passes between folders have none";
 }
 
 TEST_F(MainWindowTest, NetworkLine_IsPlainText) {

@@ -218,6 +218,9 @@ TEST_F(SyncTabTest, HealthButton_IsNamedAfterItsRemedyAndDoesIt) {
     window.syncTab().setRemedyChosen([&](Remedy remedy) { chosen.push_back(remedy); });
     const std::vector<std::pair<Remedy, QString>> remedies{
         {Remedy::ShowRemoteTab, QStringLiteral("Show Remote Mac")},
+        {Remedy::ChooseMac, QStringLiteral("Choose the Mac")},
+        {Remedy::EnterAccount, QStringLiteral("Enter the Account")},
+        {Remedy::SetUpKey, QStringLiteral("Set Up the Key")},
         {Remedy::ChooseSource, QStringLiteral("Choose…")},
         {Remedy::ChooseDestination, QStringLiteral("Choose…")},
         {Remedy::CopyInstallCommand, QStringLiteral("Copy the command")},

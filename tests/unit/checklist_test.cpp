@@ -36,8 +36,8 @@ TEST(ChecklistTest, EachLack_HasItsLineAndRemedy) {
         EXPECT_EQ(lines[0].remedy, remedy);
         EXPECT_EQ(lines[0].text, QString::fromLatin1(words));
     };
-    only(true, &ChecklistFacts::hostChosen, Remedy::ShowRemoteTab, "No Mac is chosen yet.");
-    only(true, &ChecklistFacts::userSet, Remedy::ShowRemoteTab,
+    only(true, &ChecklistFacts::hostChosen, Remedy::ChooseMac, "No Mac is chosen yet.");
+    only(true, &ChecklistFacts::userSet, Remedy::EnterAccount,
          "The user name on the Mac is missing.");
     only(true, &ChecklistFacts::sshThere, Remedy::CopyInstallCommand,
          "ssh is not installed on this machine.");
@@ -58,7 +58,8 @@ TEST(ChecklistTest, Key_IsALineUntilItIsAccepted) {
         facts.lastCause = lastCause;
         QStringList texts;
         for (const ChecklistLine& line : checklist(facts)) {
-            EXPECT_EQ(line.remedy, Remedy::ShowRemoteTab);
+            EXPECT_EQ(line.remedy,
+                      lastCause == PassCause::WrongUser ? Remedy::EnterAccount : Remedy::SetUpKey);
             texts << line.text;
         }
         return texts;
@@ -87,8 +88,8 @@ TEST(ChecklistTest, EverythingMissing_IsListedInTheOrderOfSettingUp) {
     for (const ChecklistLine& line : checklist(facts))
         remedies.push_back(line.remedy);
     using enum Remedy;
-    EXPECT_EQ(remedies, (std::vector{ShowRemoteTab, ShowRemoteTab, ShowRemoteTab,
-                                     CopyInstallCommand, ChooseDestination, CopyInstallCommand}));
+    EXPECT_EQ(remedies, (std::vector{ChooseMac, EnterAccount, SetUpKey, CopyInstallCommand,
+                                     ChooseDestination, CopyInstallCommand}));
 }
 
 // -- looking

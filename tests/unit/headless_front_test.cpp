@@ -90,7 +90,7 @@ TEST(HeadlessTerminalTest, Command_IsPrintedForSomebodyToRun) {
     HeadlessTerminal terminal(console);
     bool ended = false;
     terminal.openCommandFile(QStringLiteral("/tmp/x.command"), QStringLiteral("echo \"a b\""),
-                             [&ended](TerminalOutcome) { ended = true; });
+                             QString(), [&ended](TerminalOutcome) { ended = true; });
     EXPECT_EQ(console.printed(), QStringList{QStringLiteral("terminal: echo \"a b\"")});
     EXPECT_FALSE(ended);
 }

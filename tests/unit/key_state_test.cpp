@@ -74,9 +74,8 @@ protected:
          .commands = shell,
          .files = files,
          .console = console,
-         .answered = [this](const QString& target, const HostVerdict& verdict) {
-             watch.answered(target, verdict);
-         }}};
+         .answered = [this](const QString& target, const HostVerdict& verdict,
+                            const CommandResult&) { watch.answered(target, verdict); }}};
     KeyStateWatch watch{
         {.defaults = defaults,
          .files = files,

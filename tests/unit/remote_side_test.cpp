@@ -84,6 +84,68 @@ TEST_F(RemoteSideTest, ConnectionTest_ShowsItsSignAndItsAlert) {
     EXPECT_EQ(presenter.alerts.front().messageText, u"SUCCESS...");
 }
 
+TEST_F(RemoteSideTest, ConnectionTest_TellsTheTruthBesideItsMessage) {
+    controller.createNewPrivatePublicKeys(nullptr);
+    const QString silent = QStringLiteral("ssh: connect to host mac.local port 22: timed out");
+    shell.answerTo(QStringLiteral("remoteisgood"), silent, 255);
+    controller.ibTestShellCommand(nullptr);
+    settle();
+    EXPECT_EQ(presenter.alerts.back().messageText, u"SUCCESS...");
+    EXPECT_EQ(answers, std::vector{(HostAnswer{.target = QStringLiteral("ann@mac.local"),
+                                               .cause = PassCause::HostAway,
+                                               .lastLine = silent,
+                                               .saidSuccess = true})});
+    EXPECT_EQ(shownState(), KeyState::HostAway) << "the key's line agrees";
+    shell.answerTo(QStringLiteral("remoteisgood"), QStringLiteral("remoteisgood\n"));
+    controller.ibTestShellCommand(nullptr);
+    settle();
+    EXPECT_EQ(answers.back().cause, PassCause::Well);
+    EXPECT_EQ(shownState(), KeyState::Accepted);
+}
+
+TEST_F(RemoteSideTest, ConnectionTestThatIsRefused_TellsWhy) {
+    defaults.setObject(prefRemoteUsername, QStringLiteral("-x"));
+    controller.ibTestShellCommand(nullptr);
+    settle();
+    ASSERT_EQ(answers.size(), 1U);
+    EXPECT_EQ(answers.front().cause, PassCause::SettingsRefused);
+    EXPECT_EQ(answers.front().lastLine, u"the user name begins with \"-\"");
+    EXPECT_FALSE(answers.front().saidSuccess);
+}
+
+TEST_F(RemoteSideTest, EveryCheckOfTheHost_IsAnAnswer) {
+    controller.createNewPrivatePublicKeys(nullptr);
+    shell.answerTo(QStringLiteral("whoami"), QStringLiteral("ann@mac.local: Permission denied (p)"),
+                   255);
+    controller.checkKeyState(nullptr);
+    settle();
+    ASSERT_EQ(answers.size(), 1U);
+    EXPECT_EQ(answers.front().cause, PassCause::KeyRefused);
+    shell.answerTo(QStringLiteral("whoami"), QStringLiteral("ann"));
+    controller.checkKeyState(nullptr);
+    settle();
+    EXPECT_EQ(answers.back(),
+              (HostAnswer{.target = QStringLiteral("ann@mac.local"), .cause = PassCause::Well}));
+}
+
+TEST_F(RemoteSideTest, TerminalWindow_SaysWhosePasswordIsAsked) {
+    controller.ibGenerateSSHKeyStuff(nullptr);
+    settle();
+    ASSERT_EQ(terminal.windows.size(), 1U);
+    EXPECT_EQ(terminal.windows.front().title, u"Kelvo Mirror: the password of ann on mac.local");
+}
+
+TEST_F(RemoteSideTest, UseSourceNow_DoesWhatANewUserNameDoes) {
+    defaults.setObject(prefRemotePath, QStringLiteral("Clips"));
+    mainQueue.advance(5);
+    EXPECT_NE(defaults.stringForKey(prefSampleRemoteFullPath),
+              QStringLiteral("ann@mac.local:Clips"));
+    controller.useSourceNow(nullptr);
+    mainQueue.runDue();
+    EXPECT_EQ(defaults.stringForKey(prefSampleRemoteFullPath),
+              QStringLiteral("ann@mac.local:Clips"));
+}
+
 TEST_F(RemoteSideTest, ShareWithoutAHost_Beeps) {
     defaults.removeObject(prefRemoteBonjourName);
     controller.ibRevealSourcePathSMB(nullptr);

@@ -68,6 +68,7 @@ protected:
                  ended.append((outcome == TerminalOutcome::Ended ? u"ended " : u"no window ") +
                               command);
              },
+         .windowTitle = [](const RemoteAccount& account) { return u"title of " + account.host; },
          .keysChanged = [this] { ++keyChanges; }}};
 };
 

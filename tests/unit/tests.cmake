@@ -10,11 +10,13 @@ kelvo_tests(unit
     unit/captured_text_test.cpp
     unit/checklist_test.cpp
     unit/close_policy_test.cpp
+    unit/connection_watch_test.cpp
     unit/dnssd_service_test.cpp
     unit/duplicate_check_test.cpp
     unit/folder_selection_test.cpp
     unit/headless_front_test.cpp
     unit/health_words_test.cpp
+    unit/host_answer_test.cpp
     unit/key_state_test.cpp
     unit/login_item_setting_test.cpp
     unit/movie_kinds_test.cpp
@@ -42,6 +44,7 @@ kelvo_tests(unit
     unit/rsync_command_test.cpp
     unit/rsync_output_reader_test.cpp
     unit/service_name_rules_test.cpp
+    unit/setup_steps_test.cpp
     unit/share_commands_test.cpp
     unit/shell_words_test.cpp
     unit/smb_share_access_test.cpp

@@ -9,7 +9,7 @@ OpenPanelAnswer HeadlessOpenPanel::runModal(const OpenPanelOptions& options) {
     return {};
 }
 
-void HeadlessTerminal::openCommandFile(const QString&, const QString& command,
+void HeadlessTerminal::openCommandFile(const QString&, const QString& command, const QString&,
                                        std::function<void(TerminalOutcome)>) {
     fConsole.print(u"terminal: " + command);
 }

@@ -54,7 +54,7 @@ class HeadlessTerminal final : public Terminal {
 public:
     explicit HeadlessTerminal(Console& console) : fConsole(console) {}
 
-    void openCommandFile(const QString& path, const QString& command,
+    void openCommandFile(const QString& path, const QString& command, const QString& title,
                          std::function<void(TerminalOutcome)> ended) override;
 
 private:

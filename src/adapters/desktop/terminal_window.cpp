@@ -29,14 +29,16 @@ using namespace std::chrono_literals;
 /// How long a terminal program that went well may take to open its window.
 constexpr auto cWindowPatience = 20s;
 
-/// Says on the pipe that it has begun (there is none any more once the program has ended), runs the
-/// script, lets go of the pipe and waits for a key: one that is pressed after the end, not one left
-/// over from an answer. An interrupt ends the script and not the window.
+/// Says on the pipe that it has begun (there is none any more once the program has ended), gives
+/// the window its title in the way that every terminal knows, runs the script, lets go of the pipe
+/// and waits for a key: one that is pressed after the end, not one left over from an answer. An
+/// interrupt ends the script and not the window.
 constexpr const char* cWindowScript = R"(if [ -p "$2" ]; then
     exec 3<>"$2"
     printf b >&3
 fi
 trap : INT QUIT
+if [ -n "$3" ]; then printf '\033]0;%s\007%s\n\n' "$3" "$3"; fi
 /bin/sh "$1" 3>&-
 code=$?
 exec 3>&-
@@ -70,8 +72,10 @@ std::vector<TerminalProgram> knownTerminals() {
 /// One script, from the first try to its end.
 class TerminalWindow::Run : public QObject {
 public:
-    Run(const TerminalWindow& owner, QString path, std::function<void(TerminalOutcome)> ended)
-        : fOwner(owner), fPath(std::move(path)), fEnded(std::move(ended)) {
+    Run(const TerminalWindow& owner, QString path, QString title,
+        std::function<void(TerminalOutcome)> ended)
+        : fOwner(owner), fPath(std::move(path)), fTitle(std::move(title)),
+          fEnded(std::move(ended)) {
         fPatience.setSingleShot(true);
         connect(&fPatience, &QTimer::timeout, this, [this] { tryNext(); });
     }
@@ -150,7 +154,8 @@ private:
             arguments.insert(arguments.end(), program.option.begin(), program.option.end());
             for (const std::string& word :
                  {std::string("/bin/sh"), std::string("-c"), std::string(cWindowScript),
-                  std::string("kelvo-mirror"), fPath.toLocal8Bit().toStdString(), pipePath()})
+                  std::string("kelvo-mirror"), fPath.toLocal8Bit().toStdString(), pipePath(),
+                  fTitle.toUtf8().toStdString()})
                 arguments.push_back(word);
             const pid_t pid = startDetached(arguments);
             if (pid > 0) {
@@ -197,6 +202,7 @@ private:
 
     const TerminalWindow& fOwner;
     const QString fPath;
+    const QString fTitle;
     std::function<void(TerminalOutcome)> fEnded;
     std::string fPlace;
     UniqueFd fPipe;
@@ -214,10 +220,10 @@ TerminalWindow::TerminalWindow(FileManager& files, Console& console,
 
 TerminalWindow::~TerminalWindow() = default;
 
-void TerminalWindow::openCommandFile(const QString& path, const QString&,
+void TerminalWindow::openCommandFile(const QString& path, const QString&, const QString& title,
                                      std::function<void(TerminalOutcome)> ended) {
     std::erase_if(fRuns, [](const auto& run) { return run->isOver(); });
-    fRuns.push_back(std::make_unique<Run>(*this, path, std::move(ended)));
+    fRuns.push_back(std::make_unique<Run>(*this, path, title, std::move(ended)));
     fRuns.back()->begin();
 }
 

@@ -33,7 +33,7 @@ public:
     /// Open windows stay.
     ~TerminalWindow() override;
 
-    void openCommandFile(const QString& path, const QString& command,
+    void openCommandFile(const QString& path, const QString& command, const QString& title,
                          std::function<void(TerminalOutcome)> ended) override;
 
 private:

@@ -3,7 +3,6 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "support/fatal.h"
-#include "ui/key_state_words.h"
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/icons.h"
@@ -32,7 +31,10 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     addTab(fActivityTab, "activity", QT_TR_NOOP("Activity"));
     connect(fSettingsTab, &SettingsTab::built, this, [this] { prepareButtons(*fSettingsTab); });
     ibStartButton().setToolTip({}); // Its title says it all.
-    setAction(QStringLiteral("showRemoteTab"), [this] { showTab(QStringLiteral("remote")); });
+    setAction(QStringLiteral("showRemoteTab"), [this] {
+        showTab(QStringLiteral("remote"));
+        fRemoteTab->openNextStep();
+    });
     setAction(QStringLiteral("showAllArrivals"), [this] {
         showTab(QStringLiteral("activity"));
         fActivityTab->showArrived();
@@ -236,7 +238,8 @@ PathControlView& MainWindow::destinationPath() {
 }
 
 void MainWindow::showKeyState(KeyState state) {
-    fRemoteTab->setKeyState(keyStateWords(state));
+    fKeyState = state;
+    fRemoteTab->setKeyState(state);
     Q_EMIT keyStateShown(state);
 }
 

@@ -65,6 +65,8 @@ public:
     void showTab(int index);
     void showTab(const QString& identifier);
     void showKeyState(KeyState state);
+    /// What was shown last; nothing before the first.
+    std::optional<KeyState> keyState() const { return fKeyState; }
     void showWork(const WorkState& work);
     /// What was shown last.
     const WorkState& work() const { return fWork; }
@@ -120,6 +122,7 @@ private:
 
     UserDefaults& fDefaults;
     WorkState fWork;
+    std::optional<KeyState> fKeyState;
     Bindings fBindings;
     std::unique_ptr<Ui::MainWindow> fUi;
     SyncTab* fSyncTab;

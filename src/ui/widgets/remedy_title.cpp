@@ -8,6 +8,12 @@ QString remedyTitle(Remedy remedy) {
     switch (remedy) {
     case Remedy::ShowRemoteTab:
         return QObject::tr("Show Remote Mac");
+    case Remedy::ChooseMac:
+        return QObject::tr("Choose the Mac");
+    case Remedy::EnterAccount:
+        return QObject::tr("Enter the Account");
+    case Remedy::SetUpKey:
+        return QObject::tr("Set Up the Key");
     case Remedy::ChooseSource:
     case Remedy::ChooseDestination:
         return QObject::tr("Choose…");

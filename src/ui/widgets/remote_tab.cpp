@@ -3,46 +3,274 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "ui/widgets/bindings.h"
+#include "ui/widgets/flow_layout.h"
 #include "ui/widgets/source_notice.h"
+#include "ui/widgets/step_head.h"
 #include "ui_remote_tab.h"
 
+#include <QApplication>
+#include <QHideEvent>
+
+#include <algorithm>
+#include <utility>
+
 namespace kelvo {
+namespace {
+
+constexpr auto cSteps = {SetupStep::Mac, SetupStep::Account, SetupStep::Key, SetupStep::Connection};
+
+std::size_t at(SetupStep step) {
+    return static_cast<std::size_t>(step);
+}
+
+void showText(QLabel& label, const QString& text) {
+    label.setText(text);
+    label.setVisible(!text.isEmpty());
+}
+
+} // namespace
 
 RemoteTab::RemoteTab(Bindings& bindings, QWidget* parent)
-    : QWidget(parent), fUi(std::make_unique<Ui::RemoteTab>()) {
+    : QWidget(parent), fBindings(bindings), fUi(std::make_unique<Ui::RemoteTab>()) {
     fUi->setupUi(this);
-    bindings.text(*fUi->remoteHost, prefRemoteBonjourName);
-    bindings.text(*fUi->remoteUser, prefRemoteUsername);
-    bindings.text(*fUi->remotePath, prefRemotePath);
-    bindings.follow(
-        *this,
-        {prefSampleRemoteFullPath, prefRemoteUsername, prefRemoteBonjourName, prefRemotePath},
-        [this, &bindings] { showRunningSource(bindings); });
+    fSteps = {Step{.head = fUi->macHead,
+                   .body = fUi->macBody,
+                   .main = fUi->ibSelectSourceByBonjor,
+                   .fields = {}},
+              Step{.head = fUi->accountHead,
+                   .body = fUi->accountBody,
+                   .main = fUi->useSourceNow,
+                   .fields = {fUi->remoteUser, fUi->remotePath}},
+              Step{.head = fUi->keyHead,
+                   .body = fUi->keyBody,
+                   .main = fUi->ibGenerateSSHKeyStuff,
+                   .fields = {}},
+              Step{.head = fUi->connectionHead,
+                   .body = fUi->connectionBody,
+                   .main = fUi->ibTestShellCommand,
+                   .fields = {},
+                   .folds = false}};
+    for (QWidget* row : {fUi->hostRow, fUi->sourceRow, fUi->keyRow, fUi->testRow, fUi->moreRow})
+        new FlowLayout(*row);
     QSizePolicy keepsItsPlace = fUi->testBusySign->sizePolicy();
     keepsItsPlace.setRetainSizeWhenHidden(true);
     fUi->testBusySign->setSizePolicy(keepsItsPlace);
-    setTesting(false);
-    setKeyState({});
+    fUi->testBusySign->hide();
+    bindings.text(*fUi->remoteHost, prefRemoteBonjourName);
+    bindings.text(*fUi->remoteUser, prefRemoteUsername);
+    bindings.text(*fUi->remotePath, prefRemotePath);
+    for (const SetupStep number : cSteps)
+        connectStep(number);
+    // A button that loses the focus loses its look of a main button with it.
+    connect(qApp, &QApplication::focusChanged, this, [this] { markMainButton(); });
+    bindings.follow(
+        *this,
+        {prefSampleRemoteFullPath, prefRemoteUsername, prefRemoteBonjourName, prefRemotePath},
+        [this] { update(); });
 }
 
 RemoteTab::~RemoteTab() = default;
 
+/// What a person asks for in the step: to fold it, to fill it in, to do it.
+void RemoteTab::connectStep(SetupStep number) {
+    Step& step = stepAt(number);
+    connect(&step.head->changeButton(), &QPushButton::clicked, this, [this, number] {
+        if (isFolded(number))
+            openStep(number);
+        else
+            finish(number);
+    });
+    connect(step.main, &QPushButton::clicked, this, [this, number] { fFinishing = number; });
+    for (QLineEdit* field : step.body->findChildren<QLineEdit*>()) {
+        connect(field, &QLineEdit::textEdited, this, [this] { fFinishing.reset(); });
+        connect(field, &QLineEdit::returnPressed, this, [this, number] {
+            fFinishing = number;
+            // What was typed has been stored; what follows from that is not known yet.
+            QMetaObject::invokeMethod(
+                this, [this, number] { finish(number); }, Qt::QueuedConnection);
+        });
+    }
+    if (number == SetupStep::Account)
+        connect(
+            step.main, &QPushButton::clicked, this, [this, number] { finish(number); },
+            Qt::QueuedConnection);
+}
+
+// -- what is known
+
 void RemoteTab::setTesting(bool testing) {
+    fTesting = testing;
     fUi->testBusySign->setVisible(testing);
+    update();
 }
 
-void RemoteTab::setKeyState(const QString& text) {
-    fUi->keyState->setText(text);
-    fUi->keyState->setVisible(!text.isEmpty());
+void RemoteTab::setKeyState(KeyState state) {
+    fAskingForTheKey = state == KeyState::Asking;
+    if (!fAskingForTheKey)
+        fFacts.key = state;
+    update();
 }
 
-void RemoteTab::showRunningSource(Bindings& bindings) {
-    const QString source =
-        bindings.defaults().stringForKey(prefSampleRemoteFullPath).value_or(QString());
-    fUi->runningSource->setFullText(source.isEmpty() ? tr("none yet") : source);
-    const QString notice = sourceNotice(bindings.defaults());
-    fUi->remoteNotice->setText(notice);
-    fUi->remoteNotice->setVisible(!notice.isEmpty());
+void RemoteTab::setConnection(const Connection& connection) {
+    fFacts.connection = connection;
+    update();
+}
+
+void RemoteTab::readSettings() {
+    const auto text = [&defaults = fBindings.defaults()](QStringView key) {
+        return defaults.stringForKey(key).value_or(QString());
+    };
+    fFacts.host = text(prefRemoteBonjourName);
+    fFacts.user = text(prefRemoteUsername);
+    fFacts.folder = text(prefRemotePath);
+    fFacts.source = text(prefSampleRemoteFullPath);
+    fFacts.asking = fTesting || fAskingForTheKey;
+    fFacts.now = QDateTime::currentDateTimeUtc();
+}
+
+// -- how it is shown
+
+void RemoteTab::update() {
+    readSettings();
+    const SetupSteps before = std::exchange(fShown, setupSteps(fFacts));
+    std::optional<SetupStep> left;
+    for (const SetupStep number : cSteps) {
+        Step& step = stepAt(number);
+        const SetupLine& line = fShown[at(number)];
+        const SetupLine& was = before[at(number)];
+        const bool done = line.state == StepState::Done;
+        const bool finished = fFinishing == number && done &&
+                              (was.state != StepState::Done || was.summary != line.summary);
+        if (!done || finished)
+            step.opened = false;
+        else if (was.state != StepState::Done && holdsTheFocus(step))
+            step.opened = true; // Nobody has said that this is all.
+        if (finished)
+            fFinishing.reset();
+        if ((finished || isFolded(number)) && holdsTheFocus(step))
+            left = number;
+    }
+    for (const SetupStep number : cSteps)
+        showStep(number);
+    markMainButton();
+    if (left)
+        openNextStep();
+}
+
+void RemoteTab::showStep(SetupStep number) {
+    const Step& step = stepAt(number);
+    const SetupLine& line = fShown[at(number)];
+    using enum StepHead::Fold;
+    const bool done = line.state == StepState::Done && step.folds;
+    step.head->showStep(line, isFolded(number) ? Folded : done ? Unfolded : Never);
+    step.body->setVisible(!isFolded(number));
+    switch (number) {
+    case SetupStep::Mac:
+        showText(*fUi->macText, line.text);
+        break;
+    case SetupStep::Account:
+        showText(*fUi->accountText, line.text);
+        showSource(line);
+        break;
+    case SetupStep::Key:
+        showText(*fUi->keyState, line.summary);
+        showText(*fUi->keyText, line.text);
+        break;
+    case SetupStep::Connection:
+        showText(*fUi->connectionText, line.text);
+        showText(*fUi->connectionRemark, line.remark);
+        break;
+    }
+}
+
+void RemoteTab::showSource(const SetupLine& account) {
+    fUi->runningSource->setFullText(fFacts.source.isEmpty() ? tr("none yet") : fFacts.source);
+    const bool mayDiffer =
+        account.state != StepState::Done && sourceMayBeUsed(fBindings.defaults());
+    showText(*fUi->remoteNotice, mayDiffer ? sourceNotice(fBindings.defaults()) : QString());
+}
+
+void RemoteTab::markMainButton() {
+    for (const SetupStep number : cSteps) {
+        QPushButton& main = *stepAt(number).main;
+        if (!main.hasFocus())
+            main.setDefault(fShown[at(number)].isNext);
+    }
+}
+
+bool RemoteTab::isFolded(SetupStep number) const {
+    const Step& step = fSteps[at(number)];
+    return step.folds && !step.opened && fShown[at(number)].state == StepState::Done;
+}
+
+// -- the way of the keyboard
+
+/// Also while another window has the focus: then it is where it will be again.
+bool RemoteTab::holdsTheFocus(const Step& step) const {
+    const QWidget* focused = window()->focusWidget();
+    return focused && step.body->isAncestorOf(focused);
+}
+
+void RemoteTab::openStep(SetupStep number) {
+    Step& step = stepAt(number);
+    step.opened = fShown[at(number)].state == StepState::Done;
+    update();
+    focusOn(number);
+}
+
+/// Neither of the two is ever folded.
+void RemoteTab::openNextStep() {
+    const auto next = std::ranges::find_if(fShown, &SetupLine::isNext);
+    if (next != fShown.end())
+        focusOn(static_cast<SetupStep>(next - fShown.begin()));
+    else
+        focusOn(SetupStep::Connection);
+}
+
+/// The person thinks that the step is done: it folds, or the focus goes to what is still missing.
+void RemoteTab::finish(SetupStep number) {
+    Step& step = stepAt(number);
+    fFinishing = number;
+    update();
+    if (fFinishing != number)
+        return;
+    if (fShown[at(number)].state != StepState::Done) {
+        focusOn(number);
+        return;
+    }
+    fFinishing.reset();
+    step.opened = false;
+    update();
+    openNextStep();
+}
+
+void RemoteTab::focusOn(SetupStep number) {
+    const Step& step = stepAt(number);
+    QWidget* wanted = step.main;
+    for (QLineEdit* field : step.fields) {
+        if (field->text().isEmpty()) {
+            wanted = field;
+            break;
+        }
+    }
+    wanted->setFocus(Qt::OtherFocusReason);
+    fUi->scrollArea->ensureWidgetVisible(wanted);
+}
+
+void RemoteTab::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!std::exchange(fWasShown, true))
+        Q_EMIT shownFirst();
+    update();
+}
+
+void RemoteTab::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (event->spontaneous())
+        return;
+    fFinishing.reset();
+    for (Step& step : fSteps)
+        step.opened = false;
 }
 
 } // namespace kelvo

@@ -1,9 +1,16 @@
-// RemoteTab: which Mac files are pulled from, and whether it lets us in.
+// RemoteTab: the way to the Mac that movies are pulled from, in four steps.
 #pragma once
+
+#include "ui/setup_steps.h"
 
 #include <QWidget>
 
+#include <array>
 #include <memory>
+#include <optional>
+
+class QLineEdit;
+class QPushButton;
 
 namespace Ui {
 class RemoteTab;
@@ -12,7 +19,11 @@ class RemoteTab;
 namespace kelvo {
 
 class Bindings;
+class StepHead;
 
+/// A step that is done folds to one line. It stays open while a person is typing in it, or has
+/// unfolded it, until the tab is left. The keyboard focus that was in a step which folds goes on to
+/// the next one. Main thread only.
 class RemoteTab final : public QWidget {
     Q_OBJECT
 public:
@@ -23,13 +34,60 @@ public:
     /// Whether the connection test is running.
     void setTesting(bool testing);
 
-    /// What is known of the key, in words.
-    void setKeyState(const QString& text);
+    /// What is known of the key.
+    void setKeyState(KeyState state);
+
+    /// What the Mac said.
+    void setConnection(const Connection& connection);
+
+    bool wasShown() const { return fWasShown; }
+
+    /// Unfolds the step and puts the keyboard focus on what is to be done there.
+    void openStep(SetupStep step);
+
+    /// The same of the step that is next; of the connection when all are done.
+    void openNextStep();
+
+Q_SIGNALS:
+    /// The tab is shown for the first time.
+    void shownFirst();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
-    void showRunningSource(Bindings& bindings);
+    struct Step {
+        StepHead* head;
+        QWidget* body;
+        QPushButton* main;              ///< what the step is done with
+        std::vector<QLineEdit*> fields; ///< what has to be filled in before
+        bool folds = true;
+        bool opened = false; ///< stays unfolded though it is done
+    };
 
+    void connectStep(SetupStep number);
+    void readSettings();
+    void update();
+    void showStep(SetupStep number);
+    void showSource(const SetupLine& account);
+    void markMainButton();
+    void finish(SetupStep number);
+    void focusOn(SetupStep number);
+    bool isFolded(SetupStep number) const;
+    bool holdsTheFocus(const Step& step) const;
+    Step& stepAt(SetupStep number) { return fSteps[static_cast<std::size_t>(number)]; }
+
+    Bindings& fBindings;
     std::unique_ptr<Ui::RemoteTab> fUi;
+    std::array<Step, cSetupSteps> fSteps;
+    SetupFacts fFacts;
+    SetupSteps fShown;
+    bool fTesting = false;
+    bool fAskingForTheKey = false;
+    bool fWasShown = false;
+    /// What a person has just asked to be done; once it is, the step folds.
+    std::optional<SetupStep> fFinishing;
 };
 
 } // namespace kelvo

@@ -19,13 +19,21 @@ QString sourceNotice(const UserDefaults& defaults) {
     if (!path)
         return QCoreApplication::translate("sourceNotice",
                                            "Enter the remote folder on the Remote Mac tab.");
-    const QString named = *user + u'@' + *host + u':' + *path;
-    if (defaults.stringForKey(prefSampleRemoteFullPath) == named)
+    if (!sourceMayBeUsed(defaults))
         return {};
     return QCoreApplication::translate(
-        "sourceNotice",
-        "Passes still pull from the source above. The new host or folder takes effect when "
-        "the user name changes or the program starts again.");
+        "sourceNotice", "Passes still pull from the source above. The new host or folder takes "
+                        "effect with \"Use This Source Now\", or else when the user name changes or "
+                        "the program starts again.");
+}
+
+bool sourceMayBeUsed(const UserDefaults& defaults) {
+    const auto user = defaults.stringForKey(prefRemoteUsername);
+    const auto host = defaults.stringForKey(prefRemoteBonjourName);
+    const auto path = defaults.stringForKey(prefRemotePath);
+    return user && host && path &&
+           defaults.stringForKey(prefSampleRemoteFullPath) !=
+               QString(*user + u'@' + *host + u':' + *path);
 }
 
 } // namespace kelvo

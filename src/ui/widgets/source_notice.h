@@ -10,4 +10,7 @@ class UserDefaults;
 /// One line for people; empty while passes pull from what the fields say.
 QString sourceNotice(const UserDefaults& defaults);
 
+/// Whether passes could pull from what the fields say, and pull from elsewhere.
+bool sourceMayBeUsed(const UserDefaults& defaults);
+
 } // namespace kelvo

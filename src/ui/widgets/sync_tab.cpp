@@ -55,8 +55,8 @@ void SyncTab::layOut() {
     fUi->ibCancelPass->setSizePolicy(keepsItsRoom);
     fUi->ibCancelPass->hide();
     fitStartIcon();
-    for (QWidget* row :
-         {fUi->remoteSource, fUi->folderSource, fUi->destination, fUi->buttons, fUi->arrivalsHead})
+    for (QWidget* row : {fUi->remoteSource, fUi->folderSource, fUi->sourceNow, fUi->destination,
+                         fUi->buttons, fUi->arrivalsHead})
         new FlowLayout(*row);
 }
 
@@ -123,6 +123,7 @@ void SyncTab::showSource(Bindings& bindings) {
     const QString notice = remote ? sourceNotice(defaults) : QString();
     fUi->sourceNotice->setText(notice);
     fUi->sourceNotice->setVisible(!notice.isEmpty());
+    fUi->sourceNow->setVisible(remote && sourceMayBeUsed(defaults));
 }
 
 } // namespace kelvo
