@@ -55,8 +55,14 @@ HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout) c
 HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout,
                                                                const RunCommand& run) const {
     QString target;
-    HostVerdict verdict = ask(timeout, run, target);
-    if (fParts.answered)
+    bool givenUp = false;
+    const RunCommand noticing = [&run, &givenUp](const Command& command) {
+        CommandResult result = run(command);
+        givenUp = !result.exitStatus;
+        return result;
+    };
+    HostVerdict verdict = ask(timeout, noticing, target);
+    if (fParts.answered && !givenUp)
         fParts.answered(target, verdict);
     return verdict;
 }

@@ -33,8 +33,8 @@ struct RemoteHostValidationParts {
     CommandRunner& commands;
     const FileManager& files;
     Console& console;
-    /// Hears each verdict on the thread that asked; `target` is user@host, empty when one of them
-    /// is not set. May be empty.
+    /// Hears each verdict on the thread that asked, but for that of a command which was given up;
+    /// `target` is user@host, empty when one of them is not set. May be empty.
     std::function<void(const QString& target, const HostVerdict&)> answered = {};
     /// ssh's own time-out ends with the exchange of keys; a host that stalls after that is waited
     /// for so many seconds beyond it.

@@ -15,6 +15,7 @@ kelvo_tests(unit
     unit/folder_selection_test.cpp
     unit/headless_front_test.cpp
     unit/health_words_test.cpp
+    unit/key_replacement_test.cpp
     unit/key_state_test.cpp
     unit/login_item_setting_test.cpp
     unit/movie_pull_test.cpp

@@ -31,6 +31,10 @@ void RemoteTab::setTesting(bool testing) {
     fUi->testBusySign->setVisible(testing);
 }
 
+void RemoteTab::setTask(RemoteTaskKind kind) {
+    fUi->busyRow->setTask(kind);
+}
+
 void RemoteTab::setKeyState(const QString& text) {
     fUi->keyState->setText(text);
     fUi->keyState->setVisible(!text.isEmpty());

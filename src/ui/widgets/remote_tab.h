@@ -1,6 +1,8 @@
 // RemoteTab: which Mac files are pulled from, and whether it lets us in.
 #pragma once
 
+#include "support/remote_task_kind.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -22,6 +24,9 @@ public:
 
     /// Whether the connection test is running.
     void setTesting(bool testing);
+
+    /// What a person has set going on the remote side.
+    void setTask(RemoteTaskKind kind);
 
     /// What is known of the key, in words.
     void setKeyState(const QString& text);
