@@ -18,7 +18,8 @@ namespace kelvo {
 MachineParts::MachineParts(bool withTray)
     : PassMachine(STDOUT_FILENO, STDERR_FILENO, DamagedFile::IsSetAside),
       loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files),
-      workspace(mainQueue, bgQueue, console, files.homeDirectory()), terminal(files, console),
+      workspace(mainQueue, bgQueue, console, files.homeDirectory()),
+      terminal(files, console, mainQueue, bgQueue),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
       singleCopy(QFile::encodeName(logFolder()).toStdString(), console),

@@ -1,4 +1,5 @@
 // The front with the main window.
+#include "adapters/network/link_watch.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
 #include "app/start/app_delegate.h"
@@ -87,8 +88,11 @@ public:
             .presentSheet =
                 [this](QStringView identifier) {
                     return presentSheet(identifier,
-                                        {fMachine.defaults, fMachine.mainQueue, fMachine.console,
-                                         fMachine.dnssdBrowser},
+                                        {.defaults = fMachine.defaults,
+                                         .mainQueue = fMachine.mainQueue,
+                                         .console = fMachine.console,
+                                         .browser = fMachine.dnssdBrowser,
+                                         .hasNetwork = hasUsableLink},
                                         fWindow);
                 },
             .openPanel = fOpenPanel,

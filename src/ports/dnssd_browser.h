@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/dnssd_service.h"
+#include "support/subscription.h"
 
 #include <QString>
 #include <QStringList>
@@ -28,6 +29,14 @@ struct EndpointListener {
     std::function<void(const QStringList& endpoints)> endpointsChanged;
 };
 
+/// Whether there is somebody on this machine who knows of services.
+enum class DiscoveryState {
+    Unknown, ///< nobody has looked yet, or the answer is on its way
+    Running,
+    NotRunning, ///< it is installed here
+    NotInstalled,
+};
+
 /// One browser is shared by all who look. Main thread only; no operation waits for anything.
 class DnssdBrowser {
 public:
@@ -45,6 +54,11 @@ public:
     /// and so do all while the discovery service is away. Names that must not reach a shell are
     /// left out and logged once.
     virtual DNSSD_Services services() const = 0;
+
+    /// Calls `changed` now with what is known of the discovery service and again at each change, on
+    /// the main thread; a search is what makes it known. Once the subscription is gone no new call
+    /// begins.
+    virtual Subscription observeState(std::function<void(DiscoveryState)> changed) = 0;
 
     /// Begins one more search of its own, for a person who tests the network; it goes on as long as
     /// this browser lives and resolves nothing. The listener is told later on the main thread: of

@@ -77,6 +77,12 @@ public:
     /// empty. Nothing there is a fault.
     virtual FileFault removeItem(const QString& path) = 0;
 
+    /// Gives the file at `path` the further name `name`: what `path` held, with its permission
+    /// bits, stays there when `path` is removed or replaced. Whatever lies at `name` already is
+    /// left alone, and that is a fault, as is a folder at `path`. A link is kept itself where the
+    /// file system can.
+    virtual FileFault keepUnder(const QString& path, const QString& name) = 0;
+
     /// Puts a file with `content` at `path`, for the user alone (0600). Readers see the old file or
     /// the new one, whole; after a fault the old one stands and nothing is left beside it. A link
     /// at `path` is replaced, never followed.

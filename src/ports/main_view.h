@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/key_state.h"
+#include "support/remote_task_kind.h"
 #include "support/subscription.h"
 #include "support/work_state.h"
 
@@ -36,6 +37,9 @@ public:
 
     /// Shows whether the connection test is running.
     virtual void showTesting(bool testing) = 0;
+
+    /// Shows what a person has set going on the remote side.
+    virtual void showTask(RemoteTaskKind kind) = 0;
 
     /// Shows what is known of the program's key.
     virtual void showKeyState(KeyState state) = 0;

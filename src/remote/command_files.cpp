@@ -1,6 +1,5 @@
 #include "remote/command_files.h"
 
-#include "ports/command_runner.h"
 #include "ports/console.h"
 #include "ports/file_manager.h"
 #include "support/shell_words.h"
@@ -33,10 +32,11 @@ bool CommandFiles::removeIfThere(const QString& path) {
     return !fault;
 }
 
-QString CommandFiles::chmodAsExecutable(const QString& path) {
+QString CommandFiles::chmodAsExecutable(const QString& path, const RunCommand& run) {
     const QString command = u"/bin/chmod 0755 2>&1 \"" + insideDoubleQuotes(path) + u'"';
     fParts.console.print(u"trying command = [" + command + u']');
-    QString output = outputWithin(fParts.shell, cCommandGrace, command);
+    QString output =
+        run({.text = command, .seconds = cCommandGrace, .bounds = cShortAnswer}).output;
     fParts.console.print(u"terminal chmod result = [" + output + u']');
     return output;
 }
@@ -47,15 +47,12 @@ QString CommandFiles::chmodAsExecutableBySystemCall(const QString& path) {
     return result == u"0" ? QString() : result;
 }
 
-bool CommandFiles::executeAsCommandFile(const QString& command,
-                                        std::function<void(TerminalOutcome)> ended,
-                                        const QString& title) {
-    const QString path = scriptPath();
+QString CommandFiles::writeCommandFile(const QString& command, const RunCommand& run) {
+    QString path = scriptPath();
     if (path.isEmpty() || !writeScript(path, command))
-        return false;
-    (void)chmodAsExecutable(path);
-    openScript(path, command, std::move(ended), title);
-    return true;
+        return {};
+    (void)chmodAsExecutable(path, run);
+    return path;
 }
 
 void CommandFiles::openScript(const QString& path, const QString& command,

@@ -55,7 +55,7 @@ HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout) c
 HostVerdict RemoteHostValidation::validateRemoteHostWithWhoami(qint64 timeout,
                                                                const RunCommand& run) const {
     const Asked asked = ask(timeout, run);
-    if (fParts.answered)
+    if (fParts.answered && !asked.givenUp)
         fParts.answered(asked.target, asked.verdict, asked.result);
     return asked.verdict;
 }
@@ -91,7 +91,10 @@ RemoteHostValidation::Asked RemoteHostValidation::ask(qint64 timeout, const RunC
         judgedAnswer(answer, account->user, fParts.files.fileExistsAtPath(keyPath));
     if (!judged.remark.isEmpty())
         console.print(judged.remark);
-    return {.target = target, .verdict = judged.verdict, .result = result};
+    return {.target = target,
+            .verdict = judged.verdict,
+            .result = result,
+            .givenUp = !result.exitStatus};
 }
 
 } // namespace kelvo

@@ -33,9 +33,9 @@ struct RemoteHostValidationParts {
     CommandRunner& commands;
     const FileManager& files;
     Console& console;
-    /// Hears each verdict on the thread that asked, with the whole end of the command; `target` is
-    /// user@host, empty when one of them is not set. Where nobody was asked the end has no status.
-    /// May be empty.
+    /// Hears each verdict on the thread that asked, but for that of a command which was given up,
+    /// with the whole end of the command; `target` is user@host, empty when one of them is not set.
+    /// Where nobody was asked the end has no status. May be empty.
     std::function<void(const QString& target, const HostVerdict&, const CommandResult&)> answered =
         {};
     /// ssh's own time-out ends with the exchange of keys; a host that stalls after that is waited
@@ -59,6 +59,7 @@ private:
         QString target;
         HostVerdict verdict;
         CommandResult result;
+        bool givenUp = false; ///< the command was cancelled, or the program is quitting
     };
     Asked ask(qint64 timeout, const RunCommand& run) const;
 

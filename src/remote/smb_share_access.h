@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ports/terminal.h"
+#include "remote/remote_task.h"
 #include "remote/share_commands.h"
 
 #include <QString>
@@ -13,8 +14,6 @@ namespace kelvo {
 
 class CommandFiles;
 class Console;
-class DispatchQueue;
-class CommandRunner;
 class UserDefaults;
 class Workspace;
 
@@ -26,8 +25,7 @@ QString volumePath(const QString& picked);
 struct SmbShareAccessParts {
     const UserDefaults& defaults;
     Console& console;
-    DispatchQueue& mainQueue;
-    CommandRunner& shell;
+    RemoteTasks& tasks;
     const ShareCommands& commands;
     CommandFiles& commandFiles;
     Workspace& workspace;
@@ -36,8 +34,9 @@ struct SmbShareAccessParts {
     std::function<void(const QString& command)> noTerminal;
 };
 
-/// Main thread only; blocks while commands run. What goes wrong is a line in the log. The share
-/// stays mounted. The main queue must have ended before this is destroyed.
+/// Main thread only. Each action returns at once and is one task; while another task runs it does
+/// nothing. What goes wrong is a line in the log. The share stays mounted. Both queues must have
+/// ended before this is destroyed.
 class SmbShareAccess {
 public:
     explicit SmbShareAccess(SmbShareAccessParts parts);
@@ -57,17 +56,24 @@ public:
 private:
     enum class Search { Newer, Older };
 
+    /// What follows once the share is open.
+    using Opened = std::function<void(const RemoteTaskRef&)>;
+
     /// Runs `command`, which opens the share; then, or once a person has answered what the server
     /// asked, goes on with `opened`.
-    void openShare(QStringView operation, const QString& command, const ShareTarget& target,
-                   const std::function<void()>& opened);
+    void openShare(const RemoteTaskRef& task, QStringView operation, const QString& command,
+                   const ShareTarget& target, const Opened& opened);
     /// Asks a person in a terminal, where `output` of opening the share says that the server wants
     /// an answer; goes on with `opened` once it has been given.
-    void openByHand(const QString& output, const ShareTarget& target,
-                    const std::function<void()>& opened);
-    void listVolumes(const ShareTarget& target);
-    void findFolder(QStringView operation, const ShareTarget& target, Search search);
-    void openFolder(QStringView operation, const QString& path);
+    void openByHand(const RemoteTaskRef& task, const QString& output, const ShareTarget& target,
+                    const Opened& opened);
+    void listVolumes(const RemoteTaskRef& task, const ShareTarget& target);
+    void findFolder(const RemoteTaskRef& task, QStringView operation, const ShareTarget& target,
+                    Search search);
+    void pickFolder(const RemoteTaskRef& task, QStringView operation, const QString& listing,
+                    const ShareTarget& target, Search search);
+    void openFolder(const RemoteTaskRef& task, QStringView operation, const QString& path);
+    void logOpening(QStringView operation, const QString& output) const;
     void logInside(QStringView operation, QStringView detail = u".......") const;
 
     const SmbShareAccessParts fParts;

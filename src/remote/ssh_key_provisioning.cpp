@@ -1,6 +1,5 @@
 #include "remote/ssh_key_provisioning.h"
 
-#include "ports/command_runner.h"
 #include "ports/console.h"
 #include "ports/file_manager.h"
 #include "ports/user_defaults.h"
@@ -12,6 +11,7 @@
 #include "support/shell_words.h"
 #include "support/text.h"
 
+#include <memory>
 #include <utility>
 
 namespace kelvo {
@@ -36,16 +36,43 @@ QString keyInstallationCommand(const QString& keyPath, const RemoteAccount& acco
 
 SshKeyProvisioning::SshKeyProvisioning(SshKeyProvisioningParts parts) : fParts(std::move(parts)) {}
 
-void SshKeyProvisioning::ibGenerateSSHKeyStuff() {
+void SshKeyProvisioning::ibGenerateSSHKeyStuff(const PairGuard& guard) {
+    const RemoteTaskRef task = fParts.tasks.begin(RemoteTaskKind::SettingUpKey);
+    if (!task)
+        return;
     logEntry(u"ibGenerateSSHKeyStuff(_:)");
-    fParts.validate(cTraceTimeout);
-    (void)createNewPrivatePublicKeysConditionally();
-    copyPublicKeyToRemoteHost();
+    const auto script = std::make_shared<Script>();
+    task->inBackground(
+        [this, guard, script](RemoteTask& running) {
+            fParts.validate(cTraceTimeout, running.runner());
+            if (running.isCancelled())
+                return;
+            (void)createNewPrivatePublicKeysConditionally(running, guard);
+            if (!running.isCancelled())
+                *script = copyPublicKeyToRemoteHost(running);
+        },
+        [this, script] {
+            if (!script->path.isEmpty())
+                fParts.commandFiles.openScript(
+                    script->path, script->command,
+                    [scriptEnded = fParts.scriptEnded, command = script->command](
+                        TerminalOutcome outcome) { scriptEnded(outcome, command); },
+                    script->title);
+        });
+}
+
+void SshKeyProvisioning::createNewPrivatePublicKeys(const PairGuard& guard) {
+    const RemoteTaskRef task = fParts.tasks.begin(RemoteTaskKind::MakingKey);
+    if (task)
+        task->inBackground(
+            [this, guard](RemoteTask& running) { createNewPrivatePublicKeys(running, guard); },
+            [] {});
 }
 
 // -- the pair
 
-bool SshKeyProvisioning::createNewPrivatePublicKeysConditionally() {
+bool SshKeyProvisioning::createNewPrivatePublicKeysConditionally(RemoteTask& task,
+                                                                 const PairGuard& guard) {
     logEntry(u"createNewPrivatePublicKeysConditionally(_:)");
     const KeyPair pair = keyPair();
     if (pair.publicKey.isEmpty())
@@ -53,23 +80,32 @@ bool SshKeyProvisioning::createNewPrivatePublicKeysConditionally() {
     if (fParts.files.fileExistsAtPath(pair.privateKey) &&
         fParts.files.fileExistsAtPath(pair.publicKey))
         return true;
-    createNewPrivatePublicKeys();
+    createNewPrivatePublicKeys(task, guard);
     return true;
 }
 
-void SshKeyProvisioning::createNewPrivatePublicKeys() {
+/// From the removal on it goes to its end: the guard puts right what a cancelled command leaves.
+void SshKeyProvisioning::createNewPrivatePublicKeys(RemoteTask& task, const PairGuard& guard) {
     logEntry(u"createNewPrivatePublicKeys(_:)");
     const KeyPair pair = keyPair();
     if (pair.publicKey.isEmpty())
         return;
+    if (guard.before && !guard.before()) {
+        task.giveUp();
+        return;
+    }
     removeBoth(pair);
-    const QString output =
-        outputWithin(fParts.shell, cCommandGrace, keyGenerationCommand(pair.privateKey));
+    const QString output = task.run({.text = keyGenerationCommand(pair.privateKey),
+                                     .seconds = cCommandGrace,
+                                     .bounds = cShortAnswer})
+                               .output;
     const QString rule(40, u'=');
     fParts.console.print(rule);
     fParts.console.print(u"result = " + output);
     fParts.console.print(rule + u"\n\n");
-    fParts.keysChanged();
+    if (guard.after)
+        guard.after();
+    tellOfChange();
 }
 
 /// ssh-keygen would stop and ask before it overwrote one of them.
@@ -78,6 +114,10 @@ void SshKeyProvisioning::removeBoth(const KeyPair& pair) {
     const bool publicGone = fParts.commandFiles.removeItemIfExists(pair.publicKey);
     fParts.console.print(u"status1 = " + trueOrFalse(privateGone));
     fParts.console.print(u"status2 = " + trueOrFalse(publicGone));
+}
+
+void SshKeyProvisioning::tellOfChange() const {
+    fParts.mainQueue.async([this] { fParts.keysChanged(); });
 }
 
 SshKeyProvisioning::KeyPair SshKeyProvisioning::keyPair() const {
@@ -90,47 +130,84 @@ SshKeyProvisioning::KeyPair SshKeyProvisioning::keyPair() const {
 
 // -- in a terminal window
 
-void SshKeyProvisioning::copyPublicKeyToRemoteHost() {
+SshKeyProvisioning::Script SshKeyProvisioning::copyPublicKeyToRemoteHost(RemoteTask& task) {
     logEntry(u"copyPublicKeyToRemoteHost()");
     const auto account = remoteAccount(fParts.defaults);
     const QString privateKey = keyPair().privateKey;
     if (!account || privateKey.isEmpty())
-        return;
+        return {};
     if (const QString fault = accountFault(*account, privateKey); !fault.isEmpty()) {
         fParts.console.log(insideLine(u"ViewController", u"copyPublicKeyToRemoteHost()",
                                       QString(u".......REFUSED: " + fault)));
-        return;
+        return {};
     }
     const QString command = keyInstallationCommand(privateKey, *account);
-    (void)fParts.commandFiles.executeAsCommandFile(command, tellOf(command),
-                                                   fParts.windowTitle(*account));
+    return {.path = fParts.commandFiles.writeCommandFile(command, task.runner()),
+            .command = command,
+            .title = fParts.windowTitle(*account)};
 }
 
-void SshKeyProvisioning::createNewPrivatePublicKeysOLD() {
+/// Once its halves are gone the new pair is made, whatever is cancelled then.
+void SshKeyProvisioning::createNewPrivatePublicKeysOLD(const PairGuard& guard) {
+    const RemoteTaskRef task = fParts.tasks.begin(RemoteTaskKind::MakingKey);
+    if (!task)
+        return;
     logEntry(u"createNewPrivatePublicKeysOLD(_:)");
+    task->inBackground(
+        [this, guard](RemoteTask& running) {
+            const Script script = replaceByScript(running, guard);
+            if (script.path.isEmpty())
+                return;
+            fParts.mainQueue.async([this, guard, script] {
+                fParts.commandFiles.openScript(
+                    script.path, script.command,
+                    [this, guard, command = script.command](TerminalOutcome outcome) {
+                        scriptOfPairEnded(outcome, command, guard);
+                    });
+                fParts.workspace.openUrl(fileUrl(script.path.first(script.path.lastIndexOf(u'/'))));
+            });
+        },
+        [] {});
+}
+
+SshKeyProvisioning::Script SshKeyProvisioning::replaceByScript(RemoteTask& task,
+                                                               const PairGuard& guard) {
     const KeyPair pair = keyPair();
     if (pair.publicKey.isEmpty())
-        return;
+        return {};
+    if (guard.before && !guard.before()) {
+        task.giveUp();
+        return {};
+    }
     removeBoth(pair);
-    fParts.keysChanged();
-    const QString script = fParts.commandFiles.scriptPath();
-    if (script.isEmpty())
-        return;
-    if (!fParts.commandFiles.removeOldScript(script))
-        return;
+    tellOfChange();
     const QString command =
         u"/usr/bin/ssh-keygen -N \"\" -f \"" + insideDoubleQuotes(pair.privateKey) + u'"';
-    if (!fParts.commandFiles.writeScript(script, command))
-        return;
-    fParts.console.print(fParts.commandFiles.chmodAsExecutableBySystemCall(script));
-    fParts.commandFiles.openScript(script, command, tellOf(command));
-    fParts.workspace.openUrl(fileUrl(script.first(script.lastIndexOf(u'/'))));
+    const QString script = fParts.commandFiles.scriptPath();
+    if (!script.isEmpty() && fParts.commandFiles.removeOldScript(script) &&
+        fParts.commandFiles.writeScript(script, command)) {
+        fParts.console.print(fParts.commandFiles.chmodAsExecutableBySystemCall(script));
+        return {script, command};
+    }
+    if (guard.after)
+        guard.after();
+    return {};
 }
 
-std::function<void(TerminalOutcome)> SshKeyProvisioning::tellOf(const QString& command) const {
-    return [scriptEnded = fParts.scriptEnded, command](TerminalOutcome outcome) {
-        scriptEnded(outcome, command);
-    };
+void SshKeyProvisioning::scriptOfPairEnded(TerminalOutcome outcome, const QString& command,
+                                           const PairGuard& guard) {
+    fParts.tasks.whenFree(RemoteTaskKind::MakingKey,
+                          [this, outcome, command, guard](const RemoteTaskRef& task) {
+                              task->inBackground(
+                                  [this, outcome, command, guard](RemoteTask&) {
+                                      if (guard.after)
+                                          guard.after();
+                                      fParts.mainQueue.async([this, outcome, command] {
+                                          fParts.scriptEnded(outcome, command);
+                                      });
+                                  },
+                                  [] {});
+                          });
 }
 
 void SshKeyProvisioning::logEntry(QStringView operation) const {

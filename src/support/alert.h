@@ -22,10 +22,13 @@ struct Alert {
     QString messageText;
     QString informativeText;
     AlertStyle style = AlertStyle::Critical;
-    QStringList buttons; ///< in order; empty: the one default button
+    QStringList buttons = {}; ///< in order; empty: the one default button
     /// Its maker ends it after cSelfAnswerSeconds, answered or not, and goes on as if the first
     /// button had been chosen.
     bool answersItself = false;
+    /// The place of the button that Return presses. The last of several is the one that Escape
+    /// does.
+    int defaultButton = 0;
 
     bool operator==(const Alert&) const = default;
 };

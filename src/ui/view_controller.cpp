@@ -106,12 +106,18 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .presentSheet = parts.outlets.presentSheet,
           .fArrayController = parts.outlets.fArrayController,
       }),
-      fTerminalNotice(fAlerts, parts.outlets.copyText), fCommandFiles({
-                                                            .console = parts.engine.console,
-                                                            .files = parts.engine.files,
-                                                            .shell = parts.engine.commands,
-                                                            .terminal = parts.outlets.terminal,
-                                                        }),
+      fTerminalNotice(fAlerts, parts.outlets.copyText),
+      fTasks({
+          .mainQueue = parts.engine.mainQueue,
+          .bgQueue = parts.engine.bgQueue,
+          .shell = parts.engine.commands,
+          .show = [&view = parts.outlets.view](RemoteTaskKind kind) { view.showTask(kind); },
+      }),
+      fCommandFiles({
+          .console = parts.engine.console,
+          .files = parts.engine.files,
+          .terminal = parts.outlets.terminal,
+      }),
       fConnectionTest({
           .defaults = parts.engine.defaults,
           .files = parts.engine.files,
@@ -139,10 +145,11 @@ ViewController::ViewController(const ViewControllerParts& parts)
           .defaults = parts.engine.defaults,
           .files = parts.engine.files,
           .console = parts.engine.console,
-          .shell = parts.engine.commands,
+          .mainQueue = parts.engine.mainQueue,
+          .tasks = fTasks,
           .validate =
-              [this](qint64 timeout) {
-                  (void)fEngine.hostValidation.validateRemoteHostWithWhoami(timeout);
+              [this](qint64 timeout, const RunCommand& run) {
+                  (void)fEngine.hostValidation.validateRemoteHostWithWhoami(timeout, run);
               },
           .commandFiles = fCommandFiles,
           .workspace = parts.workspace,
@@ -154,11 +161,16 @@ ViewController::ViewController(const ViewControllerParts& parts)
               },
           .keysChanged = [this] { fEngine.keyState.keysChanged(); },
       }),
+      fKeyReplacement({
+          .files = parts.engine.files,
+          .mainQueue = parts.engine.mainQueue,
+          .alerts = parts.outlets.alertPresenter,
+          .now = parts.engine.clock.now,
+      }),
       fShare({
           .defaults = parts.engine.defaults,
           .console = parts.engine.console,
-          .mainQueue = parts.engine.mainQueue,
-          .shell = parts.engine.commands,
+          .tasks = fTasks,
           .commands = parts.shareCommands,
           .commandFiles = fCommandFiles,
           .workspace = parts.workspace,
@@ -257,6 +269,21 @@ void ViewController::showActivity(std::optional<qint64> pass) {
 }
 
 // -- the remote side
+
+void ViewController::ibSetUpKey(Control*) {
+    fKeyReplacement.askAndComplete(
+        [this](const PairGuard& guard) { fProvisioning.ibGenerateSSHKeyStuff(guard); });
+}
+
+void ViewController::ibMakeNewKey(Control*) {
+    fKeyReplacement.askAndReplace(
+        [this](const PairGuard& guard) { fProvisioning.createNewPrivatePublicKeys(guard); });
+}
+
+void ViewController::ibMakeNewKeyOLD(Control*) {
+    fKeyReplacement.askAndReplace(
+        [this](const PairGuard& guard) { fProvisioning.createNewPrivatePublicKeysOLD(guard); });
+}
 
 /// Whatever happened in the terminal, only the remote Mac knows what came of it.
 void ViewController::scriptEnded(TerminalOutcome outcome, const QString& command) {

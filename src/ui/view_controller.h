@@ -8,6 +8,7 @@
 #include "ports/user_defaults.h"
 #include "remote/command_files.h"
 #include "remote/connection_check.h"
+#include "remote/remote_task.h"
 #include "remote/smb_share_access.h"
 #include "remote/ssh_key_provisioning.h"
 #include "sync/repeat_timer_actions.h"
@@ -16,6 +17,7 @@
 #include "ui/folder_selection.h"
 #include "ui/interface_controllers.h"
 #include "ui/kelvo_status_menu_handler.h"
+#include "ui/key_replacement.h"
 #include "ui/outlets.h"
 #include "ui/reveal_button_watchers.h"
 #include "ui/start_button_title.h"
@@ -107,6 +109,13 @@ public:
     void ibGenerateSSHKeyStuff(Control*) { fProvisioning.ibGenerateSSHKeyStuff(); }
     void createNewPrivatePublicKeys(Control*) { fProvisioning.createNewPrivatePublicKeys(); }
     void createNewPrivatePublicKeysOLD(Control*) { fProvisioning.createNewPrivatePublicKeysOLD(); }
+    /// The same for a person at the window: a key that is there is replaced once they agree, and
+    /// kept.
+    void ibSetUpKey(Control*);
+    void ibMakeNewKey(Control*);
+    void ibMakeNewKeyOLD(Control*);
+    /// Ends what was set going with one of these actions or one of the share's.
+    void ibCancelCommand(Control*) { fTasks.cancel(); }
     void checkKeyState(Control*) { fEngine.keyState.checkAgain(); }
     /// Passes pull from now on from what user name, host and folder say.
     void useSourceNow(Control*) { fEngine.samplePath.updateSampleString(); }
@@ -165,9 +174,11 @@ private:
     NetworkPathMonitoring fNetwork;
     BonjourSelection fBonjour;
     TerminalNotice fTerminalNotice;
+    RemoteTasks fTasks;
     CommandFiles fCommandFiles;
     ConnectionCheck fConnectionTest;
     SshKeyProvisioning fProvisioning;
+    KeyReplacement fKeyReplacement;
     SmbShareAccess fShare;
     KelvoStatusMenuHandler myStatusMenuHandler;
     std::vector<Subscription> fObservations;

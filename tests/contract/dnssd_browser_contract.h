@@ -163,6 +163,33 @@ TYPED_TEST_P(DnssdBrowserContractTest, SearchWithoutDiscoveryService_GoesOnOnceT
     EXPECT_TRUE(this->becomes([&] { return this->isResolved(name); }));
 }
 
+TYPED_TEST_P(DnssdBrowserContractTest, DiscoveryService_IsToldOfAsItGoesAndComes) {
+    std::vector<DiscoveryState> told;
+    auto watch =
+        this->network.browser().observeState([&](DiscoveryState state) { told.push_back(state); });
+    EXPECT_EQ(told, std::vector{DiscoveryState::Unknown});
+    this->browse();
+    const auto isRunning = [&] { return told.back() == DiscoveryState::Running; };
+    const auto isAway = [&] {
+        return told.back() == DiscoveryState::NotRunning ||
+               told.back() == DiscoveryState::NotInstalled;
+    };
+    ASSERT_TRUE(this->becomes(isRunning));
+    this->network.setRunning(false);
+    ASSERT_TRUE(this->becomes(isAway));
+    this->network.setRunning(true);
+    ASSERT_TRUE(this->becomes(isRunning));
+    EXPECT_EQ(told.size(), 4U);
+    watch.reset();
+    this->network.setRunning(false);
+    std::optional<DiscoveryState> later;
+    auto other = this->network.browser().observeState([&](DiscoveryState state) { later = state; });
+    EXPECT_TRUE(this->becomes([&] { return later != DiscoveryState::Running; }));
+    EXPECT_EQ(told.size(), 4U);
+    this->network.setRunning(true);
+    EXPECT_TRUE(this->becomes([&] { return later == DiscoveryState::Running; }));
+}
+
 TYPED_TEST_P(DnssdBrowserContractTest, AnotherType_ForgetsEverything) {
     const QString name = this->named(QStringLiteral("Server"));
     this->network.announce(name, 445);
@@ -192,6 +219,7 @@ REGISTER_TYPED_TEST_SUITE_P(DnssdBrowserContractTest, BeforeAnySearch_NothingIsK
                             ReturningService_TakesItsOldPlace, ChangedService_IsSeenByTheNextSearch,
                             DiscoveryServiceGone_KeepsTheListAndFindsBack,
                             SearchWithoutDiscoveryService_GoesOnOnceThereIsOne,
+                            DiscoveryService_IsToldOfAsItGoesAndComes,
                             AnotherType_ForgetsEverything, NamesThatMustNotReachAShell_AreLeftOut);
 
 } // namespace kelvo

@@ -260,6 +260,36 @@ TYPED_TEST(FileManagerContractTest, Remove_KeepsAFullFolderAndSaysSo) {
               QString(place.at("nothing") + u": No such file or directory"));
 }
 
+TYPED_TEST(FileManagerContractTest, Kept_StaysWhenTheFirstNameGoes) {
+    auto& place = this->place;
+    place.putFile("key", "secret");
+    ASSERT_EQ(this->files.changeMode(place.at("key"), 0640), 0);
+    EXPECT_EQ(this->files.keepUnder(place.at("key"), place.at("key of then")), std::nullopt);
+    EXPECT_EQ(place.mode(place.at("key of then")), 0640U);
+    EXPECT_EQ(this->files.removeItem(place.at("key")), std::nullopt);
+    place.putFile("key", "another");
+    EXPECT_EQ(place.content("key of then"), "secret");
+    EXPECT_EQ(place.count(), 2);
+}
+
+TYPED_TEST(FileManagerContractTest, Kept_TouchesNothingThatIsThere) {
+    auto& place = this->place;
+    place.putFile("key", "new");
+    place.putFile("kept", "older");
+    place.putFolder("folder");
+    place.putLink("nowhere", "link");
+    for (const char* taken : {"kept", "folder", "link"}) {
+        const FileFault fault = this->files.keepUnder(place.at("key"), place.at(taken));
+        ASSERT_TRUE(fault) << taken;
+        EXPECT_TRUE(fault->endsWith(u"File exists")) << fault->toStdString();
+    }
+    EXPECT_EQ(place.content("kept"), "older");
+    for (const char* wrong : {"folder", "not there"})
+        EXPECT_TRUE(this->files.keepUnder(place.at(wrong), place.at("x"))) << wrong;
+    EXPECT_TRUE(this->files.keepUnder(place.at("key"), place.readOnlyFolder()));
+    EXPECT_FALSE(this->files.fileExistsAtPath(place.at("x")));
+}
+
 TYPED_TEST(FileManagerContractTest, Write_ReplacesTheFileWholeForTheUserAlone) {
     auto& place = this->place;
     place.putFile("script", "a much longer text than the next one");

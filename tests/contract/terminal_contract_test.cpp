@@ -3,6 +3,8 @@
 // only with the real one: terminal_window_test.
 #include "adapters/console/headless_desktop.h"
 #include "adapters/desktop/terminal_window.h"
+#include "adapters/process/qt_main_queue.h"
+#include "adapters/process/thread_pool_queue.h"
 #include "fakes/fake_file_manager.h"
 #include "fakes/fake_remote_side.h"
 #include "fakes/recording_console.h"
@@ -42,7 +44,8 @@ struct WindowWorld {
         put("script", "while [ -e \"$0\" ] && [ ! -e '" + at("go").toLocal8Bit() +
                           "' ]; do sleep 0.02; done\n");
         terminal = std::make_unique<TerminalWindow>(
-            files, console, std::vector<TerminalProgram>{{at("program").toStdString(), {"-e"}}});
+            files, console, mainQueue, bgQueue,
+            std::vector<TerminalProgram>{{at("program").toStdString(), {"-e"}}});
     }
     ~WindowWorld() { endScript(); }
 
@@ -62,6 +65,8 @@ struct WindowWorld {
     QTemporaryDir folder;
     FakeFileManager files;
     RecordingConsole console;
+    QtMainQueue mainQueue;
+    ThreadPoolQueue bgQueue;
     std::unique_ptr<TerminalWindow> terminal;
 };
 

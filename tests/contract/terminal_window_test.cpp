@@ -1,6 +1,9 @@
 #include "adapters/desktop/terminal_window.h"
+#include "adapters/process/qt_main_queue.h"
+#include "adapters/process/thread_pool_queue.h"
 #include "fakes/fake_file_manager.h"
 #include "fakes/recording_console.h"
+#include "fakes/virtual_queues.h"
 #include "support/wait_in_loop.h"
 
 #include <QAbstractEventDispatcher>
@@ -56,7 +59,8 @@ protected:
                                   [this](TerminalOutcome outcome) { outcomes.push_back(outcome); });
     }
     void use(std::vector<TerminalProgram> programs) {
-        terminal = std::make_unique<TerminalWindow>(files, console, std::move(programs));
+        terminal = std::make_unique<TerminalWindow>(files, console, mainQueue, bgQueue,
+                                                    std::move(programs));
     }
     bool comesTo(TerminalOutcome outcome) {
         return waitInLoop([this] { return !outcomes.empty(); }) && outcomes == std::vector{outcome};
@@ -66,10 +70,23 @@ protected:
     QTemporaryDir fFolder;
     FakeFileManager files;
     RecordingConsole console;
+    QtMainQueue mainQueue;
+    ThreadPoolQueue bgQueue;
     std::vector<TerminalOutcome> outcomes;
     QString title;
     std::unique_ptr<TerminalWindow> terminal;
 };
+
+TEST_F(TerminalWindowTest, Search_IsTheBackgroundQueues) {
+    ManualBackgroundQueue waiting;
+    TerminalWindow slow(files, console, mainQueue, waiting, {program("one", window())});
+    slow.openCommandFile(script("true"), {},
+                         [this](TerminalOutcome outcome) { outcomes.push_back(outcome); });
+    EXPECT_EQ(waiting.size(), 1U);
+    EXPECT_EQ(content("tried"), "");
+    waiting.runAll();
+    EXPECT_TRUE(comesTo(TerminalOutcome::Ended));
+}
 
 TEST_F(TerminalWindowTest, Script_RunsAndItsEndIsTold) {
     use({program("one", window())});

@@ -45,6 +45,7 @@ kelvo_tests(contract
     contract/posix_shell_runner_test.cpp
     contract/private_places_test.cpp
     contract/qt_main_queue_test.cpp
+    contract/remote_task_test.cpp
     contract/rotating_log_file_test.cpp
     contract/sentinel_launcher_contract_test.cpp
     contract/sentinel_test.cpp

@@ -71,6 +71,31 @@ public:
         events.note(u"remove " + path);
         return {};
     }
+    FileFault keepUnder(const QString& path, const QString& name) override {
+        const auto fault = faultAt(path);
+        if (fault)
+            return fault;
+        if (const auto other = faultAt(name))
+            return other;
+        if (existing.contains(name) || folders.contains(name) || links.contains(name))
+            return QString(name + u": File exists");
+        if (folders.contains(path))
+            return QString(path + u": Is a directory");
+        if (links.contains(path))
+            links[name] = links[path];
+        else if (existing.contains(path))
+            existing.insert(name);
+        else
+            return QString(path + u": No such file or directory");
+        if (written.contains(path))
+            written[name] = written[path];
+        unsigned bits = 0600;
+        for (const auto& [changed, mode] : modes)
+            bits = changed == path ? mode : bits;
+        modes.append({name, bits});
+        events.note(u"keep " + path + u" as " + name);
+        return {};
+    }
     FileFault writeAtomically(const QString& path, const QByteArray& content) override {
         if (const auto fault = faultAt(path))
             return fault;

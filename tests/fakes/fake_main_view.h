@@ -18,6 +18,7 @@ public:
     void makeNothingFirstResponder() override { ++focusDropped; }
     void showNetworkStatus(const QString& text) override { networkLines.push_back(text); }
     void showTesting(bool testing) override { testSigns.push_back(testing); }
+    void showTask(RemoteTaskKind kind) override { tasks.push_back(kind); }
     void showKeyState(KeyState state) override { keyStates.push_back(state); }
     void showWork(const WorkState& state) override { works.push_back(state); }
     Subscription observeAttention(std::function<void(Attention)> changed) override {
@@ -46,6 +47,7 @@ public:
     int beeps = 0;
     std::vector<QString> networkLines; ///< every text so far
     std::vector<bool> testSigns;       ///< every call so far
+    std::vector<RemoteTaskKind> tasks; ///< every call so far
     std::vector<WorkState> works;      ///< every state so far
     std::vector<KeyState> keyStates;   ///< every state so far
     /// Tells who follows the view; it does nothing while nobody asks.

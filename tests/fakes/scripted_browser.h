@@ -7,6 +7,8 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <map>
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -20,10 +22,20 @@ public:
         if (type != fType)
             fListed.clear();
         fType = type;
+        tellState();
         fListed.removeIf([](const DNSSD_Service& service) { return !service.available; });
         lookAgain();
     }
     DNSSD_Services services() const override { return fListed; }
+    Subscription observeState(std::function<void(DiscoveryState)> changed) override {
+        const int number = ++fLast;
+        fObservers->emplace(number, std::move(changed));
+        fObservers->at(number)(fState);
+        return Subscription([number, all = std::weak_ptr(fObservers)] {
+            if (const auto alive = all.lock())
+                alive->erase(number);
+        });
+    }
     void searchEndpoints(const EndpointRequest& request, EndpointListener listener) override {
         searches.push_back({request, std::move(listener), {}, {}});
     }
@@ -68,11 +80,14 @@ public:
         fRunning = running;
         for (DNSSD_Service& service : fListed)
             service.available = false;
+        if (!fType.isEmpty())
+            tellState();
         lookAgain();
     }
 
-    QStringList browsed; ///< every type asked for so far
-    QStringList refused; ///< names that were left out
+    DiscoveryState away = DiscoveryState::NotRunning; ///< what it is while it does not run
+    QStringList browsed;                              ///< every type asked for so far
+    QStringList refused;                              ///< names that were left out
 
     struct Search {
         EndpointRequest request;
@@ -94,6 +109,14 @@ private:
                 found.append(service.name + u'.' + service.type + u'.' + service.domain + u'.');
         }
         return found;
+    }
+
+    void tellState() {
+        const DiscoveryState now = fRunning ? DiscoveryState::Running : away;
+        if (std::exchange(fState, now) == now)
+            return;
+        for (const auto& [number, changed] : std::map(*fObservers))
+            changed(now);
     }
 
     void lookAgain() {
@@ -121,6 +144,10 @@ private:
 
     QString fType;
     bool fRunning = true;
+    DiscoveryState fState = DiscoveryState::Unknown;
+    int fLast = 0;
+    std::shared_ptr<std::map<int, std::function<void(DiscoveryState)>>> fObservers =
+        std::make_shared<std::map<int, std::function<void(DiscoveryState)>>>();
     DNSSD_Services fAnnounced;
     DNSSD_Services fListed;
 };

@@ -52,6 +52,10 @@ public:
             command.started(id);
         const QByteArray printed = (rule.answer ? rule.answer(command.text) : QString()).toUtf8();
         CommandResult result = kept(printed, command.bounds.kept);
+        if (givesUp) {
+            (void)leave(id);
+            return {};
+        }
         result.exitStatus = rule.endless ? 124 : rule.exitStatus;
         const bool tooMuch = printed.size() > command.bounds.most;
         if (leave(id))
@@ -95,6 +99,7 @@ public:
     }
 
     EventList events;
+    bool givesUp = false; ///< as when the program quits: every command
 
 private:
     struct Rule {

@@ -138,19 +138,37 @@ TEST_F(SetUpLabTest, HostGoneWhileThePasswordIsAsked_IsAnEndToo) {
     EXPECT_EQ(program->stop(), 0);
 }
 
-TEST_F(SetUpLabTest, KeyFilesOnAReadOnlyDisk_StayAndAllComplaintsAreShown) {
+TEST_F(SetUpLabTest, KeyThatIsReplaced_IsKeptAndOnlyOnceAPersonAgrees) {
+    near(QStringLiteral("ssh-keygen -q -t ed25519 -N '' -f %1").arg(cKey));
+    const QByteArray before = near(QStringLiteral("cat %1").arg(cKey)).output;
+    startWindow(hostAndUser());
+    keys({QStringLiteral("alt+m")});
+    ASSERT_TRUE(comesToFront(QStringLiteral("Make a new key?"))) << transcript();
+    keys({QStringLiteral("Return")});
+    ASSERT_TRUE(comesToFront(QStringLiteral("Kelvo Mirror")));
+    EXPECT_EQ(near(QStringLiteral("cat %1").arg(cKey)).output, before);
+    keys({QStringLiteral("alt+m")});
+    ASSERT_TRUE(comesToFront(QStringLiteral("Make a new key?"))) << transcript();
+    keys({QStringLiteral("Tab"), QStringLiteral("space")});
+    EXPECT_TRUE(logs(QStringLiteral("result = "))) << transcript();
+    EXPECT_NE(near(QStringLiteral("cat %1").arg(cKey)).output, before);
+    EXPECT_EQ(near(QStringLiteral("cat %1-20*[0-9]").arg(cKey)).output, before);
+    EXPECT_EQ(near(QStringLiteral("ls .ssh/id_* | wc -l")).output.trimmed(), "4");
+    EXPECT_EQ(program->stop(), 0);
+}
+
+TEST_F(SetUpLabTest, KeyOnAReadOnlyDisk_CannotBeKeptAndStays) {
     near(QStringLiteral("ssh-keygen -q -t ed25519 -N '' -f %1 && mount --bind .ssh .ssh && "
                         "mount -o remount,bind,ro .ssh")
              .arg(cKey));
     const QByteArray before = near(QStringLiteral("cat %1").arg(cKey)).output;
     startWindow(hostAndUser());
     keys({QStringLiteral("alt+m")});
-    EXPECT_TRUE(logs(QStringLiteral("removeItem ERROR = /Users/near/.ssh/id_kelvoRsync: Read-only "
-                                    "file system")))
-        << transcript();
-    EXPECT_TRUE(prints(QStringLiteral("status1 = false")));
-    EXPECT_TRUE(prints(QStringLiteral("status2 = false")));
-    EXPECT_TRUE(prints(QStringLiteral("result = ")));
+    ASSERT_TRUE(comesToFront(QStringLiteral("Make a new key?"))) << transcript();
+    keys({QStringLiteral("Tab"), QStringLiteral("space")});
+    EXPECT_TRUE(comesToFront(QStringLiteral("The key was not replaced"))) << transcript();
+    EXPECT_FALSE(program->transcript().contains(u"result = ")) << "nothing was tried";
+    keys({QStringLiteral("Return")});
     EXPECT_EQ(program->stop(), 0);
     EXPECT_EQ(near(QStringLiteral("cat %1; umount .ssh").arg(cKey)).output, before);
 }

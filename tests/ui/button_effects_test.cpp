@@ -82,6 +82,9 @@ struct World : ViewControllerWorld {
             events.append(u"search " + dnssdBrowser.searches[fSearches].request.type);
         for (; fSigns < view.testSigns.size(); ++fSigns)
             events.append(view.testSigns[fSigns] ? text("sign") : text("no sign"));
+        for (; fTasks < view.tasks.size(); ++fTasks)
+            events.append(view.tasks[fTasks] == RemoteTaskKind::None ? text("no task")
+                                                                     : text("task"));
         for (; fAlerts < presenter.alerts.size(); ++fAlerts)
             events.append(u"alert " + presenter.alerts[fAlerts].messageText);
         for (; fFocusDropped < view.focusDropped; ++fFocusDropped)
@@ -110,6 +113,7 @@ private:
     std::size_t fSearches = 0;
     std::size_t fSigns = 0;
     std::size_t fAlerts = 0;
+    std::size_t fTasks = 0;
     int fFocusDropped = 0;
     int fRelaunches = 0;
     qsizetype fTicks = 0;
@@ -145,6 +149,8 @@ std::vector<Row> rows() {
     const QString open = run(cShareCommands.openShare(cShare));
     const QString list = run(cShareCommands.listVolumes(cShare));
     const QString pick = run(cShareCommands.pickVolume({}, cShare));
+    const QString task = text("task");
+    const QString noTask = text("no task");
     const QString busy = text("set prefIsScanning = true");
     const QString idle = text("set prefIsScanning = false");
     const QString on = text("set prefEnableScanning = 1");
@@ -176,13 +182,16 @@ std::vector<Row> rows() {
         {"ibAction1", {text("path file:///source"), cLater}},
         {"ibOpenTempFolder", {text("openUrl file:///tmp/of%20me"), cLater}},
         {"ibGenerateSSHKeyStuff",
-         {ask(2), generation, write, run(u"/bin/chmod 0755 2>&1 \"" + cScript + u'"'),
-          u"terminal " + keyInstallationCommand(cKey, cAccount), cLater}},
-        {"createNewPrivatePublicKeys", {generation, cLater}},
+         {task, cLater, ask(2), generation, write, run(u"/bin/chmod 0755 2>&1 \"" + cScript + u'"'),
+          u"terminal " + keyInstallationCommand(cKey, cAccount), noTask}},
+        {"createNewPrivatePublicKeys", {task, cLater, generation, noTask}},
         {"createNewPrivatePublicKeysOLD",
-         {write, u"mode 755 " + cScript,
+         {task, cLater, write, u"mode 755 " + cScript,
           text("terminal /usr/bin/ssh-keygen -N \"\" -f \"/Users/localuser/.ssh/id_kelvoRsync\""),
-          text("openUrl file:///tmp/of%20me"), cLater}},
+          text("openUrl file:///tmp/of%20me"), noTask}},
+        {"ibCancelCommand",
+         {task, cLater, noTask},
+         [](World& world) { world.controller.ibRevealSourcePathSMB(nullptr); }},
         {"checkKeyState", {cLater, ask(5)}},
         {"useSourceNow",
          {cLater, text("set prefSampleRemoteFullPath = ann@mac.local:Clips")},
@@ -195,10 +204,11 @@ std::vector<Row> rows() {
           text("run ssh -i /Users/localuser/.ssh/id_kelvoRsync -o BatchMode=yes -o "
                "ConnectTimeout=5 ann@mac.local echo \"remoteisgood\" 2>&1"),
           text("no sign"), text("alert SUCCESS...")}},
-        {"ibTestShellCommand111", {open, cLater, list, pick}},
-        {"ibRevealSourcePathSMB", {open, list, cLater}},
-        {"ibRevealSourcePathSMBdebug", {open, cLater, list}},
-        {"ibRevealSourcePathSMBdebugOLD", {open, list, pick, cLater, text("openFile ./Users/ann")}},
+        {"ibTestShellCommand111", {task, cLater, open, list, pick, noTask}},
+        {"ibRevealSourcePathSMB", {task, cLater, open, list, noTask}},
+        {"ibRevealSourcePathSMBdebug", {task, cLater, open, list, noTask}},
+        {"ibRevealSourcePathSMBdebugOLD",
+         {task, cLater, open, list, pick, text("openFile ./Users/ann"), noTask}},
         {"ibSetNoFirstResponder", {cLater, text("focus dropped")}},
         {"ibQuitAndRelaunch", {text("relaunch"), cLater}},
         {"ibSyncNow", {idle, cLater, ask(3), pull, movies, busy, idle}, runPass},

@@ -82,6 +82,20 @@ TEST_F(SheetPresenterTest, Keyboard_ReturnIsTheFirstButtonAndEscapeTheLast) {
     EXPECT_EQ(responses, (std::vector<ModalResponse>{1000, 1001}));
 }
 
+TEST_F(SheetPresenterTest, DangerousQuestion_IsAnsweredNoByTheKeyboard) {
+    const Alert question{.messageText = QStringLiteral("Sure?"),
+                         .informativeText = {},
+                         .buttons = {QStringLiteral("Do It"), QStringLiteral("Do Not")},
+                         .defaultButton = 1};
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Space}) {
+        std::optional<ModalResponse> answer;
+        (void)presenter->beginSheet(question, [&](ModalResponse response) { answer = response; });
+        QWidget* focused = sheet()->focusWidget();
+        QTest::keyClick(focused ? focused : sheet(), key);
+        EXPECT_EQ(answer, cAlertSecondButtonReturn) << key;
+    }
+}
+
 TEST_F(SheetPresenterTest, NoButtons_LeaveTheDefaultOneWhichIsTheFirst) {
     presenter->beginSheet({QStringLiteral("T"), {}, AlertStyle::Critical, {}, false}, record());
     ASSERT_EQ(box()->buttons().size(), 1);

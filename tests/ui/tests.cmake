@@ -8,6 +8,7 @@ kelvo_tests(ui WIDGETS
     ui/arrivals_view_test.cpp
     ui/bindings_test.cpp
     ui/bonjour_sheet_test.cpp
+    ui/busy_row_test.cpp
     ui/button_effects_test.cpp
     ui/checklist_view_test.cpp
     ui/day_chart_test.cpp

@@ -88,6 +88,16 @@ TEST_F(WidgetMainViewTest, ConnectionTest_HasItsSignWhileItRuns) {
     EXPECT_FALSE(sign.isVisible());
 }
 
+TEST_F(WidgetMainViewTest, Task_IsShownOnTheRemoteTab) {
+    window.showTab(QStringLiteral("remote"));
+    const auto& row = *window.findChild<QWidget*>(QStringLiteral("busyRow"));
+    EXPECT_FALSE(row.isVisible());
+    view.showTask(RemoteTaskKind::OpeningFolder);
+    EXPECT_TRUE(row.isVisible());
+    view.showTask(RemoteTaskKind::None);
+    EXPECT_FALSE(row.isVisible());
+}
+
 TEST_F(WidgetMainViewTest, FieldThatEndedEditing_GivesItsFocusUpOnce) {
     window.showTab(QStringLiteral("remote"));
     auto* field = window.findChild<QLineEdit*>(QStringLiteral("remoteUser"));

@@ -33,10 +33,16 @@ TEST_F(RemoteSideTest, FromNoKeyToAccepted_EachStateIsShown) {
     shell.answerTo(QStringLiteral("whoami"), QStringLiteral("Permission denied (publickey)."));
     controller.ibGenerateSSHKeyStuff(nullptr);
     settle();
-    EXPECT_EQ(shownState(), KeyState::NotAccepted);
-    shell.answerTo(QStringLiteral("whoami"), QStringLiteral("ann\n"));
+    EXPECT_EQ(shownState(), KeyState::NotAsked) << "it is a new one";
     ASSERT_EQ(terminal.windows.size(), 1U);
     terminal.windows.front().ended(TerminalOutcome::Ended);
+    settle();
+    EXPECT_EQ(shownState(), KeyState::NotAccepted);
+    controller.ibGenerateSSHKeyStuff(nullptr);
+    settle();
+    shell.answerTo(QStringLiteral("whoami"), QStringLiteral("ann\n"));
+    ASSERT_EQ(terminal.windows.size(), 2U);
+    terminal.windows.back().ended(TerminalOutcome::Ended);
     EXPECT_EQ(shownState(), KeyState::Asking);
     settle();
     EXPECT_EQ(shownState(), KeyState::Accepted);
@@ -44,6 +50,7 @@ TEST_F(RemoteSideTest, FromNoKeyToAccepted_EachStateIsShown) {
 
 TEST_F(RemoteSideTest, NoTerminal_ShowsTheCommandAndCopiesIt) {
     controller.ibGenerateSSHKeyStuff(nullptr);
+    settle();
     const QString command = terminal.windows.front().command;
     terminal.windows.front().ended(TerminalOutcome::NoWindow);
     settle();
@@ -58,6 +65,7 @@ TEST_F(RemoteSideTest, NoTerminal_ShowsTheCommandAndCopiesIt) {
 TEST_F(RemoteSideTest, NoTerminalAndClosed_LeavesTheClipboardAlone) {
     clipboard = QStringLiteral("before");
     controller.ibGenerateSSHKeyStuff(nullptr);
+    settle();
     terminal.windows.front().ended(TerminalOutcome::NoWindow);
     settle();
     presenter.answer(1, cAlertSecondButtonReturn);

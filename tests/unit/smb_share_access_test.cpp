@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace kelvo {
 namespace {
 
@@ -42,19 +44,40 @@ protected:
         defaults.setObject(prefRemotePath, QStringLiteral("Movies\n"));
     }
 
+    /// Commands run as soon as they are asked for, until the main queue has nothing due.
+    void runDue() {
+        do {
+            bgQueue.runAll();
+            mainQueue.runDue();
+        } while (bgQueue.size() > 0);
+    }
+    void advance(double seconds) {
+        runDue();
+        for (const double end = mainQueue.now() + seconds; mainQueue.now() < end; runDue()) {
+            const double rest = end - mainQueue.now();
+            mainQueue.advance(mainQueue.idle() ? rest : std::min(rest, mainQueue.nextDelay()));
+        }
+    }
+    bool idle() const { return mainQueue.idle() && bgQueue.size() == 0; }
+
     MemoryDefaults defaults;
     RecordingConsole console;
     VirtualMainQueue mainQueue;
+    ManualBackgroundQueue bgQueue;
     ScriptedShell shell;
+    std::vector<RemoteTaskKind> tasksShown;
+    RemoteTasks tasks{{.mainQueue = mainQueue,
+                       .bgQueue = bgQueue,
+                       .shell = shell,
+                       .show = [this](RemoteTaskKind kind) { tasksShown.push_back(kind); }}};
     Commands commands;
     FakeFileManager files;
     FakeTerminal terminal;
     FakeWorkspace workspace;
-    CommandFiles commandFiles{
-        {.console = console, .files = files, .shell = shell, .terminal = terminal}};
+    CommandFiles commandFiles{{.console = console, .files = files, .terminal = terminal}};
     int beeps = 0;
     QStringList withoutWindow;
-    SmbShareAccess share{{defaults, console, mainQueue, shell, commands, commandFiles, workspace,
+    SmbShareAccess share{{defaults, console, tasks, commands, commandFiles, workspace,
                           [this] { ++beeps; },
                           [this](const QString& command) { withoutWindow.append(command); }}};
 };
@@ -70,12 +93,15 @@ protected:
 TEST_F(SmbShareAccessTest, WithoutAHost_OnlyTheFirstActionBeeps) {
     defaults.removeObject(prefRemoteBonjourName);
     share.ibRevealSourcePathSMBdebug();
+    runDue();
     share.ibRevealSourcePathSMBdebugOLD();
+    runDue();
     EXPECT_EQ(beeps, 0);
     share.ibRevealSourcePathSMB();
+    runDue();
     EXPECT_EQ(beeps, 1);
     EXPECT_TRUE(shell.commands().isEmpty());
-    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_TRUE(idle());
     EXPECT_EQ(console.logged(),
               (QStringList{QString(cDebug + u"......."), QString(cOlder + u"......."),
                            QString(cReveal + u".......")}));
@@ -84,6 +110,7 @@ TEST_F(SmbShareAccessTest, WithoutAHost_OnlyTheFirstActionBeeps) {
 TEST_F(SmbShareAccessTest, Reveal_OpensTheFolderAndLogsTheAnswer) {
     shell.answerTo(QStringLiteral("open"), QStringLiteral("no such folder\n"));
     share.ibRevealSourcePathSMB();
+    runDue();
     const QString command = QStringLiteral(
         "open \"smb://ann@Office%20Mac%20Mini._smb._tcp.local/Macintosh%20HD/Users/ann/Movies\"");
     EXPECT_EQ(shell.commands(), QStringList{command});
@@ -91,21 +118,22 @@ TEST_F(SmbShareAccessTest, Reveal_OpensTheFolderAndLogsTheAnswer) {
               (QStringList{QString(cReveal + u"......."),
                            QString(cReveal + u".......cmd to send = [" + command + u']'),
                            QString(cReveal + u".......response = no such folder\n")}));
-    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_TRUE(idle());
 }
 
 TEST_F(SmbShareAccessTest, Debug_FindsTheVolumeAndOpensTheFolderThere) {
     mount(QStringLiteral("/Volumes/Data x\n/Volumes/Macintosh HD\n"));
     share.ibRevealSourcePathSMBdebug();
+    runDue();
     EXPECT_EQ(shell.commands(), QStringList{cOpenShare});
-    mainQueue.advance(0.499);
+    advance(0.499);
     EXPECT_EQ(shell.commands().size(), 1);
-    mainQueue.advance(0.001);
+    advance(0.001);
     EXPECT_EQ(shell.commands(), (QStringList{cOpenShare, cList, cPick}));
-    mainQueue.advance(0.1);
+    advance(0.1);
     EXPECT_EQ(shell.commands().constLast(), u"open \"./Volumes/Macintosh HD/Users/ann/Movies\"");
     EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>(4, 50.0))
-        << "the main thread waits for each of them";
+        << "none holds its task for ever";
     EXPECT_EQ(
         console.logged(),
         (QStringList{
@@ -122,10 +150,11 @@ TEST_F(SmbShareAccessTest, Debug_FindsTheVolumeAndOpensTheFolderThere) {
 TEST_F(SmbShareAccessTest, Debug_StopsAtAnAnswerOfTheShareAndAtAnEmptyListing) {
     shell.answerTo(QStringLiteral("smb:"), QStringLiteral("unreachable"));
     share.ibRevealSourcePathSMBdebug();
-    EXPECT_TRUE(mainQueue.idle());
+    runDue();
+    EXPECT_TRUE(idle());
     shell.answerTo(QStringLiteral("smb:"), QString());
     share.ibRevealSourcePathSMBdebug();
-    mainQueue.advance(5.0);
+    advance(5.0);
     EXPECT_EQ(shell.commands(), (QStringList{cOpenShare, cOpenShare, cList}));
     EXPECT_EQ(console.logged().constLast(), QString(cDebug + u".......username = ann"));
 }
@@ -133,17 +162,18 @@ TEST_F(SmbShareAccessTest, Debug_StopsAtAnAnswerOfTheShareAndAtAnEmptyListing) {
 TEST_F(SmbShareAccessTest, DebugWithoutAMatch_OpensTheRelativePathAllTheSame) {
     mount(QString());
     share.ibRevealSourcePathSMBdebug();
-    mainQueue.advance(1.0);
+    advance(1.0);
     EXPECT_EQ(shell.commands().constLast(), u"open \"./Users/ann/Movies\"");
 }
 
 TEST_F(SmbShareAccessTest, OlderWay_LooksAtOnceAndJoinsAllLines) {
     mount(QStringLiteral("/Volumes/Data x\n/Volumes/Macintosh HD\n"));
     share.ibRevealSourcePathSMBdebugOLD();
+    runDue();
     EXPECT_EQ(shell.commands(), (QStringList{cOpenShare, cList, cPick}));
-    mainQueue.advance(0.099);
+    advance(0.099);
     EXPECT_EQ(shell.commands().size(), 3);
-    mainQueue.advance(0.001);
+    advance(0.001);
     EXPECT_EQ(shell.commands().constLast(),
               u"open \"./Volumes/Data x\n/Volumes/Macintosh HD/Users/ann/Movies\"");
     for (const QString& line : console.logged())
@@ -153,7 +183,7 @@ TEST_F(SmbShareAccessTest, OlderWay_LooksAtOnceAndJoinsAllLines) {
 
 TEST_F(SmbShareAccessTest, OlderWay_GoesOnAfterAnEmptyListing) {
     share.ibRevealSourcePathSMBdebugOLD();
-    mainQueue.advance(0.1);
+    advance(0.1);
     EXPECT_EQ(shell.commands().size(), 4);
 }
 
@@ -162,10 +192,11 @@ TEST_F(SmbShareAccessTest, OlderWay_GoesOnAfterAnEmptyListing) {
 TEST_F(SmbShareAccessTest, Test_ListsTheVolumesHalfASecondLater) {
     shell.answerTo(QStringLiteral("df"), QStringLiteral("a volume"));
     share.ibTestShellCommand111();
+    runDue();
     EXPECT_EQ(shell.commands(), QStringList{cOpenShare});
-    mainQueue.advance(0.499);
+    advance(0.499);
     EXPECT_EQ(shell.commands().size(), 1);
-    mainQueue.advance(0.001);
+    advance(0.001);
     EXPECT_EQ(shell.commands(), (QStringList{cOpenShare, cList}));
     EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>(2, 50.0));
     EXPECT_EQ(console.logged(),
@@ -178,19 +209,21 @@ TEST_F(SmbShareAccessTest, Test_ListsTheVolumesHalfASecondLater) {
 TEST_F(SmbShareAccessTest, TestThatIsToldSomething_IsTheEnd) {
     shell.answerTo(QStringLiteral("open"), QStringLiteral("no"));
     share.ibTestShellCommand111();
+    runDue();
     EXPECT_EQ(console.logged(),
               (QStringList{QString(cTest + u"......."),
                            QString(cTest + u".......response[" + cOpenShare + u"]= [no]"),
                            QString(cTest + u".......OH OH????")}));
-    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_TRUE(idle());
 }
 
 TEST_F(SmbShareAccessTest, TestWithoutAHost_IsSilent) {
     defaults.removeObject(prefRemoteBonjourName);
     share.ibTestShellCommand111();
+    runDue();
     EXPECT_EQ(console.lines().size(), 1U);
     EXPECT_TRUE(shell.commands().isEmpty());
-    EXPECT_TRUE(mainQueue.idle());
+    EXPECT_TRUE(idle());
 }
 
 class GioShareAccessTest : public ShareWorld<GioShareCommands> {
@@ -208,7 +241,7 @@ protected:
 TEST_F(GioShareAccessTest, Reveal_FindsTheMountedFolder) {
     mount();
     share.ibRevealSourcePathSMB();
-    mainQueue.advance(0.1);
+    advance(0.1);
     EXPECT_EQ(workspace.requests, QStringList{QString::fromUtf16(cFolder)});
     EXPECT_EQ(console.logged().constLast(), QString(cReveal + u".......response = []"));
 }
@@ -216,14 +249,14 @@ TEST_F(GioShareAccessTest, Reveal_FindsTheMountedFolder) {
 TEST_F(GioShareAccessTest, Debug_OpensThroughTheDesktop) {
     mount();
     share.ibRevealSourcePathSMBdebug();
-    mainQueue.advance(0.6);
+    advance(0.6);
     EXPECT_EQ(workspace.requests, QStringList{QString::fromUtf16(cFolder)});
 }
 
 TEST_F(GioShareAccessTest, Test_OpensTheShareAndListsIt) {
     mount();
     share.ibTestShellCommand111();
-    mainQueue.advance(0.5);
+    advance(0.5);
     EXPECT_EQ(workspace.requests, QStringList{QString(u"openFile " + QString::fromUtf16(cVolume))});
     EXPECT_TRUE(console.logged().contains(QString(cTest + u".......response[" +
                                                   commands.listVolumes(*shareTarget(defaults)) +
@@ -234,7 +267,7 @@ TEST_F(GioShareAccessTest, TestWithoutAMountedShare_OpensNothing) {
     mount();
     shell.answerTo(QStringLiteral("printf"), QString());
     share.ibTestShellCommand111();
-    mainQueue.advance(1.0);
+    advance(1.0);
     EXPECT_TRUE(workspace.requests.isEmpty());
     EXPECT_TRUE(console.logged().constLast().endsWith(u"]= local path: …"));
 }
@@ -243,12 +276,13 @@ TEST_F(GioShareAccessTest, TestThatIsAskedForAPassword_GoesOnAfterTheTerminal) {
     mount();
     shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("Password: "));
     share.ibTestShellCommand111();
+    runDue();
     EXPECT_TRUE(console.logged().constLast().endsWith(u".......OH OH????"));
-    mainQueue.advance(1);
+    advance(1);
     EXPECT_TRUE(workspace.requests.isEmpty());
     ASSERT_EQ(terminal.windows.size(), 1U);
     terminal.windows.front().ended(TerminalOutcome::Ended);
-    mainQueue.advance(0.5);
+    advance(0.5);
     EXPECT_EQ(workspace.requests, QStringList{QString(u"openFile " + QString::fromUtf16(cVolume))});
 }
 
@@ -256,6 +290,7 @@ TEST_F(GioShareAccessTest, PasswordQuestion_IsAskedInATerminalAndThenItGoesOn) {
     mount();
     shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("Password: "));
     share.ibRevealSourcePathSMB();
+    runDue();
     EXPECT_TRUE(workspace.requests.isEmpty());
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().command,
@@ -263,15 +298,16 @@ TEST_F(GioShareAccessTest, PasswordQuestion_IsAskedInATerminalAndThenItGoesOn) {
     EXPECT_EQ(files.written.value(terminal.windows.front().path),
               QString(terminal.windows.front().command + u'\n').toUtf8());
     terminal.windows.front().ended(TerminalOutcome::Ended);
-    mainQueue.advance(0.1);
+    advance(0.1);
     EXPECT_EQ(workspace.requests, QStringList{QString::fromUtf16(cFolder)});
 }
 
 TEST_F(GioShareAccessTest, PasswordQuestionWithoutATerminal_IsHandedOver) {
     shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("Password: "));
     share.ibRevealSourcePathSMBdebug();
+    runDue();
     terminal.windows.front().ended(TerminalOutcome::NoWindow);
-    mainQueue.advance(1.0);
+    advance(1.0);
     EXPECT_EQ(withoutWindow, QStringList{QStringLiteral(
                                  "gio mount \"smb://ann@Office-Mac-Mini.local/Macintosh%20HD\"")});
     EXPECT_TRUE(workspace.requests.isEmpty());
@@ -280,11 +316,100 @@ TEST_F(GioShareAccessTest, PasswordQuestionWithoutATerminal_IsHandedOver) {
 TEST_F(GioShareAccessTest, SilentServer_IsInTheLogAndNothingOpens) {
     shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("no answer within 20 seconds\n"));
     share.ibRevealSourcePathSMB();
-    mainQueue.advance(1.0);
+    advance(1.0);
     EXPECT_EQ(console.logged().constLast(),
               QString(cReveal + u".......response = no answer within 20 seconds\n"));
     EXPECT_TRUE(terminal.windows.empty());
     EXPECT_TRUE(workspace.requests.isEmpty());
+}
+
+// -- away from the main thread
+
+TEST_F(GioShareAccessTest, MainQueue_NeverWaitsForACommand) {
+    mount();
+    for (const auto action :
+         {&SmbShareAccess::ibRevealSourcePathSMB, &SmbShareAccess::ibRevealSourcePathSMBdebug,
+          &SmbShareAccess::ibRevealSourcePathSMBdebugOLD, &SmbShareAccess::ibTestShellCommand111}) {
+        const qsizetype before = shell.commands().size();
+        workspace.requests.clear();
+        (share.*action)();
+        mainQueue.advance(60);
+        EXPECT_EQ(shell.commands().size(), before);
+        EXPECT_EQ(tasksShown.back(), RemoteTaskKind::OpeningFolder);
+        while (workspace.requests.isEmpty() && !idle()) {
+            const qsizetype asked = shell.commands().size();
+            mainQueue.advance(60);
+            EXPECT_EQ(shell.commands().size(), asked);
+            bgQueue.runAll();
+        }
+        EXPECT_EQ(workspace.requests.size(), 1);
+        runDue();
+        EXPECT_EQ(tasksShown.back(), RemoteTaskKind::None);
+    }
+}
+
+TEST_F(GioShareAccessTest, SecondClick_StartsNothing) {
+    mount();
+    share.ibRevealSourcePathSMB();
+    share.ibRevealSourcePathSMB();
+    share.ibRevealSourcePathSMBdebug();
+    share.ibTestShellCommand111();
+    EXPECT_EQ(bgQueue.size(), 1U);
+    advance(1);
+    EXPECT_EQ(workspace.requests.size(), 1);
+    share.ibRevealSourcePathSMB();
+    advance(1);
+    EXPECT_EQ(workspace.requests.size(), 2) << "and once it is over the next does";
+}
+
+TEST_F(GioShareAccessTest, Cancel_EndsTheCommandAndNothingFollows) {
+    mount();
+    shell.answerTo(QStringLiteral("gio mount"), [this](const QString&) {
+        tasks.cancel();
+        tasks.cancel();
+        return QString();
+    });
+    share.ibRevealSourcePathSMB();
+    advance(60);
+    EXPECT_EQ(shell.commands().size(), 1);
+    EXPECT_TRUE(workspace.requests.isEmpty());
+    EXPECT_EQ(tasksShown, (std::vector{RemoteTaskKind::OpeningFolder, RemoteTaskKind::Ending,
+                                       RemoteTaskKind::None}));
+    EXPECT_EQ(console.logged().size(), 2) << "an answer that comes late is nobody's";
+}
+
+TEST_F(GioShareAccessTest, CancelBetweenTwoSteps_IsTheEndToo) {
+    mount();
+    share.ibRevealSourcePathSMBdebug();
+    runDue();
+    tasks.cancel();
+    advance(60);
+    EXPECT_EQ(shell.commands().size(), 1);
+    EXPECT_EQ(tasksShown.back(), RemoteTaskKind::None);
+    tasks.cancel();
+    EXPECT_EQ(tasksShown.back(), RemoteTaskKind::None) << "nothing is left to cancel";
+}
+
+TEST_F(GioShareAccessTest, TerminalThatEndsWhileAnotherTaskRuns_GoesOnAfterIt) {
+    mount();
+    shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("Password: "));
+    share.ibRevealSourcePathSMB();
+    runDue();
+    EXPECT_EQ(tasksShown.back(), RemoteTaskKind::None) << "a person may take their time";
+    auto other = tasks.begin(RemoteTaskKind::MakingKey);
+    terminal.windows.front().ended(TerminalOutcome::Ended);
+    advance(10);
+    EXPECT_TRUE(workspace.requests.isEmpty());
+    other.reset();
+    advance(1);
+    EXPECT_EQ(workspace.requests, QStringList{QString::fromUtf16(cFolder)});
+}
+
+TEST_F(GioShareAccessTest, QueuesThatEndInMidTask_LeaveNothingBehind) {
+    mount();
+    share.ibRevealSourcePathSMBdebug();
+    runDue();
+    EXPECT_FALSE(mainQueue.idle()) << "the rest of it waits when the test ends";
 }
 
 } // namespace

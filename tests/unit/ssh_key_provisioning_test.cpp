@@ -4,6 +4,7 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_shell.h"
+#include "fakes/virtual_queues.h"
 #include "remote/command_files.h"
 #include "remote/ssh_key_provisioning.h"
 #include "settings/preference_keys.h"
@@ -39,6 +40,26 @@ protected:
         });
     }
 
+    /// Whatever waits comes to its end.
+    void settle() {
+        for (int turn = 0; turn < 3; ++turn) {
+            bgQueue.runAll();
+            mainQueue.runDue();
+        }
+    }
+    void makeNewPair() {
+        provisioning.createNewPrivatePublicKeys();
+        settle();
+    }
+    void makeNewPairOLD() {
+        provisioning.createNewPrivatePublicKeysOLD();
+        settle();
+    }
+    void setUp() {
+        provisioning.ibGenerateSSHKeyStuff();
+        settle();
+    }
+
     QStringList events; ///< what the fakes were asked for, in that order
     MemoryDefaults defaults;
     FakeFileManager files;
@@ -46,20 +67,30 @@ protected:
     FakeWorkspace workspace;
     RecordingConsole console;
     ScriptedShell shell;
+    VirtualMainQueue mainQueue;
+    ManualBackgroundQueue bgQueue;
+    std::vector<RemoteTaskKind> tasksShown;
+    RemoteTasks tasks{{.mainQueue = mainQueue,
+                       .bgQueue = bgQueue,
+                       .shell = shell,
+                       .show = [this](RemoteTaskKind kind) { tasksShown.push_back(kind); }}};
+    const RunCommand run = [this](const Command& command) { return shell.run(command); };
+    std::function<void(const RunCommand&)> asked = [](const RunCommand&) {};
     QList<qint64> timeouts; ///< of every question so far
-    CommandFiles commandFiles{
-        {.console = console, .files = files, .shell = shell, .terminal = terminal}};
+    CommandFiles commandFiles{{.console = console, .files = files, .terminal = terminal}};
     QStringList ended; ///< the commands whose scripts have ended or found no window
     int keyChanges = 0;
     SshKeyProvisioning provisioning{
         {.defaults = defaults,
          .files = files,
          .console = console,
-         .shell = shell,
+         .mainQueue = mainQueue,
+         .tasks = tasks,
          .validate =
-             [this](qint64 timeout) {
+             [this](qint64 timeout, const RunCommand& runs) {
                  timeouts.append(timeout);
                  events.append(QStringLiteral("validate"));
+                 asked(runs);
              },
          .commandFiles = commandFiles,
          .workspace = workspace,
@@ -96,7 +127,7 @@ TEST_F(SshKeyProvisioningTest, RemoveIfExists_SaysWhyItFailed) {
 
 TEST_F(SshKeyProvisioningTest, ChmodByTheShell_ShowsCommandAndResult) {
     shell.answerTo(QStringLiteral("chmod"), QStringLiteral("no\n"));
-    EXPECT_EQ(commandFiles.chmodAsExecutable(cScript), u"no\n");
+    EXPECT_EQ(commandFiles.chmodAsExecutable(cScript, run), u"no\n");
     EXPECT_EQ(shell.commands(), QStringList{cChmod});
     EXPECT_EQ(console.printed(), (QStringList{QString(u"trying command = [" + cChmod + u']'),
                                               QStringLiteral("terminal chmod result = [no\n]")}));
@@ -113,7 +144,8 @@ TEST_F(SshKeyProvisioningTest, ChmodBySystemCall_HandsAFailureBackInDecimal) {
 }
 
 TEST_F(SshKeyProvisioningTest, CommandFile_IsWrittenMadeExecutableAndOpened) {
-    EXPECT_TRUE(commandFiles.executeAsCommandFile(QStringLiteral("echo é"), {}));
+    EXPECT_EQ(commandFiles.writeCommandFile(QStringLiteral("echo é"), run), cScript);
+    commandFiles.openScript(cScript, QStringLiteral("echo é"), {});
     EXPECT_EQ(files.written.value(cScript), "echo \xc3\xa9\n");
     EXPECT_EQ(events, (QStringList{QString(u"write " + cScript), QString(u"run " + cChmod),
                                    QStringLiteral("terminal echo é")}));
@@ -121,14 +153,15 @@ TEST_F(SshKeyProvisioningTest, CommandFile_IsWrittenMadeExecutableAndOpened) {
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().path, cScript);
     EXPECT_EQ(terminal.windows.front().command, u"echo é");
-    EXPECT_TRUE(commandFiles.executeAsCommandFile(QStringLiteral("second"), {}));
+    EXPECT_EQ(commandFiles.writeCommandFile(QStringLiteral("second"), run), cScript);
     EXPECT_EQ(files.written.value(cScript), "second\n");
     EXPECT_TRUE(files.removed.isEmpty()) << "replaced, not removed first";
 }
 
 TEST_F(SshKeyProvisioningTest, CommandFileThatCannotBeWritten_OpensNothing) {
     files.guarded = cScript;
-    EXPECT_FALSE(commandFiles.executeAsCommandFile(QStringLiteral("x"), {}));
+    files.existing = {cPrivateKey, cPublicKey};
+    setUp();
     EXPECT_EQ(console.printed(),
               QStringList{QString(u"ooops bad..." + cScript + u": Permission denied")});
     EXPECT_TRUE(terminal.windows.empty());
@@ -137,7 +170,8 @@ TEST_F(SshKeyProvisioningTest, CommandFileThatCannotBeWritten_OpensNothing) {
 
 TEST_F(SshKeyProvisioningTest, CommandFileWithoutASafeFolder_IsWrittenNowhere) {
     files.temporary = {{}, QStringLiteral("/tmp/k belongs to somebody else")};
-    EXPECT_FALSE(commandFiles.executeAsCommandFile(QStringLiteral("x"), {}));
+    files.existing = {cPrivateKey, cPublicKey};
+    setUp();
     EXPECT_EQ(console.printed(),
               QStringList{QStringLiteral("ooops bad.../tmp/k belongs to somebody else")});
     EXPECT_TRUE(files.written.isEmpty());
@@ -171,7 +205,7 @@ TEST(KeyCommandsTest, NothingIsReadAsTheShellsOwn) {
 
 TEST_F(SshKeyProvisioningTest, NewPair_RemovesBothHalvesAndShowsTheOutput) {
     files.existing = {cPrivateKey, cPublicKey};
-    provisioning.createNewPrivatePublicKeys();
+    makeNewPair();
     EXPECT_EQ(files.removed, (QStringList{cPrivateKey, cPublicKey}));
     EXPECT_EQ(shell.commands(), QStringList{cGeneration});
     EXPECT_EQ(shell.bounds(), std::vector<std::optional<double>>{30.0});
@@ -196,32 +230,29 @@ TEST_F(SshKeyProvisioningTest, NewPair_RemovesBothHalvesAndShowsTheOutput) {
 TEST_F(SshKeyProvisioningTest, HalfThatCannotBeRemoved_DoesNotStopTheGeneration) {
     files.existing = {cPrivateKey, cPublicKey};
     files.guarded = cPublicKey;
-    provisioning.createNewPrivatePublicKeys();
+    makeNewPair();
     EXPECT_TRUE(console.printed().contains(QStringLiteral("status1 = true")));
     EXPECT_TRUE(console.printed().contains(QStringLiteral("status2 = false")));
     EXPECT_EQ(shell.commands(), QStringList{cGeneration});
 }
 
-TEST_F(SshKeyProvisioningTest, Conditionally_OnlyACompletePairIsKept) {
+TEST_F(SshKeyProvisioningTest, Sequence_KeepsOnlyACompletePair) {
     for (const QSet<QString>& there :
          {QSet<QString>{}, QSet<QString>{cPrivateKey}, QSet<QString>{cPublicKey}}) {
         files.existing = there;
-        const qsizetype before = shell.commands().size();
-        EXPECT_TRUE(provisioning.createNewPrivatePublicKeysConditionally());
-        EXPECT_EQ(shell.commands().size(), before + 1);
+        const qsizetype before = shell.commands().count(cGeneration);
+        setUp();
+        EXPECT_EQ(shell.commands().count(cGeneration), before + 1);
     }
-    EXPECT_TRUE(provisioning.createNewPrivatePublicKeysConditionally());
-    EXPECT_EQ(shell.commands().size(), 3);
-    EXPECT_EQ(console.logged().constLast(),
-              u"Inside ViewController->createNewPrivatePublicKeysConditionally(_:).......");
+    setUp();
+    EXPECT_EQ(shell.commands().count(cGeneration), 3);
 }
 
 TEST_F(SshKeyProvisioningTest, WithoutAHomeFolder_NothingIsMade) {
     files.home.clear();
-    EXPECT_FALSE(provisioning.createNewPrivatePublicKeysConditionally());
-    provisioning.createNewPrivatePublicKeys();
-    provisioning.createNewPrivatePublicKeysOLD();
-    provisioning.copyPublicKeyToRemoteHost();
+    setUp();
+    makeNewPair();
+    makeNewPairOLD();
     EXPECT_TRUE(shell.commands().isEmpty());
     EXPECT_TRUE(terminal.windows.empty());
 }
@@ -229,7 +260,7 @@ TEST_F(SshKeyProvisioningTest, WithoutAHomeFolder_NothingIsMade) {
 // -- the sequence
 
 TEST_F(SshKeyProvisioningTest, Sequence_ValidatesMakesAndInstalls) {
-    provisioning.ibGenerateSSHKeyStuff();
+    setUp();
     EXPECT_EQ(timeouts, QList<qint64>{2});
     EXPECT_EQ(events, (QStringList{QStringLiteral("validate"), QString(u"run " + cGeneration),
                                    QString(u"write " + cScript), QString(u"run " + cChmod),
@@ -248,7 +279,7 @@ TEST_F(SshKeyProvisioningTest, Sequence_ValidatesMakesAndInstalls) {
 
 TEST_F(SshKeyProvisioningTest, UserThatWouldBeAnOption_IsLoggedAndNothingOpens) {
     defaults.setObject(prefRemoteUsername, QStringLiteral("-x"));
-    provisioning.copyPublicKeyToRemoteHost();
+    setUp();
     EXPECT_TRUE(files.written.isEmpty());
     EXPECT_TRUE(terminal.windows.empty());
     EXPECT_EQ(console.logged().constLast(),
@@ -258,7 +289,7 @@ TEST_F(SshKeyProvisioningTest, UserThatWouldBeAnOption_IsLoggedAndNothingOpens) 
 
 TEST_F(SshKeyProvisioningTest, SequenceWithACompletePair_KeepsIt) {
     files.existing = {cPrivateKey, cPublicKey};
-    provisioning.ibGenerateSSHKeyStuff();
+    setUp();
     EXPECT_TRUE(files.removed.isEmpty());
     EXPECT_EQ(shell.commands(), QStringList{cChmod});
     EXPECT_EQ(terminal.windows.size(), 1U);
@@ -270,7 +301,7 @@ TEST_F(SshKeyProvisioningTest, SequenceWithoutUserOrHost_MakesThePairAndOpensNot
         const QVariant kept = defaults.object(key);
         defaults.removeObject(key);
         files.existing.clear();
-        provisioning.ibGenerateSSHKeyStuff();
+        setUp();
         EXPECT_TRUE(files.existing.contains(cPrivateKey));
         EXPECT_TRUE(files.written.isEmpty());
         EXPECT_TRUE(terminal.windows.empty());
@@ -279,8 +310,8 @@ TEST_F(SshKeyProvisioningTest, SequenceWithoutUserOrHost_MakesThePairAndOpensNot
 }
 
 TEST_F(SshKeyProvisioningTest, OutcomeOfTheWindow_IsPassedOnWithItsCommand) {
-    provisioning.copyPublicKeyToRemoteHost();
-    provisioning.copyPublicKeyToRemoteHost();
+    setUp();
+    setUp();
     terminal.windows[0].ended(TerminalOutcome::NoWindow);
     terminal.windows[1].ended(TerminalOutcome::Ended);
     EXPECT_EQ(ended, (QStringList{QString(u"no window " + cInstallation),
@@ -290,7 +321,7 @@ TEST_F(SshKeyProvisioningTest, OutcomeOfTheWindow_IsPassedOnWithItsCommand) {
 TEST_F(SshKeyProvisioningTest, StoredTexts_AreNotTrimmed) {
     defaults.setObject(prefRemoteUsername, QStringLiteral(" media user "));
     defaults.setObject(prefRemoteBonjourName, QStringLiteral(" Mac "));
-    provisioning.copyPublicKeyToRemoteHost();
+    setUp();
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_TRUE(terminal.windows.front().command.endsWith(u"  \" media user @ Mac \""));
 }
@@ -299,14 +330,14 @@ TEST_F(SshKeyProvisioningTest, StoredTexts_AreNotTrimmed) {
 
 TEST_F(SshKeyProvisioningTest, OlderWayWithoutASafeFolder_OpensNothing) {
     files.temporary = {{}, QStringLiteral("/tmp/k belongs to somebody else")};
-    provisioning.createNewPrivatePublicKeysOLD();
+    makeNewPairOLD();
     EXPECT_EQ(console.printed().constLast(), u"ooops bad.../tmp/k belongs to somebody else");
     EXPECT_EQ(events, QStringList());
 }
 
 TEST_F(SshKeyProvisioningTest, OlderWay_RemovesTheOldScriptAndShowsTheFolder) {
     files.existing = {cPrivateKey, cPublicKey, cScript};
-    provisioning.createNewPrivatePublicKeysOLD();
+    makeNewPairOLD();
     const QString command =
         QStringLiteral("/usr/bin/ssh-keygen -N \"\" -f \"/Users/localuser/.ssh/id_kelvoRsync\"");
     EXPECT_EQ(files.written.value(cScript), QString(command + u'\n').toUtf8());
@@ -319,6 +350,7 @@ TEST_F(SshKeyProvisioningTest, OlderWay_RemovesTheOldScriptAndShowsTheFolder) {
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_EQ(terminal.windows.front().path, cScript);
     terminal.windows.front().ended(TerminalOutcome::Ended);
+    settle();
     EXPECT_EQ(ended, QStringList{QString(u"ended " + command)});
     EXPECT_EQ(console.logged(),
               QStringList{QStringLiteral(
@@ -331,7 +363,7 @@ TEST_F(SshKeyProvisioningTest, OlderWay_RemovesTheOldScriptAndShowsTheFolder) {
 TEST_F(SshKeyProvisioningTest, OlderWay_StopsAtAScriptThatStays) {
     files.existing = {cScript};
     files.guarded = cScript;
-    provisioning.createNewPrivatePublicKeysOLD();
+    makeNewPairOLD();
     EXPECT_EQ(console.printed().sliced(6),
               (QStringList{QStringLiteral("ooops -did not delete that file"),
                            QStringLiteral("hmm... what to do?>>> cant get rid of old file "
@@ -342,10 +374,108 @@ TEST_F(SshKeyProvisioningTest, OlderWay_StopsAtAScriptThatStays) {
 
 TEST_F(SshKeyProvisioningTest, OlderWay_StopsWhenItCannotWrite) {
     files.guarded = cScript;
-    provisioning.createNewPrivatePublicKeysOLD();
+    makeNewPairOLD();
     EXPECT_EQ(console.printed().constLast(),
               QString(u"ooops bad..." + cScript + u": Permission denied"));
     EXPECT_TRUE(terminal.windows.empty());
+}
+
+// -- away from the main thread
+
+TEST_F(SshKeyProvisioningTest, EveryAction_RunsNothingBeforeTheBackgroundQueueDoes) {
+    for (const auto action :
+         {&SshKeyProvisioning::ibGenerateSSHKeyStuff,
+          qOverload<const PairGuard&>(&SshKeyProvisioning::createNewPrivatePublicKeys),
+          &SshKeyProvisioning::createNewPrivatePublicKeysOLD}) {
+        events.clear();
+        tasksShown.clear();
+        (provisioning.*action)({});
+        mainQueue.advance(10);
+        EXPECT_EQ(events, QStringList());
+        ASSERT_EQ(tasksShown.size(), 1U);
+        (provisioning.*action)({});
+        EXPECT_EQ(bgQueue.size(), 1U) << "a second click does nothing";
+        settle();
+        EXPECT_FALSE(events.isEmpty());
+        EXPECT_EQ(tasksShown.back(), RemoteTaskKind::None);
+    }
+}
+
+TEST_F(SshKeyProvisioningTest, CancelWhileTheHostIsAsked_TouchesNoKey) {
+    files.existing = {cPrivateKey};
+    shell.answerTo(QStringLiteral("whoami"), [this](const QString&) {
+        tasks.cancel();
+        return QString();
+    });
+    asked = [](const RunCommand& runs) { (void)runs({.text = QStringLiteral("whoami")}); };
+    setUp();
+    EXPECT_EQ(files.existing, QSet<QString>{cPrivateKey});
+    EXPECT_EQ(shell.commands(), QStringList{QStringLiteral("whoami")});
+    EXPECT_TRUE(terminal.windows.empty());
+    EXPECT_EQ(tasksShown, (std::vector{RemoteTaskKind::SettingUpKey, RemoteTaskKind::Ending,
+                                       RemoteTaskKind::None}));
+}
+
+TEST_F(SshKeyProvisioningTest, QuitWhileTheHostIsAsked_TouchesNoKey) {
+    files.existing = {cPrivateKey};
+    asked = [](const RunCommand& runs) {
+        // What a command gives that was given up.
+        (void)runs({.text = QStringLiteral("whoami")});
+    };
+    shell.givesUp = true;
+    setUp();
+    EXPECT_EQ(files.existing, QSet<QString>{cPrivateKey});
+    EXPECT_TRUE(terminal.windows.empty());
+}
+
+TEST_F(SshKeyProvisioningTest, CancelWhileTheKeyIsMade_EndsTheCommandAndRunsTheGuardOut) {
+    files.existing = {cPrivateKey, cPublicKey};
+    shell.answerTo(QStringLiteral("ssh-keygen"), [this](const QString&) {
+        tasks.cancel();
+        return QString();
+    });
+    QStringList guarded;
+    provisioning.createNewPrivatePublicKeys(
+        {.before =
+             [&] {
+                 guarded.append(QStringLiteral("before"));
+                 return files.existing.size() == 2;
+             },
+         .after = [&] { guarded.append(QStringLiteral("after")); }});
+    settle();
+    EXPECT_EQ(guarded, (QStringList{QStringLiteral("before"), QStringLiteral("after")}));
+    EXPECT_EQ(keyChanges, 1);
+    EXPECT_EQ(tasksShown.back(), RemoteTaskKind::None);
+}
+
+TEST_F(SshKeyProvisioningTest, GuardThatRefuses_LeavesThePairAlone) {
+    files.existing = {cPrivateKey};
+    const PairGuard guard{.before = [] { return false; },
+                          .after = [] { ADD_FAILURE() << "nothing was replaced"; }};
+    provisioning.ibGenerateSSHKeyStuff(guard);
+    settle();
+    provisioning.createNewPrivatePublicKeys(guard);
+    settle();
+    provisioning.createNewPrivatePublicKeysOLD(guard);
+    settle();
+    EXPECT_EQ(files.existing, QSet<QString>{cPrivateKey});
+    EXPECT_TRUE(shell.commands().isEmpty());
+    EXPECT_TRUE(terminal.windows.empty());
+}
+
+TEST_F(SshKeyProvisioningTest, OlderWay_RunsTheGuardOutWhenItsScriptHasEndedOrNoneCame) {
+    int after = 0;
+    const PairGuard guard{.before = {}, .after = [&] { ++after; }};
+    provisioning.createNewPrivatePublicKeysOLD(guard);
+    settle();
+    EXPECT_EQ(after, 0);
+    terminal.windows.front().ended(TerminalOutcome::NoWindow);
+    settle();
+    EXPECT_EQ(after, 1);
+    files.guarded = cScript;
+    provisioning.createNewPrivatePublicKeysOLD(guard);
+    settle();
+    EXPECT_EQ(after, 2);
 }
 
 } // namespace

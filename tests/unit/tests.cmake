@@ -17,6 +17,7 @@ kelvo_tests(unit
     unit/headless_front_test.cpp
     unit/health_words_test.cpp
     unit/host_answer_test.cpp
+    unit/key_replacement_test.cpp
     unit/key_state_test.cpp
     unit/login_item_setting_test.cpp
     unit/movie_kinds_test.cpp

@@ -26,6 +26,7 @@ public:
     void makeNothingFirstResponder() override {}
     void showNetworkStatus(const QString& text) override;
     void showTesting(bool) override {}
+    void showTask(RemoteTaskKind) override {}
     void showKeyState(KeyState) override {}
     void showWork(const WorkState& work) override;
     Subscription observeAttention(std::function<void(Attention)> changed) override;

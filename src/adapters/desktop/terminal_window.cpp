@@ -3,6 +3,7 @@
 #include "adapters/system/detached_start.h"
 #include "adapters/system/pidfd.h"
 #include "ports/console.h"
+#include "ports/dispatch_queue.h"
 #include "ports/file_manager.h"
 #include "support/system_error_text.h"
 
@@ -148,24 +149,53 @@ private:
 
     void tryNext() {
         fProgramWatch.reset();
-        while (fNext < fOwner.fPrograms.size()) {
-            const TerminalProgram& program = fOwner.fPrograms[fNext++];
+        fOwner.fBgQueue.async([this, &mainQueue = fOwner.fMainQueue, alive = std::weak_ptr(fAlive),
+                               programs = fOwner.fPrograms, next = fNext, path = fPath,
+                               pipe = pipePath(), title = fTitle] {
+            const Search search = startOneOf(programs, next, path, pipe, title);
+            mainQueue.async([this, alive, search] {
+                if (!alive.expired())
+                    searched(search);
+            });
+        });
+    }
+
+    /// What came of looking for a program that starts.
+    struct Search {
+        std::size_t next = 0; ///< the one to try after it
+        pid_t pid = -1;
+        QString name = {};
+        QStringList faults = {};
+    };
+
+    static Search startOneOf(const std::vector<TerminalProgram>& programs, std::size_t next,
+                             const QString& path, const std::string& pipe, const QString& title) {
+        Search search{.next = next};
+        while (search.next < programs.size() && search.pid <= 0) {
+            const TerminalProgram& program = programs[search.next++];
             std::vector<std::string> arguments{program.name};
             arguments.insert(arguments.end(), program.option.begin(), program.option.end());
             for (const std::string& word :
                  {std::string("/bin/sh"), std::string("-c"), std::string(cWindowScript),
-                  std::string("kelvo-mirror"), fPath.toLocal8Bit().toStdString(), pipePath(),
-                  fTitle.toUtf8().toStdString()})
+                  std::string("kelvo-mirror"), path.toLocal8Bit().toStdString(), pipe,
+                  title.toUtf8().toStdString()})
                 arguments.push_back(word);
-            const pid_t pid = startDetached(arguments);
-            if (pid > 0) {
-                watch(pid, QString::fromStdString(program.name));
-                return;
-            }
-            if (pid != -ENOENT)
-                fOwner.fConsole.log(
-                    QStringLiteral("Cannot start %1: %2")
-                        .arg(QString::fromStdString(program.name), systemErrorText(-pid)));
+            search.pid = startDetached(arguments);
+            search.name = QString::fromStdString(program.name);
+            if (search.pid <= 0 && search.pid != -ENOENT)
+                search.faults.append(QStringLiteral("Cannot start %1: %2")
+                                         .arg(search.name, systemErrorText(-search.pid)));
+        }
+        return search;
+    }
+
+    void searched(const Search& search) {
+        fNext = search.next;
+        for (const QString& fault : search.faults)
+            fOwner.fConsole.log(fault);
+        if (search.pid > 0) {
+            watch(search.pid, search.name);
+            return;
         }
         fOwner.fConsole.log(QStringLiteral("No terminal program could open a window."));
         finish(TerminalOutcome::NoWindow);
@@ -211,12 +241,14 @@ private:
     std::unique_ptr<QSocketNotifier> fProgramWatch;
     QTimer fPatience;
     std::size_t fNext = 0;
+    std::shared_ptr<int> fAlive = std::make_shared<int>();
     bool fBegun = false;
 };
 
-TerminalWindow::TerminalWindow(FileManager& files, Console& console,
-                               std::vector<TerminalProgram> programs)
-    : fFiles(files), fConsole(console), fPrograms(std::move(programs)) {}
+TerminalWindow::TerminalWindow(FileManager& files, Console& console, DispatchQueue& mainQueue,
+                               BackgroundQueue& bgQueue, std::vector<TerminalProgram> programs)
+    : fFiles(files), fConsole(console), fMainQueue(mainQueue), fBgQueue(bgQueue),
+      fPrograms(std::move(programs)) {}
 
 TerminalWindow::~TerminalWindow() = default;
 

@@ -18,9 +18,10 @@ namespace kelvo {
 /// main thread wait for a question that is under way.
 class AvahiBrowser::Worker {
 public:
-    Worker(ServiceTable& table, Console& console)
+    Worker(ServiceTable& table, Console& console, StateChanged stateChanged)
         : fWakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)), fThread(avahi_threaded_poll_new()),
-          fPoll(*avahi_threaded_poll_get(fThread.get())), fSession(fPoll, table, console),
+          fPoll(*avahi_threaded_poll_get(fThread.get())),
+          fSession(fPoll, table, console, std::move(stateChanged)),
           fWatch(fPoll.watch_new(
               &fPoll, fWakeUp, AVAHI_WATCH_IN,
               [](AvahiWatch*, int, AvahiWatchEvent, void* self) {
@@ -100,9 +101,37 @@ void AvahiBrowser::searchEndpoints(const EndpointRequest& request, EndpointListe
                          .endpointsChanged = onMainQueue(std::move(listener.endpointsChanged))}));
 }
 
+Subscription AvahiBrowser::observeState(std::function<void(DiscoveryState)> changed) {
+    const auto observer = std::make_shared<std::function<void(DiscoveryState)>>(std::move(changed));
+    fObservers->push_back(observer);
+    (*observer)(fState);
+    return Subscription([observer, all = std::weak_ptr(fObservers)] {
+        *observer = {};
+        if (const auto alive = all.lock())
+            alive->remove(observer);
+    });
+}
+
+void AvahiBrowser::setState(DiscoveryState state) {
+    if (std::exchange(fState, state) == state)
+        return;
+    for (const auto& observer : Observers(*fObservers)) {
+        // It may end itself, or another one.
+        if (const auto changed = *observer)
+            changed(state);
+    }
+}
+
 AvahiBrowser::Worker& AvahiBrowser::worker() {
     if (!fWorker)
-        fWorker = std::make_unique<Worker>(fTable, fConsole);
+        fWorker = std::make_unique<Worker>(
+            fTable, fConsole,
+            [this, &queue = fMainQueue, alive = std::weak_ptr(fAlive)](DiscoveryState state) {
+                queue.async([this, alive, state] {
+                    if (!alive.expired())
+                        setState(state);
+                });
+            });
     return *fWorker;
 }
 

@@ -4,6 +4,7 @@
 #include "adapters/network/service_table.h"
 #include "ports/dnssd_browser.h"
 
+#include <list>
 #include <memory>
 
 namespace kelvo {
@@ -23,17 +24,23 @@ public:
     void browseForType(const QString& type) override;
     DNSSD_Services services() const override;
 
+    Subscription observeState(std::function<void(DiscoveryState)> changed) override;
+
     /// Peers beyond the network are not looked for: the daemon knows none.
     void searchEndpoints(const EndpointRequest& request, EndpointListener listener) override;
 
 private:
     class Worker;
+    using Observers = std::list<std::shared_ptr<std::function<void(DiscoveryState)>>>;
 
     Worker& worker();
+    void setState(DiscoveryState state);
 
     Console& fConsole;
     DispatchQueue& fMainQueue;
     ServiceTable fTable;
+    DiscoveryState fState = DiscoveryState::Unknown;
+    std::shared_ptr<Observers> fObservers = std::make_shared<Observers>();
     std::shared_ptr<int> fAlive = std::make_shared<int>();
     std::unique_ptr<Worker> fWorker;
 };

@@ -4,7 +4,10 @@
 #include "ports/console.h"
 #include "support/text.h"
 
+#include <unistd.h>
+
 #include <algorithm>
+#include <array>
 #include <avahi-common/error.h>
 #include <avahi-common/timeval.h>
 #include <utility>
@@ -26,10 +29,17 @@ std::optional<HeardOver> heardOver(AvahiProtocol protocol) {
     }
 }
 
+bool isInstalled() {
+    return std::ranges::any_of(std::array{"/usr/sbin/avahi-daemon", "/usr/local/sbin/avahi-daemon"},
+                               [](const char* program) { return ::access(program, X_OK) == 0; });
+}
+
 } // namespace
 
-AvahiSession::AvahiSession(const AvahiPoll& poll, ServiceTable& table, Console& console)
-    : fPoll(poll), fTable(table), fConsole(console), fRefused(console),
+AvahiSession::AvahiSession(const AvahiPoll& poll, ServiceTable& table, Console& console,
+                           StateChanged stateChanged)
+    : fPoll(poll), fTable(table), fConsole(console), fStateChanged(std::move(stateChanged)),
+      fRefused(console),
       fTimeout(poll.timeout_new(
           &poll, nullptr,
           [](AvahiTimeout*, void* self) { static_cast<AvahiSession*>(self)->connect(); }, this)),
@@ -74,7 +84,7 @@ void AvahiSession::connect() {
         return;
     }
     tell(QStringLiteral("no message bus to reach the discovery service by"));
-    failEndpoints(QStringLiteral("there is no system bus"));
+    isAway(QStringLiteral("there is no system bus"));
     connectLater();
 }
 
@@ -99,6 +109,11 @@ void AvahiSession::connectLater() {
     fPause = std::clamp(fPause * 2, cFirstPause, cLongestPause);
 }
 
+void AvahiSession::isAway(const QString& reason) {
+    fStateChanged(isInstalled() ? DiscoveryState::NotRunning : DiscoveryState::NotInstalled);
+    failEndpoints(reason);
+}
+
 void AvahiSession::failEndpoints(const QString& reason) {
     for (const auto& search : fEndpointSearches)
         search->failUnlessTold(reason);
@@ -113,6 +128,7 @@ void AvahiSession::clientChanged(AvahiClient* client, AvahiClientState state) {
         if (!fConnected) {
             fConnected = true;
             fTold.clear();
+            fStateChanged(DiscoveryState::Running);
             startBrowser(client);
             for (const auto& search : fEndpointSearches)
                 search->begin(client);
@@ -122,14 +138,14 @@ void AvahiSession::clientChanged(AvahiClient* client, AvahiClientState state) {
         fConnected = false;
         fTable.lose();
         tell(QStringLiteral("waiting for the discovery service (avahi-daemon)"));
-        failEndpoints(QString::fromUtf8(avahi_strerror(AVAHI_ERR_NO_DAEMON)));
+        isAway(QString::fromUtf8(avahi_strerror(AVAHI_ERR_NO_DAEMON)));
         break;
     case AVAHI_CLIENT_FAILURE:
         // The client cannot be freed from its own callback.
         fConnected = false;
         fTable.lose();
         tell(u"lost the discovery service: " + lastError(client));
-        failEndpoints(lastError(client));
+        isAway(lastError(client));
         connectLater();
         break;
     }

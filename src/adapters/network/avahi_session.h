@@ -9,10 +9,14 @@
 
 namespace kelvo {
 
+/// Hears whether there is a daemon; on Avahi's thread.
+using StateChanged = std::function<void(DiscoveryState)>;
+
 /// Avahi's thread only; destroyed once that thread has ended.
 class AvahiSession {
 public:
-    AvahiSession(const AvahiPoll& poll, ServiceTable& table, Console& console);
+    AvahiSession(const AvahiPoll& poll, ServiceTable& table, Console& console,
+                 StateChanged stateChanged);
     ~AvahiSession();
     AvahiSession(const AvahiSession&) = delete;
     AvahiSession& operator=(const AvahiSession&) = delete;
@@ -30,6 +34,7 @@ private:
     void disconnect();
     void connectAtOnce();
     void connectLater();
+    void isAway(const QString& reason);
     void failEndpoints(const QString& reason);
     void startBrowser(AvahiClient* client);
     void clientChanged(AvahiClient* client, AvahiClientState state);
@@ -41,6 +46,7 @@ private:
     const AvahiPoll& fPoll;
     ServiceTable& fTable;
     Console& fConsole;
+    const StateChanged fStateChanged;
     RefusedNames fRefused;
     AvahiTimeout* fTimeout = nullptr;
     double fPause = 0; ///< seconds before the next attempt to connect

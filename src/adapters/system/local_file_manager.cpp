@@ -62,6 +62,40 @@ int writeAll(int file, const QByteArray& content) {
     return ::fsync(file) == 0 ? 0 : errno;
 }
 
+/// 0, or errno.
+int copyRest(int from, int to) {
+    std::vector<char> room(64 * 1024);
+    for (;;) {
+        const ssize_t size = ::read(from, room.data(), room.size());
+        if (size == 0)
+            return 0;
+        if (size < 0 && errno != EINTR)
+            return errno;
+        if (const int error = size < 0 ? 0 : writeAll(to, QByteArray(room.data(), size)))
+            return error;
+    }
+}
+
+/// 0, or errno: a new file with the content and the permission bits of `from`, or none.
+int copyAs(const QByteArray& from, const QByteArray& to) {
+    const UniqueFd source(::open(from.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    struct stat entry {};
+    if (!source || ::fstat(source.get(), &entry) != 0)
+        return errno;
+    if (!S_ISREG(entry.st_mode))
+        return S_ISDIR(entry.st_mode) ? EISDIR : EINVAL;
+    const UniqueFd copy(
+        ::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (!copy)
+        return errno;
+    int error = copyRest(source.get(), copy.get());
+    if (error == 0 && ::fchmod(copy.get(), entry.st_mode & 07777U) != 0)
+        error = errno;
+    if (error != 0)
+        ::unlink(to.constData());
+    return error;
+}
+
 } // namespace
 
 bool LocalFileManager::fileExistsAtPath(const QString& path) const {
@@ -119,6 +153,20 @@ FileFault LocalFileManager::removeItem(const QString& path) {
     if (std::remove(path.toLocal8Bit().constData()) == 0)
         return {};
     return faultOf(path, errno);
+}
+
+FileFault LocalFileManager::keepUnder(const QString& path, const QString& name) {
+    if (!usable(path) || !usable(name))
+        return faultOf(path, EINVAL);
+    const QByteArray from = path.toLocal8Bit();
+    const QByteArray to = name.toLocal8Bit();
+    if (::linkat(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), 0) == 0)
+        return {};
+    int error = errno;
+    // Not every file system has second names, and not every file may be given one.
+    if (error == EPERM || error == EOPNOTSUPP || error == ENOSYS || error == EMLINK)
+        error = copyAs(from, to);
+    return error == 0 ? FileFault() : FileFault(faultOf(error == EEXIST ? name : path, error));
 }
 
 FileFault LocalFileManager::writeAtomically(const QString& path, const QByteArray& content) {

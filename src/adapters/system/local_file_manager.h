@@ -29,6 +29,7 @@ public:
     FileFault removeItem(const QString& path) override;
 
     /// What is written reaches the disk before the old file goes.
+    FileFault keepUnder(const QString& path, const QString& name) override;
     FileFault writeAtomically(const QString& path, const QByteArray& content) override;
 
     int changeMode(const QString& path, unsigned mode) override;

@@ -10,16 +10,38 @@
 #include "ui_bonjour_sheet.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QPointer>
 
 #include <algorithm>
 
 namespace kelvo {
+namespace {
+
+/// What a person can do about the reason, as a command; empty where none helps.
+QString remedyFor(WhyEmpty why) {
+    switch (why) {
+    case WhyEmpty::DiscoveryNotInstalled:
+        return QStringLiteral("sudo apt install avahi-daemon");
+    case WhyEmpty::DiscoveryNotRunning:
+        return QStringLiteral("sudo systemctl start avahi-daemon");
+    default:
+        return {};
+    }
+}
+
+} // namespace
 
 BonjourSheet::BonjourSheet(const BonjourSheetParts& parts, QWidget* parent)
     : QDialog(parent), fParts(parts), fUi(std::make_unique<Ui::BonjourSheet>()),
-      fRecords(std::make_shared<ArrayController>()), fController(makeController()) {
+      fRecords(std::make_shared<ArrayController>()), fController(makeController()),
+      fEmptyWatch({.mainQueue = parts.mainQueue,
+                   .browser = parts.browser,
+                   .hasNetwork = parts.hasNetwork,
+                   .isEmpty = [this] { return fRows.rowCount() == 0; },
+                   .scan = [this] { fController->ibSearchBonjour(); },
+                   .changed = [this] { showState(); }}) {
     fUi->setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
@@ -40,6 +62,8 @@ BonjourSheet::BonjourSheet(const BonjourSheetParts& parts, QWidget* parent)
             [this] { fController->ibSearchBonjour(); });
     connect(fUi->selectButton, &QPushButton::clicked, this,
             [controller = fController] { controller->ibSelectItem(); });
+    connect(fUi->copyCommandButton, &QPushButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(remedyFor(fEmptyWatch.why())); });
     connect(fUi->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     for (const QStringView key : {perfFirstLineMessage, prefScanningBonjour, prefSelectedValidRow})
         fObservations.push_back(parts.defaults.observe(key, [this](const DefaultsChange&) {
@@ -48,7 +72,7 @@ BonjourSheet::BonjourSheet(const BonjourSheetParts& parts, QWidget* parent)
                     self->showState();
             });
         }));
-    showState();
+    fEmptyWatch.begin();
     table.setFocus();
 }
 
@@ -122,13 +146,66 @@ void BonjourSheet::showState() {
     // The setting may be left over from an earlier sheet.
     fUi->selectButton->setEnabled(fParts.defaults.boolForKey(prefSelectedValidRow) &&
                                   selectedRow() >= 0);
-    const bool nothingFound = fFilled && !scanning && fRows.rowCount() == 0;
-    QWidget* page = nothingFound ? fUi->emptyPage : fUi->listPage;
+    const WhyEmpty why = fEmptyWatch.why();
+    const bool known =
+        why == WhyEmpty::NothingFound || why == WhyEmpty::NoNetwork ? fFilled && !scanning : true;
+    const bool empty = known && fRows.rowCount() == 0;
+    if (empty)
+        showWhyEmpty(why);
+    showPage(empty);
+}
+
+/// The focus of the page that goes goes to the one that comes.
+void BonjourSheet::showPage(bool empty) {
+    QWidget* page = empty ? fUi->emptyPage : fUi->listPage;
     if (fUi->pages->currentWidget() == page)
         return;
+    const bool hadFocus = !focusWidget() || fUi->pages->isAncestorOf(focusWidget());
     fUi->pages->setCurrentWidget(page);
-    if (!nothingFound)
+    if (!hadFocus)
+        return;
+    if (empty)
+        fUi->emptyText->setFocus();
+    else
         fUi->fTableView->setFocus();
+}
+
+void BonjourSheet::showWhyEmpty(WhyEmpty why) {
+    const QString command = remedyFor(why);
+    QString text;
+    switch (why) {
+    case WhyEmpty::DiscoveryNotInstalled:
+        text = tr("Discovery is not installed on this computer. Install it with:\n\n%1\n\nThe list "
+                  "fills by itself once discovery runs. Without it, type the Mac's host name on "
+                  "the Remote Mac tab.")
+                   .arg(command);
+        break;
+    case WhyEmpty::DiscoveryNotRunning:
+        text = tr("Discovery is not running on this computer. Start it with:\n\n%1\n\nThe list "
+                  "fills by itself once discovery runs. Without it, type the Mac's host name on "
+                  "the Remote Mac tab.")
+                   .arg(command);
+        break;
+    case WhyEmpty::NoNetwork:
+        text =
+            tr("This computer is not connected to a network.\n\nConnect it to the network of the "
+               "Mac. Then choose Rescan.");
+        break;
+    case WhyEmpty::StillLooking:
+        text =
+            tr("No Mac has answered yet.\n\nDiscovery has only just started; the search goes on.");
+        break;
+    case WhyEmpty::NothingFound:
+        text =
+            tr("No Mac was found.\n\nOn the Mac, open System Settings, General, Sharing, and check "
+               "that File Sharing and Remote Login are on.\nCheck that both computers are on the "
+               "same network.\nThen choose Rescan.\n\nThe Mac's host name can also be typed on "
+               "the Remote Mac tab.");
+        break;
+    }
+    if (fUi->emptyText->text() != text)
+        fUi->emptyText->setText(text);
+    fUi->copyCommandButton->setVisible(!command.isEmpty());
 }
 
 bool presentSheet(QStringView identifier, const BonjourSheetParts& parts, QWidget& mainWindow) {

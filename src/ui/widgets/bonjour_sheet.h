@@ -3,6 +3,7 @@
 
 #include "support/dnssd_service.h"
 #include "support/subscription.h"
+#include "ui/empty_list_watch.h"
 #include "ui/widgets/service_rows.h"
 
 #include <QDialog>
@@ -20,7 +21,6 @@ class ArrayController;
 class BonjourViewController;
 class Console;
 class DispatchQueue;
-class DnssdBrowser;
 class UserDefaults;
 
 /// What the sheet and its controller work with; all of it outlives them.
@@ -29,6 +29,8 @@ struct BonjourSheetParts {
     DispatchQueue& mainQueue;
     Console& console;
     DnssdBrowser& browser;
+    /// Whether this machine is in a network; does not block.
+    std::function<bool()> hasNetwork = [] { return true; };
 };
 
 /// Window-modal; shows what its controller decides and what the settings say. Deleted once closed.
@@ -47,6 +49,8 @@ private:
     int selectedRow() const;
     void selectionChanged();
     void showState();
+    void showPage(bool empty);
+    void showWhyEmpty(WhyEmpty why);
 
     const BonjourSheetParts fParts;
     std::unique_ptr<Ui::BonjourSheet> fUi;
@@ -54,6 +58,7 @@ private:
     bool fFilled = false; ///< a list was shown, if only an empty one
     const std::shared_ptr<ArrayController> fRecords;
     const std::shared_ptr<BonjourViewController> fController;
+    EmptyListWatch fEmptyWatch;
     std::vector<Subscription> fObservations;
 };
 

@@ -104,6 +104,10 @@ void RemoteTab::setTesting(bool testing) {
     update();
 }
 
+void RemoteTab::setTask(RemoteTaskKind kind) {
+    fUi->busyRow->setTask(kind);
+}
+
 void RemoteTab::setKeyState(KeyState state) {
     fAskingForTheKey = state == KeyState::Asking;
     if (!fAskingForTheKey)

@@ -1,6 +1,7 @@
 // RemoteTab: the way to the Mac that movies are pulled from, in four steps.
 #pragma once
 
+#include "support/remote_task_kind.h"
 #include "ui/setup_steps.h"
 
 #include <QWidget>
@@ -33,6 +34,9 @@ public:
 
     /// Whether the connection test is running.
     void setTesting(bool testing);
+
+    /// What a person has set going on the remote side.
+    void setTask(RemoteTaskKind kind);
 
     /// What is known of the key.
     void setKeyState(KeyState state);

@@ -35,9 +35,9 @@ std::unique_ptr<QMessageBox> makeBox(const Alert& alert, QWidget* parent) {
         QPushButton* button = box->addButton(
             alert.buttons[place], place == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole);
         button->setProperty(cPlace, place);
-        if (place == 0)
+        if (place == alert.defaultButton)
             box->setDefaultButton(button);
-        else
+        if (place > 0)
             box->setEscapeButton(button);
     }
     if (alert.buttons.isEmpty())

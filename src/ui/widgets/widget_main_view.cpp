@@ -97,6 +97,11 @@ void WidgetMainView::showTesting(bool testing) {
         fWindow->remoteTab().setTesting(testing);
 }
 
+void WidgetMainView::showTask(RemoteTaskKind kind) {
+    if (fWindow)
+        fWindow->remoteTab().setTask(kind);
+}
+
 void WidgetMainView::showKeyState(KeyState state) {
     if (fWindow)
         fWindow->showKeyState(state);

@@ -17,6 +17,7 @@ public:
     void makeNothingFirstResponder() override;
     void showNetworkStatus(const QString& text) override;
     void showTesting(bool testing) override;
+    void showTask(RemoteTaskKind kind) override;
     void showKeyState(KeyState state) override;
     void showWork(const WorkState& work) override;
     Subscription observeAttention(std::function<void(Attention)> changed) override;

@@ -1,0 +1,31 @@
+// BusyRow: what a person has set going on the remote side, with a way to end it.
+#pragma once
+
+#include "support/remote_task_kind.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+
+namespace kelvo {
+
+/// Keeps its room while nothing runs and nothing is shown. When it goes, the focus goes back to
+/// where it was when the row came. Its button is named "ibCancelCommand".
+class BusyRow final : public QWidget {
+    Q_OBJECT
+public:
+    explicit BusyRow(QWidget* parent = nullptr);
+
+    void setTask(RemoteTaskKind kind);
+
+private:
+    static QString wordsFor(RemoteTaskKind kind);
+
+    QLabel* const fText;
+    QPushButton* const fCancel;
+    QPointer<QWidget> fFocusBefore;
+};
+
+} // namespace kelvo

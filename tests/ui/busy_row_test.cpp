@@ -1,0 +1,77 @@
+#include "ui/widgets/busy_row.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+class BusyRowTest : public ::testing::Test {
+protected:
+    BusyRowTest() {
+        auto* rows = new QVBoxLayout(&window);
+        rows->addWidget(&first);
+        rows->addWidget(&second);
+        rows->addWidget(&row);
+        window.show();
+        QApplication::setActiveWindow(&window);
+    }
+
+    QLabel& words() { return *row.findChild<QLabel*>(QStringLiteral("taskText")); }
+    QPushButton& cancel() {
+        return *row.findChild<QPushButton*>(QStringLiteral("ibCancelCommand"));
+    }
+
+    QWidget window;
+    QLineEdit first;
+    QLineEdit second;
+    BusyRow row;
+};
+
+TEST_F(BusyRowTest, Task_IsSaidInWordsOfItsOwn) {
+    EXPECT_FALSE(row.isVisible());
+    QStringList said;
+    for (const RemoteTaskKind kind : {RemoteTaskKind::OpeningFolder, RemoteTaskKind::SettingUpKey,
+                                      RemoteTaskKind::MakingKey, RemoteTaskKind::Ending}) {
+        row.setTask(kind);
+        EXPECT_TRUE(row.isVisible());
+        EXPECT_FALSE(words().text().isEmpty());
+        EXPECT_EQ(words().accessibleName(), QString()) << "a name would hide the words";
+        said.append(words().text());
+    }
+    EXPECT_EQ(said.removeDuplicates(), 0);
+    row.setTask(RemoteTaskKind::None);
+    EXPECT_FALSE(row.isVisible());
+}
+
+TEST_F(BusyRowTest, NothingMoves_WhenItComes) {
+    QCoreApplication::processEvents();
+    const QRect before = first.geometry();
+    row.setTask(RemoteTaskKind::MakingKey);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(first.geometry(), before);
+}
+
+TEST_F(BusyRowTest, CancelPressed_GivesTheFocusBackWhereItCameFrom) {
+    second.setFocus();
+    row.setTask(RemoteTaskKind::OpeningFolder);
+    EXPECT_TRUE(second.hasFocus()) << "nothing is taken away";
+    cancel().setFocus();
+    row.setTask(RemoteTaskKind::Ending);
+    EXPECT_TRUE(cancel().hasFocus());
+    row.setTask(RemoteTaskKind::None);
+    EXPECT_TRUE(second.hasFocus());
+    row.setTask(RemoteTaskKind::OpeningFolder);
+    first.setFocus();
+    row.setTask(RemoteTaskKind::None);
+    EXPECT_TRUE(first.hasFocus()) << "who has gone elsewhere stays there";
+}
+
+} // namespace
+} // namespace kelvo
