@@ -4,6 +4,7 @@
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/passes_view.h"
 
+#include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -73,6 +74,10 @@ protected:
     void openPasses() {
         tab.show();
         child<QPushButton>("showPasses")->click();
+        // Ends the test program when rows come or go without being told of.
+        new QAbstractItemModelTester(passes().model(),
+                                     QAbstractItemModelTester::FailureReportingMode::Fatal,
+                                     passes().model());
         mainQueue.runDue();
     }
 

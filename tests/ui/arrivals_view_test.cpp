@@ -3,6 +3,7 @@
 #include "fakes/virtual_queues.h"
 #include "ui/widgets/activity_tab.h"
 
+#include <QAbstractItemModelTester>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -74,6 +75,9 @@ protected:
 
     void open() {
         tab.show();
+        // Ends the test program when rows come or go without being told of.
+        new QAbstractItemModelTester(
+            list().model(), QAbstractItemModelTester::FailureReportingMode::Fatal, list().model());
         mainQueue.runDue();
         QCoreApplication::processEvents();
     }

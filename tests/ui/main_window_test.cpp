@@ -22,6 +22,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QStyleOptionButton>
 #include <QTabWidget>
 #include <QTest>
@@ -265,9 +266,11 @@ TEST_F(MainWindowTest, ChosenTab_IsToldBeforeItIsShown) {
                 shown.push_back(page->property("identifier").toString());
         }
     });
+    const QSignalSpy tabShown(&window, &MainWindow::tabShown);
     window.showTab(QStringLiteral("prefs"));
     window.showTab(0);
     window.showTab(QStringLiteral("no such tab"));
+    EXPECT_EQ(tabShown, (QList<QVariantList>{{2}, {0}}));
     EXPECT_EQ(told, (std::vector<QString>{QStringLiteral("prefs"), QStringLiteral("sync")}));
     EXPECT_EQ(shown, (std::vector<QString>{QStringLiteral("sync"), QStringLiteral("prefs")}));
 }

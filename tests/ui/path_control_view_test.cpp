@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace kelvo {
 namespace {
 
@@ -87,6 +89,15 @@ TEST_F(PathControlViewTest, LittleRoom_KeepsTheLastPartsAndPutsTheOthersInAMenu)
     ASSERT_TRUE(hidden()->isVisible());
     EXPECT_EQ(visibleParts().first(), u"/");
     EXPECT_EQ(hidden()->menu()->actions().size() + visibleParts().size(), 32);
+    int right = 0;
+    for (const QToolButton* button : view.findChildren<QToolButton*>()) {
+        if (!button->isVisible())
+            continue;
+        EXPECT_TRUE(view.rect().contains(button->geometry())) << qPrintable(button->text());
+        EXPECT_EQ(button->height(), view.height());
+        right = std::max(right, button->geometry().right());
+    }
+    EXPECT_GT(right, view.width() / 2) << "as many as fit";
     QSignalSpy clicked(&view, &PathControlView::partClicked);
     hidden()->menu()->actions().at(0)->trigger();
     EXPECT_EQ(clicked.at(0).at(0).toString(), u"/folder");

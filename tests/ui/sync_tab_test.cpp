@@ -200,6 +200,8 @@ TEST_F(SyncTabTest, Health_IsASignAndWords) {
     window.showWork(atWork());
     EXPECT_EQ(text("healthText"), u"All is well.");
     EXPECT_EQ(text("lastSuccess"), u"Last success: 12 minutes ago, 3 files");
+    EXPECT_EQ(child<QLabel>("lastSuccess").y(), child<QLabel>("healthText").geometry().bottom() + 1)
+        << "they stand together, whatever room there is";
     EXPECT_FALSE(button("healthButton").isVisible());
     const QImage well = child<QLabel>("healthSign").pixmap().toImage();
     window.showWork(inTrouble(Remedy::CheckAgain));
