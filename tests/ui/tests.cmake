@@ -14,6 +14,7 @@ kelvo_tests(ui WIDGETS
     ui/icons_test.cpp
     ui/language_test.cpp
     ui/main_window_test.cpp
+    ui/mirrored_test.cpp
     ui/muted_hints_test.cpp
     ui/path_control_view_test.cpp
     ui/settings_places_test.cpp
