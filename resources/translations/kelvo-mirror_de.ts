@@ -2076,6 +2076,13 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
     </message>
 </context>
 <context>
+    <name>kelvo::BusNotices</name>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::ChecklistView</name>
     <message>
         <source>What is missing before a pass</source>

@@ -2047,6 +2047,13 @@ The movies that a pass brings will stand here.</source>
     </message>
 </context>
 <context>
+    <name>kelvo::BusNotices</name>
+    <message>
+        <source>Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>kelvo::ChecklistView</name>
     <message>
         <source>What is missing before a pass</source>

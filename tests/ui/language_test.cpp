@@ -8,11 +8,8 @@
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/application_menu.h"
 #include "ui/widgets/bonjour_sheet.h"
-#include "ui/widgets/day_chart.h"
 #include "ui/widgets/main_window.h"
-#include "ui/widgets/path_control_view.h"
 #include "ui/widgets/status_field_view.h"
-#include "ui/widgets/sync_tab.h"
 #include "ui/widgets/widget_button.h"
 #include "ui/widgets/widget_controls.h"
 #include "ui/words.h"
@@ -29,8 +26,6 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTabWidget>
-#include <QTest>
-#include <QToolButton>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
@@ -69,12 +64,6 @@ public:
         QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
     }
     bool isLoaded = false;
-};
-
-class Mirrored {
-public:
-    Mirrored() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
-    ~Mirrored() { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); }
 };
 
 QByteArray contents(const QString& path) {
@@ -147,6 +136,21 @@ bool hasLetters(const QString& text) {
     return std::ranges::any_of(text, [](QChar sign) { return sign.isLetter(); });
 }
 
+/// Of what can be seen in `top`, the titles that take the focus somewhere or press a button.
+QStringList mnemonicTitles(const QWidget& top) {
+    QStringList titles;
+    for (const QWidget* widget : top.findChildren<QWidget*>()) {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        const QString title = button                    ? button->text()
+                              : label && label->buddy() ? label->text()
+                                                        : QString();
+        if (widget->isVisible() && !QKeySequence::mnemonic(title).isEmpty())
+            titles.append(title);
+    }
+    return titles;
+}
+
 class LanguageTest : public ::testing::Test, public ViewControllerWorld {
 protected:
     std::unique_ptr<MainWindow> makeWindow() {
@@ -169,7 +173,15 @@ protected:
         QStringList labels;
         for (const MainWindow::Tab& tab : window.tabs())
             labels.append(tab.label);
-        return new ApplicationMenu({}, labels, &window);
+        ApplicationMenuActions actions; // An entry that would do nothing is left out.
+        for (auto* action :
+             {&actions.quitAndRelaunch, &actions.closeWindow, &actions.quit, &actions.showSettings,
+              &actions.startOrStop, &actions.syncNow, &actions.cancelPass, &actions.setupStatusItem,
+              &actions.removeStatusItem, &actions.delegateQuitAndRelaunch, &actions.setupWatchdog,
+              &actions.about, &actions.openLogFolder})
+            *action = [] {};
+        actions.showTab = [](int) {};
+        return new ApplicationMenu(actions, labels, &window);
     }
 };
 
@@ -277,10 +289,33 @@ TEST_F(LanguageTest, Export_IsTheSameInEachLanguage) {
     EXPECT_TRUE(passReport(records[0]).contains(text("Nächster Schritt: "))) << "it is loaded";
 }
 
-TEST_F(LanguageTest, MnemonicsOfATabAndOfAMenu_AreDifferent) {
+TEST_F(LanguageTest, MnemonicsOfATab_DifferFromEachOtherAndFromTheMenus) {
     for (const QString& name : finishedLanguages()) {
         const Language language(name);
         ASSERT_TRUE(language.isLoaded) << qPrintable(name);
+        for (const bool remote : {true, false}) {
+            defaults.setObject(prefRsyncWithSSH, remote);
+            const auto window = makeWindow();
+            QSet<QString> menus;
+            for (const QAction* menu : window->menuBar()->actions())
+                menus.insert(QKeySequence::mnemonic(menu->text()).toString());
+            for (const MainWindow::Tab& tab : window->tabs()) {
+                window->showTab(tab.identifier);
+                QSet<QString> seen = menus;
+                for (const QString& title : mnemonicTitles(*window)) {
+                    const QString key = QKeySequence::mnemonic(title).toString();
+                    EXPECT_FALSE(seen.contains(key))
+                        << qPrintable(name + u", " + tab.label + u": " + title);
+                    seen.insert(key);
+                }
+            }
+        }
+    }
+}
+
+TEST_F(LanguageTest, MnemonicsOfAMenu_AreDifferent) {
+    for (const QString& name : finishedLanguages()) {
+        const Language language(name);
         const auto window = makeWindow();
         QSet<QString> bar;
         for (const QAction* menu : window->menuBar()->actions()) {
@@ -293,24 +328,6 @@ TEST_F(LanguageTest, MnemonicsOfATabAndOfAMenu_AreDifferent) {
                 EXPECT_TRUE(entry->isSeparator() || !(own.isEmpty() || entries.contains(own)))
                     << qPrintable(entry->text());
                 entries.insert(own);
-            }
-        }
-        for (const MainWindow::Tab& tab : window->tabs()) {
-            window->showTab(tab.identifier);
-            QSet<QString> seen = bar;
-            QList<QWidget*> holders = window->findChildren<QWidget*>();
-            for (const QWidget* holder : holders) {
-                const auto* button = qobject_cast<const QAbstractButton*>(holder);
-                const auto* label = qobject_cast<const QLabel*>(holder);
-                const QString own = button                    ? button->text()
-                                    : label && label->buddy() ? label->text()
-                                                              : QString();
-                const QString key = QKeySequence::mnemonic(own).toString();
-                if (!holder->isVisible() || key.isEmpty())
-                    continue;
-                EXPECT_FALSE(seen.contains(key))
-                    << qPrintable(name + u", " + tab.label + u": " + own);
-                seen.insert(key);
             }
         }
     }
@@ -355,59 +372,6 @@ TEST_F(LanguageTest, NumbersAndSizes_FollowTheLocale) {
     EXPECT_EQ(Words::counted("%Ln file", "%Ln files", 12345), text("12.345 files"));
     QLocale::setDefault(before);
     EXPECT_EQ(bytesText(1'500'000'000), text("1.5 GB"));
-}
-
-// -- written from right to left
-
-TEST_F(LanguageTest, Mirrored_TheFirstPartOfAPathStandsAtTheRight) {
-    const Mirrored arabic;
-    PathControlView view;
-    view.resize(900, 30);
-    view.show();
-    view.setPath(text("/Users/near"));
-    const auto place = [&](const char* part) {
-        return view.findChild<QToolButton*>(text(part))->geometry();
-    };
-    EXPECT_EQ(place("part0").right(), view.width() - 1);
-    EXPECT_LT(place("part1").right(), place("part0").left());
-    EXPECT_LT(place("part2").right(), place("part1").left());
-}
-
-TEST_F(LanguageTest, Mirrored_TodayStandsAtTheLeftOfTheChart) {
-    const Mirrored arabic;
-    DayChart chart;
-    chart.resize(300, 48);
-    chart.setDays({}, QDate(2026, 3, 30));
-    chart.show();
-    const auto place = [&](int row) { return chart.visualRect(chart.model()->index(row, 0)); };
-    EXPECT_EQ(place(29).left(), 0);
-    EXPECT_EQ(place(0).right(), chart.viewport()->width() - 1);
-    EXPECT_EQ(chart.indexAt(place(3).center()).row(), 3);
-    chart.setFocus();
-    chart.setCurrentIndex(chart.model()->index(10, 0));
-    QTest::keyClick(&chart, Qt::Key_Left);
-    EXPECT_EQ(chart.currentIndex().row(), 11) << "where the eyes go";
-}
-
-TEST_F(LanguageTest, Mirrored_TheWindowIsTheOtherWayRound) {
-    const auto distances = [this] {
-        const auto window = makeWindow();
-        window->resize(900, 700);
-        window->showTab(text("sync"));
-        QCoreApplication::processEvents();
-        const auto left = [&](const QWidget& widget) {
-            return widget.mapTo(window.get(), QPoint(0, 0)).x();
-        };
-        const auto right = [&](const QWidget& widget) {
-            return window->width() - left(widget) - widget.width();
-        };
-        const QWidget& start = window->ibStartButton();
-        const QWidget& now = window->button(text("ibSyncNow"));
-        return std::pair(std::pair(left(start), left(now)), std::pair(right(start), right(now)));
-    };
-    const auto usual = distances();
-    const Mirrored arabic;
-    EXPECT_EQ(distances().second, usual.first);
 }
 
 } // namespace

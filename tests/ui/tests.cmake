@@ -16,6 +16,7 @@ kelvo_tests(ui WIDGETS
     ui/icons_test.cpp
     ui/language_test.cpp
     ui/main_window_test.cpp
+    ui/mirrored_test.cpp
     ui/muted_hints_test.cpp
     ui/path_control_view_test.cpp
     ui/remote_tab_test.cpp
