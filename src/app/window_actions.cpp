@@ -164,7 +164,11 @@ void addApplicationMenu(MainWindow& window, ViewController& controller, AppDeleg
          .showSettings = [&window] { window.showTab(QStringLiteral("prefs")); },
          .showTab = [&window](int index) { window.showTab(index); },
          .startOrStop = [&controller] { controller.clickStartButton(); },
-         .syncNow = [&controller] { controller.ibSyncNow(nullptr); },
+         .syncNow =
+             [&window, &controller] {
+                 window.syncTab().awaitPass();
+                 controller.ibSyncNow(nullptr);
+             },
          .cancelPass = [&controller] { controller.ibCancelPass(nullptr); },
          .setupStatusItem = [&delegate] { delegate.ibSetupStatusItemStuff(nullptr); },
          .removeStatusItem = [&delegate] { delegate.ibRemoveStatusItemStuff(nullptr); },

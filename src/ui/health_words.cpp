@@ -64,6 +64,7 @@ void describeRecord(HealthWords& words, const HealthFacts& facts) {
     words.health.sign = HealthSign::Trouble;
     words.health.text = words.matter + u' ' + secondSentence(last);
     words.health.remedy = remedyFor(last);
+    words.health.cause = wordsFor(last.cause).name.toString();
 }
 
 } // namespace
@@ -78,6 +79,7 @@ HealthWords healthWords(const HealthFacts& facts) {
         words.health.sign = HealthSign::Trouble;
         words.health.text = words.matter = remark;
         words.health.remedy = remedy;
+        words.health.cause = remark;
     };
     if (!facts.settings.fault.isEmpty())
         trouble(oneLine(facts.settings.fault) + u'.', Remedy::OpenLog);

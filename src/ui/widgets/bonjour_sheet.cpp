@@ -6,6 +6,7 @@
 #include "support/array_controller.h"
 #include "support/text.h"
 #include "ui/bonjour_view_controller.h"
+#include "ui/widgets/announcement.h"
 #include "ui_bonjour_sheet.h"
 
 #include <QApplication>
@@ -121,7 +122,14 @@ void BonjourSheet::showState() {
     // The setting may be left over from an earlier sheet.
     fUi->selectButton->setEnabled(fParts.defaults.boolForKey(prefSelectedValidRow) &&
                                   selectedRow() >= 0);
-    const bool nothingFound = fFilled && !scanning && fRows.rowCount() == 0;
+    const int found = fRows.rowCount();
+    const bool nothingFound = fFilled && !scanning && found == 0;
+    if (scanning)
+        forgetSpoken(*this);
+    else if (fFilled)
+        announce(*this, found == 0   ? fUi->emptyText->text()
+                        : found == 1 ? tr("1 Mac found.")
+                                     : tr("%1 Macs found.").arg(found));
     QWidget* page = nothingFound ? fUi->emptyPage : fUi->listPage;
     if (fUi->pages->currentWidget() == page)
         return;

@@ -5,6 +5,7 @@
 #include "support/fatal.h"
 #include "ui/key_state_words.h"
 #include "ui/widgets/activity_tab.h"
+#include "ui/widgets/announcement.h"
 #include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/remote_tab.h"
@@ -195,6 +196,7 @@ PathControlView& MainWindow::destinationPath() {
 
 void MainWindow::showKeyState(KeyState state) {
     fRemoteTab->setKeyState(keyStateWords(state));
+    announce(*fRemoteTab, keyStateWords(state));
     Q_EMIT keyStateShown(state);
 }
 
