@@ -192,7 +192,11 @@ void addApplicationMenu(MainWindow& window, ViewController& controller, AppDeleg
          .showTab = [&window](int index) { window.showTab(index); },
          .showDiagnostics = [&window](bool shown) { window.setDiagnosticsShown(shown); },
          .startOrStop = [&controller] { controller.clickStartButton(); },
-         .syncNow = [&controller] { controller.ibSyncNow(nullptr); },
+         .syncNow =
+             [&window, &controller] {
+                 window.syncTab().awaitPass();
+                 controller.ibSyncNow(nullptr);
+             },
          .cancelPass = [&controller] { controller.ibCancelPass(nullptr); },
          .setupStatusItem = [&delegate] { delegate.ibSetupStatusItemStuff(nullptr); },
          .removeStatusItem = [&delegate] { delegate.ibRemoveStatusItemStuff(nullptr); },

@@ -73,6 +73,8 @@ public:
                 },
         });
         fWindow.syncTab().recentArrivals().setStore(machine.passes);
+        fPassEnds = machine.passes.observe(
+            [this](const PassRecord& pass) { fWindow.syncTab().passEnded(pass); });
         fWindow.settingsTab().setLoginItem(machine.loginItem);
         fWindow.settingsTab().setAlerts(fAlerts);
         fWindow.setMayClose([this] { return mayClose(); });
@@ -253,6 +255,7 @@ private:
     SheetPresenter fAlerts;
     WidgetOpenPanel fOpenPanel;
     OnceButtons fOnceButtons;
+    Subscription fPassEnds;
     std::shared_ptr<MainWindowController> fWindowController;
 };
 

@@ -53,6 +53,7 @@ struct Health {
     QString lastSuccess =
         {}; ///< "Last success: 12 minutes ago, 3 files"; empty while there was none
     Remedy remedy = Remedy::None;
+    QString cause = {}; ///< of trouble: its name, the same for as long as it is the same trouble
 
     bool operator==(const Health&) const = default;
 };

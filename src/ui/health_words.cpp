@@ -50,6 +50,7 @@ void describeRecord(HealthWords& words, const HealthFacts& facts) {
     words.health.sign = HealthSign::Trouble;
     words.health.text = Words::tr("%1 %2", "two sentences").arg(words.matter, secondSentence(last));
     words.health.remedy = remedyFor(last);
+    words.health.cause = wordsFor(last.cause).name.toString();
 }
 
 } // namespace
@@ -64,6 +65,7 @@ HealthWords healthWords(const HealthFacts& facts) {
         words.health.sign = HealthSign::Trouble;
         words.health.text = words.matter = remark;
         words.health.remedy = remedy;
+        words.health.cause = remark;
     };
     if (!facts.settings.fault.isEmpty())
         trouble(Words::tr("%1.", "a sentence without its full stop")

@@ -74,6 +74,28 @@ TEST_F(ChecklistViewTest, LineThatGoes_LeavesFocusAndButtonsOfTheOthers) {
     EXPECT_EQ(shownButtons(), (QStringList{"Show Remote Mac: two", "Choose…: three"}));
 }
 
+TEST_F(ChecklistViewTest, LineThatMovesUp_TakesTheFocusOfItsButtonWithIt) {
+    window.show();
+    QApplication::setActiveWindow(&window);
+    view.setLines({{QStringLiteral("one"), Remedy::ShowRemoteTab},
+                   {QStringLiteral("two"), Remedy::ChooseDestination}});
+    view.findChildren<QToolButton*>().at(1)->setFocus();
+    view.setLines({{QStringLiteral("two"), Remedy::ChooseDestination}});
+    const auto* focused = qobject_cast<QToolButton*>(QApplication::focusWidget());
+    ASSERT_TRUE(focused);
+    EXPECT_EQ(focused->accessibleName(), u"Choose…: two");
+}
+
+TEST_F(ChecklistViewTest, FocusedLineThatGoes_LeavesTheFocusToANeighbour) {
+    window.show();
+    QApplication::setActiveWindow(&window);
+    view.setLines({{QStringLiteral("one"), Remedy::ShowRemoteTab},
+                   {QStringLiteral("two"), Remedy::ChooseDestination}});
+    view.findChildren<QToolButton*>().at(1)->setFocus();
+    view.setLines({{QStringLiteral("one"), Remedy::ShowRemoteTab}});
+    EXPECT_EQ(QApplication::focusWidget(), view.findChildren<QToolButton*>().at(0));
+}
+
 TEST_F(ChecklistViewTest, AllWell_TakesTheLinesAway) {
     view.setLines({{QStringLiteral("one"), Remedy::ChooseSource}});
     view.setLines({});

@@ -3,6 +3,7 @@
 #include "ui/widgets/widget_controls.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
@@ -45,6 +46,16 @@ TEST_F(PathControlViewTest, Path_IsARowOfParts) {
     QSignalSpy clicked(&view, &PathControlView::partClicked);
     view.findChild<QToolButton*>(QStringLiteral("part2"))->click();
     EXPECT_EQ(clicked.at(0).at(0).toString(), u"/Users/near");
+}
+
+TEST_F(PathControlViewTest, OtherPath_KeepsTheFocusInTheRow) {
+    QApplication::setActiveWindow(&view);
+    view.setPath(QStringLiteral("/Users/near/Movies"));
+    view.findChild<QToolButton*>(QStringLiteral("part3"))->setFocus();
+    view.setPath(QStringLiteral("/Volumes/Disk/Movies"));
+    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), u"Movies");
+    view.setPath(QStringLiteral("/Volumes"));
+    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), u"Volumes");
 }
 
 TEST_F(PathControlViewTest, Home_IsATilde) {

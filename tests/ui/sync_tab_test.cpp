@@ -5,6 +5,7 @@
 #include "settings/preference_keys.h"
 #include "ui/status_line.h"
 #include "ui/widgets/application_menu.h"
+#include "ui/widgets/checklist_view.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/recent_arrivals.h"
@@ -210,7 +211,6 @@ TEST_F(SyncTabTest, Health_IsASignAndWords) {
     // The signs differ without their colours.
     EXPECT_NE(trouble.convertedTo(QImage::Format_Alpha8), well.convertedTo(QImage::Format_Alpha8));
     EXPECT_EQ(child<QLabel>("healthSign").accessibleName(), u"Trouble");
-    EXPECT_TRUE(child<QLabel>("healthText").accessibleName().contains(u"refuses logins"));
     const QColor ink = child<QLabel>("healthText").palette().color(QPalette::WindowText);
     EXPECT_GT(ink.red(), ink.green() + ink.blue());
 }
@@ -278,6 +278,52 @@ TEST_F(SyncTabTest, SyncNowAndCancel_CanBePressedWhenTheyDoSomething) {
     EXPECT_FALSE(button("ibCancelPass").isEnabled());
 }
 
+TEST_F(SyncTabTest, ButtonThatTurnsGrey_LendsTheFocusToItsNeighbour) {
+    WorkState resting = inTrouble(Remedy::None);
+    window.showWork(resting);
+    button("ibSyncNow").setFocus();
+    window.showWork(atWork());
+    EXPECT_TRUE(window.ibStartButton().hasFocus());
+    window.showWork(resting);
+    EXPECT_TRUE(button("ibSyncNow").hasFocus());
+    // The button that goes with the pass does the same.
+    window.showWork(atWork());
+    button("ibCancelPass").setFocus();
+    window.showWork({.phase = WorkPhase::Off});
+    EXPECT_TRUE(window.ibStartButton().hasFocus());
+    window.showWork(atWork());
+    EXPECT_TRUE(button("ibCancelPass").hasFocus());
+}
+
+TEST_F(SyncTabTest, PersonWhoMovesOn_KeepsTheFocusWhereItIs) {
+    window.showWork(inTrouble(Remedy::None));
+    button("ibSyncNow").setFocus();
+    window.showWork(atWork());
+    button("showAllArrivals").setFocus();
+    window.showWork(inTrouble(Remedy::None));
+    EXPECT_TRUE(button("showAllArrivals").hasFocus());
+}
+
+TEST_F(SyncTabTest, TabKey_GoesInTheOrderOfReading) {
+    WorkState work = inTrouble(Remedy::CheckAgain);
+    work.mayCancel = true;
+    work.phase = WorkPhase::Running;
+    window.showWork(work);
+    window.syncTab().checklist().setLines({{QStringLiteral("one"), Remedy::ShowRemoteTab},
+                                           {QStringLiteral("two"), Remedy::ChooseDestination}});
+    window.ibStartButton().setFocus();
+    QStringList visited;
+    for (int i = 0; i < 8; ++i) {
+        const QWidget* focused = QApplication::focusWidget();
+        const QString name = focused->objectName();
+        visited << (name.isEmpty() ? focused->accessibleName() : name);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(visited, (QStringList{"ibStartButton", "ibSyncNow", "ibCancelPass", "statusText",
+                                    "healthButton", "Show Remote Mac: one", "Choose…: two",
+                                    "showAllArrivals"}));
+}
+
 TEST_F(SyncTabTest, KeysOfTheMenu_StartStopAndSyncNow) {
     QStringList done;
     auto* menu = new ApplicationMenu({.startOrStop = [&] { done << QStringLiteral("start"); },
@@ -328,6 +374,19 @@ TEST_F(SyncTabTest, Arrivals_AreTheNewestFirst) {
     turn();
     EXPECT_EQ(arrivals(), (QStringList{"7.mkv", "6.mkv", "5.mkv", "4.mkv", "3.mkv"}));
     EXPECT_EQ(child<QTreeWidget>("arrivals").topLevelItem(0)->text(2), u"1.2 GB");
+}
+
+TEST_F(SyncTabTest, ArrivalThatIsRead_StaysTheCurrentOneWhenOthersCome) {
+    record({"1.mkv", "2.mkv", "3.mkv"});
+    turn();
+    auto& list = child<QTreeWidget>("arrivals");
+    list.setFocus();
+    list.setCurrentItem(list.topLevelItem(1));
+    record({"4.mkv", "5.mkv"});
+    turn();
+    EXPECT_EQ(list.currentItem()->text(1), u"2.mkv");
+    EXPECT_EQ(list.indexOfTopLevelItem(list.currentItem()), 3);
+    EXPECT_TRUE(list.hasFocus());
 }
 
 TEST_F(SyncTabTest, NoArrivals_SaysWhatWillStandThere) {

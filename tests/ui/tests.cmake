@@ -3,7 +3,9 @@ kelvo_tests(ui WIDGETS
   SOURCES
     contract/status_menu_contract_test.cpp
     contract/tray_host_contract_test.cpp
+    ui/accessible_tree_test.cpp
     ui/activity_tab_test.cpp
+    ui/announcement_test.cpp
     ui/application_menu_test.cpp
     ui/arrivals_view_test.cpp
     ui/bindings_test.cpp

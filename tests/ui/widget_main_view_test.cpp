@@ -105,10 +105,10 @@ TEST_F(WidgetMainViewTest, FieldThatEndedEditing_GivesItsFocusUpOnce) {
     const auto text = textField(*field);
     field->setFocus();
     text->resignFirstResponder();
-    EXPECT_FALSE(field->hasFocus());
-    other->setFocus();
+    EXPECT_TRUE(other->hasFocus()) << "the next place, not nowhere";
+    window.ibStartButton().setFocus();
     text->resignFirstResponder();
-    EXPECT_TRUE(other->hasFocus()) << "only its own focus";
+    EXPECT_EQ(window.focusWidget(), &window.ibStartButton()) << "only its own focus";
 }
 
 TEST_F(WidgetMainViewTest, Attention_FollowsWhetherTheWindowCanBeSeen) {

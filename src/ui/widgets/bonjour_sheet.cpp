@@ -6,6 +6,7 @@
 #include "support/array_controller.h"
 #include "support/text.h"
 #include "ui/bonjour_view_controller.h"
+#include "ui/widgets/announcement.h"
 #include "ui/words.h"
 #include "ui_bonjour_sheet.h"
 
@@ -149,10 +150,18 @@ void BonjourSheet::showState() {
     const WhyEmpty why = fEmptyWatch.why();
     const bool known =
         why == WhyEmpty::NothingFound || why == WhyEmpty::NoNetwork ? fFilled && !scanning : true;
-    const bool empty = known && fRows.rowCount() == 0;
+    const int found = fRows.rowCount();
+    const bool empty = known && found == 0;
     if (empty)
         showWhyEmpty(why);
     showPage(empty);
+    if (scanning)
+        forgetSpoken(*this);
+    else if (empty)
+        announce(*this, fUi->emptyText->text());
+    else if (fFilled)
+        announce(*this, Words::counted("%Ln Mac found.",
+                                       QT_TRANSLATE_N_NOOP("Words", "%Ln Macs found."), found));
 }
 
 /// The focus of the page that goes goes to the one that comes.

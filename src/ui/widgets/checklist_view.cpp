@@ -6,71 +6,83 @@
 #include <QLabel>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace kelvo {
 
-ChecklistView::ChecklistView(QWidget* parent) : QFrame(parent), fRows(new QGridLayout(this)) {
+ChecklistView::ChecklistView(QWidget* parent) : QWidget(parent), fGrid(new QGridLayout(this)) {
     setObjectName(QStringLiteral("checklist"));
     setAccessibleName(tr("What is missing before a pass"));
-    fRows->setColumnStretch(1, 1);
-    fRows->setContentsMargins(0, 0, 0, 0);
+    fGrid->setColumnStretch(1, 1);
+    fGrid->setContentsMargins(0, 0, 0, 0);
+    addRow();
     hide();
 }
 
+QWidget& ChecklistView::focusPlace() const {
+    return *fRows.front().button;
+}
+
 void ChecklistView::setLines(const std::vector<ChecklistLine>& lines) {
-    while (fLabels.size() < lines.size())
+    while (fRows.size() < lines.size())
         addRow();
-    std::map<Remedy, QToolButton*> unused = fButtons;
-    QToolButton* before = nullptr;
-    for (std::size_t i = 0; i < fLabels.size(); ++i) {
-        const bool isThere = i < lines.size();
-        fLabels[i].sign->setVisible(isThere);
-        fLabels[i].text->setVisible(isThere);
-        fLabels[i].text->setText(isThere ? lines[i].text : QString());
-        if (!isThere)
-            continue;
-        const Remedy remedy = lines[i].remedy;
-        QToolButton& button = buttonFor(remedy);
-        const bool isFirst = unused.erase(remedy) > 0 || button.parentWidget() == nullptr;
-        if (!isFirst)
-            continue;
-        fRows->addWidget(&button, static_cast<int>(i), 2);
-        button.setAccessibleName(QString(remedyTitle(remedy) + u": " + lines[i].text));
-        button.show();
-        if (before)
-            setTabOrder(before, &button);
-        before = &button;
-    }
-    for (const auto& [remedy, button] : unused)
-        button->hide();
+    const auto focused =
+        std::ranges::find_if(fRows, [](const Row& row) { return row.button->hasFocus(); });
+    const Remedy wanted = focused == fRows.end() ? Remedy::None : focused->remedy;
+    fFocus.keep([&] { showLines(lines); });
+    const auto now = std::ranges::find(fRows, wanted, &Row::remedy);
+    if (wanted != Remedy::None && now != fRows.end() && !now->button->hasFocus())
+        now->button->setFocus(Qt::OtherFocusReason);
+}
+
+void ChecklistView::showLines(const std::vector<ChecklistLine>& lines) {
     setVisible(!lines.empty());
+    std::vector<Remedy> offered;
+    for (std::size_t i = 0; i < fRows.size(); ++i) {
+        Row& row = fRows[i];
+        const bool isThere = i < lines.size();
+        row.sign->setVisible(isThere);
+        row.text->setVisible(isThere);
+        row.text->setText(isThere ? lines[i].text : QString());
+        const Remedy remedy = isThere ? lines[i].remedy : Remedy::None;
+        const bool isFirst = std::ranges::find(offered, remedy) == offered.end();
+        row.remedy = isFirst ? remedy : Remedy::None;
+        if (row.remedy != Remedy::None) {
+            offered.push_back(remedy);
+            const QString title = remedyTitle(remedy);
+            row.button->setText(title);
+            row.button->setAccessibleName(QString(title + u": " + lines[i].text));
+            row.button->setToolTip(remedy == Remedy::CopyInstallCommand ? cInstallCommand.toString()
+                                                                        : QString());
+        }
+        row.button->setVisible(row.remedy != Remedy::None);
+    }
 }
 
 void ChecklistView::addRow() {
-    Row row{new QLabel(QStringLiteral("•")), new QLabel}; // The desktop's signs take too long.
+    const std::size_t place = fRows.size();
+    Row row{new QLabel(QStringLiteral("•")), new QLabel, // The desktop's signs take too long.
+            new QToolButton};
     row.text->setTextFormat(Qt::PlainText);
     row.text->setWordWrap(true);
-    const int place = static_cast<int>(fLabels.size());
-    fRows->addWidget(row.sign, place, 0);
-    fRows->addWidget(row.text, place, 1);
-    fLabels.push_back(row);
+    row.button->setFocusPolicy(Qt::StrongFocus);
+    row.button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    row.button->setAccessibleName(tr("Next step"));
+    row.button->hide();
+    connect(row.button, &QToolButton::clicked, this, [this, place] {
+        if (fRemedyChosen)
+            fRemedyChosen(fRows[place].remedy);
+    });
+    QWidget* const cells[] = {row.sign, row.text, row.button};
+    for (int column = 0; column < 3; ++column)
+        fGrid->addWidget(cells[column], static_cast<int>(place), column);
+    if (!fRows.empty())
+        setTabOrder(fRows.back().button, row.button);
+    fRows.push_back(row);
 }
 
-/// A new one has no parent yet.
-QToolButton& ChecklistView::buttonFor(Remedy remedy) {
-    QToolButton*& button = fButtons[remedy];
-    if (button)
-        return *button;
-    button = new QToolButton;
-    button->setText(remedyTitle(remedy));
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    if (remedy == Remedy::CopyInstallCommand)
-        button->setToolTip(cInstallCommand.toString());
-    connect(button, &QToolButton::clicked, this, [this, remedy] {
-        if (fRemedyChosen)
-            fRemedyChosen(remedy);
-    });
-    return *button;
+bool ChecklistView::focusNextPrevChild(bool next) {
+    return fFocus.handOn() || QWidget::focusNextPrevChild(next);
 }
 
 } // namespace kelvo

@@ -2,10 +2,9 @@
 #pragma once
 
 #include "ui/checklist.h"
+#include "ui/widgets/focus_keeper.h"
 
-#include <QFrame>
-
-#include <map>
+#include <QWidget>
 
 class QGridLayout;
 class QLabel;
@@ -13,9 +12,9 @@ class QToolButton;
 
 namespace kelvo {
 
-/// Hidden while all is well. A remedy has one button, beside the first line that it mends; the
-/// button stays the same as long as one line needs it, and keeps the focus. Main thread only.
-class ChecklistView final : public QFrame {
+/// Hidden while all is well. A remedy has one button, beside the first line that it mends. Rows
+/// stay where they are and take other words; the focus stays with its remedy. Main thread only.
+class ChecklistView final : public QWidget {
     Q_OBJECT
 public:
     explicit ChecklistView(QWidget* parent = nullptr);
@@ -25,17 +24,25 @@ public:
 
     void setLines(const std::vector<ChecklistLine>& lines);
 
+    /// Takes the focus of the Tab key, the first of the buttons.
+    QWidget& focusPlace() const;
+
+protected:
+    bool focusNextPrevChild(bool next) override;
+
 private:
     struct Row {
         QLabel* sign;
         QLabel* text;
+        QToolButton* button;
+        Remedy remedy = Remedy::None; ///< what the button does; None: it is hidden
     };
     void addRow();
-    QToolButton& buttonFor(Remedy remedy);
+    void showLines(const std::vector<ChecklistLine>& lines);
 
-    QGridLayout* fRows;
-    std::vector<Row> fLabels; ///< as many as there ever were lines; the spare ones are hidden
-    std::map<Remedy, QToolButton*> fButtons;
+    QGridLayout* fGrid;
+    std::vector<Row> fRows; ///< one, or as many as there ever were lines; the spare ones are hidden
+    FocusKeeper fFocus{*this};
     std::function<void(Remedy)> fRemedyChosen;
 };
 

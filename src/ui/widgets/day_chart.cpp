@@ -66,6 +66,12 @@ void DayChart::setDays(const std::vector<DayOfPasses>& days, QDate today) {
         }
         fModel.setData(fModel.index(row, Day), dayReport(day), Qt::AccessibleDescriptionRole);
     }
+    const DayOfPasses& greatest = *std::ranges::max_element(fDays, {}, &DayOfPasses::bytes);
+    setAccessibleDescription(
+        fMost == 0
+            ? tr("Nothing has arrived. The arrow keys go from day to day.")
+            : tr("%1. The most came on this day: %2, %3. The arrow keys go from day to day.")
+                  .arg(totalText(fDays, cDays), dayText(greatest.day, today), dayReport(greatest)));
     viewport()->update();
 }
 

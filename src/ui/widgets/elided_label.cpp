@@ -19,6 +19,7 @@ void ElidedLabel::setFullText(const QString& text) {
     if (text == fFullText)
         return;
     fFullText = text;
+    setAccessibleName(text);
     updateGeometry();
     elide();
 }

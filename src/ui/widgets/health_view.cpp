@@ -1,12 +1,12 @@
 #include "ui/widgets/health_view.h"
 
+#include "ui/widgets/announcement.h"
 #include "ui/widgets/flow_layout.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/muted_hints.h"
 #include "ui/widgets/remedy_title.h"
 #include "ui/widgets/trouble_color.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -60,8 +60,6 @@ HealthView::HealthView(QWidget* parent)
     keepsItsRoom.setRetainSizeWhenHidden(true);
     fButton->setSizePolicy(keepsItsRoom);
 
-    fLastSuccess->setAccessibleName(tr("Last success"));
-
     auto* words = new QWidget;
     words->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     auto* wordsRow = new QHBoxLayout(words);
@@ -84,13 +82,26 @@ HealthView::HealthView(QWidget* parent)
 void HealthView::showHealth(const Health& health) {
     if (health == fHealth)
         return;
-    const bool saysMore = health.text != fHealth.text || health.sign != fHealth.sign;
     fHealth = health;
     applyLook();
-    if (!saysMore)
+    speak();
+}
+
+QWidget& HealthView::focusPlace() const {
+    return *fButton;
+}
+
+void HealthView::speak() {
+    const bool trouble = fHealth.sign == HealthSign::Trouble;
+    const QString cause = trouble ? fHealth.cause : QString();
+    const bool isNews = fSpoken ? *fSpoken != cause : trouble;
+    if (fHealth.sign == HealthSign::Unknown)
         return;
-    QAccessibleEvent event(fText, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&event);
+    fSpoken = cause;
+    if (!isNews)
+        return;
+    forgetSpoken(*this);
+    announce(*this, fHealth.text, trouble ? Urgency::Urgent : Urgency::Polite);
 }
 
 void HealthView::changeEvent(QEvent* event) {
@@ -103,8 +114,6 @@ void HealthView::applyLook() {
     const bool empty = fHealth.text.isEmpty();
     const QString text = empty ? tr("How the last pass went will stand here.") : fHealth.text;
     fText->setText(text);
-    fText->setAccessibleName(empty ? text
-                                   : tr("Health: %1. %2").arg(nameOf(fHealth.sign), fHealth.text));
     fLastSuccess->setText(fHealth.lastSuccess);
     fText->parentWidget()->setMinimumSize(fontMetrics().averageCharWidth() * cFewestLetters,
                                           fontMetrics().lineSpacing() * cLines);

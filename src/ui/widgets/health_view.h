@@ -6,13 +6,16 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class QLabel;
 class QPushButton;
 
 namespace kelvo {
 
-/// Sign, words and colour say the same. Keeps the room of three lines. Main thread only.
+/// Sign, words and colour say the same. Keeps the room of three lines. A screen reader speaks the
+/// words when trouble begins, when it turns into another one and when all is well again. Main
+/// thread only.
 class HealthView final : public QWidget {
     Q_OBJECT
 public:
@@ -23,13 +26,21 @@ public:
 
     void showHealth(const Health& health);
 
+    /// Takes the focus of the Tab key.
+    QWidget& focusPlace() const;
+
+    /// A person has asked for a pass: how it went is spoken although it is no news.
+    void forgetSpokenText() { fSpoken.reset(); }
+
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
     void applyLook();
+    void speak();
 
     Health fHealth;
+    std::optional<QString> fSpoken; ///< the cause; none before anything is known
     QLabel* fSign;
     QLabel* fText;
     QLabel* fLastSuccess;

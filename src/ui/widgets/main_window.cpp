@@ -3,7 +3,9 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "support/fatal.h"
+#include "ui/key_state_words.h"
 #include "ui/widgets/activity_tab.h"
+#include "ui/widgets/announcement.h"
 #include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/remote_tab.h"
@@ -240,6 +242,7 @@ PathControlView& MainWindow::destinationPath() {
 void MainWindow::showKeyState(KeyState state) {
     fKeyState = state;
     fRemoteTab->setKeyState(state);
+    announce(*fRemoteTab, keyStateWords(state));
     Q_EMIT keyStateShown(state);
 }
 

@@ -3,6 +3,7 @@
 #include "ports/pass_store.h"
 #include "ui/activity_texts.h"
 #include "ui/pass_words.h"
+#include "ui/widgets/announcement.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/kept_place.h"
 #include "ui/widgets/pass_rows.h"
@@ -182,6 +183,8 @@ void PassesView::exportTo(const QString& path) {
     fUi->exportResult->setText(
         written ? tr("%Ln passes written.", nullptr, static_cast<int>(records.size()))
                 : tr("Not written: %1").arg(file.errorString()));
+    forgetSpoken(*this);
+    announce(*this, fUi->exportResult->text(), written ? Urgency::Polite : Urgency::Urgent);
 }
 
 } // namespace kelvo

@@ -114,29 +114,45 @@ void PathControlView::prepare(QToolButton& button, const QString& name, const QS
 }
 
 void PathControlView::rebuild() {
-    qDeleteAll(fButtons);
-    fButtons.clear();
     fParts = partsOf(fPath);
+    if (fButtons.size() > fParts.size()) {
+        QWidget* const last = fParts.empty() ? nullptr : fButtons[fParts.size() - 1];
+        for (std::size_t i = fParts.size(); i < fButtons.size(); ++i) {
+            if (fButtons[i]->hasFocus() && last)
+                last->setFocus(Qt::OtherFocusReason);
+            delete fButtons[i];
+        }
+        fButtons.resize(fParts.size());
+    }
+    while (fButtons.size() < fParts.size())
+        addButton();
     for (std::size_t i = 0; i < fParts.size(); ++i) {
-        auto* button = new PartButton(this);
-        prepare(*button, QStringLiteral("part%1").arg(static_cast<int>(i)), fParts[i].title);
-        button->setAccessibleName(fParts[i].title);
-        button->setAccessibleDescription(fParts[i].path);
-        button->setToolTip(plainToolTip(fParts[i].path));
-        connect(button, &QToolButton::clicked, this,
-                [this, path = fParts[i].path] { Q_EMIT partClicked(path); });
-        auto* open = new QAction(tr("Open %1").arg(literal(fParts[i].title)), button);
-        connect(open, &QAction::triggered, this,
-                [this, path = fParts[i].path] { Q_EMIT openRequested(path); });
-        button->addAction(open);
-        button->setContextMenuPolicy(Qt::ActionsContextMenu);
-        setTabOrder(i == 0 ? fHidden : fButtons.back(), button);
-        fButtons.push_back(button);
+        QToolButton& button = *fButtons[i];
+        button.setText(literal(fParts[i].title));
+        button.setAccessibleName(fParts[i].title);
+        button.setAccessibleDescription(fParts[i].path);
+        button.setToolTip(plainToolTip(fParts[i].path));
+        button.actions().constFirst()->setText(tr("Open %1").arg(literal(fParts[i].title)));
     }
     fEmpty->setText(fTextWhenEmpty);
     fEmpty->setVisible(fParts.empty());
     updateGeometry();
     placeParts();
+}
+
+void PathControlView::addButton() {
+    const std::size_t place = fButtons.size();
+    auto* button = new PartButton(this);
+    prepare(*button, QStringLiteral("part%1").arg(static_cast<int>(place)), {});
+    connect(button, &QToolButton::clicked, this,
+            [this, place] { Q_EMIT partClicked(QString(fParts[place].path)); });
+    auto* open = new QAction(button);
+    connect(open, &QAction::triggered, this,
+            [this, place] { Q_EMIT openRequested(QString(fParts[place].path)); });
+    button->addAction(open);
+    button->setContextMenuPolicy(Qt::ActionsContextMenu);
+    setTabOrder(place == 0 ? fHidden : fButtons.back(), button);
+    fButtons.push_back(button);
 }
 
 void PathControlView::placeParts() {

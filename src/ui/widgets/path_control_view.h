@@ -45,6 +45,7 @@ protected:
 
 private:
     void rebuild();
+    void addButton();
     void placeParts();
     int separatorWidth() const;
     static void prepare(QToolButton& button, const QString& name, const QString& title);

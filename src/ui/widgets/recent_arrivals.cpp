@@ -87,16 +87,24 @@ void RecentArrivals::add(const PassRecord& pass) {
     fArrivals.insert(fArrivals.begin(), pass.arrivals.rbegin(), pass.arrivals.rend());
     if (fArrivals.size() > cMost)
         fArrivals.resize(cMost);
+    // The rows that stay keep the selection of a person who reads them.
+    for (std::size_t i = 0; i < std::min<std::size_t>(pass.arrivals.size(), cMost); ++i)
+        list().insertTopLevelItem(0, new QTreeWidgetItem);
+    while (list().topLevelItemCount() > cMost)
+        delete list().topLevelItem(cMost);
     showArrivals();
 }
 
 void RecentArrivals::showArrivals() {
     if (fArrivals.empty())
         return;
-    list().clear();
-    for (const Arrival& arrival : fArrivals) {
+    for (std::size_t i = 0; i < fArrivals.size(); ++i) {
+        const Arrival& arrival = fArrivals[i];
         const QString path = QFile::decodeName(arrival.path);
-        auto* row = new QTreeWidgetItem(&list());
+        const int place = static_cast<int>(i);
+        QTreeWidgetItem* const row = place < list().topLevelItemCount()
+                                         ? list().topLevelItem(place)
+                                         : new QTreeWidgetItem(&list());
         row->setText(Time, whenText(arrival.arrived));
         row->setText(Name, oneLine(path.section(u'/', -1)));
         row->setText(Size, sizeText({TransferSource::Lines, 1, arrival.size}));

@@ -1,15 +1,22 @@
 #include "ui/widgets/status_field_view.h"
 
+#include "ui/widgets/announcement.h"
 #include "ui/widgets/trouble_color.h"
 #include "ui/words.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
 
 namespace kelvo {
+namespace {
+
+constexpr int cAroundTheFocus = 3;
+
+} // namespace
 
 StatusFieldView::StatusFieldView(QWidget* parent)
     : QFrame(parent), fSign(new QLabel(this)), fText(new QLabel(this)) {
@@ -26,7 +33,9 @@ StatusFieldView::StatusFieldView(QWidget* parent)
     fText->setTextFormat(Qt::PlainText);
     fText->setWordWrap(true);
     fText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    fText->setFocusPolicy(Qt::StrongFocus);
     fText->setAccessibleDescription(tr("What the program is doing"));
+    fText->installEventFilter(this);
     setFrameShape(QFrame::StyledPanel);
     clear();
 }
@@ -34,7 +43,6 @@ StatusFieldView::StatusFieldView(QWidget* parent)
 void StatusFieldView::show(const AttributedString& value) {
     fColor = value.foregroundColor;
     fText->setText(value.string);
-    fText->setAccessibleName(tr("Status: %1").arg(value.string));
     fText->setAlignment(
         (value.alignment == TextAlignment::Centered ? Qt::AlignHCenter : Qt::AlignLeft) |
         Qt::AlignVCenter);
@@ -43,8 +51,23 @@ void StatusFieldView::show(const AttributedString& value) {
     else
         fSign->hide();
     applyColor();
-    QAccessibleEvent event(fText, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&event);
+    speak(value.string);
+}
+
+QWidget& StatusFieldView::focusPlace() const {
+    return *fText;
+}
+
+void StatusFieldView::speak(const QString& text) {
+    QString said = text;
+    said.removeIf([](QChar letter) { return letter.isDigit(); });
+    const bool trouble = fColor == StatusColor::Red;
+    if (fSpoken.contains(said))
+        return;
+    if (trouble)
+        fSpoken.clear();
+    fSpoken.append(said);
+    announce(*this, text, trouble ? Urgency::Urgent : Urgency::Polite);
 }
 
 /// The desktop's sign is looked for at the first trouble: that takes longer than all the window.
@@ -57,7 +80,6 @@ void StatusFieldView::showSign() {
 
 void StatusFieldView::clear() {
     fText->clear();
-    fText->setAccessibleName(tr("Status"));
     fSign->hide();
 }
 
@@ -65,6 +87,25 @@ void StatusFieldView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange)
         applyColor();
     QFrame::changeEvent(event);
+}
+
+bool StatusFieldView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        update();
+    return QFrame::eventFilter(watched, event);
+}
+
+void StatusFieldView::paintEvent(QPaintEvent* event) {
+    QFrame::paintEvent(event);
+    if (!fText->hasFocus())
+        return;
+    QStylePainter painter(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.state |= QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    option.rect = fText->geometry().adjusted(-cAroundTheFocus, -cAroundTheFocus, cAroundTheFocus,
+                                             cAroundTheFocus);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
 }
 
 void StatusFieldView::applyColor() {

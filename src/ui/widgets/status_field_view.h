@@ -5,11 +5,14 @@
 
 #include <QFrame>
 #include <QPointer>
+#include <QStringList>
 
 class QLabel;
 
 namespace kelvo {
 
+/// The text takes the focus, to be read again. A screen reader speaks each text when it comes first
+/// and again after trouble; trouble whose figures alone change is spoken once.
 class StatusFieldView final : public QFrame {
     Q_OBJECT
 public:
@@ -18,16 +21,26 @@ public:
     void show(const AttributedString& value);
     void clear();
 
+    /// Takes the focus of the Tab key.
+    QWidget& focusPlace() const;
+
+    /// A person has asked for a pass: what it comes to is spoken anew.
+    void forgetSpokenTexts() { fSpoken.clear(); }
+
 protected:
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void applyColor();
     void showSign();
+    void speak(const QString& text);
 
     QLabel* fSign;
     QLabel* fText;
     StatusColor fColor = StatusColor::Black;
+    QStringList fSpoken; ///< without their figures
 };
 
 /// The view as a port; messages for a view that is gone are dropped.

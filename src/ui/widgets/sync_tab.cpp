@@ -3,8 +3,12 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "support/attributed_string.h"
+#include "support/pass_record.h"
 #include "support/text.h"
 #include "support/work_state.h"
+#include "ui/pass_words.h"
+#include "ui/widgets/accessible_factory.h"
+#include "ui/widgets/announcement.h"
 #include "ui/widgets/bindings.h"
 #include "ui/widgets/flow_layout.h"
 #include "ui/widgets/source_notice.h"
@@ -25,8 +29,14 @@ QString folder(const UserDefaults& defaults, QStringView key) {
 
 SyncTab::SyncTab(Bindings& bindings, QWidget* parent)
     : QWidget(parent), fUi(std::make_unique<Ui::SyncTab>()) {
+    installAccessibleFactory();
     fUi->setupUi(this);
     layOut();
+    connect(fUi->ibSyncNow, &QPushButton::clicked, this, &SyncTab::awaitPass);
+    connect(fUi->ibStartButton, &QPushButton::toggled, this, [this](bool on) {
+        if (on)
+            awaitPass();
+    });
     UserDefaults& defaults = bindings.defaults();
     fUi->fNsPathControl1->setTextWhenEmpty(tr("No source folder chosen yet"));
     fUi->destinationPath->setTextWhenEmpty(tr("No destination folder chosen yet"));
@@ -58,6 +68,13 @@ void SyncTab::layOut() {
     for (QWidget* row : {fUi->remoteSource, fUi->folderSource, fUi->sourceNow, fUi->destination,
                          fUi->buttons, fUi->arrivalsHead})
         new FlowLayout(*row);
+    QWidget* before = fUi->ibCancelPass;
+    for (QWidget* next : {&fUi->ibStatusTextField->focusPlace(), &fUi->health->focusPlace(),
+                          &fUi->checklist->focusPlace()}) {
+        setTabOrder(before, next);
+        before = next;
+    }
+    setTabOrder(before, fUi->showAllArrivals);
 }
 
 PathControlView& SyncTab::fNsPathControl1() {
@@ -81,18 +98,43 @@ RecentArrivals& SyncTab::recentArrivals() {
 }
 
 void SyncTab::setRemedyChosen(const std::function<void(Remedy)>& chosen) {
-    fUi->health->setRemedyChosen(chosen);
+    fUi->health->setRemedyChosen([this, chosen](Remedy remedy) {
+        if (remedy == Remedy::CheckAgain)
+            awaitPass();
+        chosen(remedy);
+    });
     fUi->checklist->setRemedyChosen(chosen);
 }
 
 void SyncTab::showWork(const WorkState& work) {
-    fUi->progress->showWork(work);
-    fUi->health->showHealth(work.health);
-    fUi->remarks->setText(work.remarks.join(u'\n'));
-    fUi->remarks->setVisible(!work.remarks.isEmpty());
-    fUi->ibSyncNow->setEnabled(work.maySyncNow);
-    fUi->ibCancelPass->setEnabled(work.mayCancel);
-    fUi->ibCancelPass->setVisible(passRuns(work.phase));
+    fFocus.keep([&] {
+        fUi->progress->showWork(work);
+        fUi->health->showHealth(work.health);
+        fUi->remarks->setText(work.remarks.join(u'\n'));
+        fUi->remarks->setVisible(!work.remarks.isEmpty());
+        fUi->ibSyncNow->setEnabled(work.maySyncNow);
+        fUi->ibCancelPass->setEnabled(work.mayCancel);
+        fUi->ibCancelPass->setVisible(passRuns(work.phase));
+    });
+}
+
+void SyncTab::passEnded(const PassRecord& pass) {
+    const bool brought = !pass.arrivals.empty() || pass.transfer.files.value_or(0) > 0;
+    if (saysNothing(pass.cause) || isTrouble(pass.cause) || !(brought || fPassAwaited))
+        return;
+    fPassAwaited = false;
+    forgetSpoken(*this);
+    announce(*this, tr("The pass went well: %1.").arg(filesText(pass)));
+}
+
+void SyncTab::awaitPass() {
+    fPassAwaited = true;
+    fUi->ibStatusTextField->forgetSpokenTexts();
+    fUi->health->forgetSpokenText();
+}
+
+bool SyncTab::focusNextPrevChild(bool next) {
+    return fFocus.handOn() || QWidget::focusNextPrevChild(next);
 }
 
 void SyncTab::changeEvent(QEvent* event) {
@@ -109,8 +151,6 @@ void SyncTab::fitStartIcon() {
 
 void SyncTab::setNetworkStatus(const QString& text) {
     fUi->networkStatus->setText(text);
-    fUi->networkStatus->setAccessibleName(text.isEmpty() ? tr("Network")
-                                                         : tr("Network: %1").arg(text));
 }
 
 void SyncTab::showSource(Bindings& bindings) {

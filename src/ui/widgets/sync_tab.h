@@ -1,6 +1,8 @@
 // SyncTab: where files come from and go to, the start button, and how it goes.
 #pragma once
 
+#include "ui/widgets/focus_keeper.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -17,6 +19,7 @@ class ChecklistView;
 class PathControlView;
 class RecentArrivals;
 class StatusFieldView;
+struct PassRecord;
 struct WorkState;
 enum class Remedy;
 
@@ -35,6 +38,13 @@ public:
 
     void showWork(const WorkState& work);
 
+    /// A pass is over. A screen reader speaks what it brought; that it brought nothing only where a
+    /// person waits for it.
+    void passEnded(const PassRecord& pass);
+
+    /// A person has asked for a pass: how it goes is spoken although it is no news.
+    void awaitPass();
+
     /// From now on a click on the button of the health line or of a line of the checklist calls
     /// `chosen`.
     void setRemedyChosen(const std::function<void(Remedy)>& chosen);
@@ -44,6 +54,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void showSource(Bindings& bindings);
@@ -51,6 +62,8 @@ private:
     void fitStartIcon();
 
     std::unique_ptr<Ui::SyncTab> fUi;
+    FocusKeeper fFocus{*this};
+    bool fPassAwaited = false;
 };
 
 } // namespace kelvo

@@ -1,6 +1,7 @@
 #include "ui/widgets/widget_controls.h"
 
 #include "support/file_url.h"
+#include "ui/widgets/focus_keeper.h"
 
 #include <QUrl>
 
@@ -8,8 +9,12 @@ namespace kelvo {
 
 std::shared_ptr<TextField> textField(QWidget& field) {
     return std::make_shared<TextField>([guard = QPointer(&field)] {
-        if (guard && guard->hasFocus())
-            guard->clearFocus();
+        if (!guard || !guard->hasFocus())
+            return;
+        QWidget* const next = nextFocus(*guard);
+        guard->clearFocus();
+        if (next)
+            next->setFocus(Qt::TabFocusReason);
     });
 }
 

@@ -25,7 +25,8 @@ private:
     QPointer<QWidget> fWidget;
 };
 
-/// The text field `field`, which may go first.
+/// The text field `field`, which may go first. The focus that it resigns goes to the next place in
+/// the order of the Tab key.
 std::shared_ptr<TextField> textField(QWidget& field);
 
 /// A path control; one that is gone shows nothing.

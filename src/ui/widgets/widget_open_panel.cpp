@@ -1,10 +1,12 @@
 #include "ui/widgets/widget_open_panel.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QWindow>
 
 namespace kelvo {
 namespace {
@@ -73,6 +75,11 @@ OpenPanelAnswer WidgetOpenPanel::runModal(const OpenPanelOptions& options) {
         return {};
     OpenPanelAnswer answer{accepted, accepted ? dialog->selectedFiles() : QStringList()};
     delete dialog;
+    // The list of names below the field, open to the last, hides from the toolkit that the window
+    // has the keyboard again.
+    if (fParent && !fParent->isActiveWindow() &&
+        QGuiApplication::focusWindow() == fParent->windowHandle())
+        QApplication::setActiveWindow(fParent);
     return answer;
 }
 
