@@ -98,6 +98,7 @@ TEST_F(FileTrustGroupsTest, GroupOfTheUsersName_IsTheUserUnlessSomebodyElseIsInI
 TEST_F(FileTrustGroupsTest, GroupOfAnotherNameOrNone_IsForeign) {
     expect("staff:x:54321:\nann:x:54322:\n", foreign);
     expect("root:x:0:\n", foreign);
+    expect("ann:x:54323:\n", foreign);
 }
 
 } // namespace
