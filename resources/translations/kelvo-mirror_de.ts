@@ -23,14 +23,6 @@
         <source>Arrived per day, 30 days</source>
         <translation>Angekommen je Tag, 30 Tage</translation>
     </message>
-    <message>
-        <source>A row for each day, oldest first</source>
-        <translation>Eine Zeile je Tag, der älteste zuerst</translation>
-    </message>
-    <message>
-        <source>What arrived in 30 days</source>
-        <translation>Was in 30 Tagen ankam</translation>
-    </message>
 </context>
 <context>
     <name>ArrivalsView</name>
@@ -54,10 +46,6 @@
         <source>By day, newest first; the Return key opens one</source>
         <translation>Nach Tagen, neueste zuerst; die Eingabetaste öffnet einen Film</translation>
     </message>
-    <message>
-        <source>Why no movie is shown</source>
-        <translation>Warum kein Film gezeigt wird</translation>
-    </message>
 </context>
 <context>
     <name>BonjourSheet</name>
@@ -72,22 +60,6 @@
     <message>
         <source>Computers found</source>
         <translation>Gefundene Computer</translation>
-    </message>
-    <message>
-        <source>No Mac was found.
-
-On the Mac, open System Settings, General, Sharing, and check that File Sharing and Remote Login are on.
-Check that both computers are on the same network.
-Then choose Rescan.</source>
-        <translation>Kein Mac gefunden.
-
-Auf dem Mac in den Systemeinstellungen unter „Allgemein“, „Teilen“ prüfen, ob Dateifreigabe und Entfernte Anmeldung eingeschaltet sind.
-Prüfen, ob beide Computer im selben Netzwerk sind.
-Dann „Erneut suchen“ wählen.</translation>
-    </message>
-    <message>
-        <source>What to check when no Mac was found</source>
-        <translation>Was zu prüfen ist, wenn kein Mac gefunden wurde</translation>
     </message>
     <message>
         <source>&amp;Rescan</source>
@@ -113,128 +85,32 @@ Dann „Erneut suchen“ wählen.</translation>
         <source>Select</source>
         <translation>Auswählen</translation>
     </message>
+    <message>
+        <source>Copy C&amp;ommand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DiagnosticsTab</name>
     <message>
-        <source>These actions are for finding faults. What they write appears in the log.</source>
-        <translation>Diese Aktionen dienen der Fehlersuche. Was sie schreiben, steht im Protokoll.</translation>
-    </message>
-    <message>
-        <source>Passes and timer</source>
-        <translation>Durchgänge und Zeitgeber</translation>
-    </message>
-    <message>
-        <source>Plain pass</source>
-        <translation>Einfacher Durchgang</translation>
-    </message>
-    <message>
-        <source>Switches syncing on with passes between two folders, whatever the settings say</source>
-        <translation>Schaltet die Synchronisierung mit Durchgängen zwischen zwei Ordnern ein, was auch eingestellt ist</translation>
-    </message>
-    <message>
-        <source>Remote pass</source>
-        <translation>Durchgang vom Mac</translation>
-    </message>
-    <message>
-        <source>Switches syncing on with passes from the remote Mac, whatever the settings say</source>
-        <translation>Schaltet die Synchronisierung mit Durchgängen vom entfernten Mac ein, was auch eingestellt ist</translation>
-    </message>
-    <message>
-        <source>Resume timer</source>
-        <translation>Zeitgeber fortsetzen</translation>
-    </message>
-    <message>
-        <source>Lets the diagnostic timer write a line each second</source>
-        <translation>Lässt den Diagnose-Zeitgeber jede Sekunde eine Zeile schreiben</translation>
-    </message>
-    <message>
-        <source>Suspend timer</source>
-        <translation>Zeitgeber anhalten</translation>
-    </message>
-    <message>
-        <source>Stops the diagnostic timer until it is resumed</source>
-        <translation>Hält den Diagnose-Zeitgeber an, bis er fortgesetzt wird</translation>
-    </message>
-    <message>
-        <source>Kill timer</source>
-        <translation>Zeitgeber beenden</translation>
-    </message>
-    <message>
-        <source>Ends the diagnostic timer until the program starts again</source>
-        <translation>Beendet den Diagnose-Zeitgeber bis zum nächsten Programmstart</translation>
-    </message>
-    <message>
         <source>Folders and window</source>
         <translation>Ordner und Fenster</translation>
-    </message>
-    <message>
-        <source>Fill path control</source>
-        <translation>Pfadanzeige füllen</translation>
-    </message>
-    <message>
-        <source>Shows the source folder in the path control and lists its parts</source>
-        <translation>Zeigt den Quellordner in der Pfadanzeige und listet seine Teile auf</translation>
-    </message>
-    <message>
-        <source>Reveal test folder</source>
-        <translation>Testordner zeigen</translation>
-    </message>
-    <message>
-        <source>Opens a fixed test folder once source and destination are set</source>
-        <translation>Öffnet einen festen Testordner, sobald Quelle und Ziel gewählt sind</translation>
-    </message>
-    <message>
-        <source>Temporary folder</source>
-        <translation>Temporärer Ordner</translation>
-    </message>
-    <message>
-        <source>Opens the folder where the program keeps its scripts</source>
-        <translation>Öffnet den Ordner, in dem das Programm seine Skripte ablegt</translation>
-    </message>
-    <message>
-        <source>No focus</source>
-        <translation>Kein Fokus</translation>
-    </message>
-    <message>
-        <source>Takes the keyboard focus away from every control</source>
-        <translation>Nimmt jedem Bedienelement den Tastaturfokus</translation>
     </message>
     <message>
         <source>Network</source>
         <translation>Netzwerk</translation>
     </message>
     <message>
-        <source>Search Macs</source>
-        <translation>Macs suchen</translation>
-    </message>
-    <message>
         <source>Looks one second for Macs that share files and lists all of them below</source>
         <translation>Sucht eine Sekunde lang Macs mit Dateifreigabe und listet unten alle auf</translation>
     </message>
     <message>
-        <source>Print found Macs</source>
-        <translation>Gefundene Macs ausgeben</translation>
-    </message>
-    <message>
         <source>Writes what the last search found to the log</source>
         <translation>Schreibt das Ergebnis der letzten Suche ins Protokoll</translation>
-    </message>
-    <message>
-        <source>Choose destination</source>
-        <translation>Ziel auswählen</translation>
-    </message>
-    <message>
-        <source>Only writes a line: a destination cannot be chosen this way</source>
-        <translation>Schreibt nur eine Zeile: ein Ziel lässt sich so nicht auswählen</translation>
-    </message>
-    <message>
-        <source>Network browser</source>
-        <translation>Netzwerksuche</translation>
-    </message>
-    <message>
-        <source>Browses for shares and writes each change to the log</source>
-        <translation>Sucht Freigaben und schreibt jede Änderung ins Protokoll</translation>
     </message>
     <message>
         <source>Found &amp;Macs</source>
@@ -249,36 +125,140 @@ Dann „Erneut suchen“ wählen.</translation>
         <translation>Entfernter Mac und Programm</translation>
     </message>
     <message>
-        <source>Open share</source>
-        <translation>Freigabe öffnen</translation>
+        <source>These buttons help to find out why something does not work. What they find out is written to the log: Help, Open Log Folder.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Asks the system to open the share and lists mounted shares</source>
-        <translation>Lässt das System die Freigabe öffnen und listet eingehängte Freigaben auf</translation>
+        <source>Passes and heartbeat</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Find folder, older way</source>
-        <translation>Ordner suchen, ältere Art</translation>
+        <source>Sync Two Folders Here</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Opens the share and looks for its folder without waiting</source>
-        <translation>Öffnet die Freigabe und sucht ihren Ordner, ohne zu warten</translation>
+        <source>Switches syncing on or off, with passes between two folders on this computer, whatever Settings says</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>New key, older way</source>
-        <translation>Neuer Schlüssel, ältere Art</translation>
+        <source>Sync from the Mac</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Makes a new key in a terminal window</source>
-        <translation>Erzeugt einen neuen Schlüssel in einem Terminalfenster</translation>
+        <source>Switches syncing on or off, with passes from the remote Mac, whatever Settings says</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Quit and relaunch</source>
-        <translation>Beenden und neu starten</translation>
+        <source>Start Heartbeat</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Ends the program and has it started again</source>
-        <translation>Beendet das Programm und lässt es neu starten</translation>
+        <source>Writes a line to the log each second, as a sign that the program is alive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause Heartbeat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes no more of these lines until the heartbeat is started again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End Heartbeat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes no more of these lines until the program starts again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Source Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the source folder on the Sync tab and writes its parts to the log; where none is chosen, the Desktop folder becomes the source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Test Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens /Volumes/Macintosh%20HD-2/Users/support/Desktop/FolderOnRemoteServer, a folder for tests that few computers have; source and destination must be chosen first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Scripts Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the temporary folder in which the program keeps the scripts for a terminal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave All Fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the keyboard away from every field and button until another one is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search for Macs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log Found Macs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy to a Mac</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes a line to the log and nothing else: the destination is always a folder on this computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch for Shares</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks for shared folders and writes each one that comes or goes to the log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the Share</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks the desktop to open the shared folder of the Mac and writes the open shares to the log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find Folder, Older Way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the shared folder of the Mac and looks for the folder in it without waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Key, Older Way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the key and makes a new one in a terminal window; the Mac must be given the new one with Set Up Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit and Relaunch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends the program and starts it again</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -564,10 +544,6 @@ Bitte den Benutzernamen prüfen...
 <context>
     <name>PassesView</name>
     <message>
-        <source>How the passes stand</source>
-        <translation>Wie es um die Durchgänge steht</translation>
-    </message>
-    <message>
         <source>&amp;Brought files</source>
         <translation>Mit neuen Dateie&amp;n</translation>
     </message>
@@ -623,10 +599,6 @@ Bitte den Benutzernamen prüfen...
         <source>Writes all passes to a file of comma-separated values</source>
         <translation>Schreibt alle Durchgänge in eine Datei mit kommagetrennten Werten</translation>
     </message>
-    <message>
-        <source>How the export went</source>
-        <translation>Wie der Export ausging</translation>
-    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -678,13 +650,25 @@ Bitte den Benutzernamen prüfen...
         <source>&amp;Open</source>
         <translation>Ö&amp;ffnen</translation>
     </message>
+    <message>
+        <source>Choose the Mac</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Up the Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Folder or file:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RemoteTab</name>
-    <message>
-        <source>Remote Mac</source>
-        <translation>Entfernter Mac</translation>
-    </message>
     <message>
         <source>Host &amp;name</source>
         <translation>Host&amp;name</translation>
@@ -750,18 +734,6 @@ Bitte den Benutzernamen prüfen...
         <translation>Verwendete Quelle</translation>
     </message>
     <message>
-        <source>Notice about the source in use</source>
-        <translation>Hinweis zur verwendeten Quelle</translation>
-    </message>
-    <message>
-        <source>Access</source>
-        <translation>Zugang</translation>
-    </message>
-    <message>
-        <source>State of the key</source>
-        <translation>Stand des Schlüssels</translation>
-    </message>
-    <message>
         <source>Set Up &amp;Key…</source>
         <translation>Schlüssel &amp;einrichten…</translation>
     </message>
@@ -798,10 +770,6 @@ Bitte den Benutzernamen prüfen...
         <translation>Fragt den entfernten Mac, ob er den Schlüssel annimmt</translation>
     </message>
     <message>
-        <source>Shared folder</source>
-        <translation>Freigegebener Ordner</translation>
-    </message>
-    <message>
         <source>&amp;Open Remote Folder</source>
         <translation>Entfernten Ordner ö&amp;ffnen</translation>
     </message>
@@ -816,6 +784,34 @@ Bitte den Benutzernamen prüfen...
     <message>
         <source>Opens the share, looks where it was mounted and opens the folder there</source>
         <translation>Öffnet die Freigabe, stellt fest, wo sie eingehängt wurde, und öffnet dort den Ordner</translation>
+    </message>
+    <message>
+        <source>1. Mac</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2. Account and folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use This Source No&amp;w</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Passes pull from this account and folder from now on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3. Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4. Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -845,10 +841,6 @@ Bitte den Benutzernamen prüfen...
         <translation>Befehlsvorlage</translation>
     </message>
     <message>
-        <source>The rsync command with the places %@1 source, %@2 destination, %@3 key, %@98 ssh, %@99 option</source>
-        <translation>Der rsync-Befehl mit den Stellen %@1 Quelle, %@2 Ziel, %@3 Schlüssel, %@98 ssh, %@99 Option</translation>
-    </message>
-    <message>
         <source>&amp;Option</source>
         <translation>&amp;Option</translation>
     </message>
@@ -863,10 +855,6 @@ Bitte den Benutzernamen prüfen...
     <message>
         <source>Example</source>
         <translation>Beispiel</translation>
-    </message>
-    <message>
-        <source>Example command</source>
-        <translation>Beispielbefehl</translation>
     </message>
     <message>
         <source>Behaviour</source>
@@ -913,10 +901,6 @@ Bitte den Benutzernamen prüfen...
         <translation>&amp;Kelvo Mirror beim Anmelden starten</translation>
     </message>
     <message>
-        <source>Trouble with the start at login</source>
-        <translation>Störung beim Start mit der Anmeldung</translation>
-    </message>
-    <message>
         <source>R&amp;un after arrivals</source>
         <translation>Nach der Ankunft ausführ&amp;en</translation>
     </message>
@@ -941,8 +925,20 @@ Bitte den Benutzernamen prüfen...
         <translation>Me&amp;lden, wenn Durchgänge misslingen und wenn sie wieder gelingen</translation>
     </message>
     <message>
-        <source>Version</source>
-        <translation>Version</translation>
+        <source>Kinds of movies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;dvanced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the command that a pass runs, and hides it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The template with the option filled in</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -990,10 +986,6 @@ Bitte den Benutzernamen prüfen...
     <message>
         <source>Opens the folder in the file browser; a right click asks how</source>
         <translation>Öffnet den Ordner im Dateimanager; ein Rechtsklick fragt, wie</translation>
-    </message>
-    <message>
-        <source>Notice about the source</source>
-        <translation>Hinweis zur Quelle</translation>
     </message>
     <message>
         <source>To</source>
@@ -1048,10 +1040,6 @@ Bitte den Benutzernamen prüfen...
         <translation>Beendet den laufenden Durchgang; was er zu kopieren begonnen hat, bleibt für den nächsten erhalten</translation>
     </message>
     <message>
-        <source>Remarks</source>
-        <translation>Anmerkungen</translation>
-    </message>
-    <message>
         <source>Arrived</source>
         <translation>Angekommen</translation>
     </message>
@@ -1064,12 +1052,16 @@ Bitte den Benutzernamen prüfen...
         <translation>Zeigt die Seite „Aktivität“</translation>
     </message>
     <message>
-        <source>Network</source>
-        <translation>Netzwerk</translation>
-    </message>
-    <message>
         <source>Whether this computer has a network connection</source>
         <translation>Ob dieser Computer eine Netzwerkverbindung hat</translation>
+    </message>
+    <message>
+        <source>&amp;Use This Source Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Passes pull from the host and folder that are set now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1908,6 +1900,135 @@ Bitte den Benutzernamen prüfen...
             <numerusform>%1, %2 und %Ln weitere</numerusform>
         </translation>
     </message>
+    <message>
+        <source>… 1 byte left out …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make a new key?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Mac will not let Kelvo Mirror in until the new key is installed there with Set Up Key…, which asks for the password on the Mac. Until then no pass brings movies.
+
+The key of today is kept beside the new one, under a name with the date, and is not used any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make a New Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key was not replaced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key of today could not be kept, so nothing was changed.
+
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No new key was made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key that was there before could not be put back. It lies at %1.
+
+%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key that was there before is in its place again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Mac chosen yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the Mac from the list of those in this network, or type its host name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, folder %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An account on the Mac that may log in there, and the folder with the movies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key made, and accepted by the remote Mac before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key made. The remote Mac could not be asked about it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key is installed on the Mac, so choose that and enter the account first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A terminal opens and asks for the password of %1 on %2; it is typed there and kept nowhere. When the two machines meet for the first time it asks before that whether to go on connecting: answer yes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Mac lets this program in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ssh is not installed on this machine. Install it with: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Mac was not asked, because %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Mac was not reached, or did not say a word. Test it once more, or log in with ssh in a terminal and see what it says.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Mac did not answer as it should. The last line was: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This machine has not met the Mac before. Set up the key: the terminal asks whether to trust the Mac.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Mac does not let this program in yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not tried yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asked at %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The message &quot;SUCCESS...&quot; only means that ssh named neither a missing key file nor an unknown host name; this line says what came of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kelvo Mirror: the password of %1 on %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Macs found.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ApplicationMenu</name>
@@ -2000,14 +2121,6 @@ Bitte den Benutzernamen prüfen...
         <translation>Symbol wie &amp;vor einem Neustart entfernen</translation>
     </message>
     <message>
-        <source>Set Up &amp;Watchdog Again</source>
-        <translation>&amp;Wächter erneut einrichten</translation>
-    </message>
-    <message>
-        <source>Has the program started again should it crash</source>
-        <translation>Lässt das Programm nach einem Absturz wieder starten</translation>
-    </message>
-    <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
@@ -2018,6 +2131,62 @@ Bitte den Benutzernamen prüfen...
     <message>
         <source>&amp;About Kelvo Mirror</source>
         <translation>Ü&amp;ber Kelvo Mirror</translation>
+    </message>
+    <message>
+        <source>Syncing is off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A pass begins as soon as nothing is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A pass runs already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The next pass begins in a moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pass is being cancelled already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No pass runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The icon is in the tray already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The icon appears as soon as the desktop has a tray for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The icon is not in the tray</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Diagnostics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tab and menu entries for finding out why something does not work</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the icon out of the tray as Quit and Relaunch does; the program keeps running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Again After a &amp;Crash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Has the program started again should it crash; each start does this by itself</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2076,6 +2245,47 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
     </message>
 </context>
 <context>
+    <name>kelvo::BonjourSheet</name>
+    <message>
+        <source>Discovery is not installed on this computer. Install it with:
+
+%1
+
+The list fills by itself once discovery runs. Without it, type the Mac&apos;s host name on the Remote Mac tab.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discovery is not running on this computer. Start it with:
+
+%1
+
+The list fills by itself once discovery runs. Without it, type the Mac&apos;s host name on the Remote Mac tab.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This computer is not connected to a network.
+
+Connect it to the network of the Mac. Then choose Rescan.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Mac has answered yet.
+
+Discovery has only just started; the search goes on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Mac was found.
+
+On the Mac, open System Settings, General, Sharing, and check that File Sharing and Remote Login are on.
+Check that both computers are on the same network.
+Then choose Rescan.
+
+The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>kelvo::BusNotices</name>
     <message>
         <source>Show</source>
@@ -2083,10 +2293,45 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
     </message>
 </context>
 <context>
+    <name>kelvo::BusyRow</name>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Working</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends what the program is doing for this tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening the remote folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Setting up the key…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Making a new key…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Being cancelled…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>kelvo::ChecklistView</name>
     <message>
         <source>What is missing before a pass</source>
         <translation>Was vor einem Durchgang fehlt</translation>
+    </message>
+    <message>
+        <source>Next step</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2119,6 +2364,14 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
         <source>%1: %2</source>
         <comment>a day, what came on it</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing has arrived. The arrow keys go from day to day.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. The most came on this day: %2, %3. The arrow keys go from day to day.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2182,16 +2435,8 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
         <translation>Führt den nächsten Schritt aus</translation>
     </message>
     <message>
-        <source>Last success</source>
-        <translation>Letzter Erfolg</translation>
-    </message>
-    <message>
         <source>How the last pass went will stand here.</source>
         <translation>Wie der letzte Durchgang ausging, wird hier stehen.</translation>
-    </message>
-    <message>
-        <source>Health: %1. %2</source>
-        <translation>Zustand: %1. %2</translation>
     </message>
 </context>
 <context>
@@ -2359,6 +2604,70 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
         <source>Version %1</source>
         <translation>Version %1</translation>
     </message>
+    <message>
+        <source>The template lacks %@1, the source: its command does not read the source that is chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The template lacks %@2, the destination: its command does not fill the folder that is chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The template lacks %@98, the options of ssh: its command does not use the key that was set up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The template lacks %@99, the option: the option that is chosen changes nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The template has a folder where its name may fall apart: passes are refused when the name holds blanks, quotes or the like.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The template under Advanced is your own and is left alone: the kinds of movies are written there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Movies of the kinds .mov and .mp4 always come from the remote Mac.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No kind is ticked: passes bring nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The rsync command with the places %@1 source, %@2 destination, %@3 key, %@98 ssh, %@99 option</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to My Template</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to the Factory Template</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brings back the template that the factory&apos;s took the place of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the template that Kelvo Mirror comes with; asks before it replaces one that was changed by hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go back to the factory template?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your own template is replaced. “Back to My Template” brings it back until the program ends.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep My Template</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kelvo::StatusFieldView</name>
@@ -2370,13 +2679,36 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
         <source>What the program is doing</source>
         <translation>Was das Programm gerade tut</translation>
     </message>
+</context>
+<context>
+    <name>kelvo::StepHead</name>
     <message>
-        <source>Status: %1</source>
-        <translation>Stand: %1</translation>
+        <source>Done</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Status</source>
-        <translation>Stand</translation>
+        <source>Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trouble</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2390,16 +2722,12 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
         <translation>Noch kein Zielordner gewählt</translation>
     </message>
     <message>
-        <source>Network</source>
-        <translation>Netzwerk</translation>
-    </message>
-    <message>
-        <source>Network: %1</source>
-        <translation>Netzwerk: %1</translation>
-    </message>
-    <message>
         <source>No remote Mac chosen yet</source>
         <translation>Noch kein entfernter Mac gewählt</translation>
+    </message>
+    <message>
+        <source>The pass went well: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2452,6 +2780,10 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
     </message>
+    <message>
+        <source>No destination folder is chosen yet</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>sourceNotice</name>
@@ -2468,8 +2800,8 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
         <translation>Den entfernten Ordner auf der Seite „Entfernter Mac“ eintragen.</translation>
     </message>
     <message>
-        <source>Passes still pull from the source above. The new host or folder takes effect when the user name changes or the program starts again.</source>
-        <translation>Die Durchgänge holen noch von der obigen Quelle. Der neue Host oder Ordner gilt, sobald sich der Benutzername ändert oder das Programm neu startet.</translation>
+        <source>Passes still pull from the source above. The new host or folder takes effect with &quot;Use This Source Now&quot;, or else when the user name changes or the program starts again.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
