@@ -1,4 +1,5 @@
 // The front with the main window.
+#include "adapters/desktop/color_scheme.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
 #include "app/start/app_delegate.h"
@@ -14,6 +15,7 @@
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/bonjour_sheet.h"
 #include "ui/widgets/checklist_view.h"
+#include "ui/widgets/dark_palette.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/recent_arrivals.h"
@@ -27,8 +29,9 @@
 #include "ui/widgets/widget_main_view.h"
 #include "ui/widgets/widget_open_panel.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
+#include <QDBusConnection>
 
 #include <utility>
 
@@ -52,14 +55,23 @@ public:
                    .showWhy = [this] { fWindow.showActivity(cNewestPass); }}),
           fOpenPanel(fWindow), fWindowController(std::make_shared<MainWindowController>(
                                    [this] { fWindow.bringToFront(); })) {
-        // Drawing the icon takes a while; the window does not wait for it.
-        machine.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
+        // The window does not wait for what takes a while.
+        machine.mainQueue.async([this] {
+            fWindow.setWindowIcon(applicationIcon());
+            if (!QDBusConnection::sessionBus().isConnected())
+                fMachine.console.log(QStringLiteral(
+                    "No session bus is reached: notices stay away, and the tray icon too where "
+                    "the desktop draws it over the bus."));
+            if (!ColorScheme::isTakenOverByToolkit())
+                fColorScheme.emplace(takeColors);
+        });
         showServices(fFoundServices, fWindow.foundServices());
         fWindow.activityTab().setParts({
             .store = machine.passes,
             .workspace = machine.workspace,
             .mainQueue = machine.mainQueue,
             .bgQueue = machine.bgQueue,
+            .defaults = machine.defaults,
             .destination =
                 [&machine] {
                     return expandingTilde(
@@ -131,7 +143,11 @@ public:
     }
 
 private:
-    static void copyText(const QString& text) { QGuiApplication::clipboard()->setText(text); }
+    static void takeColors(bool dark) {
+        QApplication::setPalette(dark ? darkPalette() : QPalette());
+    }
+
+    static void copyText(const QString& text) { QApplication::clipboard()->setText(text); }
 
     void apply(Remedy remedy) {
         switch (remedy) {
@@ -181,8 +197,17 @@ private:
             if (!mayQuit())
                 return false;
             fApplication.terminate();
+            return true;
         }
+        if (result == CloseResult::Hide)
+            tellWhereTheWindowGoes();
         return result != CloseResult::KeepOpen;
+    }
+
+    void tellWhereTheWindowGoes() {
+        if (const auto notice =
+                fClosePolicy.noticeAtHiding(fMachine.statusMenu().isReachable(), fMachine.defaults))
+            fMachine.notices.showNotice(*notice);
     }
 
     MachineParts& fMachine;
@@ -203,6 +228,7 @@ private:
     SheetPresenter fAlerts;
     WidgetOpenPanel fOpenPanel;
     OnceButtons fOnceButtons;
+    std::optional<ColorScheme> fColorScheme;
     std::shared_ptr<MainWindowController> fWindowController;
 };
 

@@ -1,5 +1,8 @@
 #include "ui/close_policy.h"
 
+#include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
+
 namespace kelvo {
 
 std::optional<Alert> ClosePolicy::noteBeforeClosing(bool trayReachable) {
@@ -13,6 +16,16 @@ std::optional<Alert> ClosePolicy::noteBeforeClosing(bool trayReachable) {
                  AlertStyle::Informational,
                  {QStringLiteral("Close Window"), QStringLiteral("Keep Open")},
                  false};
+}
+
+std::optional<Notice> ClosePolicy::noticeAtHiding(bool trayReachable,
+                                                  UserDefaults& defaults) const {
+    if (!trayReachable || fQuitting || defaults.boolForKey(prefClosedToTray))
+        return std::nullopt;
+    defaults.setObject(prefClosedToTray, true);
+    return Notice{.title = QStringLiteral("Kelvo Mirror keeps running"),
+                  .text = QStringLiteral("Its icon in the tray brings the window back; the icon's "
+                                         "menu ends the program.")};
 }
 
 CloseResult ClosePolicy::result(std::optional<ModalResponse> answer) const {

@@ -10,6 +10,7 @@ kelvo_tests(ui WIDGETS
     ui/bonjour_sheet_test.cpp
     ui/button_effects_test.cpp
     ui/checklist_view_test.cpp
+    ui/colors_test.cpp
     ui/day_chart_test.cpp
     ui/icons_test.cpp
     ui/main_window_test.cpp

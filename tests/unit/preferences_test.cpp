@@ -53,7 +53,11 @@ TEST(PreferencesTest, Keys_AreStoredAsTheyAreSpelledHere) {
         "commandAfterArrivals",
         "quitWithoutAsking",
         "mainWindowSize",
+        "mainWindowPlace",
+        "mainWindowMaximized",
         "mainWindowTab",
+        "passesHalves",
+        "closedToTray",
         "recentLaunchDates",
         "relaunchGivenUp",
     };
