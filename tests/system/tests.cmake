@@ -19,6 +19,7 @@ kelvo_tests(system
     system/program_test.cpp
     system/tray_system_test.cpp
     system/watchdog_system_test.cpp
+    system/wayland_system_test.cpp
     system/window_system_test.cpp
   LINKS kelvo_bus_testing Qt6::Gui
   TIMEOUT 120
