@@ -1,5 +1,6 @@
 #include "app/program.h"
 
+#include "adapters/desktop/activation_token.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
 #include "app/start/app_delegate.h"
@@ -37,7 +38,8 @@ public:
         : fKind(kind), fParts(kind == FrontKind::Window),
           fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
                       [this] { front().quit(); }),
-          fDuplicates(fParts.singleCopy, fParts.console, [this] { show(); }),
+          fDuplicates(fParts.singleCopy, fParts.console, activationToken(),
+                      [this](const QByteArray& token) { show(token); }),
           fWatchdog(Watchdog::begin({.signals = fParts.signals,
                                      .bundle = fParts.bundle,
                                      .defaults = fParts.defaults,
@@ -87,6 +89,7 @@ public:
         if (const auto exitCode = fDuplicates.exitCode())
             return *exitCode;
         fDelegate->applicationWillFinishLaunching();
+        offerActivationToken({});
         const int exitCode = QCoreApplication::exec();
         fParts.notificationCenter.post(cWillTerminateNotification.toString());
         return exitCode;
@@ -123,9 +126,12 @@ private:
         return controller;
     }
 
-    void show() {
-        if (fFront)
-            fFront->windowController()->showWindow();
+    void show(const QByteArray& token) {
+        if (!fFront)
+            return;
+        offerActivationToken(token);
+        fFront->windowController()->showWindow();
+        offerActivationToken({});
     }
 
     void showActivity(std::optional<qint64> pass) {

@@ -1,4 +1,5 @@
 // The front with the main window.
+#include "adapters/desktop/color_scheme.h"
 #include "adapters/network/link_watch.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
@@ -16,6 +17,7 @@
 #include "ui/widgets/activity_tab.h"
 #include "ui/widgets/bonjour_sheet.h"
 #include "ui/widgets/checklist_view.h"
+#include "ui/widgets/dark_palette.h"
 #include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
@@ -31,8 +33,9 @@
 #include "ui/widgets/widget_main_view.h"
 #include "ui/widgets/widget_open_panel.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
+#include <QDBusConnection>
 
 #include <utility>
 
@@ -56,8 +59,16 @@ public:
                    .showWhy = [this] { fWindow.showActivity(cNewestPass); }}),
           fOpenPanel(fWindow), fWindowController(std::make_shared<MainWindowController>(
                                    [this] { fWindow.bringToFront(); })) {
-        // Drawing the icon takes a while; the window does not wait for it.
-        machine.mainQueue.async([this] { fWindow.setWindowIcon(applicationIcon()); });
+        // The window does not wait for what takes a while.
+        machine.mainQueue.async([this] {
+            fWindow.setWindowIcon(applicationIcon());
+            if (!QDBusConnection::sessionBus().isConnected())
+                fMachine.console.log(QStringLiteral(
+                    "No session bus is reached: notices stay away, and the tray icon too where "
+                    "the desktop draws it over the bus."));
+            if (!ColorScheme::isTakenOverByToolkit())
+                fColorScheme.emplace(takeColors);
+        });
         fWindow.whenDiagnosticsAreMade(
             [this](DiagnosticsTab& tab) { showServices(fFoundServices, tab.foundServices()); });
         fWindow.activityTab().setParts({
@@ -65,6 +76,7 @@ public:
             .workspace = machine.workspace,
             .mainQueue = machine.mainQueue,
             .bgQueue = machine.bgQueue,
+            .defaults = machine.defaults,
             .destination =
                 [&machine] {
                     return expandingTilde(
@@ -152,7 +164,11 @@ public:
     }
 
 private:
-    static void copyText(const QString& text) { QGuiApplication::clipboard()->setText(text); }
+    static void takeColors(bool dark) {
+        QApplication::setPalette(dark ? darkPalette() : QPalette());
+    }
+
+    static void copyText(const QString& text) { QApplication::clipboard()->setText(text); }
 
     void apply(Remedy remedy) {
         switch (remedy) {
@@ -232,8 +248,17 @@ private:
             if (!mayQuit())
                 return false;
             fApplication.terminate();
+            return true;
         }
+        if (result == CloseResult::Hide)
+            tellWhereTheWindowGoes();
         return result != CloseResult::KeepOpen;
+    }
+
+    void tellWhereTheWindowGoes() {
+        if (const auto notice =
+                fClosePolicy.noticeAtHiding(fMachine.statusMenu().isReachable(), fMachine.defaults))
+            fMachine.notices.showNotice(*notice);
     }
 
     MachineParts& fMachine;
@@ -256,6 +281,7 @@ private:
     WidgetOpenPanel fOpenPanel;
     OnceButtons fOnceButtons;
     Subscription fPassEnds;
+    std::optional<ColorScheme> fColorScheme;
     std::shared_ptr<MainWindowController> fWindowController;
 };
 

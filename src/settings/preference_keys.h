@@ -32,8 +32,12 @@ inline constexpr QStringView prefCommandAfterArrivals = u"commandAfterArrivals";
 inline constexpr QStringView prefQuitWithoutAsking = u"quitWithoutAsking";
 inline constexpr QStringView prefShowDiagnostics = u"showDiagnostics";
 inline constexpr QStringView prefMainWindowSize = u"mainWindowSize";
+inline constexpr QStringView prefMainWindowPlace = u"mainWindowPlace";
+inline constexpr QStringView prefMainWindowMaximized = u"mainWindowMaximized";
 inline constexpr QStringView prefMainWindowTab = u"mainWindowTab";
 inline constexpr QStringView prefAdvancedShown = u"advancedShown";
+inline constexpr QStringView prefPassesHalves = u"passesHalves";
+inline constexpr QStringView prefClosedToTray = u"closedToTray";
 inline constexpr QStringView prefRecentLaunchDates = u"recentLaunchDates";
 inline constexpr QStringView prefRelaunchGivenUp = u"relaunchGivenUp";
 

@@ -1,5 +1,7 @@
 #include "ui/close_policy.h"
 
+#include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
 #include "ui/words.h"
 
 namespace kelvo {
@@ -15,6 +17,16 @@ std::optional<Alert> ClosePolicy::noteBeforeClosing(bool trayReachable) {
                  AlertStyle::Informational,
                  {Words::tr("Close Window"), Words::tr("Keep Open")},
                  false};
+}
+
+std::optional<Notice> ClosePolicy::noticeAtHiding(bool trayReachable,
+                                                  UserDefaults& defaults) const {
+    if (!trayReachable || fQuitting || defaults.boolForKey(prefClosedToTray))
+        return std::nullopt;
+    defaults.setObject(prefClosedToTray, true);
+    return Notice{.title = Words::tr("Kelvo Mirror keeps running"),
+                  .text = Words::tr("Its icon in the tray brings the window back; the icon's "
+                                    "menu ends the program.")};
 }
 
 CloseResult ClosePolicy::result(std::optional<ModalResponse> answer) const {

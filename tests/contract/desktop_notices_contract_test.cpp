@@ -1,5 +1,6 @@
 // The contract of DesktopNotices on the fake and on a bus with a notification service; then what
 // happens where there is no such service.
+#include "adapters/desktop/activation_token.h"
 #include "adapters/desktop/bus_notices.h"
 #include "fakes/recording_notices.h"
 #include "support/notification_service.h"
@@ -133,6 +134,25 @@ TEST_F(BusNoticesTest, Choice_IsOfferedWhereThereAreChoicesAndForOurNoticesOnly)
     EXPECT_EQ(service.hints.value(QStringLiteral("urgency")).toInt(), 1);
     EXPECT_EQ(shows, 0) << "the first notice was closed, and no other was chosen";
     EXPECT_TRUE(otherwise.isEmpty());
+}
+
+TEST_F(BusNoticesTest, TokenBeforeAChoice_IsThereForTheWindow) {
+    BusConnection desktop(bus.address(), QStringLiteral("notices-token-desktop"));
+    NotificationService service(desktop.get());
+    ASSERT_TRUE(service.appear());
+    BusConnection own(bus.address(), QStringLiteral("notices-token-own"));
+    BusNotices shown([](const Notice&) {}, [&own] { return own.get(); });
+    QByteArray token;
+    shown.showNotice({.title = QStringLiteral("A"), .text = QStringLiteral("b"), .show = [&token] {
+                          token = activationToken();
+                      }});
+    ASSERT_TRUE(waitInLoop([&] { return service.shown.size() == 1; }));
+    Q_EMIT service.ActivationToken(1, QStringLiteral("ours"));
+    Q_EMIT service.ActivationToken(2, QStringLiteral("another program's"));
+    Q_EMIT service.ActionInvoked(1, QStringLiteral("show"));
+    EXPECT_TRUE(waitInLoop([&] { return !token.isEmpty(); }));
+    EXPECT_EQ(token, "ours");
+    EXPECT_EQ(activationToken(), "") << "nobody comes across it later";
 }
 
 TEST_F(BusNoticesTest, NoService_IsShownOtherwise) {

@@ -50,6 +50,7 @@ kelvo_tests(contract
     contract/sentinel_launcher_contract_test.cpp
     contract/sentinel_test.cpp
     contract/service_answer_test.cpp
+    contract/color_scheme_test.cpp
     contract/command_runner_contract_test.cpp
     contract/signal_pipe_test.cpp
     contract/signals_contract_test.cpp

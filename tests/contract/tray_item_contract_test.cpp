@@ -1,4 +1,5 @@
 // The contract of TrayItem on the fake and on a bus with a panel; then what panels read on the bus.
+#include "adapters/desktop/activation_token.h"
 #include "adapters/desktop/status_notifier_item.h"
 #include "fakes/fake_tray_item.h"
 #include "support/session_bus.h"
@@ -304,6 +305,16 @@ TEST_F(StatusNotifierItemTest, Changes_AreSignalledAndNothingElseIs) {
     EXPECT_EQ(world.panel->heard.join(u'|'),
               u"NewStatus NeedsAttention|NewToolTip|NewIcon|NewAttentionIcon|"
               u"ItemsPropertiesUpdated|LayoutUpdated 3 0");
+}
+
+TEST_F(StatusNotifierItemTest, TokenOfAPanel_IsThereForTheWindowThatIsActivated) {
+    QByteArray token;
+    world.item.setChoices({.activate = [&] { token = activationToken(); }});
+    world.panel->askItem(QStringLiteral("ProvideXdgActivationToken"), {QStringLiteral("panel-17")});
+    world.panel->askItem(QStringLiteral("Activate"), {0, 0});
+    EXPECT_TRUE(waitInLoop([&] { return !token.isEmpty(); }));
+    EXPECT_EQ(token, "panel-17");
+    EXPECT_EQ(activationToken(), "") << "nobody comes across it later";
 }
 
 TEST_F(StatusNotifierItemTest, BadCalls_AreAnsweredWithErrors) {

@@ -3,7 +3,6 @@
 
 #include "ports/single_copy.h"
 
-#include <functional>
 #include <utility>
 
 namespace kelvo {
@@ -25,7 +24,7 @@ public:
     FakeSingleCopy(const FakeSingleCopy&) = delete;
     FakeSingleCopy& operator=(const FakeSingleCopy&) = delete;
 
-    Claim claim(std::function<void()> show) override {
+    Claim claim(const QByteArray& token, Show show) override {
         ++claims;
         if (fPlace.missing)
             return Claim::Unguarded;
@@ -36,7 +35,7 @@ public:
         }
         if (fPlace.firstHangs)
             return Claim::OtherIsSilent;
-        fPlace.first->fShow();
+        fPlace.first->fShow(token);
         return Claim::OtherIsShown;
     }
 
@@ -44,7 +43,7 @@ public:
 
 private:
     Place& fPlace;
-    std::function<void()> fShow;
+    Show fShow;
 };
 
 } // namespace kelvo

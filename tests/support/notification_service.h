@@ -25,6 +25,7 @@ public:
     QStringList can{QStringLiteral("actions")}; ///< what it says it can do
 
 Q_SIGNALS:
+    void ActivationToken(uint id, const QString& token);
     void ActionInvoked(uint id, const QString& action);
     void NotificationClosed(uint id, uint reason);
 

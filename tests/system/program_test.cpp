@@ -84,6 +84,35 @@ TEST_F(ProgramTest, DisplayThatDoesNotAnswer_IsSaidWithTheWayOut) {
     EXPECT_FALSE(QFile::exists(settingsFile())) << "nothing was started";
 }
 
+TEST_F(ProgramTest, WindowThatCannotBeOpened_IsSaidAndEndsInOrder) {
+    struct Case {
+        QStringList arguments;
+        const char* display; // of Wayland
+        const char* says;
+    };
+    for (const Case& c :
+         {Case{{QStringLiteral("-platform"), QStringLiteral("nonsense")}, "", "nonsense"},
+          Case{{QStringLiteral("-display=:98765")}, "", ":98765"},
+          Case{{QStringLiteral("-platform=wayland")}, "", "no Wayland display"},
+          Case{{}, "wayland-98765", "wayland-98765"},
+          Case{{QStringLiteral("-platform"), QStringLiteral("wayland;xcb")},
+               "/no/where",
+               "/no/where"}}) {
+        QProcess process;
+        QProcessEnvironment with = environment();
+        with.insert(QStringLiteral("WAYLAND_DISPLAY"), QString::fromLatin1(c.display));
+        process.setProcessEnvironment(with);
+        process.start(cProgram, c.arguments);
+        ASSERT_TRUE(process.waitForFinished());
+        const QByteArray errors = process.readAllStandardError();
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << c.says;
+        EXPECT_EQ(process.exitCode(), 3) << c.says;
+        EXPECT_TRUE(errors.contains("kelvo-mirror: ") && errors.contains(c.says))
+            << errors.constData();
+    }
+    EXPECT_FALSE(QFile::exists(settingsFile())) << "nothing was started";
+}
+
 TEST_F(ProgramTest, SecondCopy_EndsWithNothingWhileTheFirstRunsOn) {
     const auto first = start({});
     ASSERT_TRUE(first->waitForLine(QStringLiteral("Got version = "), 30));

@@ -20,6 +20,7 @@ kelvo_tests(system
     system/tray_menu_system_test.cpp
     system/tray_system_test.cpp
     system/watchdog_system_test.cpp
+    system/wayland_system_test.cpp
     system/window_system_test.cpp
   LINKS kelvo_bus_testing Qt6::Gui
   TIMEOUT 120

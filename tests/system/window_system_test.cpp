@@ -263,6 +263,7 @@ TEST_F(WindowSystemTest, ClosedWithATray_ComesBackByTheIconAndQuitsByItsMenu) {
 
 TEST_F(WindowSystemTest, ClosedWithoutATray_SaysSoOnceAndASecondCopyShowsIt) {
     startAndSettle(quietProfile());
+    EXPECT_TRUE(waitUntil([this] { return contents(logFile()).contains("No session bus"); }));
     screen.keys({QStringLiteral("ctrl+w")});
     ASSERT_TRUE(waitUntil([this] { return screen.activeTitle() != u"Kelvo Mirror"; }));
     keepPicture("close-note");
@@ -294,6 +295,46 @@ TEST_F(WindowSystemTest, HideOnLaunch_HidesUntilASecondCopyAsks) {
     second.start(cProgram, QStringList());
     ASSERT_TRUE(second.waitForFinished(cPatience));
     EXPECT_TRUE(becomesVisible(true));
+    EXPECT_EQ(program->stop(), 0);
+}
+
+TEST_F(WindowSystemTest, OptionsOfTheToolkit_ReachTheWindow) {
+    write(settingsFile(), plistText(quietProfile()));
+    program = std::make_unique<RunningProgram>(
+        cProgram, QStringLiteral("-geometry=640x500+60+70 -title Mine -reverse").split(u' '),
+        desktop);
+    QString mine;
+    ASSERT_TRUE(waitUntil([&] {
+        mine = screen.tool("xdotool", {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                       QStringLiteral("--name"), QStringLiteral("^Mine")});
+        return !mine.isEmpty();
+    })) << program->transcript().toStdString();
+    EXPECT_TRUE(
+        screen.tool("xdotool", {QStringLiteral("getwindowgeometry"), mine.section(u'\n', 0, 0)})
+            .contains(u"Geometry: 640x500"));
+    keepPicture("mirrored");
+    EXPECT_EQ(program->stop(), 0);
+}
+
+TEST_F(WindowSystemTest, Window_ComesBackWhereItWas) {
+    QVariantMap profile = quietProfile();
+    profile[QStringLiteral("mainWindowSize")] = QStringLiteral("640x480");
+    startAndSettle(profile);
+    screen.tool("xdotool", {QStringLiteral("windowmove"), visibleWindow(), QStringLiteral("57"),
+                            QStringLiteral("83")});
+    QRect moved;
+    ASSERT_TRUE(waitUntil([&] {
+        moved = windowPlace();
+        return moved.left() > 50;
+    }));
+    // Twice: a frame that is counted wrongly would add up.
+    for (int starts = 0; starts < 2; ++starts) {
+        ASSERT_EQ(program->stop(), 0);
+        program = std::make_unique<RunningProgram>(cProgram, QStringList(), desktop);
+        ASSERT_TRUE(becomesVisible(true));
+        EXPECT_TRUE(waitUntil([&] { return windowPlace() == moved; }))
+            << windowPlace().left() << ' ' << windowPlace().top();
+    }
     EXPECT_EQ(program->stop(), 0);
 }
 

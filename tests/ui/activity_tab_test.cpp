@@ -1,4 +1,5 @@
 #include "fakes/fake_desktop.h"
+#include "fakes/memory_defaults.h"
 #include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
 #include "ui/widgets/activity_tab.h"
@@ -13,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSplitter>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
@@ -34,6 +36,7 @@ protected:
                 .workspace = workspace,
                 .mainQueue = mainQueue,
                 .bgQueue = bgQueue,
+                .defaults = defaults,
                 .destination = [] { return QStringLiteral("/in"); }};
     }
 
@@ -85,6 +88,7 @@ protected:
     VirtualMainQueue mainQueue;
     ManualBackgroundQueue bgQueue;
     MemoryPassStore store{mainQueue};
+    MemoryDefaults defaults;
     FakeWorkspace workspace;
     ActivityTab tab;
 };
@@ -350,6 +354,31 @@ TEST_F(ActivityTabTest, TenThousandPasses_StayInStep) {
     append(PassCause::CutOff);
     EXPECT_EQ(passes().currentIndex().row(), 6) << "the selection stays";
     EXPECT_EQ(rows(), 6668);
+}
+
+TEST_F(ActivityTabTest, HalvesOfThePasses_AreRemembered) {
+    const auto halvesOf = [](ActivityTab& shown) {
+        shown.findChild<QPushButton*>(QStringLiteral("showPasses"))->click();
+        return shown.findChild<QSplitter*>(QStringLiteral("halves"));
+    };
+    tab.show();
+    QSplitter* halves = halvesOf(tab);
+    QSplitterHandle* handle = halves->handle(1);
+    QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::mouseMove(handle, QPoint(2, -60));
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(2, -60));
+    const QList<int> sizes = halves->sizes();
+    ActivityTab next;
+    next.resize(tab.size());
+    next.setParts(parts());
+    next.show();
+    EXPECT_EQ(halvesOf(next)->sizes(), sizes);
+    defaults.setObject(u"passesHalves", QStringLiteral("-1:x"));
+    ActivityTab other;
+    other.resize(tab.size());
+    other.setParts(parts());
+    other.show();
+    EXPECT_NE(halvesOf(other)->sizes(), sizes);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "fakes/fake_desktop.h"
+#include "fakes/memory_defaults.h"
 #include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
 #include "ui/widgets/activity_tab.h"
@@ -35,6 +36,7 @@ protected:
                       .workspace = workspace,
                       .mainQueue = mainQueue,
                       .bgQueue = bgQueue,
+                      .defaults = defaults,
                       .destination = [this] { return folder.path(); }});
     }
 
@@ -90,6 +92,7 @@ protected:
     VirtualMainQueue mainQueue;
     ManualBackgroundQueue bgQueue;
     MemoryPassStore store{mainQueue};
+    MemoryDefaults defaults;
     FakeWorkspace workspace;
     ActivityTab tab;
 };

@@ -21,6 +21,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStyleOptionButton>
@@ -44,6 +45,7 @@ protected:
                                        .workspace = workspace,
                                        .mainQueue = mainQueue,
                                        .bgQueue = bgQueue,
+                                       .defaults = defaults,
                                        .destination = [] { return QString(); }});
     }
 
@@ -319,9 +321,41 @@ TEST_F(MainWindowTest, SizeAndTab_AreRemembered) {
     EXPECT_EQ(next.tabs()[static_cast<std::size_t>(next.currentTab())].identifier, u"diagnostics");
 }
 
+TEST_F(MainWindowTest, PlaceAndMaximizedState_AreRemembered) {
+    window.resize(600, 500);
+    window.move(30, 40);
+    window.show();
+    window.close();
+    EXPECT_EQ(MainWindow(defaults, mainQueue).pos(), QPoint(30, 40));
+    window.showMaximized();
+    window.close();
+    {
+        MainWindow next(defaults, mainQueue);
+        EXPECT_TRUE(next.isMaximized());
+        next.show();
+        EXPECT_TRUE(next.isMaximized());
+        next.showNormal();
+        EXPECT_EQ(next.size(), QSize(600, 500));
+        next.close();
+    }
+    EXPECT_FALSE(MainWindow(defaults, mainQueue).isMaximized());
+}
+
+TEST_F(MainWindowTest, ScreenThatBecameSmaller_HoldsTheWholeWindow) {
+    const QRect room = window.screen()->availableGeometry();
+    set(prefMainWindowSize, QStringLiteral("%1x%2").arg(room.width() + 9).arg(room.height() - 9));
+    set(prefMainWindowPlace,
+        QStringLiteral("%1,%2").arg(room.width() - 20).arg(room.height() - 20));
+    EXPECT_EQ(MainWindow(defaults, mainQueue).geometry(), room.adjusted(0, 9, 0, 0));
+    set(prefMainWindowPlace, QStringLiteral("%1,0").arg(room.width() + 20));
+    EXPECT_EQ(MainWindow(defaults, mainQueue).pos(), window.pos()) << "that screen is gone";
+}
+
 TEST_F(MainWindowTest, NonsenseAboutTheLook_IsIgnored) {
     for (const char* size : {"", "x", "-5x9", "99999999x99999999", "axb", "1x1"}) {
         defaults.setObject(u"mainWindowSize", QString::fromLatin1(size));
+        defaults.setObject(u"mainWindowPlace", QString::fromLatin1(size));
+        defaults.setObject(u"mainWindowMaximized", QString::fromLatin1(size));
         defaults.setObject(u"mainWindowTab", 7);
         MainWindow next(defaults, mainQueue);
         EXPECT_GE(next.width(), next.minimumSizeHint().width()) << size;

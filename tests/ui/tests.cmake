@@ -13,6 +13,7 @@ kelvo_tests(ui WIDGETS
     ui/busy_row_test.cpp
     ui/button_effects_test.cpp
     ui/checklist_view_test.cpp
+    ui/colors_test.cpp
     ui/day_chart_test.cpp
     ui/diagnostics_tab_test.cpp
     ui/icons_test.cpp

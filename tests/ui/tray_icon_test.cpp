@@ -1,3 +1,4 @@
+#include "adapters/desktop/dbus_menu.h"
 #include "fakes/fake_status_menu.h"
 #include "fakes/fake_tray_item.h"
 #include "fakes/virtual_queues.h"
@@ -192,6 +193,14 @@ TEST_F(TrayIconTest, OtherPalette_RedrawsTheIcon) {
                                 QColor(0x20, 0x20, 0x20))
                          .pixmap(16)
                          .toImage());
+}
+
+TEST(DBusMenuTest, MirroredLayout_IsToldToThePanel) {
+    const DBusMenu menu({}, {});
+    EXPECT_EQ(menu.textDirection(), u"ltr");
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(menu.textDirection(), u"rtl");
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "fakes/memory_defaults.h"
 #include "ui/close_policy.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +10,22 @@ TEST(ClosePolicyTest, TrayInReach_HidesWithoutAWord) {
     ClosePolicy policy;
     EXPECT_EQ(policy.noteBeforeClosing(true), std::nullopt);
     EXPECT_EQ(policy.result(std::nullopt), CloseResult::Hide);
+}
+
+TEST(ClosePolicyTest, FirstCloseToTheTray_IsToldOnceEver) {
+    MemoryDefaults defaults;
+    EXPECT_EQ(ClosePolicy().noticeAtHiding(false, defaults), std::nullopt) << "there is no tray";
+    ClosePolicy quitting;
+    quitting.programQuits();
+    EXPECT_EQ(quitting.noticeAtHiding(true, defaults), std::nullopt);
+    const auto notice = ClosePolicy().noticeAtHiding(true, defaults);
+    ASSERT_TRUE(notice);
+    EXPECT_EQ(notice->title, u"Kelvo Mirror keeps running");
+    EXPECT_EQ(notice->text, u"Its icon in the tray brings the window back; the icon's menu ends "
+                            u"the program.");
+    EXPECT_FALSE(notice->urgent);
+    EXPECT_FALSE(notice->show);
+    EXPECT_EQ(ClosePolicy().noticeAtHiding(true, defaults), std::nullopt) << "in a later run";
 }
 
 TEST(ClosePolicyTest, NoTray_SaysSoOnce) {

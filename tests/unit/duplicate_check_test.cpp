@@ -10,7 +10,10 @@ namespace {
 class DuplicateCheckTest : public ::testing::Test {
 protected:
     std::optional<int> exitCodeOf(FakeSingleCopy& copy) {
-        DuplicateCheck check(copy, console, [this] { ++shows; });
+        DuplicateCheck check(copy, console, "token", [this](const QByteArray& token) {
+            ++shows;
+            shownWith = token;
+        });
         check.checkForDuplicateRunningInstances();
         return check.exitCode();
     }
@@ -20,6 +23,7 @@ protected:
     FakeSingleCopy second{place};
     RecordingConsole console;
     int shows = 0;
+    QByteArray shownWith;
 };
 
 TEST_F(DuplicateCheckTest, OnlyCopy_Runs) {
@@ -32,6 +36,7 @@ TEST_F(DuplicateCheckTest, SecondCopy_HasTheFirstShowItselfAndEndsWell) {
     ASSERT_EQ(exitCodeOf(first), std::nullopt);
     EXPECT_EQ(exitCodeOf(second), 0);
     EXPECT_EQ(shows, 1);
+    EXPECT_EQ(shownWith, "token");
     EXPECT_TRUE(console.logged().last().contains(u"running already"));
 }
 

@@ -163,7 +163,18 @@ TEST(CommandLineTest, EachRefusal_SaysWhy) {
           Case{"--get", "it is '--get KEY', and nothing else with it"},
           Case{"--set a", "it is '--set KEY VALUE', and nothing else with it"},
           Case{"--unset", "it is '--unset KEY', and nothing else with it"},
-          Case{"--settings --json", "it is '--settings', and nothing else with it"}}) {
+          Case{"--settings --json", "it is '--settings', and nothing else with it"},
+          Case{"-revers", "Unknown option 'revers'."},
+          Case{"-z", "Unknown option 'z'."},
+          Case{"-Vz", "Unknown option 'Vz'."},
+          Case{"--frobnicate", "Unknown option 'frobnicate'."},
+          Case{"-hV --frobnicate", "Unknown option 'frobnicate'."},
+          Case{"-reverse=yes", "Unknown option 'reverse=yes'."},
+          Case{"-- -reverse", "unexpected argument '-reverse'"},
+          Case{"-style", "the option '-style' lacks its value"},
+          Case{"--headless -reverse", "'-reverse' is for the window, and --headless opens none"},
+          Case{"--platform=xcb --once", "'-platform' is for the window, and --once opens none"},
+          Case{"--passes -name x", "'-name' is for the window, and --passes opens none"}}) {
         const CommandLine line =
             parseCommandLine(QString(u"m " + QString::fromLatin1(c.words)).split(u' '));
         EXPECT_EQ(line.kind, LaunchKind::Refuse) << c.words;
@@ -171,6 +182,35 @@ TEST(CommandLineTest, EachRefusal_SaysWhy) {
                                     .arg(QString::fromLatin1(c.reason)))
             << c.words;
     }
+}
+
+TEST(CommandLineTest, OptionsOfTheToolkit_AreHandedOnAsItTakesThem) {
+    struct Case {
+        const char* words;
+        const char* given;
+    };
+    for (const Case& c :
+         {Case{"-reverse", "-reverse"}, Case{"--reverse", "-reverse"},
+          Case{"-platform wayland", "-platform wayland"}, Case{"-platform=xcb", "-platform xcb"},
+          Case{"--style=Fusion", "-style Fusion"},
+          Case{"-stylesheet /a=b.qss", "-stylesheet /a=b.qss"},
+          Case{"-geometry -5-5", "-geometry -5-5"}, Case{"-title --once", "-title --once"},
+          Case{"-session= --autorelaunched -name=x", "-session  -name x"}}) {
+        const CommandLine line =
+            parseCommandLine(QString(u"m " + QString::fromLatin1(c.words)).split(u' '));
+        EXPECT_EQ(line.kind, LaunchKind::Window) << c.words << line.message.toStdString();
+        EXPECT_EQ(line.window.given, QString::fromLatin1(c.given).split(u' ')) << c.words;
+        EXPECT_EQ(line.autorelaunched, QByteArray(c.words).contains("--autorelaunched"));
+    }
+    const CommandLine twice = parseCommandLine(
+        QStringLiteral("m -platform xcb -display :1 -platform wayland").split(u' '));
+    EXPECT_EQ(twice.window.valueOf(u"platform"), u"wayland");
+    EXPECT_EQ(twice.window.valueOf(u"display"), u":1");
+    EXPECT_EQ(twice.window.valueOf(u"style"), QString());
+    EXPECT_EQ(parseCommandLine(QStringLiteral("m --set prefPath1 -reverse").split(u' ')).kind,
+              LaunchKind::Settings);
+    EXPECT_EQ(parseCommandLine(QStringLiteral("m -reverse --help").split(u' ')).kind,
+              LaunchKind::PrintHelp);
 }
 
 TEST(CommandLineTest, Help_NamesEveryOptionForPeople) {

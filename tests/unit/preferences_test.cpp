@@ -54,8 +54,12 @@ TEST(PreferencesTest, Keys_AreStoredAsTheyAreSpelledHere) {
         "quitWithoutAsking",
         "showDiagnostics",
         "mainWindowSize",
+        "mainWindowPlace",
+        "mainWindowMaximized",
         "mainWindowTab",
         "advancedShown",
+        "passesHalves",
+        "closedToTray",
         "recentLaunchDates",
         "relaunchGivenUp",
     };

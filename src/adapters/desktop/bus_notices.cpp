@@ -1,5 +1,7 @@
 #include "adapters/desktop/bus_notices.h"
 
+#include "adapters/desktop/activation_token.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -91,16 +93,26 @@ void BusNotices::notify(const QDBusConnection& bus, const Notice& notice,
 void BusNotices::listen(QDBusConnection bus) {
     if (std::exchange(fListens, true))
         return;
+    bus.connect(service(), place(), service(), QStringLiteral("ActivationToken"), this,
+                SLOT(activationToken(uint, QString)));
     bus.connect(service(), place(), service(), QStringLiteral("ActionInvoked"), this,
                 SLOT(actionInvoked(uint, QString)));
     bus.connect(service(), place(), service(), QStringLiteral("NotificationClosed"), this,
                 SLOT(notificationClosed(uint, uint)));
 }
 
+/// Told right before the choice that it belongs to.
+void BusNotices::activationToken(uint id, const QString& token) {
+    if (fShows.contains(id))
+        offerActivationToken(token.toUtf8());
+}
+
 /// The service tells every program of every choice: only our own numbers count.
 void BusNotices::actionInvoked(uint id, const QString&) {
-    if (const auto chosen = fShows.extract(id))
+    if (const auto chosen = fShows.extract(id)) {
         chosen.mapped()();
+        offerActivationToken({});
+    }
 }
 
 void BusNotices::notificationClosed(uint id, uint) {

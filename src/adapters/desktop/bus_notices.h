@@ -23,6 +23,7 @@ public:
     void showNotice(const Notice& notice) override;
 
 private Q_SLOTS:
+    void activationToken(uint id, const QString& token);
     void actionInvoked(uint id, const QString& action);
     void notificationClosed(uint id, uint reason);
 

@@ -1,6 +1,7 @@
 #include "adapters/desktop/dbus_menu.h"
 
 #include <QDBusMetaType>
+#include <QGuiApplication>
 #include <QTimer>
 
 #include <algorithm>
@@ -62,6 +63,10 @@ DBusMenu::DBusMenu(std::function<void(std::size_t)> choose, std::function<void(b
     qRegisterMetaType<EntryPropertyNames>("kelvo::EntryPropertyNames");
     registerTypes<MenuLayout, MenuEvent, MenuEvents, EntryProperties::value_type, EntryProperties,
                   EntryPropertyNames::value_type, EntryPropertyNames>();
+}
+
+QString DBusMenu::textDirection() const {
+    return QGuiApplication::isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr");
 }
 
 void DBusMenu::setEntries(std::vector<TrayEntry> entries) {

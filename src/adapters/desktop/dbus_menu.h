@@ -70,7 +70,7 @@ public:
     void setEntries(std::vector<TrayEntry> entries);
 
     uint version() const { return 3; }
-    QString textDirection() const { return QStringLiteral("ltr"); }
+    QString textDirection() const;
     QString status() const { return QStringLiteral("normal"); }
     QStringList iconThemePath() const { return {}; }
 

@@ -1,5 +1,7 @@
 #include "adapters/desktop/status_notifier_item.h"
 
+#include "adapters/desktop/activation_token.h"
+
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusPendingCall>
@@ -136,8 +138,7 @@ void StatusNotifierItem::ContextMenu(int x, int y) {
 void StatusNotifierItem::Scroll(int, const QString&) {}
 
 void StatusNotifierItem::ProvideXdgActivationToken(const QString& token) {
-    // Where the toolkit looks for it when a window is raised.
-    qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+    offerActivationToken(token.toUtf8());
 }
 
 /// The panel has its answer first: what is chosen may take its time.
@@ -145,6 +146,7 @@ void StatusNotifierItem::later(std::function<void()> choice) {
     QTimer::singleShot(0, this, [this, choice = std::move(choice)] {
         if (fBus && choice)
             choice();
+        offerActivationToken({});
     });
 }
 

@@ -30,7 +30,10 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-constexpr std::string_view cRequest = "show\n";
+/// Ended by a line end; with a token there is a blank and the token before that.
+constexpr std::string_view cRequest = "show";
+constexpr std::size_t cLongestToken = 255;
+constexpr std::size_t cLongestRequest = cRequest.size() + 1 + cLongestToken + 1;
 constexpr std::string_view cAnswer = "shown\n";
 constexpr std::size_t cMostClients = 16;
 constexpr auto cRetryPause = 50ms;
@@ -71,15 +74,40 @@ QString faultOf(const std::string& folder) {
     return ::stat(folder.c_str(), &entry) == 0 ? foreignWriters(entry) : lastFault();
 }
 
+bool isToken(std::string_view text) {
+    return !text.empty() && text.size() <= cLongestToken &&
+           std::ranges::all_of(text, [](char byte) { return byte > ' ' && byte <= '~'; });
+}
+
+std::string requestWith(const QByteArray& token) {
+    const std::string text = token.toStdString();
+    return std::string(cRequest) + (isToken(text) ? ' ' + text : std::string()) + '\n';
+}
+
+/// The token that the whole request `said` carries, empty when it has none; nothing for anything
+/// else.
+std::optional<QByteArray> tokenOf(std::string_view said) {
+    if (!said.starts_with(cRequest) || !said.ends_with('\n'))
+        return {};
+    said.remove_prefix(cRequest.size());
+    said.remove_suffix(1);
+    if (said.empty())
+        return QByteArray();
+    if (said.front() != ' ' || !isToken(said.substr(1)))
+        return {};
+    return QByteArray(said.substr(1).data(), static_cast<qsizetype>(said.size() - 1));
+}
+
 /// One attempt to have the other copy show itself.
-bool askOther(const std::optional<sockaddr_un>& address, Clock::time_point deadline) {
+bool askOther(const std::optional<sockaddr_un>& address, const std::string& request,
+              Clock::time_point deadline) {
     if (!address)
         return false;
     const UniqueFd socket = localSocket();
     if (!socket || ::connect(socket.get(), generic(*address), sizeof *address) != 0 ||
         !isOurUser(socket.get()) ||
-        ::send(socket.get(), cRequest.data(), cRequest.size(), MSG_NOSIGNAL) !=
-            static_cast<ssize_t>(cRequest.size()))
+        ::send(socket.get(), request.data(), request.size(), MSG_NOSIGNAL) !=
+            static_cast<ssize_t>(request.size()))
         return false;
     std::string answer;
     while (answer.size() < cAnswer.size()) {
@@ -102,8 +130,7 @@ bool askOther(const std::optional<sockaddr_un>& address, Clock::time_point deadl
 /// The place of the one copy: its lock, its socket, and those who are connected.
 class SingleCopySocket::Listener {
 public:
-    Listener(UniqueFd lock, std::function<void()> show)
-        : fLock(std::move(lock)), fShow(std::move(show)) {}
+    Listener(UniqueFd lock, Show show) : fLock(std::move(lock)), fShow(std::move(show)) {}
     /// Let go of by hand: a child that was just being started may have the lock's descriptor too.
     ~Listener() {
         if (!fPath.empty())
@@ -152,20 +179,21 @@ private:
     }
 
     void hear(Client& client) {
-        std::array<char, cRequest.size() + 1> bytes{};
+        std::array<char, cLongestRequest + 1> bytes{};
         const ssize_t count = ::recv(client.socket.get(), bytes.data(), bytes.size(), 0);
         if (count < 0 && (errno == EAGAIN || errno == EINTR))
             return;
         if (count > 0)
             client.said.append(bytes.data(), static_cast<std::size_t>(count));
-        if (count > 0 && client.said.size() < cRequest.size() && cRequest.starts_with(client.said))
+        if (count > 0 && client.said.size() < cLongestRequest &&
+            client.said.find('\n') == std::string::npos)
             return;
-        const bool asked = client.said == cRequest;
+        const auto token = tokenOf(client.said);
         const UniqueFd socket = std::move(client.socket);
         drop(client);
-        if (!asked)
+        if (!token)
             return;
-        fShow();
+        fShow(*token);
         (void)::send(socket.get(), cAnswer.data(), cAnswer.size(), MSG_NOSIGNAL);
     }
 
@@ -179,7 +207,7 @@ private:
     }
 
     UniqueFd fLock;
-    std::function<void()> fShow;
+    Show fShow;
     UniqueFd fSocket;
     std::string fPath;
     QObject fContext;
@@ -193,7 +221,7 @@ SingleCopySocket::SingleCopySocket(std::string folder, Console& console,
 
 SingleCopySocket::~SingleCopySocket() = default;
 
-SingleCopy::Claim SingleCopySocket::claim(std::function<void()> show) {
+SingleCopy::Claim SingleCopySocket::claim(const QByteArray& token, Show show) {
     const auto unguarded = [this](const QString& fault) {
         fConsole.log(u"Cannot look for another running copy: " + fault);
         return Claim::Unguarded;
@@ -211,8 +239,11 @@ SingleCopy::Claim SingleCopySocket::claim(std::function<void()> show) {
     while (::flock(lock.get(), LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK && errno != EINTR)
             return unguarded(QString::fromStdString(lockPath) + u": " + lastFault());
-        if (askOther(address, deadline))
-            return Claim::OtherIsShown;
+        // A copy from before an upgrade knows no tokens.
+        for (const std::string& request : {requestWith(token), requestWith({})}) {
+            if (askOther(address, request, deadline))
+                return Claim::OtherIsShown;
+        }
         if (Clock::now() >= deadline)
             return Claim::OtherIsSilent;
         // The other one may be just starting, or just ending.

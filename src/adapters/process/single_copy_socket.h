@@ -26,7 +26,8 @@ public:
     /// Stops listening and gives the place up.
     ~SingleCopySocket() override;
 
-    Claim claim(std::function<void()> show) override;
+    /// A token of more than 255 bytes, or of others than visible ASCII, is none.
+    Claim claim(const QByteArray& token, Show show) override;
 
 private:
     class Listener;

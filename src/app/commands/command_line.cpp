@@ -4,6 +4,9 @@
 
 #include <QCommandLineParser>
 
+#include <algorithm>
+#include <utility>
+
 namespace kelvo {
 
 namespace {
@@ -12,6 +15,21 @@ namespace {
 QString helpText(const QCommandLineParser& parser) {
     const QString text = parser.helpText();
     return u"Usage: kelvo-mirror" + text.sliced(text.indexOf(u" [options]"));
+}
+
+/// What `parser` could not understand of `arguments`. A word behind a single dash is named as it
+/// was typed; the parser would name each of its letters.
+QString parsingProblem(const QCommandLineParser& parser, const QStringList& arguments) {
+    const QStringList unknown = parser.unknownOptionNames();
+    for (const QString& word : arguments.sliced(1)) {
+        if (word == u"--")
+            break;
+        const bool hasUnknownLetter = std::ranges::any_of(
+            word, [&](QChar letter) { return unknown.contains(QString(letter)); });
+        if (word.size() > 2 && word[0] == u'-' && word[1] != u'-' && hasUnknownLetter)
+            return u"Unknown option '" + word.sliced(1) + u"'.";
+    }
+    return parser.errorText();
 }
 
 } // namespace
@@ -68,8 +86,11 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         line.settings = *complete;
         return line;
     }
-    if (!parser.parse(arguments))
-        return refuse(parser.errorText());
+    WindowOptions window = windowOptions(arguments);
+    if (!window.problem.isEmpty())
+        return refuse(window.problem);
+    if (!parser.parse(window.rest))
+        return refuse(parsingProblem(parser, window.rest));
     if (!parser.positionalArguments().isEmpty())
         return refuse(u"unexpected argument '" + parser.positionalArguments().constFirst() + u'\'');
     if (parser.isSet(help))
@@ -81,6 +102,11 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         if (parser.isSet(*each))
             return refuse(u"--" + each->names().constFirst() +
                           u" stands alone, with blanks between its words");
+    }
+    for (const QCommandLineOption* each : {&headless, &once, &passes}) {
+        if (!window.given.isEmpty() && parser.isSet(*each))
+            return refuse(u'\'' + window.given.constFirst() + u"' is for the window, and --" +
+                          each->names().constFirst() + u" opens none");
     }
     if (parser.isSet(passes)) {
         if (parser.isSet(headless) || parser.isSet(once))
@@ -107,9 +133,11 @@ CommandLine parseCommandLine(const QStringList& arguments) {
     }
     if (parser.isSet(json))
         return refuse(QStringLiteral("--json goes with --once or --passes"));
-    return {parser.isSet(headless) ? LaunchKind::Headless : LaunchKind::Window,
-            parser.isSet(autorelaunched),
-            {}};
+    CommandLine line{parser.isSet(headless) ? LaunchKind::Headless : LaunchKind::Window,
+                     parser.isSet(autorelaunched),
+                     {}};
+    line.window = std::move(window);
+    return line;
 }
 
 } // namespace kelvo

@@ -3,6 +3,7 @@
 
 #include "app/commands/passes.h"
 #include "app/commands/settings_commands.h"
+#include "app/commands/window_options.h"
 
 #include <QString>
 #include <QStringList>
@@ -18,6 +19,7 @@ struct CommandLine {
     bool json = false;           ///< for Once
     PassesRequest passes{};      ///< for Passes
     SettingsRequest settings{};  ///< for Settings
+    WindowOptions window{};      ///< for Window
 };
 
 /// Reads `arguments`, the program's name first.

@@ -6,11 +6,13 @@
 
 namespace kelvo {
 
-DuplicateCheck::DuplicateCheck(SingleCopy& singleCopy, Console& console, std::function<void()> show)
-    : fSingleCopy(singleCopy), fConsole(console), fShow(std::move(show)) {}
+DuplicateCheck::DuplicateCheck(SingleCopy& singleCopy, Console& console, QByteArray token,
+                               SingleCopy::Show show)
+    : fSingleCopy(singleCopy), fConsole(console), fToken(std::move(token)), fShow(std::move(show)) {
+}
 
 void DuplicateCheck::checkForDuplicateRunningInstances() {
-    switch (fSingleCopy.claim(std::move(fShow))) {
+    switch (fSingleCopy.claim(fToken, std::move(fShow))) {
     case SingleCopy::Claim::OtherIsShown:
         fConsole.log(QStringLiteral("Kelvo Mirror is running already; it shows its window."));
         fExitCode = 0;

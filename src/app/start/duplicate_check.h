@@ -3,7 +3,6 @@
 
 #include "ports/single_copy.h"
 
-#include <functional>
 #include <optional>
 
 namespace kelvo {
@@ -16,9 +15,10 @@ public:
     /// The exit code of a copy that cannot reach the one that runs.
     static constexpr int cExitOtherIsSilent = 4;
 
-    /// `show` brings this copy's window to the front, should a later copy ask for it. It may be
-    /// called as soon as the event loop runs.
-    DuplicateCheck(SingleCopy& singleCopy, Console& console, std::function<void()> show);
+    /// `token` is this start's own, for the copy that runs. `show` brings this copy's window to the
+    /// front, should a later copy ask for it. It may be called as soon as the event loop runs.
+    DuplicateCheck(SingleCopy& singleCopy, Console& console, QByteArray token,
+                   SingleCopy::Show show);
 
     /// Looks for another copy; blocks for its answer, 5 s at most. Called once.
     void checkForDuplicateRunningInstances();
@@ -29,7 +29,8 @@ public:
 private:
     SingleCopy& fSingleCopy;
     Console& fConsole;
-    std::function<void()> fShow;
+    const QByteArray fToken;
+    SingleCopy::Show fShow;
     std::optional<int> fExitCode;
 };
 

@@ -37,7 +37,7 @@ void ActivityTab::build() {
     fUi = std::make_unique<Ui::ActivityTab>();
     fUi->setupUi(this);
     fArrivals = new ArrivalsView(*fParts);
-    fPasses = new PassesView(fParts->store);
+    fPasses = new PassesView(fParts->store, fParts->defaults);
     fUi->pages->addWidget(fArrivals);
     fUi->pages->addWidget(fPasses);
     connect(fUi->showArrived, &QPushButton::toggled, this, [this](bool arrived) {

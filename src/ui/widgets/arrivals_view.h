@@ -17,6 +17,7 @@ namespace kelvo {
 class ArrivalRows;
 class BackgroundQueue;
 class DispatchQueue;
+class UserDefaults;
 class Workspace;
 
 /// What the Activity tab works with; the references outlive it.
@@ -25,6 +26,7 @@ struct ActivityParts {
     Workspace& workspace;
     DispatchQueue& mainQueue;
     BackgroundQueue& bgQueue;             ///< looks whether a file is there
+    UserDefaults& defaults;               ///< keeps how the tab is divided
     std::function<QString()> destination; ///< the folder whose path the names are shown without
 };
 

@@ -2,6 +2,7 @@
 
 #include "ui/activity_texts.h"
 #include "ui/widgets/elided_label.h"
+#include "ui/widgets/trouble_color.h"
 
 #include <QHeaderView>
 #include <QLocale>
@@ -15,11 +16,6 @@ namespace {
 
 constexpr int cHeight = 48;
 constexpr int cMark = 7; ///< the triangle's height, kept free above the bars
-
-QColor troubleColor(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightnessF() < 0.5F ? QColor(0xff, 0x8a, 0x80)
-                                                               : QColor(0xb0, 0x1c, 0x1c);
-}
 
 void drawMark(QPainter& painter, const QRectF& place) {
     painter.drawPolygon(QPolygonF(
@@ -117,7 +113,7 @@ void DayChart::paintEvent(QPaintEvent*) {
         painter.drawRect(
             QRect(ground.left(), ground.bottom() + 1 - height, ground.width(), height));
         if (fDays[i].trouble) {
-            painter.setBrush(troubleColor(palette()));
+            painter.setBrush(troubleColor(palette().color(QPalette::Window)));
             const QRectF mark(place.center().x() + 0.5 - cMark / 2.0,
                               ground.bottom() - height - cMark, cMark, cMark);
             drawMark(painter, mark);

@@ -19,9 +19,28 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include <algorithm>
 #include <utility>
 
 namespace kelvo {
+namespace {
+
+/// The two whole numbers of "12x34"; nothing for any other text.
+std::optional<QPoint> pairIn(const std::optional<QString>& text, QChar between) {
+    const QStringList numbers = text.value_or(QString()).split(between);
+    bool isFirst = false;
+    bool isSecond = false;
+    const QPoint pair(numbers.value(0).toInt(&isFirst), numbers.value(1).toInt(&isSecond));
+    return numbers.size() == 2 && isFirst && isSecond ? std::optional(pair) : std::nullopt;
+}
+
+/// On Wayland the compositor alone knows where windows are.
+bool placesItself() {
+    return !QGuiApplication::platformName().startsWith(u"wayland");
+}
+
+} // namespace
+
 MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     : fDefaults(defaults), fBindings(defaults, mainQueue), fUi(std::make_unique<Ui::MainWindow>()),
       fSyncTab(new SyncTab(fBindings)), fRemoteTab(new RemoteTab(fBindings)),
@@ -205,20 +224,37 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::restoreLook() {
-    const QStringList sides =
-        fDefaults.stringForKey(prefMainWindowSize).value_or(QString()).split(u'x');
-    const QSize wanted(sides.value(0).toInt(), sides.value(1).toInt());
-    if (wanted.width() > 0 && wanted.height() > 0) {
-        const QSize room = screen()->availableSize();
-        resize(wanted.boundedTo(room).expandedTo(minimumSizeHint()));
+    const auto size = pairIn(fDefaults.stringForKey(prefMainWindowSize), u'x');
+    const auto place = pairIn(fDefaults.stringForKey(prefMainWindowPlace), u',');
+    // A screen that is gone, or smaller by now, shall not keep the window out of sight.
+    const QScreen* known = place ? QGuiApplication::screenAt(*place) : nullptr;
+    const QRect room = (known ? known : screen())->availableGeometry();
+    if (size && size->x() > 0 && size->y() > 0)
+        resize(QSize(size->x(), size->y()).boundedTo(room.size()).expandedTo(minimumSizeHint()));
+    if (known && placesItself()) {
+        const auto within = [](int at, int length, int from, int to) {
+            return std::max(from, std::min(at, to + 1 - length));
+        };
+        move(within(place->x(), width(), room.left(), room.right()),
+             within(place->y(), height(), room.top(), room.bottom()));
     }
+    if (fDefaults.boolForKey(prefMainWindowMaximized))
+        setWindowState(windowState() | Qt::WindowMaximized);
     showTab(fDefaults.stringForKey(prefMainWindowTab).value_or(QString()));
 }
 
 void MainWindow::keepLook() {
-    const QString now = QString::number(width()) + u'x' + QString::number(height());
-    if (!isMaximized() && fDefaults.stringForKey(prefMainWindowSize) != now)
-        fDefaults.setObject(prefMainWindowSize, now);
+    const auto keep = [this](QStringView key, const QString& now) {
+        if (fDefaults.stringForKey(key) != now)
+            fDefaults.setObject(key, now);
+    };
+    if (isMaximized() != fDefaults.boolForKey(prefMainWindowMaximized))
+        fDefaults.setObject(prefMainWindowMaximized, isMaximized());
+    if (isMaximized() || isMinimized())
+        return;
+    keep(prefMainWindowSize, QStringLiteral("%1x%2").arg(width()).arg(height()));
+    if (placesItself())
+        keep(prefMainWindowPlace, QStringLiteral("%1,%2").arg(x()).arg(y()));
 }
 
 // -- what others look at

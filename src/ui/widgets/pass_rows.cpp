@@ -30,6 +30,12 @@ bool PassRows::Filter::lets(const PassRecord& record) const {
 PassRows::PassRows(Icons icons, QObject* parent)
     : QAbstractItemModel(parent), fIcons(std::move(icons)) {}
 
+void PassRows::setIcons(Icons icons) {
+    fIcons = std::move(icons);
+    if (const int rows = rowCount(); rows > 0)
+        Q_EMIT dataChanged(index(0, Outcome), index(rows - 1, Outcome), {Qt::DecorationRole});
+}
+
 // -- what is shown
 
 void PassRows::setRecords(std::vector<PassRecord> records) {

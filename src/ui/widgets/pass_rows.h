@@ -37,6 +37,9 @@ public:
 
     explicit PassRows(Icons icons, QObject* parent = nullptr);
 
+    /// Others from now on, in every row.
+    void setIcons(Icons icons);
+
     /// Newest first.
     void setRecords(std::vector<PassRecord> records);
     /// A pass that has just ended; of more than `most` the oldest goes.
@@ -79,7 +82,7 @@ private:
     void show(std::size_t place);
     void dropOldest();
 
-    const Icons fIcons;
+    Icons fIcons;
     std::deque<PassRecord> fRecords; ///< oldest first: new ones are put at the end
     std::size_t fDropped = 0;        ///< how many have left at the front
     std::deque<Run> fRuns;           ///< oldest first

@@ -1,6 +1,8 @@
 #include "ui/widgets/passes_view.h"
 
 #include "ports/pass_store.h"
+#include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
 #include "ui/activity_texts.h"
 #include "ui/pass_words.h"
 #include "ui/widgets/announcement.h"
@@ -22,13 +24,19 @@
 #include <utility>
 
 namespace kelvo {
+namespace {
 
-PassesView::PassesView(PassStore& store, QWidget* parent)
+PassRows::Icons iconsOf(const QWidget& view) {
+    return {.well = view.style()->standardIcon(QStyle::SP_DialogApplyButton),
+            .trouble = view.style()->standardIcon(QStyle::SP_MessageBoxWarning),
+            .running = startIcon(false, view.palette())};
+}
+
+} // namespace
+
+PassesView::PassesView(PassStore& store, UserDefaults& defaults, QWidget* parent)
     : QWidget(parent), fStore(store), fUi(std::make_unique<Ui::PassesView>()),
-      fRows(new PassRows({.well = style()->standardIcon(QStyle::SP_DialogApplyButton),
-                          .trouble = style()->standardIcon(QStyle::SP_MessageBoxWarning),
-                          .running = startIcon(false, palette())},
-                         this)) {
+      fRows(new PassRows(iconsOf(*this), this)) {
     fUi->setupUi(this);
     fUi->passes->setModel(fRows);
     const auto widen = [this](PassRows::Column column, const QString& text, int more = 0) {
@@ -44,6 +52,7 @@ PassesView::PassesView(PassStore& store, QWidget* parent)
     widen(PassRows::Time, TimeLeftWords().text(55 * 60));
     new WideColumn(*fUi->passes, PassRows::Outcome);
     fUi->passText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    keepHalves(defaults);
     connect(fUi->broughtFiles, &QCheckBox::toggled, this, [this] { setFilter(); });
     connect(fUi->inTrouble, &QCheckBox::toggled, this, [this] { setFilter(); });
     connect(fUi->passes->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -54,10 +63,28 @@ PassesView::PassesView(PassStore& store, QWidget* parent)
 
 PassesView::~PassesView() = default;
 
+void PassesView::keepHalves(UserDefaults& defaults) {
+    const QStringList kept =
+        defaults.stringForKey(prefPassesHalves).value_or(QString()).split(u':');
+    if (const QList sizes{kept.value(0).toInt(), kept.value(1).toInt()};
+        sizes[0] > 0 && sizes[1] > 0)
+        fUi->halves->setSizes(sizes);
+    connect(fUi->halves, &QSplitter::splitterMoved, this, [this, &defaults] {
+        const QList<int> sizes = fUi->halves->sizes();
+        defaults.setObject(prefPassesHalves, QStringLiteral("%1:%2").arg(sizes[0]).arg(sizes[1]));
+    });
+}
+
 void PassesView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     readStore();
     showWork(fWork);
+}
+
+void PassesView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        fRows->setIcons(iconsOf(*this));
+    QWidget::changeEvent(event);
 }
 
 void PassesView::readStore() {

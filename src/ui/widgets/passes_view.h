@@ -17,14 +17,15 @@ namespace kelvo {
 
 class PassRows;
 class PassStore;
+class UserDefaults;
 struct PassRecord;
 
 /// Reads the store when it is first shown.
 class PassesView final : public QWidget {
     Q_OBJECT
 public:
-    /// `store` outlives the view.
-    explicit PassesView(PassStore& store, QWidget* parent = nullptr);
+    /// Both outlive the view; `defaults` keeps how list and text share the room.
+    PassesView(PassStore& store, UserDefaults& defaults, QWidget* parent = nullptr);
     ~PassesView() override;
 
     /// A pass that the store has just been given.
@@ -40,8 +41,10 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void keepHalves(UserDefaults& defaults);
     void readStore();
     void select(qint64 id);
     void setFilter();
