@@ -5,6 +5,7 @@ technologies, what is spoken of its own accord, and what the keyboard alone can 
 a11y_test.py BUILD_FOLDER [CASE…]; exit status 77 when something is missing on this machine."""
 
 import os
+import subprocess
 import sys
 import unittest
 import xml.etree.ElementTree
@@ -68,16 +69,25 @@ class A11yTest(unittest.TestCase):
     def focused(self):
         return self.desk.wait(self.desk.focused, "something with the keyboard focus")
 
+    def press(self, key):
+        """Presses the key, and returns what the focus comes to."""
+        self.desk.look()
+        before = len(self.desk.heard.focus)
+        self.desk.keys(key)
+        # A table tells of its current cell before it tells of itself.
+        return self.desk.wait(
+            lambda: next((seen for seen in self.desk.heard.focus[before:]
+                          if seen.role not in ("table cell", "frame")), None),
+            f"{key} brings the focus to something",
+        )  # fmt: skip
+
     def tab_to(self, name):
         """Presses the Tab key until `name` has the focus."""
-        passed = []
-        for _ in range(60):
-            seen = self.desk.focused()
-            if seen and seen.name == name:
-                return seen
-            passed.append(seen)
-            self.desk.keys("Tab")
-        self.fail(f"the Tab key does not lead to {name!r}: {passed}")
+        passed = [self.focused()]
+        while passed[-1].name != name:
+            self.assertLess(len(passed), 60, f"the Tab key does not lead to {name!r}: {passed}")
+            passed.append(self.press("Tab"))
+        return passed[-1]
 
     def wait_focus(self, name):
         return self.desk.wait(
@@ -85,11 +95,31 @@ class A11yTest(unittest.TestCase):
             lambda: f"the focus on {name!r}; it is on {self.desk.focused()}",
         )
 
-    def activate(self, title):
+    def wait_sheet(self, title):
+        """The sheet or box of this title, with the keyboard in it."""
+        self.desk.wait_active(title)
+        return self.desk.wait(
+            lambda: next((seen for seen in self.desk.tree()
+                          if seen.name == title and seen.role in ("dialog", "alert")), None),
+            f"the sheet {title!r}",
+        )  # fmt: skip
+
+    def close_sheet(self, key, back):
+        """Closes the sheet that is open; the focus is to come back to `back`."""
+        self.desk.keys(key)
         self.desk.wait(
-            lambda: self.desk.xdotool("getactivewindow", "getwindowname").strip() == title,
-            f"a window {title!r} with the keyboard",
+            lambda: not any(seen.role in ("dialog", "alert") for seen in self.desk.tree()),
+            "the sheet closes",
         )
+        self.desk.wait_active("Kelvo Mirror")
+        self.wait_focus(back)
+
+    def make_key(self):
+        """A pair of keys as the program makes it."""
+        path = self.desk.path("home/.ssh/id_kelvoRsync")
+        os.makedirs(os.path.dirname(path), mode=0o700)
+        subprocess.run(["ssh-keygen", "-q", "-t", "ed25519", "-N", "", "-f", path], check=True)
+        return path
 
     # -- the tree
 
@@ -121,6 +151,8 @@ class A11yTest(unittest.TestCase):
     def test_SyncTab_SpeaksWhatIsShown(self):
         self.put_movie()
         self.desk.start(self.plain())
+        came = [(seen.role, seen.name) for seen in self.desk.heard.focus[:2]]
+        self.assertEqual(came, [("frame", "Kelvo Mirror"), ("push button", "Start rsync")])
         start = self.focused()
         self.assertEqual((start.role, start.name), ("push button", "Start rsync with afp path"))
         self.desk.keys("space")
@@ -163,6 +195,59 @@ class A11yTest(unittest.TestCase):
 
     # -- the keyboard
 
+    def test_TabKey_ComesRoundOnEachTab(self):
+        self.desk.start(self.plain(prefRsyncWithSSH=True, showDiagnostics=True, advancedShown=True))
+        tabs = self.tabs()
+        self.assertEqual(len(tabs), 5)
+        for tab in tabs:
+            self.show_tab(tab)
+            walked = [self.press("Tab")]
+            while (seen := self.press("Tab")).words() != walked[0].words():
+                walked.append(seen)
+                self.assertLess(len(walked), 60, f"{tab}: {walked}")
+            passed = [(seen.role, seen.name) for seen in walked]
+            self.assertIn(("page tab list", tab), passed)
+            self.assertEqual(len(set(passed)), len(passed), f"{tab}: {passed}")
+            for seen in self.desk.tree():
+                if seen.role in SETTABLE and seen.focusable and seen.enabled:
+                    # Of radio buttons that exclude each other the chosen one is passed.
+                    if seen.role != "radio button" or seen.checked:
+                        self.assertIn((seen.role, seen.name), passed, tab)
+            back = self.press("shift+Tab")
+            self.assertEqual(back.words(), walked[-1].words(), f"{tab}: back again")
+
+    def test_Sheets_GiveTheFocusBack(self):
+        key = self.make_key()
+        with open(key, encoding="ascii") as file:
+            before = file.read()
+        self.desk.start(self.plain(prefRsyncWithSSH=True))
+        self.show_tab("Remote Mac")
+        self.tab_to("Choose the remote Mac")
+        self.desk.keys("Return")
+        self.wait_sheet("Choose the Remote Mac")
+        why = self.desk.heard.wait("Discovery is not ")
+        self.assertTrue(self.desk.find(role="label", name=why), "it stands there, too")
+        self.close_sheet("Escape", "Choose the remote Mac")
+        self.tab_to("Make a New Key")
+        self.desk.keys("Return")
+        self.wait_sheet("Make a new key?")
+        self.wait_focus("Keep the Key")
+        self.close_sheet("Return", "Make a New Key")
+        with open(key, encoding="ascii") as file:
+            self.assertEqual(file.read(), before)
+
+    def test_AboutBox_IsReadAndGivesTheFocusBack(self):
+        self.desk.start(self.plain())
+        before = self.focused().name
+        self.desk.keys("alt+h")
+        self.desk.wait(lambda: self.entries_of("Help"), "the menu")
+        self.desk.keys("a")
+        box = self.wait_sheet("About Kelvo Mirror")
+        texts = [seen.name for seen in self.desk.tree(box.node)]
+        self.assertTrue(any(text.startswith("Kelvo Mirror ") for text in texts), texts)
+        self.assertIn("Keeps a local folder supplied with movie files from a remote Mac.", texts)
+        self.close_sheet("Return", before)
+
     def test_KeyboardAlone_SetsUpAndPulls(self):
         self.put_movie()
         self.desk.start({"prefDelayBetweenScans": 1.0})
@@ -181,7 +266,7 @@ class A11yTest(unittest.TestCase):
             self.desk.type(self.desk.path(folder))
             self.desk.keys("Return")
             self.desk.wait(lambda: not self.desk.find(role="dialog"), "the dialog closes")
-            self.activate("Kelvo Mirror")
+            self.desk.wait_active("Kelvo Mirror")
             self.wait_focus(button)
         self.tab_to("click to start rsync")
         self.desk.keys("space")
@@ -235,6 +320,94 @@ class A11yTest(unittest.TestCase):
             self.assertLess(len(passed), 20, passed)
             self.desk.keys("Tab")
             passed.append(self.focused())
+
+    def test_TroubleOfTheRecord_IsSpokenAtTheStartAndItsEnd(self):
+        settings = self.plain(prefDelayBetweenScans=60.0)
+        os.rename(self.desk.path("Camera"), self.desk.path("Away"))
+        self.desk.start(settings)
+        self.desk.keys("space")
+        trouble = self.desk.heard.wait("since ")
+        self.assertEqual(self.desk.stop(), 0)
+        os.rename(self.desk.path("Away"), self.desk.path("Camera"))
+        self.desk.heard.forget()
+        self.desk.start(settings)
+        again = self.desk.heard.wait("since ")
+        self.assertEqual(again.split(" since ")[0], trouble.split(" since ")[0])
+        self.assertEqual(self.focused().role, "push button")
+        self.desk.keys("space")
+        self.desk.heard.wait("All is well.")
+        # Nothing is new, but it was asked for.
+        self.desk.heard.wait("The pass went well: nothing new.")
+        self.desk.heard.forget()
+        self.put_movie()
+        self.desk.wait(self.may_sync_now, "the rest after the pass")
+        self.desk.keys("ctrl+r")
+        self.desk.heard.wait("The pass went well: 1 file.")
+        self.assertEqual(self.desk.heard.texts, ["The pass went well: 1 file."], "all else is known")
+
+    def may_sync_now(self):
+        button = self.desk.find(role="push button", name="Sync Now")
+        return button and button.enabled
+
+    def test_ConnectionTest_SpeaksItsVerdictThenItsAlert(self):
+        self.make_key()
+        self.desk.start(
+            self.plain(
+                prefRsyncWithSSH=True,
+                prefRemoteBonjourName="127.0.0.1",
+                prefRemoteUsername="ann",
+                prefRemotePath="Movies",
+            )
+        )
+        self.show_tab("Remote Mac")
+        self.tab_to("Test Connection")
+        for _ in range(2):
+            self.desk.heard.forget()
+            self.desk.keys("Return")
+            self.desk.heard.wait("Asking the remote Mac…")
+            verdict = self.desk.heard.wait("Remote Login")
+            alert = self.wait_sheet("SUCCESS...")
+            texts = [seen.name for seen in self.desk.tree(alert.node)]
+            self.assertIn("remote seem to be alive?...", texts)
+            self.close_sheet("Return", "Test Connection")
+            self.assertTrue(self.desk.find(role="label", name=verdict), "it stands there, too")
+            self.assertEqual(self.desk.heard.texts.count(verdict), 1)
+
+    def test_NewKey_IsHeardFromBeginningToEnd(self):
+        os.makedirs(self.desk.path("home/.ssh"), mode=0o700)
+        self.desk.start(self.plain(prefRsyncWithSSH=True))
+        self.show_tab("Remote Mac")
+        self.tab_to("Make a New Key")
+        self.desk.heard.forget()
+        self.desk.keys("Return")
+        self.desk.heard.wait("Making a new key…")
+        self.desk.heard.wait("Finished.")
+        self.assertTrue(os.path.exists(self.desk.path("home/.ssh/id_kelvoRsync.pub")))
+        self.desk.heard.wait("Key made.")
+        self.wait_focus("Make a New Key")
+
+    def test_TemplateTrouble_IsSpokenWhenItComes(self):
+        self.desk.start(self.plain(prefRsyncWithSSH=True))
+        self.show_tab("Settings")
+        self.tab_to("Advanced")
+        self.desk.keys("space")
+        self.tab_to("Command template")
+        self.desk.keys("ctrl+a")
+        self.desk.type("rsync %@98 %@99 %@1")
+        said = "The template lacks %@2, the destination"
+        count = lambda: sum(text.startswith(said) for text in self.desk.heard.texts)  # noqa: E731
+        self.desk.wait(lambda: count() == 1, lambda: f"it is spoken: {self.desk.heard.texts}")
+        self.desk.type(" -r")
+        self.desk.wait(lambda: self.example_has("%@1 -r"), "the example follows")
+        self.assertEqual(count(), 1, "no news")
+        self.desk.type(" %@2")
+        self.desk.wait(lambda: self.example_has("%@2"), "the example follows")
+        self.desk.keys("BackSpace")
+        self.desk.wait(lambda: count() == 2, lambda: f"again: {self.desk.heard.texts}")
+
+    def example_has(self, part):
+        return any(seen.role == "label" and part in seen.name and "lacks" not in seen.name
+                   for seen in self.desk.tree())  # fmt: skip
 
     def test_KeyState_IsSpokenWhenItIsAskedFor(self):
         self.desk.start(

@@ -1,15 +1,19 @@
 // What a screen reader is told to speak of its own accord, and what it is not bothered with.
 #include "fakes/memory_defaults.h"
 #include "fakes/virtual_queues.h"
+#include "settings/preference_keys.h"
 #include "support/pass_record.h"
 #include "ui/widgets/accessible_factory.h"
 #include "ui/widgets/announcement.h"
 #include "ui/widgets/main_window.h"
+#include "ui/widgets/remote_tab.h"
 #include "ui/widgets/status_field_view.h"
 #include "ui/widgets/sync_tab.h"
 
 #include <QApplication>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -58,6 +62,25 @@ protected:
         listen();
     }
 
+    void macSays(PassCause cause) {
+        window.remoteTab().setConnection(
+            {.answer = HostAnswer{.target = QStringLiteral("ann@mac.local"), .cause = cause},
+             .asked = QDateTime::currentDateTimeUtc(),
+             .letInBefore = true});
+        listen();
+    }
+    void test(PassCause cause) {
+        window.remoteTab().setTesting(true);
+        listen();
+        macSays(cause);
+        window.remoteTab().setTesting(false);
+        listen();
+    }
+    void task(RemoteTaskKind kind) {
+        window.remoteTab().setTask(kind);
+        listen();
+    }
+
     MemoryDefaults defaults;
     VirtualMainQueue mainQueue;
     MainWindow window{defaults, mainQueue};
@@ -101,6 +124,9 @@ TEST_F(AnnouncementTest, PassAskedFor_SaysHowItWentAlthoughItIsNoNews) {
     window.button(QStringLiteral("ibSyncNow")).click();
     health(HealthSign::Trouble, "No answer since 10:00 (2 passes).", "away");
     EXPECT_EQ(heard(), QStringList{"No answer since 10:00 (2 passes)."});
+    window.button(QStringLiteral("ibSyncNow")).click();
+    health(HealthSign::Well, "All is well.");
+    EXPECT_EQ(heard(), QStringList{"All is well."});
 }
 
 TEST_F(AnnouncementTest, EndOfAPass_IsSpokenWhenItBroughtSomethingOrWasAskedFor) {
@@ -125,6 +151,69 @@ TEST_F(AnnouncementTest, KeyState_IsSpokenWhereItStands) {
     listen();
     window.showKeyState(KeyState::Accepted);
     EXPECT_EQ(heard(), (QStringList{"Asking the remote Mac…", "Key accepted by the remote Mac."}));
+}
+
+TEST_F(AnnouncementTest, ConnectionTest_SpeaksItsVerdictEachTime) {
+    window.showTab(QStringLiteral("remote"));
+    const QStringList once{"Asking the remote Mac…", "The Mac lets this program in."};
+    test(PassCause::Well);
+    EXPECT_EQ(heard(), once);
+    test(PassCause::Well);
+    EXPECT_EQ(heard(), once) << "it was asked for";
+}
+
+TEST_F(AnnouncementTest, ConnectionWatched_SpeaksWhatIsNewOnly) {
+    window.showTab(QStringLiteral("remote"));
+    macSays(PassCause::Well);
+    EXPECT_EQ(heard(), QStringList()) << "what the record says is no news";
+    macSays(PassCause::Well);
+    EXPECT_EQ(heard(), QStringList());
+    macSays(PassCause::HostAway);
+    EXPECT_EQ(heard(),
+              QStringList{"The Mac is away or asleep. Wake the Mac; in its energy settings, let it "
+                          "wake for network access."});
+    window.remoteTab().setKeyState(KeyState::Asking);
+    window.remoteTab().setKeyState(KeyState::Accepted);
+    EXPECT_EQ(heard(), QStringList()) << "the key has words of its own";
+}
+
+TEST_F(AnnouncementTest, BusyRow_SpeaksBeginningAndEnd) {
+    task(RemoteTaskKind::OpeningFolder);
+    task(RemoteTaskKind::None);
+    EXPECT_EQ(heard(), QStringList()) << "the tab is not in sight";
+    window.showTab(QStringLiteral("remote"));
+    for (const RemoteTaskKind kind : {RemoteTaskKind::OpeningFolder, RemoteTaskKind::OpeningFolder,
+                                      RemoteTaskKind::None, RemoteTaskKind::None})
+        task(kind);
+    EXPECT_EQ(heard(), (QStringList{"Opening the remote folder…", "Finished."}));
+    for (const RemoteTaskKind kind :
+         {RemoteTaskKind::MakingKey, RemoteTaskKind::Ending, RemoteTaskKind::None})
+        task(kind);
+    EXPECT_EQ(heard(), (QStringList{"Making a new key…", "Being cancelled…", "Cancelled."}));
+}
+
+TEST_F(AnnouncementTest, TemplateTrouble_IsSpokenWhenItComes) {
+    const auto type = [this](const char* text) {
+        auto& field = *window.findChild<QPlainTextEdit*>(QStringLiteral("rsyncTemplate"));
+        field.setFocus();
+        field.selectAll();
+        QTest::keyClicks(&field, QString::fromLatin1(text));
+        mainQueue.advance(0.2);
+        listen();
+    };
+    const QStringList spoken{"The template lacks %@2, the destination: its command does not fill "
+                             "the folder that is chosen."};
+    defaults.setObject(prefRsyncCommandString1, QStringLiteral("rsync %@1"));
+    defaults.setObject(prefAdvancedShown, true);
+    mainQueue.runDue();
+    window.showTab(QStringLiteral("prefs"));
+    EXPECT_EQ(heard(), QStringList()) << "it stood there before";
+    type("rsync -r %@1");
+    EXPECT_EQ(heard(), spoken);
+    type("rsync %@1 %@2");
+    EXPECT_EQ(heard(), QStringList());
+    type("rsync %@1");
+    EXPECT_EQ(heard(), spoken);
 }
 
 TEST_F(AnnouncementTest, AnotherWindowHasTheKeyboard_OnlyTroubleIsSpoken) {

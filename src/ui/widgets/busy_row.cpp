@@ -1,11 +1,23 @@
 #include "ui/widgets/busy_row.h"
 
+#include "ui/widgets/announcement.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 
+#include <utility>
+
 namespace kelvo {
+namespace {
+
+void speak(QWidget& place, const QString& text) {
+    forgetSpoken(place);
+    announce(place, text);
+}
+
+} // namespace
 
 BusyRow::BusyRow(QWidget* parent)
     : QWidget(parent), fText(new QLabel), fCancel(new QPushButton(tr("Cance&l"))) {
@@ -33,6 +45,7 @@ BusyRow::BusyRow(QWidget* parent)
 
 void BusyRow::setTask(RemoteTaskKind kind) {
     const bool busy = kind != RemoteTaskKind::None;
+    const RemoteTaskKind before = std::exchange(fTask, kind);
     if (busy) {
         fText->setText(wordsFor(kind));
         if (isHidden())
@@ -40,7 +53,12 @@ void BusyRow::setTask(RemoteTaskKind kind) {
     } else if (fCancel->hasFocus() && fFocusBefore && fFocusBefore->isEnabled()) {
         fFocusBefore->setFocus(Qt::OtherFocusReason);
     }
+    // Two places: the end may come before the beginning was read from its own.
+    if (before != kind && !busy)
+        speak(*this, endOf(before));
     setVisible(busy);
+    if (before != kind && busy)
+        speak(*fText, fText->text());
 }
 
 QString BusyRow::wordsFor(RemoteTaskKind kind) {
@@ -57,6 +75,10 @@ QString BusyRow::wordsFor(RemoteTaskKind kind) {
         break;
     }
     return {};
+}
+
+QString BusyRow::endOf(RemoteTaskKind kind) {
+    return kind == RemoteTaskKind::Ending ? tr("Cancelled.") : tr("Finished.");
 }
 
 } // namespace kelvo

@@ -11,8 +11,9 @@ class QPushButton;
 
 namespace kelvo {
 
-/// Keeps its room while nothing runs and nothing is shown. When it goes, the focus goes back to
-/// where it was when the row came. Its button is named "ibCancelCommand".
+/// Keeps its room while nothing runs and nothing is shown. What runs is spoken, and its end. When
+/// the row goes, the focus goes back to where it was when it came. Its button is named
+/// "ibCancelCommand".
 class BusyRow final : public QWidget {
     Q_OBJECT
 public:
@@ -22,10 +23,12 @@ public:
 
 private:
     static QString wordsFor(RemoteTaskKind kind);
+    static QString endOf(RemoteTaskKind kind);
 
     QLabel* const fText;
     QPushButton* const fCancel;
     QPointer<QWidget> fFocusBefore;
+    RemoteTaskKind fTask = RemoteTaskKind::None;
 };
 
 } // namespace kelvo

@@ -94,10 +94,10 @@ QWidget& HealthView::focusPlace() const {
 void HealthView::speak() {
     const bool trouble = fHealth.sign == HealthSign::Trouble;
     const QString cause = trouble ? fHealth.cause : QString();
-    const bool isNews = fSpoken ? *fSpoken != cause : trouble;
     if (fHealth.sign == HealthSign::Unknown)
         return;
-    fSpoken = cause;
+    const bool isAnswer = std::exchange(fAskedFor, false) && trouble;
+    const bool isNews = std::exchange(fSpoken, cause) != cause || isAnswer;
     if (!isNews)
         return;
     forgetSpoken(*this);

@@ -30,7 +30,7 @@ public:
     QWidget& focusPlace() const;
 
     /// A person has asked for a pass: how it went is spoken although it is no news.
-    void forgetSpokenText() { fSpoken.reset(); }
+    void forgetSpokenText() { fAskedFor = true; }
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -40,7 +40,8 @@ private:
     void speak();
 
     Health fHealth;
-    std::optional<QString> fSpoken; ///< the cause; none before anything is known
+    QString fSpoken;        ///< the cause of the trouble; empty while there is none
+    bool fAskedFor = false; ///< trouble is spoken even if it is the same
     QLabel* fSign;
     QLabel* fText;
     QLabel* fLastSuccess;

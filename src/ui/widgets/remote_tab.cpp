@@ -2,6 +2,7 @@
 
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "ui/widgets/announcement.h"
 #include "ui/widgets/bindings.h"
 #include "ui/widgets/flow_layout.h"
 #include "ui/widgets/source_notice.h"
@@ -116,7 +117,11 @@ void RemoteTab::setKeyState(KeyState state) {
 }
 
 void RemoteTab::setConnection(const Connection& connection) {
-    fFacts.connection = connection;
+    const std::optional<HostAnswer> before = std::exchange(fFacts.connection, connection).answer;
+    if (const std::optional<HostAnswer>& now = connection.answer)
+        fVerdictIsNews = fVerdictIsNews || fTesting || (before && before->cause != now->cause);
+    else
+        fVerdictIsNews = false;
     update();
 }
 
@@ -159,6 +164,19 @@ void RemoteTab::update() {
     markMainButton();
     if (left)
         openNextStep();
+    speakVerdict();
+}
+
+/// A check of the key has words of its own.
+void RemoteTab::speakVerdict() {
+    const QString& text = fShown[at(SetupStep::Connection)].text;
+    if (fTesting) {
+        announce(*fUi->connectionText, text);
+    } else if (fVerdictIsNews && !fFacts.asking) {
+        fVerdictIsNews = false;
+        forgetSpoken(*fUi->connectionText);
+        announce(*fUi->connectionText, text);
+    }
 }
 
 void RemoteTab::showStep(SetupStep number) {

@@ -41,7 +41,8 @@ public:
     /// What is known of the key.
     void setKeyState(KeyState state);
 
-    /// What the Mac said.
+    /// What the Mac said. It is spoken when it was asked by the connection test, and when it is not
+    /// what it said before.
     void setConnection(const Connection& connection);
 
     bool wasShown() const { return fWasShown; }
@@ -75,6 +76,7 @@ private:
     void update();
     void showStep(SetupStep number);
     void showSource(const SetupLine& account);
+    void speakVerdict();
     void markMainButton();
     void finish(SetupStep number);
     void focusOn(SetupStep number);
@@ -90,6 +92,7 @@ private:
     bool fTesting = false;
     bool fAskingForTheKey = false;
     bool fWasShown = false;
+    bool fVerdictIsNews = false; ///< it is spoken as soon as it is shown
     /// What a person has just asked to be done; once it is, the step folds.
     std::optional<SetupStep> fFinishing;
 };

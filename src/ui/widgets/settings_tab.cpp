@@ -6,6 +6,7 @@
 #include "settings/preference_keys.h"
 #include "ui/command_example.h"
 #include "ui/template_faults.h"
+#include "ui/widgets/announcement.h"
 #include "ui/widgets/bindings.h"
 #include "ui/widgets/muted_hints.h"
 #include "ui/widgets/trouble_color.h"
@@ -196,6 +197,10 @@ void SettingsTab::lookAtTemplate() {
                         defaults.integerForKey(prefRsyncCommandOptionTag)))
         troubles.append(wordsFor(fault));
     showTrouble(*fUi->templateTrouble, troubles.join(u'\n'));
+    if (troubles.isEmpty())
+        forgetSpoken(*fUi->commandBox);
+    else
+        announce(*fUi->commandBox, troubles.join(u'\n'));
     QStringList description = troubles;
     description.prepend(tr("The rsync command with the places %@1 source, %@2 destination, %@3 "
                            "key, %@98 ssh, %@99 option"));
