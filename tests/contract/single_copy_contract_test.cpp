@@ -179,10 +179,13 @@ public:
             ::bind(fSocket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
         EXPECT_EQ(::listen(fSocket.get(), 4), 0);
     }
-    /// Answers nothing but the plain request, until that has come.
+    void end() const { ::shutdown(fSocket.get(), SHUT_RDWR); }
+    /// Answers nothing but the plain request, until that has come or this one ends.
     void serve() const {
         for (std::string said; said != "show\n";) {
             const UniqueFd guest(::accept(fSocket.get(), nullptr, nullptr));
+            if (!guest)
+                return;
             std::array<char, 300> bytes{};
             const ssize_t count = ::recv(guest.get(), bytes.data(), bytes.size(), 0);
             said.assign(bytes.data(), static_cast<std::size_t>(std::max<ssize_t>(0, count)));
@@ -200,7 +203,8 @@ private:
 TEST_F(SingleCopySocketTest, CopyFromBeforeTheTokens_IsAskedPlainly) {
     const EarlierCopy earlier(folder.path().toStdString());
     std::thread serving([&] { earlier.serve(); });
-    EXPECT_EQ(copy(15s)->claim("token", cNoShow), Claim::OtherIsShown);
+    EXPECT_EQ(copy(5s)->claim("token", cNoShow), Claim::OtherIsShown);
+    earlier.end();
     serving.join();
 }
 

@@ -80,7 +80,7 @@ protected:
 TEST_F(TerminalWindowTest, Search_IsTheBackgroundQueues) {
     ManualBackgroundQueue waiting;
     TerminalWindow slow(files, console, mainQueue, waiting, {program("one", window())});
-    slow.openCommandFile(script("true"), {},
+    slow.openCommandFile(script("true"), {}, {},
                          [this](TerminalOutcome outcome) { outcomes.push_back(outcome); });
     EXPECT_EQ(waiting.size(), 1U);
     EXPECT_EQ(content("tried"), "");
@@ -176,7 +176,7 @@ TEST_F(TerminalWindowTest, KnownTerminals_AreTriedInTheirOrderEachWithItsOwnOpti
                 "echo \"${0##*/} $1\" >>'" + at("options").toLocal8Bit() + "'; exit 1");
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", at("bin").toLocal8Bit() + ":/usr/bin:/bin");
-    terminal = std::make_unique<TerminalWindow>(files, console);
+    terminal = std::make_unique<TerminalWindow>(files, console, mainQueue, bgQueue);
     open(script("true"));
     EXPECT_TRUE(comesTo(TerminalOutcome::NoWindow));
     qputenv("PATH", path);
@@ -232,9 +232,8 @@ TEST_F(TerminalWindowTest, Title_IsTheWindowsAndStandsAboveTheScript) {
     EXPECT_TRUE(comesTo(TerminalOutcome::Ended));
     EXPECT_TRUE(waitInLoop([this] { return content("seen").endsWith("close this window."); }));
     const QByteArray words = title.toUtf8();
-    EXPECT_TRUE(
-        content("seen").startsWith("\033]0;" + words + "\a" + words + "\n\nfrom the script\n"))
-        << content("seen").constData();
+    const QByteArray beginning("\033]0;" + words + "\a" + words + "\n\nfrom the script\n");
+    EXPECT_TRUE(content("seen").startsWith(beginning)) << content("seen").constData();
 }
 
 TEST_F(TerminalWindowTest, AfterTheTerminalIsGone_NothingIsTold) {
