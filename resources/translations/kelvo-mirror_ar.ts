@@ -565,7 +565,7 @@ Please check username...
     </message>
     <message>
         <source>Newest first; the selected pass is told below. The right arrow key unfolds a row that stands for several passes.</source>
-        <translation>الأحدث أولًا؛ تفاصيل الجولة المحددة في الأسفل. مفتاح السهم يفتح السطر الذي يمثل عدة جولات.</translation>
+        <translation>الأحدث أولًا؛ تفاصيل الجولة المحددة في الأسفل. مفتاح السهم الأيسر يفتح السطر الذي يمثل عدة جولات.</translation>
     </message>
     <message>
         <source>Select a pass to read what its commands said.</source>
