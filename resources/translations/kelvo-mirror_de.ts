@@ -87,11 +87,11 @@
     </message>
     <message>
         <source>Copy C&amp;ommand</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl &amp;kopieren</translation>
     </message>
     <message>
         <source>Copy Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl kopieren</translation>
     </message>
 </context>
 <context>
@@ -126,139 +126,139 @@
     </message>
     <message>
         <source>These buttons help to find out why something does not work. What they find out is written to the log: Help, Open Log Folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit diesen Schaltflächen lässt sich herausfinden, warum etwas nicht funktioniert. Was sie ergeben, steht im Protokoll: Menü „Hilfe“, „Protokollordner öffnen“.</translation>
     </message>
     <message>
         <source>Passes and heartbeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchgänge und Lebenszeichen</translation>
     </message>
     <message>
         <source>Sync Two Folders Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei Ordner hier synchronisieren</translation>
     </message>
     <message>
         <source>Switches syncing on or off, with passes between two folders on this computer, whatever Settings says</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet die Synchronisierung ein oder aus, mit Durchgängen zwischen zwei Ordnern auf diesem Computer, unabhängig von den Einstellungen</translation>
     </message>
     <message>
         <source>Sync from the Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Mac synchronisieren</translation>
     </message>
     <message>
         <source>Switches syncing on or off, with passes from the remote Mac, whatever Settings says</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet die Synchronisierung ein oder aus, mit Durchgängen vom entfernten Mac, unabhängig von den Einstellungen</translation>
     </message>
     <message>
         <source>Start Heartbeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Lebenszeichen starten</translation>
     </message>
     <message>
         <source>Writes a line to the log each second, as a sign that the program is alive</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt jede Sekunde eine Zeile ins Protokoll, als Zeichen, dass das Programm läuft</translation>
     </message>
     <message>
         <source>Pause Heartbeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Lebenszeichen unterbrechen</translation>
     </message>
     <message>
         <source>Writes no more of these lines until the heartbeat is started again</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt diese Zeilen nicht mehr, bis das Lebenszeichen wieder gestartet wird</translation>
     </message>
     <message>
         <source>End Heartbeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Lebenszeichen beenden</translation>
     </message>
     <message>
         <source>Writes no more of these lines until the program starts again</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt diese Zeilen nicht mehr, bis das Programm wieder startet</translation>
     </message>
     <message>
         <source>Show Source Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Quellordner anzeigen</translation>
     </message>
     <message>
         <source>Shows the source folder on the Sync tab and writes its parts to the log; where none is chosen, the Desktop folder becomes the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt den Quellordner auf der Seite „Synchronisieren“ an und schreibt seine Bestandteile ins Protokoll; ist keiner gewählt, wird der Schreibtisch-Ordner zur Quelle</translation>
     </message>
     <message>
         <source>Open Test Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Testordner öffnen</translation>
     </message>
     <message>
         <source>Opens /Volumes/Macintosh%20HD-2/Users/support/Desktop/FolderOnRemoteServer, a folder for tests that few computers have; source and destination must be chosen first</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet /Volumes/Macintosh%20HD-2/Users/support/Desktop/FolderOnRemoteServer, einen Ordner für Tests, den es auf wenigen Computern gibt; Quelle und Ziel müssen zuvor gewählt sein</translation>
     </message>
     <message>
         <source>Open Scripts Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Skriptordner öffnen</translation>
     </message>
     <message>
         <source>Opens the temporary folder in which the program keeps the scripts for a terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet den temporären Ordner, in dem das Programm die Skripte für ein Terminal ablegt</translation>
     </message>
     <message>
         <source>Leave All Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Felder verlassen</translation>
     </message>
     <message>
         <source>Takes the keyboard away from every field and button until another one is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt jedem Feld und jeder Schaltfläche den Tastaturfokus, bis wieder etwas gewählt wird</translation>
     </message>
     <message>
         <source>Search for Macs</source>
-        <translation type="unfinished"></translation>
+        <translation>Macs suchen</translation>
     </message>
     <message>
         <source>Log Found Macs</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Macs protokollieren</translation>
     </message>
     <message>
         <source>Copy to a Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf einen Mac kopieren</translation>
     </message>
     <message>
         <source>Writes a line to the log and nothing else: the destination is always a folder on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt nur eine Zeile ins Protokoll: Das Ziel ist immer ein Ordner auf diesem Computer</translation>
     </message>
     <message>
         <source>Watch for Shares</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Freigaben achten</translation>
     </message>
     <message>
         <source>Looks for shared folders and writes each one that comes or goes to the log</source>
-        <translation type="unfinished"></translation>
+        <translation>Sucht nach freigegebenen Ordnern und schreibt jeden, der hinzukommt oder verschwindet, ins Protokoll</translation>
     </message>
     <message>
         <source>Open the Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Freigabe öffnen</translation>
     </message>
     <message>
         <source>Asks the desktop to open the shared folder of the Mac and writes the open shares to the log</source>
-        <translation type="unfinished"></translation>
+        <translation>Bittet den Desktop, den freigegebenen Ordner des Macs zu öffnen, und schreibt die offenen Freigaben ins Protokoll</translation>
     </message>
     <message>
         <source>Find Folder, Older Way</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner suchen, ältere Art</translation>
     </message>
     <message>
         <source>Opens the shared folder of the Mac and looks for the folder in it without waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet den freigegebenen Ordner des Macs und sucht darin den Ordner, ohne zu warten</translation>
     </message>
     <message>
         <source>New Key, Older Way</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Schlüssel, ältere Art</translation>
     </message>
     <message>
         <source>Removes the key and makes a new one in a terminal window; the Mac must be given the new one with Set Up Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt den Schlüssel und erzeugt in einem Terminalfenster einen neuen; dieser muss mit „Schlüssel einrichten“ auf dem Mac hinterlegt werden</translation>
     </message>
     <message>
         <source>Quit and Relaunch</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden und neu starten</translation>
     </message>
     <message>
         <source>Ends the program and starts it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Beendet das Programm und startet es wieder</translation>
     </message>
 </context>
 <context>
@@ -652,19 +652,19 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>Choose the Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Mac auswählen</translation>
     </message>
     <message>
         <source>Enter the Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto eintragen</translation>
     </message>
     <message>
         <source>Set Up the Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel einrichten</translation>
     </message>
     <message>
         <source>&amp;Folder or file:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner oder Datei:</translation>
     </message>
 </context>
 <context>
@@ -787,31 +787,31 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>1. Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>1. Mac</translation>
     </message>
     <message>
         <source>2. Account and folder</source>
-        <translation type="unfinished"></translation>
+        <translation>2. Konto und Ordner</translation>
     </message>
     <message>
         <source>Use This Source No&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese &amp;Quelle jetzt verwenden</translation>
     </message>
     <message>
         <source>Passes pull from this account and folder from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchgänge holen die Filme ab jetzt von diesem Konto und aus diesem Ordner</translation>
     </message>
     <message>
         <source>3. Key</source>
-        <translation type="unfinished"></translation>
+        <translation>3. Schlüssel</translation>
     </message>
     <message>
         <source>4. Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>4. Verbindung</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiteres</translation>
     </message>
 </context>
 <context>
@@ -850,7 +850,7 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>Which files a pass touches</source>
-        <translation>Welche Dateien ein Durchgang anfasst</translation>
+        <translation>Welche Dateien ein Durchgang behandelt</translation>
     </message>
     <message>
         <source>Example</source>
@@ -926,19 +926,19 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>Kinds of movies</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmformate</translation>
     </message>
     <message>
         <source>A&amp;dvanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Er&amp;weitert</translation>
     </message>
     <message>
         <source>Shows the command that a pass runs, and hides it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt den Befehl, den ein Durchgang ausführt, und verbirgt ihn wieder</translation>
     </message>
     <message>
         <source>The template with the option filled in</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorlage mit eingesetzter Option</translation>
     </message>
 </context>
 <context>
@@ -1057,11 +1057,11 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>&amp;Use This Source Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese &amp;Quelle jetzt verwenden</translation>
     </message>
     <message>
         <source>Passes pull from the host and folder that are set now</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchgänge holen die Filme dann vom jetzt eingestellten Host und Ordner</translation>
     </message>
 </context>
 <context>
@@ -1293,7 +1293,7 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>No key yet. Set one up to be let in by the remote Mac.</source>
-        <translation>Noch kein Schlüssel. Einen einrichten, damit der entfernte Mac Einlass gewährt.</translation>
+        <translation>Noch kein Schlüssel. Einen einrichten, damit der entfernte Mac dieses Programm einlässt.</translation>
     </message>
     <message>
         <source>Key made. Fill in host name and user to have it accepted.</source>
@@ -1356,7 +1356,7 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>No Mac answers to this name on the network since %1.</source>
-        <translation>Im Netzwerk meldet sich kein Mac unter diesem Namen, seit %1.</translation>
+        <translation>Im Netzwerk meldet sich seit %1 kein Mac unter diesem Namen.</translation>
     </message>
     <message>
         <source>Check the host name, and that the Mac is switched on and in this network.</source>
@@ -1364,11 +1364,11 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>The Mac is away or asleep.</source>
-        <translation>Der Mac ist weg oder schläft.</translation>
+        <translation>Der Mac ist weg oder im Ruhezustand.</translation>
     </message>
     <message>
         <source>The Mac is away or asleep since %1.</source>
-        <translation>Der Mac ist weg oder schläft, seit %1.</translation>
+        <translation>Der Mac ist seit %1 weg oder im Ruhezustand.</translation>
     </message>
     <message>
         <source>Wake the Mac; in its energy settings, let it wake for network access.</source>
@@ -1380,7 +1380,7 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>The Mac is there but refuses logins since %1.</source>
-        <translation>Der Mac ist da, lässt aber keine Anmeldung zu, seit %1.</translation>
+        <translation>Der Mac ist da, lässt aber seit %1 keine Anmeldung zu.</translation>
     </message>
     <message>
         <source>On the Mac, switch on Remote Login (System Settings, General, Sharing).</source>
@@ -1392,7 +1392,7 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>This machine has not met the Mac before since %1.</source>
-        <translation>Dieser Computer kennt den Mac noch nicht, so seit %1.</translation>
+        <translation>Dieser Computer kennt den Mac noch nicht (seit %1).</translation>
     </message>
     <message>
         <source>Log in once with ssh in a terminal and accept the Mac&apos;s key.</source>
@@ -1532,7 +1532,7 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>The destination folder is missing or cannot be written since %1.</source>
-        <translation>Der Zielordner fehlt oder ist nicht beschreibbar, seit %1.</translation>
+        <translation>Der Zielordner fehlt seit %1 oder ist nicht beschreibbar.</translation>
     </message>
     <message>
         <source>Connect its disk, or choose another destination folder.</source>
@@ -1636,7 +1636,7 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>Nothing: start it again.</source>
-        <translation>Nichts: es wieder starten.</translation>
+        <translation>Nichts: das Programm wieder starten.</translation>
     </message>
     <message>
         <source>Cancelled by you.</source>
@@ -1902,132 +1902,142 @@ Bitte den Benutzernamen prüfen...
     </message>
     <message>
         <source>… 1 byte left out …</source>
-        <translation type="unfinished"></translation>
+        <translation>… 1 Byte ausgelassen …</translation>
     </message>
     <message>
         <source>Make a new key?</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuen Schlüssel erzeugen?</translation>
     </message>
     <message>
         <source>The Mac will not let Kelvo Mirror in until the new key is installed there with Set Up Key…, which asks for the password on the Mac. Until then no pass brings movies.
 
 The key of today is kept beside the new one, under a name with the date, and is not used any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Mac lässt Kelvo Mirror erst wieder ein, wenn der neue Schlüssel dort mit „Schlüssel einrichten…“ hinterlegt ist; dabei wird nach dem Passwort auf dem Mac gefragt. Bis dahin bringt kein Durchgang Filme.
+
+Der bisherige Schlüssel bleibt neben dem neuen erhalten, unter einem Namen mit dem Datum, und wird nicht mehr verwendet.</translation>
     </message>
     <message>
         <source>Make a New Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuen Schlüssel erzeugen</translation>
     </message>
     <message>
         <source>Keep the Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel behalten</translation>
     </message>
     <message>
         <source>The key was not replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schlüssel wurde nicht ersetzt</translation>
     </message>
     <message>
         <source>The key of today could not be kept, so nothing was changed.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der bisherige Schlüssel konnte nicht aufbewahrt werden, daher wurde nichts geändert.
+
+%1</translation>
     </message>
     <message>
         <source>No new key was made</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein neuer Schlüssel erzeugt</translation>
     </message>
     <message>
         <source>The key that was there before could not be put back. It lies at %1.
 
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Der vorherige Schlüssel konnte nicht an seinen Platz zurückgelegt werden. Er liegt unter %1.
+
+%2</translation>
     </message>
     <message>
         <source>The key that was there before is in its place again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der vorherige Schlüssel ist wieder an seinem Platz.</translation>
     </message>
     <message>
         <source>No Mac chosen yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Mac gewählt.</translation>
     </message>
     <message>
         <source>Choose the Mac from the list of those in this network, or type its host name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Mac aus der Liste der Macs in diesem Netzwerk auswählen oder seinen Hostnamen eintragen.</translation>
     </message>
     <message>
         <source>%1, folder %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Ordner %2</translation>
     </message>
     <message>
         <source>An account on the Mac that may log in there, and the folder with the movies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Konto auf dem Mac, das sich dort anmelden darf, und der Ordner mit den Filmen.</translation>
     </message>
     <message>
         <source>Key made, and accepted by the remote Mac before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel erzeugt und vom entfernten Mac schon einmal angenommen.</translation>
     </message>
     <message>
         <source>Key made. The remote Mac could not be asked about it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel erzeugt. Der entfernte Mac konnte nicht danach gefragt werden.</translation>
     </message>
     <message>
         <source>The key is installed on the Mac, so choose that and enter the account first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schlüssel wird auf dem Mac hinterlegt, daher zuerst den Mac auswählen und das Konto eintragen.</translation>
     </message>
     <message>
         <source>A terminal opens and asks for the password of %1 on %2; it is typed there and kept nowhere. When the two machines meet for the first time it asks before that whether to go on connecting: answer yes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es öffnet sich ein Terminal, das nach dem Passwort von %1 auf %2 fragt; es wird dort eingegeben und nirgends gespeichert. Begegnen sich die beiden Computer zum ersten Mal, fragt das Terminal zuvor, ob die Verbindung fortgesetzt werden soll: mit yes antworten.</translation>
     </message>
     <message>
         <source>The Mac lets this program in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Mac lässt dieses Programm ein.</translation>
     </message>
     <message>
         <source>ssh is not installed on this machine. Install it with: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ssh ist auf diesem Computer nicht installiert. Installieren mit: %1</translation>
     </message>
     <message>
         <source>The Mac was not asked, because %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Mac wurde nicht gefragt, denn %1.</translation>
     </message>
     <message>
         <source>The Mac was not reached, or did not say a word. Test it once more, or log in with ssh in a terminal and see what it says.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Mac wurde nicht erreicht oder hat nichts gesagt. Noch einmal testen oder sich in einem Terminal mit ssh anmelden und sehen, was er sagt.</translation>
     </message>
     <message>
         <source>The Mac did not answer as it should. The last line was: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Mac hat nicht geantwortet, wie er sollte. Die letzte Zeile war: %1</translation>
     </message>
     <message>
         <source>This machine has not met the Mac before. Set up the key: the terminal asks whether to trust the Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Computer kennt den Mac noch nicht. Den Schlüssel einrichten: Das Terminal fragt, ob dem Mac vertraut werden soll.</translation>
     </message>
     <message>
         <source>The Mac does not let this program in yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Mac lässt dieses Programm noch nicht ein.</translation>
     </message>
     <message>
         <source>Not tried yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht versucht.</translation>
     </message>
     <message>
         <source>Asked at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt gefragt: %1.</translation>
     </message>
     <message>
         <source>The message &quot;SUCCESS...&quot; only means that ssh named neither a missing key file nor an unknown host name; this line says what came of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Meldung „ERFOLG...“ bedeutet nur, dass ssh weder eine fehlende Schlüsseldatei noch einen unbekannten Hostnamen gemeldet hat; was dabei herauskam, sagt diese Zeile.</translation>
     </message>
     <message>
         <source>Kelvo Mirror: the password of %1 on %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Kelvo Mirror: Passwort von %1 auf %2</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Macs found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Mac gefunden.</numerusform>
+            <numerusform>%Ln Macs gefunden.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Its icon in the tray brings the window back; the icon&apos;s menu ends the program.</source>
+        <translation>Das Symbol im Infobereich bringt das Fenster zurück; sein Menü beendet das Programm.</translation>
     </message>
 </context>
 <context>
@@ -2134,59 +2144,59 @@ The key of today is kept beside the new one, under a name with the date, and is 
     </message>
     <message>
         <source>Syncing is off</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierung ist aus</translation>
     </message>
     <message>
         <source>A pass begins as soon as nothing is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Durchgang beginnt, sobald nichts mehr fehlt</translation>
     </message>
     <message>
         <source>A pass runs already</source>
-        <translation type="unfinished"></translation>
+        <translation>Es läuft bereits ein Durchgang</translation>
     </message>
     <message>
         <source>The next pass begins in a moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Der nächste Durchgang beginnt gleich</translation>
     </message>
     <message>
         <source>The pass is being cancelled already</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Durchgang wird bereits abgebrochen</translation>
     </message>
     <message>
         <source>No pass runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Es läuft kein Durchgang</translation>
     </message>
     <message>
         <source>The icon is in the tray already</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Symbol ist bereits im Infobereich</translation>
     </message>
     <message>
         <source>The icon appears as soon as the desktop has a tray for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Symbol erscheint, sobald der Desktop einen Infobereich dafür hat</translation>
     </message>
     <message>
         <source>The icon is not in the tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Symbol ist nicht im Infobereich</translation>
     </message>
     <message>
         <source>&amp;Diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagnose</translation>
     </message>
     <message>
         <source>A tab and menu entries for finding out why something does not work</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Seite und Menüeinträge, mit denen sich herausfinden lässt, warum etwas nicht funktioniert</translation>
     </message>
     <message>
         <source>Takes the icon out of the tray as Quit and Relaunch does; the program keeps running</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt das Symbol aus dem Infobereich wie „Beenden und neu starten“; das Programm läuft weiter</translation>
     </message>
     <message>
         <source>Start Again After a &amp;Crash</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einem &amp;Absturz neu starten</translation>
     </message>
     <message>
         <source>Has the program started again should it crash; each start does this by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorgt dafür, dass das Programm nach einem Absturz wieder startet; jeder Start tut dies von selbst</translation>
     </message>
 </context>
 <context>
@@ -2252,7 +2262,11 @@ Die Filme, die ein Durchgang bringt, werden hier stehen.</translation>
 %1
 
 The list fills by itself once discovery runs. Without it, type the Mac&apos;s host name on the Remote Mac tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Netzwerksuche ist auf diesem Computer nicht installiert. Installieren mit:
+
+%1
+
+Die Liste füllt sich von selbst, sobald die Netzwerksuche läuft. Ohne sie den Hostnamen des Macs auf der Seite „Entfernter Mac“ eintragen.</translation>
     </message>
     <message>
         <source>Discovery is not running on this computer. Start it with:
@@ -2260,19 +2274,27 @@ The list fills by itself once discovery runs. Without it, type the Mac&apos;s ho
 %1
 
 The list fills by itself once discovery runs. Without it, type the Mac&apos;s host name on the Remote Mac tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Netzwerksuche läuft auf diesem Computer nicht. Starten mit:
+
+%1
+
+Die Liste füllt sich von selbst, sobald die Netzwerksuche läuft. Ohne sie den Hostnamen des Macs auf der Seite „Entfernter Mac“ eintragen.</translation>
     </message>
     <message>
         <source>This computer is not connected to a network.
 
 Connect it to the network of the Mac. Then choose Rescan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Computer ist mit keinem Netzwerk verbunden.
+
+Ihn mit dem Netzwerk des Macs verbinden. Dann „Erneut suchen“ wählen.</translation>
     </message>
     <message>
         <source>No Mac has answered yet.
 
 Discovery has only just started; the search goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch hat kein Mac geantwortet.
+
+Die Netzwerksuche ist gerade erst gestartet; es wird weiter gesucht.</translation>
     </message>
     <message>
         <source>No Mac was found.
@@ -2282,7 +2304,13 @@ Check that both computers are on the same network.
 Then choose Rescan.
 
 The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein Mac gefunden.
+
+Auf dem Mac Systemeinstellungen, Allgemein, Teilen öffnen und prüfen, ob „Dateifreigabe“ und „Entfernte Anmeldung“ eingeschaltet sind.
+Prüfen, ob beide Computer im selben Netzwerk sind.
+Dann „Erneut suchen“ wählen.
+
+Der Hostname des Macs kann auch auf der Seite „Entfernter Mac“ eingetragen werden.</translation>
     </message>
 </context>
 <context>
@@ -2296,31 +2324,31 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     <name>kelvo::BusyRow</name>
     <message>
         <source>Cance&amp;l</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbre&amp;chen</translation>
     </message>
     <message>
         <source>Working</source>
-        <translation type="unfinished"></translation>
+        <translation>In Arbeit</translation>
     </message>
     <message>
         <source>Ends what the program is doing for this tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Beendet, was das Programm gerade für diese Seite tut</translation>
     </message>
     <message>
         <source>Opening the remote folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Der entfernte Ordner wird geöffnet…</translation>
     </message>
     <message>
         <source>Setting up the key…</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schlüssel wird eingerichtet…</translation>
     </message>
     <message>
         <source>Making a new key…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein neuer Schlüssel wird erzeugt…</translation>
     </message>
     <message>
         <source>Being cancelled…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird abgebrochen…</translation>
     </message>
 </context>
 <context>
@@ -2331,7 +2359,7 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     </message>
     <message>
         <source>Next step</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Schritt</translation>
     </message>
 </context>
 <context>
@@ -2367,11 +2395,11 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     </message>
     <message>
         <source>Nothing has arrived. The arrow keys go from day to day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ist angekommen. Die Pfeiltasten führen von Tag zu Tag.</translation>
     </message>
     <message>
         <source>%1. The most came on this day: %2, %3. The arrow keys go from day to day.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Das meiste kam an diesem Tag: %2, %3. Die Pfeiltasten führen von Tag zu Tag.</translation>
     </message>
 </context>
 <context>
@@ -2606,67 +2634,67 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     </message>
     <message>
         <source>The template lacks %@1, the source: its command does not read the source that is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vorlage fehlt %@1, die Quelle: Ihr Befehl liest nicht die gewählte Quelle.</translation>
     </message>
     <message>
         <source>The template lacks %@2, the destination: its command does not fill the folder that is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vorlage fehlt %@2, das Ziel: Ihr Befehl füllt nicht den gewählten Ordner.</translation>
     </message>
     <message>
         <source>The template lacks %@98, the options of ssh: its command does not use the key that was set up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vorlage fehlt %@98, die Optionen von ssh: Ihr Befehl verwendet nicht den eingerichteten Schlüssel.</translation>
     </message>
     <message>
         <source>The template lacks %@99, the option: the option that is chosen changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vorlage fehlt %@99, die Option: Die gewählte Option ändert nichts.</translation>
     </message>
     <message>
         <source>The template has a folder where its name may fall apart: passes are refused when the name holds blanks, quotes or the like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorlage setzt einen Ordner dort ein, wo sein Name zerfallen kann: Durchgänge werden abgelehnt, wenn der Name Leerzeichen, Anführungszeichen oder Ähnliches enthält.</translation>
     </message>
     <message>
         <source>The template under Advanced is your own and is left alone: the kinds of movies are written there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter „Erweitert“ steht eine eigene Vorlage, die unberührt bleibt: Die Filmformate stehen dort.</translation>
     </message>
     <message>
         <source>Movies of the kinds .mov and .mp4 always come from the remote Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme der Formate .mov und .mp4 kommen immer vom entfernten Mac.</translation>
     </message>
     <message>
         <source>No kind is ticked: passes bring nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Format ist angekreuzt: Durchgänge bringen nichts.</translation>
     </message>
     <message>
         <source>The rsync command with the places %@1 source, %@2 destination, %@3 key, %@98 ssh, %@99 option</source>
-        <translation type="unfinished"></translation>
+        <translation>Der rsync-Befehl mit den Platzhaltern %@1 Quelle, %@2 Ziel, %@3 Schlüssel, %@98 ssh, %@99 Option</translation>
     </message>
     <message>
         <source>Back to My Template</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zu meiner Vorlage</translation>
     </message>
     <message>
         <source>Back to the Factory Template</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zur Standardvorlage</translation>
     </message>
     <message>
         <source>Brings back the template that the factory&apos;s took the place of</source>
-        <translation type="unfinished"></translation>
+        <translation>Bringt die Vorlage zurück, an deren Stelle die Standardvorlage getreten ist</translation>
     </message>
     <message>
         <source>Takes the template that Kelvo Mirror comes with; asks before it replaces one that was changed by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt die mitgelieferte Vorlage von Kelvo Mirror; fragt, bevor sie eine von Hand geänderte ersetzt</translation>
     </message>
     <message>
         <source>Go back to the factory template?</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Standardvorlage zurückkehren?</translation>
     </message>
     <message>
         <source>Your own template is replaced. “Back to My Template” brings it back until the program ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die eigene Vorlage wird ersetzt. „Zurück zu meiner Vorlage“ bringt sie zurück, solange das Programm läuft.</translation>
     </message>
     <message>
         <source>Keep My Template</source>
-        <translation type="unfinished"></translation>
+        <translation>Meine Vorlage behalten</translation>
     </message>
 </context>
 <context>
@@ -2684,31 +2712,31 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     <name>kelvo::StepHead</name>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Erledigt</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Nächstes</translation>
     </message>
     <message>
         <source>Trouble</source>
-        <translation type="unfinished"></translation>
+        <translation>Störung</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Später</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuklappen</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2727,7 +2755,7 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     </message>
     <message>
         <source>The pass went well: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Durchgang ging gut: %1.</translation>
     </message>
 </context>
 <context>
@@ -2782,7 +2810,7 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     </message>
     <message>
         <source>No destination folder is chosen yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist noch kein Zielordner gewählt</translation>
     </message>
 </context>
 <context>
@@ -2801,7 +2829,7 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     </message>
     <message>
         <source>Passes still pull from the source above. The new host or folder takes effect with &quot;Use This Source Now&quot;, or else when the user name changes or the program starts again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchgänge holen die Filme noch von der Quelle oben. Der neue Host oder Ordner gilt ab „Diese Quelle jetzt verwenden“, sonst sobald sich der Benutzername ändert oder das Programm wieder startet.</translation>
     </message>
 </context>
 </TS>

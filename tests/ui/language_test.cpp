@@ -159,6 +159,7 @@ protected:
                                         .workspace = workspace,
                                         .mainQueue = mainQueue,
                                         .bgQueue = bgQueue,
+                                        .defaults = defaults,
                                         .destination = [] { return QString(); }});
         window->setMenuBar(menuOf(*window));
         window->show();
@@ -192,7 +193,11 @@ TEST_F(LanguageTest, EveryTextOfTheWindow_IsLookedUp) {
     sheet.show();
     const auto texts = textsOf(*window);
     EXPECT_GT(texts.size(), 400U);
+    // A command is one in every language, and so is the ending of a file's name.
+    const QRegularExpression noWords(text("\\A(commandExample |kind_\\w+ QCheckBox\\z)"));
     for (const auto& [who, said] : texts) {
+        if (noWords.match(who).hasMatch())
+            continue;
         EXPECT_TRUE(!hasLetters(said) || said.contains(u'«'))
             << qPrintable(who) << " says " << qPrintable(said);
     }
@@ -254,7 +259,8 @@ TEST_F(LanguageTest, WhatIsPrintedLoggedAndStored_StaysEnglish) {
         ViewControllerWorld world;
         MainWindow window{world.defaults, world.mainQueue};
         const auto path = std::make_shared<WidgetPathControl>(window.fNsPathControl1());
-        const OnceButtons once = sendWindowActions(window, world.controller, world.workspace, path);
+        OnceButtons once;
+        sendWindowActions(window, world.controller, world.workspace, path, once);
         world.load();
         window.show();
         for (const MainWindow::Tab& tab : window.tabs())

@@ -90,8 +90,8 @@ TEST_F(SheetPresenterTest, DangerousQuestion_IsAnsweredNoByTheKeyboard) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Space}) {
         std::optional<ModalResponse> answer;
         (void)presenter->beginSheet(question, [&](ModalResponse response) { answer = response; });
-        QWidget* focused = sheet()->focusWidget();
-        QTest::keyClick(focused ? focused : sheet(), key);
+        QWidget* focused = box()->focusWidget();
+        QTest::keyClick(focused ? focused : box(), key);
         EXPECT_EQ(answer, cAlertSecondButtonReturn) << key;
     }
 }

@@ -18,10 +18,10 @@ class DispatchQueue;
 
 /// The file is opened with the first record, or the first question once there is a file. One that
 /// is broken, or another program's, is kept under another name, `<path>.corrupt-<UTC time>`, and
-/// begun anew, unless it cannot be read just now; where it is taken away or replaced while it is open, that is noticed with the next
-/// record or question. Either way the newest 100 passes of this run are written into the file that
-/// is there then. Each kind of trouble is said in the log once, and when it is over; it is over
-/// when nothing is left to be written.
+/// begun anew, unless it cannot be read just now; where it is taken away or replaced while it is
+/// open, that is noticed with the next record or question. Either way the newest 100 passes of this
+/// run are written into the file that is there then. Each kind of trouble is said in the log once,
+/// and when it is over; it is over when nothing is left to be written.
 class SqlitePassStore final : public PassStore {
 public:
     /// `mainQueue` and `console` must outlive the store.

@@ -22,9 +22,10 @@ QString sourceNotice(const UserDefaults& defaults) {
     if (!sourceMayBeUsed(defaults))
         return {};
     return QCoreApplication::translate(
-        "sourceNotice", "Passes still pull from the source above. The new host or folder takes "
-                        "effect with \"Use This Source Now\", or else when the user name changes or "
-                        "the program starts again.");
+        "sourceNotice",
+        "Passes still pull from the source above. The new host or folder takes "
+        "effect with \"Use This Source Now\", or else when the user name changes or "
+        "the program starts again.");
 }
 
 bool sourceMayBeUsed(const UserDefaults& defaults) {
