@@ -27,24 +27,19 @@ protected:
         QApplication::setActiveWindow(&window);
     }
 
-    /// What was spoken since the last question.
-    QStringList heard() {
-        listen();
-        return std::exchange(fHeard, {});
-    }
-
-    /// Takes down what was handed over to be spoken; to be called after each step.
-    void listen() {
+    /// What was handed over to be spoken since the last question; of each place in its order.
+    QStringList heard() const {
+        QStringList texts;
         for (Spokesman* spokesman : window.findChildren<Spokesman*>()) {
-            if (!spokesman->accessibleName().isEmpty())
-                fHeard.append(spokesman->accessibleName());
-            spokesman->setAccessibleName({});
+            if (!spokesman->property("heard").isValid())
+                texts.append(spokesman->accessibleName());
+            spokesman->setProperty("heard", true);
         }
+        return texts;
     }
 
     void status(const char* text, StatusColor color = StatusColor::Black) {
         window.ibStatusTextField().show({QString::fromLatin1(text), color});
-        listen();
     }
     void health(HealthSign sign, const char* text, const char* cause = "") {
         window.showWork({.phase = WorkPhase::Resting,
@@ -52,14 +47,12 @@ protected:
                                     .text = QString::fromLatin1(text),
                                     .cause = QString::fromLatin1(cause)},
                          .maySyncNow = true});
-        listen();
     }
     void passEnds(qint64 files, PassCause cause = PassCause::Well) {
         PassRecord pass{};
         pass.cause = cause;
         pass.transfer = {TransferSource::Lines, files, std::nullopt};
         window.syncTab().passEnded(pass);
-        listen();
     }
 
     void macSays(PassCause cause) {
@@ -67,26 +60,17 @@ protected:
             {.answer = HostAnswer{.target = QStringLiteral("ann@mac.local"), .cause = cause},
              .asked = QDateTime::currentDateTimeUtc(),
              .letInBefore = true});
-        listen();
     }
     void test(PassCause cause) {
         window.remoteTab().setTesting(true);
-        listen();
         macSays(cause);
         window.remoteTab().setTesting(false);
-        listen();
     }
-    void task(RemoteTaskKind kind) {
-        window.remoteTab().setTask(kind);
-        listen();
-    }
+    void task(RemoteTaskKind kind) { window.remoteTab().setTask(kind); }
 
     MemoryDefaults defaults;
     VirtualMainQueue mainQueue;
     MainWindow window{defaults, mainQueue};
-
-private:
-    QStringList fHeard;
 };
 
 TEST_F(AnnouncementTest, StatusTexts_AreSpokenOnceAndAgainAfterTrouble) {
@@ -148,7 +132,6 @@ TEST_F(AnnouncementTest, KeyState_IsSpokenWhereItStands) {
     EXPECT_EQ(heard(), QStringList());
     window.showTab(QStringLiteral("remote"));
     window.showKeyState(KeyState::Asking);
-    listen();
     window.showKeyState(KeyState::Accepted);
     EXPECT_EQ(heard(), (QStringList{"Asking the remote Mac…", "Key accepted by the remote Mac."}));
 }
@@ -199,7 +182,6 @@ TEST_F(AnnouncementTest, TemplateTrouble_IsSpokenWhenItComes) {
         field.selectAll();
         QTest::keyClicks(&field, QString::fromLatin1(text));
         mainQueue.advance(0.2);
-        listen();
     };
     const QStringList spoken{"The template lacks %@2, the destination: its command does not fill "
                              "the folder that is chosen."};
@@ -210,6 +192,8 @@ TEST_F(AnnouncementTest, TemplateTrouble_IsSpokenWhenItComes) {
     EXPECT_EQ(heard(), QStringList()) << "it stood there before";
     type("rsync -r %@1");
     EXPECT_EQ(heard(), spoken);
+    type("rsync -rt %@1");
+    EXPECT_EQ(heard(), QStringList()) << "no news";
     type("rsync %@1 %@2");
     EXPECT_EQ(heard(), QStringList());
     type("rsync %@1");

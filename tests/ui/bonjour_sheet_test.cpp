@@ -4,6 +4,7 @@
 #include "fakes/virtual_queues.h"
 #include "settings/preference_keys.h"
 #include "support/text.h"
+#include "ui/widgets/accessible_factory.h"
 #include "ui/widgets/bonjour_sheet.h"
 
 #include <QAbstractButton>
@@ -119,6 +120,29 @@ TEST_F(BonjourSheetTest, NothingFound_SaysWhatToCheck) {
     mainQueue.advance(2.1);
     EXPECT_FALSE(text->isVisible());
     EXPECT_EQ(cell(0, 0), u"Late");
+}
+
+TEST_F(BonjourSheetTest, EndOfAScan_IsSpokenWithWhatWasFound) {
+    const auto spoken = [this] {
+        const auto spokesmen =
+            sheet()->findChildren<Spokesman*>(QString(), Qt::FindDirectChildrenOnly);
+        return spokesmen.isEmpty() ? QString() : spokesmen.last()->accessibleName();
+    };
+    ASSERT_TRUE(present());
+    QApplication::setActiveWindow(sheet());
+    mainQueue.advance(0.2);
+    EXPECT_EQ(spoken(), QString()) << "nothing is known yet";
+    mainQueue.advance(1.9);
+    EXPECT_EQ(spoken(), child<QLabel>("emptyText")->text());
+    const auto rescan = [this](const char* address) {
+        announce(QString::fromLatin1(address), QString::fromLatin1(address));
+        button("rescanButton")->click();
+        mainQueue.advance(2.1);
+    };
+    rescan("10.0.0.2");
+    EXPECT_EQ(spoken(), u"1 Mac found.");
+    rescan("10.0.0.3");
+    EXPECT_EQ(spoken(), u"2 Macs found.");
 }
 
 TEST_F(BonjourSheetTest, DiscoveryAway_IsSaidAtOnceWithItsCommand) {

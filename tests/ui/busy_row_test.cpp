@@ -19,6 +19,7 @@ protected:
         rows->addWidget(&first);
         rows->addWidget(&second);
         rows->addWidget(&row);
+        window.setMinimumWidth(400); // room for all words
         window.show();
         QApplication::setActiveWindow(&window);
     }

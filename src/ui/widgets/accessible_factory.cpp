@@ -4,6 +4,7 @@
 #include "ui/widgets/widget_button.h"
 
 #include <QAccessibleWidget>
+#include <QFrame>
 
 namespace kelvo {
 namespace {
@@ -46,6 +47,10 @@ public:
     QAccessible::State state() const override { return {}; }
 };
 
+bool isLine(const QFrame& frame) {
+    return frame.frameShape() == QFrame::HLine || frame.frameShape() == QFrame::VLine;
+}
+
 QAccessibleInterface* interfaceOf(const QString&, QObject* object) {
     if (auto* button = qobject_cast<TitledButton*>(object))
         return new ActionButton(*button);
@@ -53,12 +58,15 @@ QAccessibleInterface* interfaceOf(const QString&, QObject* object) {
         return new QAccessibleWidget(status, QAccessible::Grouping);
     if (auto* spokesman = qobject_cast<Spokesman*>(object))
         return new Notification(*spokesman);
+    if (auto* frame = qobject_cast<QFrame*>(object); frame && isLine(*frame))
+        return new QAccessibleWidget(frame, QAccessible::Separator);
     return nullptr;
 }
 
 } // namespace
 
-Spokesman::Spokesman(QWidget& place) : QWidget(&place) {
+Spokesman::Spokesman(QWidget& place, const QString& text) : QWidget(&place) {
+    setAccessibleName(text);
     setFixedSize(0, 0);
     hide();
 }

@@ -8,9 +8,13 @@
 namespace kelvo {
 namespace {
 
-/// Speaks for the widget that it lies in; nothing of it is seen.
-Spokesman* spokesmanOf(const QWidget& place) {
-    return place.findChild<Spokesman*>({}, Qt::FindDirectChildrenOnly);
+/// So many texts of a place can still be read: a screen reader asks for the words some time after
+/// it is told that there are some.
+constexpr int cKept = 3;
+
+/// Those who speak for the widget that they lie in, the last one last; nothing of them is seen.
+QList<Spokesman*> spokesmenOf(const QWidget& place) {
+    return place.findChildren<Spokesman*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 void speak(Spokesman& spokesman, [[maybe_unused]] Urgency urgency) {
@@ -32,18 +36,18 @@ void announce(QWidget& place, const QString& text, Urgency urgency) {
         (urgency == Urgency::Polite && !place.isActiveWindow()))
         return;
     installAccessibleFactory();
-    Spokesman* spokesman = spokesmanOf(place);
-    if (!spokesman)
-        spokesman = new Spokesman(place);
-    else if (spokesman->accessibleName() == text)
+    const QList<Spokesman*> before = spokesmenOf(place);
+    if (!before.isEmpty() && !before.last()->isForgotten() &&
+        before.last()->accessibleName() == text)
         return;
-    spokesman->setAccessibleName(text);
-    speak(*spokesman, urgency);
+    if (before.size() == cKept)
+        delete before.first();
+    speak(*new Spokesman(place, text), urgency);
 }
 
 void forgetSpoken(const QWidget& place) {
-    if (Spokesman* spokesman = spokesmanOf(place))
-        spokesman->setAccessibleName({});
+    for (Spokesman* spokesman : spokesmenOf(place))
+        spokesman->forget();
 }
 
 } // namespace kelvo

@@ -53,12 +53,11 @@ void BusyRow::setTask(RemoteTaskKind kind) {
     } else if (fCancel->hasFocus() && fFocusBefore && fFocusBefore->isEnabled()) {
         fFocusBefore->setFocus(Qt::OtherFocusReason);
     }
-    // Two places: the end may come before the beginning was read from its own.
     if (before != kind && !busy)
         speak(*this, endOf(before));
     setVisible(busy);
     if (before != kind && busy)
-        speak(*fText, fText->text());
+        speak(*this, fText->text());
 }
 
 QString BusyRow::wordsFor(RemoteTaskKind kind) {
