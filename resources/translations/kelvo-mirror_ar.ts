@@ -2398,6 +2398,14 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
         <source>Being cancelled…</source>
         <translation>جارٍ الإلغاء…</translation>
     </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>أُلغي.</translation>
+    </message>
+    <message>
+        <source>Finished.</source>
+        <translation>انتهى.</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ChecklistView</name>

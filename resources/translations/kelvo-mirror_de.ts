@@ -2350,6 +2350,14 @@ Der Hostname des Macs kann auch auf der Seite „Entfernter Mac“ eingetragen w
         <source>Being cancelled…</source>
         <translation>Wird abgebrochen…</translation>
     </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Finished.</source>
+        <translation>Fertig.</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ChecklistView</name>

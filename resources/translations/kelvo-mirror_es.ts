@@ -2350,6 +2350,14 @@ El nombre de host del Mac también se puede escribir en la pestaña Mac remoto.<
         <source>Being cancelled…</source>
         <translation>Cancelando…</translation>
     </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>Finished.</source>
+        <translation>Terminado.</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ChecklistView</name>

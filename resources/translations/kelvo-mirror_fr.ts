@@ -2350,6 +2350,14 @@ Le nom d’hôte du Mac peut aussi être saisi dans l’onglet Mac distant.</tra
         <source>Being cancelled…</source>
         <translation>Annulation en cours…</translation>
     </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Annulé.</translation>
+    </message>
+    <message>
+        <source>Finished.</source>
+        <translation>Terminé.</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ChecklistView</name>

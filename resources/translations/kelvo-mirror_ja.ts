@@ -2338,6 +2338,14 @@ Mac で「システム設定」の「一般」、「共有」を開き、「フ�
         <source>Being cancelled…</source>
         <translation>キャンセルしています…</translation>
     </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>キャンセルしました。</translation>
+    </message>
+    <message>
+        <source>Finished.</source>
+        <translation>完了しました。</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ChecklistView</name>

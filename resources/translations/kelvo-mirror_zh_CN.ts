@@ -2338,6 +2338,14 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
         <source>Being cancelled…</source>
         <translation>正在取消…</translation>
     </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>已取消。</translation>
+    </message>
+    <message>
+        <source>Finished.</source>
+        <translation>已完成。</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ChecklistView</name>
