@@ -126,7 +126,12 @@ bool LabNetwork::wasRefused(const QString& name) const {
 }
 
 bool LabNetwork::becomes(const std::function<bool()>& condition, int seconds) {
-    return waitUntil(condition, std::chrono::seconds(seconds));
+    return waitUntil(
+        [&] {
+            fMainQueue.runDue(); // what the browser's own thread has to tell
+            return condition();
+        },
+        std::chrono::seconds(seconds));
 }
 
 CommandResult LabNetwork::remote(const QString& shellText) {
