@@ -98,9 +98,9 @@ ExitCode learn(pid_t program, int handle, ProgramImage& image) {
         say({"there is no process ", number.text, " any more"});
         return ExitCode::NoSuchProcess;
     }
-    if (!known || image.arguments[0] == nullptr) {
+    if (!known) {
         say({"cannot learn how process ", number.text,
-             " was started: ", ::strerrordesc_np(known ? ENODATA : failure)});
+             " was started: ", ::strerrordesc_np(failure)});
         return ExitCode::CannotBeWatched;
     }
     return ExitCode::ToldToEnd;
