@@ -3,6 +3,7 @@
 #include "adapters/desktop/status_notifier_item.h"
 #include "fakes/fake_tray_item.h"
 #include "support/session_bus.h"
+#include "support/startable_service.h"
 #include "support/tray_panel.h"
 #include "support/wait_in_loop.h"
 
@@ -378,6 +379,22 @@ TEST_F(StatusNotifierItemTest, Hidden_LeavesTheBus) {
     world.item.hide();
     EXPECT_TRUE(waitInLoop(
         [&] { return !world.panels.get().interface()->isServiceRegistered(service).value(); }));
+}
+
+TEST(StatusNotifierItemAloneTest, PanelThatIsNotThere_IsNotStarted) {
+    const StartableService watcher(QStringLiteral("org.kde.StatusNotifierWatcher"));
+    const StartableService other(QStringLiteral("org.kelvo.Other"));
+    const PrivateBus bus;
+    ASSERT_FALSE(bus.address().isEmpty()) << "no message bus";
+    QDBusConnection own{QString()};
+    StatusNotifierItem item([&](const QString& name) {
+        return own = QDBusConnection::connectToBus(bus.address(), name);
+    });
+    item.show(look("tip"));
+    other.call(own);
+    EXPECT_TRUE(waitInLoop([&] { return other.wasStarted(); })) << "this bus starts services";
+    EXPECT_FALSE(watcher.wasStarted());
+    item.hide();
 }
 
 TEST(StatusNotifierItemAloneTest, NoBus_ChangesNothing) {
