@@ -355,6 +355,28 @@ TEST_F(StatusNotifierItemTest, BadCalls_AreAnsweredWithErrors) {
     EXPECT_EQ(chosen, 0);
 }
 
+TEST_F(StatusNotifierItemTest, Refusals_SayWhatIsNotThere) {
+    const QVariant nothing = QVariant::fromValue(QDBusVariant(QString()));
+    const QVariant clicked = QStringLiteral("clicked");
+    const MenuEvents unknown{{9, QStringLiteral("clicked"), QDBusVariant(0), 0}};
+    const std::pair<const char*, QVariantList> calls[]{
+        {"GetLayout", {44, -1, QStringList()}},
+        {"Event", {44, clicked, nothing, QVariant::fromValue(0U)}},
+        {"AboutToShow", {44}},
+        {"GetProperty", {1, QStringLiteral("colour")}},
+        {"EventGroup", {QVariant::fromValue(unknown)}},
+    };
+    QStringList reasons;
+    for (const auto& [member, arguments] : calls) {
+        const QDBusMessage answer = world.panel->askMenu(QString::fromLatin1(member), arguments);
+        EXPECT_EQ(answer.errorName(), u"org.freedesktop.DBus.Error.InvalidArgs") << member;
+        reasons.append(answer.errorMessage());
+    }
+    EXPECT_EQ(reasons.join(u'|'),
+              u"there is no entry 44|there is no entry 44|there is no entry 44|"
+              u"there is no entry 1 with such a property|there is none of these entries");
+}
+
 TEST_F(StatusNotifierItemTest, PanelStartedAnew_GetsTheItemAgain) {
     ASSERT_TRUE(world.watcher.disappear());
     ASSERT_TRUE(world.watcher.appear(true));
