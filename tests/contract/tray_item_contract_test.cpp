@@ -355,6 +355,27 @@ TEST_F(StatusNotifierItemTest, BadCalls_AreAnsweredWithErrors) {
     EXPECT_EQ(chosen, 0);
 }
 
+TEST_F(StatusNotifierItemTest, Layout_IsOfTheEntryAndTheDepthAskedFor) {
+    const auto layout = [this](int parent, int depth) {
+        const QDBusMessage answer =
+            world.panel->askMenu(QStringLiteral("GetLayout"), {parent, depth, QStringList()});
+        MenuLayout read;
+        answer.arguments().at(1).value<QDBusArgument>() >> read;
+        return read;
+    };
+    const QString display = QStringLiteral("children-display");
+    for (const int depth : {-1, 1, 0}) {
+        const MenuLayout root = layout(0, depth);
+        EXPECT_EQ(root.id, 0);
+        EXPECT_EQ(root.properties.value(display), QStringLiteral("submenu"));
+        EXPECT_EQ(root.children.size(), depth == 0 ? 0 : 3) << depth;
+    }
+    const MenuLayout third = layout(3, -1);
+    EXPECT_EQ(third.id, 3);
+    EXPECT_EQ(third.properties.value(QStringLiteral("label")), QStringLiteral("A__B & _C"));
+    EXPECT_TRUE(third.children.isEmpty());
+}
+
 TEST_F(StatusNotifierItemTest, Refusals_SayWhatIsNotThere) {
     const QVariant nothing = QVariant::fromValue(QDBusVariant(QString()));
     const QVariant clicked = QStringLiteral("clicked");
