@@ -70,18 +70,13 @@ bool readWhole(int folder, const char* name, Bytes& bytes) {
     return failure == 0;
 }
 
-Decimal::Decimal(long number) {
+Decimal::Decimal(unsigned long number) {
     char* end = text + sizeof text;
     *--end = '\0';
-    const bool negative = number < 0;
-    unsigned long rest =
-        negative ? 0UL - static_cast<unsigned long>(number) : static_cast<unsigned long>(number);
     do {
-        *--end = static_cast<char>('0' + rest % 10);
-        rest /= 10;
-    } while (rest > 0);
-    if (negative)
-        *--end = '-';
+        *--end = static_cast<char>('0' + number % 10);
+        number /= 10;
+    } while (number > 0);
     std::memmove(text, end, static_cast<std::size_t>(text + sizeof text - end));
 }
 

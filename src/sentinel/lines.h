@@ -22,7 +22,7 @@ bool readWhole(int folder, const char* name, Bytes& bytes);
 
 /// The decimal text of `number`, for as long as the buffer lives.
 struct Decimal {
-    explicit Decimal(long number);
+    explicit Decimal(unsigned long number);
     char text[24];
 };
 

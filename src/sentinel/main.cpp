@@ -60,13 +60,14 @@ void closeAllBut(int handle, int table) {
 }
 
 ExitCode watch(pid_t program) {
+    const Decimal number(static_cast<unsigned long>(program));
     const int handle = static_cast<int>(::syscall(SYS_pidfd_open, program, 0));
     if (handle < 0) {
         const bool none = errno == ESRCH;
         if (none)
-            say({"there is no process ", Decimal(program).text});
+            say({"there is no process ", number.text});
         else
-            say({"cannot watch process ", Decimal(program).text, ": ", ::strerrordesc_np(errno)});
+            say({"cannot watch process ", number.text, ": ", ::strerrordesc_np(errno)});
         return none ? ExitCode::NoSuchProcess : ExitCode::CannotBeWatched;
     }
     static ProgramImage image;

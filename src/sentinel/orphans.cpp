@@ -86,7 +86,7 @@ void readTable(int table, Commands& commands) {
     static Bytes bytes;
     const int processes = ::open("/proc", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     for (Row& row : commands.rows) {
-        const Decimal leader(static_cast<long>(row.session));
+        const Decimal leader(row.session);
         const Status status = statusOf(processes, leader.text, bytes);
         // The number was given to somebody else: nobody was left in the session.
         if (status.start != 0 && status.start != row.start)
@@ -196,7 +196,8 @@ bool isCommandTable(int descriptor) {
 
 void endOrphans(pid_t program, int table) {
     static Commands commands{"KELVO_MIRROR_PID=", {}};
-    std::strcat(commands.mark, Decimal(program).text); // NOLINT: 24 bytes at most
+    std::strcat(commands.mark,
+                Decimal(static_cast<unsigned long>(program)).text); // NOLINT: 24 bytes at most
     if (table >= 0)
         readTable(table, commands);
     static Bytes bytes;

@@ -79,7 +79,7 @@ bool learnAll(int folder, ProgramImage& image) {
 } // namespace
 
 ExitCode learn(pid_t program, int handle, ProgramImage& image) {
-    const Decimal number(program);
+    const Decimal number(static_cast<unsigned long>(program));
     char name[64] = "/proc/";
     std::strcat(name, number.text); // NOLINT: 24 bytes at most
     const int folder = ::open(name, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -98,9 +98,9 @@ ExitCode learn(pid_t program, int handle, ProgramImage& image) {
         say({"there is no process ", number.text, " any more"});
         return ExitCode::NoSuchProcess;
     }
-    if (!known || image.arguments[0] == nullptr) {
+    if (!known) {
         say({"cannot learn how process ", number.text,
-             " was started: ", ::strerrordesc_np(known ? ENODATA : failure)});
+             " was started: ", ::strerrordesc_np(failure)});
         return ExitCode::CannotBeWatched;
     }
     return ExitCode::ToldToEnd;

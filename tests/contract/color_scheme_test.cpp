@@ -1,6 +1,7 @@
 #include "adapters/desktop/color_scheme.h"
 #include "support/portal_service.h"
 #include "support/session_bus.h"
+#include "support/startable_service.h"
 #include "support/wait_in_loop.h"
 
 #include <gtest/gtest.h>
@@ -41,6 +42,8 @@ TEST_F(ColorSchemeTest, DarkFromTheBeginning_IsTold) {
     const ColorScheme scheme(tell, own.get());
     EXPECT_TRUE(told.empty()) << "from the event loop";
     EXPECT_TRUE(waitInLoop([&] { return told == std::vector<bool>{true}; }));
+    EXPECT_TRUE(waitInLoop([&] { return scheme.findChildren<QObject*>().isEmpty(); }))
+        << "nothing is kept of a question that is answered";
 }
 
 TEST_F(ColorSchemeTest, LatePortal_IsAsked) {
@@ -48,6 +51,19 @@ TEST_F(ColorSchemeTest, LatePortal_IsAsked) {
     portal.setScheme(1);
     ASSERT_TRUE(portal.appear());
     EXPECT_TRUE(waitInLoop([&] { return told == std::vector<bool>{true}; }));
+}
+
+TEST(ColorSchemeAloneTest, PortalThatIsNotThere_IsNotStarted) {
+    const StartableService portal(QStringLiteral("org.freedesktop.portal.Desktop"));
+    const StartableService other(QStringLiteral("org.kelvo.Other"));
+    const PrivateBus bus;
+    if (bus.address().isEmpty())
+        GTEST_SKIP() << "no bus daemon can be started here";
+    BusConnection own(bus.address(), QStringLiteral("color-starting"));
+    const ColorScheme scheme([](bool) {}, own.get());
+    other.call(own.get());
+    EXPECT_TRUE(waitInLoop([&] { return other.wasStarted(); })) << "this bus starts services";
+    EXPECT_FALSE(portal.wasStarted());
 }
 
 TEST(ColorSchemeAloneTest, NoBus_TellsNothing) {

@@ -133,6 +133,8 @@ TEST_F(BusNoticesTest, Choice_IsOfferedWhereThereAreChoicesAndForOurNoticesOnly)
     ASSERT_TRUE(waitInLoop([&] { return service.shown.size() == 3; }));
     EXPECT_EQ(service.hints.value(QStringLiteral("urgency")).toInt(), 1);
     EXPECT_EQ(shows, 0) << "the first notice was closed, and no other was chosen";
+    EXPECT_TRUE(waitInLoop([&] { return shown.findChildren<QObject*>().isEmpty(); }))
+        << "nothing is kept of a question that is answered";
     EXPECT_TRUE(otherwise.isEmpty());
 }
 

@@ -6,9 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include <malloc.h>
 #include <sys/wait.h>
 
 #include <cerrno>
+#include <string>
+#include <vector>
 
 namespace kelvo {
 namespace {
@@ -36,6 +39,18 @@ TEST(DetachedStartTest, Program_HasASessionOfItsOwnAndNoStreams) {
 TEST(DetachedStartTest, ProgramThatCannotBeStarted_IsTheSystemsReason) {
     EXPECT_EQ(startDetached({"/nowhere/program"}), -ENOENT);
     EXPECT_EQ(startDetached({"/dev/null"}), -EACCES);
+}
+
+TEST(DetachedStartTest, NothingIsKeptOfAStart) {
+    const std::vector<std::string> missing{"/nowhere/program"};
+    const auto keptBy = [&](int starts) {
+        const auto before = static_cast<long>(::mallinfo2().uordblks);
+        for (int i = 0; i < starts; ++i)
+            (void)startDetached(missing);
+        return static_cast<long>(::mallinfo2().uordblks) - before;
+    };
+    (void)keptBy(1);
+    EXPECT_LT(keptBy(100), 16L * 1024);
 }
 
 } // namespace

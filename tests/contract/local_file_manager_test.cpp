@@ -1,4 +1,5 @@
 #include "adapters/system/local_file_manager.h"
+#include "support/failing_syscall.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -10,10 +11,12 @@
 #include <pwd.h>
 #include <signal.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 
 namespace kelvo {
 namespace {
@@ -102,6 +105,77 @@ TEST_F(LocalFileManagerTest, WriteThatFails_LeavesTheOldFileAndNothingBeside) {
               QString(at("no folder/script") + u": No such file or directory"));
 }
 
+// -- a second name, and what comes in its place
+
+TEST_F(LocalFileManagerTest, DiskWithoutSecondNames_GetsACopy) {
+    const QByteArray content = QByteArray(3, 'a') + QByteArray(150'000, 'b') + "c";
+    put(at("key"), content);
+    ASSERT_EQ(fManager.changeMode(at("key"), 0641), 0);
+    for (const int error : {EPERM, EOPNOTSUPP, ENOSYS, EMLINK}) {
+        if (!withFailingSyscall(SYS_linkat, error, [&] {
+                EXPECT_EQ(fManager.keepUnder(at("key"), at("kept")), std::nullopt) << error;
+            }))
+            GTEST_SKIP() << "this system lets no call fail";
+        EXPECT_TRUE(contentOf(at("kept")) == content) << error;
+        EXPECT_EQ(modeOf(at("kept")), 0641U) << error;
+        ASSERT_EQ(fManager.removeItem(at("kept")), std::nullopt);
+        EXPECT_TRUE(contentOf(at("key")) == content);
+    }
+}
+
+TEST_F(LocalFileManagerTest, WhatCannotBeCopied_IsTheSystemsReasonAndLeavesNothing) {
+    put(at("key"), "secret");
+    put(at("taken"), "older");
+    ASSERT_TRUE(QDir().mkdir(at("folder")));
+    ASSERT_TRUE(QFile::link(at("key"), at("link")));
+    ASSERT_EQ(::mkfifo(at("pipe").toLocal8Bit().constData(), 0600), 0);
+    const auto reason = [&](const char* from, const char* to) {
+        return fManager.keepUnder(at(from), at(to)).value_or(QString());
+    };
+    if (!withFailingSyscall(SYS_linkat, EPERM, [&] {
+            EXPECT_EQ(reason("folder", "x"), at("folder") + u": Is a directory");
+            EXPECT_EQ(reason("pipe", "x"), at("pipe") + u": Invalid argument");
+            EXPECT_EQ(reason("link", "x"), at("link") + u": Too many levels of symbolic links");
+            EXPECT_EQ(reason("not there", "x"), at("not there") + u": No such file or directory");
+            EXPECT_EQ(reason("key", "taken"), at("taken") + u": File exists");
+            EXPECT_EQ(reason("key", "none/x"), at("key") + u": No such file or directory");
+            ASSERT_TRUE(failSyscall(SYS_fchmod, EPERM));
+            EXPECT_EQ(reason("key", "x"), at("key") + u": Operation not permitted");
+        }))
+        GTEST_SKIP() << "this system lets no call fail";
+    for (const long call : {SYS_read, SYS_write, SYS_fsync}) {
+        EXPECT_TRUE(withFailingSyscall(SYS_linkat, EPERM, [&] {
+            ASSERT_TRUE(failSyscall(call, EIO));
+            EXPECT_EQ(reason("key", "x"), at("key") + u": Input/output error") << call;
+        }));
+    }
+    EXPECT_TRUE(withFailingSyscall(SYS_linkat, EACCES, [&] {
+        EXPECT_EQ(reason("key", "x"), at("key") + u": Permission denied");
+    }));
+    EXPECT_EQ(contentOf(at("taken")), "older");
+    EXPECT_FALSE(fManager.fileExistsAtPath(at("x")));
+}
+
+TEST_F(LocalFileManagerTest, DiskThatFails_LeavesTheOldFileAndNothingBeside) {
+    put(at("script"), "old");
+    for (const long call : {SYS_write, SYS_fsync}) {
+        if (!withFailingSyscall(call, EIO, [&] {
+                EXPECT_EQ(fManager.writeAtomically(at("script"), "new"),
+                          at("script") + u": Input/output error");
+            }))
+            GTEST_SKIP() << "this system lets no call fail";
+    }
+    EXPECT_EQ(contentOf(at("script")), "old");
+    EXPECT_EQ(QDir(fFolder.path()).entryList(QDir::Files | QDir::Hidden),
+              QStringList{QStringLiteral("script")});
+}
+
+TEST_F(LocalFileManagerTest, FolderThatKnowsNoLocks_IsClaimedAllTheSame) {
+    if (!withFailingSyscall(SYS_flock, ENOLCK,
+                            [&] { EXPECT_TRUE(fManager.claimFolder(fFolder.path())); }))
+        GTEST_SKIP() << "this system lets no call fail";
+}
+
 // -- looking for files
 
 TEST_F(LocalFileManagerTest, FileBeneath_TakesTheWayAsItIsMeantAndFollowsNoLink) {
@@ -150,15 +224,15 @@ TEST_F(LocalFileManagerTest, FilesChangedSince_LeaveOutTheOlderNeighbour) {
         return fManager.fileBeneath(fFolder.path().toLocal8Bit(), name)->changed;
     };
     put(at("old"), "x");
-    // The clock of the disk goes on by steps. A file that is renamed changes its folder last, as
-    // rsync does it.
+    // The clock of the disk goes on by steps, and a folder may be one behind what comes into it.
     do {
         QFile::remove(at("new"));
         put(at("half"), "x");
         QFile::rename(at("half"), at("new"));
-    } while (changeOf("new") <= changeOf("old"));
-    const auto found = fManager.filesChangedSince(fFolder.path().toLocal8Bit(), changeOf("new"),
-                                                  [](QByteArrayView) { return false; });
+    } while (changeOf("new") <= changeOf("old").addMSecs(20));
+    const auto found =
+        fManager.filesChangedSince(fFolder.path().toLocal8Bit(), changeOf("old").addMSecs(1),
+                                   [](QByteArrayView) { return false; });
     ASSERT_EQ(found.size(), 1U);
     EXPECT_TRUE(found[0].path.endsWith("/new"));
 }

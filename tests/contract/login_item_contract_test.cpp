@@ -196,6 +196,23 @@ TEST_F(AutostartEntryTest, EntryThatCannotBeRead_IsSaidAndStays) {
     EXPECT_TRUE(item.state().isOn);
 }
 
+TEST_F(AutostartEntryTest, EntryThatCannotBeRemovedOrReplaced_IsSaidAndStays) {
+    ASSERT_TRUE(item.setOn(true));
+    const QString other = folder.filePath(QStringLiteral("other"));
+    ASSERT_TRUE(QFile::copy(entry, other));
+    // What something is laid over can neither be removed nor replaced.
+    withPrivateMounts([&] { return mountOver(other.toStdString(), entry.toStdString()); },
+                      [this] {
+                          for (const bool on : {true, false}) {
+                              const LoginItemOutcome outcome = item.setOn(on);
+                              EXPECT_EQ(outcome.kind, LoginItemOutcome::Failed) << on;
+                              EXPECT_EQ(outcome.path, entry);
+                              EXPECT_EQ(outcome.reason, QStringLiteral("Device or resource busy"));
+                              EXPECT_TRUE(item.state().isOn);
+                          }
+                      });
+}
+
 TEST_F(AutostartEntryTest, FolderThatCannotBeMade_IsSaidInTheSystemsWords) {
     QFile inTheWay(folder.filePath(QStringLiteral("config")));
     ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));

@@ -1,4 +1,6 @@
 #include "adapters/system/private_places.h"
+#include "support/failing_syscall.h"
+#include "support/private_mounts.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -147,6 +150,33 @@ TEST_F(TemporaryPlaceTest, SessionFolderThatIsNoPrivateFolder_IsPassedOver) {
     qputenv("XDG_RUNTIME_DIR", "session");
     EXPECT_EQ(temporaryFolderOfUser().path, own()) << "a path from the root folder only";
 }
+
+TEST_F(TemporaryPlaceTest, WithoutAnyVariable_ItIsMadeInTmp) {
+    qunsetenv("TMPDIR");
+    const std::string name = "kelvo-mirror-" + std::to_string(::getuid());
+    ASSERT_EQ(::mkdir(at("tmp").c_str(), 0700), 0);
+    withPrivateMounts([this] { return mountOver(at("tmp"), "/tmp"); },
+                      [&] { EXPECT_EQ(temporaryFolderOfUser().path, "/tmp/" + name); });
+}
+
+#ifdef SYS_access
+TEST_F(TemporaryPlaceTest, FolderThatCannotBeWrittenOrLookedAt_IsSaid) {
+    ASSERT_EQ(::mkdir(at("session").c_str(), 0700), 0);
+    qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(at("session")));
+    if (!withFailingSyscall(SYS_access, EROFS, [this] {
+            const PrivateFolder unwritable = temporaryFolderOfUser();
+            EXPECT_EQ(unwritable.path, "");
+            EXPECT_EQ(unwritable.fault, own() + " cannot be written");
+        }))
+        GTEST_SKIP() << "this system lets no call fail";
+    EXPECT_TRUE(withFailingSyscall(SYS_newfstatat, EIO, [this] {
+        const PrivateFolder unseen = temporaryFolderOfUser();
+        EXPECT_EQ(unseen.path, "");
+        EXPECT_EQ(unseen.fault, own() + ": Input/output error");
+    }));
+    EXPECT_EQ(mode("session/kelvo-mirror"), 0U);
+}
+#endif
 
 TEST_F(TemporaryPlaceTest, FolderThatCannotBeMade_IsSaidWithItsPath) {
     qputenv("TMPDIR", "/nowhere");

@@ -4,6 +4,7 @@
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "sentinel/exit_code.h"
 #include "support/descendants.h"
+#include "support/failing_syscall.h"
 #include "support/sanitized.h"
 #include "support/wait_until.h"
 
@@ -19,10 +20,13 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/mman.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <climits>
 #include <cstdint>
 #include <cstdlib>
 #include <future>
@@ -82,10 +86,112 @@ TEST_F(SentinelTest, AnythingButOneProcessId_IsRefused) {
          {QStringList{}, QStringList{QString()}, QStringList{QStringLiteral("0")},
           QStringList{QStringLiteral("-1")}, QStringList{QStringLiteral("12x")},
           QStringList{QStringLiteral(" 12")}, QStringList{QStringLiteral("99999999999999999999")},
+          QStringList{QStringLiteral("2147483648")}, QStringList{QStringLiteral("4294967297")},
+          QStringList{QStringLiteral("1:")}, QStringList{QStringLiteral("1/")},
           QStringList{QStringLiteral("1"), QStringLiteral("2")}}) {
         const auto [code, errors] = run(arguments);
         EXPECT_EQ(code, static_cast<int>(ExitCode::BadArgument));
         EXPECT_EQ(errors, "watchdog: expected one argument, the id of the process to watch\n");
+    }
+}
+
+TEST_F(SentinelTest, LargestNumberThereIs_IsAProcessId) {
+    for (const char* const number : {"2147483647", "1999999990"}) {
+        const auto [code, errors] = run({QString::fromLatin1(number)});
+        EXPECT_EQ(code, static_cast<int>(ExitCode::NoSuchProcess));
+        EXPECT_EQ(errors, QByteArray("watchdog: there is no process ") + number + "\n");
+    }
+}
+
+TEST_F(SentinelTest, ItsOwnProcess_IsRefused) {
+    const auto [code, errors] =
+        run({QStringLiteral("-c"), QStringLiteral("exec '" KELVO_SENTINEL "' $$")},
+            QStringLiteral("/bin/sh"));
+    EXPECT_EQ(code, static_cast<int>(ExitCode::BadArgument)) << errors.constData();
+}
+
+TEST_F(SentinelTest, ProcessThatCannotBeHeld_IsSaidInTheSystemsWords) {
+    QProcess sentinel;
+    sentinel.setChildProcessModifier([] { failSyscall(SYS_pidfd_open, EMFILE); });
+    const QString own = QString::number(::getpid());
+    sentinel.start(QStringLiteral(KELVO_SENTINEL), {own});
+    ASSERT_TRUE(sentinel.waitForFinished());
+    EXPECT_EQ(sentinel.exitCode(), static_cast<int>(ExitCode::CannotBeWatched));
+    EXPECT_EQ(
+        sentinel.readAllStandardError(),
+        QByteArray("watchdog: cannot watch process " + own.toLatin1() + ": Too many open files\n"));
+}
+
+TEST_F(SentinelTest, ProcessThatCannotBeRead_IsSaidInTheSystemsWords) {
+    QProcess sentinel;
+    sentinel.setChildProcessModifier([] { failSyscall(SYS_readlinkat, EACCES); });
+    const QString own = QString::number(::getpid());
+    sentinel.start(QStringLiteral(KELVO_SENTINEL), {own});
+    ASSERT_TRUE(sentinel.waitForFinished());
+    EXPECT_EQ(sentinel.exitCode(), static_cast<int>(ExitCode::CannotBeWatched));
+    EXPECT_EQ(sentinel.readAllStandardError(),
+              QByteArray("watchdog: cannot learn how process " + own.toLatin1() +
+                         " was started: Permission denied\n"));
+}
+
+TEST_F(SentinelTest, CommandsThatDoNotEnd_AreSaidAndTheProgramIsStartedAllTheSame) {
+    QProcess program;
+    QProcess command;
+    program.start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+    ASSERT_TRUE(program.waitForStarted());
+    QProcessEnvironment mark;
+    mark.insert(QStringLiteral("KELVO_MIRROR_PID"), QString::number(program.processId()));
+    command.setProcessEnvironment(mark);
+    command.start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+    ASSERT_TRUE(command.waitForStarted());
+    QProcess sentinel;
+    // No signal reaches anybody.
+    sentinel.setChildProcessModifier([] { failSyscall(SYS_pidfd_send_signal, EPERM); });
+    sentinel.start(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())});
+    ASSERT_TRUE(sentinel.waitForStarted());
+    ASSERT_TRUE(
+        waitUntil([&] { return catchesTermination(static_cast<pid_t>(sentinel.processId())); }));
+    QElapsedTimer spent;
+    spent.start();
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    ASSERT_TRUE(sentinel.waitForFinished());
+    EXPECT_GE(spent.elapsed(), 3000) << "two seconds for the request, one for the force";
+    EXPECT_EQ(sentinel.exitCode(), EXIT_FAILURE) << "sleep, which does not know the option";
+    EXPECT_TRUE(sentinel.readAllStandardError().startsWith(
+        "watchdog: some commands of the ended program do not end\n"));
+    EXPECT_FALSE(command.waitForFinished(0));
+    command.kill();
+    EXPECT_TRUE(command.waitForFinished());
+}
+
+TEST_F(SentinelTest, WhatIsNoTableOfCommands_IsLetGo) {
+    const UniqueFd small(::memfd_create("small", MFD_CLOEXEC));
+    ASSERT_EQ(::ftruncate(small.get(), 2047), 0);
+    const UniqueFd table(::memfd_create("table", MFD_CLOEXEC));
+    ASSERT_EQ(::ftruncate(table.get(), 2048), 0);
+    const QString ours = QStringLiteral("/proc/%1/fd/%2").arg(::getpid());
+    const std::pair<QString, int> given[]{
+        {QStringLiteral("/dev/null"), 4}, {ours.arg(small.get()), 4}, {ours.arg(table.get()), 5}};
+    for (const auto& [fourth, held] : given) {
+        QProcess sentinel;
+        sentinel.start(QStringLiteral("/bin/sh"),
+                       {QStringLiteral("-c"), QStringLiteral("exec \"$0\" \"$1\" 4<\"$2\""),
+                        QStringLiteral(KELVO_SENTINEL), QString::number(::getpid()), fourth});
+        ASSERT_TRUE(sentinel.waitForStarted());
+        const auto descriptors = [&] {
+            return QDir(QStringLiteral("/proc/%1/fd").arg(sentinel.processId()))
+                .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System)
+                .size();
+        };
+        EXPECT_TRUE(waitUntil([&, held = held] {
+            return catchesTermination(static_cast<pid_t>(sentinel.processId())) &&
+                   descriptors() == held;
+        })) << fourth.toStdString()
+            << descriptors();
+        sentinel.terminate();
+        EXPECT_TRUE(sentinel.waitForFinished());
+        EXPECT_EQ(sentinel.exitCode(), static_cast<int>(ExitCode::ToldToEnd));
     }
 }
 
@@ -355,6 +461,101 @@ TEST_F(SentinelTest, TableOfCommands_EndsTheSessionsThatItMeansAndNoOther) {
     EXPECT_FALSE(bystander.waitForFinished(0));
     bystander.kill();
     EXPECT_TRUE(bystander.waitForFinished());
+}
+
+TEST_F(SentinelTest, TableOfCommands_EndsWhatWritesIntoTheirPipesAndNothingElse) {
+    std::array<int, 2> output{};
+    std::array<int, 2> errors{};
+    std::array<int, 2> others{};
+    for (auto* pipe : {&output, &errors, &others})
+        ASSERT_EQ(::pipe2(pipe->data(), O_CLOEXEC), 0);
+    const auto number = [](int descriptor) {
+        struct stat status {};
+        return ::fstat(descriptor, &status) == 0 ? std::uint64_t{status.st_ino} : 0U;
+    };
+    QProcess program;
+    QProcess intoOutput;
+    QProcess intoErrors;
+    QProcess bystander;
+    const std::pair<QProcess*, std::pair<int, int>> ends[]{{&program, {-1, -1}},
+                                                           {&intoOutput, {output[1], -1}},
+                                                           {&intoErrors, {-1, errors[1]}},
+                                                           {&bystander, {others[1], others[1]}}};
+    for (const auto& [process, streams] : ends) {
+        process->setStandardOutputFile(QProcess::nullDevice());
+        process->setStandardErrorFile(QProcess::nullDevice());
+        process->setChildProcessModifier([streams = streams] {
+            ::setsid();
+            if (streams.first >= 0)
+                ::dup2(streams.first, STDOUT_FILENO);
+            if (streams.second >= 0)
+                ::dup2(streams.second, STDERR_FILENO);
+        });
+        process->start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+        ASSERT_TRUE(process->waitForStarted());
+    }
+    // Nobody is left in the session itself.
+    std::array<std::array<std::uint64_t, 4>, 64> rows{};
+    rows[63] = {std::uint64_t{INT_MAX}, 1, number(output[0]), number(errors[0])};
+    const UniqueFd table(::memfd_create("table", MFD_CLOEXEC));
+    ASSERT_EQ(::write(table.get(), rows.data(), sizeof rows), ssize_t{sizeof rows});
+    std::promise<int> ended;
+    const auto task =
+        PosixSentinelLauncher(table.get())
+            .launch(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())},
+                    [&ended](int exitCode) { ended.set_value(exitCode); });
+    ASSERT_TRUE(task);
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_TRUE(intoOutput.waitForFinished());
+    EXPECT_TRUE(intoErrors.waitForFinished());
+    EXPECT_EQ(ended.get_future().get(), EXIT_FAILURE) << "sleep, which does not know the option";
+    EXPECT_FALSE(bystander.waitForFinished(0));
+    bystander.kill();
+    EXPECT_TRUE(bystander.waitForFinished());
+    for (const auto& pipe : {output, errors, others}) {
+        ::close(pipe[0]);
+        ::close(pipe[1]);
+    }
+}
+
+TEST_F(SentinelTest, TableOfCommands_IsNotPassedOnToTheProgram) {
+    const QTemporaryDir folder;
+    QProcess program;
+    program.setWorkingDirectory(folder.path());
+    program.start(QStringLiteral("/bin/sh"),
+                  {QStringLiteral("-c"),
+                   QStringLiteral("[ ! -e begun ] || { for fd in 3 4 5 6 7; do "
+                                  "[ ! -e /proc/$$/fd/$fd ] || exit 9; done; exit 7; }; "
+                                  ": > begun; read line"),
+                   QStringLiteral("name")});
+    ASSERT_TRUE(waitUntil([&] { return QFile::exists(folder.filePath(QStringLiteral("begun"))); }));
+    std::promise<int> ended;
+    const auto task =
+        fLauncher.launch(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())},
+                         [&ended](int exitCode) { ended.set_value(exitCode); });
+    ASSERT_TRUE(task);
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(ended.get_future().get(), 7);
+}
+
+TEST_F(SentinelTest, ProgramWhoseNameSaysDeleted_IsStartedByThatName) {
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("program (deleted)"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral("/bin/sleep"), copy));
+    QProcess program;
+    program.start(copy, {QStringLiteral("1000")});
+    ASSERT_TRUE(program.waitForStarted());
+    QProcess sentinel;
+    sentinel.start(QStringLiteral(KELVO_SENTINEL), {QString::number(program.processId())});
+    ASSERT_TRUE(sentinel.waitForStarted());
+    ASSERT_TRUE(
+        waitUntil([&] { return catchesTermination(static_cast<pid_t>(sentinel.processId())); }));
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    ASSERT_TRUE(sentinel.waitForFinished());
+    EXPECT_EQ(sentinel.exitCode(), EXIT_FAILURE) << "sleep, which does not know the option";
 }
 
 TEST_F(SentinelTest, WhileItWaits_ItSharesStreamsOnlyAndNoTerminalOrSignal) {

@@ -6,6 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <net/if.h>
 #include <random>
 
 namespace kelvo {
@@ -132,6 +138,29 @@ TEST(NeighbourTableTest, UnknownOrIncomplete_IsEmpty) {
     EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0"), "eth0"), u"");
     EXPECT_EQ(macAddressIn("", QStringLiteral("10.0.0.2"), "eth0"), u"");
     EXPECT_EQ(macAddressOf(QStringLiteral("10.0.0.2"), 0), u"");
+}
+
+TEST(NeighbourTableTest, Address_IsTheSystemsOwn) {
+    // In a network of its own, so that there is a neighbour.
+    const pid_t child = ::fork();
+    if (child == 0) {
+        if (::unshare(::geteuid() == 0 ? CLONE_NEWNET : CLONE_NEWUSER | CLONE_NEWNET) != 0 ||
+            std::system("ip link add here type veth peer name there && ip link set here up && "
+                        "ip neighbour add 10.9.8.7 lladdr 02:00:5e:10:00:AB dev here") != 0)
+            ::_exit(2);
+        const unsigned device = ::if_nametoindex("here");
+        const bool found = macAddressOf(QStringLiteral("10.9.8.7"), device) == u"02:00:5e:10:00:ab";
+        const bool others = !macAddressOf(QStringLiteral("10.9.8.6"), device).isEmpty() ||
+                            !macAddressOf(QStringLiteral("10.9.8.7"), 1).isEmpty() ||
+                            !macAddressOf(QString(), device).isEmpty();
+        ::_exit(found && !others ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    if (WEXITSTATUS(status) == 2)
+        GTEST_SKIP() << "this system lets us make no network of our own";
+    EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
 // -- the table between the threads

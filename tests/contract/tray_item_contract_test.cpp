@@ -3,6 +3,7 @@
 #include "adapters/desktop/status_notifier_item.h"
 #include "fakes/fake_tray_item.h"
 #include "support/session_bus.h"
+#include "support/startable_service.h"
 #include "support/tray_panel.h"
 #include "support/wait_in_loop.h"
 
@@ -354,6 +355,49 @@ TEST_F(StatusNotifierItemTest, BadCalls_AreAnsweredWithErrors) {
     EXPECT_EQ(chosen, 0);
 }
 
+TEST_F(StatusNotifierItemTest, Layout_IsOfTheEntryAndTheDepthAskedFor) {
+    const auto layout = [this](int parent, int depth) {
+        const QDBusMessage answer =
+            world.panel->askMenu(QStringLiteral("GetLayout"), {parent, depth, QStringList()});
+        MenuLayout read;
+        answer.arguments().at(1).value<QDBusArgument>() >> read;
+        return read;
+    };
+    const QString display = QStringLiteral("children-display");
+    for (const int depth : {-1, 1, 0}) {
+        const MenuLayout root = layout(0, depth);
+        EXPECT_EQ(root.id, 0);
+        EXPECT_EQ(root.properties.value(display), QStringLiteral("submenu"));
+        EXPECT_EQ(root.children.size(), depth == 0 ? 0 : 3) << depth;
+    }
+    const MenuLayout third = layout(3, -1);
+    EXPECT_EQ(third.id, 3);
+    EXPECT_EQ(third.properties.value(QStringLiteral("label")), QStringLiteral("A__B & _C"));
+    EXPECT_TRUE(third.children.isEmpty());
+}
+
+TEST_F(StatusNotifierItemTest, Refusals_SayWhatIsNotThere) {
+    const QVariant nothing = QVariant::fromValue(QDBusVariant(QString()));
+    const QVariant clicked = QStringLiteral("clicked");
+    const MenuEvents unknown{{9, QStringLiteral("clicked"), QDBusVariant(0), 0}};
+    const std::pair<const char*, QVariantList> calls[]{
+        {"GetLayout", {44, -1, QStringList()}},
+        {"Event", {44, clicked, nothing, QVariant::fromValue(0U)}},
+        {"AboutToShow", {44}},
+        {"GetProperty", {1, QStringLiteral("colour")}},
+        {"EventGroup", {QVariant::fromValue(unknown)}},
+    };
+    QStringList reasons;
+    for (const auto& [member, arguments] : calls) {
+        const QDBusMessage answer = world.panel->askMenu(QString::fromLatin1(member), arguments);
+        EXPECT_EQ(answer.errorName(), u"org.freedesktop.DBus.Error.InvalidArgs") << member;
+        reasons.append(answer.errorMessage());
+    }
+    EXPECT_EQ(reasons.join(u'|'),
+              u"there is no entry 44|there is no entry 44|there is no entry 44|"
+              u"there is no entry 1 with such a property|there is none of these entries");
+}
+
 TEST_F(StatusNotifierItemTest, PanelStartedAnew_GetsTheItemAgain) {
     ASSERT_TRUE(world.watcher.disappear());
     ASSERT_TRUE(world.watcher.appear(true));
@@ -378,6 +422,22 @@ TEST_F(StatusNotifierItemTest, Hidden_LeavesTheBus) {
     world.item.hide();
     EXPECT_TRUE(waitInLoop(
         [&] { return !world.panels.get().interface()->isServiceRegistered(service).value(); }));
+}
+
+TEST(StatusNotifierItemAloneTest, PanelThatIsNotThere_IsNotStarted) {
+    const StartableService watcher(QStringLiteral("org.kde.StatusNotifierWatcher"));
+    const StartableService other(QStringLiteral("org.kelvo.Other"));
+    const PrivateBus bus;
+    ASSERT_FALSE(bus.address().isEmpty()) << "no message bus";
+    QDBusConnection own{QString()};
+    StatusNotifierItem item([&](const QString& name) {
+        return own = QDBusConnection::connectToBus(bus.address(), name);
+    });
+    item.show(look("tip"));
+    other.call(own);
+    EXPECT_TRUE(waitInLoop([&] { return other.wasStarted(); })) << "this bus starts services";
+    EXPECT_FALSE(watcher.wasStarted());
+    item.hide();
 }
 
 TEST(StatusNotifierItemAloneTest, NoBus_ChangesNothing) {
