@@ -11,8 +11,8 @@ class QPushButton;
 
 namespace kelvo {
 
-/// Keeps its room while nothing runs and nothing is shown. When it goes, the focus goes back to
-/// where it was when the row came. Its button is named "ibCancelCommand".
+/// Takes no room while nothing runs: it belongs below what can give room away. When it goes, the
+/// focus goes back to where it was when the row came. Its button is named "ibCancelCommand".
 class BusyRow final : public QWidget {
     Q_OBJECT
 public:
