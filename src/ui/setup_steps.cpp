@@ -2,6 +2,7 @@
 
 #include "support/plain_line.h"
 #include "support/text.h"
+#include "ui/activity_texts.h"
 #include "ui/checklist.h"
 #include "ui/key_state_words.h"
 #include "ui/pass_words.h"
@@ -139,7 +140,7 @@ QString verdict(const HostAnswer& answer) {
 QString momentText(const QDateTime& moment, const QDateTime& now) {
     const QDateTime local = moment.toLocalTime();
     return local.date() == now.toLocalTime().date()
-               ? local.toString(QStringLiteral("HH:mm"))
+               ? timeText(moment)
                : QLocale().toString(local, QLocale::ShortFormat);
 }
 

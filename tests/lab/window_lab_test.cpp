@@ -50,13 +50,13 @@ protected:
         startAgain();
     }
 
-    void startAgain() {
+    void startAgain(const QStringList& variables = {}) {
         program = std::make_unique<RunningProgram>(
             QStringLiteral(KELVO_LAB_COMMAND),
             QStringList{QStringLiteral("near"), QStringLiteral("env"),
                         QString(u"DISPLAY=" + screen.name()), QStringLiteral("QT_QPA_PLATFORM=xcb"),
-                        QStringLiteral("DBUS_SESSION_BUS_ADDRESS=disabled:"),
-                        QStringLiteral(KELVO_PROGRAM)});
+                        QStringLiteral("DBUS_SESSION_BUS_ADDRESS=disabled:")} +
+                variables + QStringList{QStringLiteral(KELVO_PROGRAM)});
     }
 
     void keepPicture(const char* name) const {
@@ -186,6 +186,43 @@ TEST_F(WindowLabTest, SlowPull_IsSeenUnderWayCancelledAndTakenUpAgain) {
     ASSERT_TRUE(waitUntil([] { return lastCause() == u"remote-login-off"; }, 20s));
     keepPicture("work-trouble");
     EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+}
+
+/// What is printed stays English, so the lines that are waited for are the same.
+TEST_F(WindowLabTest, DesktopsOfOtherLooksAndLanguages_HaveTheSamePasses) {
+    const QString kde = QStringLiteral("XDG_CURRENT_DESKTOP=KDE");
+    const QString version = QStringLiteral("KDE_SESSION_VERSION=5");
+    const struct {
+        const char* picture;
+        const char* settings;
+        QStringList variables;
+    } looks[]{
+        {"dark",
+         "[Colors:Window]\nBackgroundNormal=42,44,46\nForegroundNormal=240,240,240\n"
+         "[Colors:Button]\nBackgroundNormal=58,61,64\nForegroundNormal=240,240,240\n"
+         "[Colors:View]\nBackgroundNormal=29,31,32\nForegroundNormal=240,240,240\n",
+         {kde, version}},
+        {"large", "[General]\nfont=DejaVu Sans,18,-1,5,50,0,0,0,0,0\n", {kde, version}},
+        {"arabic", "", {QStringLiteral("LC_ALL=ar_EG.UTF-8")}},
+    };
+    QVariantMap profile = remoteProfile();
+    profile[QStringLiteral("prefDelayBetweenScans")] = 600.0;
+    writeNear(cSettings, plistText(profile));
+    const auto passes = [] {
+        return near(QStringLiteral(KELVO_PROGRAM " --passes --json")).output.count("\"well\"");
+    };
+    for (qsizetype ended = 0; const auto& look : looks) {
+        writeNear(QStringLiteral("/Users/near/.config/kdeglobals"), look.settings);
+        startAgain(look.variables);
+        ASSERT_TRUE(program->waitForLine(QStringLiteral("result from movie shell command ="), 90))
+            << look.picture << program->transcript().toStdString();
+        ++ended;
+        ASSERT_TRUE(waitUntil([&] { return passes() == ended; }, 20s)) << look.picture;
+        ASSERT_TRUE(screen.becomesActive(QStringLiteral("Kelvo Mirror")));
+        keepPicture(look.picture);
+        EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
+    }
+    EXPECT_EQ(nearChecksums(cIncoming), moviesOf(remoteChecksums(cRemoteMovies)));
 }
 
 TEST_F(WindowLabTest, FirstStart_SaysWhatIsMissing) {

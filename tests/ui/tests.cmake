@@ -23,6 +23,7 @@ kelvo_tests(ui WIDGETS
     ui/muted_hints_test.cpp
     ui/path_control_view_test.cpp
     ui/remote_tab_test.cpp
+    ui/room_test.cpp
     ui/settings_places_test.cpp
     ui/settings_tab_test.cpp
     ui/sheet_presenter_test.cpp

@@ -6,6 +6,7 @@
 #include "ui/activity_texts.h"
 #include "ui/widgets/arrival_rows.h"
 #include "ui/widgets/kept_place.h"
+#include "ui/widgets/muted_hints.h"
 #include "ui/widgets/wide_column.h"
 #include "ui/words.h"
 #include "ui_arrivals_view.h"
@@ -44,6 +45,7 @@ ArrivalsView::ArrivalsView(ActivityParts parts, QWidget* parent)
     : QWidget(parent), fParts(std::move(parts)), fUi(std::make_unique<Ui::ArrivalsView>()),
       fRows(new ArrivalRows(this)) {
     fUi->setupUi(this);
+    muteHints(*fUi->searchText);
     QTreeView& list = *fUi->arrivals;
     list.setModel(fRows);
     list.setIndentation(fontMetrics().height());

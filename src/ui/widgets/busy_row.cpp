@@ -37,9 +37,7 @@ BusyRow::BusyRow(QWidget* parent)
     row->addWidget(fText, 1);
     row->addWidget(sign);
     row->addWidget(fCancel);
-    QSizePolicy keepsItsPlace(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    keepsItsPlace.setRetainSizeWhenHidden(true);
-    setSizePolicy(keepsItsPlace);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setTask(RemoteTaskKind::None);
 }
 

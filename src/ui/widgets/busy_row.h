@@ -11,9 +11,9 @@ class QPushButton;
 
 namespace kelvo {
 
-/// Keeps its room while nothing runs and nothing is shown. What runs is spoken, and its end. When
-/// the row goes, the focus goes back to where it was when it came. Its button is named
-/// "ibCancelCommand".
+/// Takes no room while nothing runs: it belongs below what can give room away. What runs is spoken,
+/// and its end. When it goes, the focus goes back to where it was when the row came. Its button is
+/// named "ibCancelCommand".
 class BusyRow final : public QWidget {
     Q_OBJECT
 public:

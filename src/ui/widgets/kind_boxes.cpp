@@ -1,9 +1,10 @@
 #include "ui/widgets/kind_boxes.h"
 
+#include "ui/widgets/clear_box.h"
 #include "ui/widgets/flow_layout.h"
 
-#include <QCheckBox>
 #include <QEvent>
+#include <QGuiApplication>
 
 #include <algorithm>
 
@@ -11,13 +12,19 @@ namespace kelvo {
 namespace {
 
 constexpr int cGap = 12;
+constexpr char16_t cLeftToRight = 0x200e;
+
+/// The dot stays before the letters in a window that is written from right to left.
+QString asWritten(const QString& suffix) {
+    return QGuiApplication::isRightToLeft() ? cLeftToRight + suffix : suffix;
+}
 
 } // namespace
 
 KindBoxes::KindBoxes(QWidget* parent) : QWidget(parent) {
     for (std::size_t place = 0; place < fBoxes.size(); ++place) {
         const QString suffix = cMovieKinds[place].suffix.toString();
-        fBoxes[place] = new QCheckBox(u'.' + suffix, this);
+        fBoxes[place] = new CheckBox(asWritten(u'.' + suffix), this);
         fBoxes[place]->setObjectName(u"kind_" + suffix);
         connect(fBoxes[place], &QCheckBox::clicked, this,
                 [this, place](bool taken) { Q_EMIT kindTicked(place, taken); });

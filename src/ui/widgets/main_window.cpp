@@ -137,10 +137,9 @@ void MainWindow::showTab(int index) {
 
 void MainWindow::showTab(const QString& identifier) {
     const std::vector<Tab> all = tabs();
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        if (all[i].identifier == identifier)
-            showTab(static_cast<int>(i));
-    }
+    const auto found = std::ranges::find(all, identifier, &Tab::identifier);
+    if (found != all.end())
+        showTab(static_cast<int>(found - all.begin()));
 }
 
 void MainWindow::setDiagnosticsShown(bool shown) {
@@ -224,13 +223,14 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::restoreLook() {
-    const auto size = pairIn(fDefaults.stringForKey(prefMainWindowSize), u'x');
+    const QPoint kept = pairIn(fDefaults.stringForKey(prefMainWindowSize), u'x').value_or(QPoint());
     const auto place = pairIn(fDefaults.stringForKey(prefMainWindowPlace), u',');
     // A screen that is gone, or smaller by now, shall not keep the window out of sight.
     const QScreen* known = place ? QGuiApplication::screenAt(*place) : nullptr;
     const QRect room = (known ? known : screen())->availableGeometry();
-    if (size && size->x() > 0 && size->y() > 0)
-        resize(QSize(size->x(), size->y()).boundedTo(room.size()).expandedTo(minimumSizeHint()));
+    const QSize wanted = std::min(kept.x(), kept.y()) > 0 ? QSize(kept.x(), kept.y()) : size();
+    if (const QSize fitting = wanted.boundedTo(room.size()); fitting != size())
+        resize(fitting.expandedTo(minimumSizeHint()));
     if (known && placesItself()) {
         const auto within = [](int at, int length, int from, int to) {
             return std::max(from, std::min(at, to + 1 - length));

@@ -6,6 +6,7 @@
 #include "ui/activity_texts.h"
 #include "ui/pass_words.h"
 #include "ui/widgets/announcement.h"
+#include "ui/widgets/fixed_font.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/kept_place.h"
 #include "ui/widgets/pass_rows.h"
@@ -15,7 +16,6 @@
 
 #include <QClipboard>
 #include <QFileDialog>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPointer>
 #include <QSaveFile>
@@ -51,7 +51,7 @@ PassesView::PassesView(PassStore& store, UserDefaults& defaults, QWidget* parent
     widen(PassRows::Size, bytesText(888'800'000));
     widen(PassRows::Time, TimeLeftWords().text(55 * 60));
     new WideColumn(*fUi->passes, PassRows::Outcome);
-    fUi->passText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    fUi->passText->setFont(fixedFont(font()));
     keepHalves(defaults);
     connect(fUi->broughtFiles, &QCheckBox::toggled, this, [this] { setFilter(); });
     connect(fUi->inTrouble, &QCheckBox::toggled, this, [this] { setFilter(); });
@@ -84,6 +84,8 @@ void PassesView::showEvent(QShowEvent* event) {
 void PassesView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange)
         fRows->setIcons(iconsOf(*this));
+    if (event->type() == QEvent::FontChange)
+        fUi->passText->setFont(fixedFont(font()));
     QWidget::changeEvent(event);
 }
 

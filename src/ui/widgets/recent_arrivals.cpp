@@ -3,7 +3,6 @@
 #include "ports/pass_store.h"
 #include "support/plain_line.h"
 #include "ui/activity_texts.h"
-#include "ui/pass_words.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/muted_hints.h"
 
@@ -107,7 +106,7 @@ void RecentArrivals::showArrivals() {
                                          : new QTreeWidgetItem(&list());
         row->setText(Time, whenText(arrival.arrived));
         row->setText(Name, oneLine(path.section(u'/', -1)));
-        row->setText(Size, sizeText({TransferSource::Lines, 1, arrival.size}));
+        row->setText(Size, bytesText(arrival.size));
         row->setTextAlignment(Time, Qt::AlignRight | Qt::AlignVCenter);
         row->setTextAlignment(Size, Qt::AlignRight | Qt::AlignVCenter);
         row->setToolTip(Name, plainToolTip(oneLine(path)));

@@ -4,13 +4,16 @@
 #include "settings/preference_keys.h"
 #include "ui/widgets/announcement.h"
 #include "ui/widgets/bindings.h"
+#include "ui/widgets/breakable_text.h"
 #include "ui/widgets/flow_layout.h"
+#include "ui/widgets/muted_hints.h"
 #include "ui/widgets/source_notice.h"
 #include "ui/widgets/step_head.h"
 #include "ui_remote_tab.h"
 
 #include <QApplication>
 #include <QHideEvent>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <utility>
@@ -25,7 +28,7 @@ std::size_t at(SetupStep step) {
 }
 
 void showText(QLabel& label, const QString& text) {
-    label.setText(text);
+    label.setText(breakable(text));
     label.setVisible(!text.isEmpty());
 }
 
@@ -53,6 +56,8 @@ RemoteTab::RemoteTab(Bindings& bindings, QWidget* parent)
                    .folds = false}};
     for (QWidget* row : {fUi->hostRow, fUi->sourceRow, fUi->keyRow, fUi->testRow, fUi->moreRow})
         new FlowLayout(*row);
+    for (QLineEdit* field : {fUi->remoteHost, fUi->remoteUser, fUi->remotePath})
+        muteHints(*field);
     QSizePolicy keepsItsPlace = fUi->testBusySign->sizePolicy();
     keepsItsPlace.setRetainSizeWhenHidden(true);
     fUi->testBusySign->setSizePolicy(keepsItsPlace);
@@ -106,7 +111,14 @@ void RemoteTab::setTesting(bool testing) {
 }
 
 void RemoteTab::setTask(RemoteTaskKind kind) {
+    // The row takes its room at the lower end of what scrolls. A bar that came with it would make
+    // everything narrower under the pointer.
+    QScrollBar& bar = *fUi->scrollArea->verticalScrollBar();
+    if (fUi->busyRow->isHidden() && !bar.isVisible())
+        fUi->scrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     fUi->busyRow->setTask(kind);
+    if (kind == RemoteTaskKind::None)
+        fUi->scrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 void RemoteTab::setKeyState(KeyState state) {

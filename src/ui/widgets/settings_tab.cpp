@@ -8,12 +8,12 @@
 #include "ui/template_faults.h"
 #include "ui/widgets/announcement.h"
 #include "ui/widgets/bindings.h"
+#include "ui/widgets/fixed_font.h"
 #include "ui/widgets/muted_hints.h"
 #include "ui/widgets/trouble_color.h"
 #include "ui_settings_tab.h"
 
 #include <QEvent>
-#include <QFontDatabase>
 #include <QPointer>
 #include <QTextDocument>
 
@@ -269,8 +269,7 @@ void SettingsTab::showEvent(QShowEvent* event) {
 }
 
 void SettingsTab::applyFonts() {
-    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    fixed.setPointSizeF(font().pointSizeF());
+    const QFont fixed = fixedFont(font());
     fUi->rsyncTemplate->setFont(fixed);
     fUi->commandExample->setFont(fixed);
     fUi->rsyncTemplate->setMinimumHeight(fUi->rsyncTemplate->fontMetrics().lineSpacing() *
