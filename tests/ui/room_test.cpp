@@ -68,6 +68,10 @@ protected:
                 for (const QWidget* part : area->widget()->findChildren<QWidget*>()) {
                     if (part->isVisible() && part->minimumSizeHint().width() > area->width())
                         ADD_FAILURE() << qPrintable(part->objectName()) << " is too wide";
+                    if (part->isVisible() && qobject_cast<const QAbstractButton*>(part)) {
+                        EXPECT_GE(part->height(), part->heightForWidth(part->width()))
+                            << qPrintable(part->objectName());
+                    }
                 }
             }
         }

@@ -25,6 +25,7 @@ public:
     explicit ClearBox(QWidget* parent = nullptr) : Button(parent) {
         QSizePolicy wraps = this->sizePolicy();
         wraps.setHorizontalPolicy(QSizePolicy::Preferred);
+        wraps.setVerticalPolicy(QSizePolicy::Minimum);
         wraps.setHeightForWidth(true);
         this->setSizePolicy(wraps);
     }
