@@ -1,14 +1,21 @@
 #include "adapters/process/command_processes.h"
 #include "adapters/system/clean_attributes.h"
+#include "adapters/system/unique_fd.h"
+#include "support/wait_until.h"
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <time.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <array>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -61,6 +68,42 @@ TEST(CommandProcessesTest, MarkOrSession_MakesAProcessOneOfThem) {
     EXPECT_EQ(livingProcesses(unmarked.session()), std::vector{unmarked.pid()});
     EXPECT_EQ(livingProcesses({{&sessions, 1}, "KELVO_TEST_MARK=777"}).size(), 2U);
     EXPECT_EQ(livingProcesses({}), std::vector<pid_t>());
+}
+
+TEST(CommandProcessesTest, MarkBeforeAllOtherVariables_IsSeen) {
+    const Shell ours("exec env -i KELVO_TEST_MARK=78 PATH=/usr/bin:/bin sleep 600");
+    EXPECT_TRUE(waitUntil([&] {
+        return livingProcesses({{}, "KELVO_TEST_MARK=78"}) == std::vector{ours.pid()};
+    }));
+}
+
+TEST(CommandProcessesTest, OneStreamIntoAPipe_MakesAProcessOneOfThem) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
+    const UniqueFd reading(ends[0]);
+    const UniqueFd writing(ends[1]);
+    struct stat status {};
+    ASSERT_EQ(::fstat(ends[0], &status), 0);
+    const std::string pipe =
+        "/proc/" + std::to_string(::getpid()) + "/fd/" + std::to_string(ends[1]);
+    const Shell output("exec sleep 600 >" + pipe + " 2>/dev/null");
+    const Shell errors("exec sleep 600 2>" + pipe + " >/dev/null");
+    const std::array pipes{status.st_ino};
+    EXPECT_TRUE(waitUntil([&] {
+        const std::vector<pid_t> found =
+            livingProcesses({.sessions = {}, .mark = {}, .pipes = pipes});
+        return std::set(found.begin(), found.end()) == std::set{output.pid(), errors.pid()};
+    }));
+}
+
+TEST(CommandProcessesTest, ThisProcess_IsNoneOfThem) {
+    const pid_t session = ::getsid(0);
+    EXPECT_EQ(std::ranges::count(livingProcesses({{&session, 1}, {}}), ::getpid()), 0);
+}
+
+TEST(CommandProcessesTest, ProcessThatIsNot_HasNoStart) {
+    EXPECT_GT(startOf(::getpid()), 0U);
+    EXPECT_EQ(startOf(1 << 30), 0U);
 }
 
 TEST(CommandProcessesTest, ProcessThatWaitsToBeReaped_IsNotLiving) {

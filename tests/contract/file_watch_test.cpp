@@ -1,6 +1,7 @@
 // FileWatch on a real folder, with directory signals and where the kernel refuses them.
 #include "adapters/settings/file_watch.h"
 #include "contract/settings_folder.h"
+#include "support/sanitized.h"
 #include "support/wait_until.h"
 
 #include <QDir>
@@ -11,6 +12,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -19,6 +21,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstddef>
+#include <cstdio>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
 #include <thread>
@@ -118,6 +121,13 @@ TEST_P(FileWatchTest, EachWayToChangeTheFile_IsNoticed) {
     EXPECT_TRUE(isNoticed([&] { fFolder.write("second, longer"); })) << "written";
     EXPECT_TRUE(isNoticed([&] { fFolder.replace({{"a", 1LL}}); })) << "replaced";
     EXPECT_TRUE(isNoticed([&] { QFile::remove(fFolder.path()); })) << "removed";
+    QFile kept(fFolder.path());
+    EXPECT_TRUE(isNoticed([&] { EXPECT_TRUE(kept.open(QFile::WriteOnly | QFile::Unbuffered)); }))
+        << "made by one that keeps it open";
+    EXPECT_TRUE(isNoticed([&] { kept.write("half"); })) << "written by one that keeps it open";
+    const QString away = fFolder.folder() + QStringLiteral("-away");
+    EXPECT_TRUE(isNoticed([&] { QFile::rename(fFolder.path(), away); })) << "moved away";
+    EXPECT_TRUE(isNoticed([&] { QFile::rename(away, fFolder.path()); })) << "moved back";
 }
 
 TEST_P(FileWatchTest, WritingOfTheSameLengthInQuickSuccession_IsNoticedEachTime) {
@@ -181,8 +191,10 @@ TEST_P(FileWatchTest, WakeUpBeforeTheWait_EndsIt) {
 TEST_P(FileWatchTest, OtherFileBesideAFileAtRest_IsNoChange) {
     fFolder.write("at rest");
     std::this_thread::sleep_for(2100ms);
+    ASSERT_EQ(fWatch.arm(), 0);
     begin();
     settle();
+    EXPECT_EQ(fChanges, 0) << "it was there when the watch began";
     const int changes = fChanges;
     const int returns = fReturns;
     writeOther(1);
@@ -201,6 +213,20 @@ TEST_P(FileWatchTest, FolderMovedAwayAndMadeAgain_IsWatchedAgain) {
     settle();
     EXPECT_EQ(fError, 0);
     EXPECT_TRUE(isNoticed([&] { fFolder.write("newer, longer"); }));
+}
+
+TEST_P(FileWatchTest, FolderExchangedForAnother_IsWatchedThere) {
+    fFolder.write("old");
+    begin();
+    const QString other = fFolder.folder() + QStringLiteral("-other");
+    ASSERT_TRUE(QDir().mkdir(other));
+    EXPECT_TRUE(isNoticed([&] {
+        EXPECT_EQ(::renameat2(AT_FDCWD, QFile::encodeName(other), AT_FDCWD,
+                              QFile::encodeName(fFolder.folder()), RENAME_EXCHANGE),
+                  0);
+    }));
+    settle();
+    EXPECT_TRUE(isNoticed([&] { fFolder.write("new"); }));
 }
 
 TEST_P(FileWatchTest, FolderRemoved_IsNoLongerWatched) {
@@ -230,6 +256,19 @@ INSTANTIATE_TEST_SUITE_P(Kernels, FileWatchTest,
                          [](const auto& given) {
                              return given.param == Kernel::Signals ? "signals" : "inotify";
                          });
+
+TEST(FileWatchArmTest, WatchMadeWithoutDescriptors_LooksUpByItself) {
+    if (cSanitized)
+        GTEST_SKIP() << "the sanitizer itself needs a descriptor";
+    rlimit before{};
+    ::getrlimit(RLIMIT_NOFILE, &before);
+    const rlimit none{0, before.rlim_max};
+    ::setrlimit(RLIMIT_NOFILE, &none);
+    FileWatch watch("/nowhere", "preferences.plist");
+    ::setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_FALSE(watch.wait(std::nullopt));
+    EXPECT_FALSE(watch.wait(std::chrono::steady_clock::now() + 1h));
+}
 
 TEST(FileWatchArmTest, NoFolderOrNoneAtAll_IsRefusedWithTheReason) {
     const SettingsFolder folder;

@@ -87,6 +87,28 @@ protected:
         return seen;
     }
 
+    /// What the runner says is written by `command`, which writes "half" into film.mov and then
+    /// reads from the pipe "wait".
+    std::optional<FileBeingWritten> seenBeside(const QString& command) {
+        const QString film = fDestination + u"/film.mov";
+        CommandId id = 0;
+        auto ended = std::async(std::launch::async, [&] {
+            return fRunner.run({.text = u"cd '" + fDestination + u"' && mkfifo wait && " + command,
+                                .started = [&id](CommandId it) { id = it; }});
+        });
+        EXPECT_TRUE(waitUntil([&] { return QFileInfo(film).size() == 5; }));
+        const auto found = fRunner.fileBeingWritten(id);
+        QFile wait(fDestination + u"/wait");
+        EXPECT_TRUE(wait.open(QFile::WriteOnly));
+        wait.write("\n");
+        wait.close();
+        fRunner.cancel(id);
+        ended.get();
+        QFile::remove(film);
+        wait.remove();
+        return found;
+    }
+
     QTemporaryDir fRoot;
     const QString fSource = fRoot.filePath("source");
     const QString fDestination = fRoot.filePath("destination");
@@ -258,8 +280,11 @@ TEST_F(PassProgressTest, MovieCommand_IsSeenByTheFileItWrites) {
 }
 
 TEST_F(PassProgressTest, OtherWriter_IsSeenButNotItsLog) {
+    make(fDestination, "read.mov", 3);
     const QString command =
-        QStringLiteral("cd '%1' && exec 5>>log.txt && (echo half >&7; read x <wait) 7>film.mov")
+        QStringLiteral(
+            "cd '%1' && exec 3<read.mov 4>gone.mov 5>>log.txt 2>err.txt && rm gone.mov && "
+            "(echo half >&7; read x <wait) 7<>film.mov")
             .arg(fDestination);
     const QString open = QStringLiteral("mkfifo '%1/wait' && ").arg(fDestination);
     CommandId id = 0;
@@ -275,6 +300,19 @@ TEST_F(PassProgressTest, OtherWriter_IsSeenButNotItsLog) {
     wait.close();
     ended.get();
     EXPECT_EQ(fRunner.fileBeingWritten(id), std::nullopt);
+}
+
+TEST_F(PassProgressTest, WriterThatHasLeftTheSession_IsNotLookedAt) {
+    const QString away =
+        QStringLiteral("setsid sh -c 'exec 7>film.mov; echo half >&7; read x <wait' & wait");
+    EXPECT_EQ(seenBeside(away), std::nullopt);
+}
+
+TEST_F(PassProgressTest, OnlyTheFirstSixtyFourProcesses_AreLookedAt) {
+    const QString text = QStringLiteral("for i in $(seq %1); do sleep 600 & done; "
+                                        "(exec 7>film.mov; echo half >&7; read x <wait) & wait");
+    EXPECT_EQ(seenBeside(text.arg(62)), (FileBeingWritten{"film.mov", 5}));
+    EXPECT_EQ(seenBeside(text.arg(63)), std::nullopt);
 }
 
 TEST(FinalPathTest, NamesOfRsync_BecomeThoseOfTheFiles) {

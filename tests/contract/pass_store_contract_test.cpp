@@ -176,6 +176,7 @@ TYPED_TEST(PassStoreContractTest, OneRecord_ComesBackWhole) {
     const auto found = this->one(this->all().at(0).id);
     ASSERT_TRUE(found.has_value());
     expectSame(*found, samplePass(4));
+    EXPECT_EQ(found->id, this->all().at(0).id);
     const auto commands = samplePass(4).commands;
     ASSERT_EQ(found->commands.size(), commands.size());
     for (std::size_t i = 0; i < commands.size(); ++i) {
@@ -302,6 +303,7 @@ TYPED_TEST(PassStoreContractTest, Standing_FollowsThePassesThatSaySomething) {
     EXPECT_FALSE(standing.troubleSince.isValid());
     ASSERT_TRUE(standing.last && standing.lastSuccess);
     EXPECT_EQ(standing.last->id, standing.lastSuccess->id);
+    EXPECT_EQ(standing.last->id, this->all().at(0).id);
     EXPECT_TRUE(standing.last->commands.empty() && standing.last->arrivals.empty());
     append(PassCause::DiskFull, 2);
     append(PassCause::Interrupted, 3);

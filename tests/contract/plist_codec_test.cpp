@@ -1,5 +1,6 @@
 #include "adapters/settings/plist_codec.h"
 #include "adapters/settings/plist_guard.h"
+#include "support/sanitized.h"
 #include "support/stored_value.h"
 
 #include <QDateTime>
@@ -10,6 +11,8 @@
 
 #include <gtest/gtest.h>
 #include <plist/plist.h>
+
+#include <malloc.h>
 
 #include <clocale>
 #include <cstdlib>
@@ -113,6 +116,32 @@ TEST(PlistCodecTest, BinaryForm_IsReadTheSame) {
             << ::testing::PrintToString(decoded.root->value(it.key()));
 }
 
+TEST(PlistCodecTest, NumberOfAnObject_IsReadAsAnInteger) {
+    plist_t root = plist_new_dict();
+    plist_dict_set_item(root, "k", plist_new_uid(7));
+    char* text = nullptr;
+    std::uint32_t length = 0;
+    plist_to_bin(root, &text, &length);
+    const DecodedPlist decoded = decodePlist(QByteArray(text, static_cast<qsizetype>(length)));
+    plist_to_bin_free(text);
+    plist_free(root);
+    ASSERT_TRUE(decoded.root) << decoded.fault.toStdString();
+    EXPECT_TRUE(sameStoredValue(decoded.root->value(QStringLiteral("k")), qlonglong{7}));
+}
+
+TEST(PlistCodecTest, ReadingAndWriting_LeaveNoMemoryBehind) {
+    if (cSanitized)
+        GTEST_SKIP() << "a sanitizer has a heap of its own";
+    const QByteArray bytes = encodePlist({{"k", QString(100'000, u'x')}});
+    const auto used = [] {
+        return static_cast<qint64>(::mallinfo2().uordblks + ::mallinfo2().hblkhd);
+    };
+    const qint64 before = used();
+    for (int round = 0; round < 50; ++round)
+        ASSERT_EQ(encodePlist(decodePlist(bytes).root.value_or(QVariantMap())), bytes);
+    EXPECT_LT(used() - before, 1'000'000);
+}
+
 TEST(PlistCodecTest, CharactersThatXmlCannotCarry_BecomeReplacementCharacters) {
     QString text = QStringLiteral("a");
     for (const char16_t code : {0x00, 0x01, 0x0b, 0x1f, 0xfffe, 0xffff, 0xd800})
@@ -171,6 +200,11 @@ TEST(PlistCodecTest, WhatOthersWrite_IsRead) {
         sameStoredValue(decodedEntry("<!-- note --><string><![CDATA[a<b]]></string>"), "a<b"));
     EXPECT_TRUE(sameStoredValue(decodedEntry("<integer>-7</integer>"), qlonglong{-7}));
     EXPECT_TRUE(decodePlist("\xef\xbb\xbf" + entry("<true/>")).root);
+    EXPECT_TRUE(decodePlist("\xef\xbb\xbf<dict><key>k</key><true/></dict>").root);
+    EXPECT_TRUE(decodePlist("<?xml version=\"1.0\" encoding=\"x-none\"?><plist><dict><key>k</key>"
+                            "<true/></dict></plist>")
+                    .root)
+        << "as far as it can be read";
     EXPECT_TRUE(decodePlist("\n\n" + entry("<true/>") + "\n\n").root);
     EXPECT_TRUE(decodePlist("<plist><dict><key>k</key><true/></dict></plist>").root);
     EXPECT_TRUE(decodePlist("<dict><key>k</key><true/></dict>").root);
@@ -245,7 +279,9 @@ TEST(PlistCodecTest, WrongRoot_IsAFault) {
           QByteArray("<integer>1</integer>"), QByteArray("<true/>"), QByteArray("")}) {
         const DecodedPlist decoded = decodePlist(document(root));
         EXPECT_FALSE(decoded.root) << root.toStdString();
-        EXPECT_FALSE(decoded.fault.isEmpty()) << root.toStdString();
+        EXPECT_EQ(decoded.fault,
+                  root.isEmpty() ? u"it is no property list" : u"its root is no dictionary")
+            << root.toStdString();
     }
 }
 
@@ -260,7 +296,7 @@ TEST(PlistCodecTest, DeepNesting_FaultsOnlyBeyondTheLimit) {
                      QByteArray("</array>").repeated(arrays));
     };
     EXPECT_TRUE(decodePlist(nested(cDeepestStoredValue)).root);
-    EXPECT_FALSE(decodePlist(nested(cDeepestStoredValue + 1)).root);
+    EXPECT_EQ(decodePlist(nested(cDeepestStoredValue + 1)).fault, u"it is nested too deep");
     EXPECT_FALSE(decodePlist(nested(15'000)).root);
     EXPECT_FALSE(decodePlist(nested(1'000'000)).root);
 }

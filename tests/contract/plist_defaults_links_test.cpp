@@ -106,6 +106,7 @@ TEST_F(PlistDefaultsLinksTest, LinkToAFolderThatIsAway_WaitsForIt) {
     link(fTarget);
     const auto defaults = open();
     EXPECT_FALSE(defaults->areKnown());
+    EXPECT_TRUE(defaults->trouble().endsWith(u": the folder that it is linked to is not there"));
     defaults->setObject(u"mine", 2);
     defaults->synchronize();
     EXPECT_FALSE(QFileInfo::exists(QFileInfo(fTarget).path())) << "not made for it";
@@ -125,6 +126,34 @@ TEST_F(PlistDefaultsLinksTest, FolderThatIsALinkToNowhere_WaitsForItsTarget) {
     ASSERT_EQ(::mkdir(QFile::encodeName(away), 0700), 0);
     defaults->synchronize();
     EXPECT_TRUE(mainUntil([&] { return defaults->areKnown(); }));
+}
+
+TEST_F(PlistDefaultsLinksTest, LinkInAFolderThatOthersMayWrite_IsNotObeyed) {
+    makeTarget({{"theirs", 1LL}});
+    link(fTarget);
+    ASSERT_EQ(::chmod(QFile::encodeName(fFolder.folder()), 0777), 0);
+    const auto defaults = open();
+    EXPECT_FALSE(defaults->areKnown());
+    EXPECT_TRUE(defaults->trouble().endsWith(u": of its folder: it can be written by other users"))
+        << defaults->trouble().toStdString();
+}
+
+TEST_F(PlistDefaultsLinksTest, FortyLinks_AllStay) {
+    makeTarget({});
+    QString last = fTarget;
+    for (int number = 1; number < 40; ++number) {
+        const QString next = fElsewhere.filePath(QStringLiteral("link%1").arg(number));
+        ASSERT_EQ(::symlink(QFile::encodeName(last), QFile::encodeName(next)), 0);
+        last = next;
+    }
+    ASSERT_EQ(::symlink(QFile::encodeName(last), QFile::encodeName(fFolder.path())), 0);
+    {
+        const auto defaults = open();
+        defaults->setObject(u"a", 1);
+    }
+    EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{1}}}));
+    EXPECT_TRUE(QFileInfo(fElsewhere.filePath(QStringLiteral("link1"))).isSymLink());
+    EXPECT_FALSE(QFileInfo(fTarget).isSymLink());
 }
 
 TEST_F(PlistDefaultsLinksTest, LinksInACircle_AreNoFirstStart) {

@@ -128,6 +128,15 @@ TEST_F(PlistDefaultsTest, FirstChange_IsWrittenATenthOfASecondLaterWhateverFollo
     EXPECT_GE(std::chrono::steady_clock::now() - start, 100ms);
 }
 
+TEST_F(PlistDefaultsTest, OwnWriting_GivesTheMainQueueNothingToDo) {
+    auto defaults = open();
+    defaults->setObject(u"a", 1);
+    ASSERT_TRUE(fileGets("a", qlonglong{1}));
+    defaults->synchronize();
+    defaults.reset();
+    EXPECT_TRUE(fMain.idle());
+}
+
 TEST_F(PlistDefaultsTest, EqualValue_LeavesTheFileAlone) {
     const auto defaults = open();
     defaults->setObject(u"a", true);
@@ -193,6 +202,7 @@ TEST_F(PlistDefaultsTest, Destruction_WritesWhatIsLeftAndSilencesTheQueue) {
 struct BadFile {
     const char* name;
     QByteArray bytes;
+    QString fault;
 };
 
 class PlistDefaultsBadFileTest : public PlistDefaultsFixture,
@@ -214,7 +224,9 @@ TEST_P(PlistDefaultsBadFileTest, AtStart_IsKeptAsideAndSaid) {
     EXPECT_EQ(defaults->standing().fault, QString());
     ASSERT_EQ(fConsole.logged().size(), 1);
     EXPECT_TRUE(fConsole.logged()[0].contains(fFolder.path() + u' '));
-    EXPECT_TRUE(fConsole.logged()[0].contains(aside));
+    EXPECT_TRUE(fConsole.logged()[0].endsWith(
+        QString(u" cannot be read: " + GetParam().fault + u". It is kept as " + aside)))
+        << fConsole.logged()[0].toStdString();
 
     EXPECT_FALSE(defaults->object(u"a").isValid());
     defaults->setObject(u"new", 1);
@@ -225,12 +237,15 @@ TEST_P(PlistDefaultsBadFileTest, AtStart_IsKeptAsideAndSaid) {
 
 INSTANTIATE_TEST_SUITE_P(
     Files, PlistDefaultsBadFileTest,
-    ::testing::Values(BadFile{"Empty", ""}, BadFile{"Cut", cutFile().toUtf8()},
-                      BadFile{"Noise", QByteArray("\x7f\x00\xff\x13noise", 9)},
-                      BadFile{"Zeros", QByteArray(4096, '\0')},
-                      BadFile{"WrongRoot", "<plist version=\"1.0\"><array/></plist>"},
-                      BadFile{"CutBinary", QByteArray("bplist00\xd1\x01\x02", 11)},
-                      BadFile{"TooLarge", QByteArray(17 * 1024 * 1024, 'x')}),
+    ::testing::Values(
+        BadFile{"Empty", "", "it is empty"},
+        BadFile{"Cut", cutFile().toUtf8(), "its end is missing"},
+        BadFile{"Noise", QByteArray("\x7f\x00\xff\x13noise", 9), "its end is missing"},
+        BadFile{"Zeros", QByteArray(4096, '\0'), "its end is missing"},
+        BadFile{"WrongRoot", "<plist version=\"1.0\"><array/></plist>",
+                "its root is no dictionary"},
+        BadFile{"CutBinary", QByteArray("bplist00\xd1\x01\x02", 11), "it is cut"},
+        BadFile{"TooLarge", QByteArray(17 * 1024 * 1024, 'x'), "it is larger than 16 MiB"}),
     [](const auto& tested) { return tested.param.name; });
 
 TEST_F(PlistDefaultsTest, AsideNameTaken_IsNotOverwritten) {
@@ -258,7 +273,11 @@ TEST_F(PlistDefaultsTest, PipeInThePlaceOfTheFile_DoesNotHoldUsUp) {
     QDir().mkpath(fFolder.folder());
     ASSERT_EQ(::mkfifo(QFile::encodeName(fFolder.path()), 0600), 0);
     const auto defaults = open();
-    EXPECT_EQ(fConsole.logged().size(), 1);
+    EXPECT_EQ(
+        fConsole.logged(),
+        QStringList{QString(u"The settings in " + fFolder.path() +
+                            u" are not known: it is no ordinary file. Until they are, no pass "
+                            u"begins and nothing is written there")});
     EXPECT_FALSE(defaults->areKnown());
     defaults->setObject(u"a", 1);
     defaults->synchronize();
@@ -374,7 +393,11 @@ TEST_F(PlistDefaultsTest, LockedByAnotherProgram_IsSaidOnceAndWrittenLater) {
     defaults->setObject(u"a", 2);
     defaults->synchronize();
     EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{1}}}));
-    EXPECT_EQ(fConsole.logged().size(), 1);
+    EXPECT_EQ(
+        fConsole.logged(),
+        QStringList{QString(u"Settings cannot be saved to " + fFolder.path() +
+                            u": another program keeps it locked. They hold in memory and will "
+                            u"be saved when that is possible")});
     held.reset();
     defaults->synchronize();
     EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{2}}}));
@@ -397,7 +420,8 @@ TEST_F(PlistDefaultsTest, BlockedFolder_IsSaidOnceAndWrittenWhenItWorks) {
     defaults->synchronize();
     EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{3}}}));
     ASSERT_EQ(fConsole.logged().size(), 2);
-    EXPECT_TRUE(fConsole.logged()[1].contains(QStringLiteral("again")));
+    EXPECT_EQ(fConsole.logged()[1],
+              QString(u"Settings are saved to " + fFolder.path() + u" again"));
 
     // The folder is new, and yet what others do there is noticed.
     fFolder.replace({{"a", 9LL}});

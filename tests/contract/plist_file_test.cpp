@@ -76,7 +76,7 @@ TEST_F(PlistFileTest, DamagedFileThatCannotBeMovedAside_IsNotWrittenOver) {
     EXPECT_EQ(fFolder.bytes(), damaged);
     EXPECT_EQ(fFolder.otherFiles(), QStringList());
     EXPECT_TRUE(writer.readAllStandardError().contains(
-        QByteArray("it cannot be moved aside: " + textOf(EPERM).toLocal8Bit())));
+        QByteArray("it cannot be moved aside: " + textOf(EPERM).toLocal8Bit() + ". ")));
 }
 
 TEST_F(PlistFileTest, WriteThatIsBrokenOffBySignals_GoesOn) {
@@ -109,6 +109,29 @@ TEST_F(PlistFileTest, LockFileReplacedAtTheLastMoment_IsTakenAnew) {
     const QString lock = fFolder.path() + QStringLiteral(".lock");
     EXPECT_EQ(saidOf(QStringLiteral("lock"), "late-flock", lock), u"done");
     EXPECT_TRUE(QFile::exists(lock));
+}
+
+TEST_F(PlistFileTest, Aside_TakesTheFirstFreeNameOfAThousand) {
+    const QDateTime now(QDate(2026, 3, 1), QTime(4, 5, 6), Qt::UTC);
+    const QString aside = fFolder.path() + QStringLiteral(".corrupt-20260301T040506Z");
+    PlistFile file(fFolder.path());
+    ASSERT_EQ(::chmod(QFile::encodeName(fFolder.path()), 0644), 0);
+    EXPECT_EQ(file.moveAside(now).first, aside);
+    EXPECT_EQ(SettingsFolder::modeOf(aside), 0600U);
+    for (int number = 2; number <= 999; ++number)
+        ASSERT_TRUE(QFile(aside + u'-' + QString::number(number)).open(QFile::WriteOnly));
+    fFolder.write("second");
+    EXPECT_EQ(file.moveAside(now).first, QString(aside + u"-1000"));
+    fFolder.write("third");
+    EXPECT_EQ(file.moveAside(now), std::pair(QString(), textOf(EEXIST)));
+    EXPECT_EQ(fFolder.bytes(), "third");
+}
+
+TEST_F(PlistFileTest, NewFileThatCannotTakeItsPlace_IsRemoved) {
+    ASSERT_TRUE(QFile::remove(fFolder.path()));
+    ASSERT_TRUE(QDir().mkdir(fFolder.path()));
+    EXPECT_EQ(PlistFile(fFolder.path()).replace(fNew), textOf(EISDIR));
+    EXPECT_EQ(fFolder.otherFiles(), QStringList());
 }
 
 TEST_F(PlistFileTest, LinkInPlaceOfTheLockFile_IsNotFollowed) {

@@ -247,6 +247,24 @@ TEST(PlistGuardTest, ListThatUnfolds_IsBoundedInParts) {
     EXPECT_EQ(doubling(17), QString()) << "262,143 parts";
     EXPECT_EQ(doubling(18), cTooMany) << "524,287 parts";
 
+    const auto squared = [](int more) {
+        return faultOf({array(std::vector<int>(453, 1)),
+                        array(std::vector<int>(static_cast<std::size_t>(882 + more), 2)), cTrue});
+    };
+    EXPECT_EQ(squared(0), QString()) << "400,000 parts";
+    EXPECT_EQ(squared(1), cTooMany) << "453 parts more";
+    std::vector<int> oneMore(453, 1);
+    oneMore.push_back(2);
+    EXPECT_EQ(faultOf({array(oneMore), array(std::vector<int>(882, 2)), cTrue}), cTooMany)
+        << "400,001 parts";
+    const auto texts = [](int size) {
+        return faultOf(
+            {array(std::vector<int>(453, 1)),
+             "\x5f\x12" + number(static_cast<quint64>(size), 4) + QByteArray(size, 'x')});
+    };
+    EXPECT_EQ(texts(64 * 882), QString()) << "400,000 parts";
+    EXPECT_EQ(texts(64 * 883), cTooMany) << "453 parts more";
+
     const auto repeating = [](int times, const char* marker) {
         const QByteArray text = marker + number(100'000, 4) + QByteArray(100'000, 'x');
         return faultOf({array(std::vector<int>(static_cast<std::size_t>(times), 1)), text});

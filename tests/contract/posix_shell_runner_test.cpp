@@ -1,3 +1,4 @@
+#include "adapters/process/command_capture.h"
 #include "adapters/process/posix_shell_runner.h"
 #include "adapters/system/clean_attributes.h"
 #include "adapters/system/unique_fd.h"
@@ -363,6 +364,44 @@ TEST_F(PosixShellRunnerTest, BoundReached_EndsGrandchildrenAndSaysSoOnce) {
 TEST_F(PosixShellRunnerTest, BoundOfNothing_CutsAtOnce) {
     EXPECT_EQ(resultWithin(0, QStringLiteral("sleep 600; echo never")).exitStatus, 124);
     EXPECT_EQ(outputWithin(fRunner, -1, QStringLiteral("sleep 600; echo never")), QString());
+    for (const double seconds : {0.0, -1.0}) {
+        const auto deadline = deadlineAfter(seconds);
+        EXPECT_LE(deadline, std::chrono::steady_clock::now());
+    }
+    EXPECT_GT(deadlineAfter(1e300), std::chrono::steady_clock::now() + 24h);
+}
+
+TEST_F(PosixShellRunnerTest, LongCommand_IsSaidByItsFirstThreeHundredCharacters) {
+    const QString text = u"sleep 600; : " + QString(400, u'x');
+    EXPECT_EQ(resultWithin(0, text).exitStatus, 124);
+    EXPECT_EQ(fConsole.logged(),
+              QStringList{QString(u"A shell command was cut off after 0 s: " + text.first(300))});
+}
+
+TEST_F(PosixShellRunnerTest, StandardStreamsThatAreClosedHere_AreWholeInTheChild) {
+    std::array<int, 3> kept{};
+    for (int stream = 0; stream < 3; ++stream) {
+        kept[static_cast<std::size_t>(stream)] = ::fcntl(stream, F_DUPFD_CLOEXEC, 3);
+        ::close(stream);
+    }
+    const CommandResult result =
+        fRunner.run({.text = QStringLiteral("cat; echo err >&2"), .input = QByteArray("in")});
+    for (int stream = 0; stream < 3; ++stream) {
+        ::dup2(kept[static_cast<std::size_t>(stream)], stream);
+        ::close(kept[static_cast<std::size_t>(stream)]);
+    }
+    EXPECT_EQ(result.output, u"in");
+    EXPECT_EQ(result.errors, u"err\n");
+}
+
+TEST_F(PosixShellRunnerTest, SingleByte_IsTakenAndReceived) {
+    QByteArray received;
+    const CommandResult result =
+        fRunner.run({.text = QStringLiteral("printf x; printf y >&2"),
+                     .received = [&](QByteArrayView bytes) { received += bytes; }});
+    EXPECT_EQ(result.output, u"x");
+    EXPECT_EQ(result.errors, u"y");
+    EXPECT_EQ(received, "x");
 }
 
 TEST_F(PosixShellRunnerTest, BoundReached_ForcesWhatIgnoresTheRequest) {
@@ -415,6 +454,9 @@ TEST_F(PosixShellRunnerTest, CommandThatTakesItsTime_CostsNone) {
         EXPECT_EQ(resultWithin(60, QString::fromLatin1(text)).exitStatus, 0) << text;
         EXPECT_LT(timeWorked() - before, 100ms) << text;
     }
+    const auto before = timeWorked();
+    EXPECT_EQ(resultOf(QStringLiteral("sleep 1")).exitStatus, 0);
+    EXPECT_LT(timeWorked() - before, 100ms) << "without a bound";
 }
 
 TEST_F(PosixShellRunnerTest, Cancel_AsksTheWholeSessionToEnd) {

@@ -2,21 +2,26 @@
 #include "support/sanitized.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QEventLoop>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include <signal.h>
+#include <sys/mman.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
+#include <cstddef>
 #include <cstdlib>
 #include <functional>
 #include <memory>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace kelvo {
 namespace {
@@ -158,6 +163,103 @@ TEST_F(SignalPipeTest, FaultOfTheProgram_StillEndsIt) {
     };
     EXPECT_EXIT(fault(), testing::KilledBySignal(SIGILL), "");
 }
+
+TEST_F(SignalPipeTest, FirstAndLastNumber_AreHeard) {
+    const auto first = fSignals->catchSignal(SIGHUP, note("h"));
+    const auto last = fSignals->catchSignal(SIGSYS, note("s"));
+    ::raise(SIGHUP);
+    ::raise(SIGSYS);
+    EXPECT_TRUE(until([this] { return fHeard == "hs"; })) << fHeard;
+}
+
+TEST_F(SignalPipeTest, SignalThatTheKernelSends_IsNoFault) {
+    const auto child = fSignals->catchSignal(SIGCHLD, note("c"));
+    const pid_t pid = ::fork();
+    if (pid == 0)
+        ::_exit(0);
+    ::waitpid(pid, nullptr, 0);
+    EXPECT_TRUE(until([this] { return fHeard == "c"; }));
+}
+
+TEST_F(SignalPipeTest, MoreThanThePipeHolds_IsLostWithoutATrace) {
+    const auto user = fSignals->catchSignal(SIGUSR1, note("u"));
+    errno = 0;
+    for (int i = 0; i < 70'000; ++i)
+        ::raise(SIGUSR1);
+    EXPECT_EQ(errno, 0) << "the interrupted code sees nothing of it";
+    EXPECT_TRUE(until([this] { return fHeard.size() >= 60'000; }));
+    fHeard.clear();
+    const auto other = fSignals->catchSignal(SIGUSR2, note("v"));
+    ::raise(SIGUSR2);
+    EXPECT_TRUE(until([this] { return fHeard.ends_with('v'); }));
+}
+
+TEST_F(SignalPipeTest, StackOfSomebodyElse_IsLeftAlone) {
+    if (cSanitized)
+        GTEST_SKIP() << "the sanitizer has a signal stack of its own";
+    fSignals.reset();
+    std::vector<std::byte> memory(std::size_t{64} * 1024);
+    const stack_t theirs{memory.data(), 0, memory.size()};
+    const auto present = [] {
+        stack_t found{};
+        ::sigaltstack(nullptr, &found);
+        return found.ss_sp;
+    };
+    ASSERT_EQ(::sigaltstack(&theirs, nullptr), 0);
+    fSignals = std::make_unique<SignalPipe>();
+    EXPECT_EQ(present(), memory.data());
+    fSignals.reset();
+    EXPECT_EQ(present(), memory.data());
+    const stack_t none{nullptr, SS_DISABLE, 0};
+    ::sigaltstack(&none, nullptr);
+}
+
+TEST_F(SignalPipeTest, Pipe_LeavesNoDescriptorBehind) {
+    const auto open = [] { return QDir(QStringLiteral("/proc/self/fd")).entryList().size(); };
+    fSignals.reset();
+    const auto before = open();
+    { const SignalPipe again; }
+    EXPECT_EQ(open(), before);
+}
+
+#ifdef __x86_64__
+struct Fault {
+    int number;
+    void (*happen)();
+};
+
+class SignalPipeFaultTest : public testing::TestWithParam<Fault> {};
+
+TEST_P(SignalPipeFaultTest, OfEachKind_EndsTheProgram) {
+    if (cSanitized)
+        GTEST_SKIP() << "the sanitizer answers faults itself";
+    const auto fault = [] {
+        SignalPipe signals;
+        const auto caught = signals.catchSignal(GetParam().number, [] {});
+        GetParam().happen();
+        std::_Exit(3);
+    };
+    EXPECT_EXIT(fault(), testing::KilledBySignal(GetParam().number), "");
+}
+
+void divideByNothing() {
+    asm volatile("xorl %%ecx, %%ecx; xorl %%edx, %%edx; movl $1, %%eax; divl %%ecx" // NOLINT
+                 :
+                 :
+                 : "eax", "ecx", "edx");
+}
+
+void readBehindAFile() {
+    const int file = ::memfd_create("empty", MFD_CLOEXEC);
+    void* const place = ::mmap(nullptr, 4096, PROT_READ, MAP_SHARED, file, 0);
+    (void)*static_cast<volatile char*>(place);
+}
+
+INSTANTIATE_TEST_SUITE_P(Faults, SignalPipeFaultTest,
+                         testing::Values(Fault{SIGFPE, divideByNothing},
+                                         Fault{SIGBUS, readBehindAFile},
+                                         Fault{SIGTRAP, [] { asm volatile("int3"); }})); // NOLINT
+#endif
 
 TEST_F(SignalPipeTest, Abort_StillEndsTheProgram) {
     const auto fault = [] {

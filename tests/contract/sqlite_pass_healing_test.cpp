@@ -6,7 +6,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 namespace kelvo {
 namespace {
@@ -97,6 +99,184 @@ TEST_F(PassRecordHealingTest, TablesChangedWhileOpen_AreNoticed) {
     store->append(numbered(3));
     EXPECT_EQ(joined(*store), QStringLiteral("3 2 1"));
     EXPECT_EQ(setAside().size(), 1);
+}
+
+struct RefusedStatement {
+    const char* trigger;
+    PassCause cause = PassCause::Well;
+};
+
+class PassRecordThatRefusesTest : public PassRecordHealingTest,
+                                  public ::testing::WithParamInterface<RefusedStatement> {};
+
+TEST_P(PassRecordThatRefusesTest, AnyStatementOfAPass_IsNoticedAndNoPassIsLost) {
+    const auto pass = [](int number, PassCause cause) {
+        PassRecord record = numbered(number);
+        record.cause = cause;
+        record.arrivals.push_back({QByteArray::number(number), 1, record.began});
+        return record;
+    };
+    const auto store = openStore({.passes = 2, .arrivals = 2});
+    store->append(pass(1, PassCause::Well));
+    store->append(pass(2, PassCause::DiskFull));
+    EXPECT_EQ(joined(*store), u"2 1");
+    asOther({u"CREATE TRIGGER refusal BEFORE " + QString::fromLatin1(GetParam().trigger) +
+             u" BEGIN SELECT RAISE(ABORT, 'not here'); END"});
+    store->append(pass(3, GetParam().cause));
+    EXPECT_EQ(joined(*store), u"3 2");
+    EXPECT_EQ(arrivals(*store).size(), 2U);
+    EXPECT_EQ(standing(*store).fault, QString());
+    expectSetAside(QStringLiteral("not here"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Statements, PassRecordThatRefusesTest,
+    ::testing::Values(RefusedStatement{"INSERT ON pass"}, RefusedStatement{"INSERT ON command"},
+                      RefusedStatement{"INSERT ON arrival"}, RefusedStatement{"INSERT ON day"},
+                      RefusedStatement{"INSERT ON standing WHEN NEW.which = 0"},
+                      RefusedStatement{"INSERT ON standing WHEN NEW.which = 1"},
+                      RefusedStatement{"INSERT ON trouble", PassCause::DiskFull},
+                      RefusedStatement{"DELETE ON trouble"}, RefusedStatement{"DELETE ON pass"},
+                      RefusedStatement{"DELETE ON command"},
+                      RefusedStatement{"DELETE ON arrival"}));
+
+TEST_F(PassRecordHealingTest, TablesChangedWhileOpen_AreNoticedByAQuestionToo) {
+    const auto store = openWithTwo();
+    asOther({QStringLiteral("DROP TABLE standing")});
+    const Standing found = standing(*store);
+    ASSERT_TRUE(found.last);
+    EXPECT_EQ(found.last->lastLine, u"2");
+    EXPECT_EQ(joined(*store), u"2 1");
+    EXPECT_EQ(QFileInfo(asideFile()).isFile(), true);
+}
+
+TEST_F(PassRecordHealingTest, TableThatIsMissing_IsNoticedByAQuestionAfterOthers) {
+    openStore()->append(numbered(1));
+    asOther({QStringLiteral("DROP TABLE trouble")});
+    EXPECT_EQ(joined(*openStore()), QString());
+    EXPECT_EQ(setAside().size(), 1);
+}
+
+TEST_F(PassRecordHealingTest, FileLostAfterManyPasses_HoldsTheNewestHundredOfThisRun) {
+    const auto store = openStore();
+    for (int i = 1; i <= 103; ++i)
+        store->append(numbered(i));
+    EXPECT_EQ(lines(*store).size(), 103);
+    ASSERT_TRUE(QFile::remove(path));
+    store->append(numbered(104));
+    EXPECT_EQ(lines(*store).size(), 101);
+    EXPECT_EQ(lines(*store).constLast(), u"4");
+}
+
+TEST_F(PassRecordHealingTest, FileLostWithPassesDroppedFromIt_BringsTheOthersBack) {
+    const auto store = openStore({.passes = 3});
+    for (int i = 1; i <= 5; ++i)
+        store->append(numbered(i));
+    EXPECT_EQ(joined(*store), u"5 4 3");
+    ASSERT_TRUE(QFile::remove(path));
+    EXPECT_EQ(joined(*store), u"5 4 3");
+}
+
+TEST_F(PassRecordHealingTest, FileLostAgain_BringsBackNoPassOfAnotherRun) {
+    const QString ours = std::exchange(path, beside("backup"));
+    openStore()->append(numbered(7));
+    path = ours;
+    const auto store = openWithTwo();
+    ASSERT_EQ(std::rename(QFile::encodeName(beside("backup")).constData(), name().constData()), 0);
+    EXPECT_EQ(joined(*store), u"2 1 7");
+    ASSERT_TRUE(QFile::remove(path));
+    EXPECT_EQ(joined(*store), u"2 1");
+}
+
+TEST_F(PassRecordHealingTest, PassesFoundUnderOtherNumbers_AreKnownByThem) {
+    const auto store = openWithTwo();
+    asOther({u"VACUUM INTO '" + beside("copy") + u'\''});
+    const QString ours = std::exchange(path, beside("copy"));
+    asOther({QStringLiteral("UPDATE pass SET id = id + 10"),
+             QStringLiteral("UPDATE command SET pass = pass + 10")});
+    path = ours;
+    ASSERT_EQ(std::rename(QFile::encodeName(beside("copy")).constData(), name().constData()), 0);
+    EXPECT_EQ(joined(*store), u"2 1");
+    ASSERT_TRUE(QFile::remove(path));
+    EXPECT_EQ(joined(*store), u"2 1");
+}
+
+TEST_F(PassRecordHealingTest, FileInPlaceOfTheFolder_IsTroubleUntilItIsGone) {
+    path = beside("state/passes.sqlite");
+    const auto store = openWithTwo();
+    ASSERT_TRUE(QDir().rename(beside("state"), beside("old")));
+    QFile obstacle(beside("state"));
+    ASSERT_TRUE(obstacle.open(QFile::WriteOnly));
+    store->append(numbered(3));
+    EXPECT_EQ(standing(*store).fault, u"its folder cannot be made");
+    ASSERT_TRUE(obstacle.remove());
+    store->append(numbered(4));
+    EXPECT_EQ(joined(*store), u"4 3 2 1");
+}
+
+TEST_F(PassRecordHealingTest, LinkThatCannotLeadAnywhere_IsSetAside) {
+    QFile file(beside("file"));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    for (const QString& target : {QString(path), QString(beside("file") + u"/passes")}) {
+        ASSERT_EQ(::symlink(QFile::encodeName(target).constData(), name().constData()), 0);
+        openStore()->append(numbered(1));
+        EXPECT_EQ(found(path), u"1") << target.toStdString();
+        ASSERT_TRUE(QFile::remove(path));
+    }
+    EXPECT_EQ(setAside().size(), 2);
+    EXPECT_EQ(logged(QStringLiteral("it is a link that leads nowhere")), 2);
+}
+
+TEST_F(PassRecordHealingTest, LinkThatCannotBeFollowedForAnotherReason_Stays) {
+    const QByteArray target(300, 'x');
+    ASSERT_EQ(::symlink(target.constData(), name().constData()), 0);
+    const auto store = openStore();
+    store->append(numbered(1));
+    EXPECT_EQ(standing(*store).fault, QString::fromLocal8Bit(::strerror(ENAMETOOLONG)));
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+    EXPECT_EQ(setAside(), QStringList());
+}
+
+TEST_F(PassRecordHealingTest, Aside_TakesTheFirstFreeNameOfAThousand) {
+    const QDateTime now(QDate(2026, 3, 1), QTime(4, 5, 6), Qt::UTC);
+    const QString aside = path + QStringLiteral(".corrupt-20260301T040506Z");
+    const auto put = [](const QString& place, const QByteArray& bytes) {
+        QFile file(place);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(bytes);
+    };
+    PassDatabase database(path);
+    EXPECT_EQ(database.moveAside(now), std::nullopt) << "nothing is there";
+    for (const char* part : {"", "-wal", "-shm"})
+        put(path + QString::fromLatin1(part), "broken");
+    EXPECT_EQ(database.moveAside(now), aside);
+    EXPECT_TRUE(QFile::exists(aside + QStringLiteral("-wal")));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 2) << "its shared memory is gone";
+    for (int number = 2; number <= 999; ++number)
+        put(aside + u'-' + QString::number(number), "taken");
+    put(path, "broken too");
+    EXPECT_EQ(database.moveAside(now), QString(aside + u"-1000"));
+    put(path, "one too many");
+    EXPECT_EQ(database.moveAside(now), std::nullopt);
+    EXPECT_TRUE(QFile::exists(path));
+}
+
+TEST_F(PassRecordHealingTest, ReadFault_IsThatOfAFileThatIsThere) {
+    const auto faultAt = [](const QString& place) { return PassDatabase(place).readFault(); };
+    QFile file(path);
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    EXPECT_EQ(faultAt(path), QString());
+    EXPECT_EQ(faultAt(beside("missing")), QString());
+    EXPECT_EQ(faultAt(path + QStringLiteral("/below")), QString());
+    EXPECT_EQ(faultAt(folder.path()), QString());
+    ASSERT_EQ(::symlink("circle", QFile::encodeName(beside("circle")).constData()), 0);
+    EXPECT_EQ(faultAt(beside("circle")), QString());
+    ASSERT_EQ(::mkfifo(QFile::encodeName(beside("pipe")).constData(), 0600), 0);
+    EXPECT_EQ(faultAt(beside("pipe")), QString());
+    const QString longest = folder.filePath(QString(252, u'x')); // its log's name is too long
+    QFile other(longest);
+    ASSERT_TRUE(other.open(QFile::WriteOnly));
+    EXPECT_EQ(faultAt(longest), QString::fromLocal8Bit(::strerror(ENAMETOOLONG)));
 }
 
 TEST_F(PassRecordHealingTest, FileRemovedWhileOpen_IsWrittenAnewWithThePassesOfThisRun) {

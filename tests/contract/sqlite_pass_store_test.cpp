@@ -60,6 +60,42 @@ TEST_F(SqlitePassStoreTest, File_IsPrivate) {
     EXPECT_EQ(modeOf(QFileInfo(path).path()), 0700U);
 }
 
+TEST_F(SqlitePassStoreTest, EmptyTexts_TakeNoRoomAndComeBackEmpty) {
+    PassRecord pass = numbered(1);
+    pass.lastLine = QString();
+    pass.arrivals.push_back({QByteArray(), 1, pass.began});
+    openStore()->append(pass);
+    const auto found = arrivals(*openStore());
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].arrival.path, QByteArray());
+    EXPECT_EQ(lines(*openStore()), QStringList{QString()});
+    asOther({QStringLiteral("CREATE TABLE sizes (size INTEGER CHECK (size = 0))"),
+             QStringLiteral("INSERT INTO sizes SELECT length(head) + length(tail) FROM command")});
+}
+
+TEST_F(SqlitePassStoreTest, RecordThatHasANumberAlready_IsANewOne) {
+    const auto store = openStore();
+    PassRecord pass = numbered(1);
+    pass.id = 7;
+    store->append(pass);
+    store->append(pass);
+    EXPECT_EQ(lines(*store).join(u' '), u"1 1");
+}
+
+TEST_F(SqlitePassStoreTest, MoreThanAHundredUnwritten_LosesTheOldest) {
+    path = folder.filePath(QStringLiteral("occupied/passes.sqlite"));
+    QFile occupied(folder.filePath(QStringLiteral("occupied")));
+    ASSERT_TRUE(occupied.open(QFile::WriteOnly));
+    const auto store = openStore();
+    for (int i = 1; i <= 105; ++i)
+        store->append(numbered(i));
+    EXPECT_TRUE(lines(*store).isEmpty());
+    ASSERT_TRUE(occupied.remove());
+    store->append(numbered(106));
+    EXPECT_EQ(lines(*store).size(), 101);
+    EXPECT_EQ(lines(*store).constLast(), u"6");
+}
+
 TEST_F(SqlitePassStoreTest, CauseOrRoleOfAnotherAge_IsUnknownOrAPull) {
     openStore()->append(numbered(1));
     for (const int number : {-1, static_cast<int>(cLastPassCause) + 1}) {
@@ -72,6 +108,14 @@ TEST_F(SqlitePassStoreTest, CauseOrRoleOfAnotherAge_IsUnknownOrAPull) {
         EXPECT_EQ(record->cause, PassCause::Unknown) << number;
         ASSERT_EQ(record->commands.size(), 1U);
         EXPECT_EQ(record->commands[0].role, CommandRole::Pull) << number;
+    }
+    for (const int number : {-1, static_cast<int>(TransferSource::Lines) + 1}) {
+        asOther({u"UPDATE pass SET source = " + QString::number(number)});
+        const auto again = openStore();
+        const auto records =
+            answered<std::vector<PassRecord>>([&](auto take) { again->readAll(take); });
+        ASSERT_EQ(records.size(), 1U);
+        EXPECT_EQ(records[0].transfer.source, TransferSource::Unknown) << number;
     }
     const auto last = static_cast<int>(cLastPassCause);
     asOther({u"UPDATE pass SET cause = " + QString::number(last)});
@@ -183,12 +227,16 @@ TEST_F(SqlitePassStoreTest, PlaceThatCannotBeWritten_IsSaidOnceAndMadeGoodLater)
     for (int i = 1; i <= 3; ++i)
         store->append(numbered(i));
     EXPECT_TRUE(lines(*store).isEmpty());
-    EXPECT_EQ(logged(QStringLiteral("set aside for now")), 1);
-    EXPECT_EQ(told.size(), 3U) << "people see the pass even when it cannot be kept";
+    EXPECT_EQ(console.logged(), QStringList{QString(u"The record of passes " + path +
+                                                    u" is set aside for now: its folder cannot be "
+                                                    u"made")});
+    ASSERT_EQ(told.size(), 3U) << "people see the pass even when it cannot be kept";
+    EXPECT_EQ(told[0].id, 0) << "it has no number yet";
     ASSERT_TRUE(occupied.remove());
     store->append(numbered(4));
     EXPECT_EQ(lines(*store).join(u' '), QStringLiteral("4 3 2 1"));
-    EXPECT_EQ(logged(QStringLiteral("works again")), 1);
+    EXPECT_EQ(console.logged().size(), 2);
+    EXPECT_EQ(console.logged().constLast(), u"The record of passes works again.");
     EXPECT_EQ(told.size(), 4U);
 }
 

@@ -40,14 +40,9 @@ PassDatabase::~PassDatabase() {
 }
 
 void PassDatabase::close() {
-    if (!fDatabase.isValid())
-        return;
-    fDatabase.close();
     fDatabase = QSqlDatabase();
     QSqlDatabase::removeDatabase(fConnection);
     fWritten.clear();
-    fPlace.reset();
-    fLog.reset();
 }
 
 PassDatabase::Outcome PassDatabase::outcomeOf(const QSqlQuery& query) const {
@@ -149,7 +144,7 @@ PassDatabase::Outcome PassDatabase::insertRows(PassRecord& record) {
             run(PassStatement::SamePass, {record.began.toMSecsSinceEpoch(), record.seconds},
                 [&](const QSqlQuery& row) { there = row.value(0).toLongLong(); });
         if (!outcome || there) {
-            record.id = there.value_or(0);
+            record.id = there.value_or(record.id);
             return outcome;
         }
     }

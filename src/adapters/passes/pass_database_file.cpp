@@ -69,7 +69,8 @@ PassDatabase::Outcome PassDatabase::prepareFile() const {
     if (file)
         return {};
     const int error = errno;
-    if (::lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode) &&
+    // What is there all the same is a link.
+    if (::lstat(path.constData(), &status) == 0 &&
         (error == ENOENT || error == ENOTDIR || error == ELOOP))
         return {Outcome::Broken, QStringLiteral("it is a link that leads nowhere")};
     return {Outcome::Failed, systemErrorText(error)};

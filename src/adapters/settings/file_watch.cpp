@@ -177,7 +177,7 @@ bool FileWatch::look(bool told) {
     const State seen = state();
     const bool changed = seen != fSeen || (told && fSeenYoung);
     fSeen = seen;
-    fSeenYoung = seen.file != 0 && nanoseconds(now) - seen.changed < cYoung;
+    fSeenYoung = nanoseconds(now) - seen.changed < cYoung;
     return changed;
 }
 

@@ -87,10 +87,9 @@ QVariant dataOf(plist_t node) {
 }
 
 QVariant dateOf(plist_t node) {
-    QDateTime date =
-        QDateTime::fromString(QString::fromLatin1(textInXml(node, "date")), Qt::ISODate);
-    date.setTimeSpec(Qt::UTC);
-    return storedValue(date); // invalid for nonsense
+    // With its "Z"; invalid for nonsense.
+    return storedValue(
+        QDateTime::fromString(QString::fromLatin1(textInXml(node, "date")), Qt::ISODate));
 }
 
 QVariant uidOf(plist_t node) {

@@ -161,7 +161,7 @@ PlistFile::Contents PlistFile::read() const {
 /// Why another user could have put the file there.
 QString PlistFile::foreignFolder() const {
     const QString foreign = foreignWritersOf(fFolder);
-    return foreign.isEmpty() && fLinked ? foreignWritersOf(fGivenFolder) : foreign;
+    return foreign.isEmpty() ? foreignWritersOf(fGivenFolder) : foreign;
 }
 
 /// Whether links lead to a folder that is not there, perhaps on a disk that is not mounted yet.
