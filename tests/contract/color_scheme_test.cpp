@@ -30,12 +30,7 @@ TEST_F(ColorSchemeTest, Changes_AreToldAndNothingElseIs) {
     ASSERT_TRUE(portal.appear());
     const ColorScheme scheme(tell, own.get());
     ASSERT_TRUE(waitInLoop([&] { return portal.questions == 1; }));
-    // Signals are heard once the bus has told whose name it is.
-    ASSERT_TRUE(waitInLoop([&] {
-        portal.setScheme(1);
-        return !told.empty();
-    }));
-    for (const uint wish : {1U, 2U, 0U, 7U, 1U})
+    for (const uint wish : {1U, 1U, 2U, 0U, 7U, 1U})
         portal.setScheme(wish);
     EXPECT_TRUE(waitInLoop([&] { return told.size() >= 3; }));
     EXPECT_EQ(told, (std::vector<bool>{true, false, true}));

@@ -22,6 +22,8 @@ ColorScheme::ColorScheme(std::function<void(bool dark)> changed, QDBusConnection
     : fChanged(std::move(changed)), fBus(std::move(bus)) {
     if (!fBus.isConnected())
         return;
+    // The toolkit looks the types of a slot up by name, and knows none that nobody has used yet.
+    qRegisterMetaType<QDBusVariant>();
     fBus.connect(cPortal, cPlace, cSettings, QStringLiteral("SettingChanged"), this,
                  SLOT(settingChanged(QString, QString, QDBusVariant)));
     fPortals.setConnection(fBus);
