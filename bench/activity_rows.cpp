@@ -2,6 +2,7 @@
 #include "adapters/passes/sqlite_pass_store.h"
 #include "bench/row.h"
 #include "bench/run_until.h"
+#include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "ports/workspace.h"
 #include "ui/widgets/activity_tab.h"
@@ -90,12 +91,14 @@ std::optional<std::vector<Figure>> measureActivity() {
     std::vector<double> opened;
     std::vector<double> turned;
     for (int i = 0; i < 9; ++i) {
+        MemoryDefaults defaults;
         ActivityTab tab;
         tab.resize(760, 600);
         tab.setParts({.store = store,
                       .workspace = workspace,
                       .mainQueue = mainQueue,
                       .bgQueue = bgQueue,
+                      .defaults = defaults,
                       .destination = [] { return QStringLiteral("/home/me/Videos/Incoming"); }});
         auto begin = Clock::now();
         tab.show();
