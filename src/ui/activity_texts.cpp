@@ -160,6 +160,13 @@ QString timeText(const QDateTime& moment) {
     return locale.toString(moment.toLocalTime().time(), format);
 }
 
+QString momentText(const QDateTime& moment, const QDateTime& now) {
+    const QDateTime local = moment.toLocalTime();
+    return local.date() == now.toLocalTime().date()
+               ? timeText(moment)
+               : QLocale().toString(local, QLocale::ShortFormat);
+}
+
 QString foldedText(qint64 passes, const QDateTime& first, const QDateTime& last) {
     constexpr const char* cText = QT_TRANSLATE_N_NOOP("Words", "%Ln passes, nothing new, %1 to %2");
     return Words::counted(cText, cText, passes).arg(timeText(first), timeText(last));

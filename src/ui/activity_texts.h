@@ -23,6 +23,9 @@ QString beganText(const PassRecord& pass);
 /// Hours and minutes here, as people here write them.
 QString timeText(const QDateTime& moment);
 
+/// The same of a moment on the day of `now`, "22.11.26 15:22" of any other.
+QString momentText(const QDateTime& moment, const QDateTime& now);
+
 /// Passes that brought nothing new, between the beginnings of the first and the last one:
 /// "42 passes, nothing new, 09:10 to 09:52".
 QString foldedText(qint64 passes, const QDateTime& first, const QDateTime& last);

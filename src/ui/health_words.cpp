@@ -6,17 +6,8 @@
 #include "ui/pass_words.h"
 #include "ui/words.h"
 
-#include <QLocale>
-
 namespace kelvo {
 namespace {
-
-QString sinceText(const QDateTime& since, const QDateTime& now) {
-    const QDateTime local = since.toLocalTime();
-    return local.date() == now.toLocalTime().date()
-               ? timeText(since)
-               : QLocale().toString(local, QLocale::ShortFormat);
-}
 
 /// The last line tells more than the next step where the cause alone says too little.
 QString secondSentence(const PassRecord& pass) {
@@ -44,8 +35,8 @@ void describeRecord(HealthWords& words, const HealthFacts& facts) {
     const qint64 passes = std::max<qint64>(standing.passesInTrouble, 1);
     const QString since =
         Words::counted("%1 (%Ln pass)", QT_TRANSLATE_N_NOOP("Words", "%1 (%Ln passes)"), passes)
-            .arg(sinceText(standing.troubleSince.isValid() ? standing.troubleSince : last.began,
-                           facts.now));
+            .arg(momentText(standing.troubleSince.isValid() ? standing.troubleSince : last.began,
+                            facts.now));
     words.matter = sentenceFor(last.cause, since);
     words.health.sign = HealthSign::Trouble;
     words.health.text = Words::tr("%1 %2", "two sentences").arg(words.matter, secondSentence(last));

@@ -8,8 +8,6 @@
 #include "ui/pass_words.h"
 #include "ui/words.h"
 
-#include <QLocale>
-
 #include <algorithm>
 #include <optional>
 
@@ -135,13 +133,6 @@ QString verdict(const HostAnswer& answer) {
     default:
         return withNextStep(answer.cause);
     }
-}
-
-QString momentText(const QDateTime& moment, const QDateTime& now) {
-    const QDateTime local = moment.toLocalTime();
-    return local.date() == now.toLocalTime().date()
-               ? timeText(moment)
-               : QLocale().toString(local, QLocale::ShortFormat);
 }
 
 QString withoutAnswer(const SetupFacts& facts) {
