@@ -135,12 +135,17 @@ TEST_F(WindowLabTest, ActivityTab_TellsGoodPassesThenTheTroubleAndExportsBoth) {
     ASSERT_TRUE(screen.becomesActive(QStringLiteral("Export passes")));
     screen.keys({QStringLiteral("ctrl+a")});
     screen.type(list);
-    screen.keys({QStringLiteral("Return")});
     QList<QByteArray> lines;
-    ASSERT_TRUE(waitUntil([&] {
-        lines = near(u"cat " + list).output.trimmed().split('\n');
-        return lines.size() > 3;
-    })) << near(u"cat " + list).output.constData();
+    ASSERT_TRUE(waitUntil(
+        [&] {
+            // The list of completions, which comes late on a busy machine, takes the first one.
+            if (screen.activeTitle().startsWith(u"Export passes"))
+                screen.keys({QStringLiteral("Return")});
+            lines = near(u"cat " + list).output.trimmed().split('\n');
+            return lines.size() > 3;
+        },
+        60s))
+        << near(u"cat " + list).output.constData();
     EXPECT_TRUE(lines[1].contains(",remote,remote-login-off,")) << lines[1].constData();
     EXPECT_TRUE(lines.last().contains(",remote,well,")) << lines.last().constData();
     EXPECT_EQ(program->stop(), 0) << program->transcript().toStdString();
