@@ -66,7 +66,7 @@ protected:
     /// On the Activity tab: turns to the passes.
     void selectNewestPass() const {
         screen.keys({QStringLiteral("alt+l")});
-        screen.click({300, 302}, 1); // in the first row, below two lines of health and below three
+        screen.click({300, 328}, 1); // in the first row
     }
 
     /// Of the pass that ended last; empty before the first.

@@ -21,7 +21,7 @@ public:
     QString start() {
         fServer.start(QStringLiteral("Xvfb"),
                       {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                       QStringLiteral("0"), QStringLiteral("800x600x24"),
+                       QStringLiteral("0"), QStringLiteral("800x660x24"),
                        QStringLiteral("-nolisten"), QStringLiteral("tcp"),
                        QStringLiteral("-noreset")});
         while (!fServer.canReadLine()) {

@@ -121,6 +121,16 @@ TEST_F(ActivityTabTest, Passes_StandNewestFirst) {
     EXPECT_EQ(cell(0, 1), QStringLiteral("The disk here is full."));
 }
 
+TEST_F(ActivityTabTest, WidestFigures_AreShownWhole) {
+    append(PassCause::Well, 888'888);
+    openPasses();
+    passes().setTextElideMode(Qt::ElideNone);
+    for (int column = 2; column < 5; ++column)
+        EXPECT_GE(passes().columnWidth(column),
+                  passes().sizeHintForIndex(row(0).siblingAtColumn(column)).width())
+            << column << cell(0, column).toStdString();
+}
+
 TEST_F(ActivityTabTest, Health_StandsAboveThePasses) {
     openPasses();
     auto* headline = child<QLabel>("headline");

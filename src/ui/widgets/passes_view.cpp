@@ -48,7 +48,7 @@ PassesView::PassesView(PassStore& store, UserDefaults& defaults, QWidget* parent
     widest.began = QDateTime(QDate(2000, 12, 28), QTime(22, 28, 28));
     widen(PassRows::When, beganText(widest), fUi->passes->indentation());
     widen(PassRows::Files, filesText(Transfer{TransferSource::Lines, 0, 0}));
-    widen(PassRows::Size, bytesText(888'800'000));
+    widen(PassRows::Size, sizeText(Transfer{TransferSource::Lines, 1, 888'800'000}));
     widen(PassRows::Time, TimeLeftWords().text(55 * 60));
     new WideColumn(*fUi->passes, PassRows::Outcome);
     fUi->passText->setFont(fixedFont(font()));
