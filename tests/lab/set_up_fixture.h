@@ -30,7 +30,7 @@ protected:
         // Nothing is set up yet: no key, and a host that nobody has seen before.
         near(QStringLiteral("find .ssh -mindepth 1 -delete"));
         remote(QStringLiteral("rm -f /Users/mediauser/.ssh/authorized_keys"));
-        ASSERT_TRUE(screen.start()) << "no display comes up";
+        ASSERT_TRUE(screen.start({800, 660})) << "no display comes up";
     }
 
     void TearDown() override { program.reset(); }

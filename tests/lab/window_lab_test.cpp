@@ -33,7 +33,7 @@ protected:
             return;
         if (const QString missing = VirtualDesktop::missingTool(); !missing.isEmpty())
             GTEST_SKIP() << missing.toStdString() << " is not installed on this machine";
-        ASSERT_TRUE(screen.start()) << "no display comes up";
+        ASSERT_TRUE(screen.start({800, 660})) << "no display comes up";
     }
 
     void TearDown() override {

@@ -31,8 +31,8 @@ QString VirtualDesktop::missingTool() {
     return {};
 }
 
-bool VirtualDesktop::start() {
-    fName = fDisplay.start();
+bool VirtualDesktop::start(const QSize& size) {
+    fName = fDisplay.start(size);
     if (fName.isEmpty())
         return false;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -5,6 +5,7 @@
 #include "support/wait_until.h"
 
 #include <QPoint>
+#include <QSize>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -29,7 +30,7 @@ public:
     static QString missingTool();
 
     /// False when no display or no window manager came up.
-    bool start();
+    bool start(const QSize& size = {800, 600});
 
     /// The display's name, for DISPLAY.
     const QString& name() const { return fName; }

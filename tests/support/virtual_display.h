@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QProcess>
+#include <QSize>
 #include <QString>
 
 namespace kelvo {
@@ -18,12 +19,12 @@ public:
     }
 
     /// Starts the server and returns its name, for DISPLAY; empty when none came up.
-    QString start() {
+    QString start(const QSize& size = {800, 600}) {
+        const QString screen = QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height());
         fServer.start(QStringLiteral("Xvfb"),
                       {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                       QStringLiteral("0"), QStringLiteral("800x660x24"),
-                       QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                       QStringLiteral("-noreset")});
+                       QStringLiteral("0"), screen, QStringLiteral("-nolisten"),
+                       QStringLiteral("tcp"), QStringLiteral("-noreset")});
         while (!fServer.canReadLine()) {
             if (!fServer.waitForReadyRead(20000))
                 return {};
