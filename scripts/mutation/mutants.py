@@ -284,12 +284,13 @@ class _Finder:
                          f"swapped: {one_line(before)} and {one_line(after)}")
 
     def texts(self):
-        previous = ""
+        before, previous = "", ""
         for offset, kind, spelling in self.tokens:
             plain = re.fullmatch(r'((?:u8|u|U|L)?)"(.*)"(\w*)', spelling, re.DOTALL)
             letter = re.fullmatch(r"((?:u8|u|U|L)?)'(.+)'", spelling)
             line = self.source[self.source.rfind(b"\n", 0, offset) + 1:offset].lstrip()
             if (kind == TokenKind.LITERAL and not line.startswith(b"#") and previous != "extern"
+                    and not (before == "QT_TRANSLATE_NOOP" and previous == "(")  # not compiled
                     and not any(a <= offset < b for a, b in self.skipped)):
                 size = len(spelling.encode())
                 if plain:
@@ -299,7 +300,7 @@ class _Finder:
                     other = "~" if letter[2] != "~" else "^"
                     self.replaced(offset, offset + size, f"{letter[1]}'{other}'".encode())
             if kind != TokenKind.COMMENT:
-                previous = spelling
+                before, previous = previous, spelling
 
 
 def mutants_of(path: str, name: str, arguments: list[str]) -> list[Mutant]:

@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QSplitter>
 #include <QTemporaryDir>
 #include <QTest>
@@ -241,9 +242,14 @@ TEST_F(ActivityTabTest, RunningPass_IsTheFirstRowUntilItEnds) {
     EXPECT_EQ(cell(0, 1), QStringLiteral("First pull, 25 %"));
     passes().setCurrentIndex(row(0));
     EXPECT_TRUE(report().contains(QStringLiteral("a.mov\n1.0 of 4.0 GB")));
+    QSignalSpy changes(passes().model(), &QAbstractItemModel::dataChanged);
     work.share = 0.5;
     tab.showWork(work);
     EXPECT_EQ(cell(0, 1), QStringLiteral("First pull, 50 %"));
+    ASSERT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes[0][0].toModelIndex(), row(0));
+    EXPECT_EQ(changes[0][1].toModelIndex(),
+              row(0).siblingAtColumn(passes().model()->columnCount() - 1));
     EXPECT_TRUE(report().contains(QStringLiteral("50 %")));
 
     append(PassCause::Well, 7, QStringLiteral("what it said"));

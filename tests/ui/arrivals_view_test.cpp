@@ -3,6 +3,7 @@
 #include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
 #include "ui/widgets/activity_tab.h"
+#include "ui/widgets/arrival_rows.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -15,6 +16,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -113,6 +115,18 @@ TEST_F(ArrivalsViewTest, Movies_StandByDayNewestFirst) {
     EXPECT_EQ(cell(0, 1, 0), QStringLiteral("12:00"));
     EXPECT_EQ(cell(0, 1, 2), QStringLiteral("1.2 GB"));
     EXPECT_EQ(list().textElideMode(), Qt::ElideMiddle);
+}
+
+TEST_F(ArrivalsViewTest, TimeAndSize_AreShownWhole) {
+    arrive({"a.mov"});
+    open();
+    const int margins = 2 * (list().style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    const auto needed = [&](int column) {
+        return list().fontMetrics().horizontalAdvance(cell(0, 0, column)) + margins;
+    };
+    EXPECT_GE(list().columnWidth(ArrivalRows::Time),
+              needed(ArrivalRows::Time) + 2 * list().indentation());
+    EXPECT_GE(list().columnWidth(ArrivalRows::Size), needed(ArrivalRows::Size));
 }
 
 TEST_F(ArrivalsViewTest, Nothing_IsSaid) {

@@ -94,6 +94,17 @@ TEST(IconsTest, Sign_IsDrawnInTheInkAsked) {
     EXPECT_GT(opaque, 100);
 }
 
+TEST(IconsTest, SignOfHealth_IsFinerOnAFinerScreen) {
+    for (const HealthSign health : {HealthSign::Well, HealthSign::Trouble}) {
+        const QPixmap usual = healthSign(health, Qt::black, 16, 1);
+        const QPixmap fine = healthSign(health, Qt::black, 16, 2);
+        EXPECT_EQ(fine.deviceIndependentSize(), QSizeF(16, 16));
+        EXPECT_EQ(fine.size(), QSize(32, 32));
+        const int inked = inkedPixels(usual.toImage());
+        EXPECT_NEAR(inkedPixels(fine.toImage()), 4 * inked, inked) << "it fills the same room";
+    }
+}
+
 TEST(IconsTest, Sign_StandsOutOnAPanelOfEitherColour) {
     for (const StatusMenuState state : cStates) {
         for (const QColor& panel : {QColor(Qt::white), QColor(Qt::black), QColor(0x30, 0x30, 0x30),

@@ -4,6 +4,7 @@
 #include "settings/preference_keys.h"
 #include "ui/widgets/checklist_view.h"
 #include "ui/widgets/clear_box.h"
+#include "ui/widgets/health_view.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/remote_tab.h"
 #include "ui/widgets/sync_tab.h"
@@ -82,6 +83,16 @@ protected:
     VirtualMainQueue mainQueue;
     std::unique_ptr<MainWindow> window;
 };
+
+TEST_F(RoomTest, Health_KeepsTheRoomOfThreeLinesWhateverItSays) {
+    for (const int pixels : {12, 24}) {
+        setLetters(pixels);
+        HealthView view;
+        const QFontMetrics letters(view.font());
+        EXPECT_GE(view.minimumSizeHint().height(), 3 * letters.lineSpacing()) << pixels;
+        EXPECT_GE(view.minimumSizeHint().width(), 24 * letters.averageCharWidth()) << pixels;
+    }
+}
 
 TEST_F(RoomTest, FirstDay_IsSeenWholeAtTheUsualSize) {
     setLetters(12);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace kelvo {
 namespace {
 
@@ -24,11 +26,13 @@ TEST(PlainLineTest, LongerLine_SaysHowMuchIsMissing) {
 }
 
 TEST(PlainLineTest, Cut_FallsBetweenCharacters) {
-    // One byte before it puts each border amid a character.
+    // The bytes before and behind put each border amid a character.
     const QString pairs = QStringLiteral("\U0001f3ac").repeated(10000);
     const QString euros = QStringLiteral("\u20ac").repeated(10000);
-    for (const QString& wide : {pairs, euros}) {
-        const QString text = u'x' + wide + u'x' + wide + u"xx" + wide;
+    const std::pair<QString, QString> cases[]{
+        {pairs, QString()}, {pairs, QStringLiteral("xx")}, {euros, QString()}};
+    for (const auto& [wide, end] : cases) {
+        const QString text = u'x' + wide + u'x' + wide + u"xx" + wide + end;
         const QString line = shortenedLine({text});
         const QStringList parts = line.split(QStringLiteral(" … "));
         ASSERT_EQ(parts.size(), 3);

@@ -78,6 +78,12 @@ TEST_F(SyncCycleTest, UnknownSettings_SwitchedOffMeanwhileStartsNothing) {
     defaults.setKnown(true);
     mainQueue.advance(60.0);
     EXPECT_EQ(bgQueue.size(), 0U);
+
+    defaults.setKnown(false);
+    button.performClick();
+    defaults.setKnown(true);
+    mainQueue.advance(3.0);
+    EXPECT_EQ(bgQueue.size(), 1U) << "the next start waits as the first did";
 }
 
 TEST_F(SyncCycleTest, StartButtonOnWithoutSsh_StartsAPlainPass) {

@@ -176,6 +176,11 @@ TEST(WorkWordsTest, Headline_SaysWhatMattersMost) {
     EXPECT_EQ(headlineText(work, {.step = PassStep::AskingTheMac}),
               text("Syncing: asking the Mac"));
     EXPECT_EQ(headlineText(work, {.matter = text("The Mac is away.")}), text("The Mac is away."));
+    EXPECT_EQ(headlineText(work, {.step = PassStep::Pull, .kind = PassKind::Remote}),
+              text("Syncing: first pull"));
+    EXPECT_EQ(headlineText(work, {.step = PassStep::Pull, .kind = PassKind::Plain}),
+              text("Syncing: copying"));
+    EXPECT_EQ(headlineText(work, {.step = PassStep::Movies}), text("Syncing: movies"));
     work.share = 0.489;
     EXPECT_EQ(headlineText(work, {.matter = text("The Mac is away.")}), text("Syncing: 48 %"));
     work.timeLeft = text("about 4 min");

@@ -51,7 +51,7 @@ ArrivalsView::ArrivalsView(ActivityParts parts, QWidget* parent)
     list.setIndentation(fontMetrics().height());
     list.header()->resizeSection(
         ArrivalRows::Time,
-        fontMetrics().horizontalAdvance(QString(timeText(QDateTime::currentDateTime()) + u" mmm")) +
+        fontMetrics().horizontalAdvance(QString(timeText(QDateTime::currentDateTime()) + u"m")) +
             2 * list.indentation());
     list.header()->resizeSection(
         ArrivalRows::Size, fontMetrics().horizontalAdvance(QString(bytesText(88'800'000) + u"mm")));
