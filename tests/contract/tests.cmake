@@ -33,6 +33,7 @@ kelvo_tests(contract
     contract/login_item_contract_test.cpp
     contract/mac_volume_search_test.cpp
     contract/network_checker_contract_test.cpp
+    contract/network_manager_test.cpp
     contract/pass_progress_test.cpp
     contract/pass_store_contract_test.cpp
     contract/plist_codec_test.cpp
