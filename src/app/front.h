@@ -1,13 +1,17 @@
 // Front: the face of the program, with a window or without.
 #pragma once
 
+#include "ports/desktop_notices.h"
+#include "ports/status_menu.h"
 #include "ui/outlets.h"
 
+#include <functional>
 #include <memory>
 
 namespace kelvo {
 
 class AppDelegate;
+class DispatchQueue;
 class MainWindowController;
 class ViewController;
 struct MachineParts;
@@ -30,10 +34,25 @@ public:
     virtual void sendActionsTo(ViewController& controller, AppDelegate& delegate) = 0;
 };
 
-/// Everything is one line on standard output. `machine` outlives the front.
-std::unique_ptr<Front> makeHeadlessFront(MachineParts& machine);
+/// A front's place in the tray.
+struct StatusMenuParts {
+    std::shared_ptr<StatusMenu> menu;
+    /// Shows what the desktop has no service for; may be empty. Not called once `menu` is gone.
+    std::function<void(const Notice&)> showNotice = {};
+};
 
-/// The main window; needs a QApplication. `machine` outlives the front.
-std::unique_ptr<Front> makeWindowFront(MachineParts& machine);
+/// How the fronts of one kind are made.
+struct FrontKind {
+    /// `mainQueue` has ended before the menu goes.
+    StatusMenuParts (*makeStatusMenu)(DispatchQueue& mainQueue);
+    /// `machine` outlives the front.
+    std::unique_ptr<Front> (*makeFront)(MachineParts& machine);
+};
+
+/// Everything is one line on standard output.
+FrontKind headlessFront();
+
+/// The main window and the tray; need a QApplication.
+FrontKind windowFront();
 
 } // namespace kelvo

@@ -63,8 +63,15 @@ private:
 
 } // namespace
 
-std::unique_ptr<Front> makeHeadlessFront(MachineParts& machine) {
-    return std::make_unique<HeadlessFront>(machine);
+FrontKind headlessFront() {
+    return {
+        .makeStatusMenu = [](DispatchQueue&) -> StatusMenuParts {
+            return {.menu = std::make_shared<HeadlessStatusMenu>()};
+        },
+        .makeFront = [](MachineParts& machine) -> std::unique_ptr<Front> {
+            return std::make_unique<HeadlessFront>(machine);
+        },
+    };
 }
 
 } // namespace kelvo

@@ -1,11 +1,8 @@
 #include "app/machine_parts.h"
 
-#include "adapters/desktop/desktop_tray_host.h"
-#include "adapters/desktop/status_notifier_item.h"
 #include "adapters/network/kelvo_ssid.h"
 #include "app/places.h"
 #include "app/version.h"
-#include "ui/widgets/tray_icon.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -15,7 +12,7 @@
 
 namespace kelvo {
 
-MachineParts::MachineParts(bool withTray)
+MachineParts::MachineParts(const FrontKind& kind)
     : PassMachine(STDOUT_FILENO, STDERR_FILENO, DamagedFile::IsSetAside),
       loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
@@ -25,19 +22,10 @@ MachineParts::MachineParts(bool withTray)
       singleCopy(QFile::encodeName(logFolder()).toStdString(), console),
       sentinelLauncher(commands.runningCommands()), dnssdBrowser(console, mainQueue),
       notices([this](const Notice& notice) {
-          if (fTrayIcon)
-              fTrayIcon->showNotice(notice);
-      }) {
-    if (withTray) {
-        fTrayHost = std::make_unique<DesktopTrayHost>();
-        fTrayItem = std::make_unique<StatusNotifierItem>();
-        auto icon = std::make_unique<TrayIcon>(*fTrayHost, *fTrayItem, mainQueue);
-        fTrayIcon = icon.get();
-        fStatusMenu = std::move(icon);
-    } else {
-        fStatusMenu = std::make_unique<HeadlessStatusMenu>();
-    }
-}
+          if (fStatusMenu.showNotice)
+              fStatusMenu.showNotice(notice);
+      }),
+      fStatusMenu(kind.makeStatusMenu(mainQueue)) {}
 
 MachineParts::~MachineParts() = default;
 

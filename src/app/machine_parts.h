@@ -1,7 +1,6 @@
 // MachineParts: the real adapters of a program with a front, beyond those that passes need.
 #pragma once
 
-#include "adapters/console/headless_desktop.h"
 #include "adapters/desktop/autostart_entry.h"
 #include "adapters/desktop/bus_notices.h"
 #include "adapters/desktop/desktop_workspace.h"
@@ -10,6 +9,7 @@
 #include "adapters/network/avahi_browser.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/single_copy_socket.h"
+#include "app/front.h"
 #include "app/pass_machine.h"
 #include "remote/share_commands.h"
 #include "support/notification_center.h"
@@ -19,19 +19,15 @@
 namespace kelvo {
 
 class NetworkChecker;
-class TrayHost;
-class TrayIcon;
-class TrayItem;
 
 /// Main thread only; made once the application object exists.
 struct MachineParts : PassMachine {
-    /// `withTray` needs a QApplication.
-    explicit MachineParts(bool withTray);
+    explicit MachineParts(const FrontKind& kind);
     ~MachineParts();
     MachineParts(const MachineParts&) = delete;
     MachineParts& operator=(const MachineParts&) = delete;
 
-    StatusMenu& statusMenu() { return *fStatusMenu; }
+    StatusMenu& statusMenu() { return *fStatusMenu.menu; }
     std::unique_ptr<NetworkChecker> makeNetworkChecker();
     /// Where the log file lies.
     QString logFolder() const;
@@ -48,10 +44,7 @@ struct MachineParts : PassMachine {
     BusNotices notices;
 
 private:
-    std::unique_ptr<TrayHost> fTrayHost;
-    std::unique_ptr<TrayItem> fTrayItem;
-    std::unique_ptr<StatusMenu> fStatusMenu;
-    TrayIcon* fTrayIcon = nullptr; ///< the status menu, where there is a tray
+    StatusMenuParts fStatusMenu;
 };
 
 } // namespace kelvo

@@ -1,13 +1,13 @@
 // The way in: reads the command line, then runs the program with a window or without.
-#include "adapters/desktop/displays.h"
 #include "app/commands/command_line.h"
 #include "app/commands/once.h"
 #include "app/commands/passes.h"
 #include "app/commands/settings_commands.h"
-#include "app/language.h"
 #include "app/program.h"
+#include "app/reason.h"
+#include "app/window_module.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <fcntl.h>
@@ -20,12 +20,10 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <vector>
 
 namespace {
 
 constexpr int cExitUsage = 2;
-constexpr int cExitNoDisplay = 3;
 constexpr int cExitTooFewFiles = 7;
 /// What a window at work needs, with room to spare; below that something fails at any place.
 constexpr rlim_t cOpenFiles = 64;
@@ -82,95 +80,9 @@ QString missingFiles() {
         .arg(cOpenFiles);
 }
 
-/// Both: why no window can be opened on such a display; empty when one can.
-QString missingX(const kelvo::WindowOptions& options) {
-    QString name = options.valueOf(u"display");
-    if (name.isEmpty())
-        name = qEnvironmentVariable("DISPLAY");
-    if (name.isEmpty())
-        return QStringLiteral("there is no display to open a window on");
-    if (!kelvo::xDisplayAnswers(name.toLocal8Bit()))
-        return QStringLiteral("the display %1 does not answer").arg(name);
-    return {};
-}
-QString missingWayland() {
-    if (!kelvo::waylandDisplayAnswers())
-        return qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-                   ? QStringLiteral("there is no Wayland display to open a window on")
-                   : QStringLiteral("the Wayland display %1 does not answer")
-                         .arg(qEnvironmentVariable("WAYLAND_DISPLAY"));
-    if (!kelvo::hasWaylandPlatform())
-        return QStringLiteral("Qt's part for Wayland displays is not installed; its package is "
-                              "qt6-wayland");
-    return {};
-}
-
-/// Why no window can be opened here; empty when one can. Where the toolkit would not come upon a
-/// Wayland display by itself, that is added to its options.
-QString missingDisplay(kelvo::WindowOptions& options) {
-    QString platforms = options.valueOf(u"platform");
-    if (platforms.isEmpty())
-        platforms = qEnvironmentVariable("QT_QPA_PLATFORM");
-    QString missing;
-    for (const QString& each : platforms.split(u';', Qt::SkipEmptyParts)) {
-        const QString why = each.startsWith(u"xcb")       ? missingX(options)
-                            : each.startsWith(u"wayland") ? missingWayland()
-                                                          : QString();
-        if (why.isEmpty())
-            return {};
-        if (missing.isEmpty())
-            missing = why;
-    }
-    if (!missing.isEmpty())
-        return missing;
-    missing = missingX(options);
-    if (missing.isEmpty() || qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        return missing;
-    missing = missingWayland();
-    if (missing.isEmpty())
-        options.given += {QStringLiteral("-platform"), QStringLiteral("wayland")};
-    return missing;
-}
-
-/// The command line that the toolkit sees; it keeps pointers into it.
-class ToolkitArguments {
-public:
-    ToolkitArguments(const char* program, const kelvo::CommandLine& commandLine) {
-        fWords.emplace_back(program);
-        for (const QString& word : commandLine.window.given)
-            fWords.push_back(word.toLocal8Bit());
-        if (commandLine.autorelaunched)
-            fWords.emplace_back("--autorelaunched");
-        for (QByteArray& word : fWords)
-            fPointers.push_back(word.data());
-        fCount = static_cast<int>(fPointers.size());
-        fPointers.push_back(nullptr);
-    }
-    int& count() { return fCount; }
-    char** words() { return fPointers.data(); }
-
-private:
-    std::vector<QByteArray> fWords;
-    std::vector<char*> fPointers;
-    int fCount = 0;
-};
-
 int printAndEnd(std::FILE* stream, const QString& text, int exitCode) {
     std::fputs(qPrintable(text), stream);
     return exitCode;
-}
-
-int printReason(const QString& reason, int exitCode) {
-    return printAndEnd(stderr, QString(u"kelvo-mirror: " + reason + u".\n"), exitCode);
-}
-
-/// Ends the program in words where the toolkit finds that it cannot begin; left alone, it would
-/// end by a crash.
-void endAtFatalMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (type == QtFatalMsg)
-        ::_exit(printReason(u"no window can be opened: " + text.simplified().chopped(1),
-                            cExitNoDisplay));
-    std::fputs(qPrintable(QString(qFormatLogMessage(type, context, text) + u'\n')), stderr);
 }
 
 int printAnswer(const kelvo::CommandAnswer& answer) {
@@ -190,10 +102,10 @@ int main(int argc, char** argv) {
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     QLocale::setDefault(QLocale::c()); // Lines are the same everywhere.
-    kelvo::CommandLine commandLine = kelvo::parseCommandLine(arguments);
+    const kelvo::CommandLine commandLine = kelvo::parseCommandLine(arguments);
 
     if (const QString missing = missingFiles(); !missing.isEmpty() && worksOn(commandLine.kind))
-        return printReason(missing, cExitTooFewFiles);
+        return kelvo::printReason(missing, cExitTooFewFiles);
     switch (commandLine.kind) {
     case kelvo::LaunchKind::Refuse:
         return printAndEnd(stderr, commandLine.message, cExitUsage);
@@ -214,22 +126,15 @@ int main(int argc, char** argv) {
     }
     case kelvo::LaunchKind::Headless: {
         const QCoreApplication application(argc, argv);
-        return kelvo::runProgram(kelvo::FrontKind::Headless);
+        return kelvo::runProgram(kelvo::headlessFront());
     }
     case kelvo::LaunchKind::Window:
         break;
     }
-    if (const QString missing = missingDisplay(commandLine.window); !missing.isEmpty())
-        return printReason(missing + u". Run 'kelvo-mirror --headless' to work without one",
-                           cExitNoDisplay);
-    ToolkitArguments toolkit(argv[0], commandLine);
-    const QtMessageHandler usual = qInstallMessageHandler(endAtFatalMessage);
-    QApplication application(toolkit.count(), toolkit.words());
-    qInstallMessageHandler(usual);
-    QApplication::setApplicationName(QStringLiteral("kelvo-mirror"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Kelvo Mirror"));
-    QApplication::setDesktopFileName(QStringLiteral("org.kelvo.KelvoMirror"));
-    QApplication::setQuitOnLastWindowClosed(false);
-    kelvo::speakTheirLanguage(application);
-    return kelvo::runProgram(kelvo::FrontKind::Window);
+    const kelvo::WindowModule window = kelvo::loadWindowModule();
+    if (!window.show)
+        return kelvo::printReason(window.trouble +
+                                      u". Run 'kelvo-mirror --headless' to work without one",
+                                  kelvo::cExitNoWindow);
+    return window.show(argc, argv);
 }

@@ -34,10 +34,9 @@ constexpr auto cLastLines = 200ms;
 /// The program's own parts, on top of those of the machine.
 class Program {
 public:
-    explicit Program(FrontKind kind)
-        : fKind(kind), fParts(kind == FrontKind::Window),
-          fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
-                      [this] { front().quit(); }),
+    explicit Program(const FrontKind& kind)
+        : fKind(kind), fParts(kind), fStatusMenu(fParts.statusMenu(), fParts.defaults,
+                                                 fParts.mainQueue, [this] { front().quit(); }),
           fDuplicates(fParts.singleCopy, fParts.console, activationToken(),
                       [this](const QByteArray& token) { show(token); }),
           fWatchdog(Watchdog::begin({.signals = fParts.signals,
@@ -97,10 +96,8 @@ public:
 
 private:
     Front& front() {
-        if (!fFront) {
-            fFront =
-                fKind == FrontKind::Window ? makeWindowFront(fParts) : makeHeadlessFront(fParts);
-        }
+        if (!fFront)
+            fFront = fKind.makeFront(fParts);
         return *fFront;
     }
 
@@ -175,7 +172,7 @@ private:
 
 } // namespace
 
-int runProgram(FrontKind kind) {
+int runProgram(const FrontKind& kind) {
     return Program(kind).run();
 }
 

@@ -159,6 +159,7 @@ TEST(IncludeArrowsTest, Offences_AreSeen) {
     EXPECT_EQ(offences("sync", "#include <QCoreApplication>\n").size(), 1U);
     EXPECT_TRUE(offences("ui", "#include <QCoreApplication>\n").empty());
     EXPECT_EQ(offences("sentinel", "#include <QString>\n").size(), 1U);
+    EXPECT_EQ(offences("app", "#include \"ui/widgets/x.h\"\n#include \"ui/x.h\"\n").size(), 1U);
     EXPECT_EQ(offences("elsewhere", "").size(), 1U);
     EXPECT_TRUE(offences("sync", "#include \"sync/x.h\"\n#include <QString>\n// #include").empty());
 }

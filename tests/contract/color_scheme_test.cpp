@@ -1,4 +1,4 @@
-#include "adapters/desktop/color_scheme.h"
+#include "adapters/display/color_scheme.h"
 #include "support/portal_service.h"
 #include "support/session_bus.h"
 #include "support/startable_service.h"

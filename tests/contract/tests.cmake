@@ -33,6 +33,7 @@ kelvo_tests(contract
     contract/login_item_contract_test.cpp
     contract/mac_volume_search_test.cpp
     contract/network_checker_contract_test.cpp
+    contract/network_manager_test.cpp
     contract/pass_progress_test.cpp
     contract/pass_store_contract_test.cpp
     contract/plist_codec_test.cpp
@@ -71,7 +72,7 @@ kelvo_tests(contract
     contract/user_defaults_contract_test.cpp
     contract/utf8_collector_test.cpp
     contract/workspace_contract_test.cpp
-  LINKS kelvo_ui kelvo_adapters kelvo_bus_testing
+  LINKS kelvo_ui kelvo_adapters kelvo_adapters_display kelvo_bus_testing
 )
 add_dependencies(contract_tests failing_call failing_file kelvo_sentinel network_watcher
   record_writer settings_writer zoo)

@@ -1,4 +1,4 @@
-#include "adapters/desktop/desktop_tray_host.h"
+#include "adapters/display/desktop_tray_host.h"
 #include "fakes/fake_status_menu.h"
 #include "support/session_bus.h"
 #include "support/wait_in_loop.h"

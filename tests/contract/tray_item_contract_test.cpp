@@ -1,6 +1,6 @@
 // The contract of TrayItem on the fake and on a bus with a panel; then what panels read on the bus.
 #include "adapters/desktop/activation_token.h"
-#include "adapters/desktop/status_notifier_item.h"
+#include "adapters/display/status_notifier_item.h"
 #include "fakes/fake_tray_item.h"
 #include "support/session_bus.h"
 #include "support/startable_service.h"

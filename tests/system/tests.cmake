@@ -1,7 +1,7 @@
 include(system/setup.cmake)
 
 add_executable(tray_program system/tray_program.cpp)
-target_link_libraries(tray_program PRIVATE kelvo_ui_widgets kelvo_adapters_desktop
+target_link_libraries(tray_program PRIVATE kelvo_ui_widgets kelvo_adapters_display
   kelvo_adapters_process)
 
 add_executable(watched_program children/watched_program.cpp)
@@ -21,6 +21,7 @@ kelvo_tests(system
     system/tray_system_test.cpp
     system/watchdog_system_test.cpp
     system/wayland_system_test.cpp
+    system/window_module_system_test.cpp
     system/window_system_test.cpp
   LINKS kelvo_bus_testing Qt6::Gui
   TIMEOUT 120
@@ -35,5 +36,6 @@ target_compile_definitions(system_tests PRIVATE
   KELVO_SENTINEL="$<TARGET_FILE:kelvo_sentinel>"
   KELVO_WATCHED_PROGRAM="$<TARGET_FILE:watched_program>"
   KELVO_TRAY_PROGRAM="$<TARGET_FILE:tray_program>"
-  KELVO_VERSION="${PROJECT_VERSION}")
+  KELVO_VERSION="${PROJECT_VERSION}"
+  KELVO_WINDOW="$<TARGET_FILE:kelvo_window>")
 add_dependencies(system_tests failing_file kelvo-mirror kelvo_sentinel tray_program watched_program)

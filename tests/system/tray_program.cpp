@@ -1,7 +1,7 @@
 // A program with nothing but the tray icon, driven by lines on standard input and heard by lines on
 // standard output, so that tests can look at the real icon on a real display.
-#include "adapters/desktop/desktop_tray_host.h"
-#include "adapters/desktop/status_notifier_item.h"
+#include "adapters/display/desktop_tray_host.h"
+#include "adapters/display/status_notifier_item.h"
 #include "adapters/process/qt_main_queue.h"
 #include "ui/widgets/tray_icon.h"
 

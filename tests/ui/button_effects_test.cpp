@@ -1,5 +1,5 @@
 // What each button of the window does: the real window, the real controller, a pretend world.
-#include "app/window_actions.h"
+#include "app/window/window_actions.h"
 #include "fakes/view_controller_world.h"
 #include "remote/remote_host_validation.h"
 #include "remote/ssh_key_provisioning.h"

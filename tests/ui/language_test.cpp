@@ -1,6 +1,6 @@
 // The window in other languages: nothing is left in English, and what is printed stays so.
-#include "app/language.h"
-#include "app/window_actions.h"
+#include "app/window/language.h"
+#include "app/window/window_actions.h"
 #include "fakes/view_controller_world.h"
 #include "settings/remote_account.h"
 #include "sync/rsync_command.h"

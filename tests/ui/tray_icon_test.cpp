@@ -1,4 +1,4 @@
-#include "adapters/desktop/dbus_menu.h"
+#include "adapters/display/dbus_menu.h"
 #include "fakes/fake_status_menu.h"
 #include "fakes/fake_tray_item.h"
 #include "fakes/virtual_queues.h"

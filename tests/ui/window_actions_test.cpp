@@ -1,5 +1,5 @@
 // Every control of the real window wired to the real controller in a pretend world.
-#include "app/window_actions.h"
+#include "app/window/window_actions.h"
 #include "fakes/recording_notices.h"
 #include "fakes/view_controller_world.h"
 #include "ui/close_policy.h"

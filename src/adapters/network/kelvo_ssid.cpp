@@ -5,9 +5,8 @@
 #include "support/notification_center.h"
 
 #include <QFileInfo>
-#include <QNetworkInformation>
-#include <QObject>
 
+#include <optional>
 #include <utility>
 
 namespace kelvo {
@@ -15,30 +14,14 @@ namespace {
 
 constexpr double cSettleSeconds = 0.2;
 
-/// Null where NetworkManager is not at hand. Its folder is looked for first, as Qt loads every
-/// backend to find one by its name, GLib's with 2 MB of libraries among them.
-QNetworkInformation* networkService() {
-    const bool atHand = QFileInfo::exists(QStringLiteral("/run/NetworkManager"));
-    return atHand && QNetworkInformation::loadBackendByName(u"networkmanager")
-               ? QNetworkInformation::instance()
-               : nullptr;
+/// Where its folder is not there nobody joins the system's bus for it.
+bool networkManagerIsAtHand() {
+    return QFileInfo::exists(QStringLiteral("/run/NetworkManager"));
 }
 
-NetworkReach reachFrom(const QNetworkInformation* service) {
-    if (!service)
-        return hasDefaultRoute() ? NetworkReach::Beyond : NetworkReach::LocalOnly;
-    switch (service->reachability()) {
-    case QNetworkInformation::Reachability::Disconnected:
-        return NetworkReach::NothingBeyond;
-    case QNetworkInformation::Reachability::Local:
-        return NetworkReach::LocalOnly;
-    case QNetworkInformation::Reachability::Site:
-    case QNetworkInformation::Reachability::Online:
-        return NetworkReach::Beyond;
-    case QNetworkInformation::Reachability::Unknown:
-        break;
-    }
-    return NetworkReach::Unknown;
+/// As the kernel's routes have it.
+NetworkReach reachByRoutes() {
+    return hasDefaultRoute() ? NetworkReach::Beyond : NetworkReach::LocalOnly;
 }
 
 } // namespace
@@ -60,11 +43,9 @@ QString reachabilityMessage(bool usableLink, NetworkReach reach) {
 class KelvoSSID::Watcher : public std::enable_shared_from_this<Watcher> {
 public:
     Watcher(NotificationCenter& center, DispatchQueue& mainQueue)
-        : fCenter(center), fMainQueue(mainQueue), fService(networkService()),
-          fLinks([this] { lookLater(cSettleSeconds); }) {
-        if (fService)
-            QObject::connect(fService, &QNetworkInformation::reachabilityChanged, &fContext,
-                             [this] { lookLater(cSettleSeconds); });
+        : fCenter(center), fMainQueue(mainQueue), fLinks([this] { lookLater(cSettleSeconds); }) {
+        if (networkManagerIsAtHand())
+            fManager.emplace([this] { lookLater(cSettleSeconds); });
     }
 
     /// Posts after `seconds` what is true then, if that is news.
@@ -80,7 +61,9 @@ public:
 private:
     void look() {
         fLookIsDue = false;
-        const QString message = reachabilityMessage(hasUsableLink(), reachFrom(fService));
+        const auto reach = fManager ? fManager->reach() : std::nullopt;
+        const QString message =
+            reachabilityMessage(hasUsableLink(), reach ? *reach : reachByRoutes());
         if (std::exchange(fLastMessage, message) != message)
             fCenter.post(cNWPathMonitorNotification.toString(),
                          {{cReachabilityMessage.toString(), message}});
@@ -88,8 +71,7 @@ private:
 
     NotificationCenter& fCenter;
     DispatchQueue& fMainQueue;
-    QObject fContext;
-    QNetworkInformation* const fService;
+    std::optional<NetworkManager> fManager;
     LinkWatch fLinks;
     QString fLastMessage;
     bool fLookIsDue = false;

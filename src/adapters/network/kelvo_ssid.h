@@ -1,6 +1,7 @@
-// KelvoSSID: watches the network through the kernel's links and the desktop's network service.
+// KelvoSSID: watches the network through the kernel's links and the system's NetworkManager.
 #pragma once
 
+#include "adapters/network/network_manager.h"
 #include "ports/network_checker.h"
 
 #include <QString>
@@ -12,14 +13,12 @@ namespace kelvo {
 class DispatchQueue;
 class NotificationCenter;
 
-/// How far this machine sees, as the desktop's network service judges it.
-enum class NetworkReach { Unknown, NothingBeyond, LocalOnly, Beyond };
-
 /// The sentence people read. A usable link is enough for mirroring, whatever lies beyond it.
 QString reachabilityMessage(bool usableLink, NetworkReach reach);
 
 /// Main thread only, and posts there. Needs a QCoreApplication. Between changes nothing runs; the
-/// changes of 0.2 s are one. Without a network service it watches the links alone.
+/// changes of 0.2 s are one. Without NetworkManager, and until it has answered, the
+/// links and routes alone say how far this machine sees.
 class KelvoSSID final : public NetworkChecker {
 public:
     KelvoSSID(NotificationCenter& center, DispatchQueue& mainQueue);

@@ -1,4 +1,4 @@
-#include "adapters/desktop/status_notifier_item.h"
+#include "adapters/display/status_notifier_item.h"
 
 #include "adapters/desktop/activation_token.h"
 

@@ -1,4 +1,4 @@
-#include "adapters/desktop/dbus_menu.h"
+#include "adapters/display/dbus_menu.h"
 
 #include <QDBusMetaType>
 #include <QGuiApplication>

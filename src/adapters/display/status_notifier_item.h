@@ -1,7 +1,7 @@
 // StatusNotifierItem: an icon for panels that speak over the session bus.
 #pragma once
 
-#include "adapters/desktop/dbus_menu.h"
+#include "adapters/display/dbus_menu.h"
 #include "ports/tray_item.h"
 
 #include <QDBusConnection>

@@ -1,4 +1,4 @@
-#include "adapters/desktop/color_scheme.h"
+#include "adapters/display/color_scheme.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>

@@ -1,4 +1,4 @@
-#include "app/language.h"
+#include "app/window/language.h"
 
 #include <QApplication>
 #include <QDir>

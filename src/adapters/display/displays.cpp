@@ -1,4 +1,4 @@
-#include "adapters/desktop/displays.h"
+#include "adapters/display/displays.h"
 
 #include "adapters/system/unique_fd.h"
 

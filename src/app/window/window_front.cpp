@@ -1,10 +1,12 @@
 // The front with the main window.
-#include "adapters/desktop/color_scheme.h"
+#include "adapters/display/color_scheme.h"
+#include "adapters/display/desktop_tray_host.h"
+#include "adapters/display/status_notifier_item.h"
 #include "adapters/network/link_watch.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
 #include "app/start/app_delegate.h"
-#include "app/window_actions.h"
+#include "app/window/window_actions.h"
 #include "ports/dispatch_queue.h"
 #include "ports/status_menu.h"
 #include "settings/preference_keys.h"
@@ -28,6 +30,7 @@
 #include "ui/widgets/sheet_presenter.h"
 #include "ui/widgets/status_field_view.h"
 #include "ui/widgets/sync_tab.h"
+#include "ui/widgets/tray_icon.h"
 #include "ui/widgets/widget_button.h"
 #include "ui/widgets/widget_controls.h"
 #include "ui/widgets/widget_main_view.h"
@@ -285,10 +288,32 @@ private:
     std::shared_ptr<MainWindowController> fWindowController;
 };
 
+/// The tray's icon with all that it works with.
+struct Tray {
+    explicit Tray(DispatchQueue& mainQueue) : icon(host, item, mainQueue) {}
+
+    DesktopTrayHost host;
+    StatusNotifierItem item;
+    TrayIcon icon;
+};
+
+StatusMenuParts makeTray(DispatchQueue& mainQueue) {
+    const auto tray = std::make_shared<Tray>(mainQueue);
+    return {
+        .menu = {tray, &tray->icon},
+        .showNotice = [&icon = tray->icon](const Notice& notice) { icon.showNotice(notice); },
+    };
+}
+
 } // namespace
 
-std::unique_ptr<Front> makeWindowFront(MachineParts& machine) {
-    return std::make_unique<WindowFront>(machine);
+FrontKind windowFront() {
+    return {
+        .makeStatusMenu = makeTray,
+        .makeFront = [](MachineParts& machine) -> std::unique_ptr<Front> {
+            return std::make_unique<WindowFront>(machine);
+        },
+    };
 }
 
 } // namespace kelvo

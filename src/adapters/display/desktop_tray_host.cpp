@@ -1,4 +1,4 @@
-#include "adapters/desktop/desktop_tray_host.h"
+#include "adapters/display/desktop_tray_host.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>

@@ -1,4 +1,4 @@
-#include "app/window_actions.h"
+#include "app/window/window_actions.h"
 
 #include "app/start/app_delegate.h"
 #include "app/version.h"

@@ -1,0 +1,19 @@
+// How the program says why it ends before it has begun.
+#pragma once
+
+#include <QString>
+
+#include <cstdio>
+
+namespace kelvo {
+
+/// What the program ends with where a window is wanted and none can be opened.
+inline constexpr int cExitNoWindow = 3;
+
+/// Says `reason`, a sentence without its full stop, on standard error; returns `exitCode`.
+inline int printReason(const QString& reason, int exitCode) {
+    std::fputs(qPrintable(QString(u"kelvo-mirror: " + reason + u".\n")), stderr);
+    return exitCode;
+}
+
+} // namespace kelvo

@@ -1,0 +1,59 @@
+// What the built program is linked with: nothing of a display, unless the window is loaded.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <memory>
+#include <regex>
+#include <string>
+
+namespace kelvo {
+namespace {
+
+struct ClosePipe {
+    void operator()(std::FILE* pipe) const { ::pclose(pipe); }
+};
+
+/// What `command` prints.
+std::string outputOf(const std::string& command) {
+    const std::unique_ptr<std::FILE, ClosePipe> pipe(::popen(command.c_str(), "re"));
+    std::string output;
+    for (int byte = pipe ? std::fgetc(pipe.get()) : EOF; byte != EOF; byte = std::fgetc(pipe.get()))
+        output += static_cast<char>(byte);
+    return output;
+}
+
+/// The lines of `output` that name a library which only windows and the toolkit's network need.
+std::string ofTheDisplay(const std::string& output) {
+    static const std::regex line(
+        R"([^\n]*lib(Qt6(Gui|Widgets|Svg|Network|OpenGL)|xcb|X|xkb|wayland|GL|EGL|fontconfig|freetype)[^\n]*\n)");
+    std::string found;
+    for (std::sregex_iterator each(output.begin(), output.end(), line), end; each != end; ++each)
+        found += each->str();
+    return found;
+}
+
+TEST(LinkedLibrariesTest, Program_NamesNoneOfTheDisplay) {
+    const std::string named = outputOf("LC_ALL=C readelf -dW '" KELVO_PROGRAM "' | grep NEEDED");
+    ASSERT_NE(named.find("libQt6Core"), std::string::npos) << named;
+    EXPECT_EQ(ofTheDisplay(named), "");
+}
+
+TEST(LinkedLibrariesTest, ProgramsLibraries_BringNoneOfTheDisplayAlong) {
+    const std::string brought = outputOf("LC_ALL=C ldd '" KELVO_PROGRAM "'");
+    ASSERT_NE(brought.find("libQt6Core"), std::string::npos) << brought;
+    EXPECT_EQ(ofTheDisplay(brought), "");
+}
+
+TEST(LinkedLibrariesTest, Window_NamesThem) {
+    const std::string named = outputOf("LC_ALL=C readelf -dW '" KELVO_WINDOW "' | grep NEEDED");
+    for (const char* library : {"libQt6Gui", "libQt6Widgets", "libxcb"})
+        EXPECT_NE(ofTheDisplay(named).find(library), std::string::npos) << library;
+}
+
+TEST(LinkedLibrariesTest, Window_GivesOneFunctionAndNothingElse) {
+    EXPECT_EQ(outputOf("LC_ALL=C nm -D --defined-only '" KELVO_WINDOW "' | cut -d' ' -f3"),
+              "kelvoMirrorShowWindow\n");
+}
+
+} // namespace
+} // namespace kelvo

@@ -1,0 +1,134 @@
+// The window as a part that may be missing: what is loaded without it, and what is said for it.
+#include "support/program_profile.h"
+#include "support/running_program.h"
+#include "support/virtual_display.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+namespace kelvo {
+namespace {
+
+const QString cProgram = QStringLiteral(KELVO_PROGRAM);
+
+/// The files whose names tell that they belong to a display, of those that a process has mapped.
+QStringList mappedForADisplay(qint64 process) {
+    QStringList found;
+    const QString maps =
+        QString::fromLocal8Bit(contents(QStringLiteral("/proc/%1/maps").arg(process)));
+    for (const QString& line : maps.split(u'\n')) {
+        const QString name = line.section(u'/', -1);
+        for (const char* part :
+             {"window.so", "libQt6Gui", "libQt6Widgets", "libQt6Svg", "libQt6Network", "libxcb",
+              "libX", "libwayland", "libfontconfig"}) {
+            if (name.startsWith(QLatin1StringView(part)) && !found.contains(name))
+                found.append(name);
+        }
+    }
+    return found;
+}
+
+class WindowModuleSystemTest : public ::testing::Test, public ProgramProfile {
+protected:
+    void SetUp() override {
+        QDir().mkpath(path(QStringLiteral("copy/bin")));
+        QDir().mkpath(path(QStringLiteral("copy/lib/kelvo-mirror")));
+        ASSERT_TRUE(QFile::copy(cProgram, program));
+    }
+
+    /// The same program with another library in its place, or with none.
+    Ended runWithoutArguments() const { return runToEnd(program, {}); }
+
+    const QString program = path(QStringLiteral("copy/bin/kelvo-mirror"));
+    const QString module = path(QStringLiteral("copy/lib/kelvo-mirror/window.so"));
+};
+
+TEST_F(WindowModuleSystemTest, PassWithoutAWindow_LoadsNothingOfADisplay) {
+    write(settingsFile(), plistText(plainProfile()));
+    write(path(QStringLiteral("Camera/a.mov")), "movie");
+    RunningProgram running(cProgram, {QStringLiteral("--headless")}, environment());
+    ASSERT_TRUE(running.waitForLine(QStringLiteral("result from shell command ="), 60))
+        << running.transcript().toStdString();
+    ASSERT_TRUE(running.waitForLine(QStringLiteral("result from shell command ="), 60));
+    EXPECT_TRUE(
+        contents(QStringLiteral("/proc/%1/maps").arg(running.processId())).contains("libQt6Core"));
+    EXPECT_EQ(mappedForADisplay(running.processId()), QStringList());
+    EXPECT_EQ(running.stop(), 0);
+}
+
+TEST_F(WindowModuleSystemTest, Window_IsLoadedWhereOneIsWanted) {
+    VirtualDisplay display;
+    const QString name = display.start();
+    if (name.isEmpty())
+        GTEST_SKIP() << "no Xvfb on this machine to open a window on";
+    QProcessEnvironment withDisplay = environment();
+    withDisplay.insert(QStringLiteral("DISPLAY"), name);
+    RunningProgram running(cProgram, {}, withDisplay);
+    ASSERT_TRUE(running.waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
+        << running.transcript().toStdString();
+    const QStringList mapped = mappedForADisplay(running.processId());
+    EXPECT_TRUE(mapped.contains(QStringLiteral("window.so"))) << mapped.join(u' ').toStdString();
+    EXPECT_EQ(mapped.filter(QStringLiteral("libQt6Network")), QStringList());
+    EXPECT_EQ(running.stop(), 0);
+}
+
+TEST_F(WindowModuleSystemTest, WindowThatIsNotInstalled_IsSaidWithItsPackageAndTheWayOut) {
+    QProcess process;
+    QProcessEnvironment elsewhere = environment();
+    elsewhere.insert(QStringLiteral("LD_LIBRARY_PATH"),
+                     QFileInfo(QStringLiteral(KELVO_WINDOW)).path());
+    process.setProcessEnvironment(elsewhere);
+    process.setWorkingDirectory(QFileInfo(QStringLiteral(KELVO_WINDOW)).path());
+    process.start(program, QStringList());
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 3);
+    EXPECT_EQ(process.readAllStandardError(),
+              "kelvo-mirror: the window is not installed; its package is kelvo-mirror-window. Run "
+              "'kelvo-mirror --headless' to work without one.\n");
+    EXPECT_FALSE(QFile::exists(settingsFile())) << "nothing was started";
+}
+
+TEST_F(WindowModuleSystemTest, WindowThatIsNotInstalled_IsMissedByTheWindowOnly) {
+    ASSERT_EQ(runToEnd(program, {QStringLiteral("--set"), QStringLiteral("prefPath1"),
+                                 QStringLiteral("/from")})
+                  .code,
+              0);
+    EXPECT_EQ(runToEnd(program, {QStringLiteral("--get"), QStringLiteral("prefPath1")}).output,
+              "/from\n");
+    EXPECT_EQ(runToEnd(program, {QStringLiteral("--version")}).code, 0);
+}
+
+TEST_F(WindowModuleSystemTest, FileThatIsNoWindow_IsSaid) {
+    write(module, "no library");
+    const auto [code, output, errors] = runWithoutArguments();
+    EXPECT_EQ(code, 3);
+    EXPECT_TRUE(errors.contains("the window cannot be loaded") && errors.contains("window.so") &&
+                errors.contains("--headless"))
+        << errors.constData();
+}
+
+TEST_F(WindowModuleSystemTest, WindowThatOthersCanWrite_IsNotLoaded) {
+    ASSERT_TRUE(QFile::copy(QStringLiteral(KELVO_WINDOW), module));
+    const QByteArray file = module.toLocal8Bit();
+    const QByteArray folder = QFileInfo(module).path().toLocal8Bit();
+    const auto ending = [this] {
+        const Ended ended = runWithoutArguments();
+        EXPECT_EQ(ended.code, 3);
+        return ended.errors;
+    };
+    ::chmod(program.toLocal8Bit().constData(), 0755);
+    for (const auto& [fileMode, folderMode] : {std::pair(0666, 0755), std::pair(0664, 0755),
+                                               std::pair(0644, 0777), std::pair(0644, 0775)}) {
+        ASSERT_EQ(::chmod(file.constData(), static_cast<mode_t>(fileMode)), 0);
+        ASSERT_EQ(::chmod(folder.constData(), static_cast<mode_t>(folderMode)), 0);
+        EXPECT_TRUE(ending().contains("other users can write it")) << fileMode << ' ' << folderMode;
+    }
+    ::chmod(file.constData(), 0644);
+    ::chmod(folder.constData(), 0755);
+    EXPECT_TRUE(ending().contains("no display")) << "it was loaded, and missed what it needs";
+}
+
+} // namespace
+} // namespace kelvo
