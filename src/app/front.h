@@ -3,6 +3,7 @@
 
 #include "ui/outlets.h"
 
+#include <functional>
 #include <memory>
 
 namespace kelvo {
@@ -10,6 +11,7 @@ namespace kelvo {
 class AppDelegate;
 class MainWindowController;
 class ViewController;
+struct WorkState;
 struct MachineParts;
 
 /// Main thread only. What it hands out lives as long as the front.
@@ -30,8 +32,10 @@ public:
     virtual void sendActionsTo(ViewController& controller, AppDelegate& delegate) = 0;
 };
 
-/// Everything is one line on standard output. `machine` outlives the front.
-std::unique_ptr<Front> makeHeadlessFront(MachineParts& machine);
+/// Everything is one line on standard output; `shown` receives each state of the work too.
+/// `machine` outlives the front.
+std::unique_ptr<Front> makeHeadlessFront(MachineParts& machine,
+                                         std::function<void(const WorkState&)> shown);
 
 /// The main window; needs a QApplication. `machine` outlives the front.
 std::unique_ptr<Front> makeWindowFront(MachineParts& machine);

@@ -14,10 +14,10 @@ namespace {
 
 class HeadlessFront final : public Front {
 public:
-    explicit HeadlessFront(MachineParts& machine)
+    HeadlessFront(MachineParts& machine, std::function<void(const WorkState&)> shown)
         : fStartButton([this](Control* sender) { fController->ibStartRSyncProcess(sender); }),
           fStatusField(std::make_shared<HeadlessStatusField>(machine.console)),
-          fAlerts(machine.console, machine.mainQueue), fView(machine.console),
+          fAlerts(machine.console, machine.mainQueue), fView(machine.console, std::move(shown)),
           fOpenPanel(machine.console), fTerminal(machine.console),
           fApplication([] { QCoreApplication::quit(); }) {}
 
@@ -63,8 +63,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<Front> makeHeadlessFront(MachineParts& machine) {
-    return std::make_unique<HeadlessFront>(machine);
+std::unique_ptr<Front> makeHeadlessFront(MachineParts& machine,
+                                         std::function<void(const WorkState&)> shown) {
+    return std::make_unique<HeadlessFront>(machine, std::move(shown));
 }
 
 } // namespace kelvo

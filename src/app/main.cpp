@@ -214,7 +214,9 @@ int main(int argc, char** argv) {
     }
     case kelvo::LaunchKind::Headless: {
         const QCoreApplication application(argc, argv);
-        return kelvo::runProgram(kelvo::FrontKind::Headless);
+        return kelvo::runProgram(kelvo::FrontKind::Headless, commandLine.noSentinel
+                                                                 ? kelvo::RestartBy::Starter
+                                                                 : kelvo::RestartBy::Sentinel);
     }
     case kelvo::LaunchKind::Window:
         break;

@@ -55,6 +55,7 @@ kelvo_tests(contract
     contract/signal_pipe_test.cpp
     contract/signals_contract_test.cpp
     contract/single_copy_contract_test.cpp
+    contract/service_manager_test.cpp
     contract/shell_words_contract_test.cpp
     contract/words_of_passes_test.cpp
     contract/sqlite_pass_faults_test.cpp

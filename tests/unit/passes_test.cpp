@@ -225,6 +225,8 @@ TEST(CommandLineTest, Help_NamesEveryOptionForPeople) {
                 "Options: "
                 "--headless Run without display, window or tray; status and alerts go to standard "
                 "output. "
+                "--no-sentinel With --headless: no sentinel watches over the program, because "
+                "whoever starts it (systemd) starts it again after a crash. "
                 "--once Run one pass with the stored settings, tell how it went and end with a "
                 "code that names the kind of trouble. "
                 "--passes Print the record of passes, newest last. "

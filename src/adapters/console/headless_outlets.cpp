@@ -27,6 +27,8 @@ void HeadlessView::showWork(const WorkState& work) {
         fConsole.print(u"progress: " + progress);
     if (work.health.text != std::exchange(fHealth, work.health.text))
         fConsole.print(u"health: " + work.health.text);
+    if (fShown)
+        fShown(work);
 }
 
 Subscription HeadlessView::observeAttention(std::function<void(Attention)> changed) {

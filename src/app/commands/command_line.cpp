@@ -71,8 +71,12 @@ CommandLine parseCommandLine(const QStringList& arguments) {
                                    QStringLiteral("KEY"));
     const QCommandLineOption settings(QStringLiteral("settings"),
                                       QStringLiteral("Print all settings as JSON."));
-    parser.addOptions({headless, once, passes, since, json, get, set, unset, settings, version,
-                       help, autorelaunched});
+    const QCommandLineOption noSentinel(
+        QStringLiteral("no-sentinel"),
+        QStringLiteral("With --headless: no sentinel watches over the program, because whoever "
+                       "starts it (systemd) starts it again after a crash."));
+    parser.addOptions({headless, noSentinel, once, passes, since, json, get, set, unset, settings});
+    parser.addOptions({version, help, autorelaunched});
 
     const auto refuse = [](const QString& reason) {
         return CommandLine{LaunchKind::Refuse, false,
@@ -108,6 +112,8 @@ CommandLine parseCommandLine(const QStringList& arguments) {
             return refuse(u'\'' + window.given.constFirst() + u"' is for the window, and --" +
                           each->names().constFirst() + u" opens none");
     }
+    if (parser.isSet(noSentinel) && !parser.isSet(headless))
+        return refuse(QStringLiteral("--no-sentinel goes with --headless"));
     if (parser.isSet(passes)) {
         if (parser.isSet(headless) || parser.isSet(once))
             return refuse(QStringLiteral("--passes goes with --json and --since only"));
@@ -136,6 +142,7 @@ CommandLine parseCommandLine(const QStringList& arguments) {
     CommandLine line{parser.isSet(headless) ? LaunchKind::Headless : LaunchKind::Window,
                      parser.isSet(autorelaunched),
                      {}};
+    line.noSentinel = parser.isSet(noSentinel);
     line.window = std::move(window);
     return line;
 }

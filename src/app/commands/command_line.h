@@ -17,6 +17,7 @@ struct CommandLine {
     bool autorelaunched = false; ///< started again by the sentinel, not by a person
     QString message;             ///< what to print for PrintVersion, PrintHelp and Refuse
     bool json = false;           ///< for Once
+    bool noSentinel = false;     ///< for Headless: whoever starts the program restarts it
     PassesRequest passes{};      ///< for Passes
     SettingsRequest settings{};  ///< for Settings
     WindowOptions window{};      ///< for Window
