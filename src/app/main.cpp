@@ -4,6 +4,7 @@
 #include "app/commands/once.h"
 #include "app/commands/passes.h"
 #include "app/commands/settings_commands.h"
+#include "app/commands/setup.h"
 #include "app/language.h"
 #include "app/program.h"
 
@@ -211,6 +212,10 @@ int main(int argc, char** argv) {
     case kelvo::LaunchKind::Settings: {
         const QCoreApplication application(argc, argv);
         return printAnswer(kelvo::runSettingsCommand(commandLine.settings));
+    }
+    case kelvo::LaunchKind::Setup: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runSetup(commandLine.setup));
     }
     case kelvo::LaunchKind::Headless: {
         const QCoreApplication application(argc, argv);

@@ -65,6 +65,7 @@ kelvo_tests(contract
     contract/stream_console_test.cpp
     contract/system_information_test.cpp
     contract/terminal_contract_test.cpp
+    contract/terminal_dialogue_test.cpp
     contract/terminal_line_test.cpp
     contract/terminal_window_test.cpp
     contract/thread_pool_queue_test.cpp

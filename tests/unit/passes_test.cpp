@@ -237,6 +237,18 @@ TEST(CommandLineTest, Help_NamesEveryOptionForPeople) {
                 "--set <KEY> <VALUE> Change a setting. "
                 "--unset <KEY> Give a setting its factory value back. "
                 "--settings Print all settings as JSON. "
+                "--setup Set the Mac up from a terminal: asks what the window asks, installs the "
+                "key and tests the connection. The options that follow answer its questions. "
+                "--mac <HOST> With --setup: the Mac's host name or address. "
+                "--account <NAME> With --setup: the account on the Mac. "
+                "--folder <PATH> With --setup: the folder with the movies on the Mac. "
+                "--destination <PATH> With --setup: the folder here that the movies come into. "
+                "--make-destination With --setup: make that folder if it is missing. "
+                "--new-key With --setup: make a new key; that of today is kept. "
+                "--enable With --setup: enable the service (systemd user unit). "
+                "--no-enable With --setup: leave the service as it is. "
+                "--linger With --setup: run the service also while you are not logged in. "
+                "--no-linger With --setup: leave that as it is. "
                 "-V, --version Print the version and end. "
                 "-h, --help Print this help and end."))
             << line.message.toStdString();

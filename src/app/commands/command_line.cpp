@@ -1,5 +1,6 @@
 #include "app/commands/command_line.h"
 
+#include "app/commands/setup_options.h"
 #include "app/version.h"
 
 #include <QCommandLineParser>
@@ -76,6 +77,7 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         QStringLiteral("With --headless: no sentinel watches over the program, because whoever "
                        "starts it (systemd) starts it again after a crash."));
     parser.addOptions({headless, noSentinel, once, passes, since, json, get, set, unset, settings});
+    parser.addOptions(setupOptions());
     parser.addOptions({version, help, autorelaunched});
 
     const auto refuse = [](const QString& reason) {
@@ -111,6 +113,22 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         if (!window.given.isEmpty() && parser.isSet(*each))
             return refuse(u'\'' + window.given.constFirst() + u"' is for the window, and --" +
                           each->names().constFirst() + u" opens none");
+    }
+    const auto setup = setupRequest(parser);
+    if (const auto* problem = std::get_if<QString>(&setup))
+        return refuse(*problem);
+    if (const auto* wanted = std::get_if<SetupRequest>(&setup)) {
+        for (const QCommandLineOption* each : {&headless, &noSentinel, &once, &passes, &json}) {
+            if (parser.isSet(*each))
+                return refuse(u"--setup and --" + each->names().constFirst() +
+                              u" do not go together");
+        }
+        if (!window.given.isEmpty())
+            return refuse(u'\'' + window.given.constFirst() +
+                          u"' is for the window, and --setup opens none");
+        CommandLine line{LaunchKind::Setup, false, {}};
+        line.setup = *wanted;
+        return line;
     }
     if (parser.isSet(noSentinel) && !parser.isSet(headless))
         return refuse(QStringLiteral("--no-sentinel goes with --headless"));
