@@ -14,6 +14,7 @@ class AppDelegate;
 class DispatchQueue;
 class MainWindowController;
 class ViewController;
+struct WorkState;
 struct MachineParts;
 
 /// Main thread only. What it hands out lives as long as the front.
@@ -45,8 +46,10 @@ struct StatusMenuParts {
 struct FrontKind {
     /// `mainQueue` has ended before the menu goes.
     StatusMenuParts (*makeStatusMenu)(DispatchQueue& mainQueue);
-    /// `machine` outlives the front.
-    std::unique_ptr<Front> (*makeFront)(MachineParts& machine);
+    /// `machine` outlives the front. A front without a window hands each state of the work on to
+    /// `shown` too.
+    std::unique_ptr<Front> (*makeFront)(MachineParts& machine,
+                                        std::function<void(const WorkState&)> shown);
 };
 
 /// Everything is one line on standard output.

@@ -14,10 +14,10 @@ namespace {
 
 class HeadlessFront final : public Front {
 public:
-    explicit HeadlessFront(MachineParts& machine)
+    HeadlessFront(MachineParts& machine, std::function<void(const WorkState&)> shown)
         : fStartButton([this](Control* sender) { fController->ibStartRSyncProcess(sender); }),
           fStatusField(std::make_shared<HeadlessStatusField>(machine.console)),
-          fAlerts(machine.console, machine.mainQueue), fView(machine.console),
+          fAlerts(machine.console, machine.mainQueue), fView(machine.console, std::move(shown)),
           fOpenPanel(machine.console), fTerminal(machine.console),
           fApplication([] { QCoreApplication::quit(); }) {}
 
@@ -68,8 +68,9 @@ FrontKind headlessFront() {
         .makeStatusMenu = [](DispatchQueue&) -> StatusMenuParts {
             return {.menu = std::make_shared<HeadlessStatusMenu>()};
         },
-        .makeFront = [](MachineParts& machine) -> std::unique_ptr<Front> {
-            return std::make_unique<HeadlessFront>(machine);
+        .makeFront = [](MachineParts& machine,
+                        std::function<void(const WorkState&)> shown) -> std::unique_ptr<Front> {
+            return std::make_unique<HeadlessFront>(machine, std::move(shown));
         },
     };
 }

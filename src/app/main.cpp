@@ -3,6 +3,7 @@
 #include "app/commands/once.h"
 #include "app/commands/passes.h"
 #include "app/commands/settings_commands.h"
+#include "app/commands/setup.h"
 #include "app/program.h"
 #include "app/reason.h"
 #include "app/window_module.h"
@@ -124,9 +125,15 @@ int main(int argc, char** argv) {
         const QCoreApplication application(argc, argv);
         return printAnswer(kelvo::runSettingsCommand(commandLine.settings));
     }
+    case kelvo::LaunchKind::Setup: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runSetup(commandLine.setup));
+    }
     case kelvo::LaunchKind::Headless: {
         const QCoreApplication application(argc, argv);
-        return kelvo::runProgram(kelvo::headlessFront());
+        return kelvo::runProgram(kelvo::headlessFront(), commandLine.noSentinel
+                                                             ? kelvo::RestartBy::Starter
+                                                             : kelvo::RestartBy::Sentinel);
     }
     case kelvo::LaunchKind::Window:
         break;

@@ -1,11 +1,13 @@
 #include "app/program.h"
 
 #include "adapters/desktop/activation_token.h"
+#include "adapters/process/service_manager.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
 #include "app/start/app_delegate.h"
 #include "app/start/duplicate_check.h"
 #include "app/start/interface_registry.h"
+#include "app/start/service_report.h"
 #include "app/start/watchdog.h"
 #include "app/version.h"
 #include "ports/application.h"
@@ -34,9 +36,10 @@ constexpr auto cLastLines = 200ms;
 /// The program's own parts, on top of those of the machine.
 class Program {
 public:
-    explicit Program(const FrontKind& kind)
-        : fKind(kind), fParts(kind), fStatusMenu(fParts.statusMenu(), fParts.defaults,
-                                                 fParts.mainQueue, [this] { front().quit(); }),
+    Program(const FrontKind& kind, RestartBy restartBy, const ServiceManager& manager)
+        : fKind(kind), fRestartBy(restartBy), fParts(kind),
+          fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
+                      [this] { front().quit(); }),
           fDuplicates(fParts.singleCopy, fParts.console, activationToken(),
                       [this](const QByteArray& token) { show(token); }),
           fWatchdog(Watchdog::begin({.signals = fParts.signals,
@@ -51,6 +54,14 @@ public:
                                      .now = [] { return QDateTime::currentDateTimeUtc(); },
                                      .terminate = [this] { terminate(); },
                                      .leaveAtOnce = [this](int status) { leaveAtOnce(status); }})) {
+        if (manager.isThere())
+            fReport.emplace(ServiceReport::Parts{
+                .mainQueue = fParts.mainQueue,
+                .passes = fParts.passes,
+                .now = [] { return QDateTime::currentDateTimeUtc(); },
+                .tell = [&manager](QByteArrayView state) { manager.tell(state); },
+                .watchdogSeconds = manager.watchdogSeconds(),
+            });
         for (const int signal : {SIGTERM, SIGINT})
             fQuitSignals.push_back(fParts.signals.catchSignal(signal, [this] {
                 if (!Watchdog::catchesCrashSignals())
@@ -74,7 +85,10 @@ public:
             .logger = fParts.logFile,
             .defaults = fParts.defaults,
             .mainBundle = fParts.bundle,
-            .autoRelaunchUnless = Watchdog::autoRelaunchUnless,
+            .autoRelaunchUnless =
+                [this](unsigned long count, double seconds, const RelaunchEscape& escape) {
+                    keepRunning(count, seconds, escape);
+                },
             .storyboard = fStoryboard,
             .logCurrentSystemInfo = [this] { fParts.systemInformation.logCurrentSystemInfo(); },
             .checkForDuplicateRunningInstances =
@@ -85,19 +99,29 @@ public:
                 },
             .runningApplication = runningApplication(),
         });
-        if (const auto exitCode = fDuplicates.exitCode())
+        if (const auto exitCode = fDuplicates.exitCode()) {
+            reportDuplicate();
             return *exitCode;
+        }
         fDelegate->applicationWillFinishLaunching();
         offerActivationToken({});
+        if (fReport)
+            fReport->ready();
         const int exitCode = QCoreApplication::exec();
+        if (fReport)
+            fReport->stopping();
         fParts.notificationCenter.post(cWillTerminateNotification.toString());
         return exitCode;
     }
 
 private:
     Front& front() {
-        if (!fFront)
-            fFront = fKind.makeFront(fParts);
+        if (!fFront) {
+            fFront = fKind.makeFront(fParts, [this](const WorkState& work) {
+                if (fReport)
+                    fReport->show(work);
+            });
+        }
         return *fFront;
     }
 
@@ -121,6 +145,23 @@ private:
         });
         front().sendActionsTo(*controller, *fDelegate);
         return controller;
+    }
+
+    /// With both, a crash would be answered twice.
+    void keepRunning(unsigned long count, double seconds, const RelaunchEscape& escape) {
+        if (fRestartBy == RestartBy::Sentinel)
+            Watchdog::autoRelaunchUnless(count, seconds, escape);
+        else
+            fParts.console.log(QStringLiteral(
+                "started without a sentinel: whoever has started the program restarts it"));
+    }
+
+    /// For the manager this start has gone well: there is nothing to be restarted.
+    void reportDuplicate() {
+        if (!fReport)
+            return;
+        fReport->ready();
+        fReport->stopping(QStringLiteral("Kelvo Mirror is running already"));
     }
 
     void show(const QByteArray& token) {
@@ -158,7 +199,9 @@ private:
     }
 
     const FrontKind fKind;
+    const RestartBy fRestartBy;
     MachineParts fParts;
+    std::optional<ServiceReport> fReport;
     PassNotices fNotices{fParts.passes, fParts.defaults, fParts.notices,
                          [this](std::optional<qint64> pass) { showActivity(pass); }};
     StatusMenuPresence fStatusMenu;
@@ -172,8 +215,9 @@ private:
 
 } // namespace
 
-int runProgram(const FrontKind& kind) {
-    return Program(kind).run();
+int runProgram(const FrontKind& kind, RestartBy restartBy) {
+    const ServiceManager manager;
+    return Program(kind, restartBy, manager).run();
 }
 
 } // namespace kelvo

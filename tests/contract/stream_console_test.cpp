@@ -13,6 +13,7 @@
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -67,6 +68,29 @@ protected:
     UniqueFd fWrite;
     UniqueFd fNull{::open("/dev/null", O_WRONLY | O_CLOEXEC)};
 };
+
+TEST_F(StreamConsoleTest, Journal_GetsEachLineWithItsPriorityAndNoForgedOnes) {
+    struct stat status {};
+    ASSERT_EQ(::fstat(fWrite.get(), &status), 0);
+    qputenv("JOURNAL_STREAM", QByteArray::number(quint64{status.st_dev}) + ':' +
+                                  QByteArray::number(quint64{status.st_ino}));
+    auto journal = console();
+    journal->print(QStringList{QStringLiteral("<0>captured\n<0>next"), QStringLiteral("\n<0>"),
+                               QString(QChar(u'\0')) + u"<0>cut"});
+    journal->print(QStringLiteral("status red: away"));
+    qunsetenv("JOURNAL_STREAM");
+    EXPECT_EQ(readToEnd(journal), "<6><0>captured\n<6><0>next\n<6><0>\n<6><0>cut\n"
+                                  "<3>status red: away\n");
+    EXPECT_FALSE(fFile.lines(cPath).join(QString()).contains(u"<6>")) << "the file is no journal";
+}
+
+TEST_F(StreamConsoleTest, OtherStreams_HaveNoPriorities) {
+    qputenv("JOURNAL_STREAM", "1:1");
+    auto plain = console();
+    plain->print(QStringLiteral("status red: away"));
+    qunsetenv("JOURNAL_STREAM");
+    EXPECT_EQ(readToEnd(plain), "status red: away\n");
+}
 
 TEST_F(StreamConsoleTest, BothStreamsInOnePlace_LinesStandWholeAndInOrder) {
     constexpr int lines = 2000;

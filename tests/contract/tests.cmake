@@ -56,6 +56,7 @@ kelvo_tests(contract
     contract/signal_pipe_test.cpp
     contract/signals_contract_test.cpp
     contract/single_copy_contract_test.cpp
+    contract/service_manager_test.cpp
     contract/shell_words_contract_test.cpp
     contract/words_of_passes_test.cpp
     contract/sqlite_pass_faults_test.cpp
@@ -65,6 +66,7 @@ kelvo_tests(contract
     contract/stream_console_test.cpp
     contract/system_information_test.cpp
     contract/terminal_contract_test.cpp
+    contract/terminal_dialogue_test.cpp
     contract/terminal_line_test.cpp
     contract/terminal_window_test.cpp
     contract/thread_pool_queue_test.cpp

@@ -27,6 +27,7 @@ kelvo_tests(lab
     lab/lab_network.cpp
     lab/network_lab_test.cpp
     lab/set_up_lab_test.cpp
+    lab/set_up_terminal_lab_test.cpp
     lab/share_lab_test.cpp
     lab/sync_lab_test.cpp
     lab/watchdog_lab_test.cpp

@@ -16,6 +16,8 @@ kelvo_tests(system
     system/private_files_system_test.cpp
     system/program_signal_test.cpp
     system/once_system_test.cpp
+    system/service_system_test.cpp
+    system/setup_system_test.cpp
     system/program_test.cpp
     system/tray_menu_system_test.cpp
     system/tray_system_test.cpp

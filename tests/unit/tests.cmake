@@ -45,6 +45,10 @@ kelvo_tests(unit
     unit/rsync_command_test.cpp
     unit/rsync_output_reader_test.cpp
     unit/service_name_rules_test.cpp
+    unit/service_report_test.cpp
+    unit/setup_deeds_test.cpp
+    unit/setup_options_test.cpp
+    unit/setup_questions_test.cpp
     unit/setup_steps_test.cpp
     unit/share_commands_test.cpp
     unit/shell_words_test.cpp

@@ -6,6 +6,7 @@
 #include "ports/open_panel.h"
 #include "ports/status_menu.h"
 #include "ports/terminal.h"
+#include "ports/workspace.h"
 
 #include <functional>
 #include <utility>
@@ -13,6 +14,15 @@
 namespace kelvo {
 
 class Console;
+
+/// Nothing can be opened, and nobody is told.
+class HeadlessWorkspace final : public Workspace {
+public:
+    void openUrl(const QString&) override {}
+    void openFile(const QString&) override {}
+    void revealInFinder(const QString&) override {}
+    void activateFileViewerSelecting(const QStringList&) override {}
+};
 
 class HeadlessApplication final : public Application {
 public:

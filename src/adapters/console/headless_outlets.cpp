@@ -1,5 +1,6 @@
 #include "adapters/console/headless_outlets.h"
 
+#include "adapters/console/line_priority.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "support/text.h"
@@ -26,6 +27,8 @@ void HeadlessView::showWork(const WorkState& work) {
         fConsole.print(u"progress: " + progress);
     if (work.health.text != std::exchange(fHealth, work.health.text))
         fConsole.print(u"health: " + work.health.text);
+    if (fShown)
+        fShown(work);
 }
 
 Subscription HeadlessView::observeAttention(std::function<void(Attention)> changed) {
@@ -44,11 +47,12 @@ void HeadlessButton::performClick() {
 }
 
 void HeadlessStatusField::setAttributedStringValue(const AttributedString& value) {
-    fConsole.print(u"status " + colorName(value.foregroundColor) + u": " + onOneLine(value.string));
+    fConsole.print(cStatusLine + colorName(value.foregroundColor) + u": " +
+                   onOneLine(value.string));
 }
 
 void HeadlessStatusField::clear() {
-    fConsole.print(u"status " + colorName(StatusColor::Black) + u": ");
+    fConsole.print(cStatusLine + colorName(StatusColor::Black) + u": ");
 }
 
 SheetId HeadlessAlerts::beginSheet(const Alert& alert, std::function<void(ModalResponse)> handler) {
@@ -70,7 +74,7 @@ ModalResponse HeadlessAlerts::runModal(const Alert& alert) {
 }
 
 void HeadlessAlerts::printAlert(const Alert& alert) {
-    fConsole.print(u"alert: " + onOneLine(alert.messageText) + u" | " +
+    fConsole.print(cAlertLine + onOneLine(alert.messageText) + u" | " +
                    onOneLine(alert.informativeText));
 }
 

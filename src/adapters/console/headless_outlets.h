@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <map>
+#include <utility>
 
 namespace kelvo {
 
@@ -20,7 +21,9 @@ class DispatchQueue;
 /// as "health: <text>" whenever they read otherwise than before.
 class HeadlessView final : public MainView {
 public:
-    explicit HeadlessView(Console& console) : fConsole(console) {}
+    /// `shown`, which may be empty, receives each state of the work too.
+    explicit HeadlessView(Console& console, std::function<void(const WorkState&)> shown = {})
+        : fConsole(console), fShown(std::move(shown)) {}
 
     bool hasWindow() const override { return false; }
     void makeNothingFirstResponder() override {}
@@ -40,6 +43,7 @@ public:
 
 private:
     Console& fConsole;
+    const std::function<void(const WorkState&)> fShown;
     QString fProgress;
     QString fHealth;
 };
@@ -71,8 +75,8 @@ private:
     Console& fConsole;
 };
 
-/// Prints "alert: <title> | <text>". An alert that answers itself waits for its maker; any other
-/// is answered with its first button.
+/// Prints "alert: <title> | <text>". An alert that answers itself waits for its
+/// maker; any other is answered with its first button.
 class HeadlessAlerts final : public AlertPresenter {
 public:
     HeadlessAlerts(Console& console, DispatchQueue& mainQueue)

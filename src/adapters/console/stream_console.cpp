@@ -1,5 +1,6 @@
 #include "adapters/console/stream_console.h"
 
+#include "adapters/console/line_priority.h"
 #include "adapters/console/line_stream.h"
 #include "ports/log_file.h"
 
@@ -28,6 +29,8 @@ constexpr auto cStuck = 1s;
 /// With what commands take to end, less than 5 s.
 constexpr auto cLongestEnd = 2s;
 constexpr int cLongestBlind = 200; // milliseconds
+constexpr QStringView cError = u"<3>";
+constexpr QStringView cInformation = u"<6>";
 
 QString logPrefix() {
     return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")) +
@@ -40,6 +43,24 @@ bool leadToOneFile(int output, int errors) {
     struct stat second {};
     return ::fstat(output, &first) == 0 && ::fstat(errors, &second) == 0 &&
            first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
+/// As systemd names the stream that it has given the program.
+bool leadsToJournal(int fd) {
+    struct stat status {};
+    const QByteArray stream = qgetenv("JOURNAL_STREAM");
+    return !stream.isEmpty() && ::fstat(fd, &status) == 0 &&
+           stream == QByteArray::number(quint64{status.st_dev}) + ':' +
+                         QByteArray::number(quint64{status.st_ino});
+}
+
+/// `pieces` with `priority` at the start of each line, as the journal cuts them: it reads "<N>"
+/// there.
+QStringList withPriority(QStringView priority, QStringList pieces) {
+    for (QString& piece : pieces)
+        piece.replace(QChar(u'\0'), u'\n').replace(u'\n', u'\n' + priority);
+    pieces.prepend(priority.toString());
+    return pieces;
 }
 
 /// Signals are for the other threads; a write to nobody gives an error instead of one.
@@ -141,6 +162,7 @@ private:
 
 StreamConsole::StreamConsole(int output, int errors, LogFile& logFile)
     : fLogFile(logFile), fOneStream(leadToOneFile(output, errors)),
+      fOutputIsJournal(leadsToJournal(output)), fErrorsAreJournal(leadsToJournal(errors)),
       fWakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
       fThread([this, output, errors] { Writer(*this, output, errors).run(); }) {
     ::pthread_setname_np(fThread.native_handle(), "kelvo-console");
@@ -156,16 +178,21 @@ StreamConsole::~StreamConsole() {
 }
 
 void StreamConsole::print(const QStringList& pieces) {
+    const bool trouble = !pieces.isEmpty() && tellsOfTrouble(pieces.constFirst());
+    const QStringList line =
+        fOutputIsJournal ? withPriority(trouble ? cError : cInformation, pieces) : pieces;
     const std::lock_guard lock(fMutex);
-    fOutput.add(pieces);
+    fOutput.add(line);
     fFileLines.add(pieces);
     wake();
 }
 
 void StreamConsole::log(const QString& text) {
-    const QString prefix = logPrefix();
+    QStringList line{logPrefix(), text};
+    if (fOneStream ? fOutputIsJournal : fErrorsAreJournal)
+        line = withPriority(cInformation, std::move(line));
     const std::lock_guard lock(fMutex);
-    (fOneStream ? fOutput : fErrors).add({prefix, text});
+    (fOneStream ? fOutput : fErrors).add(line);
     fFileLines.add({text});
     wake();
 }

@@ -20,7 +20,9 @@ class LogFile;
 /// Where both descriptors lead to one place, the lines stand there whole and in order.
 /// Behind a reader that is stuck at most 16 MiB of text and one line wait for each stream; what
 /// comes then is left out there, and "N lines left out" stands in its place. On a terminal control
-/// characters are spelled out ("\x1b").
+/// characters are spelled out ("\x1b"). A stream that leads to systemd's journal ($JOURNAL_STREAM)
+/// has each line, those inside a text too, begin with its priority: "<3>" for trouble, else "<6>";
+/// so nothing that is captured can give itself another one.
 class StreamConsole final : public Console {
 public:
     /// The descriptors stay open as long as the console; -1 for a stream that does not exist.
@@ -41,6 +43,8 @@ private:
 
     LogFile& fLogFile;
     const bool fOneStream;
+    const bool fOutputIsJournal;
+    const bool fErrorsAreJournal;
     const UniqueFd fWakeUp;
     std::mutex fMutex;
     std::condition_variable fWritten;

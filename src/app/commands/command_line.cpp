@@ -1,5 +1,6 @@
 #include "app/commands/command_line.h"
 
+#include "app/commands/setup_options.h"
 #include "app/version.h"
 
 #include <QCommandLineParser>
@@ -71,8 +72,13 @@ CommandLine parseCommandLine(const QStringList& arguments) {
                                    QStringLiteral("KEY"));
     const QCommandLineOption settings(QStringLiteral("settings"),
                                       QStringLiteral("Print all settings as JSON."));
-    parser.addOptions({headless, once, passes, since, json, get, set, unset, settings, version,
-                       help, autorelaunched});
+    const QCommandLineOption noSentinel(
+        QStringLiteral("no-sentinel"),
+        QStringLiteral("With --headless: no sentinel watches over the program, because whoever "
+                       "starts it (systemd) starts it again after a crash."));
+    parser.addOptions({headless, noSentinel, once, passes, since, json, get, set, unset, settings});
+    parser.addOptions(setupOptions());
+    parser.addOptions({version, help, autorelaunched});
 
     const auto refuse = [](const QString& reason) {
         return CommandLine{LaunchKind::Refuse, false,
@@ -108,6 +114,24 @@ CommandLine parseCommandLine(const QStringList& arguments) {
             return refuse(u'\'' + window.given.constFirst() + u"' is for the window, and --" +
                           each->names().constFirst() + u" opens none");
     }
+    const auto setup = setupRequest(parser);
+    if (const auto* problem = std::get_if<QString>(&setup))
+        return refuse(*problem);
+    if (const auto* wanted = std::get_if<SetupRequest>(&setup)) {
+        for (const QCommandLineOption* each : {&headless, &noSentinel, &once, &passes, &json}) {
+            if (parser.isSet(*each))
+                return refuse(u"--setup and --" + each->names().constFirst() +
+                              u" do not go together");
+        }
+        if (!window.given.isEmpty())
+            return refuse(u'\'' + window.given.constFirst() +
+                          u"' is for the window, and --setup opens none");
+        CommandLine line{LaunchKind::Setup, false, {}};
+        line.setup = *wanted;
+        return line;
+    }
+    if (parser.isSet(noSentinel) && !parser.isSet(headless))
+        return refuse(QStringLiteral("--no-sentinel goes with --headless"));
     if (parser.isSet(passes)) {
         if (parser.isSet(headless) || parser.isSet(once))
             return refuse(QStringLiteral("--passes goes with --json and --since only"));
@@ -136,6 +160,7 @@ CommandLine parseCommandLine(const QStringList& arguments) {
     CommandLine line{parser.isSet(headless) ? LaunchKind::Headless : LaunchKind::Window,
                      parser.isSet(autorelaunched),
                      {}};
+    line.noSentinel = parser.isSet(noSentinel);
     line.window = std::move(window);
     return line;
 }

@@ -310,9 +310,8 @@ StatusMenuParts makeTray(DispatchQueue& mainQueue) {
 FrontKind windowFront() {
     return {
         .makeStatusMenu = makeTray,
-        .makeFront = [](MachineParts& machine) -> std::unique_ptr<Front> {
-            return std::make_unique<WindowFront>(machine);
-        },
+        .makeFront = [](MachineParts& machine, std::function<void(const WorkState&)>)
+            -> std::unique_ptr<Front> { return std::make_unique<WindowFront>(machine); },
     };
 }
 

@@ -1,0 +1,171 @@
+#include "app/commands/setup_deeds.h"
+
+#include "app/commands/once.h"
+#include "ports/dialogue.h"
+#include "ports/user_defaults.h"
+#include "settings/preference_keys.h"
+#include "settings/remote_account.h"
+#include "support/plain_line.h"
+#include "ui/pass_words.h"
+#include "ui/setup_steps.h"
+
+#include <utility>
+
+namespace kelvo {
+namespace {
+
+/// As the window words it.
+QString verdictOn(const HostAnswer& answer) {
+    const SetupSteps steps = setupSteps({.connection = {.answer = answer}});
+    return steps[static_cast<std::size_t>(SetupStep::Connection)].summary;
+}
+
+/// Whether a key that is installed now could change the Mac's mind.
+bool isMendedByAKey(PassCause cause) {
+    return cause == PassCause::KeyMissing || cause == PassCause::KeyRefused ||
+           cause == PassCause::HostKeyUnknown;
+}
+
+} // namespace
+
+void SetupDeeds::begin(const SetupAnswers& answers, Done done) {
+    fAnswers = answers;
+    fDone = std::move(done);
+    fParts.dialogue.say(QStringLiteral("Asking %1 …").arg(accountText()));
+    fParts.key.test([this](const auto& answer) { firstAnswer(answer); });
+}
+
+void SetupDeeds::firstAnswer(const std::optional<HostAnswer>& answer) {
+    if (fInterrupted || !answer)
+        giveUp();
+    else if (answer->cause == PassCause::Well && !fAnswers.newKey)
+        letIn();
+    else if (!isMendedByAKey(answer->cause) && answer->cause != PassCause::Well)
+        notLetIn(*answer);
+    else if (fParts.dialogue.canAnswer())
+        install();
+    else
+        end(exitCodeFor(wordsFor(answer->cause).group),
+            QStringLiteral("%1 The key of this program is installed there with the password of the "
+                           "account, which is asked in a terminal, and there is none. %2")
+                .arg(verdictOn(*answer), cNothingChanged));
+}
+
+void SetupDeeds::install() {
+    fParts.dialogue.say(
+        QStringLiteral("The key of this program is installed on the Mac now. ssh asks for the "
+                       "password of %1; it is kept nowhere. When the two machines meet for the "
+                       "first time it asks before that whether to go on connecting: answer yes.")
+            .arg(accountText()));
+    fParts.key.install(fAnswers.newKey, [this](const QString& why) {
+        if (fInterrupted)
+            giveUp();
+        else if (!why.isEmpty())
+            end(exitCodeFor(CauseGroup::Login),
+                QStringLiteral("the key was not installed: %1. %2").arg(why, cNothingChanged));
+        else
+            fParts.key.test([this](const auto& answer) { secondAnswer(answer); });
+    });
+}
+
+void SetupDeeds::secondAnswer(const std::optional<HostAnswer>& answer) {
+    if (fInterrupted || !answer)
+        giveUp();
+    else if (answer->cause == PassCause::Well)
+        letIn();
+    else
+        notLetIn(*answer);
+}
+
+void SetupDeeds::notLetIn(const HostAnswer& answer) {
+    const int exitCode = exitCodeFor(wordsFor(answer.cause).group);
+    const QString verdict = verdictOn(answer);
+    if (!fParts.dialogue.canAnswer()) {
+        end(exitCode, QStringLiteral("%1 %2").arg(verdict, cNothingChanged));
+        return;
+    }
+    fParts.dialogue.say(verdict);
+    fParts.dialogue.ask(
+        QStringLiteral("Store the settings all the same? The service is not enabled then. [y/N] "),
+        [this, exitCode](const std::optional<QString>& typed) {
+            const QString word = typed.value_or(QString()).trimmed().toLower();
+            if (!typed) {
+                giveUp();
+            } else if (word != u"y" && word != u"yes") {
+                end(exitCode, cNothingChanged);
+            } else if (storeAll(false)) {
+                fParts.dialogue.say(QStringLiteral("The settings are stored. Once the Mac can be "
+                                                   "reached: kelvo-mirror --setup"));
+                end(exitCode);
+            }
+        });
+}
+
+void SetupDeeds::letIn() {
+    fParts.dialogue.say(verdictOn({.target = {}, .cause = PassCause::Well}));
+    if (const QString kept = fParts.key.keptPath(); !kept.isEmpty())
+        fParts.dialogue.say(QStringLiteral("The key of before is kept at %1").arg(kept));
+    if (!storeAll(fAnswers.enable))
+        return;
+    fParts.dialogue.say(QStringLiteral("The settings are stored."));
+    if (!fAnswers.enable) {
+        tellNext();
+        end(0);
+        return;
+    }
+    fParts.service.enable(fAnswers.linger, [this](bool well, const QString& text) {
+        fParts.dialogue.say(text);
+        tellNext();
+        end(well ? 0 : 1);
+    });
+}
+
+/// Ends the set-up where it fails.
+bool SetupDeeds::storeAll(bool startByItself) {
+    if (fAnswers.makeDestination) {
+        if (const FileFault fault = fParts.makeFolder(fAnswers.destination)) {
+            end(exitCodeFor(CauseGroup::ThisSide),
+                QStringLiteral("the folder could not be made: %1. %2")
+                    .arg(oneLine(*fault), cNothingChanged));
+            return false;
+        }
+    }
+    if (const QString why = fParts.store(startByItself); !why.isEmpty()) {
+        end(cExitNotStored, QStringLiteral("the settings could not be stored: %1").arg(why));
+        return false;
+    }
+    fStored = true;
+    return true;
+}
+
+void SetupDeeds::tellNext() const {
+    if (fAnswers.enable)
+        fParts.dialogue.say(
+            QStringLiteral("What comes next:\n"
+                           "  systemctl --user status kelvo-mirror    how it is\n"
+                           "  journalctl --user -u kelvo-mirror -f    what it does\n"
+                           "  kelvo-mirror --passes                   what it has done"));
+    else
+        fParts.dialogue.say(QStringLiteral("What comes next:\n"
+                                           "  kelvo-mirror --once        one pass now\n"
+                                           "  kelvo-mirror --headless    pass after pass, once "
+                                           "prefAutoStartScanOnLaunch is set to true"));
+}
+
+void SetupDeeds::giveUp() {
+    end(exitCodeFor(CauseGroup::Interrupted),
+        QStringLiteral("the set-up was ended. %1").arg(cNothingChanged));
+}
+
+void SetupDeeds::end(int exitCode, const QString& errors) {
+    std::exchange(fDone, nullptr)(
+        {exitCode, {}, errors.isEmpty() ? QString() : QString(u"kelvo-mirror: " + errors + u'\n')});
+}
+
+QString SetupDeeds::accountText() const {
+    const auto account = remoteAccount(fParts.settings);
+    return account ? QStringLiteral("%1 on %2").arg(oneLine(account->user), oneLine(account->host))
+                   : QString();
+}
+
+} // namespace kelvo

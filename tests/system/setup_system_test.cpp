@@ -1,0 +1,104 @@
+// The set-up from a terminal with the built program, where there is no Mac.
+#include "support/program_profile.h"
+#include "support/pty_program.h"
+
+#include <QDirIterator>
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+const QString cProgram = QStringLiteral(KELVO_PROGRAM);
+
+class SetupSystemTest : public ::testing::Test, public ProgramProfile {
+protected:
+    /// Reading the settings leaves a lock beside them, as any command does.
+    SetupSystemTest() {
+        QDir().mkpath(incoming());
+        (void)runToEnd(cProgram, {QStringLiteral("--settings")});
+    }
+
+    QString incoming() const { return path(QStringLiteral("Incoming")); }
+    /// Of a machine without systemd and without discovery.
+    QProcessEnvironment alone() const {
+        QProcessEnvironment own = environment();
+        own.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"),
+                   QString(u"unix:path=" + path(QStringLiteral("no-bus"))));
+        return own;
+    }
+    /// Nothing that stays is another than before.
+    QStringList everything() const {
+        QStringList names;
+        QDirIterator files(folder.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext())
+            names.append(files.next());
+        names.sort();
+        return names;
+    }
+};
+
+TEST_F(SetupSystemTest, WithoutATerminal_MissingAnswersAreNamed) {
+    const QStringList before = everything();
+    const Ended ended = runToEnd(cProgram, {QStringLiteral("--setup")});
+    EXPECT_EQ(ended.code, 2);
+    EXPECT_TRUE(ended.errors.contains("--mac, --account, --destination"))
+        << ended.errors.constData();
+    EXPECT_EQ(everything(), before);
+}
+
+TEST_F(SetupSystemTest, MacThatIsNotThere_IsNamedAndNothingIsStored) {
+    const QStringList before = everything();
+    const Ended ended = runToEnd(cProgram, {QStringLiteral("--setup"), QStringLiteral("--mac"),
+                                            QStringLiteral("no-such-mac.invalid"),
+                                            QStringLiteral("--account"), QStringLiteral("somebody"),
+                                            QStringLiteral("--destination"), incoming()});
+    EXPECT_EQ(ended.code, 10) << ended.errors.constData();
+    EXPECT_TRUE(ended.errors.endsWith("Nothing was changed.\n")) << ended.errors.constData();
+    EXPECT_EQ(everything(), before);
+}
+
+TEST_F(SetupSystemTest, CtrlC_LeavesEverythingAsItWas) {
+    const QStringList before = everything();
+    PtyProgram program({cProgram, QStringLiteral("--setup"), QStringLiteral("--mac"),
+                        QStringLiteral("no-such-mac.invalid")},
+                       alone());
+    ASSERT_TRUE(program.shows("Account on the Mac")) << program.transcript();
+    program.type("somebody\n");
+    ASSERT_TRUE(program.shows("[Movies]: ")) << program.transcript();
+    program.type("\x03");
+    EXPECT_EQ(program.end(), 18) << program.transcript();
+    EXPECT_TRUE(program.shows("Nothing was changed.", 0)) << program.transcript();
+    EXPECT_EQ(everything(), before);
+}
+
+TEST_F(SetupSystemTest, PersonWhoWantsItSo_StoresBeforeTheMacIsThere) {
+    PtyProgram program({cProgram, QStringLiteral("--setup")}, alone());
+    ASSERT_TRUE(program.shows("Host name or address of the Mac")) << program.transcript();
+    program.type("no-such-mac.invalid\n");
+    ASSERT_TRUE(program.shows("Account on the Mac")) << program.transcript();
+    program.type("somebody\n");
+    ASSERT_TRUE(program.shows("Folder with the movies")) << program.transcript();
+    program.type("\n");
+    ASSERT_TRUE(program.shows("Folder on this machine")) << program.transcript();
+    program.type("~/Films/New\n");
+    ASSERT_TRUE(program.shows("Make it? [Y/n] ")) << program.transcript();
+    program.type("\n");
+    ASSERT_TRUE(program.shows("Store the settings all the same?")) << program.transcript();
+    program.type("y\n");
+    EXPECT_EQ(program.end(), 10) << program.transcript();
+    const QString made = path(QStringLiteral("home/Films/New"));
+    EXPECT_TRUE(QFileInfo(made).isDir());
+    const auto value = [this](const char* key) {
+        return runToEnd(cProgram, {QStringLiteral("--get"), QString::fromLatin1(key)}).output;
+    };
+    EXPECT_EQ(value("prefRemoteBonjourName"), "no-such-mac.invalid\n");
+    EXPECT_EQ(value("prefRemoteUsername"), "somebody\n");
+    EXPECT_EQ(value("prefRemotePath"), "Movies\n");
+    EXPECT_EQ(value("prefPath2"), made.toLocal8Bit() + '\n');
+    EXPECT_EQ(value("prefAutoStartScanOnLaunch"), "false\n");
+}
+
+} // namespace
+} // namespace kelvo
