@@ -149,7 +149,7 @@ class Trial:
             # Contract tests take real time: those far off are for what has none nearer. A test that
             # starts a child sees little of what is in it, so it stands in for no other.
             if suite.name == "contract":
-                most = max(2, min(reached.values(), default=0) + 1)
+                most = max(3, min(reached.values(), default=0) + 1)
                 reached = {t: n for t, n in reached.items() if n <= most}
                 reached |= {t: reached.get(t, 2) for t in suite.seconds if suite.files[t] in starters}
             for stage, wanted in ((near, lambda n: n <= 1), (far, lambda n: n > 1)):
