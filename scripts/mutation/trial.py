@@ -137,8 +137,8 @@ class Trial:
         """The tests that could tell, nearest first, as (suite, tests)."""
         with self.lock:
             if name not in self.steps:
-                self.steps[name] = self.workshop.nearness(name)
-        steps, near, far = self.steps[name], [], []
+                self.steps[name] = self.workshop.nearness(name), self.workshop.starters(name)
+        (steps, starters), near, far = self.steps[name], [], []
         with_children = bool({self.workshop.build / self.workshop.links[c][1] for c in CHILDREN
                               if c in self.workshop.links} & {Path(p) for p in programs})
         for suite in self.suites:
@@ -146,10 +146,13 @@ class Trial:
                     with_children and suite.name == "contract"):
                 continue
             reached = {t: steps[suite.files[t]] for t in suite.seconds if suite.files[t] in steps}
-            # Contract tests take real time: those far off are for what has none nearer.
-            most = max(2, min(reached.values(), default=0) + 1) if suite.name == "contract" else None
-            for stage, wanted in ((near, lambda n: n <= 1),
-                                  (far, lambda n: n > 1 and (most is None or n <= most))):
+            # Contract tests take real time: those far off are for what has none nearer. A test that
+            # starts a child sees little of what is in it, so it stands in for no other.
+            if suite.name == "contract":
+                most = max(3, min(reached.values(), default=0) + 1)
+                reached = {t: n for t, n in reached.items() if n <= most}
+                reached |= {t: reached.get(t, 2) for t in suite.seconds if suite.files[t] in starters}
+            for stage, wanted in ((near, lambda n: n <= 1), (far, lambda n: n > 1)):
                 tests = [t for t, n in reached.items() if wanted(n)]
                 if tests:
                     stage.append((suite, tests))

@@ -125,23 +125,30 @@ class Workshop:
             for header in used & self.includes.keys():
                 users.setdefault(header, set()).add(user)
         stem = Path(name).stem
-        steps, queue = {name: 0}, deque([name])
-        for child in set(self.programs_with(name)) & set(CHILDREN):
-            macro = "KELVO_" + child.upper().removeprefix("KELVO_")
-            for file in self.includes:
-                if file.startswith("tests/") and macro in (self.tree / file).read_text():
-                    steps[file] = 1
-                    queue.append(file)
+        steps, queue = {name: 0}, deque([(0, name)])
         while queue:
-            current = queue.popleft()
+            count, current = queue.popleft()
+            if count > steps[current]:
+                continue
             # Whoever uses a source's header uses the source.
             used = self._headers_of(current) if current.startswith("src/") else {current}
+            # What tests share is no part of the program: its tests stand where it stands.
+            shared = current.startswith("tests/")
             for user in set().union(*(users.get(header, set()) for header in used)):
-                if user not in steps:
-                    steps[user] = steps[current] + 1
-                    queue.append(user)
-        tests = {f: n for f, n in steps.items() if f.startswith("tests/") and f.endswith(".cpp")}
-        return {f: 0 if Path(f).stem.startswith(stem) else n for f, n in tests.items()}
+                if count + (not shared) < steps.get(user, count + 2):
+                    steps[user] = count + (not shared)
+                    (queue.appendleft if shared else queue.append)((steps[user], user))
+        # Cases may stand in a header that test files share.
+        tests = {f: n for f, n in steps.items() if f.startswith("tests/")}
+        return {f: 0 if f.endswith(".cpp") and Path(f).stem.startswith(stem) else n
+                for f, n in tests.items()}
+
+    def starters(self, name):
+        """The test files that start a child which holds the source, however far the source is."""
+        macros = ["KELVO_" + child.upper().removeprefix("KELVO_")
+                  for child in set(self.programs_with(name)) & set(CHILDREN)]
+        return {file for file in self.includes if file.startswith("tests/")
+                and any(macro in (self.tree / file).read_text() for macro in macros)}
 
     # -- mutants
 

@@ -190,6 +190,26 @@ TYPED_TEST_P(DnssdBrowserContractTest, DiscoveryService_IsToldOfAsItGoesAndComes
     EXPECT_TRUE(this->becomes([&] { return later == DiscoveryState::Running; }));
 }
 
+TYPED_TEST_P(DnssdBrowserContractTest, ObserverEndedByAnother_HearsNoMore) {
+    std::vector<Subscription> watches;
+    int heard = 0;
+    bool ends = false;
+    for (int number = 0; number < 2; ++number) {
+        watches.push_back(this->network.browser().observeState([&](DiscoveryState) {
+            ++heard;
+            if (ends)
+                watches.clear();
+        }));
+    }
+    EXPECT_EQ(heard, 2);
+    ends = true;
+    std::optional<DiscoveryState> later;
+    auto last = this->network.browser().observeState([&](DiscoveryState state) { later = state; });
+    this->browse();
+    EXPECT_TRUE(this->becomes([&] { return later == DiscoveryState::Running; }));
+    EXPECT_EQ(heard, 3);
+}
+
 TYPED_TEST_P(DnssdBrowserContractTest, AnotherType_ForgetsEverything) {
     const QString name = this->named(QStringLiteral("Server"));
     this->network.announce(name, 445);
@@ -220,6 +240,7 @@ REGISTER_TYPED_TEST_SUITE_P(DnssdBrowserContractTest, BeforeAnySearch_NothingIsK
                             DiscoveryServiceGone_KeepsTheListAndFindsBack,
                             SearchWithoutDiscoveryService_GoesOnOnceThereIsOne,
                             DiscoveryService_IsToldOfAsItGoesAndComes,
-                            AnotherType_ForgetsEverything, NamesThatMustNotReachAShell_AreLeftOut);
+                            ObserverEndedByAnother_HearsNoMore, AnotherType_ForgetsEverything,
+                            NamesThatMustNotReachAShell_AreLeftOut);
 
 } // namespace kelvo

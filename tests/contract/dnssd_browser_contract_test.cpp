@@ -9,6 +9,8 @@
 #include "support/session_bus.h"
 #include "support/wait_in_loop.h"
 
+#include <ctime>
+
 namespace kelvo {
 namespace {
 
@@ -144,6 +146,15 @@ TEST_F(AvahiBrowserTest, NoDiscoveryService_IsSaidOnceEachTime) {
     EXPECT_TRUE(becomes([&] {
         return logged() == QStringList{waiting, lost, waiting};
     })) << logged().join(u'|').toStdString();
+}
+
+TEST_F(AvahiBrowserTest, AfterASearch_NothingTurnsInACircle) {
+    network.announce(fName, 445);
+    browse();
+    ASSERT_TRUE(becomes([&] { return isResolved(fName); }));
+    const std::clock_t before = std::clock();
+    EXPECT_FALSE(network.becomes([] { return false; }, 1));
+    EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 2) << "of all threads";
 }
 
 TEST_F(AvahiBrowserTest, RefusedName_IsNotAskedAbout) {

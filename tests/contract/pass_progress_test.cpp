@@ -283,17 +283,17 @@ TEST_F(PassProgressTest, OtherWriter_IsSeenButNotItsLog) {
     make(fDestination, "read.mov", 3);
     const QString command =
         QStringLiteral(
-            "cd '%1' && exec 3<read.mov 4>gone.mov 5>>log.txt 2>err.txt && rm gone.mov && "
-            "(echo half >&7; read x <wait) 7<>film.mov")
+            "cd '%1' && exec 3<read.mov 4>gone.mov 5>>log.txt 6<>wait 2>err.txt && rm gone.mov && "
+            "(printf half >&7; read x <wait) 7<>film.mov")
             .arg(fDestination);
     const QString open = QStringLiteral("mkfifo '%1/wait' && ").arg(fDestination);
     CommandId id = 0;
     auto ended = std::async(std::launch::async, [&] {
         return fRunner.run({.text = open + command, .started = [&id](CommandId it) { id = it; }});
     });
-    const auto film = [&] { return QFileInfo(fDestination + "/film.mov").size() == 5; };
+    const auto film = [&] { return QFileInfo(fDestination + "/film.mov").size() == 4; };
     ASSERT_TRUE(waitUntil(film));
-    EXPECT_EQ(fRunner.fileBeingWritten(id), (FileBeingWritten{"film.mov", 5}));
+    EXPECT_EQ(fRunner.fileBeingWritten(id), (FileBeingWritten{"film.mov", 4}));
     QFile wait(fDestination + "/wait");
     ASSERT_TRUE(wait.open(QFile::WriteOnly));
     wait.write("\n");

@@ -281,12 +281,17 @@ TEST_F(PosixShellRunnerTest, NoDescriptorsLeft_GivesTheEmptyTextAndALine) {
     rlimit before{};
     ::getrlimit(RLIMIT_NOFILE, &before);
     const UniqueFd highest(::open("/dev/null", O_RDONLY | O_CLOEXEC));
-    const rlimit few{static_cast<rlim_t>(highest.get()) + 1, before.rlim_max};
-    ::setrlimit(RLIMIT_NOFILE, &few);
-    const QString text = run(QStringLiteral("echo x"));
-    ::setrlimit(RLIMIT_NOFILE, &before);
-    EXPECT_EQ(text, QString());
-    EXPECT_EQ(fConsole.logged().size(), 1);
+    constexpr int cNeeded = 6; // to cancel it, for its input, and for two pipes
+    for (int left = 0; left < cNeeded; ++left) {
+        const rlimit few{static_cast<rlim_t>(highest.get() + 1 + left), before.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &few);
+        const QString text = run(QStringLiteral("echo x"));
+        ::setrlimit(RLIMIT_NOFILE, &before);
+        EXPECT_EQ(text, QString()) << left;
+    }
+    EXPECT_EQ(
+        fConsole.logged(),
+        QStringList(cNeeded, QStringLiteral("Cannot start a shell command: Too many open files")));
     EXPECT_EQ(run(QStringLiteral("echo x")), u"x\n");
 }
 
@@ -340,6 +345,17 @@ TEST_F(PosixShellRunnerTest, EndlessOutputOfAShortAnswer_EndsTheCommandAndSaysSo
     EXPECT_EQ(fConsole.logged(),
               QStringList{QStringLiteral("A shell command was ended after 1048576 bytes of output: "
                                          "echo shell $$; exec yes")});
+}
+
+TEST_F(PosixShellRunnerTest, WhatWaitsAfterTheEnd_IsReadToItsLastByte) {
+    const CommandResult result =
+        fRunner.run({.text = QStringLiteral("printf 1234567"), .bounds = {.kept = 2, .most = 1}});
+    EXPECT_EQ(result.output, u"1\n… 5 bytes left out …\n7");
+    EXPECT_EQ(result.leftOut, 5);
+}
+
+TEST_F(PosixShellRunnerTest, Shell_GoesByItsUsualName) {
+    EXPECT_EQ(run(QStringLiteral("echo $0")), u"sh\n");
 }
 
 // -- bounded

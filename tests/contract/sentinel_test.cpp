@@ -20,6 +20,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -429,6 +430,38 @@ TEST_F(SentinelTest, CommandsThatCarryTheMark_AreAskedToEndAndThenForced) {
     EXPECT_FALSE(bystander.waitForFinished(0));
     bystander.kill();
     EXPECT_TRUE(bystander.waitForFinished());
+}
+
+TEST_F(SentinelTest, Commands_AreFoundWithFewDescriptors) {
+    QProcess program;
+    program.start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+    ASSERT_TRUE(program.waitForStarted());
+    const QString pid = QString::number(program.processId());
+    QProcessEnvironment mark;
+    mark.insert(QStringLiteral("KELVO_MIRROR_PID"), pid);
+    std::array<QProcess, 4> commands;
+    for (QProcess& command : commands) {
+        command.setProcessEnvironment(mark);
+        command.start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
+        ASSERT_TRUE(command.waitForStarted());
+    }
+    QProcess sentinel;
+    // The streams, the program, the folder of all processes, a file of one, and the commands.
+    sentinel.setChildProcessModifier([] {
+        const rlimit few{10, 10};
+        ::setrlimit(RLIMIT_NOFILE, &few);
+    });
+    sentinel.start(QStringLiteral(KELVO_SENTINEL), {pid});
+    ASSERT_TRUE(sentinel.waitForStarted());
+    ASSERT_TRUE(
+        waitUntil([&] { return catchesTermination(static_cast<pid_t>(sentinel.processId())); }));
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    ASSERT_TRUE(sentinel.waitForFinished());
+    for (QProcess& command : commands) {
+        ASSERT_TRUE(command.waitForFinished());
+        EXPECT_EQ(command.exitCode(), SIGTERM);
+    }
 }
 
 TEST_F(SentinelTest, TableOfCommands_EndsTheSessionsThatItMeansAndNoOther) {

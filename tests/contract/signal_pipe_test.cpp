@@ -61,6 +61,16 @@ TEST_F(SignalPipeTest, Signal_IsACallFromTheEventLoop) {
     EXPECT_EQ(fHeard, "ti");
 }
 
+TEST_F(SignalPipeTest, SystemCalls_GoOnAfterASignalWhichNeedsNoRoomOnTheStack) {
+    const auto user = fSignals->catchSignal(SIGUSR1, note("u"));
+    struct sigaction action {};
+    ASSERT_EQ(::sigaction(SIGUSR1, nullptr, &action), 0);
+    EXPECT_TRUE(action.sa_flags & SA_RESTART);
+    EXPECT_TRUE(action.sa_flags & SA_ONSTACK);
+    for (const int other : {SIGUSR2, SIGTERM, SIGSEGV})
+        EXPECT_EQ(sigismember(&action.sa_mask, other), 1) << "the handler is alone";
+}
+
 TEST_F(SignalPipeTest, SignalOnAnotherThread_IsACallOnTheMainOne) {
     std::thread::id called;
     const auto user = fSignals->catchSignal(SIGUSR1, [&] {

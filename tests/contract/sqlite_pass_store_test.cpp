@@ -1,10 +1,12 @@
 // The record of passes on disk: limits, damage, locks, full disks, two programs.
+#include "adapters/system/unique_fd.h"
 #include "contract/sqlite_pass_fixture.h"
 
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
 
@@ -270,6 +272,20 @@ TEST_F(SqlitePassStoreTest, TwoPrograms_ShareOneFile) {
     EXPECT_TRUE(waitUntil([&] { return lines(*left).size() == 100; }, std::chrono::seconds(10)));
     EXPECT_EQ(lines(*right).size(), 100);
     EXPECT_TRUE(console.logged().isEmpty()) << console.logged().join(u'\n').toStdString();
+}
+
+TEST_F(SqlitePassStoreTest, OpeningOnceMore_LeavesTheLocksOfThisProgramOnTheFile) {
+    const auto store = openStore();
+    store->append(numbered(1));
+    EXPECT_EQ(lines(*store).size(), 1);
+    const auto other = openStore();
+    EXPECT_EQ(lines(*other).size(), 1);
+    const UniqueFd file(::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC));
+    struct flock wanted {};
+    wanted.l_type = F_WRLCK;
+    wanted.l_whence = SEEK_SET;
+    ASSERT_EQ(::fcntl(file.get(), F_OFD_GETLK, &wanted), 0);
+    EXPECT_EQ(wanted.l_type, F_RDLCK);
 }
 
 TEST_F(SqlitePassStoreTest, FullDisk_KeepsRecordsInMemoryUntilThereIsRoom) {

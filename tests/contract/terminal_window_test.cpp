@@ -13,9 +13,13 @@
 
 #include <gtest/gtest.h>
 
+#include <limits.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
 
 namespace kelvo {
 namespace {
@@ -211,6 +215,31 @@ TEST_F(TerminalWindowTest, NoSafeFolder_IsSaid) {
     EXPECT_EQ(console.logged(), QStringList{QStringLiteral("Cannot open a terminal window: /tmp/k "
                                                            "belongs to somebody else")});
     EXPECT_FALSE(QFile::exists(at("tried")));
+}
+
+TEST_F(TerminalWindowTest, PlaceOrPipeThatCannotBeMade_IsSaidInTheSystemsWords) {
+    files.temporary.path = at("missing");
+    use({program("one", window())});
+    open(script("true"));
+    EXPECT_TRUE(comesTo(TerminalOutcome::NoWindow));
+    // With the place in it, there is no room for the pipe's name in a path.
+    QString deep = at("deep");
+    while (deep.size() < PATH_MAX - 20)
+        deep += u'/' + QString(std::min<qsizetype>(200, PATH_MAX - 21 - deep.size()), u'd');
+    ASSERT_EQ(deep.size(), PATH_MAX - 20);
+    std::filesystem::create_directories(deep.toStdString());
+    files.temporary.path = deep;
+    outcomes.clear();
+    open(script("true"));
+    EXPECT_TRUE(comesTo(TerminalOutcome::NoWindow));
+    EXPECT_TRUE(nothingLeftBehind());
+    EXPECT_EQ(console.logged(),
+              (QStringList{QStringLiteral("Cannot open a terminal window: temporary folder: No "
+                                          "such file or directory"),
+                           QStringLiteral("Cannot open a terminal window: pipe: File name too "
+                                          "long")}));
+    EXPECT_FALSE(QFile::exists(at("tried")));
+    std::filesystem::remove_all(at("deep").toStdString());
 }
 
 TEST_F(TerminalWindowTest, NextWindowFromTheAnswer_IsFine) {

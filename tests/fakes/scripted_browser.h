@@ -115,8 +115,10 @@ private:
         const DiscoveryState now = fRunning ? DiscoveryState::Running : away;
         if (std::exchange(fState, now) == now)
             return;
-        for (const auto& [number, changed] : std::map(*fObservers))
-            changed(now);
+        for (const auto& [number, changed] : std::map(*fObservers)) {
+            if (fObservers->contains(number))
+                changed(now);
+        }
     }
 
     void lookAgain() {

@@ -135,7 +135,6 @@ void AvahiSession::clientChanged(AvahiClient* client, AvahiClientState state) {
         }
         break;
     case AVAHI_CLIENT_CONNECTING:
-        fConnected = false;
         fTable.lose();
         tell(QStringLiteral("waiting for the discovery service (avahi-daemon)"));
         isAway(QString::fromUtf8(avahi_strerror(AVAHI_ERR_NO_DAEMON)));

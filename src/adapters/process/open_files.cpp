@@ -24,7 +24,7 @@ constexpr std::size_t cMostProcesses = 64;
 
 using Folder = std::unique_ptr<DIR, int (*)(DIR*)>;
 
-/// The entries of `path` that are numbers.
+/// The entries of `path`, all of which are numbers but for the two of every folder.
 std::vector<int> numbersIn(const std::string& path) {
     std::vector<int> numbers;
     const Folder folder(::opendir(path.c_str()), ::closedir);
@@ -34,8 +34,7 @@ std::vector<int> numbersIn(const std::string& path) {
             break;
         int number = 0;
         const char* const end = entry->d_name + std::strlen(entry->d_name);
-        const auto [stop, error] = std::from_chars(entry->d_name, end, number);
-        if (error == std::errc() && stop == end)
+        if (std::from_chars(entry->d_name, end, number).ec == std::errc())
             numbers.push_back(number);
     }
     return numbers;
@@ -48,7 +47,7 @@ std::string processFolder(pid_t pid) {
 /// `shell` and everything below it; a system that does not list children is walked whole.
 std::vector<pid_t> processesOf(pid_t shell) {
     std::vector<pid_t> found{shell};
-    for (std::size_t next = 0; next < found.size() && found.size() < cMostProcesses; ++next) {
+    for (std::size_t next = 0; next < found.size(); ++next) {
         const std::string tasks = processFolder(found[next]) + "/task/";
         for (const int task : numbersIn(tasks)) {
             std::ifstream children(tasks + std::to_string(task) + "/children");

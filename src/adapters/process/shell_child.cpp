@@ -26,9 +26,10 @@ struct Pipe {
     UniqueFd write;
 };
 
-/// Moves `fd` out of the range of the standard streams, where the child's own come to lie.
+/// Moves `fd` out of the range of the standard streams, where the child's own come to lie. None
+/// stays none, and errno what it was.
 UniqueFd aboveStandardStreams(UniqueFd fd) {
-    if (fd.get() > STDERR_FILENO)
+    if (!fd || fd.get() > STDERR_FILENO)
         return fd;
     return UniqueFd(::fcntl(fd.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
 }

@@ -86,8 +86,7 @@ void ThreadPoolQueue::startThread() {
         fThreads.emplace_back([this] { work(); });
         ::pthread_setname_np(fThreads.back().native_handle(), "kelvo-bg");
     } catch (const std::system_error&) {
-        // No thread to be had: the work waits for one that is there already.
-        fPosted.notify_one();
+        // No thread to be had: the work waits for one that is there already, none of which sleeps.
     }
 }
 

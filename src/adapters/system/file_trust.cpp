@@ -19,9 +19,9 @@ bool isOfThisUserAlone(gid_t group) {
     struct group own {};
     passwd* userFound = nullptr;
     struct group* groupFound = nullptr;
-    if (::getpwuid_r(::geteuid(), &user, userRoom.data(), userRoom.size(), &userFound) != 0 ||
-        ::getgrgid_r(group, &own, groupRoom.data(), groupRoom.size(), &groupFound) != 0 ||
-        !userFound || !groupFound)
+    (void)::getpwuid_r(::geteuid(), &user, userRoom.data(), userRoom.size(), &userFound);
+    (void)::getgrgid_r(group, &own, groupRoom.data(), groupRoom.size(), &groupFound);
+    if (!userFound || !groupFound)
         return false;
     if (user.pw_gid != group || std::strcmp(user.pw_name, own.gr_name) != 0)
         return false;
