@@ -47,6 +47,8 @@ public:
         // A tag that does not exist would end the program.
         if (!optionStringForTag(fSettings.integerForKey(prefRsyncCommandOptionTag)))
             return withoutPass(PassCause::SettingsMissing);
+        // The record is opened while the pass runs.
+        fMachine.passes.readStanding([](const Standing&) {});
         fEngine.samplePath.updateSampleString();
         fMachine.mainQueue.async([this] {
             if (fSettings.boolForKey(prefRsyncWithSSH))
