@@ -7,6 +7,7 @@
 #include "settings/overlay_defaults.h"
 #include "settings/preference_keys.h"
 #include "support/plain_line.h"
+#include "ui/template_setting.h"
 #include "ui/work_words.h"
 
 #include <QCoreApplication>
@@ -25,6 +26,7 @@ class OncePass {
 public:
     OncePass() {
         registerFactoryDefaults(fMachine.bundle, fMachine.defaults, fMachine.console);
+        TemplateSetting(fSettings).takeOver();
         fSettings.setObject(prefEnableScanning, true);
         fSettings.setObject(prefIsScanning, false);
         for (const int signal : {SIGTERM, SIGINT})
@@ -45,6 +47,8 @@ public:
         // A tag that does not exist would end the program.
         if (!optionStringForTag(fSettings.integerForKey(prefRsyncCommandOptionTag)))
             return withoutPass(PassCause::SettingsMissing);
+        // The record is opened while the pass runs.
+        fMachine.passes.readStanding([](const Standing&) {});
         fEngine.samplePath.updateSampleString();
         fMachine.mainQueue.async([this] {
             if (fSettings.boolForKey(prefRsyncWithSSH))

@@ -1,5 +1,7 @@
 #include "passes/movie_pull.h"
 
+#include "support/partial_option.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -95,7 +97,9 @@ bool takeOption(QStringView option, PullWords& pull) {
 
 /// Nothing for a command with an option that may leave something out.
 std::optional<PullWords> pullWords(QStringView command) {
-    const auto words = plainWords(command);
+    const QString withOption =
+        command.toString().replace(cPartialOption.toString(), cPartialWord.toString());
+    const auto words = plainWords(withOption);
     if (!words || words->isEmpty() || words->first().section(u'/', -1) != u"rsync")
         return std::nullopt;
     PullWords pull;

@@ -90,7 +90,9 @@ void RsyncOutputReader::named(const NamedFile& file) {
         return;
     }
     ++fFilesNamed;
-    fFile = file.name.toByteArray();
+    fFile.resize(0); // keeps its room
+    fFile.append(file.name);
+    fLargestNamed = std::max(fLargestNamed, file.size.value_or(std::numeric_limits<qint64>::max()));
     if (file.size)
         fBytesNamed =
             std::min(fBytesNamed, std::numeric_limits<qint64>::max() - *file.size) + *file.size;

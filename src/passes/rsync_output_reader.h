@@ -39,6 +39,9 @@ public:
     /// How many files were named so far, kept or not; nothing where lines do not tell.
     std::optional<qint64> filesNamed() const;
 
+    /// The size of the largest file named so far; as large as can be where one has no size.
+    qint64 largestNamed() const { return fLargestNamed; }
+
     /// The files named so far, and forgets them; their bytes as they are over there.
     std::vector<QByteArray> takeNames();
 
@@ -74,6 +77,7 @@ private:
     qint64 fFoldersNamed = 0;
     bool fRootNamed = false;
     qint64 fBytesNamed = 0; ///< the sizes printed with the names
+    qint64 fLargestNamed = 0;
 
     bool fTold = false;
     qint64 fBytes = 0;

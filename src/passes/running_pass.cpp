@@ -3,12 +3,16 @@
 #include "passes/captured_text.h"
 #include "passes/progress_line.h"
 #include "passes/rsync_statistics.h"
+#include "support/partial_option.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace kelvo {
 namespace {
+
+/// Bytes that take about as long to come as a command takes to begin anew.
+constexpr qint64 cWorthKeeping = qint64{32} * 1024 * 1024;
 
 CommandRole roleOf(PassStep step) {
     if (step == PassStep::AskingTheMac)
@@ -102,6 +106,46 @@ bool RunningPass::show(PassStep step, const QString& command) {
 }
 
 CommandResult RunningPass::run(PassStep step, const Command& command) {
+    if (!isPull(step) || !command.text.contains(cPartialOption))
+        return runOnce(step, command);
+    Command ours = command;
+    if (mayLeaveOutFolder(command.text)) {
+        bool large = false;
+        ours.variables[cPartialVariable] = "";
+        ours.received = [&](QByteArrayView bytes) {
+            large = large || endAtLargeFile();
+            if (command.received)
+                command.received(bytes);
+        };
+        CommandResult result = runOnce(step, ours);
+        if (!large || result.exitStatus || isCancelled())
+            return result;
+        fRecord.commands.pop_back();
+    }
+    ours.variables[cPartialVariable] = cPartialWord.toLatin1();
+    ours.received = command.received;
+    return runOnce(step, ours);
+}
+
+bool RunningPass::mayLeaveOutFolder(const QString& command) const {
+    const std::lock_guard lock(fPasses.fMutex);
+    return fPasses.fAllCame == command;
+}
+
+/// Whether the command was to be ended.
+bool RunningPass::endAtLargeFile() {
+    std::optional<CommandId> command;
+    {
+        const std::lock_guard lock(fPasses.fMutex);
+        if (fReader->largestNamed() >= cWorthKeeping)
+            command = fCommand;
+    }
+    if (command)
+        fPasses.fCommands.cancel(*command);
+    return command.has_value();
+}
+
+CommandResult RunningPass::runOnce(PassStep step, const Command& command) {
     if (!show(step, command.text))
         return {};
     Command ours = command;
@@ -148,6 +192,8 @@ Transfer RunningPass::pulled(CommandResult& result, const QString& command) {
         std::vector<QByteArray> names = fReader->takeNames();
         fNames.insert(fNames.end(), std::make_move_iterator(names.begin()),
                       std::make_move_iterator(names.end()));
+        if (command.contains(cPartialOption))
+            fPasses.fAllCame = result.exitStatus == 0 ? command : QString();
         if (result.exitStatus == 0 && fReader->tellsProgress())
             fPasses.fWentWell = command;
     }

@@ -56,6 +56,7 @@ private:
     mutable std::mutex fMutex;
     std::vector<RunningPass*> fPasses;
     QString fWentWell; ///< the last pull that did
+    QString fAllCame;  ///< the last with a folder for half files, when it left none
 };
 
 /// Begins when it is made and ends when it goes. Commands may run on any thread, one at a time.
@@ -72,6 +73,11 @@ public:
     /// Runs `command` as CommandRunner does and writes it down; of a pull's output without the
     /// lines that show progress. A cancelled pass runs nothing and answers as a command does that
     /// was given up.
+    ///
+    /// A pull with cPartialOption that has gone well the last time does without its folder for half
+    /// files, which costs more than all else where nothing has changed. Once it begins a file of
+    /// which a half would be worth keeping, it is ended and run again with that folder; only the
+    /// second run is written down.
     CommandResult run(PassStep step, const Command& command);
 
     /// Any thread.
@@ -99,6 +105,9 @@ public:
 private:
     friend RunningPasses;
 
+    CommandResult runOnce(PassStep step, const Command& command);
+    bool mayLeaveOutFolder(const QString& command) const;
+    bool endAtLargeFile();
     bool show(PassStep step, const QString& command);
     void commandStarted(CommandId id, const Command& command);
     void received(QByteArrayView bytes, const Command& command);

@@ -14,7 +14,8 @@ constexpr std::monostate cNone;
 
 /// Movies only; half a file waits where neither a player nor the next pass looks for one.
 constexpr QStringView cFactoryTemplate =
-    u"/usr/bin/rsync 2>&1 %@98 %@99 -r --times --prune-empty-dirs --partial-dir=.kelvo-partial "
+    u"/usr/bin/rsync 2>&1 %@98 %@99 -r --times --prune-empty-dirs "
+    u"${KELVO_MIRROR_PARTIAL---partial-dir=.kelvo-partial} "
     u"--stats --info=progress2 --out-format='%l %n' -f '- .kelvo-partial/' -f '+ */' -f '+ "
     u"*.[mM][oO][vV]' "
     u"-f '+ *.[mM][pP]4' -f '+ *.[mM]4[vV]' -f '+ *.[mM][kK][vV]' -f '+ *.[aA][vV][iI]' "

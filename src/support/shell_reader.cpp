@@ -11,6 +11,10 @@ bool isOfName(QChar sign) {
     return sign == u'_' || (sign.unicode() < 0x80 && sign.isLetterOrNumber());
 }
 
+bool isPlain(QChar sign) {
+    return isOfName(sign) || sign == u'-' || sign == u'.' || sign == u'=';
+}
+
 } // namespace
 
 ShellPlace ShellReader::placeAt(qsizetype position) {
@@ -79,11 +83,17 @@ void ShellReader::stepOutsideQuotes(QChar sign, QStringView rest) {
     fWordBegins = partsWords(sign);
 }
 
-/// "${name}"; anything more in the braces has rules of its own.
+/// "${name}", or "${name-text}" with a text that any shell takes as it is; anything more in the
+/// braces has rules of its own.
 void ShellReader::skipVariable() {
+    const auto skipWhile = [this](bool (*fits)(QChar)) {
+        while (fNext < fText.size() && fits(fText[fNext]))
+            ++fNext;
+    };
     fNext += 2;
-    while (fNext < fText.size() && isOfName(fText[fNext]))
-        ++fNext;
+    skipWhile(isOfName);
+    if (fNext < fText.size() && fText[fNext] == u'-')
+        skipWhile(isPlain);
     if (fNext < fText.size() && fText[fNext] == u'}')
         ++fNext;
     else

@@ -1,6 +1,7 @@
 #include "ui/movie_kinds.h"
 
 #include "settings/preferences.h"
+#include "support/partial_option.h"
 
 namespace kelvo {
 namespace {
@@ -44,6 +45,15 @@ std::optional<MovieKinds> kindsOfTemplate(const QString& command) {
     if (templateWithKinds(kinds) != command)
         return std::nullopt;
     return kinds;
+}
+
+std::optional<QString> successorOf(const QString& command) {
+    // The option itself once stood there.
+    QString today = command;
+    today.replace(u' ' + cPartialWord.toString() + u' ', u' ' + cPartialOption.toString() + u' ');
+    if (today == command || !kindsOfTemplate(today))
+        return std::nullopt;
+    return today;
 }
 
 } // namespace kelvo

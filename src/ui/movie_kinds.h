@@ -45,4 +45,8 @@ std::optional<MovieKinds> kindsOfTemplate(const QString& command);
 /// The template as it is delivered.
 QString factoryTemplate();
 
+/// What templateWithKinds gives today for a `command` that it gave in an earlier version; nothing
+/// for every other text.
+std::optional<QString> successorOf(const QString& command);
+
 } // namespace kelvo

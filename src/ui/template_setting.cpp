@@ -17,6 +17,11 @@ void TemplateSetting::setKind(std::size_t place, bool taken) {
     store(templateWithKinds(*changed));
 }
 
+void TemplateSetting::takeOver() {
+    if (const auto successor = successorOf(stored()))
+        store(*successor);
+}
+
 TemplateSetting::Change TemplateSetting::nextChange() const {
     if (stored() != factoryTemplate())
         return Change::ToFactory;

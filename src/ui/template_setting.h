@@ -21,6 +21,10 @@ public:
     /// person has written stays as it is.
     void setKind(std::size_t place, bool taken);
 
+    /// Puts today's template in the place of one that an earlier version gave; what a person has
+    /// written stays.
+    void takeOver();
+
     enum class Change {
         None,      ///< the factory's template is in use, and no other was before
         ToFactory, ///< away from another one

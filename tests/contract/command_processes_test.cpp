@@ -58,6 +58,17 @@ private:
     pid_t fPid = -1;
 };
 
+TEST(CommandProcessesTest, LookFromANumberOn_SeesWhatCameLater) {
+    const Shell first("exec sleep 600", "KELVO_TEST_MARK=78");
+    const Shell second("exec sleep 600", "KELVO_TEST_MARK=78");
+    if (second.pid() < first.pid())
+        GTEST_SKIP() << "the numbers of processes have come round just now";
+    EXPECT_EQ(livingProcesses({{}, "KELVO_TEST_MARK=78"}).size(), 2U);
+    EXPECT_EQ(livingProcesses({{}, "KELVO_TEST_MARK=78"}, second.pid()), std::vector{second.pid()});
+    EXPECT_TRUE(numbersStillRise(second.pid()));
+    EXPECT_FALSE(numbersStillRise(1 << 30)) << "they have come round";
+}
+
 TEST(CommandProcessesTest, MarkOrSession_MakesAProcessOneOfThem) {
     const Shell ours("exec sleep 600", "KELVO_TEST_MARK=77");
     const Shell longer("exec sleep 600", "KELVO_TEST_MARK=777");

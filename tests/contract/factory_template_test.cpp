@@ -2,6 +2,7 @@
 #include "adapters/settings/file_bundle.h"
 #include "passes/progress_line.h"
 #include "settings/preferences.h"
+#include "support/partial_option.h"
 #include "support/stored_value.h"
 #include "ui/movie_kinds.h"
 
@@ -162,6 +163,24 @@ TEST_F(FactoryTemplateTest, OtherKinds_BringThemAndNothingElse) {
     const QString output = run(fSource + u'/', QString(), QString());
     EXPECT_EQ(contentOf(fDestination), (QSet<QString>{"c.MXF", "d.m2ts", "g.WEBM"}))
         << output.toStdString();
+}
+
+TEST_F(FactoryTemplateTest, FolderForHalfFiles_IsThereUnlessItIsTakenAway) {
+    const QString half = fDestination + "/.kelvo-partial/a.mov";
+    const auto leaveHalf = [&] {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(half).path()));
+        QFile file(half);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+    };
+    make("a.mov");
+    run(fSource + u'/', QString(), QString());
+    leaveHalf();
+    run(fSource + u'/', QString(), QString());
+    EXPECT_FALSE(QFile::exists(half)) << "rsync has not looked there";
+    leaveHalf();
+    fTemplate.prepend(QString::fromLatin1(cPartialVariable) + "=; ");
+    run(fSource + u'/', QString(), QString());
+    EXPECT_TRUE(QFile::exists(half)) << "rsync has looked there";
 }
 
 TEST_F(FactoryTemplateTest, SecondPull_NamesNoFile) {

@@ -246,6 +246,32 @@ TEST_F(PassProgressTest, ResumedHalf_CountsAsReceived) {
     EXPECT_EQ(QFileInfo(fDestination + "/long.mov").size(), 8 * cMegabyte);
 }
 
+TEST_F(PassProgressTest, LargeFileThatIsCut_LeavesItsHalfAlsoAfterAPullWithoutTheFolder) {
+    constexpr qsizetype cLarge = 40 * cMegabyte;
+    const QString half = fDestination + "/.kelvo-partial/long.mov";
+    fOption = QStringLiteral("--bwlimit=20000 --no-whole-file");
+    seenOf(PassStep::Pull, factory()); // from now on the folder is left out
+    make(fSource, "long.mov", cLarge);
+    auto cut = std::async(std::launch::async, [this] {
+        RunningPass pass(fPasses, PassKind::Plain);
+        (void)pass.run(PassStep::Pull, {.text = factory()});
+    });
+    EXPECT_TRUE(waitUntil([this] {
+        const auto passes = fPasses.underWay();
+        return !passes.empty() && passes[0].progress.bytesDone > 4 * cMegabyte;
+    }));
+    fPasses.cancel();
+    cut.get();
+    EXPECT_GT(QFileInfo(half).size(), 2 * cMegabyte);
+    EXPECT_FALSE(QFile::exists(fDestination + "/long.mov"));
+    seenOf(PassStep::Pull, factory());
+    EXPECT_EQ(QFileInfo(fDestination + "/long.mov").size(), cLarge);
+    EXPECT_FALSE(QFile::exists(half));
+    EXPECT_TRUE(fResult.output.contains(u"Matched data: ") &&
+                !fResult.output.contains(u"Matched data: 0 bytes"))
+        << fResult.output.toStdString();
+}
+
 TEST_F(PassProgressTest, EmptyPull_IsWellAndBringsNothing) {
     seenOf(PassStep::Pull, factory());
     EXPECT_TRUE(fNames.empty());

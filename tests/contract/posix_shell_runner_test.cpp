@@ -420,6 +420,38 @@ TEST_F(PosixShellRunnerTest, SingleByte_IsTakenAndReceived) {
     EXPECT_EQ(received, "x");
 }
 
+TEST_F(PosixShellRunnerTest, ManyLines_AreReadTogether) {
+    using Clock = std::chrono::steady_clock;
+    int pieces = 0;
+    QByteArray received;
+    const auto begin = Clock::now();
+    // A line, then some work, so that each finds a reader who waits.
+    const CommandResult result = fRunner.run(
+        {.text = QStringLiteral("i=0; while [ $i -lt 1000 ]; do echo $i; i=$((i+1)); j=0; "
+                                "while [ $j -lt 100 ]; do j=$((j+1)); done; done"),
+         .received = [&](QByteArrayView bytes) {
+             ++pieces;
+             received += bytes;
+         }});
+    // Less than 64 KiB in all: between two reads 5 ms go by.
+    EXPECT_LE(pieces, (Clock::now() - begin) / 5ms + 3);
+    EXPECT_EQ(received.count('\n'), 1000);
+    EXPECT_TRUE(result.output.endsWith(u"\n999\n"));
+}
+
+TEST_F(PosixShellRunnerTest, FirstLine_IsReceivedWhileTheCommandRuns) {
+    const QString heard = qEnvironmentVariable("TMPDIR") + u"/heard";
+    const CommandResult result =
+        fRunner.run({.text = QString(u"echo begin; until [ -e '" + heard + u"' ]; do :; done"),
+                     .seconds = 60,
+                     .received = [&](QByteArrayView) {
+                         QFile file(heard);
+                         EXPECT_TRUE(file.open(QFile::WriteOnly));
+                     }});
+    EXPECT_EQ(result.exitStatus, 0);
+    QFile::remove(heard);
+}
+
 TEST_F(PosixShellRunnerTest, BoundReached_ForcesWhatIgnoresTheRequest) {
     const CommandResult result = resultWithin(
         cShortly, QString(u"trap '' TERM; echo shell $$; exec " + zoo(QStringLiteral("stubborn"))));

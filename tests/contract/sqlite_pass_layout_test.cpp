@@ -122,6 +122,70 @@ TEST_F(SqlitePassStoreTest, ReadingOnly_TakesAnyLayoutAndWritesNothing) {
     EXPECT_EQ(found.size(), 1U);
 }
 
+PassRecord wordy(int number) {
+    PassRecord record = numbered(number);
+    QString noise; // packs badly
+    for (std::uint32_t sign = 1U + static_cast<std::uint32_t>(number); noise.size() < 60'000;) {
+        sign = sign * 1'664'525U + 1'013'904'223U;
+        noise.append(QChar(u'!' + sign % 90));
+    }
+    record.commands[0].text.head = noise;
+    record.arrivals.push_back({"/in/" + QByteArray::number(number), 1, record.began});
+    return record;
+}
+
+TEST_F(SqlitePassStoreTest, TextsOfAnyLength_ComeBackAndArePackedForEarlierVersionsToo) {
+    const auto store = openStore();
+    QStringList texts;
+    for (const qsizetype size : {1, 2, 340, 341, 342, 1023, 1024, 1025, 60'000}) {
+        texts.append(QString(size, QChar(u'\x8a9e')));
+        PassRecord record = numbered(static_cast<int>(size));
+        record.commands[0].text = {texts.back(), QString(size, u'a'), 0};
+        store->append(record);
+    }
+    (void)lines(*store);
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const auto found =
+            answered<std::optional<PassRecord>>([&](auto take) { store->read(i + 1, take); });
+        ASSERT_TRUE(found && found->commands.size() == 1U);
+        EXPECT_EQ(found->commands[0].text.head, texts[i]);
+        const QVariantList values = valuesOf(1, 0, found->commands[0]);
+        EXPECT_EQ(qUncompress(values[6].toByteArray()), texts[i].toUtf8());
+        EXPECT_EQ(qUncompress(values[7].toByteArray()), QByteArray(texts[i].size(), 'a'));
+    }
+}
+
+TEST_F(SqlitePassStoreTest, RecordBeyondItsBytes_LosesItsOldestPasses) {
+    constexpr int cPasses = 300;
+    const auto store = openStore({.bytes = qint64{8} * 1024 * 1024});
+    for (int number = 1; number <= cPasses; ++number)
+        store->append(wordy(number));
+    const QStringList left = lines(*store);
+    EXPECT_GE(left.size(), 100);
+    EXPECT_LT(left.size(), 200);
+    EXPECT_EQ(left.front(), QString::number(cPasses));
+    EXPECT_EQ(left.back(), QString::number(cPasses + 1 - left.size())) << "without a gap";
+    EXPECT_EQ(arrivals(*store).size(), std::size_t{cPasses}) << "they are small";
+    EXPECT_EQ(standing(*store).last->lastLine, QString::number(cPasses));
+}
+
+TEST_F(SqlitePassStoreTest, LargeRecordOfAnEarlierVersion_GivesItsRoomBack) {
+    {
+        const auto store = openStore();
+        for (int number = 1; number <= 300; ++number)
+            store->append(wordy(number));
+    }
+    const qint64 before = QFileInfo(path).size();
+    {
+        const auto store = openStore({.bytes = qint64{6} * 1024 * 1024});
+        store->append(numbered(301));
+        EXPECT_GE(lines(*store).size(), 100);
+    }
+    EXPECT_GT(before, 12 * 1024 * 1024);
+    EXPECT_LT(QFileInfo(path).size(), 7 * 1024 * 1024);
+    EXPECT_TRUE(console.logged().isEmpty()) << console.logged().join(u'\n').toStdString();
+}
+
 TEST_F(SqlitePassStoreTest, EveryQuestion_IsAnsweredByAnIndex) {
     openStore()->append(numbered(1));
     // All of it is what is wanted.

@@ -1,4 +1,5 @@
 #include "settings/preferences.h"
+#include "support/partial_option.h"
 #include "sync/rsync_command.h"
 #include "ui/movie_kinds.h"
 
@@ -43,6 +44,19 @@ TEST(MovieKindsTest, ChangeOfOneSign_IsAPersonsOwn) {
         EXPECT_FALSE(kindsOfTemplate(QString(factory).insert(i, u'x'))) << i;
         EXPECT_FALSE(kindsOfTemplate(QString(factory).replace(i, 1, u'~'))) << i;
     }
+}
+
+TEST(MovieKindsTest, TemplateOfAnEarlierVersion_HasItsSuccessor) {
+    for (const MovieKinds kinds : {*kindsOfTemplate(factoryTemplate()), MovieKinds(3)}) {
+        const QString today = templateWithKinds(kinds);
+        QString earlier = today;
+        earlier.replace(cPartialOption.toString(), cPartialWord.toString());
+        ASSERT_NE(earlier, today);
+        EXPECT_EQ(successorOf(earlier), today);
+        EXPECT_EQ(successorOf(today), std::nullopt);
+        EXPECT_EQ(successorOf(earlier + u" -v"), std::nullopt) << "a person's own";
+    }
+    EXPECT_EQ(successorOf(u"rsync " + cPartialWord.toString() + u" a b"), std::nullopt);
 }
 
 TEST(MovieKindsTest, OtherTexts_AreAPersonsOwn) {

@@ -1,5 +1,6 @@
 // Whether a pull has certainly brought every movie: words, options and filters one by one.
 #include "passes/movie_pull.h"
+#include "support/partial_option.h"
 
 #include <QString>
 
@@ -42,6 +43,8 @@ TEST(MoviePullTest, EachHarmlessOption_LeavesNothingOut) {
 TEST(MoviePullTest, FolderForPartialFiles_MayBearTheNameOfOneWithMovies) {
     EXPECT_TRUE(takeAll(QStringLiteral("--partial-dir=.kelvo-partial")));
     EXPECT_TRUE(takeAll(QStringLiteral("--partial-dir=/var/tmp/films")));
+    EXPECT_TRUE(takeAll(cPartialOption.toString()));
+    EXPECT_FALSE(takeAll(QStringLiteral("${OTHER---partial-dir=.kelvo-partial}")));
     EXPECT_FALSE(takeAll(QStringLiteral("--partial-dir=Films")));
     EXPECT_FALSE(takeAll(QStringLiteral("--partial-dir")));
 }

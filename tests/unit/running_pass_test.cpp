@@ -1,10 +1,12 @@
 #include "engine/engine.h"
 #include "fakes/view_controller_world.h"
 #include "passes/running_pass.h"
+#include "support/partial_option.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
+#include <set>
 #include <thread>
 
 namespace kelvo {
@@ -19,6 +21,8 @@ public:
     explicit ScriptedCommands(double& clock) : fClock(clock) {}
 
     CommandResult run(const Command& command) override {
+        variables.push_back(command.variables);
+        fCancelled = false;
         if (command.started)
             command.started(1);
         for (const char* piece : pieces) {
@@ -35,13 +39,15 @@ public:
             return {QStringLiteral("so far\n"), {}, 124};
         }
         fClock += 2.5;
+        if (fCancelled)
+            return {QStringLiteral("cut"), {}, {}};
         for (const auto& [part, result] : results) {
             if (command.text.contains(part))
                 return result;
         }
         return {{}, {}, 0};
     }
-    void cancel(CommandId) override {}
+    void cancel(CommandId) override { fCancelled = true; }
     std::optional<FileBeingWritten> fileBeingWritten(CommandId) const override {
         ++looks;
         return writing;
@@ -54,9 +60,11 @@ public:
     QString endless; ///< this command never ends by itself
 
     std::map<QString, CommandResult> results;
+    std::vector<std::map<QByteArray, QByteArray>> variables; ///< of each command
 
 private:
     double& fClock;
+    bool fCancelled = false;
 };
 
 class RunningPassTest : public ::testing::Test {
@@ -326,6 +334,99 @@ TEST_F(RunningPassTest, CheckWhoseTimeWasUp_IsWrittenDownAsAHostThatIsAway) {
     ASSERT_EQ(records[0].commands.size(), 1U);
     EXPECT_EQ(records[0].commands[0].exitStatus, 124);
     EXPECT_DOUBLE_EQ(records[0].commands[0].seconds, 33);
+}
+
+// -- the folder for half files
+
+const QString cWithFolder = u"rsync --out-format='%l %n' " + cPartialOption.toString();
+
+class HalfFilesTest : public RunningPassTest {
+protected:
+    void pull() {
+        RunningPass pass(passes, PassKind::Plain);
+        names.clear();
+        (void)pass.run(PassStep::Pull, {.text = cWithFolder});
+        (void)pass.run(PassStep::Movies, {.text = QStringLiteral("the other")});
+        names = pass.names();
+    }
+
+    /// What the variable was each time since the last call: the option, "none" where it was empty,
+    /// "unset" where it was not there.
+    QByteArrayList folders() {
+        QByteArrayList all;
+        for (const auto& variables : std::exchange(commands.variables, {})) {
+            const auto found = variables.find(cPartialVariable);
+            all.append(found == variables.end()  ? "unset"
+                       : found->second.isEmpty() ? "none"
+                                                 : found->second);
+        }
+        return all;
+    }
+
+    const QByteArray option = cPartialWord.toLatin1();
+    std::vector<QByteArray> names;
+};
+
+TEST_F(HalfFilesTest, PullThatWentWell_DoesWithoutTheFolderTheNextTime) {
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{option, "unset"})) << "nobody knows what lies there";
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"}));
+    commands.results[cWithFolder] = {QStringLiteral("cut"), {}, 30};
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"}));
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{option, "unset"})) << "a half may lie there";
+    commands.results.clear();
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{option, "unset"}));
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"}));
+}
+
+TEST_F(HalfFilesTest, OtherPull_SaysNothingOfThisOne) {
+    pull();
+    RunningPass pass(passes, PassKind::Plain);
+    (void)pass.run(PassStep::Pull, {.text = QString(cWithFolder + u" elsewhere")});
+    EXPECT_EQ(folders(), (QByteArrayList{option, "unset", option}));
+}
+
+TEST_F(HalfFilesTest, LargeFileWithoutTheFolder_IsPulledAgainWithIt) {
+    pull();
+    commands.pieces = {"7 small.mov\n", "33554432 large", ".mov\n"};
+    commands.results[cWithFolder] = {cStatistics, {}, 0};
+    folders();
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{"none", option, "unset"}));
+    EXPECT_EQ(std::set<QByteArray>(names.begin(), names.end()),
+              (std::set<QByteArray>{"small.mov", "large.mov"}));
+    const PassRecord& record = records.back();
+    ASSERT_EQ(record.commands.size(), 2U) << "the run that was ended is not written down";
+    EXPECT_EQ(record.commands[0].exitStatus, 0);
+    EXPECT_EQ(record.commands[0].transfer.files, 1);
+    EXPECT_EQ(record.cause, PassCause::Well);
+    commands.pieces.clear();
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"})) << "it came whole";
+}
+
+TEST_F(HalfFilesTest, SmallFileWithoutTheFolder_ComesAtOnce) {
+    pull();
+    commands.pieces = {"33554431 small.mov\n"};
+    folders();
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"}));
+    EXPECT_EQ(names, std::vector<QByteArray>{"small.mov"});
+}
+
+TEST_F(HalfFilesTest, CancelledPull_IsNotRunAgain) {
+    pull();
+    commands.pieces = {"99999999999 large.mov\n"};
+    commands.whileRunning = [&] { passes.cancel(); };
+    folders();
+    pull();
+    EXPECT_EQ(folders(), QByteArrayList{"none"});
+    EXPECT_EQ(records.back().cause, PassCause::Cancelled);
 }
 
 // -- with the cycle

@@ -30,6 +30,11 @@ TEST(ShellWordsTest, QuotesThatAreNoQuotes_AreSeen) {
     EXPECT_EQ(filled("'a\"\\' \"%@1\""), QString(u"'a\"\\' \"" + doubled + u'"'));
     EXPECT_EQ(filled("\"a\\\"b\"\"%@1\""), QString(u"\"a\\\"b\"\"" + doubled + u'"'));
     EXPECT_EQ(filled("${HOME}\"${HOME}%@1\""), QString(u"${HOME}\"${HOME}" + doubled + u'"'));
+    EXPECT_EQ(filled("${X---a=b.c} \"%@1\""), QString(u"${X---a=b.c} \"" + doubled + u'"'));
+    for (const char* unsure : {"${X-a b}", "${X-'a'}", "${X-$Y}", "${X:-a}", "${X-a"}) {
+        const QByteArray command = QByteArray(unsure) + " \"%@1\"";
+        EXPECT_EQ(filled(command.constData()), std::nullopt) << unsure;
+    }
     EXPECT_EQ(filled("a#' %@1 '"), std::nullopt);
 }
 

@@ -1,5 +1,6 @@
 #include "fakes/memory_defaults.h"
 #include "settings/preference_keys.h"
+#include "support/partial_option.h"
 #include "ui/template_setting.h"
 
 #include <gtest/gtest.h>
@@ -47,6 +48,23 @@ TEST_F(TemplateSettingTest, FactoryKindsAgain_LeaveNothingStored) {
     setting.setKind(placeOf(u"mkv"), true);
     EXPECT_EQ(stored(), factoryTemplate());
     EXPECT_FALSE(defaults.changes().back().second.isValid()) << "the default shows through";
+}
+
+TEST_F(TemplateSettingTest, TemplateOfAnEarlierVersion_IsTakenOver) {
+    const auto earlier = [](const QString& today) {
+        return QString(today).replace(cPartialOption.toString(), cPartialWord.toString());
+    };
+    store(earlier(factoryTemplate()));
+    setting.takeOver();
+    EXPECT_EQ(stored(), factoryTemplate());
+    EXPECT_FALSE(defaults.changes().back().second.isValid()) << "the default shows through";
+    const QString two = templateWithKinds(MovieKinds(3));
+    store(earlier(two));
+    setting.takeOver();
+    EXPECT_EQ(stored(), two);
+    store(cOwn);
+    setting.takeOver();
+    EXPECT_EQ(stored(), cOwn);
 }
 
 TEST_F(TemplateSettingTest, OwnTemplate_IsLeftAlone) {

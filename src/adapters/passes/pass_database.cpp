@@ -40,6 +40,9 @@ PassDatabase::~PassDatabase() {
 }
 
 void PassDatabase::close() {
+    fQueries = {};
+    fSizeSeen = false;
+    fFree = 0;
     fDatabase = QSqlDatabase();
     QSqlDatabase::removeDatabase(fConnection);
     fWritten.clear();
@@ -61,37 +64,42 @@ PassDatabase::Outcome PassDatabase::run(const QString& statement) {
     return outcomeOf(query);
 }
 
-PassDatabase::Outcome PassDatabase::prepare(QSqlQuery& query, PassStatement statement) const {
-    query.setForwardOnly(true);
-    query.prepare(sqlOf(statement));
-    return outcomeOf(query);
-}
-
-PassDatabase::Outcome PassDatabase::execute(QSqlQuery& query, const QVariantList& values) const {
-    for (qsizetype i = 0; i < values.size(); ++i)
-        query.bindValue(static_cast<int>(i), values[i]);
-    query.exec();
-    return outcomeOf(query);
+PassDatabase::Outcome PassDatabase::prepare(PassStatement statement) {
+    auto& query = fQueries[static_cast<std::size_t>(statement)];
+    if (query)
+        return {};
+    query.emplace(fDatabase);
+    query->setForwardOnly(true);
+    query->prepare(sqlOf(statement));
+    Outcome outcome = outcomeOf(*query);
+    if (!outcome)
+        query.reset();
+    return outcome;
 }
 
 PassDatabase::Outcome PassDatabase::run(PassStatement statement, const QVariantList& values,
                                         const RowReader& take) {
-    QSqlQuery query(fDatabase);
-    if (Outcome outcome = prepare(query, statement); !outcome)
+    if (Outcome outcome = prepare(statement); !outcome)
         return outcome;
-    if (Outcome outcome = execute(query, values); !outcome)
-        return outcome;
-    while (query.next())
+    QSqlQuery& query = *fQueries[static_cast<std::size_t>(statement)];
+    for (qsizetype i = 0; i < values.size(); ++i)
+        query.bindValue(static_cast<int>(i), values[i]);
+    if (query.exec() && !query.isSelect())
+        fInserted = query.lastInsertId().toLongLong();
+    while (query.isActive() && query.next())
         take(query);
-    return outcomeOf(query);
+    Outcome outcome = outcomeOf(query);
+    // One that stood on a row would keep the file from being written.
+    query.finish();
+    return outcome;
 }
 
 PassDatabase::Outcome PassDatabase::inTransaction(const std::function<Outcome()>& work) {
-    if (Outcome outcome = run(QStringLiteral("BEGIN IMMEDIATE")); !outcome)
+    if (Outcome outcome = run(PassStatement::Begin, {}); !outcome)
         return outcome;
     Outcome outcome = work();
     if (outcome)
-        outcome = run(QStringLiteral("COMMIT"));
+        outcome = run(PassStatement::Commit, {});
     if (!outcome && !run(QStringLiteral("ROLLBACK")))
         close();
     return outcome;
@@ -134,6 +142,7 @@ PassDatabase::Outcome PassDatabase::insert(PassRecord& record) {
     fWritten.push_back(record.id);
     if (fWritten.size() > cMostOwn)
         fWritten.pop_front();
+    giveBackRoom();
     return outcome;
 }
 
@@ -148,18 +157,14 @@ PassDatabase::Outcome PassDatabase::insertRows(PassRecord& record) {
             return outcome;
         }
     }
-    QSqlQuery pass(fDatabase);
-    if (Outcome outcome = prepare(pass, PassStatement::InsertPass); !outcome)
+    if (Outcome outcome = run(PassStatement::InsertPass, valuesOf(record)); !outcome)
         return outcome;
-    if (Outcome outcome = execute(pass, valuesOf(record)); !outcome)
-        return outcome;
-    record.id = pass.lastInsertId().toLongLong();
-    QSqlQuery command(fDatabase);
-    if (Outcome outcome = prepare(command, PassStatement::InsertCommand); !outcome)
-        return outcome;
+    record.id = fInserted;
     int number = 0;
     for (const CommandRecord& each : record.commands) {
-        if (Outcome outcome = execute(command, valuesOf(record.id, number++, each)); !outcome)
+        if (Outcome outcome =
+                run(PassStatement::InsertCommand, valuesOf(record.id, number++, each));
+            !outcome)
             return outcome;
     }
     if (Outcome outcome = insertArrivals(record); !outcome)
@@ -170,20 +175,20 @@ PassDatabase::Outcome PassDatabase::insertRows(PassRecord& record) {
     const qint64 old = record.id - fLimits.passes;
     if (Outcome outcome = run(PassStatement::DropCommands, {old}); !outcome)
         return outcome;
-    return run(PassStatement::DropPasses, {old});
+    if (Outcome outcome = run(PassStatement::DropPasses, {old}); !outcome)
+        return outcome;
+    return dropBeyondBytes(record.id);
 }
 
 PassDatabase::Outcome PassDatabase::insertArrivals(const PassRecord& record) {
     if (record.arrivals.empty())
         return {};
-    QSqlQuery query(fDatabase);
-    if (Outcome outcome = prepare(query, PassStatement::InsertArrival); !outcome)
-        return outcome;
     for (const Arrival& arrival : record.arrivals) {
-        if (Outcome outcome = execute(query, valuesOf(record.id, arrival)); !outcome)
+        if (Outcome outcome = run(PassStatement::InsertArrival, valuesOf(record.id, arrival));
+            !outcome)
             return outcome;
     }
-    return run(PassStatement::DropArrivals, {query.lastInsertId().toLongLong() - fLimits.arrivals});
+    return run(PassStatement::DropArrivals, {fInserted - fLimits.arrivals});
 }
 
 PassDatabase::Outcome PassDatabase::noteStanding(const PassRecord& record) {

@@ -4,10 +4,12 @@
 #include "adapters/passes/pass_statements.h"
 
 #include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QString>
 
 #include <sys/types.h>
 
+#include <array>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -20,6 +22,8 @@ namespace kelvo {
 struct PassLimits {
     int passes = PassStore::cMostPasses;
     int arrivals = PassStore::cMostArrivals;
+    /// What the file may hold. Looked at now and then; beyond it passes go before arrivals.
+    qint64 bytes = qint64{32} * 1024 * 1024;
 };
 
 /// One thread only, the one that first opens it. Several programs may have the same file open.
@@ -92,8 +96,7 @@ private:
     bool nothingIsKept() const;
     Outcome outcomeOf(const QSqlQuery& query) const;
     Outcome run(const QString& statement);
-    Outcome prepare(QSqlQuery& query, PassStatement statement) const;
-    Outcome execute(QSqlQuery& query, const QVariantList& values) const;
+    Outcome prepare(PassStatement statement);
     /// Gives `take` each row of the answer.
     Outcome run(
         PassStatement statement, const QVariantList& values,
@@ -101,12 +104,17 @@ private:
     Outcome inTransaction(const std::function<Outcome()>& work);
     Outcome prepareFile() const;
     Outcome prepareTables();
-    Outcome checkTables() const;
+    Outcome checkTables();
     Outcome readLayout();
     Outcome takeOver();
     Outcome insertRows(PassRecord& record);
     Outcome insertArrivals(const PassRecord& record);
     Outcome noteStanding(const PassRecord& record);
+    Outcome dropBeyondBytes(qint64 newest);
+    Outcome dropOldest(PassStatement range, const std::vector<PassStatement>& drops, qint64 least,
+                       bool& dropped);
+    Outcome readSize(qint64& used);
+    void giveBackRoom();
     void close();
 
     const QString fPath;
@@ -115,6 +123,12 @@ private:
     const QString fConnection;
     QSqlDatabase fDatabase;
     // Of the open file.
+    /// Each is prepared when it is first run.
+    std::array<std::optional<QSqlQuery>, static_cast<std::size_t>(PassStatement::Last) + 1>
+        fQueries;
+    bool fSizeSeen = false;
+    qint64 fFree = 0;     ///< bytes of it that hold nothing
+    qint64 fInserted = 0; ///< the number of the row that was inserted last
     int fLayout = 0;
     FilePlace fPlace;
     FilePlace fLog;

@@ -20,6 +20,10 @@ namespace kelvo {
 namespace {
 
 constexpr int cMostAsides = 1000;
+/// Looking at the size of the file is worth its cost only so often, in passes.
+constexpr qint64 cBetweenLooksAtSize = 16;
+/// So many passes stay, however much they hold.
+constexpr qint64 cLeastPasses = 100;
 
 /// 0, or why not.
 int readToTheEnd(const QByteArray& name) {
@@ -114,12 +118,12 @@ PassDatabase::Outcome PassDatabase::prepareTables() {
 }
 
 /// A statement that cannot be prepared asks for a table or column that is not there.
-PassDatabase::Outcome PassDatabase::checkTables() const {
+PassDatabase::Outcome PassDatabase::checkTables() {
     for (int each = 0; each <= static_cast<int>(PassStatement::Last); ++each) {
-        QSqlQuery query(fDatabase);
-        if (Outcome outcome = prepare(query, static_cast<PassStatement>(each)); !outcome)
+        if (Outcome outcome = prepare(static_cast<PassStatement>(each)); !outcome)
             return outcome;
     }
+    fQueries = {}; // few of them are asked
     return {};
 }
 
@@ -133,6 +137,68 @@ PassDatabase::Outcome PassDatabase::takeOver() {
     }
     fLayout = cPassLayout;
     return {};
+}
+
+PassDatabase::Outcome PassDatabase::readSize(qint64& used) {
+    return run(PassStatement::Size, {}, [&](const QSqlQuery& row) {
+        used = row.value(0).toLongLong();
+        fFree = row.value(1).toLongLong();
+    });
+}
+
+PassDatabase::Outcome PassDatabase::dropBeyondBytes(qint64 newest) {
+    if (fSizeSeen && newest % cBetweenLooksAtSize != 0)
+        return {};
+    fSizeSeen = true;
+    const auto drop = [this](PassStatement range, const std::vector<PassStatement>& drops,
+                             qint64 least) {
+        for (;;) {
+            qint64 used = 0;
+            if (Outcome outcome = readSize(used); !outcome || used <= fLimits.bytes)
+                return outcome;
+            bool dropped = false;
+            if (Outcome outcome = dropOldest(range, drops, least, dropped); !outcome || !dropped)
+                return outcome;
+        }
+    };
+    if (Outcome outcome =
+            drop(PassStatement::RangeOfPasses,
+                 {PassStatement::DropCommands, PassStatement::DropPasses}, cLeastPasses);
+        !outcome)
+        return outcome;
+    return drop(PassStatement::RangeOfArrivals, {PassStatement::DropArrivals}, 0);
+}
+
+/// An eighth of those beyond the newest `least`.
+PassDatabase::Outcome PassDatabase::dropOldest(PassStatement range,
+                                               const std::vector<PassStatement>& drops,
+                                               qint64 least, bool& dropped) {
+    qint64 oldest = 0;
+    qint64 kept = 0;
+    if (Outcome outcome = run(range, {},
+                              [&](const QSqlQuery& row) {
+                                  oldest = row.value(0).toLongLong();
+                                  kept = row.value(1).toLongLong() - oldest + 1 - least;
+                              });
+        !outcome)
+        return outcome;
+    dropped = oldest > 0 && kept > 0;
+    if (!dropped)
+        return {};
+    for (const PassStatement each : drops) {
+        if (Outcome outcome = run(each, {oldest + kept / 8}); !outcome)
+            return outcome;
+    }
+    return {};
+}
+
+/// A file that has been much larger is written anew. Where that cannot be done it stays as it is:
+/// what is free in it is used again.
+void PassDatabase::giveBackRoom() {
+    if (fFree <= fLimits.bytes / 2)
+        return;
+    fFree = 0;
+    (void)run(QStringLiteral("VACUUM"));
 }
 
 bool PassDatabase::fileIsGone() const {

@@ -11,8 +11,37 @@ QVariant orNull(const std::optional<Number>& value) {
     return value ? QVariant::fromValue(*value) : QVariant();
 }
 
+/// Below this size the packing costs more time than the room is worth.
+constexpr qsizetype cWorthPacking = 1024;
+
+/// What qUncompress reads, with `bytes` as they are: their number, zlib's header, one stored block,
+/// and the sum over it.
+QByteArray unpackedBlock(const QByteArray& bytes) {
+    const auto number = [](quint32 value, int size) {
+        QByteArray digits(size, '\0');
+        for (int i = size; i-- > 0; value >>= 8U)
+            digits[i] = static_cast<char>(value & 0xffU);
+        return digits;
+    };
+    const auto swapped = [&number](quint32 value) {
+        return number((value & 0xffU) << 8U | value >> 8U, 2);
+    };
+    quint32 low = 1;
+    quint32 high = 0;
+    for (const char byte : bytes) {
+        low = (low + static_cast<unsigned char>(byte)) % 65521;
+        high = (high + low) % 65521;
+    }
+    const auto size = static_cast<quint32>(bytes.size());
+    return number(size, 4) + QByteArray("\x78\x01\x01", 3) + swapped(size) +
+           swapped(~size & 0xffffU) + bytes + number(high << 16U | low, 4);
+}
+
 QByteArray packed(const QString& text) {
-    return text.isEmpty() ? QByteArray("") : qCompress(text.toUtf8());
+    if (text.isEmpty())
+        return QByteArray("");
+    const QByteArray bytes = text.toUtf8();
+    return bytes.size() < cWorthPacking ? unpackedBlock(bytes) : qCompress(bytes);
 }
 
 QString unpacked(const QVariant& value) {
@@ -172,6 +201,19 @@ QString sqlOf(PassStatement statement) {
         return u"SELECT " + cPassColumns + u" FROM standing WHERE which = ?";
     case PassStatement::ReadTrouble:
         return QStringLiteral("SELECT since, passes FROM trouble");
+    case PassStatement::Begin:
+        return QStringLiteral("BEGIN IMMEDIATE");
+    case PassStatement::Commit:
+        return QStringLiteral("COMMIT");
+    case PassStatement::RangeOfPasses:
+        return QStringLiteral("SELECT (SELECT min(id) FROM pass), (SELECT max(id) FROM pass)");
+    case PassStatement::RangeOfArrivals:
+        return QStringLiteral(
+            "SELECT (SELECT min(id) FROM arrival), (SELECT max(id) FROM arrival)");
+    case PassStatement::Size:
+        return QStringLiteral("SELECT (page_count - freelist_count) * page_size, "
+                              "freelist_count * page_size FROM pragma_page_count, "
+                              "pragma_freelist_count, pragma_page_size");
     case PassStatement::SamePass:
         return QStringLiteral("SELECT id FROM pass WHERE id > (SELECT max(id) FROM pass) - 1000 "
                               "AND began = ? AND seconds = ?");

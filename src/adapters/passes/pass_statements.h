@@ -37,8 +37,13 @@ enum class PassStatement {
     Days,             ///< the first one, as ISO has it
     ReadStanding,     ///< StandingRow
     ReadTrouble,
-    SamePass,      ///< of the newest; when it began, in milliseconds since 1970; seconds
-    WhatLiesThere, ///< application, layout, tables, whether there is one of passes
+    Begin,
+    Commit,
+    RangeOfPasses,   ///< the oldest and the newest
+    RangeOfArrivals, ///< the same
+    Size,            ///< bytes in use, bytes free
+    SamePass,        ///< of the newest; when it began, in milliseconds since 1970; seconds
+    WhatLiesThere,   ///< application, layout, tables, whether there is one of passes
     Last = WhatLiesThere
 };
 

@@ -12,6 +12,11 @@ namespace {
 
 /// With the words around it, it stays below what the log takes as one line.
 constexpr std::size_t cKeptErrors = std::size_t{48} * 1024;
+/// A command that prints line by line wakes us no more often than this; in that time it fills no
+/// pipe.
+constexpr auto cGathering = std::chrono::milliseconds(5);
+/// Who has more to say than this at a time is read without a rest.
+constexpr std::size_t cMuch = std::size_t{64} * 1024;
 /// A flood must not hold up the quit: no more than a full pipe is read after giving up.
 constexpr std::size_t cLastRead = std::size_t{1024} * 1024;
 
@@ -48,15 +53,21 @@ CommandCapture::CommandCapture(const Command& command, const ShellChild& child, 
                                      {cancelled, POLLIN, 0}} {}
 
 CommandEnd CommandCapture::follow(const CommandDeadline& deadline) {
+    bool gathers = false;
     while (fWatched[Output].fd >= 0 || fWatched[Ended].fd >= 0) {
         if (deadline && Clock::now() >= *deadline)
             return CommandEnd::Cut;
+        if (gathers)
+            letGather();
+        gathers = false;
         if (::poll(fWatched.data(), fWatched.size(), millisecondsUntil(deadline)) <= 0)
             continue;
+        std::size_t size = 0;
         if (fWatched[Errors].revents != 0)
-            readErrors();
+            size += readErrors();
         if (fWatched[Output].revents != 0)
-            readOutput();
+            size += readOutput();
+        gathers = size > 0 && size < cMuch && fWatched[Ended].fd >= 0;
         if (fOutput.total() > fCommand.bounds.most)
             return CommandEnd::TooMuch;
         if (fWatched[Ended].revents != 0)
@@ -67,6 +78,12 @@ CommandEnd CommandCapture::follow(const CommandDeadline& deadline) {
             return CommandEnd::Cancelled;
     }
     return CommandEnd::Own;
+}
+
+/// Waits a little for more output; anything else ends the wait.
+void CommandCapture::letGather() {
+    const std::span<pollfd> others = std::span(fWatched).subspan(Ended);
+    (void)::poll(others.data(), others.size(), static_cast<int>(cGathering.count()));
 }
 
 void CommandCapture::readRest() {

@@ -46,6 +46,7 @@ public:
     CommandResult result();
 
 private:
+    void letGather();
     std::size_t readSome(int stream, std::span<char> room);
     std::size_t readOutput();
     std::size_t readErrors();

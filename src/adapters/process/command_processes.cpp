@@ -11,6 +11,7 @@
 #include <charconv>
 #include <cinttypes>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <set>
@@ -116,7 +117,15 @@ std::uint64_t startOf(pid_t pid) {
     return statusOf(pid).start;
 }
 
-std::vector<pid_t> livingProcesses(const CommandProcesses& commands) {
+bool numbersStillRise(pid_t pid) {
+    const UniqueFd file(::open("/proc/loadavg", O_RDONLY | O_CLOEXEC));
+    std::array<char, 128> text{};
+    const ssize_t size = file ? ::read(file.get(), text.data(), text.size() - 1) : -1;
+    const char* const last = size > 0 ? std::strrchr(text.data(), ' ') : nullptr;
+    return last != nullptr && std::atoi(last) >= pid; // NOLINT: 0 where there is no number
+}
+
+std::vector<pid_t> livingProcesses(const CommandProcesses& commands, pid_t from) {
     std::vector<pid_t> found;
     const pid_t self = ::getpid();
     const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir("/proc"), ::closedir);
@@ -127,7 +136,8 @@ std::vector<pid_t> livingProcesses(const CommandProcesses& commands) {
         pid_t pid = 0;
         const char* const end = entry->d_name + std::strlen(entry->d_name);
         const auto [stop, error] = std::from_chars(entry->d_name, end, pid);
-        if (error == std::errc() && stop == end && pid != self && belongs(pid, commands))
+        if (error == std::errc() && stop == end && pid >= from && pid != self &&
+            belongs(pid, commands))
             found.push_back(pid);
     }
     return found;

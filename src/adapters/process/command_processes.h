@@ -28,8 +28,13 @@ struct CommandProcesses {
 std::uint64_t startOf(pid_t pid);
 
 /// The living processes (no zombies, not this one) that belong to `commands`. Costs a walk over
-/// /proc.
-std::vector<pid_t> livingProcesses(const CommandProcesses& commands);
+/// /proc, with a look at each process from the number `from` on; a walk that is to miss none of a
+/// command's processes may begin at its own number only while numbers have not come round since.
+std::vector<pid_t> livingProcesses(const CommandProcesses& commands, pid_t from = 0);
+
+/// Whether numbers given out after `pid`, at most 5 s ago, are higher than it. They come round
+/// after 32,768 at the earliest.
+bool numbersStillRise(pid_t pid);
 
 /// Sends `signal` once to each of them, newcomers included, and waits until none is left, at most
 /// `patience`. Returns whether none is left. Any thread; waits without polling in circles.

@@ -16,12 +16,17 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
+#include <utility>
 
 namespace kelvo {
 namespace {
 
 using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
 
+/// In that time the numbers of processes do not come round.
+constexpr auto cQuick = 5s;
 /// The exit statuses that shells give where there is none.
 constexpr int cTimeIsUp = 124;
 constexpr int cCannotStart = 126;
@@ -85,6 +90,7 @@ CommandResult PosixShellRunner::run(const Command& command) {
         if (failure == 0) {
             fSessions.push_back({child.pid, child.pipes, cancelled.get()});
             fTable.add(child);
+            fStarted = true;
             ++fCallers;
         }
     }
@@ -93,6 +99,7 @@ CommandResult PosixShellRunner::run(const Command& command) {
         return {{}, {}, cCannotStart};
     }
 
+    const auto began = Clock::now();
     if (command.started)
         command.started(child.pid);
     CommandCapture capture(command, child, fGiveUp.get(), cancelled.get());
@@ -102,7 +109,7 @@ CommandResult PosixShellRunner::run(const Command& command) {
     else if (end != CommandEnd::Own)
         endSession(child.pid);
     else if (command.leavesNothing)
-        endWhatIsLeft(child.pid);
+        endWhatIsLeft(child.pid, Clock::now() - began < cQuick);
     capture.readRest();
     CommandResult result = capture.result();
     logAbout(command, result, end);
@@ -136,8 +143,10 @@ CommandEnd PosixShellRunner::cutOff(pid_t pid, const Command& command) {
     return hadEnded ? CommandEnd::Own : CommandEnd::Cut;
 }
 
-void PosixShellRunner::endWhatIsLeft(pid_t pid) {
-    const std::size_t left = givenUp() ? 0 : livingProcesses({{&pid, 1}, {}}).size();
+/// After a quick command only the processes that came after it are looked at.
+void PosixShellRunner::endWhatIsLeft(pid_t pid, bool quick) {
+    const pid_t from = quick && numbersStillRise(pid) ? pid : 0;
+    const std::size_t left = givenUp() ? 0 : livingProcesses({{&pid, 1}, {}}, from).size();
     if (left == 0)
         return;
     fConsole.log(QStringLiteral("A shell command has left %1 of its processes running; they are "
@@ -192,11 +201,15 @@ std::optional<FileBeingWritten> PosixShellRunner::fileBeingWritten(CommandId com
 
 void PosixShellRunner::endAll() {
     const std::lock_guard once(fEndMutex);
+    if (std::exchange(fEnded, true))
+        return;
     std::vector<pid_t> sessions;
     std::vector<ino_t> pipes;
     {
         const std::lock_guard lock(fMutex);
         fEnding = true;
+        if (!fStarted)
+            return;
         for (const Session& session : fSessions) {
             sessions.push_back(session.pid);
             pipes.insert(pipes.end(), session.pipes.begin(), session.pipes.end());

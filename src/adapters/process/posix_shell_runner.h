@@ -57,7 +57,7 @@ private:
     CommandEnd cutOff(pid_t pid, const Command& command);
     void logAbout(const Command& command, const CommandResult& result, CommandEnd end);
     void logAbout(const Command& command, const QString& what);
-    void endWhatIsLeft(pid_t pid);
+    void endWhatIsLeft(pid_t pid, bool quick);
     bool givenUp() const;
     /// The shell's exit status; nothing when it was given up or cancelled.
     std::optional<int> leave(pid_t pid, CommandEnd end);
@@ -72,6 +72,8 @@ private:
     CommandTable fTable; ///< of the same; guarded by the same mutex
     int fCallers = 0;
     bool fEnding = false;
+    bool fEnded = false;   ///< `endAll` has done its work; guarded by fEndMutex
+    bool fStarted = false; ///< a command ever was
 };
 
 } // namespace kelvo

@@ -9,6 +9,7 @@
 #include "support/text.h"
 #include "ui/kelvo_status_menu_handler.h"
 #include "ui/main_window_controller.h"
+#include "ui/template_setting.h"
 
 #include <utility>
 
@@ -34,6 +35,7 @@ AppDelegate::AppDelegate(AppDelegateParts parts) : fParts(std::move(parts)) {
     printInside(u"init()");
     doBasicStartUpStuff();
     registerFactoryDefaults(fParts.mainBundle, fParts.defaults, fParts.console);
+    TemplateSetting(fParts.defaults).takeOver();
 }
 
 AppDelegate::~AppDelegate() {
