@@ -13,7 +13,9 @@ kelvo_tests(unit
     unit/connection_watch_test.cpp
     unit/dnssd_service_test.cpp
     unit/duplicate_check_test.cpp
+    unit/copy_answers_test.cpp
     unit/folder_selection_test.cpp
+    unit/guest_service_test.cpp
     unit/headless_front_test.cpp
     unit/health_words_test.cpp
     unit/host_answer_test.cpp

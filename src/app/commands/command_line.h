@@ -1,6 +1,7 @@
 // The program's command line.
 #pragma once
 
+#include "app/commands/copy_request.h"
 #include "app/commands/passes.h"
 #include "app/commands/settings_commands.h"
 #include "app/commands/window_options.h"
@@ -10,13 +11,24 @@
 
 namespace kelvo {
 
-enum class LaunchKind { Window, Headless, Once, Passes, Settings, PrintVersion, PrintHelp, Refuse };
+enum class LaunchKind {
+    Window,
+    Headless,
+    Once,
+    Ask, ///< the running copy
+    Passes,
+    Settings,
+    PrintVersion,
+    PrintHelp,
+    Refuse,
+};
 
 struct CommandLine {
     LaunchKind kind = LaunchKind::Window;
     bool autorelaunched = false; ///< started again by the sentinel, not by a person
     QString message;             ///< what to print for PrintVersion, PrintHelp and Refuse
     bool json = false;           ///< for Once
+    CopyRequest copy{};          ///< for Ask
     PassesRequest passes{};      ///< for Passes
     SettingsRequest settings{};  ///< for Settings
     WindowOptions window{};      ///< for Window
