@@ -28,6 +28,7 @@ kelvo_tests(unit
     unit/network_path_monitoring_test.cpp
     unit/notification_center_test.cpp
     unit/once_test.cpp
+    unit/options_test.cpp
     unit/pass_cause_test.cpp
     unit/pass_cause_rules_test.cpp
     unit/passes_test.cpp
@@ -71,6 +72,7 @@ kelvo_tests(unit
   LINKS kelvo_app_start kelvo_app_commands kelvo_adapters_console kelvo_passes
 )
 target_compile_definitions(unit_tests PRIVATE
+  KELVO_COMPLETIONS="${CMAKE_SOURCE_DIR}/resources/completions"
   KELVO_TEXTS="${CMAKE_CURRENT_SOURCE_DIR}/texts"
   KELVO_PREFERENCE_KEYS="${CMAKE_SOURCE_DIR}/src/settings/preference_keys.h"
   KELVO_MANUAL="${CMAKE_SOURCE_DIR}/docs/man/kelvo-mirror.1")
