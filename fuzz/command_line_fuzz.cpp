@@ -104,6 +104,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         line.kind == LaunchKind::PrintHelp || line.kind == LaunchKind::PrintVersion;
     require((line.kind == LaunchKind::Refuse || printed) == !line.message.isEmpty());
     require(!line.json || line.kind == LaunchKind::Once);
+    require(!line.copy.maxAge || (line.kind == LaunchKind::Ask && *line.copy.maxAge >= 0 &&
+                                  line.copy.verb == CopyVerb::Status));
+    require(!line.copy.json || line.kind == LaunchKind::Ask);
     if (complete)
         checkRequest(line.settings);
     if (line.kind == LaunchKind::Passes)

@@ -19,7 +19,7 @@ MachineParts::MachineParts(const FrontKind& kind)
       terminal(files, console, mainQueue, bgQueue),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
-      singleCopy(QFile::encodeName(logFolder()).toStdString(), console),
+      singleCopy(QFile::encodeName(copyFolder()).toStdString(), console),
       sentinelLauncher(commands.runningCommands()), dnssdBrowser(console, mainQueue),
       notices([this](const Notice& notice) {
           if (fStatusMenu.showNotice)

@@ -1,4 +1,5 @@
 // The way in: reads the command line, then runs the program with a window or without.
+#include "app/commands/ask.h"
 #include "app/commands/command_line.h"
 #include "app/commands/once.h"
 #include "app/commands/passes.h"
@@ -116,6 +117,10 @@ int main(int argc, char** argv) {
     case kelvo::LaunchKind::Once: {
         const QCoreApplication application(argc, argv);
         return printAnswer(kelvo::runOnce(commandLine.json));
+    }
+    case kelvo::LaunchKind::Ask: {
+        const QCoreApplication application(argc, argv);
+        return kelvo::runCopyCommand(commandLine.copy);
     }
     case kelvo::LaunchKind::Passes: {
         const QCoreApplication application(argc, argv);

@@ -1,7 +1,10 @@
 #include "app/places.h"
 
+#include "adapters/console/rotating_log_file.h"
+
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace kelvo {
@@ -18,6 +21,11 @@ QString autostartFolder() {
 
 QString resourceFolder() {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/kelvo-mirror");
+}
+
+QString copyFolder() {
+    return QFileInfo(RotatingLogFile().defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")))
+        .path();
 }
 
 QString passesFile() {

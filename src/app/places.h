@@ -13,6 +13,9 @@ QString autostartFolder();
 /// Beside bin/ in the build tree and installed alike.
 QString resourceFolder();
 
+/// Where the running copy has its place: its lock and its socket, beside the log file.
+QString copyFolder();
+
 /// The record of passes, in the user's state folder.
 QString passesFile();
 

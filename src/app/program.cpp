@@ -2,6 +2,7 @@
 
 #include "adapters/desktop/activation_token.h"
 #include "adapters/process/service_manager.h"
+#include "app/commands/guest_service.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
 #include "app/start/app_delegate.h"
@@ -126,8 +127,9 @@ private:
     }
 
     std::shared_ptr<ViewController> makeViewController() {
+        const EngineParts engine = fParts.engineParts(fParts.defaults);
         auto controller = std::make_shared<ViewController>(ViewControllerParts{
-            .engine = fParts.engineParts(fParts.defaults),
+            .engine = engine,
             .outlets = front().outlets(),
             .passStore = fParts.passes,
             .notificationCenter = fParts.notificationCenter,
@@ -142,6 +144,30 @@ private:
                 MainWindowController& window = *front().windowController();
                 return window.contentViewController() ? &window : nullptr;
             },
+            .workLooked =
+                [this] {
+                    if (fGuestService)
+                        fGuestService->looked();
+                },
+            .messageShown =
+                [this](const AttributedString& message) {
+                    if (fGuestService)
+                        fGuestService->messageShown(message);
+                },
+            .alertShown =
+                [this](const Alert& alert) {
+                    if (fGuestService)
+                        fGuestService->alertShown(alert);
+                },
+        });
+        fGuestService.emplace(GuestServiceParts{
+            .guests = fParts.singleCopy,
+            .controller = *controller,
+            .copy = {.version = QStringView(cVersion).toString(),
+                     .process = QCoreApplication::applicationPid(),
+                     .since = QDateTime::currentDateTimeUtc(),
+                     .window = fKind == FrontKind::Window},
+            .clock = engine.clock,
         });
         front().sendActionsTo(*controller, *fDelegate);
         return controller;
@@ -211,6 +237,7 @@ private:
     InterfaceRegistry fStoryboard;
     std::unique_ptr<Front> fFront;
     std::optional<AppDelegate> fDelegate;
+    std::optional<GuestService> fGuestService; ///< gone before the controller that it works with
 };
 
 } // namespace

@@ -1,10 +1,11 @@
 // StatusLine: brings status messages to the status field.
 #pragma once
 
-#include "support/status_color.h"
+#include "support/attributed_string.h"
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -16,8 +17,10 @@ class UserDefaults;
 
 class StatusLine {
 public:
-    /// A field that is gone when a message is due drops the message.
-    StatusLine(UserDefaults& defaults, DispatchQueue& mainQueue, std::weak_ptr<StatusField> field);
+    /// A field that is gone when a message is due drops the message. `shown` is told on the main
+    /// thread what the field shows, an empty text when it was cleared; it may be empty.
+    StatusLine(UserDefaults& defaults, DispatchQueue& mainQueue, std::weak_ptr<StatusField> field,
+               std::function<void(const AttributedString&)> shown = {});
 
     /// Shows `mesg` in `color`, centred when asked for, 0.1 s from now; no `mesg` clears the line.
     /// The saved status text is wiped with it. Any thread; returns at once.
@@ -27,6 +30,7 @@ private:
     UserDefaults& fDefaults;
     DispatchQueue& fMainQueue;
     std::weak_ptr<StatusField> ibStatusTextField;
+    const std::function<void(const AttributedString&)> fShown;
 };
 
 } // namespace kelvo

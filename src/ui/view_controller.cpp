@@ -39,9 +39,10 @@ QString objectText(const void* object, QStringView type) {
 } // namespace
 
 ViewController::ViewController(const ViewControllerParts& parts)
-    : fParts(parts),
-      fStatusLine(parts.engine.defaults, parts.engine.mainQueue, parts.outlets.ibStatusTextField),
-      fAlerts(parts.engine.mainQueue, parts.engine.console, parts.outlets.alertPresenter),
+    : fParts(parts), fAlertTap(parts.outlets.alertPresenter, parts.alertShown),
+      fStatusLine(parts.engine.defaults, parts.engine.mainQueue, parts.outlets.ibStatusTextField,
+                  parts.messageShown),
+      fAlerts(parts.engine.mainQueue, parts.engine.console, fAlertTap),
       fEngine(
           parts.engine,
           {.updateStatusMessage =
@@ -66,7 +67,8 @@ ViewController::ViewController(const ViewControllerParts& parts)
                  [&view = parts.outlets.view, &menu = parts.statusMenu](const WorkState& work) {
                      view.showWork(work);
                      menu.showWork(work);
-                 }}),
+                 },
+             .looked = parts.workLooked}),
       fRepeatTimer(parts.engine.mainQueue, parts.engine.console),
       fStartButtonTitle(parts.outlets.ibStartButton, parts.engine.defaults, parts.engine.mainQueue,
                         parts.engine.console),
@@ -164,7 +166,7 @@ ViewController::ViewController(const ViewControllerParts& parts)
       fKeyReplacement({
           .files = parts.engine.files,
           .mainQueue = parts.engine.mainQueue,
-          .alerts = parts.outlets.alertPresenter,
+          .alerts = fAlertTap,
           .now = parts.engine.clock.now,
       }),
       fShare({
@@ -239,7 +241,11 @@ void ViewController::startScanOnLaunch() {
         mainQueue.asyncAfter(1.0, [this] { startScanOnLaunch(); });
     else if (defaults.boolForKey(prefAutoStartScanOnLaunch) &&
              !defaults.boolForKey(prefEnableScanning))
-        mainQueue.asyncAfter(1.0, [this] { clickStartButton(); });
+        mainQueue.asyncAfter(1.0, [this] {
+            // Another program may have been quicker; a second click would switch it off.
+            if (!fParts.engine.defaults.boolForKey(prefEnableScanning))
+                clickStartButton();
+        });
 }
 
 void ViewController::handWindowControllerOver() {

@@ -12,6 +12,7 @@
 #include "remote/smb_share_access.h"
 #include "remote/ssh_key_provisioning.h"
 #include "sync/repeat_timer_actions.h"
+#include "ui/alert_tap.h"
 #include "ui/alerts.h"
 #include "ui/command_example.h"
 #include "ui/folder_selection.h"
@@ -56,6 +57,11 @@ struct ViewControllerParts {
     const ShareCommands& shareCommands;
     /// The controller of the view's window; nothing as long as there is none.
     std::function<MainWindowController*()> windowController;
+    /// For somebody who follows from elsewhere: told after each look at the work, of each status
+    /// message and of each alert. Each may be empty.
+    std::function<void()> workLooked = {};
+    std::function<void(const AttributedString&)> messageShown = {};
+    std::function<void(const Alert&)> alertShown = {};
 };
 
 /// A tab that is about to be shown.
@@ -139,6 +145,9 @@ public:
     void setMissing(std::vector<ChecklistLine> missing) { fWork.setMissing(std::move(missing)); }
     /// What the program is doing at this moment.
     WorkState work() { return fWork.state(); }
+    WorkFacts workFacts() const { return fWork.facts(); }
+    /// Other programs follow the work, or none does any more.
+    void setFollowed(bool followed) { fWork.setFollowed(followed); }
 
     // What the tray menu asks for.
     void clickStartButton() override { fEngine.syncCycle.clickStartButton(); }
@@ -162,6 +171,7 @@ private:
     void printInside(QStringView operation, QStringView detail = u".......") const;
 
     const ViewControllerParts fParts;
+    AlertTap fAlertTap;
     StatusLine fStatusLine;
     Alerts fAlerts;
     Engine fEngine;

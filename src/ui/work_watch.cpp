@@ -1,7 +1,6 @@
 #include "ui/work_watch.h"
 
 #include "ports/dispatch_queue.h"
-#include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "ui/health_words.h"
 #include "ui/pass_words.h"
@@ -80,31 +79,51 @@ void WorkWatch::setMissing(std::vector<ChecklistLine> missing) {
     look();
 }
 
-WorkState WorkWatch::state() {
+void WorkWatch::setFollowed(bool followed) {
+    if (std::exchange(fFollowed, followed) != followed)
+        look();
+}
+
+WorkFacts WorkWatch::facts() const {
     const CycleState cycle = fParts.cycleState();
     const std::vector<PassUnderWay> passes = fParts.passesUnderWay();
-    HealthWords words = healthWords({.standing = fStanding,
-                                     .settings = fParts.defaults.standing(),
-                                     .missing = fMissing,
+    WorkFacts facts;
+    facts.phase = phase(cycle, passes);
+    facts.on = fParts.defaults.boolForKey(prefEnableScanning);
+    if (!passes.empty())
+        facts.pass = passes.front();
+    if (facts.phase == WorkPhase::Resting)
+        facts.nextPass = cycle.nextPass;
+    facts.standing = fStanding;
+    facts.settings = fParts.defaults.standing();
+    facts.missing = fMissing;
+    return facts;
+}
+
+WorkState WorkWatch::state() {
+    const WorkFacts facts = this->facts();
+    HealthWords words = healthWords({.standing = facts.standing,
+                                     .settings = facts.settings,
+                                     .missing = facts.missing,
                                      .now = fParts.clock.now()});
-    fNextPass = cycle.nextPass;
+    fNextPass = facts.nextPass;
     WorkState work;
-    work.phase = phase(cycle, passes);
+    work.phase = facts.phase;
     work.nextPass = waitingText(work.phase);
     work.health = std::move(words.health);
     work.remarks = std::move(words.remarks);
     HeadlineFacts headline;
-    if (passes.empty()) {
-        fTimeLeft = {};
+    if (facts.pass) {
+        describeProgress(work, *facts.pass, fTimeLeft);
+        headline.step = facts.pass->progress.step;
+        headline.kind = facts.pass->kind;
     } else {
-        describeProgress(work, passes.front(), fTimeLeft);
-        headline.step = passes.front().progress.step;
-        headline.kind = passes.front().kind;
+        fTimeLeft = {};
     }
-    if (work.phase == WorkPhase::Resting && cycle.nextPass) {
+    if (facts.nextPass) {
         work.maySyncNow = true;
         if (isSeen())
-            work.nextPass = nextPassText(*(headline.nextPass = cycle.nextPass));
+            work.nextPass = nextPassText(*(headline.nextPass = facts.nextPass));
     }
     work.mayCancel = work.phase == WorkPhase::Running || work.phase == WorkPhase::Finishing;
     headline.matter = work.phase == WorkPhase::Missing && !fMissing.empty() ? fMissing.front().text
@@ -133,13 +152,15 @@ void WorkWatch::refresh() {
         fParts.show(*fShown);
     }
     plan();
+    if (fParts.looked)
+        fParts.looked();
 }
 
 /// The next moment at which a text of what is shown stops being true.
 void WorkWatch::plan() {
     const bool lines = fAttention == Attention::Lines;
     if (fShown->mayCancel || fShown->phase == WorkPhase::Cancelling)
-        tickIn(isSeen() ? cSeenPace : lines ? cLinesPace : cUnseenPace);
+        tickIn(isSeen() ? cSeenPace : lines || fFollowed ? cLinesPace : cUnseenPace);
     else if (isSeen() && fShown->maySyncNow && fNextPass)
         tickIn(nextPassHolds(*fNextPass) + cJustAfter);
     if (isSeen() && !fParts.defaults.standing().fault.isEmpty())

@@ -4,6 +4,7 @@
 #include "passes/running_pass.h"
 #include "ports/main_view.h"
 #include "ports/pass_store.h"
+#include "ports/user_defaults.h"
 #include "support/subscription.h"
 #include "support/work_state.h"
 #include "sync/sync_cycle.h"
@@ -17,7 +18,17 @@
 namespace kelvo {
 
 class DispatchQueue;
-class UserDefaults;
+
+/// What the texts of a WorkState are made of.
+struct WorkFacts {
+    WorkPhase phase = WorkPhase::Off;
+    bool on = false;                       ///< syncing is switched on
+    std::optional<PassUnderWay> pass = {}; ///< that runs
+    std::optional<double> nextPass = {};   ///< seconds until the planned one begins, at rest
+    Standing standing = {};
+    SettingsStanding settings = {};
+    std::vector<ChecklistLine> missing = {};
+};
 
 /// What the watch works with; all of it outlives the watch.
 struct WorkWatchParts {
@@ -28,10 +39,13 @@ struct WorkWatchParts {
     std::function<CycleState()> cycleState;
     PassClock clock;
     std::function<void(const WorkState&)> show;
+    /// Told after each look, be there something new or not. May be empty.
+    std::function<void()> looked = {};
 };
 
 /// Shows each state that differs from the one before. While a pass runs it looks twice a second if
-/// somebody sees the window or the tray's menu, once a second for lines, every 10 s otherwise. At
+/// somebody sees the window or the tray's menu, once a second for lines and for programs that
+/// follow, every 10 s otherwise. At
 /// rest it wakes up when a text stops being true, and never for lines; the countdown to the next
 /// pass stands only where it is seen. What happens is shown within 0.1 s, in lines within 1 s.
 /// Main thread only. The main queue must have ended before it is destroyed.
@@ -50,11 +64,15 @@ public:
     /// The tray's menu is seen, or not any more; shows before it returns.
     void setMenuShown(bool shown);
 
+    /// Other programs follow the work, or none does any more.
+    void setFollowed(bool followed);
+
     /// What is missing before the next pass can go well.
     void setMissing(std::vector<ChecklistLine> missing);
 
     /// How it is at this moment.
     WorkState state();
+    WorkFacts facts() const;
 
 private:
     void readStanding();
@@ -69,6 +87,7 @@ private:
     std::vector<ChecklistLine> fMissing;
     Attention fAttention = Attention::Unseen;
     bool fMenuShown = false;
+    bool fFollowed = false;
     TimeLeftWords fTimeLeft;
     std::optional<WorkState> fShown;
     std::optional<double> fNextPass; ///< seconds, as last looked at

@@ -17,6 +17,7 @@ kelvo_tests(contract
     contract/command_processes_test.cpp
     contract/command_table_test.cpp
     contract/console_contract_test.cpp
+    contract/copy_client_test.cpp
     contract/desktop_notices_contract_test.cpp
     contract/detached_start_test.cpp
     contract/dispatch_queue_contract_test.cpp
@@ -27,6 +28,7 @@ kelvo_tests(contract
     contract/file_manager_contract_test.cpp
     contract/file_trust_test.cpp
     contract/file_watch_test.cpp
+    contract/guests_contract_test.cpp
     contract/line_backlog_test.cpp
     contract/local_file_manager_test.cpp
     contract/log_file_contract_test.cpp

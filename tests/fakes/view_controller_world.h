@@ -80,6 +80,10 @@ public:
     MainWindowController* window = &windowController;
     MemoryPassStore passStore{mainQueue};
     std::vector<PassRecord> passes; ///< every record so far
+    // Somebody who follows from elsewhere; nobody at first.
+    std::function<void()> workLooked = [] {};
+    std::function<void(const AttributedString&)> messageShown = [](const AttributedString&) {};
+    std::function<void(const Alert&)> alertShown = [](const Alert&) {};
     ViewController controller{{
         .engine = {.defaults = defaults,
                    .mainQueue = mainQueue,
@@ -127,6 +131,9 @@ public:
         .statusMenu = statusMenu,
         .shareCommands = shareCommands,
         .windowController = [this] { return window; },
+        .workLooked = [this] { workLooked(); },
+        .messageShown = [this](const AttributedString& message) { messageShown(message); },
+        .alertShown = [this](const Alert& alert) { alertShown(alert); },
     }};
 };
 

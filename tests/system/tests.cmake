@@ -9,6 +9,7 @@ target_link_libraries(watched_program PRIVATE kelvo_app_start kelvo_adapters)
 
 kelvo_tests(system
   SOURCES
+    system/ask_system_test.cpp
     system/end_system_test.cpp
     system/far_end_system_test.cpp
     system/flood_system_test.cpp

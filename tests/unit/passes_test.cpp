@@ -1,4 +1,5 @@
 #include "app/commands/command_line.h"
+#include "app/commands/options.h"
 #include "app/commands/passes.h"
 
 #include <QJsonArray>
@@ -159,7 +160,16 @@ TEST(CommandLineTest, EachRefusal_SaysWhy) {
                "(2026-11-22T19:02), or 30min, 2h, 3d"},
           Case{"--since 2h", "--since goes with --passes"},
           Case{"--once --headless", "--once and --headless do not go together"},
-          Case{"--json", "--json goes with --once or --passes"},
+          Case{"--json", "--json goes with --once, --passes, --status or --follow"},
+          Case{"--start --json", "--json goes with --once, --passes, --status or --follow"},
+          Case{"--follow --max-age 2h", "--max-age goes with --status"},
+          Case{"--status --max-age soon", "'soon' is no age: --max-age takes 30min, 2h, 3d"},
+          Case{"--status --max-age 2026-11-22",
+               "'2026-11-22' is no age: --max-age takes 30min, 2h, 3d"},
+          Case{"--start --stop", "--start and --stop do not go together"},
+          Case{"--headless --status", "--headless and --status do not go together"},
+          Case{"--cancel --since 2h", "--since goes with --passes"},
+          Case{"--status -reverse", "'-reverse' is for the window, and --status opens none"},
           Case{"--get", "it is '--get KEY', and nothing else with it"},
           Case{"--set a", "it is '--set KEY VALUE', and nothing else with it"},
           Case{"--unset", "it is '--unset KEY', and nothing else with it"},
@@ -213,45 +223,46 @@ TEST(CommandLineTest, OptionsOfTheToolkit_AreHandedOnAsItTakesThem) {
               LaunchKind::PrintHelp);
 }
 
+TEST(CommandLineTest, RunningCopy_IsAskedByTheNamesOfItsRequests) {
+    for (const CopyVerbName& each : copyVerbs()) {
+        const CommandLine line =
+            parseCommandLine({QStringLiteral("m"), u"--" + each.name.toString()});
+        EXPECT_EQ(line.kind, LaunchKind::Ask) << line.message.toStdString();
+        EXPECT_EQ(line.copy.verb, each.verb);
+        EXPECT_FALSE(line.copy.json);
+    }
+    const CommandLine line =
+        parseCommandLine(QStringLiteral("m --json --status --max-age 2h").split(u' '));
+    EXPECT_EQ(line.kind, LaunchKind::Ask);
+    EXPECT_TRUE(line.copy.json);
+    EXPECT_EQ(line.copy.maxAge, 7200);
+}
+
 TEST(CommandLineTest, Help_NamesEveryOptionForPeople) {
     for (const QString& word : {QStringLiteral("-h"), QStringLiteral("--help")}) {
         const CommandLine line = parseCommandLine({QStringLiteral("m"), word});
         EXPECT_EQ(line.kind, LaunchKind::PrintHelp);
-        EXPECT_EQ(
-            line.message.simplified(),
-            QStringLiteral(
-                "Usage: kelvo-mirror [options] "
-                "Keeps a local folder supplied with movie files from a remote Mac. "
-                "Options: "
-                "--headless Run without display, window or tray; status and alerts go to standard "
-                "output. "
-                "--no-sentinel With --headless: no sentinel watches over the program, because "
-                "whoever starts it (systemd) starts it again after a crash. "
-                "--once Run one pass with the stored settings, tell how it went and end with a "
-                "code that names the kind of trouble. "
-                "--passes Print the record of passes, newest last. "
-                "--since <WHEN> With --passes: those since a date, a date-time, or 30min, 2h, 3d "
-                "ago. "
-                "--json With --once, --passes: tell each pass as one JSON object on a line. "
-                "--get <KEY> Print a setting. "
-                "--set <KEY> <VALUE> Change a setting. "
-                "--unset <KEY> Give a setting its factory value back. "
-                "--settings Print all settings as JSON. "
-                "--setup Set the Mac up from a terminal: asks what the window asks, installs the "
-                "key and tests the connection. The options that follow answer its questions. "
-                "--mac <HOST> With --setup: the Mac's host name or address. "
-                "--account <NAME> With --setup: the account on the Mac. "
-                "--folder <PATH> With --setup: the folder with the movies on the Mac. "
-                "--destination <PATH> With --setup: the folder here that the movies come into. "
-                "--make-destination With --setup: make that folder if it is missing. "
-                "--new-key With --setup: make a new key; that of today is kept. "
-                "--enable With --setup: enable the service (systemd user unit). "
-                "--no-enable With --setup: leave the service as it is. "
-                "--linger With --setup: run the service also while you are not logged in. "
-                "--no-linger With --setup: leave that as it is. "
-                "-V, --version Print the version and end. "
-                "-h, --help Print this help and end."))
+        EXPECT_TRUE(line.message.startsWith(
+            u"Usage: kelvo-mirror [options]\n"
+            u"Keeps a local folder supplied with movie files from a remote Mac.\n"));
+        EXPECT_TRUE(line.message.contains(
+            u"  --since <WHEN>       With --passes: those since a date, a date-time, or 30min,\n"
+            u"                       2h, 3d ago.\n"))
             << line.message.toStdString();
+        EXPECT_TRUE(line.message.contains(u"\n\nSettings:\n  --get <KEY>          Print a "
+                                          u"setting.\n  --set <KEY> <VALUE>  Change a setting.\n"))
+            << line.message.toStdString();
+        const QString plain = line.message.simplified();
+        for (const Option& each : optionTable()) {
+            const bool isShown = each.group != OptionGroup::Hidden;
+            EXPECT_EQ(plain.contains(QString(u"--" + each.name + u' ')), isShown)
+                << qPrintable(each.name.toString());
+            EXPECT_TRUE(plain.contains(each.help)) << qPrintable(each.name.toString());
+        }
+        for (const QString& each : line.message.split(u'\n')) {
+            EXPECT_LE(each.size(), 80) << each.toStdString();
+            EXPECT_FALSE(each.endsWith(u' ')) << each.toStdString();
+        }
     }
 }
 

@@ -13,7 +13,9 @@ kelvo_tests(unit
     unit/connection_watch_test.cpp
     unit/dnssd_service_test.cpp
     unit/duplicate_check_test.cpp
+    unit/copy_answers_test.cpp
     unit/folder_selection_test.cpp
+    unit/guest_service_test.cpp
     unit/headless_front_test.cpp
     unit/health_words_test.cpp
     unit/host_answer_test.cpp
@@ -26,6 +28,7 @@ kelvo_tests(unit
     unit/network_path_monitoring_test.cpp
     unit/notification_center_test.cpp
     unit/once_test.cpp
+    unit/options_test.cpp
     unit/pass_cause_test.cpp
     unit/pass_cause_rules_test.cpp
     unit/passes_test.cpp
@@ -73,6 +76,7 @@ kelvo_tests(unit
   LINKS kelvo_app_start kelvo_app_commands kelvo_adapters_console kelvo_passes
 )
 target_compile_definitions(unit_tests PRIVATE
+  KELVO_COMPLETIONS="${CMAKE_SOURCE_DIR}/resources/completions"
   KELVO_TEXTS="${CMAKE_CURRENT_SOURCE_DIR}/texts"
   KELVO_PREFERENCE_KEYS="${CMAKE_SOURCE_DIR}/src/settings/preference_keys.h"
   KELVO_MANUAL="${CMAKE_SOURCE_DIR}/docs/man/kelvo-mirror.1")

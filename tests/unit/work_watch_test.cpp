@@ -57,6 +57,7 @@ protected:
     bool waits = false;
     std::optional<bool> passRuns; ///< where the cycle and its passes say different things
     std::vector<WorkState> shown;
+    int looks = 0;
     WorkWatch watch{{
         .defaults = defaults,
         .mainQueue = mainQueue,
@@ -74,6 +75,7 @@ protected:
         .clock = {[this] { return begin.addMSecs(static_cast<qint64>(mainQueue.now() * 1000)); },
                   [this] { return 100 + mainQueue.now(); }},
         .show = [this](const WorkState& work) { shown.push_back(work); },
+        .looked = [this] { ++looks; },
     }};
 };
 
@@ -86,6 +88,30 @@ TEST_F(WorkWatchTest, Countdown_TicksOnceASecondWhereItIsSeen) {
     mainQueue.advance(10);
     EXPECT_EQ(shown.size() - before, 10U);
     EXPECT_EQ(shown.back().nextPass, text("Next pass in 13 s"));
+}
+
+TEST_F(WorkWatchTest, PassThatIsFollowed_IsLookedAtOnceASecondThoughUnseen) {
+    watch.setFollowed(true);
+    EXPECT_EQ(showsOfAPass(30, Attention::Unseen), 30U);
+    watch.setFollowed(false);
+    mainQueue.advance(10);
+    const int before = looks;
+    mainQueue.advance(30);
+    EXPECT_EQ(looks - before, 3);
+}
+
+TEST_F(WorkWatchTest, PassThatBringsNothingNew_IsLookedAtAllTheSame) {
+    rest(1000, Attention::Lines);
+    passEnded(PassCause::Well);
+    mainQueue.advance(2);
+    const int looksBefore = looks;
+    const std::size_t shownBefore = shown.size();
+    passEnded(PassCause::Well);
+    mainQueue.advance(2);
+    EXPECT_EQ(shown.size(), shownBefore) << "no text has changed";
+    EXPECT_GT(looks, looksBefore);
+    const QDateTime ended = begin.addMSecs(static_cast<qint64>((mainQueue.now() - 2.2) * 1000));
+    EXPECT_LE(std::abs(watch.facts().standing.last->began.msecsTo(ended)), 2);
 }
 
 TEST_F(WorkWatchTest, OverduePass_IsNotCountedFurther) {

@@ -1,6 +1,7 @@
-// SingleCopySocket: the one copy holds a lock, and listens on a local socket for later ones.
+// SingleCopySocket: the one copy holds a lock, and listens on a local socket for others.
 #pragma once
 
+#include "ports/guests.h"
 #include "ports/single_copy.h"
 
 #include <chrono>
@@ -13,8 +14,9 @@ class Console;
 
 /// The kernel lets go of the lock however the process ends, so what a dead copy left lying about
 /// is no hindrance. Only programs of the same user are listened to; anything but the one request
-/// ends the connection and does nothing. Child processes do not inherit the lock.
-class SingleCopySocket final : public SingleCopy {
+/// of a later copy and the line of a guest ends the connection and does nothing. Child processes do
+/// not inherit the lock.
+class SingleCopySocket final : public SingleCopy, public Guests {
 public:
     /// Lock and socket are "kelvo-mirror.lock" and "kelvo-mirror.socket" in `folder`, which is made
     /// when it is missing. Where that fails, or another user could write there, every claim is
@@ -29,13 +31,18 @@ public:
     /// A token of more than 255 bytes, or of others than visible ASCII, is none.
     Claim claim(const QByteArray& token, Show show) override;
 
+    /// Nobody comes as long as this copy is not the first.
+    void receive(Host host) override;
+    bool say(Id guest, const QByteArray& line, const QByteArray& farewell = {}) override;
+    void dismiss(Id guest) override;
+
 private:
-    class Listener;
+    struct Place;
 
     const std::string fFolder;
     Console& fConsole;
     const std::chrono::milliseconds fPatience;
-    std::unique_ptr<Listener> fListener;
+    std::unique_ptr<Place> fPlace;
 };
 
 } // namespace kelvo

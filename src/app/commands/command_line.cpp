@@ -1,5 +1,6 @@
 #include "app/commands/command_line.h"
 
+#include "app/commands/options.h"
 #include "app/commands/setup_options.h"
 #include "app/version.h"
 
@@ -11,12 +12,6 @@
 namespace kelvo {
 
 namespace {
-
-/// The parser takes the program's name from an application object or says that it has none.
-QString helpText(const QCommandLineParser& parser) {
-    const QString text = parser.helpText();
-    return u"Usage: kelvo-mirror" + text.sliced(text.indexOf(u" [options]"));
-}
 
 /// What `parser` could not understand of `arguments`. A word behind a single dash is named as it
 /// was typed; the parser would name each of its letters.
@@ -33,52 +28,62 @@ QString parsingProblem(const QCommandLineParser& parser, const QStringList& argu
     return parser.errorText();
 }
 
+void addTable(QCommandLineParser& parser) {
+    for (const Option& each : optionTable()) {
+        QStringList names{each.name.toString()};
+        if (!each.letter.isEmpty())
+            names.prepend(each.letter.toString());
+        parser.addOption(QCommandLineOption(names, {}, each.values.toString()));
+    }
+}
+
+/// The ways to run the program of which one command line names one at most.
+QStringList waysIn(const QCommandLineParser& parser) {
+    QStringList ways{QStringLiteral("setup"), QStringLiteral("passes"), QStringLiteral("once"),
+                     QStringLiteral("headless")};
+    for (const CopyVerbName& each : copyVerbs())
+        ways.append(each.name.toString());
+    ways.removeIf([&](const QString& way) { return !parser.isSet(way); });
+    return ways;
+}
+
+const CopyVerbName* copyVerbNamed(QStringView name) {
+    const auto verbs = copyVerbs();
+    const auto found = std::ranges::find(verbs, name, &CopyVerbName::name);
+    return found == verbs.end() ? nullptr : &*found;
+}
+
+/// Why `way` does not go with what else there is; empty when it does.
+QString companyFault(const QCommandLineParser& parser, const QString& way) {
+    struct Companion {
+        QString option;
+        QStringList ways;
+    };
+    const QString status = QStringLiteral("status");
+    const QString passes = QStringLiteral("passes");
+    const QString once = QStringLiteral("once");
+    const Companion companions[] = {
+        {QStringLiteral("json"), {once, passes, status, QStringLiteral("follow")}},
+        {QStringLiteral("since"), {passes}},
+        {QStringLiteral("max-age"), {status}},
+        {QStringLiteral("no-sentinel"), {QStringLiteral("headless")}},
+    };
+    for (const Companion& each : companions) {
+        if (!parser.isSet(each.option) || each.ways.contains(way))
+            continue;
+        QString ways = u"--" + each.ways.join(QStringLiteral(", --"));
+        if (const qsizetype last = ways.lastIndexOf(u", "); last >= 0)
+            ways.replace(last, 2, QStringLiteral(" or "));
+        return u"--" + each.option + u" goes with " + ways;
+    }
+    return {};
+}
+
 } // namespace
 
 CommandLine parseCommandLine(const QStringList& arguments) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Keeps a local folder supplied with movie files from a remote Mac."));
-    const QCommandLineOption headless(
-        QStringLiteral("headless"),
-        QStringLiteral("Run without display, window or tray; status and alerts go to standard "
-                       "output."));
-    QCommandLineOption autorelaunched(QStringLiteral("autorelaunched"));
-    autorelaunched.setFlags(QCommandLineOption::HiddenFromHelp);
-    const QCommandLineOption version({QStringLiteral("V"), QStringLiteral("version")},
-                                     QStringLiteral("Print the version and end."));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Print this help and end."));
-    const QCommandLineOption once(
-        QStringLiteral("once"),
-        QStringLiteral(
-            "Run one pass with the stored settings, tell how it went and end with a code "
-            "that names the kind of trouble."));
-    const QCommandLineOption passes(QStringLiteral("passes"),
-                                    QStringLiteral("Print the record of passes, newest last."));
-    const QCommandLineOption since(
-        QStringLiteral("since"),
-        QStringLiteral("With --passes: those since a date, a date-time, or 30min, 2h, 3d ago."),
-        QStringLiteral("WHEN"));
-    const QCommandLineOption json(
-        QStringLiteral("json"),
-        QStringLiteral("With --once, --passes: tell each pass as one JSON object on a line."));
-    const QCommandLineOption get(QStringLiteral("get"), QStringLiteral("Print a setting."),
-                                 QStringLiteral("KEY"));
-    const QCommandLineOption set(QStringLiteral("set"), QStringLiteral("Change a setting."),
-                                 QStringLiteral("KEY> <VALUE"));
-    const QCommandLineOption unset(QStringLiteral("unset"),
-                                   QStringLiteral("Give a setting its factory value back."),
-                                   QStringLiteral("KEY"));
-    const QCommandLineOption settings(QStringLiteral("settings"),
-                                      QStringLiteral("Print all settings as JSON."));
-    const QCommandLineOption noSentinel(
-        QStringLiteral("no-sentinel"),
-        QStringLiteral("With --headless: no sentinel watches over the program, because whoever "
-                       "starts it (systemd) starts it again after a crash."));
-    parser.addOptions({headless, noSentinel, once, passes, since, json, get, set, unset, settings});
-    parser.addOptions(setupOptions());
-    parser.addOptions({version, help, autorelaunched});
+    addTable(parser);
 
     const auto refuse = [](const QString& reason) {
         return CommandLine{LaunchKind::Refuse, false,
@@ -99,68 +104,69 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         return refuse(parsingProblem(parser, window.rest));
     if (!parser.positionalArguments().isEmpty())
         return refuse(u"unexpected argument '" + parser.positionalArguments().constFirst() + u'\'');
-    if (parser.isSet(help))
-        return {LaunchKind::PrintHelp, false, helpText(parser)};
-    if (parser.isSet(version))
+    if (parser.isSet(QStringLiteral("help")))
+        return {LaunchKind::PrintHelp, false, optionHelp()};
+    if (parser.isSet(QStringLiteral("version")))
         return {LaunchKind::PrintVersion, false,
                 QString(u"kelvo-mirror " + QStringView(cVersion) + u'\n')};
-    for (const QCommandLineOption* each : {&get, &set, &unset, &settings}) {
-        if (parser.isSet(*each))
-            return refuse(u"--" + each->names().constFirst() +
-                          u" stands alone, with blanks between its words");
+    for (const char* each : {"get", "set", "unset", "settings"}) {
+        const QString verb = QString::fromLatin1(each);
+        if (parser.isSet(verb))
+            return refuse(u"--" + verb + u" stands alone, with blanks between its words");
     }
-    for (const QCommandLineOption* each : {&headless, &once, &passes}) {
-        if (!window.given.isEmpty() && parser.isSet(*each))
-            return refuse(u'\'' + window.given.constFirst() + u"' is for the window, and --" +
-                          each->names().constFirst() + u" opens none");
-    }
+    const QStringList ways = waysIn(parser);
+    const QString way = ways.value(0);
+    if (!window.given.isEmpty() && !ways.isEmpty())
+        return refuse(u'\'' + window.given.constFirst() + u"' is for the window, and --" + way +
+                      u" opens none");
+    if (ways.size() > 1 && way == u"passes")
+        return refuse(QStringLiteral("--passes goes with --json and --since only"));
+    if (ways.size() > 1)
+        return refuse(u"--" + ways[0] + u" and --" + ways[1] + u" do not go together");
+    if (const QString fault = companyFault(parser, way); !fault.isEmpty())
+        return refuse(fault);
+    const bool json = parser.isSet(QStringLiteral("json"));
     const auto setup = setupRequest(parser);
     if (const auto* problem = std::get_if<QString>(&setup))
         return refuse(*problem);
     if (const auto* wanted = std::get_if<SetupRequest>(&setup)) {
-        for (const QCommandLineOption* each : {&headless, &noSentinel, &once, &passes, &json}) {
-            if (parser.isSet(*each))
-                return refuse(u"--setup and --" + each->names().constFirst() +
-                              u" do not go together");
-        }
-        if (!window.given.isEmpty())
-            return refuse(u'\'' + window.given.constFirst() +
-                          u"' is for the window, and --setup opens none");
         CommandLine line{LaunchKind::Setup, false, {}};
         line.setup = *wanted;
         return line;
     }
-    if (parser.isSet(noSentinel) && !parser.isSet(headless))
-        return refuse(QStringLiteral("--no-sentinel goes with --headless"));
-    if (parser.isSet(passes)) {
-        if (parser.isSet(headless) || parser.isSet(once))
-            return refuse(QStringLiteral("--passes goes with --json and --since only"));
+    if (way == u"passes") {
         CommandLine line{LaunchKind::Passes, false, {}};
-        line.passes.json = parser.isSet(json);
-        if (!parser.isSet(since))
+        line.passes.json = json;
+        const QString since = parser.value(QStringLiteral("since"));
+        if (!parser.isSet(QStringLiteral("since")))
             return line;
-        line.passes.since = momentFrom(parser.value(since), QDateTime::currentDateTime());
+        line.passes.since = momentFrom(since, QDateTime::currentDateTime());
         if (line.passes.since)
             return line;
-        return refuse(u'\'' + parser.value(since) +
+        return refuse(u'\'' + since +
                       u"' is no time: --since takes a date (2026-11-22), a date-time "
                       u"(2026-11-22T19:02), or 30min, 2h, 3d");
     }
-    if (parser.isSet(since))
-        return refuse(QStringLiteral("--since goes with --passes"));
-    if (parser.isSet(once)) {
-        if (parser.isSet(headless))
-            return refuse(QStringLiteral("--once and --headless do not go together"));
+    if (way == u"once") {
         CommandLine line{LaunchKind::Once, false, {}};
-        line.json = parser.isSet(json);
+        line.json = json;
         return line;
     }
-    if (parser.isSet(json))
-        return refuse(QStringLiteral("--json goes with --once or --passes"));
-    CommandLine line{parser.isSet(headless) ? LaunchKind::Headless : LaunchKind::Window,
-                     parser.isSet(autorelaunched),
+    if (const CopyVerbName* verb = copyVerbNamed(way)) {
+        CommandLine line{LaunchKind::Ask, false, {}};
+        line.copy = {verb->verb, json, {}};
+        if (!parser.isSet(QStringLiteral("max-age")))
+            return line;
+        const QString age = parser.value(QStringLiteral("max-age"));
+        line.copy.maxAge = spanFrom(age);
+        if (line.copy.maxAge)
+            return line;
+        return refuse(u'\'' + age + u"' is no age: --max-age takes 30min, 2h, 3d");
+    }
+    CommandLine line{way == u"headless" ? LaunchKind::Headless : LaunchKind::Window,
+                     parser.isSet(QStringLiteral("autorelaunched")),
                      {}};
-    line.noSentinel = parser.isSet(noSentinel);
+    line.noSentinel = parser.isSet(QStringLiteral("no-sentinel"));
     line.window = std::move(window);
     return line;
 }

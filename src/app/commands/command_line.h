@@ -1,6 +1,7 @@
 // The program's command line.
 #pragma once
 
+#include "app/commands/copy_request.h"
 #include "app/commands/passes.h"
 #include "app/commands/settings_commands.h"
 #include "app/commands/setup_request.h"
@@ -15,12 +16,13 @@ enum class LaunchKind {
     Window,
     Headless,
     Once,
+    Ask, ///< the running copy
     Passes,
     Settings,
     Setup,
     PrintVersion,
     PrintHelp,
-    Refuse
+    Refuse,
 };
 
 struct CommandLine {
@@ -29,6 +31,7 @@ struct CommandLine {
     QString message;             ///< what to print for PrintVersion, PrintHelp and Refuse
     bool json = false;           ///< for Once
     bool noSentinel = false;     ///< for Headless: whoever starts the program restarts it
+    CopyRequest copy{};          ///< for Ask
     PassesRequest passes{};      ///< for Passes
     SettingsRequest settings{};  ///< for Settings
     SetupRequest setup{};        ///< for Setup

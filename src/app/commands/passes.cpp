@@ -35,14 +35,18 @@ QString lineOf(const PassRecord& pass) {
 
 } // namespace
 
+std::optional<qint64> spanFrom(const QString& text) {
+    static const QRegularExpression cSpan(QStringLiteral("\\A([0-9]{1,6})(min|h|d)\\z"));
+    const auto span = cSpan.match(text);
+    if (!span.hasMatch())
+        return {};
+    const QStringView unit = span.capturedView(2);
+    return span.captured(1).toLongLong() * (unit == u"d" ? 86'400 : unit == u"h" ? 3600 : 60);
+}
+
 std::optional<QDateTime> momentFrom(const QString& text, const QDateTime& now) {
-    static const QRegularExpression cAgo(QStringLiteral("\\A([0-9]{1,6})(min|h|d)\\z"));
-    if (const auto ago = cAgo.match(text); ago.hasMatch()) {
-        const qint64 count = ago.captured(1).toLongLong();
-        if (ago.capturedView(2) == u"d")
-            return now.addDays(-count);
-        return now.addSecs(-count * (ago.capturedView(2) == u"h" ? 3600 : 60));
-    }
+    if (const auto span = spanFrom(text))
+        return text.endsWith(u'd') ? now.addDays(-*span / 86'400) : now.addSecs(-*span);
     const bool isDate = text.size() == QStringView(u"2026-11-22").size();
     const QDateTime moment = isDate ? QDate::fromString(text, Qt::ISODate).startOfDay()
                                     : QDateTime::fromString(text, Qt::ISODate);

@@ -17,9 +17,11 @@ struct PassesRequest {
     std::optional<QDateTime> since = {}; ///< passes that began then or later; all when empty
 };
 
+/// The span that `text` names, in seconds: "30min", "2h", "3d". Nothing when it is none of these.
+std::optional<qint64> spanFrom(const QString& text);
+
 /// The moment that `text` names: a date or date-time as ISO has it, by this machine's clock unless
-/// it names a zone, or how long before `now`: "30min", "2h", "3d". Nothing when it is none of
-/// these.
+/// it names a zone, or a span before `now`. Nothing when it is none of these.
 std::optional<QDateTime> momentFrom(const QString& text, const QDateTime& now);
 
 /// What every JSON answer says of a pass, its arrivals included.

@@ -1,5 +1,7 @@
 #include "app/commands/setup_options.h"
 
+#include "app/commands/options.h"
+
 #include <QCommandLineParser>
 
 #include <utility>
@@ -29,33 +31,11 @@ std::optional<bool> choice(const QCommandLineParser& parser, const QString& yes,
 
 } // namespace
 
-const QList<QCommandLineOption>& setupOptions() {
-    static const QList<QCommandLineOption> options{
-        {cSetup, QStringLiteral("Set the Mac up from a terminal: asks what the window asks, "
-                                "installs the key and tests the connection. The options that "
-                                "follow answer its questions.")},
-        {cMac, QStringLiteral("With --setup: the Mac's host name or address."),
-         QStringLiteral("HOST")},
-        {cAccount, QStringLiteral("With --setup: the account on the Mac."), QStringLiteral("NAME")},
-        {cFolder, QStringLiteral("With --setup: the folder with the movies on the Mac."),
-         QStringLiteral("PATH")},
-        {cDestination, QStringLiteral("With --setup: the folder here that the movies come into."),
-         QStringLiteral("PATH")},
-        {cMakeDestination, QStringLiteral("With --setup: make that folder if it is missing.")},
-        {cNewKey, QStringLiteral("With --setup: make a new key; that of today is kept.")},
-        {cEnable, QStringLiteral("With --setup: enable the service (systemd user unit).")},
-        {cNoEnable, QStringLiteral("With --setup: leave the service as it is.")},
-        {cLinger, QStringLiteral("With --setup: run the service also while you are not logged "
-                                 "in.")},
-        {cNoLinger, QStringLiteral("With --setup: leave that as it is.")}};
-    return options;
-}
-
 std::variant<std::monostate, SetupRequest, QString> setupRequest(const QCommandLineParser& parser) {
     if (!parser.isSet(cSetup)) {
-        for (const QCommandLineOption& each : setupOptions()) {
-            if (parser.isSet(each))
-                return QString(u"--" + each.names().constFirst() + u" goes with --setup");
+        for (const Option& each : optionTable()) {
+            if (each.group == OptionGroup::Setup && parser.isSet(each.name.toString()))
+                return QString(u"--" + each.name + u" goes with --setup");
         }
         return {};
     }

@@ -3,17 +3,11 @@
 
 #include "app/commands/setup_request.h"
 
-#include <QCommandLineOption>
-#include <QList>
-
 #include <variant>
 
 class QCommandLineParser;
 
 namespace kelvo {
-
-/// --setup, and after it those that answer a question each.
-const QList<QCommandLineOption>& setupOptions();
 
 /// What a parsed command line asks for; a text when its options do not go together, nothing when
 /// none of them is there.

@@ -1,0 +1,31 @@
+# Completion of kelvo-mirror for fish.
+
+set -l settings \
+    prefDelayBetweenScans prefRsyncCommandString1 prefRsyncCommandOptionTag prefRsyncWithSSH \
+    prefPath1 prefPath2 prefRemoteUsername prefRemoteBonjourName prefRemotePath \
+    prefRemoteDnssdServiceData prefAutoStartScanOnLaunch prefHideOnLaunch showNotices \
+    showArrivals commandAfterArrivals quitWithoutAsking showDiagnostics
+set -l state \
+    prefEnableScanning prefIsScanning prefRsyncCommandStringExample prefSampleRemoteFullPath \
+    prefScanningBonjour prefSelectedValidRow perfFirstLineMessage prefStatusTextfieldString \
+    prefVersionDisplayString mainWindowSize mainWindowPlace mainWindowMaximized mainWindowTab \
+    advancedShown passesHalves closedToTray recentLaunchDates relaunchGivenUp
+complete -c kelvo-mirror -f
+complete -c kelvo-mirror -l headless -d 'Run without display, window or tray; status and alerts go to standard output.'
+complete -c kelvo-mirror -l once -d 'Run one pass with the stored settings, tell how it went and end with a code that names the kind of trouble.'
+complete -c kelvo-mirror -l status -d 'Tell what the running copy is doing and how it is; 0 when all is well, 1 in trouble, 4 when none runs.'
+complete -c kelvo-mirror -l follow -d 'Tell what the running copy does, as it happens, until Ctrl+C.'
+complete -c kelvo-mirror -l start -d 'Switch syncing on.'
+complete -c kelvo-mirror -l stop -d 'Switch syncing off; a pass that runs is the last one.'
+complete -c kelvo-mirror -l sync-now -d 'Begin the next pass now.'
+complete -c kelvo-mirror -l cancel -d 'End the pass that runs; the next one comes as after any other.'
+complete -c kelvo-mirror -l max-age -x -a '30min 2h 3d' -d 'With --status: end with 1 when the last success is older than 30min, 2h, 3d.'
+complete -c kelvo-mirror -l passes -d 'Print the record of passes, newest last.'
+complete -c kelvo-mirror -l since -x -a '30min 2h 3d' -d 'With --passes: those since a date, a date-time, or 30min, 2h, 3d ago.'
+complete -c kelvo-mirror -l get -x -a "$settings $state" -d 'Print a setting.'
+complete -c kelvo-mirror -l set -x -a "$settings" -d 'Change a setting.'
+complete -c kelvo-mirror -l unset -x -a "$settings" -d 'Give a setting its factory value back.'
+complete -c kelvo-mirror -l settings -d 'Print all settings as JSON.'
+complete -c kelvo-mirror -l json -d 'With --once, --passes, --status, --follow: tell each thing as one JSON object on a line.'
+complete -c kelvo-mirror -s V -l version -d 'Print the version and end.'
+complete -c kelvo-mirror -s h -l help -d 'Print this help and end.'

@@ -1,0 +1,95 @@
+// The running copy, asked over its socket; the record where none runs.
+#include "adapters/passes/pass_database.h"
+#include "adapters/process/copy_client.h"
+#include "app/commands/ask.h"
+#include "app/places.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <chrono>
+#include <cstdio>
+
+namespace kelvo {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto cPatience = 5s;
+/// A copy that is followed may have nothing to say for hours.
+constexpr auto cForEver = -1ms;
+
+/// What the record says of earlier runs; a record of an older layout is added up.
+Standing recordedStanding() {
+    Standing standing;
+    if (!QFileInfo::exists(passesFile()))
+        return standing;
+    PassDatabase database(passesFile(), {}, PassDatabase::Access::ReadOnly);
+    auto outcome = database.readStanding(standing);
+    if (!outcome) {
+        standing = {};
+        std::vector<PassRecord> passes;
+        outcome = database.readAll(passes);
+        for (auto pass = passes.crbegin(); pass != passes.crend(); ++pass)
+            standing.add(*pass);
+    }
+    if (!outcome)
+        standing.fault = outcome.reason;
+    return standing;
+}
+
+/// False when nobody reads any more.
+bool print(const Told& told) {
+    std::fputs(told.errors.toUtf8().constData(), stderr);
+    return std::fputs(told.output.toUtf8().constData(), stdout) >= 0 && std::fflush(stdout) == 0;
+}
+
+Told silent() {
+    return {.errors = QStringLiteral("kelvo-mirror: a copy is running, but does not answer\n"),
+            .exitCode = cExitInTrouble};
+}
+
+Told next(CopyClient& copy, CopyAnswers& answers, std::chrono::milliseconds patience) {
+    QByteArray line;
+    switch (copy.hear(line, patience)) {
+    case CopyClient::Heard::Line:
+        return answers.heard(line, QDateTime::currentDateTimeUtc());
+    case CopyClient::Heard::End:
+        return answers.hungUp();
+    case CopyClient::Heard::Silent:
+        break;
+    case CopyClient::Heard::Noise:
+        return answers.heard({}, {});
+    }
+    return silent();
+}
+
+} // namespace
+
+int runCopyCommand(const CopyRequest& request) {
+    CopyClient copy(QFile::encodeName(copyFolder()).toStdString());
+    CopyAnswers answers(request);
+    Told told;
+    switch (copy.connect(cPatience)) {
+    case CopyClient::Contact::NoneRuns:
+        told = answers.noneRuns(request.verb == CopyVerb::Status ? recordedStanding() : Standing(),
+                                QDateTime::currentDateTimeUtc());
+        break;
+    case CopyClient::Contact::Silent:
+        told = silent();
+        break;
+    case CopyClient::Contact::Made:
+        if (!copy.send(requestLine(request.verb))) {
+            told = silent();
+            break;
+        }
+        told = next(copy, answers, cPatience);
+        while (!told.ends && print(told))
+            told = next(copy, answers, request.verb == CopyVerb::Follow ? cForEver : cPatience);
+        break;
+    }
+    const bool printed = told.ends && print(told);
+    return told.exitCode == 0 && !printed ? 1 : told.exitCode;
+}
+
+} // namespace kelvo
