@@ -4,6 +4,7 @@
 #include "bench/processor_time.h"
 #include "bench/row.h"
 #include "engine/engine.h"
+#include "fakes/fake_connection.h"
 #include "fakes/fake_front.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
@@ -76,12 +77,14 @@ private:
     RecordingConsole fConsole;
     PosixShellRunner fRunner{fConsole};
     WatchedCommands fCommands{fRunner};
+    FakeConnection fConnection;
     LocalFileManager fFiles;
     FakeButton fButton;
     Engine fEngine{{.defaults = fDefaults,
                     .mainQueue = fMainQueue,
                     .bgQueue = fBgQueue,
                     .commands = fCommands,
+                    .connection = fConnection,
                     .files = fFiles,
                     .console = fConsole,
                     .clock = {[] { return QDateTime::currentDateTimeUtc(); }, [] { return 0.0; }},

@@ -7,6 +7,7 @@
 #include "adapters/process/posix_shell_runner.h"
 #include "adapters/process/qt_main_queue.h"
 #include "adapters/process/signal_pipe.h"
+#include "adapters/process/ssh_connection.h"
 #include "adapters/process/thread_pool_queue.h"
 #include "adapters/settings/file_bundle.h"
 #include "adapters/settings/plist_defaults.h"
@@ -39,6 +40,7 @@ struct PassMachine {
     FileBundle bundle;
     PosixShellRunner commands;
     ThreadPoolQueue bgQueue;
+    SshConnection connection{commands, bgQueue};
     SqlitePassStore passes;
 };
 

@@ -1,6 +1,9 @@
 #include "engine/engine.h"
 
 #include "ports/dispatch_queue.h"
+#include "ports/file_manager.h"
+#include "support/key_file.h"
+#include "support/text.h"
 
 #include <utility>
 
@@ -9,7 +12,19 @@ namespace kelvo {
 Engine::Engine(const EngineParts& parts, const CycleView& view,
                std::function<void(KeyState)> showKeyState,
                const std::function<void(const HostAnswer&)>& hostAnswered)
-    : passes(parts.commands, parts.clock, parts.passEnded),
+    : sharing({.defaults = parts.defaults,
+               .commands = parts.commands,
+               .connection = parts.connection,
+               .console = parts.console,
+               .keyPath = expandingTilde(cPrivateKeyFile, parts.files.homeDirectory()),
+               .clock = parts.clock}),
+      passes(
+          parts.commands, parts.clock,
+          [this, passEnded = parts.passEnded](const PassRecord& record) {
+              sharing.ended(record);
+              passEnded(record);
+          },
+          [this](PassStep step, const Command& command) { return sharing.run(step, command); }),
       rsyncCommand(parts.defaults, parts.console), samplePath(parts.defaults, parts.mainQueue),
       hostValidation(
           {.defaults = parts.defaults,

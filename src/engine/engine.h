@@ -1,6 +1,7 @@
 // Engine: what runs the passes, put together once for every way to start the program.
 #pragma once
 
+#include "engine/connection_sharing.h"
 #include "engine/host_answer.h"
 #include "passes/running_pass.h"
 #include "remote/key_state_watch.h"
@@ -17,6 +18,7 @@ struct EngineParts {
     DispatchQueue& mainQueue;
     BackgroundQueue& bgQueue;
     CommandRunner& commands;
+    KeptConnection& connection;
     FileManager& files;
     Console& console;
     PassClock clock;
@@ -31,6 +33,7 @@ struct Engine {
            std::function<void(KeyState)> showKeyState,
            const std::function<void(const HostAnswer&)>& hostAnswered = {});
 
+    ConnectionSharing sharing;
     RunningPasses passes;
     RsyncCommand rsyncCommand;
     SamplePath samplePath;

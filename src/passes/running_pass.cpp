@@ -40,8 +40,10 @@ void countArrivals(PassRecord& record) {
 } // namespace
 
 RunningPasses::RunningPasses(CommandRunner& commands, PassClock clock,
-                             std::function<void(const PassRecord&)> ended)
-    : fCommands(commands), fClock(std::move(clock)), fEnded(std::move(ended)) {}
+                             std::function<void(const PassRecord&)> ended, RunStep run)
+    : fCommands(commands), fClock(std::move(clock)), fEnded(std::move(ended)),
+      fRun(run ? std::move(run)
+               : [&commands](PassStep, const Command& command) { return commands.run(command); }) {}
 
 std::vector<PassUnderWay> RunningPasses::underWay() const {
     const std::lock_guard lock(fMutex);
@@ -155,7 +157,7 @@ CommandResult RunningPass::runOnce(PassStep step, const Command& command) {
     if (isPull(step))
         ours.received = [this, &command](QByteArrayView bytes) { received(bytes, command); };
     const double began = fPasses.fClock.seconds();
-    CommandResult result = fPasses.fCommands.run(ours);
+    CommandResult result = fPasses.fRun(step, ours);
     const double seconds = fPasses.fClock.seconds() - began;
     const Transfer transfer = isPull(step) ? pulled(result, command.text) : Transfer();
     (void)show(PassStep::Begun, {});

@@ -22,6 +22,9 @@ struct PassClock {
     std::function<double()> seconds; ///< since any fixed moment; never goes back
 };
 
+/// Runs a command of a pass at a step of it.
+using RunStep = std::function<CommandResult(PassStep, const Command&)>;
+
 /// What can be seen of a pass while it runs.
 struct PassUnderWay {
     PassKind kind = PassKind::Plain;
@@ -36,8 +39,9 @@ class RunningPasses {
 public:
     /// `commands` outlives the passes. The clock's functions and `ended` are called on the pass's
     /// thread; `ended` gets each record, complete but for its number, when its pass has ended.
+    /// Commands are run by `run`, on the pass's thread too; without it by `commands` alone.
     RunningPasses(CommandRunner& commands, PassClock clock,
-                  std::function<void(const PassRecord&)> ended);
+                  std::function<void(const PassRecord&)> ended, RunStep run = {});
 
     /// Oldest first. Only who asks makes somebody look what a command that says nothing is writing,
     /// and never more than five times a second.
@@ -53,6 +57,7 @@ private:
     CommandRunner& fCommands;
     const PassClock fClock;
     const std::function<void(const PassRecord&)> fEnded;
+    const RunStep fRun;
     mutable std::mutex fMutex;
     std::vector<RunningPass*> fPasses;
     QString fWentWell; ///< the last pull that did

@@ -8,7 +8,8 @@
 namespace kelvo {
 
 void registerFactoryDefaults(const Bundle& bundle, UserDefaults& defaults, Console& console) {
-    for (const QStringView key : {prefShowNotices, prefShowArrivals, prefQuitWithoutAsking})
+    for (const QStringView key :
+         {prefShowNotices, prefShowArrivals, prefKeepConnection, prefQuitWithoutAsking})
         defaults.registerDefaults({{key.toString(), factoryValue(*preference(key))}});
     const auto factory = bundle.propertyList(QStringLiteral("FactoryDefaults"));
     if (!factory) {

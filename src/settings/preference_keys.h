@@ -29,6 +29,7 @@ inline constexpr QStringView prefHideOnLaunch = u"prefHideOnLaunch";
 inline constexpr QStringView prefShowNotices = u"showNotices";
 inline constexpr QStringView prefShowArrivals = u"showArrivals";
 inline constexpr QStringView prefCommandAfterArrivals = u"commandAfterArrivals";
+inline constexpr QStringView prefKeepConnection = u"keepConnection";
 inline constexpr QStringView prefQuitWithoutAsking = u"quitWithoutAsking";
 inline constexpr QStringView prefShowDiagnostics = u"showDiagnostics";
 inline constexpr QStringView prefMainWindowSize = u"mainWindowSize";

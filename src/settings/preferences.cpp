@@ -71,6 +71,10 @@ constexpr auto cTable = std::to_array<Preference>({
      u"A command that is run after a pass that brought files. It reads their paths from its "
      u"standard "
      u"input, each ended by a zero byte."},
+    {prefKeepConnection, Setting, Bool, true, u"Settings",
+     u"Passes log in to the Mac once and keep the connection through rests of up to a minute, for "
+     u"an "
+     u"hour at most, where ssh's configuration lets them."},
     {prefQuitWithoutAsking, Setting, Bool, false, u"Settings",
      u"Quitting during a pass ends it without asking."},
     {prefShowDiagnostics,

@@ -39,6 +39,7 @@ TEST(FactoryDefaultsTest, Values_HaveTheirTypes) {
         {"prefHideOnLaunch", false},
         {"showNotices", true},
         {"showArrivals", true},
+        {"keepConnection", true},
         {"quitWithoutAsking", false},
         {"showDiagnostics", false},
     };

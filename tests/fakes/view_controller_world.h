@@ -1,6 +1,7 @@
 // ViewControllerWorld: the main view's controller in a pretend world.
 #pragma once
 
+#include "fakes/fake_connection.h"
 #include "fakes/fake_desktop.h"
 #include "fakes/fake_file_manager.h"
 #include "fakes/fake_front.h"
@@ -78,6 +79,7 @@ public:
     int windowShown = 0;
     MainWindowController windowController{[this] { ++windowShown; }};
     MainWindowController* window = &windowController;
+    FakeConnection connection;
     MemoryPassStore passStore{mainQueue};
     std::vector<PassRecord> passes; ///< every record so far
     // Somebody who follows from elsewhere; nobody at first.
@@ -89,6 +91,7 @@ public:
                    .mainQueue = mainQueue,
                    .bgQueue = bgQueue,
                    .commands = shell,
+                   .connection = connection,
                    .files = files,
                    .console = console,
                    .clock = {[this] { return now; }, [this] { return seconds; }},

@@ -35,6 +35,7 @@ std::string settings(const std::string& folder) {
            "<key>prefRsyncWithSSH</key><true/>\n"
            "<key>prefRemoteUsername</key><string>mediauser</string>\n"
            "<key>prefRemoteBonjourName</key><string>Remote-Mac.local</string>\n"
+           "<key>keepConnection</key><false/>\n" // a stand-in shares nothing
            "<key>prefRemotePath</key><string>Movies</string>\n"
            "<key>prefDelayBetweenScans</key><real>0.001</real>\n"
            "<key>prefPath2</key><string>" +

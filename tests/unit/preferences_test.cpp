@@ -51,6 +51,7 @@ TEST(PreferencesTest, Keys_AreStoredAsTheyAreSpelledHere) {
         "showNotices",
         "showArrivals",
         "commandAfterArrivals",
+        "keepConnection",
         "quitWithoutAsking",
         "showDiagnostics",
         "mainWindowSize",

@@ -10,6 +10,7 @@ kelvo_tests(unit
     unit/captured_text_test.cpp
     unit/checklist_test.cpp
     unit/close_policy_test.cpp
+    unit/connection_sharing_test.cpp
     unit/connection_watch_test.cpp
     unit/dnssd_service_test.cpp
     unit/duplicate_check_test.cpp

@@ -18,8 +18,10 @@ namespace kelvo {
 namespace {
 
 constexpr int cPipeSize = 1 << 20;
-constexpr std::array<std::string_view, 4> cLeftOut = {
-    "SSH_ASKPASS=", "GIT_ASKPASS=", "SUDO_ASKPASS=", "SSH_ASKPASS_REQUIRE="};
+/// What could prompt, and the connection of a program that has started this one.
+constexpr std::array<std::string_view, 5> cLeftOut = {
+    "SSH_ASKPASS=", "GIT_ASKPASS=", "SUDO_ASKPASS=", "SSH_ASKPASS_REQUIRE=",
+    "KELVO_MIRROR_CONTROL="};
 
 struct Pipe {
     UniqueFd read;

@@ -28,7 +28,8 @@ struct ShellChild {
 
 /// The environment for a command: our own as it is now, without the programs that could ask the
 /// user for a password on the screen; ssh is told never to look for one. The variables of the
-/// display stay. The mark of our commands is added.
+/// display stay; a connection that our own parent keeps does not. The mark of our commands is
+/// added.
 std::vector<std::string> environmentWithoutPrompts();
 
 /// `environment` with `variables`, in the place of those of the same names.

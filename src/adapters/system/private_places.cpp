@@ -56,18 +56,20 @@ PrivateFolder madeFolder(const std::string& path) {
     return fault.empty() ? PrivateFolder{path, {}} : PrivateFolder{{}, fault};
 }
 
-PrivateFolder folderOfOurOwn() {
-    std::string temporary = environmentPath("TMPDIR");
-    if (temporary.empty())
-        temporary = "/tmp";
-    return madeFolder(temporary + "/kelvo-mirror-" + std::to_string(::getuid()));
+PrivateFolder folderOfOurOwn(std::size_t longest) {
+    const std::string name = "/kelvo-mirror-" + std::to_string(::getuid());
+    std::string path = environmentPath("TMPDIR") + name;
+    if (path == name || path.size() > longest)
+        path = "/tmp" + name;
+    return path.size() > longest ? PrivateFolder{{}, path + " is too long"} : madeFolder(path);
 }
 
 } // namespace
 
-PrivateFolder temporaryFolderOfUser() {
+PrivateFolder temporaryFolderOfUser(std::size_t longest) {
     const std::string given = givenFolder();
-    return given.empty() ? folderOfOurOwn() : madeFolder(given + "/kelvo-mirror");
+    const std::string path = given + "/kelvo-mirror";
+    return given.empty() || path.size() > longest ? folderOfOurOwn(longest) : madeFolder(path);
 }
 
 int makePrivateFolders(const std::string& path) {
