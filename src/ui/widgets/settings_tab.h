@@ -3,8 +3,7 @@
 
 #include "ui/login_item_setting.h"
 #include "ui/template_setting.h"
-
-#include <QWidget>
+#include "ui/widgets/late_tab.h"
 
 #include <memory>
 #include <optional>
@@ -19,8 +18,7 @@ class AlertPresenter;
 class Bindings;
 class LoginItem;
 
-/// Holds its controls from the first time it is shown on.
-class SettingsTab final : public QWidget {
+class SettingsTab final : public LateTab {
     Q_OBJECT
 public:
     /// `bindings` outlives the tab.
@@ -35,18 +33,12 @@ public:
     /// nobody is asked. `alerts` calls nothing back once the tab is gone.
     void setAlerts(AlertPresenter& alerts) { fAlerts = &alerts; }
 
-    void setVisible(bool visible) override;
-
-Q_SIGNALS:
-    /// The controls are there.
-    void built();
-
 protected:
+    void makeControls() override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    void build();
     void buildAdvanced();
     void bindBehaviour();
     void showLoginItem(const LoginItemSetting::Shown& shown);
