@@ -31,6 +31,7 @@ kelvo_tests(ui WIDGETS
     ui/tray_icon_test.cpp
     ui/widget_main_view_test.cpp
     ui/window_actions_test.cpp
+    ui/wrapped_label_test.cpp
   LINKS kelvo_app kelvo_ui_widgets kelvo_adapters_desktop kelvo_bus_testing Qt6::Test
 )
 target_compile_definitions(ui_tests PRIVATE
