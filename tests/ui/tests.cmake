@@ -16,6 +16,7 @@ kelvo_tests(ui WIDGETS
     ui/colors_test.cpp
     ui/day_chart_test.cpp
     ui/diagnostics_tab_test.cpp
+    ui/first_paint_test.cpp
     ui/icons_test.cpp
     ui/language_test.cpp
     ui/main_window_test.cpp
