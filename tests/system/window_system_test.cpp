@@ -7,6 +7,7 @@
 #include "support/wait_until.h"
 
 #include <QColor>
+#include <QFile>
 #include <QImage>
 #include <QPoint>
 #include <QProcess>
@@ -178,6 +179,10 @@ TEST_F(WindowSystemTest, StartButton_ByMouseAndByKey) {
 
 TEST_F(WindowSystemTest, EveryTab_ByKeyAndATextThatIsStored) {
     startAndSettle(quietProfile());
+    QFile mapped(QStringLiteral("/proc/%1/maps").arg(program->processId()));
+    ASSERT_TRUE(mapped.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(mapped.readAll().contains("/imageformats/"))
+        << "a start that reads no picture loads nothing that could";
     for (const auto& [key, identifier] :
          {std::pair("ctrl+3", "prefs"), std::pair("ctrl+4", "activity"),
           std::pair("ctrl+1", "sync"), std::pair("ctrl+2", "remote")}) {

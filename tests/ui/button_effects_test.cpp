@@ -45,6 +45,7 @@ struct World : ViewControllerWorld {
         openPanel.answer = {.ok = true, .paths = {text("/chosen")}};
         defaults.setObject(prefShowDiagnostics, true);
         load();
+        mainWindow.showTab(QStringLiteral("remote")); // its buttons are made now
         sendWindowActions(mainWindow, controller, workspace,
                           std::make_shared<WidgetPathControl>(mainWindow.fNsPathControl1()),
                           onceButtons);

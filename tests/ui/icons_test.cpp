@@ -1,7 +1,10 @@
 #include "support/contrast.h"
 #include "ui/widgets/icons.h"
+#include "ui/widgets/start_style.h"
 
 #include <QImage>
+#include <QStyleFactory>
+#include <QStyleOption>
 
 #include <gtest/gtest.h>
 
@@ -122,6 +125,28 @@ TEST(IconsTest, ApplicationIcon_StandsOutOnLightAndDark) {
         EXPECT_GT(readablePart(icon, side, Qt::white), 0.3) << side;
         EXPECT_GT(readablePart(icon, side, QColor(0x20, 0x20, 0x20)), 0.3) << side;
     }
+}
+
+TEST(IconsTest, SignForMore_CanBeSeenOnEitherGroundAndIsMirrored) {
+    for (const bool rightToLeft : {false, true}) {
+        for (const QColor& ground : {QColor(0xef, 0xef, 0xef), QColor(0x32, 0x32, 0x32)})
+            EXPECT_GT(readablePart(moreIcon(rightToLeft), 16, ground), 0.1);
+    }
+    const QImage there = moreIcon(false).pixmap(16).toImage();
+    EXPECT_NE(there, moreIcon(true).pixmap(16).toImage());
+}
+
+TEST(IconsTest, StyleOfTheStart_DrawsTheSignForMoreMenusAndLeavesTheRest) {
+    const StartStyle style(QStyleFactory::create(QStringLiteral("fusion")));
+    QStyleOption option;
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        option.direction = direction;
+        EXPECT_EQ(style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, &option, nullptr)
+                      .pixmap(16)
+                      .toImage(),
+                  moreIcon(direction == Qt::RightToLeft).pixmap(16).toImage());
+    }
+    EXPECT_FALSE(style.standardIcon(QStyle::SP_MessageBoxWarning, nullptr, nullptr).isNull());
 }
 
 } // namespace

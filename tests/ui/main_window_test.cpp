@@ -106,6 +106,7 @@ TEST_F(MainWindowTest, SettingsChanged_AreShownOnTheNextTurn) {
 }
 
 TEST_F(MainWindowTest, SourceInUseDiffers_IsSaidUntilItAgrees) {
+    window.showTab(QStringLiteral("remote"));
     set(prefRsyncWithSSH, true);
     set(prefRemoteUsername, QStringLiteral("ann"));
     set(prefRemoteBonjourName, QStringLiteral("new.local"));
@@ -379,8 +380,12 @@ TEST_F(MainWindowTest, HalfTypedText_IsStoredWhenTheWindowGoes) {
 // -- for everybody
 
 TEST_F(MainWindowTest, EveryControl_HasAnAccessibleNameOrText) {
+    window.setDiagnosticsShown(true);
+    for (int tab = 0; tab < 5; ++tab)
+        window.showTab(tab); // its controls are made now
     for (QWidget* widget : window.findChildren<QWidget*>()) {
-        if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith(u"qt_"))
+        if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith(u"qt_") ||
+            widget->window() != &window)
             continue;
         const auto* button = qobject_cast<QAbstractButton*>(widget);
         if (qobject_cast<const QLabel*>(widget)) {

@@ -98,6 +98,76 @@ protected:
     RemoteTab& tab{window.remoteTab()};
 };
 
+/// A window whose Remote Mac tab nobody has come to.
+struct UnseenRemoteTabTest : ::testing::Test {
+    template <typename Widget>
+    Widget* child(const char* name) {
+        return window.findChild<Widget*>(QString::fromLatin1(name));
+    }
+
+    MemoryDefaults defaults;
+    VirtualMainQueue mainQueue;
+    MainWindow window{defaults, mainQueue};
+    RemoteTab& tab{window.remoteTab()};
+};
+
+TEST_F(UnseenRemoteTabTest, Controls_AreMadeWhenTheTabIsFirstShown) {
+    int built = 0;
+    tab.whenBuilt([&built] { ++built; });
+    window.show();
+    EXPECT_TRUE(tab.findChildren<QWidget*>().isEmpty());
+    EXPECT_EQ(built, 0);
+    window.showTab(QStringLiteral("remote"));
+    EXPECT_EQ(built, 1);
+    const auto* user = child<QLineEdit>("remoteUser");
+    ASSERT_TRUE(user);
+    EXPECT_TRUE(user->isVisible());
+    window.showTab(QStringLiteral("sync"));
+    window.showTab(QStringLiteral("remote"));
+    EXPECT_EQ(child<QLineEdit>("remoteUser"), user);
+    EXPECT_EQ(built, 1);
+    tab.whenBuilt([&built] { ++built; });
+    EXPECT_EQ(built, 2) << "at once";
+}
+
+TEST_F(UnseenRemoteTabTest, WhatItWasToldBefore_StandsThere) {
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral("mac.local"));
+    defaults.setObject(prefRemoteUsername, QStringLiteral("ann"));
+    window.showKeyState(KeyState::Accepted);
+    tab.setTask(RemoteTaskKind::OpeningFolder);
+    tab.setTesting(true);
+    tab.setConnection({.answer = HostAnswer{.target = QStringLiteral("ann@mac.local"),
+                                            .cause = PassCause::HostAway},
+                       .asked = QDateTime::currentDateTimeUtc(),
+                       .letInBefore = true});
+    tab.setTesting(false);
+    mainQueue.runDue();
+    window.show();
+    window.showTab(QStringLiteral("remote"));
+    EXPECT_EQ(child<QLineEdit>("remoteHost")->text(), u"mac.local");
+    EXPECT_EQ(child<QLineEdit>("remoteUser")->text(), u"ann");
+    EXPECT_TRUE(child<QWidget>("busyRow")->isVisible());
+    EXPECT_FALSE(child<QWidget>("testBusySign")->isVisible());
+    EXPECT_TRUE(child<QLabel>("connectionText")->text().startsWith(u"The Mac is away"));
+    tab.setTask(RemoteTaskKind::None);
+    EXPECT_FALSE(child<QWidget>("busyRow")->isVisible());
+}
+
+TEST_F(UnseenRemoteTabTest, TestThatRuns_HasItsSignFromTheFirstSight) {
+    tab.setTesting(true);
+    window.show();
+    window.showTab(QStringLiteral("remote"));
+    EXPECT_TRUE(child<QWidget>("testBusySign")->isVisible());
+}
+
+TEST_F(UnseenRemoteTabTest, StepThatIsOpened_IsThereAtOnce) {
+    window.show();
+    tab.openStep(SetupStep::Account);
+    ASSERT_TRUE(child<QLineEdit>("remoteUser"));
+    window.showTab(QStringLiteral("remote"));
+    EXPECT_TRUE(child<QLineEdit>("remoteUser")->isVisible());
+}
+
 TEST_F(RemoteTabTest, FirstDay_ShowsTheWholeWayAndItsFirstStep) {
     for (const char* step : {"mac", "account", "key", "connection"})
         EXPECT_FALSE(isFolded(step)) << step;

@@ -147,7 +147,7 @@ TEST_F(SettingsTabTest, EntryOfSomebodyElse_CannotBeSwitched) {
 TEST_F(SettingsTabTest, Controls_AreMadeWhenTheTabIsFirstShown) {
     EXPECT_TRUE(tab.findChildren<QWidget*>().isEmpty());
     int built = 0;
-    QObject::connect(&tab, &SettingsTab::built, &tab, [&] { ++built; });
+    QObject::connect(&tab, &LateTab::controlsBuilt, &tab, [&] { ++built; });
     tab.show();
     EXPECT_FALSE(tab.findChildren<QWidget*>().isEmpty());
     tab.hide();

@@ -16,6 +16,7 @@ kelvo_tests(ui WIDGETS
     ui/colors_test.cpp
     ui/day_chart_test.cpp
     ui/diagnostics_tab_test.cpp
+    ui/first_paint_test.cpp
     ui/icons_test.cpp
     ui/language_test.cpp
     ui/main_window_test.cpp
@@ -32,6 +33,7 @@ kelvo_tests(ui WIDGETS
     ui/tray_icon_test.cpp
     ui/widget_main_view_test.cpp
     ui/window_actions_test.cpp
+    ui/wrapped_label_test.cpp
   LINKS kelvo_app_window kelvo_bus_testing Qt6::Test
 )
 target_compile_definitions(ui_tests PRIVATE

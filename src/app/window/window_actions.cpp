@@ -12,12 +12,15 @@
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/path_control_view.h"
 #include "ui/widgets/recent_arrivals.h"
+#include "ui/widgets/remote_tab.h"
 #include "ui/widgets/sheet_presenter.h"
 #include "ui/widgets/sync_tab.h"
 #include "ui/widgets/widget_button.h"
 #include "ui/widgets/widget_controls.h"
 
 #include <QMessageBox>
+
+#include <span>
 
 namespace kelvo {
 namespace {
@@ -34,18 +37,22 @@ constexpr Wire cButtons[] = {
     {"ibSelectFolder2Action", &ViewController::ibSelectFolder2Action},
     {"ibRevealButton1", &ViewController::ibRevealSourcePath},
     {"ibRevealButton2", &ViewController::ibRevealDestPath},
+    {"syncUseSourceNow", &ViewController::useSourceNow},
+    {"ibSyncNow", &ViewController::ibSyncNow},
+    {"ibCancelPass", &ViewController::ibCancelPass},
+};
+
+/// Those of the Remote Mac tab.
+constexpr Wire cRemoteButtons[] = {
     {"ibSelectSourceByBonjor", &ViewController::ibSelectSourceByBonjor},
     {"ibGenerateSSHKeyStuff", &ViewController::ibSetUpKey},
     {"createNewPrivatePublicKeys", &ViewController::ibMakeNewKey},
     {"ibCancelCommand", &ViewController::ibCancelCommand},
     {"checkKeyState", &ViewController::checkKeyState},
     {"useSourceNow", &ViewController::useSourceNow},
-    {"syncUseSourceNow", &ViewController::useSourceNow},
     {"ibTestShellCommand", &ViewController::ibTestShellCommand},
     {"ibRevealSourcePathSMB", &ViewController::ibRevealSourcePathSMB},
     {"ibRevealSourcePathSMBdebug", &ViewController::ibRevealSourcePathSMBdebug},
-    {"ibSyncNow", &ViewController::ibSyncNow},
-    {"ibCancelPass", &ViewController::ibCancelPass},
 };
 
 /// Those of the Diagnostics tab.
@@ -114,12 +121,12 @@ void showAbout(MainWindow& window) {
 
 QStringList sentButtons() {
     QStringList names{QString::fromLatin1(cRevealInFinder)};
-    for (const Wire& wire : cButtons)
-        names.append(QString::fromLatin1(wire.control));
-    for (const Wire& wire : cDiagnosticsButtons)
-        names.append(QString::fromLatin1(wire.control));
-    for (const Wire& wire : cOnceButtons)
-        names.append(QString::fromLatin1(wire.control));
+    for (const std::span<const Wire> wires :
+         {std::span<const Wire>(cButtons), std::span<const Wire>(cRemoteButtons),
+          std::span<const Wire>(cDiagnosticsButtons), std::span<const Wire>(cOnceButtons)}) {
+        for (const Wire& wire : wires)
+            names.append(QString::fromLatin1(wire.control));
+    }
     return names;
 }
 
@@ -127,6 +134,8 @@ void sendWindowActions(MainWindow& window, ViewController& controller, Workspace
                        const std::shared_ptr<PathControl>& fNsPathControl1,
                        OnceButtons& onceButtons) {
     sendButtons(window, controller, cButtons);
+    window.remoteTab().whenBuilt(
+        [&window, &controller] { sendButtons(window, controller, cRemoteButtons); });
     // The test button stands in for a click on the path control.
     const auto revealInFinder = [&controller, fNsPathControl1] {
         controller.ibRevealInFinderAction(fNsPathControl1.get());

@@ -29,9 +29,9 @@ using OnceButtons = std::vector<std::unique_ptr<WidgetButton>>;
 /// The names of the buttons whose clicks go to the view controller.
 QStringList sentButtons();
 
-/// Connects every button, path control, field and tab of `window`, those of the Diagnostics tab as
-/// soon as it is made: its two-state buttons are added to `onceButtons` then. All arguments outlive
-/// the window's event loop.
+/// Connects every button, path control, field and tab of `window`, those of the Remote Mac and the
+/// Diagnostics tab as soon as they are made: the two-state buttons are added to `onceButtons` then.
+/// All arguments outlive the window's event loop.
 void sendWindowActions(MainWindow& window, ViewController& controller, Workspace& workspace,
                        const std::shared_ptr<PathControl>& fNsPathControl1,
                        OnceButtons& onceButtons);

@@ -21,6 +21,7 @@
 #include "ui/widgets/checklist_view.h"
 #include "ui/widgets/dark_palette.h"
 #include "ui/widgets/diagnostics_tab.h"
+#include "ui/widgets/first_paint.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
 #include "ui/widgets/recent_arrivals.h"
@@ -28,6 +29,7 @@
 #include "ui/widgets/service_list.h"
 #include "ui/widgets/settings_tab.h"
 #include "ui/widgets/sheet_presenter.h"
+#include "ui/widgets/start_style.h"
 #include "ui/widgets/status_field_view.h"
 #include "ui/widgets/sync_tab.h"
 #include "ui/widgets/tray_icon.h"
@@ -62,16 +64,7 @@ public:
                    .showWhy = [this] { fWindow.showActivity(cNewestPass); }}),
           fOpenPanel(fWindow), fWindowController(std::make_shared<MainWindowController>(
                                    [this] { fWindow.bringToFront(); })) {
-        // The window does not wait for what takes a while.
-        machine.mainQueue.async([this] {
-            fWindow.setWindowIcon(applicationIcon());
-            if (!QDBusConnection::sessionBus().isConnected())
-                fMachine.console.log(QStringLiteral(
-                    "No session bus is reached: notices stay away, and the tray icon too where "
-                    "the desktop draws it over the bus."));
-            if (!ColorScheme::isTakenOverByToolkit())
-                fColorScheme.emplace(takeColors);
-        });
+        afterFirstPaint(fWindow, machine.mainQueue, [this] { finishStart(); });
         fWindow.whenDiagnosticsAreMade(
             [this](DiagnosticsTab& tab) { showServices(fFoundServices, tab.foundServices()); });
         fWindow.activityTab().setParts({
@@ -168,6 +161,17 @@ public:
     }
 
 private:
+    /// The window does not wait for what takes a while.
+    void finishStart() {
+        fWindow.setWindowIcon(applicationIcon());
+        if (!QDBusConnection::sessionBus().isConnected())
+            fMachine.console.log(QStringLiteral(
+                "No session bus is reached: notices stay away, and the tray icon too where "
+                "the desktop draws it over the bus."));
+        if (!ColorScheme::isTakenOverByToolkit())
+            fColorScheme.emplace(takeColors);
+    }
+
     static void takeColors(bool dark) {
         QApplication::setPalette(dark ? darkPalette() : QPalette());
     }
@@ -311,8 +315,11 @@ StatusMenuParts makeTray(DispatchQueue& mainQueue) {
 FrontKind windowFront() {
     return {
         .makeStatusMenu = makeTray,
-        .makeFront = [](MachineParts& machine, std::function<void(const WorkState&)>)
-            -> std::unique_ptr<Front> { return std::make_unique<WindowFront>(machine); },
+        .makeFront = [](MachineParts& machine,
+                        std::function<void(const WorkState&)>) -> std::unique_ptr<Front> {
+            QApplication::setStyle(new StartStyle(QApplication::style()));
+            return std::make_unique<WindowFront>(machine);
+        },
     };
 }
 

@@ -1,6 +1,7 @@
 #include "ui/widgets/checklist_view.h"
 
 #include "ui/widgets/remedy_title.h"
+#include "ui/widgets/wrapped_label.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -36,14 +37,15 @@ void ChecklistView::setLines(const std::vector<ChecklistLine>& lines) {
 }
 
 void ChecklistView::showLines(const std::vector<ChecklistLine>& lines) {
-    setVisible(!lines.empty());
+    if (lines.empty())
+        hide();
     std::vector<Remedy> offered;
     for (std::size_t i = 0; i < fRows.size(); ++i) {
         Row& row = fRows[i];
         const bool isThere = i < lines.size();
+        row.text->setText(isThere ? lines[i].text : QString());
         row.sign->setVisible(isThere);
         row.text->setVisible(isThere);
-        row.text->setText(isThere ? lines[i].text : QString());
         const Remedy remedy = isThere ? lines[i].remedy : Remedy::None;
         const bool isFirst = std::ranges::find(offered, remedy) == offered.end();
         row.remedy = isFirst ? remedy : Remedy::None;
@@ -57,14 +59,15 @@ void ChecklistView::showLines(const std::vector<ChecklistLine>& lines) {
         }
         row.button->setVisible(row.remedy != Remedy::None);
     }
+    // Last: each row that comes into sight has all of the page laid out.
+    if (!lines.empty())
+        show();
 }
 
 void ChecklistView::addRow() {
     const std::size_t place = fRows.size();
-    Row row{new QLabel(QStringLiteral("•")), new QLabel, // The desktop's signs take too long.
+    Row row{new QLabel(QStringLiteral("•")), new WrappedLabel, // The desktop's signs take too long.
             new QToolButton};
-    row.text->setTextFormat(Qt::PlainText);
-    row.text->setWordWrap(true);
     row.button->setFocusPolicy(Qt::StrongFocus);
     row.button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     row.button->setAccessibleName(tr("Next step"));

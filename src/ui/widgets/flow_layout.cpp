@@ -56,6 +56,7 @@ FlowLayout::~FlowLayout() = default;
 
 void FlowLayout::addItem(QLayoutItem* item) {
     fItems.emplace_back(item);
+    invalidate();
 }
 
 int FlowLayout::count() const {
@@ -71,11 +72,21 @@ QLayoutItem* FlowLayout::takeAt(int index) {
         return nullptr;
     QLayoutItem* taken = fItems[static_cast<std::size_t>(index)].release();
     fItems.erase(fItems.begin() + index);
+    invalidate();
     return taken;
 }
 
 int FlowLayout::heightForWidth(int width) const {
-    return arrange(QRect(0, 0, width, 0), false);
+    if (fKnownWidth != width) {
+        fKnownHeight = arrange(QRect(0, 0, width, 0), false);
+        fKnownWidth = width;
+    }
+    return fKnownHeight;
+}
+
+void FlowLayout::invalidate() {
+    fKnownWidth = -1;
+    QLayout::invalidate();
 }
 
 QSize FlowLayout::sizeHint() const {

@@ -27,11 +27,14 @@ public:
     QSize sizeHint() const override;
     QSize minimumSize() const override;
     void setGeometry(const QRect& place) override;
+    void invalidate() override;
 
 private:
     int arrange(const QRect& place, bool move) const;
 
     std::vector<std::unique_ptr<QLayoutItem>> fItems;
+    mutable int fKnownWidth = -1;
+    mutable int fKnownHeight = 0; ///< for fKnownWidth, until something changes
 };
 
 } // namespace kelvo

@@ -6,6 +6,7 @@
 #include "ui/widgets/muted_hints.h"
 #include "ui/widgets/remedy_title.h"
 #include "ui/widgets/trouble_color.h"
+#include "ui/widgets/wrapped_label.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -38,14 +39,12 @@ QString nameOf(HealthSign sign) {
 } // namespace
 
 HealthView::HealthView(QWidget* parent)
-    : QWidget(parent), fSign(new QLabel), fText(new QLabel), fLastSuccess(new QLabel),
+    : QWidget(parent), fSign(new QLabel), fText(new WrappedLabel), fLastSuccess(new WrappedLabel),
       fButton(new QPushButton) {
     fSign->setObjectName(QStringLiteral("healthSign"));
     for (const auto& [label, name] :
          {std::pair(fText, "healthText"), std::pair(fLastSuccess, "lastSuccess")}) {
         label->setObjectName(QString::fromLatin1(name));
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     }
     fButton->setObjectName(QStringLiteral("healthButton"));

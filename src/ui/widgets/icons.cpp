@@ -108,6 +108,24 @@ QIcon startIcon(bool stops, const QPalette& palette) {
     return icon;
 }
 
+QIcon moreIcon(bool rightToLeft) {
+    constexpr int cSide = 16;
+    const QColor seenOnLightAndDark(0x80, 0x80, 0x80);
+    QPixmap picture(cSide, cSide);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(seenOnLightAndDark, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    if (rightToLeft) {
+        painter.translate(cSide, 0);
+        painter.scale(-1, 1);
+    }
+    for (const qreal x : {3.5, 8.5})
+        painter.drawPolyline(QPolygonF({QPointF(x, 4), QPointF(x + 4, 8), QPointF(x, 12)}));
+    painter.end();
+    return QIcon(picture);
+}
+
 QPixmap healthSign(HealthSign sign, const QColor& ink, int side, qreal ratio) {
     QPixmap picture(QSize(side, side) * ratio);
     picture.setDevicePixelRatio(ratio);

@@ -21,6 +21,10 @@ QIcon statusIcon(StatusMenuState state, const QColor& ink, const QColor& ground)
 /// a QGuiApplication.
 QIcon startIcon(bool stops, const QPalette& palette);
 
+/// The sign for what has no room here and stands in a menu, on light and dark ground alike. Main
+/// thread; needs a QGuiApplication.
+QIcon moreIcon(bool rightToLeft);
+
 /// A tick, a cross, or a dot for what is not known, in `ink`, `side` points high and wide on a
 /// screen with `ratio` pixels a point. The signs differ by shape. Main thread; needs a
 /// QGuiApplication.

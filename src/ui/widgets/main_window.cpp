@@ -50,7 +50,6 @@ MainWindow::MainWindow(UserDefaults& defaults, DispatchQueue& mainQueue)
     addTab(fRemoteTab, "remote", QT_TR_NOOP("Remote Mac"));
     addTab(fSettingsTab, "prefs", QT_TR_NOOP("Settings"));
     addTab(fActivityTab, "activity", QT_TR_NOOP("Activity"));
-    connect(fSettingsTab, &SettingsTab::built, this, [this] { prepareButtons(*fSettingsTab); });
     ibStartButton().setToolTip({}); // Its title says it all.
     setAction(QStringLiteral("showRemoteTab"), [this] {
         showTab(QStringLiteral("remote"));
@@ -85,7 +84,10 @@ void MainWindow::addTab(QWidget* tab, const char* identifier, const char* name) 
     tab->setProperty("identifier", QString::fromLatin1(identifier));
     tab->setProperty("name", QString::fromLatin1(name));
     fUi->tabView->addTab(tab, tr(name));
-    prepareButtons(*tab);
+    if (auto* late = qobject_cast<LateTab*>(tab))
+        late->whenBuilt([this, late] { prepareButtons(*late); });
+    else
+        prepareButtons(*tab);
 }
 
 // -- actions

@@ -5,6 +5,7 @@
 #include "ui/activity_texts.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/muted_hints.h"
+#include "ui/widgets/wrapped_label.h"
 
 #include <QDateTime>
 #include <QEvent>
@@ -36,14 +37,12 @@ QString whenText(const QDateTime& arrived) {
 
 } // namespace
 
-RecentArrivals::RecentArrivals(QWidget* parent) : QWidget(parent), fEmpty(new QLabel) {
+RecentArrivals::RecentArrivals(QWidget* parent) : QWidget(parent), fEmpty(new WrappedLabel) {
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     fEmpty->setObjectName(QStringLiteral("noArrivals"));
     fEmpty->setText(tr("Movies that have arrived will stand here, the newest first. A double click "
                        "opens one."));
-    fEmpty->setTextFormat(Qt::PlainText);
-    fEmpty->setWordWrap(true);
     fEmpty->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     fEmpty->setForegroundRole(QPalette::PlaceholderText);
     muteHints(*this);

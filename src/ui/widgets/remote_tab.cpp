@@ -34,8 +34,12 @@ void showText(QLabel& label, const QString& text) {
 
 } // namespace
 
-RemoteTab::RemoteTab(Bindings& bindings, QWidget* parent)
-    : QWidget(parent), fBindings(bindings), fUi(std::make_unique<Ui::RemoteTab>()) {
+RemoteTab::RemoteTab(Bindings& bindings, QWidget* parent) : LateTab(parent), fBindings(bindings) {}
+
+RemoteTab::~RemoteTab() = default;
+
+void RemoteTab::makeControls() {
+    fUi = std::make_unique<Ui::RemoteTab>();
     fUi->setupUi(this);
     fSteps = {Step{.head = fUi->macHead,
                    .body = fUi->macBody,
@@ -61,21 +65,20 @@ RemoteTab::RemoteTab(Bindings& bindings, QWidget* parent)
     QSizePolicy keepsItsPlace = fUi->testBusySign->sizePolicy();
     keepsItsPlace.setRetainSizeWhenHidden(true);
     fUi->testBusySign->setSizePolicy(keepsItsPlace);
-    fUi->testBusySign->hide();
-    bindings.text(*fUi->remoteHost, prefRemoteBonjourName);
-    bindings.text(*fUi->remoteUser, prefRemoteUsername);
-    bindings.text(*fUi->remotePath, prefRemotePath);
+    fUi->testBusySign->setVisible(fTesting);
+    fUi->busyRow->setTask(fTask);
+    fBindings.text(*fUi->remoteHost, prefRemoteBonjourName);
+    fBindings.text(*fUi->remoteUser, prefRemoteUsername);
+    fBindings.text(*fUi->remotePath, prefRemotePath);
     for (const SetupStep number : cSteps)
         connectStep(number);
     // A button that loses the focus loses its look of a main button with it.
     connect(qApp, &QApplication::focusChanged, this, [this] { markMainButton(); });
-    bindings.follow(
+    fBindings.follow(
         *this,
         {prefSampleRemoteFullPath, prefRemoteUsername, prefRemoteBonjourName, prefRemotePath},
         [this] { update(); });
 }
-
-RemoteTab::~RemoteTab() = default;
 
 /// What a person asks for in the step: to fold it, to fill it in, to do it.
 void RemoteTab::connectStep(SetupStep number) {
@@ -106,11 +109,15 @@ void RemoteTab::connectStep(SetupStep number) {
 
 void RemoteTab::setTesting(bool testing) {
     fTesting = testing;
-    fUi->testBusySign->setVisible(testing);
+    if (isBuilt())
+        fUi->testBusySign->setVisible(testing);
     update();
 }
 
 void RemoteTab::setTask(RemoteTaskKind kind) {
+    fTask = kind;
+    if (!isBuilt())
+        return;
     // The row takes its room at the lower end of what scrolls. A bar that came with it would make
     // everything narrower under the pointer.
     QScrollBar& bar = *fUi->scrollArea->verticalScrollBar();
@@ -152,6 +159,8 @@ void RemoteTab::readSettings() {
 // -- how it is shown
 
 void RemoteTab::update() {
+    if (!isBuilt())
+        return;
     readSettings();
     const SetupSteps before = std::exchange(fShown, setupSteps(fFacts));
     std::optional<SetupStep> left;
@@ -246,6 +255,7 @@ bool RemoteTab::holdsTheFocus(const Step& step) const {
 }
 
 void RemoteTab::openStep(SetupStep number) {
+    build();
     Step& step = stepAt(number);
     step.opened = fShown[at(number)].state == StepState::Done;
     update();
@@ -254,6 +264,7 @@ void RemoteTab::openStep(SetupStep number) {
 
 /// Neither of the two is ever folded.
 void RemoteTab::openNextStep() {
+    build();
     const auto next = std::ranges::find_if(fShown, &SetupLine::isNext);
     if (next != fShown.end())
         focusOn(static_cast<SetupStep>(next - fShown.begin()));

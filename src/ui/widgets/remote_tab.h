@@ -3,8 +3,7 @@
 
 #include "support/remote_task_kind.h"
 #include "ui/setup_steps.h"
-
-#include <QWidget>
+#include "ui/widgets/late_tab.h"
 
 #include <array>
 #include <memory>
@@ -24,8 +23,9 @@ class StepHead;
 
 /// A step that is done folds to one line. It stays open while a person is typing in it, or has
 /// unfolded it, until the tab is left. The keyboard focus that was in a step which folds goes on to
-/// the next one. Main thread only.
-class RemoteTab final : public QWidget {
+/// the next one. Holds its controls from the first time it is shown, or a step of it is opened, on;
+/// what it is told before that stands in them then. Main thread only.
+class RemoteTab final : public LateTab {
     Q_OBJECT
 public:
     /// `bindings` outlives the tab.
@@ -58,6 +58,7 @@ Q_SIGNALS:
     void shownFirst();
 
 protected:
+    void makeControls() override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
@@ -85,10 +86,11 @@ private:
     Step& stepAt(SetupStep number) { return fSteps[static_cast<std::size_t>(number)]; }
 
     Bindings& fBindings;
-    std::unique_ptr<Ui::RemoteTab> fUi;
-    std::array<Step, cSetupSteps> fSteps;
+    std::unique_ptr<Ui::RemoteTab> fUi; ///< null until the tab is built
+    std::array<Step, cSetupSteps> fSteps{};
     SetupFacts fFacts;
     SetupSteps fShown;
+    RemoteTaskKind fTask = RemoteTaskKind::None;
     bool fTesting = false;
     bool fAskingForTheKey = false;
     bool fWasShown = false;

@@ -58,11 +58,11 @@ void showTrouble(QLabel& label, const QString& text) {
 } // namespace
 
 SettingsTab::SettingsTab(Bindings& bindings, QWidget* parent)
-    : QWidget(parent), fBindings(bindings), fTemplate(bindings.defaults()) {}
+    : LateTab(parent), fBindings(bindings), fTemplate(bindings.defaults()) {}
 
 SettingsTab::~SettingsTab() = default;
 
-void SettingsTab::build() {
+void SettingsTab::makeControls() {
     fUi = std::make_unique<Ui::SettingsTab>();
     fUi->setupUi(this);
     bindBehaviour();
@@ -79,7 +79,6 @@ void SettingsTab::build() {
         fUi->versionText->setFullText(version.isEmpty() ? QString()
                                                         : tr("Version %1").arg(version));
     });
-    Q_EMIT built();
 }
 
 // -- what people change
@@ -255,13 +254,6 @@ void SettingsTab::askAndChangeTemplate() {
 }
 
 // -- coming up
-
-/// Not in the event: children that come to a widget in sight are shown a turn later.
-void SettingsTab::setVisible(bool visible) {
-    if (visible && !fUi)
-        build();
-    QWidget::setVisible(visible);
-}
 
 void SettingsTab::showEvent(QShowEvent* event) {
     applyFonts();

@@ -3,8 +3,7 @@
 
 #include "ui/login_item_setting.h"
 #include "ui/template_setting.h"
-
-#include <QWidget>
+#include "ui/widgets/late_tab.h"
 
 #include <memory>
 #include <optional>
@@ -20,8 +19,7 @@ class Bindings;
 class LoginItem;
 class SshConfiguration;
 
-/// Holds its controls from the first time it is shown on.
-class SettingsTab final : public QWidget {
+class SettingsTab final : public LateTab {
     Q_OBJECT
 public:
     /// `bindings` outlives the tab.
@@ -40,18 +38,12 @@ public:
     /// tell it. `configuration` outlives the tab and is read each time the tab comes up.
     void setSshConfiguration(SshConfiguration& configuration) { fSsh = &configuration; }
 
-    void setVisible(bool visible) override;
-
-Q_SIGNALS:
-    /// The controls are there.
-    void built();
-
 protected:
+    void makeControls() override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    void build();
     void buildAdvanced();
     void bindBehaviour();
     void showLoginItem(const LoginItemSetting::Shown& shown);

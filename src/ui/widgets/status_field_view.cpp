@@ -2,6 +2,7 @@
 
 #include "ui/widgets/announcement.h"
 #include "ui/widgets/trouble_color.h"
+#include "ui/widgets/wrapped_label.h"
 #include "ui/words.h"
 
 #include <QEvent>
@@ -19,7 +20,7 @@ constexpr int cAroundTheFocus = 3;
 } // namespace
 
 StatusFieldView::StatusFieldView(QWidget* parent)
-    : QFrame(parent), fSign(new QLabel(this)), fText(new QLabel(this)) {
+    : QFrame(parent), fSign(new QLabel(this)), fText(new WrappedLabel(this)) {
     auto* row = new QHBoxLayout(this);
     row->addWidget(fSign);
     row->addWidget(fText, 1);
@@ -30,8 +31,6 @@ StatusFieldView::StatusFieldView(QWidget* parent)
     keepsItsPlace.setRetainSizeWhenHidden(true);
     fSign->setSizePolicy(keepsItsPlace);
     fText->setObjectName(QStringLiteral("statusText"));
-    fText->setTextFormat(Qt::PlainText);
-    fText->setWordWrap(true);
     fText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     fText->setFocusPolicy(Qt::StrongFocus);
     fText->setAccessibleDescription(tr("What the program is doing"));
