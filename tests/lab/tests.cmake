@@ -28,6 +28,7 @@ kelvo_tests(lab
     lab/network_lab_test.cpp
     lab/set_up_lab_test.cpp
     lab/share_lab_test.cpp
+    lab/sharing_lab_test.cpp
     lab/sync_lab_test.cpp
     lab/watchdog_lab_test.cpp
     lab/window_lab_test.cpp
@@ -46,6 +47,7 @@ target_compile_definitions(lab_tests PRIVATE
   KELVO_LAB_COMMAND="${KELVO_LAB_COMMAND}"
   KELVO_NETWORK_WATCHER="$<TARGET_FILE:network_watcher>"
   KELVO_PICTURES="${CMAKE_BINARY_DIR}/pictures"
+  KELVO_RESOURCES="${CMAKE_BINARY_DIR}/lib/kelvo-mirror"
   KELVO_TRAY_READER="$<TARGET_FILE:tray_reader>"
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror")
 add_dependencies(lab_tests network_watcher)
