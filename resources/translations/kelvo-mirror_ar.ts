@@ -940,6 +940,14 @@ Please check username...
         <source>The template with the option filled in</source>
         <translation>القالب بعد ملء الخيار</translation>
     </message>
+    <message>
+        <source>&amp;Keep the connection to the Mac between passes</source>
+        <translation>إبقاء ا&amp;لاتصال بجهاز Mac بين الجولات</translation>
+    </message>
+    <message>
+        <source>Saves the logins of passes that follow each other within a minute; it ends with syncing, and after an hour at most</source>
+        <translation>يوفّر تسجيل الدخول على الجولات التي يتبع بعضها بعضًا خلال دقيقة؛ وينتهي مع المزامنة، وبعد ساعة على الأكثر</translation>
+    </message>
 </context>
 <context>
     <name>SyncTab</name>
@@ -2755,6 +2763,55 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     <message>
         <source>Keep My Template</source>
         <translation>الاحتفاظ بقالبي</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SshLineBox</name>
+    <message>
+        <source>%1 was not changed: %2</source>
+        <translation>لم يُغيَّر %1: ‏%2</translation>
+    </message>
+    <message>
+        <source>A line in %1 tells ssh of the connection.</source>
+        <translation>سطر في %1 يُعلم ssh بالاتصال.</translation>
+    </message>
+    <message>
+        <source>ssh does not know of the connection yet: passes log in each time.</source>
+        <translation>لا يعرف ssh الاتصال بعد: تسجّل كل جولة الدخول من جديد.</translation>
+    </message>
+    <message>
+        <source>Take the Line Away</source>
+        <translation>إزالة السطر</translation>
+    </message>
+    <message>
+        <source>Tell ssh…</source>
+        <translation>إعلام ssh…</translation>
+    </message>
+    <message>
+        <source>Removes the line that Kelvo Mirror has put into your configuration of ssh</source>
+        <translation>يزيل السطر الذي أضافه Kelvo Mirror إلى إعدادات ssh لديك</translation>
+    </message>
+    <message>
+        <source>Shows the line that your configuration of ssh needs, and asks before it is put there</source>
+        <translation>يعرض السطر الذي تحتاجه إعدادات ssh لديك، ويسأل قبل إضافته</translation>
+    </message>
+    <message>
+        <source>Tell ssh of the connection?</source>
+        <translation>هل يُعلَم ssh بالاتصال؟</translation>
+    </message>
+    <message>
+        <source>This line is put at the top of %1. It concerns no commands but those of passes.
+%2</source>
+        <translation>يوضع هذا السطر في أول %1. ولا يخصّ سوى أوامر الجولات.
+%2</translation>
+    </message>
+    <message>
+        <source>Add the Line</source>
+        <translation>إضافة السطر</translation>
+    </message>
+    <message>
+        <source>Leave It as It Is</source>
+        <translation>تركه كما هو</translation>
     </message>
 </context>
 <context>

@@ -940,6 +940,14 @@ Bitte den Benutzernamen prüfen...
         <source>The template with the option filled in</source>
         <translation>Die Vorlage mit eingesetzter Option</translation>
     </message>
+    <message>
+        <source>&amp;Keep the connection to the Mac between passes</source>
+        <translation>Ver&amp;bindung zum Mac zwischen Durchgängen behalten</translation>
+    </message>
+    <message>
+        <source>Saves the logins of passes that follow each other within a minute; it ends with syncing, and after an hour at most</source>
+        <translation>Erspart Durchgängen, die innerhalb einer Minute aufeinander folgen, die Anmeldung; die Verbindung endet mit der Synchronisierung, spätestens nach einer Stunde</translation>
+    </message>
 </context>
 <context>
     <name>SyncTab</name>
@@ -2703,6 +2711,55 @@ Der Hostname des Macs kann auch auf der Seite „Entfernter Mac“ eingetragen w
     <message>
         <source>Keep My Template</source>
         <translation>Meine Vorlage behalten</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SshLineBox</name>
+    <message>
+        <source>%1 was not changed: %2</source>
+        <translation>%1 wurde nicht geändert: %2</translation>
+    </message>
+    <message>
+        <source>A line in %1 tells ssh of the connection.</source>
+        <translation>Eine Zeile in %1 macht ssh mit der Verbindung bekannt.</translation>
+    </message>
+    <message>
+        <source>ssh does not know of the connection yet: passes log in each time.</source>
+        <translation>ssh kennt die Verbindung noch nicht: Durchgänge melden sich jedes Mal neu an.</translation>
+    </message>
+    <message>
+        <source>Take the Line Away</source>
+        <translation>Zeile entfernen</translation>
+    </message>
+    <message>
+        <source>Tell ssh…</source>
+        <translation>ssh einweisen …</translation>
+    </message>
+    <message>
+        <source>Removes the line that Kelvo Mirror has put into your configuration of ssh</source>
+        <translation>Entfernt die Zeile, die Kelvo Mirror in Ihre ssh-Konfiguration geschrieben hat</translation>
+    </message>
+    <message>
+        <source>Shows the line that your configuration of ssh needs, and asks before it is put there</source>
+        <translation>Zeigt die Zeile, die Ihre ssh-Konfiguration braucht, und fragt, bevor sie eingetragen wird</translation>
+    </message>
+    <message>
+        <source>Tell ssh of the connection?</source>
+        <translation>ssh mit der Verbindung bekannt machen?</translation>
+    </message>
+    <message>
+        <source>This line is put at the top of %1. It concerns no commands but those of passes.
+%2</source>
+        <translation>Diese Zeile wird an den Anfang von %1 gesetzt. Sie betrifft nur die Befehle von Durchgängen.
+%2</translation>
+    </message>
+    <message>
+        <source>Add the Line</source>
+        <translation>Zeile eintragen</translation>
+    </message>
+    <message>
+        <source>Leave It as It Is</source>
+        <translation>Nichts ändern</translation>
     </message>
 </context>
 <context>

@@ -940,6 +940,14 @@ compruebe el nombre de usuario...
         <source>The template with the option filled in</source>
         <translation>La plantilla con la opción insertada</translation>
     </message>
+    <message>
+        <source>&amp;Keep the connection to the Mac between passes</source>
+        <translation>M&amp;antener la conexión con el Mac entre pasadas</translation>
+    </message>
+    <message>
+        <source>Saves the logins of passes that follow each other within a minute; it ends with syncing, and after an hour at most</source>
+        <translation>Ahorra los inicios de sesión de las pasadas que se siguen en menos de un minuto; termina con la sincronización y, como mucho, tras una hora</translation>
+    </message>
 </context>
 <context>
     <name>SyncTab</name>
@@ -2703,6 +2711,55 @@ El nombre de host del Mac también se puede escribir en la pestaña Mac remoto.<
     <message>
         <source>Keep My Template</source>
         <translation>Conservar mi plantilla</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SshLineBox</name>
+    <message>
+        <source>%1 was not changed: %2</source>
+        <translation>%1 no se ha modificado: %2</translation>
+    </message>
+    <message>
+        <source>A line in %1 tells ssh of the connection.</source>
+        <translation>Una línea en %1 da a conocer la conexión a ssh.</translation>
+    </message>
+    <message>
+        <source>ssh does not know of the connection yet: passes log in each time.</source>
+        <translation>ssh aún no conoce la conexión: cada pasada inicia sesión de nuevo.</translation>
+    </message>
+    <message>
+        <source>Take the Line Away</source>
+        <translation>Quitar la línea</translation>
+    </message>
+    <message>
+        <source>Tell ssh…</source>
+        <translation>Informar a ssh…</translation>
+    </message>
+    <message>
+        <source>Removes the line that Kelvo Mirror has put into your configuration of ssh</source>
+        <translation>Quita la línea que Kelvo Mirror ha puesto en su configuración de ssh</translation>
+    </message>
+    <message>
+        <source>Shows the line that your configuration of ssh needs, and asks before it is put there</source>
+        <translation>Muestra la línea que necesita su configuración de ssh y pregunta antes de ponerla</translation>
+    </message>
+    <message>
+        <source>Tell ssh of the connection?</source>
+        <translation>¿Dar a conocer la conexión a ssh?</translation>
+    </message>
+    <message>
+        <source>This line is put at the top of %1. It concerns no commands but those of passes.
+%2</source>
+        <translation>Esta línea se pone al principio de %1. Solo afecta a las órdenes de las pasadas.
+%2</translation>
+    </message>
+    <message>
+        <source>Add the Line</source>
+        <translation>Añadir la línea</translation>
+    </message>
+    <message>
+        <source>Leave It as It Is</source>
+        <translation>Dejarlo como está</translation>
     </message>
 </context>
 <context>

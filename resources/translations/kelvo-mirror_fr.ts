@@ -940,6 +940,14 @@ vérifiez le nom d’utilisateur...
         <source>The template with the option filled in</source>
         <translation>Le modèle avec l’option insérée</translation>
     </message>
+    <message>
+        <source>&amp;Keep the connection to the Mac between passes</source>
+        <translation>&amp;Garder la connexion au Mac entre les passes</translation>
+    </message>
+    <message>
+        <source>Saves the logins of passes that follow each other within a minute; it ends with syncing, and after an hour at most</source>
+        <translation>Évite une nouvelle connexion aux passes qui se suivent à moins d’une minute ; elle prend fin avec la synchronisation, et au plus tard après une heure</translation>
+    </message>
 </context>
 <context>
     <name>SyncTab</name>
@@ -2703,6 +2711,55 @@ Le nom d’hôte du Mac peut aussi être saisi dans l’onglet Mac distant.</tra
     <message>
         <source>Keep My Template</source>
         <translation>Garder mon modèle</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SshLineBox</name>
+    <message>
+        <source>%1 was not changed: %2</source>
+        <translation>%1 n’a pas été modifié : %2</translation>
+    </message>
+    <message>
+        <source>A line in %1 tells ssh of the connection.</source>
+        <translation>Une ligne dans %1 indique la connexion à ssh.</translation>
+    </message>
+    <message>
+        <source>ssh does not know of the connection yet: passes log in each time.</source>
+        <translation>ssh ne connaît pas encore la connexion : chaque passe se connecte de nouveau.</translation>
+    </message>
+    <message>
+        <source>Take the Line Away</source>
+        <translation>Retirer la ligne</translation>
+    </message>
+    <message>
+        <source>Tell ssh…</source>
+        <translation>Informer ssh…</translation>
+    </message>
+    <message>
+        <source>Removes the line that Kelvo Mirror has put into your configuration of ssh</source>
+        <translation>Retire la ligne que Kelvo Mirror a ajoutée à votre configuration de ssh</translation>
+    </message>
+    <message>
+        <source>Shows the line that your configuration of ssh needs, and asks before it is put there</source>
+        <translation>Affiche la ligne dont votre configuration de ssh a besoin, et demande avant de l’ajouter</translation>
+    </message>
+    <message>
+        <source>Tell ssh of the connection?</source>
+        <translation>Indiquer la connexion à ssh ?</translation>
+    </message>
+    <message>
+        <source>This line is put at the top of %1. It concerns no commands but those of passes.
+%2</source>
+        <translation>Cette ligne est placée au début de %1. Elle ne concerne que les commandes des passes.
+%2</translation>
+    </message>
+    <message>
+        <source>Add the Line</source>
+        <translation>Ajouter la ligne</translation>
+    </message>
+    <message>
+        <source>Leave It as It Is</source>
+        <translation>Ne rien changer</translation>
     </message>
 </context>
 <context>

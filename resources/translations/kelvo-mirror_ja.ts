@@ -940,6 +940,14 @@ Please check username...
         <source>The template with the option filled in</source>
         <translation>オプションを埋め込んだテンプレート</translation>
     </message>
+    <message>
+        <source>&amp;Keep the connection to the Mac between passes</source>
+        <translation>同期の間も Mac との接続を保つ(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Saves the logins of passes that follow each other within a minute; it ends with syncing, and after an hour at most</source>
+        <translation>1 分以内に続く同期ではログインし直しません。接続は同期の終了とともに、長くても 1 時間で切れます</translation>
+    </message>
 </context>
 <context>
     <name>SyncTab</name>
@@ -2690,6 +2698,55 @@ Mac で「システム設定」の「一般」、「共有」を開き、「フ�
     <message>
         <source>Keep My Template</source>
         <translation>自分のテンプレートを残す</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SshLineBox</name>
+    <message>
+        <source>%1 was not changed: %2</source>
+        <translation>%1 は変更されませんでした: %2</translation>
+    </message>
+    <message>
+        <source>A line in %1 tells ssh of the connection.</source>
+        <translation>%1 の 1 行で、ssh に接続を知らせています。</translation>
+    </message>
+    <message>
+        <source>ssh does not know of the connection yet: passes log in each time.</source>
+        <translation>ssh はまだこの接続を知りません。同期のたびにログインします。</translation>
+    </message>
+    <message>
+        <source>Take the Line Away</source>
+        <translation>行を取り除く</translation>
+    </message>
+    <message>
+        <source>Tell ssh…</source>
+        <translation>ssh に知らせる…</translation>
+    </message>
+    <message>
+        <source>Removes the line that Kelvo Mirror has put into your configuration of ssh</source>
+        <translation>Kelvo Mirror が ssh の設定に加えた行を取り除きます</translation>
+    </message>
+    <message>
+        <source>Shows the line that your configuration of ssh needs, and asks before it is put there</source>
+        <translation>ssh の設定に必要な行を示し、書き込む前に確認します</translation>
+    </message>
+    <message>
+        <source>Tell ssh of the connection?</source>
+        <translation>ssh にこの接続を知らせますか?</translation>
+    </message>
+    <message>
+        <source>This line is put at the top of %1. It concerns no commands but those of passes.
+%2</source>
+        <translation>この行を %1 の先頭に加えます。同期のコマンド以外には影響しません。
+%2</translation>
+    </message>
+    <message>
+        <source>Add the Line</source>
+        <translation>行を加える</translation>
+    </message>
+    <message>
+        <source>Leave It as It Is</source>
+        <translation>そのままにする</translation>
     </message>
 </context>
 <context>

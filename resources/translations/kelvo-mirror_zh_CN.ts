@@ -940,6 +940,14 @@ Please check username...
         <source>The template with the option filled in</source>
         <translation>填入选项后的模板</translation>
     </message>
+    <message>
+        <source>&amp;Keep the connection to the Mac between passes</source>
+        <translation>在两次同步之间保持与 Mac 的连接(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Saves the logins of passes that follow each other within a minute; it ends with syncing, and after an hour at most</source>
+        <translation>一分钟内相继进行的同步无需重新登录；连接随同步停止而结束，最长保持一小时</translation>
+    </message>
 </context>
 <context>
     <name>SyncTab</name>
@@ -2690,6 +2698,55 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     <message>
         <source>Keep My Template</source>
         <translation>保留我的模板</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SshLineBox</name>
+    <message>
+        <source>%1 was not changed: %2</source>
+        <translation>未能更改 %1：%2</translation>
+    </message>
+    <message>
+        <source>A line in %1 tells ssh of the connection.</source>
+        <translation>%1 中的一行让 ssh 知道此连接。</translation>
+    </message>
+    <message>
+        <source>ssh does not know of the connection yet: passes log in each time.</source>
+        <translation>ssh 还不知道此连接：每次同步都会重新登录。</translation>
+    </message>
+    <message>
+        <source>Take the Line Away</source>
+        <translation>移除该行</translation>
+    </message>
+    <message>
+        <source>Tell ssh…</source>
+        <translation>告知 ssh…</translation>
+    </message>
+    <message>
+        <source>Removes the line that Kelvo Mirror has put into your configuration of ssh</source>
+        <translation>移除 Kelvo Mirror 写入您的 ssh 配置中的那一行</translation>
+    </message>
+    <message>
+        <source>Shows the line that your configuration of ssh needs, and asks before it is put there</source>
+        <translation>显示您的 ssh 配置所需的一行，并在写入前询问</translation>
+    </message>
+    <message>
+        <source>Tell ssh of the connection?</source>
+        <translation>要让 ssh 知道此连接吗？</translation>
+    </message>
+    <message>
+        <source>This line is put at the top of %1. It concerns no commands but those of passes.
+%2</source>
+        <translation>此行将写在 %1 的开头。它只影响同步所用的命令。
+%2</translation>
+    </message>
+    <message>
+        <source>Add the Line</source>
+        <translation>添加该行</translation>
+    </message>
+    <message>
+        <source>Leave It as It Is</source>
+        <translation>保持原样</translation>
     </message>
 </context>
 <context>

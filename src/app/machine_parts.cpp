@@ -18,6 +18,8 @@ namespace kelvo {
 MachineParts::MachineParts(bool withTray)
     : PassMachine(STDOUT_FILENO, STDERR_FILENO, DamagedFile::IsSetAside),
       loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files),
+      sshConfiguration(resourceFolder() + QStringLiteral("/ssh.conf"),
+                       QStringLiteral("/etc/ssh/ssh_config.d/kelvo-mirror.conf")),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
       terminal(files, console, mainQueue, bgQueue),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,

@@ -10,6 +10,7 @@
 #include "adapters/network/avahi_browser.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/single_copy_socket.h"
+#include "adapters/process/user_ssh_configuration.h"
 #include "app/pass_machine.h"
 #include "remote/share_commands.h"
 #include "support/notification_center.h"
@@ -37,6 +38,7 @@ struct MachineParts : PassMachine {
     QString logFolder() const;
 
     AutostartEntry loginItem;
+    UserSshConfiguration sshConfiguration;
     PlatformShareCommands shareCommands;
     NotificationCenter notificationCenter;
     DesktopWorkspace workspace;

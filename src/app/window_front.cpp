@@ -89,6 +89,7 @@ public:
             [this](const PassRecord& pass) { fWindow.syncTab().passEnded(pass); });
         fWindow.settingsTab().setLoginItem(machine.loginItem);
         fWindow.settingsTab().setAlerts(fAlerts);
+        fWindow.settingsTab().setSshConfiguration(machine.sshConfiguration);
         fWindow.setMayClose([this] { return mayClose(); });
     }
 

@@ -61,6 +61,7 @@ kelvo_tests(contract
     contract/sqlite_pass_healing_test.cpp
     contract/sqlite_pass_layout_test.cpp
     contract/sqlite_pass_store_test.cpp
+    contract/ssh_configuration_test.cpp
     contract/ssh_connection_test.cpp
     contract/stream_console_test.cpp
     contract/system_information_test.cpp

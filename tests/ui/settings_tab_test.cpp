@@ -92,6 +92,7 @@ TEST_F(SettingsTabTest, StartAtLogin_IsOffAndSwitchesTheEntry) {
 TEST_F(SettingsTabTest, NoticesCommandAndQuit_AreBoundBothWays) {
     showAdvanced();
     for (const auto& [name, key] : {std::pair("showArrivals", prefShowArrivals),
+                                    std::pair("keepConnection", prefKeepConnection),
                                     std::pair("quitWithoutAsking", prefQuitWithoutAsking)}) {
         auto* flag = tab.findChild<QCheckBox*>(QString::fromLatin1(name));
         defaults.setObject(key, true);

@@ -26,6 +26,7 @@ kelvo_tests(ui WIDGETS
     ui/room_test.cpp
     ui/settings_places_test.cpp
     ui/settings_tab_test.cpp
+    ui/ssh_line_box_test.cpp
     ui/sheet_presenter_test.cpp
     ui/sync_tab_test.cpp
     ui/tray_icon_test.cpp

@@ -148,6 +148,8 @@ void SettingsTab::buildAdvanced() {
     fBindings.text(*fUi->rsyncTemplate, prefRsyncCommandString1);
     fBindings.text(*fUi->commandAfterArrivals, prefCommandAfterArrivals);
     muteHints(*fUi->commandAfterArrivals);
+    fBindings.flag(*fUi->keepConnection, prefKeepConnection);
+    fUi->keepConnection->setToolTip(fUi->keepConnection->accessibleDescription());
     fUi->optionTag->addItem(tr("Every file that differs"), 100);
     fUi->optionTag->addItem(tr("Only files newer than here (--update)"), 101);
     fUi->optionTag->addItem(tr("Only files not here yet (--ignore-existing)"), 102);
@@ -265,6 +267,8 @@ void SettingsTab::showEvent(QShowEvent* event) {
     applyFonts();
     if (fLoginItem)
         showLoginItem(fLoginItem->look());
+    fUi->sshLineBox->setConfiguration(fSsh, fAlerts);
+    fUi->sshLineBox->look();
     QWidget::showEvent(event);
 }
 

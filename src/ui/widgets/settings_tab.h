@@ -18,6 +18,7 @@ namespace kelvo {
 class AlertPresenter;
 class Bindings;
 class LoginItem;
+class SshConfiguration;
 
 /// Holds its controls from the first time it is shown on.
 class SettingsTab final : public QWidget {
@@ -34,6 +35,10 @@ public:
     /// Where a person is asked before a template of their own is replaced, from now on; without it
     /// nobody is asked. `alerts` calls nothing back once the tab is gone.
     void setAlerts(AlertPresenter& alerts) { fAlerts = &alerts; }
+
+    /// From now on the tab says whether ssh knows of the connection that is kept, and offers to
+    /// tell it. `configuration` outlives the tab and is read each time the tab comes up.
+    void setSshConfiguration(SshConfiguration& configuration) { fSsh = &configuration; }
 
     void setVisible(bool visible) override;
 
@@ -63,6 +68,7 @@ private:
     Bindings& fBindings;
     TemplateSetting fTemplate;
     AlertPresenter* fAlerts = nullptr;
+    SshConfiguration* fSsh = nullptr;
     std::optional<LoginItemSetting> fLoginItem;
     std::unique_ptr<Ui::SettingsTab> fUi; ///< null until the tab is built
     bool fLookPlanned = false;
