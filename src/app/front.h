@@ -44,6 +44,7 @@ struct StatusMenuParts {
 
 /// How the fronts of one kind are made.
 struct FrontKind {
+    bool hasWindow = false;
     /// `mainQueue` has ended before the menu goes.
     StatusMenuParts (*makeStatusMenu)(DispatchQueue& mainQueue);
     /// `machine` outlives the front. A front without a window hands each state of the work on to

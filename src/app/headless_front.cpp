@@ -65,6 +65,7 @@ private:
 
 FrontKind headlessFront() {
     return {
+        .hasWindow = false,
         .makeStatusMenu = [](DispatchQueue&) -> StatusMenuParts {
             return {.menu = std::make_shared<HeadlessStatusMenu>()};
         },

@@ -166,7 +166,7 @@ private:
             .copy = {.version = QStringView(cVersion).toString(),
                      .process = QCoreApplication::applicationPid(),
                      .since = QDateTime::currentDateTimeUtc(),
-                     .window = fKind == FrontKind::Window},
+                     .window = fKind.hasWindow},
             .clock = engine.clock,
         });
         front().sendActionsTo(*controller, *fDelegate);

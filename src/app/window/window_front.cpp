@@ -314,6 +314,7 @@ StatusMenuParts makeTray(DispatchQueue& mainQueue) {
 
 FrontKind windowFront() {
     return {
+        .hasWindow = true,
         .makeStatusMenu = makeTray,
         .makeFront = [](MachineParts& machine,
                         std::function<void(const WorkState&)>) -> std::unique_ptr<Front> {
