@@ -199,11 +199,16 @@ TEST_F(PrivateFilesSystemTest, PrivateKey_IsNeverOpenedByTheProgram) {
     (void)waitForEnd(program);
 
     QMap<QByteArray, QByteArray> programOf; // by process
+    QMap<QByteArray, QByteArray> begun;     // where another process came in between
     QSet<QByteArray> readers;
     for (const QByteArray& line : contents(trace).split('\n')) {
         const QByteArray process = line.left(line.indexOf(' '));
         const QByteArray call = line.mid(process.size()).trimmed();
-        if (call.startsWith("execve(\"") && call.endsWith(" = 0"))
+        if (call.startsWith("execve(\"") && call.endsWith("<unfinished ...>"))
+            begun[process] = call.split('"').value(1);
+        else if (call.startsWith("<... execve resumed>") && call.endsWith(" = 0"))
+            programOf[process] = begun.take(process);
+        else if (call.startsWith("execve(\"") && call.endsWith(" = 0"))
             programOf[process] = call.split('"').value(1);
         else if (call.startsWith("open") && call.contains("/id_kelvoRsync\""))
             // A process that has become nothing else yet is still its parent.

@@ -11,7 +11,7 @@
 namespace kelvo {
 
 SshLineBox::SshLineBox(QWidget* parent)
-    : QWidget(parent), fNote(new QLabel), fButton(new QPushButton) {
+    : QWidget(parent), fNote(new QLabel), fButton(new QPushButton(tr("Tell ssh…"))) {
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addWidget(fNote);
