@@ -5,8 +5,8 @@
 #include "support/wait_until.h"
 
 #include <QPoint>
-#include <QSize>
 #include <QProcess>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 

@@ -247,8 +247,7 @@ TEST_F(ActivityTabTest, RunningPass_IsTheFirstRowUntilItEnds) {
     tab.showWork(work);
     EXPECT_EQ(cell(0, 1), QStringLiteral("First pull, 50 %"));
     ASSERT_EQ(changes.size(), 1);
-    EXPECT_EQ(changes[0][0].toModelIndex(), row(0));
-    EXPECT_EQ(changes[0][1].toModelIndex(),
+    EXPECT_EQ(changes[0][1].toModelIndex(), // the last cell
               row(0).siblingAtColumn(passes().model()->columnCount() - 1));
     EXPECT_TRUE(report().contains(QStringLiteral("50 %")));
 
