@@ -144,7 +144,7 @@ TEST_F(SharingLabTest, CableCutInMidTransfer_TheNextPassesComplete) {
               0);
     lab({QStringLiteral("link"), QStringLiteral("cut")});
     EXPECT_TRUE(program->waitForLine(
-        [](const QString& line) { return line.contains(u"timeout in data send/receive"); }, 90))
+        [](const QString& line) { return line.contains(u"rsync error: "); }, 90))
         << program->transcript().right(4000).toStdString();
     lab({QStringLiteral("slow"), QStringLiteral("off")});
     lab({QStringLiteral("link"), QStringLiteral("up")});
