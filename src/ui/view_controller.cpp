@@ -239,7 +239,20 @@ void ViewController::startScanOnLaunch() {
         mainQueue.asyncAfter(1.0, [this] { startScanOnLaunch(); });
     else if (defaults.boolForKey(prefAutoStartScanOnLaunch) &&
              !defaults.boolForKey(prefEnableScanning))
-        mainQueue.asyncAfter(1.0, [this] { clickStartButton(); });
+        startScanAfter(1.0 + fParts.firstPassDelay);
+}
+
+void ViewController::startScanAfter(double seconds) {
+    if (fParts.firstPassDelay > 0)
+        fParts.engine.console.log(
+            QStringLiteral("The first pass of this profile begins in %1 s; those of others begin "
+                           "at other moments.")
+                .arg(seconds, 0, 'f', 1));
+    fParts.engine.mainQueue.asyncAfter(seconds, [this] {
+        // A person may have been first meanwhile.
+        if (fParts.firstPassDelay <= 0 || !fParts.engine.defaults.boolForKey(prefEnableScanning))
+            clickStartButton();
+    });
 }
 
 void ViewController::handWindowControllerOver() {

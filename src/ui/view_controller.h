@@ -54,6 +54,8 @@ struct ViewControllerParts {
     std::function<std::unique_ptr<NetworkChecker>()> makeKelvoSSID;
     StatusMenuPresence& statusMenu;
     const ShareCommands& shareCommands;
+    /// How much later than after a second syncing starts by itself, in seconds.
+    double firstPassDelay = 0;
     /// The controller of the view's window; nothing as long as there is none.
     std::function<MainWindowController*()> windowController;
 };
@@ -154,6 +156,7 @@ private:
     void observeValue(const DefaultsChange& change);
     std::function<void()> reactionTo(const DefaultsChange& change);
     void startScanOnLaunch();
+    void startScanAfter(double seconds);
     void handWindowControllerOver();
     void readVersion();
     void scriptEnded(TerminalOutcome outcome, const QString& command);

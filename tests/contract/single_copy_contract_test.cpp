@@ -327,6 +327,20 @@ TEST_F(SingleCopySocketTest, PlaceGivenUp_IsFreeWhoeverHoldsItsDescriptors) {
     ::waitpid(child, nullptr, 0);
 }
 
+TEST_F(SingleCopySocketTest, WhetherACopyRuns_IsSeenFromOutsideAndChangesNothing) {
+    const std::string missing = folder.filePath(QStringLiteral("none")).toStdString();
+    EXPECT_FALSE(SingleCopySocket::isClaimed(missing));
+    EXPECT_FALSE(QFile::exists(QString::fromStdString(missing)));
+    auto first = copy();
+    ASSERT_EQ(first->claim({}, cNoShow), Claim::First);
+    const std::string here = folder.path().toStdString();
+    EXPECT_TRUE(SingleCopySocket::isClaimed(here));
+    EXPECT_TRUE(SingleCopySocket::isClaimed(here)) << "it was not taken away";
+    first.reset();
+    EXPECT_FALSE(SingleCopySocket::isClaimed(here));
+    EXPECT_EQ(copy()->claim({}, cNoShow), Claim::First) << "nor is it kept";
+}
+
 TEST_F(SingleCopySocketTest, FilesAreTheUsersAlone) {
     const auto first = copy();
     ASSERT_EQ(first->claim({}, cNoShow), Claim::First);

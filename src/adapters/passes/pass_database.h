@@ -39,7 +39,8 @@ public:
 
     enum class Access {
         ReadAndWrite,
-        ReadOnly, ///< `readAll` and `readArrivals` of any layout; nothing is made or taken over
+        ReadOnly, ///< `readAll`, `readArrivals` and `readStanding`, of any layout as far as it has
+                  ///< them; nothing is made or taken over
     };
 
     explicit PassDatabase(const QString& path, PassLimits limits = {},

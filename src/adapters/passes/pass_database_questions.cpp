@@ -9,7 +9,7 @@
 namespace kelvo {
 namespace {
 
-constexpr int cLayoutWithArrivals = 2;
+constexpr int cLayoutWithArrivals = 2; // and with how things stand
 
 } // namespace
 
@@ -55,7 +55,7 @@ PassDatabase::Outcome PassDatabase::readDays(int days, std::vector<DayOfPasses>&
 PassDatabase::Outcome PassDatabase::readStanding(Standing& standing) {
     if (nothingIsKept())
         return {};
-    if (Outcome outcome = open(); !outcome)
+    if (Outcome outcome = open(); !outcome || fLayout < cLayoutWithArrivals)
         return outcome;
     const auto readRow = [this](StandingRow row, std::optional<PassRecord>& record) {
         return run(PassStatement::ReadStanding, {static_cast<int>(row)},

@@ -38,6 +38,10 @@ constexpr std::string_view cAnswer = "shown\n";
 constexpr std::size_t cMostClients = 16;
 constexpr auto cRetryPause = 50ms;
 
+std::string lockIn(const std::string& folder) {
+    return folder + "/kelvo-mirror.lock";
+}
+
 QString lastFault() {
     return systemErrorText(errno);
 }
@@ -221,6 +225,12 @@ SingleCopySocket::SingleCopySocket(std::string folder, Console& console,
 
 SingleCopySocket::~SingleCopySocket() = default;
 
+bool SingleCopySocket::isClaimed(const std::string& folder) {
+    const UniqueFd lock(
+        ::open(lockIn(folder).c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    return lock && ::flock(lock.get(), LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+}
+
 SingleCopy::Claim SingleCopySocket::claim(const QByteArray& token, Show show) {
     const auto unguarded = [this](const QString& fault) {
         fConsole.log(u"Cannot look for another running copy: " + fault);
@@ -229,7 +239,7 @@ SingleCopy::Claim SingleCopySocket::claim(const QByteArray& token, Show show) {
     if (const QString fault = faultOf(fFolder); !fault.isEmpty())
         return unguarded(QString::fromStdString(fFolder) + u": " + fault);
     const auto address = socketAddress(fFolder + "/kelvo-mirror.socket");
-    const std::string lockPath = fFolder + "/kelvo-mirror.lock";
+    const std::string lockPath = lockIn(fFolder);
     UniqueFd lock(::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
                          S_IRUSR | S_IWUSR));
     if (!lock)

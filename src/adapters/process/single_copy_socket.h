@@ -29,6 +29,10 @@ public:
     /// A token of more than 255 bytes, or of others than visible ASCII, is none.
     Claim claim(const QByteArray& token, Show show) override;
 
+    /// Whether a copy holds the lock in `folder` at the moment. Makes and changes nothing; any
+    /// thread. A copy that looks for the lock in the same moment tries again a moment later.
+    static bool isClaimed(const std::string& folder);
+
 private:
     class Listener;
 

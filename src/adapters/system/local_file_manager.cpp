@@ -142,7 +142,7 @@ QString LocalFileManager::homeDirectory() const {
 }
 
 FolderOrFault LocalFileManager::temporaryFolder() {
-    const PrivateFolder folder = temporaryFolderOfUser();
+    const PrivateFolder folder = temporaryFolderOfUser(fProfile.name.toStdString());
     return {QString::fromLocal8Bit(folder.path.c_str()),
             QString::fromLocal8Bit(folder.fault.c_str())};
 }

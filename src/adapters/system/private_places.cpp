@@ -65,9 +65,10 @@ PrivateFolder folderOfOurOwn() {
 
 } // namespace
 
-PrivateFolder temporaryFolderOfUser() {
+PrivateFolder temporaryFolderOfUser(const std::string& within) {
     const std::string given = givenFolder();
-    return given.empty() ? folderOfOurOwn() : madeFolder(given + "/kelvo-mirror");
+    PrivateFolder folder = given.empty() ? folderOfOurOwn() : madeFolder(given + "/kelvo-mirror");
+    return within.empty() || folder.path.empty() ? folder : madeFolder(folder.path + '/' + within);
 }
 
 int makePrivateFolders(const std::string& path) {

@@ -13,8 +13,9 @@ struct PrivateFolder {
 /// For what lives only for a while: "kelvo-mirror" in $XDG_RUNTIME_DIR when that is a folder that
 /// the user owns and nobody else may enter or write, else "kelvo-mirror-<user id>" in $TMPDIR or
 /// /tmp; made with mode 0700 when missing and refused when it is anybody else's, open to others, or
-/// a link. Touches only local folders. Any thread.
-PrivateFolder temporaryFolderOfUser();
+/// a link; the same goes for the folder `within` in it, which is meant when it is given. Touches
+/// only local folders. Any thread.
+PrivateFolder temporaryFolderOfUser(const std::string& within = {});
 
 /// Makes the folder `path` and those above it that are missing, each 0700; what is there already
 /// keeps its mode. 0, or the errno of the first failure. Any thread.
