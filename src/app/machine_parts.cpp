@@ -13,25 +13,30 @@
 
 #include <unistd.h>
 
+#include <utility>
+
 namespace kelvo {
 
-MachineParts::MachineParts(bool withTray)
-    : PassMachine(STDOUT_FILENO, STDERR_FILENO, DamagedFile::IsSetAside),
-      loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files),
+MachineParts::MachineParts(bool withTray, Profile ofProfile)
+    : PassMachine(STDOUT_FILENO, STDERR_FILENO, DamagedFile::IsSetAside, std::move(ofProfile)),
+      loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files, profile),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
       terminal(files, console, mainQueue, bgQueue),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
       singleCopy(QFile::encodeName(logFolder()).toStdString(), console),
       sentinelLauncher(commands.runningCommands()), dnssdBrowser(console, mainQueue),
-      notices([this](const Notice& notice) {
-          if (fTrayIcon)
-              fTrayIcon->showNotice(notice);
-      }) {
+      notices(
+          [this](const Notice& notice) {
+              if (fTrayIcon)
+                  fTrayIcon->showNotice(notice);
+          },
+          QDBusConnection::sessionBus, profile) {
     if (withTray) {
         fTrayHost = std::make_unique<DesktopTrayHost>();
-        fTrayItem = std::make_unique<StatusNotifierItem>();
-        auto icon = std::make_unique<TrayIcon>(*fTrayHost, *fTrayItem, mainQueue);
+        fTrayItem =
+            std::make_unique<StatusNotifierItem>(StatusNotifierItem::connectToSessionBus, profile);
+        auto icon = std::make_unique<TrayIcon>(*fTrayHost, *fTrayItem, mainQueue, profile);
         fTrayIcon = icon.get();
         fStatusMenu = std::move(icon);
     } else {
@@ -46,7 +51,7 @@ std::unique_ptr<NetworkChecker> MachineParts::makeNetworkChecker() {
 }
 
 QString MachineParts::logFolder() const {
-    return QFileInfo(logFile.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo"))).path();
+    return QFileInfo(logFile.defaultLogFileWithinSubdirectory(logSubdirectory(profile))).path();
 }
 
 } // namespace kelvo

@@ -26,7 +26,7 @@ class TrayItem;
 /// Main thread only; made once the application object exists.
 struct MachineParts : PassMachine {
     /// `withTray` needs a QApplication.
-    explicit MachineParts(bool withTray);
+    MachineParts(bool withTray, Profile profile);
     ~MachineParts();
     MachineParts(const MachineParts&) = delete;
     MachineParts& operator=(const MachineParts&) = delete;

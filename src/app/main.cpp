@@ -3,6 +3,8 @@
 #include "app/commands/command_line.h"
 #include "app/commands/once.h"
 #include "app/commands/passes.h"
+#include "app/commands/profile_transfer.h"
+#include "app/commands/profiles.h"
 #include "app/commands/settings_commands.h"
 #include "app/language.h"
 #include "app/program.h"
@@ -194,6 +196,12 @@ int main(int argc, char** argv) {
 
     if (const QString missing = missingFiles(); !missing.isEmpty() && worksOn(commandLine.kind))
         return printReason(missing, cExitTooFewFiles);
+    const kelvo::Profile& profile = commandLine.profile;
+    if (kelvo::needsProfile(commandLine) && !kelvo::isThere(profile))
+        return printReason(QStringLiteral("there is no profile %1; 'kelvo-mirror --profiles' lists "
+                                          "those there are")
+                               .arg(profile.name),
+                           cExitUsage);
     switch (commandLine.kind) {
     case kelvo::LaunchKind::Refuse:
         return printAndEnd(stderr, commandLine.message, cExitUsage);
@@ -202,19 +210,31 @@ int main(int argc, char** argv) {
         return printAndEnd(stdout, commandLine.message, 0);
     case kelvo::LaunchKind::Once: {
         const QCoreApplication application(argc, argv);
-        return printAnswer(kelvo::runOnce(commandLine.json));
+        return printAnswer(kelvo::runOnce(profile, commandLine.json));
     }
     case kelvo::LaunchKind::Passes: {
         const QCoreApplication application(argc, argv);
-        return printAnswer(kelvo::runPassesCommand(commandLine.passes));
+        return printAnswer(kelvo::runPassesCommand(profile, commandLine.passes));
     }
     case kelvo::LaunchKind::Settings: {
         const QCoreApplication application(argc, argv);
-        return printAnswer(kelvo::runSettingsCommand(commandLine.settings));
+        return printAnswer(kelvo::runSettingsCommand(profile, commandLine.settings));
+    }
+    case kelvo::LaunchKind::Profiles: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runProfilesCommand(commandLine.json));
+    }
+    case kelvo::LaunchKind::Export: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runExportCommand(profile, commandLine.transfer.file));
+    }
+    case kelvo::LaunchKind::Import: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runImportCommand(profile, commandLine.transfer));
     }
     case kelvo::LaunchKind::Headless: {
         const QCoreApplication application(argc, argv);
-        return kelvo::runProgram(kelvo::FrontKind::Headless);
+        return kelvo::runProgram(kelvo::FrontKind::Headless, profile);
     }
     case kelvo::LaunchKind::Window:
         break;
@@ -227,9 +247,9 @@ int main(int argc, char** argv) {
     QApplication application(toolkit.count(), toolkit.words());
     qInstallMessageHandler(usual);
     QApplication::setApplicationName(QStringLiteral("kelvo-mirror"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Kelvo Mirror"));
+    QApplication::setApplicationDisplayName(profile.title());
     QApplication::setDesktopFileName(QStringLiteral("org.kelvo.KelvoMirror"));
     QApplication::setQuitOnLastWindowClosed(false);
     kelvo::speakTheirLanguage(application);
-    return kelvo::runProgram(kelvo::FrontKind::Window);
+    return kelvo::runProgram(kelvo::FrontKind::Window, profile);
 }

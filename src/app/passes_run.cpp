@@ -9,8 +9,8 @@
 
 namespace kelvo {
 
-CommandAnswer runPassesCommand(const PassesRequest& request) {
-    const QString file = passesFile();
+CommandAnswer runPassesCommand(const Profile& profile, const PassesRequest& request) {
+    const QString file = passesFile(profile);
     if (!QFileInfo::exists(file))
         return {0, {}, QStringLiteral("kelvo-mirror: there is no record of passes yet\n")};
     PassDatabase database(file, {}, PassDatabase::Access::ReadOnly);

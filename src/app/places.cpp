@@ -6,9 +6,24 @@
 
 namespace kelvo {
 
-QString settingsFile() {
+namespace {
+
+QString configFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/kelvo-mirror/preferences.plist");
+           QStringLiteral("/kelvo-mirror");
+}
+
+} // namespace
+
+QString settingsFile(const Profile& profile) {
+    return profile.within(configFolder()) + QStringLiteral("/preferences.plist");
+}
+
+QStringList profileNames() {
+    QStringList names = QDir(configFolder() + QStringLiteral("/profiles"))
+                            .entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    names.removeIf([](const QString& name) { return !profileNameFault(name).isEmpty(); });
+    return names;
 }
 
 QString autostartFolder() {
@@ -20,11 +35,16 @@ QString resourceFolder() {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/kelvo-mirror");
 }
 
-QString passesFile() {
+QString passesFile(const Profile& profile) {
     QString state = qEnvironmentVariable("XDG_STATE_HOME");
     if (!QDir::isAbsolutePath(state))
         state = QDir::homePath() + QStringLiteral("/.local/state");
-    return state + QStringLiteral("/kelvo-mirror/passes.sqlite");
+    return profile.within(state + QStringLiteral("/kelvo-mirror")) +
+           QStringLiteral("/passes.sqlite");
+}
+
+QString logSubdirectory(const Profile& profile) {
+    return profile.within(QStringLiteral("Kelvo"));
 }
 
 } // namespace kelvo

@@ -3,6 +3,7 @@
 #include "adapters/desktop/activation_token.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
+#include "app/places.h"
 #include "app/start/app_delegate.h"
 #include "app/start/duplicate_check.h"
 #include "app/start/interface_registry.h"
@@ -34,8 +35,8 @@ constexpr auto cLastLines = 200ms;
 /// The program's own parts, on top of those of the machine.
 class Program {
 public:
-    explicit Program(FrontKind kind)
-        : fKind(kind), fParts(kind == FrontKind::Window),
+    Program(FrontKind kind, const Profile& profile)
+        : fKind(kind), fParts(kind == FrontKind::Window, profile),
           fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
                       [this] { front().quit(); }),
           fDuplicates(fParts.singleCopy, fParts.console, activationToken(),
@@ -85,6 +86,7 @@ public:
                     return std::make_unique<KelvoStatusMenuHandler>(fStatusMenu, fParts.console);
                 },
             .runningApplication = runningApplication(),
+            .logSubdirectory = logSubdirectory(fParts.profile),
         });
         if (const auto exitCode = fDuplicates.exitCode())
             return *exitCode;
@@ -117,6 +119,7 @@ private:
             .makeKelvoSSID = [this] { return fParts.makeNetworkChecker(); },
             .statusMenu = fStatusMenu,
             .shareCommands = fParts.shareCommands,
+            .firstPassDelay = fParts.profile.firstPassDelay(),
             .windowController = [this]() -> MainWindowController* {
                 MainWindowController& window = *front().windowController();
                 return window.contentViewController() ? &window : nullptr;
@@ -175,8 +178,8 @@ private:
 
 } // namespace
 
-int runProgram(FrontKind kind) {
-    return Program(kind).run();
+int runProgram(FrontKind kind, const Profile& profile) {
+    return Program(kind, profile).run();
 }
 
 } // namespace kelvo

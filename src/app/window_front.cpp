@@ -59,6 +59,8 @@ public:
                    .showWhy = [this] { fWindow.showActivity(cNewestPass); }}),
           fOpenPanel(fWindow), fWindowController(std::make_shared<MainWindowController>(
                                    [this] { fWindow.bringToFront(); })) {
+        if (machine.profile.isNamed())
+            fWindow.setWindowTitle(machine.profile.title());
         // The window does not wait for what takes a while.
         machine.mainQueue.async([this] {
             fWindow.setWindowIcon(applicationIcon());

@@ -159,7 +159,7 @@ TEST(CommandLineTest, EachRefusal_SaysWhy) {
                "(2026-11-22T19:02), or 30min, 2h, 3d"},
           Case{"--since 2h", "--since goes with --passes"},
           Case{"--once --headless", "--once and --headless do not go together"},
-          Case{"--json", "--json goes with --once or --passes"},
+          Case{"--json", "--json goes with --once, --passes or --profiles"},
           Case{"--get", "it is '--get KEY', and nothing else with it"},
           Case{"--set a", "it is '--set KEY VALUE', and nothing else with it"},
           Case{"--unset", "it is '--unset KEY', and nothing else with it"},
@@ -230,11 +230,19 @@ TEST(CommandLineTest, Help_NamesEveryOptionForPeople) {
                 "--passes Print the record of passes, newest last. "
                 "--since <WHEN> With --passes: those since a date, a date-time, or 30min, 2h, 3d "
                 "ago. "
-                "--json With --once, --passes: tell each pass as one JSON object on a line. "
+                "--json With --once, --passes, --profiles: tell each as one JSON object on a line. "
                 "--get <KEY> Print a setting. "
                 "--set <KEY> <VALUE> Change a setting. "
                 "--unset <KEY> Give a setting its factory value back. "
                 "--settings Print all settings as JSON. "
+                "--profile <NAME> Work with settings, record, log and window of this name: one for "
+                "each Mac. "
+                "--profiles List the profiles, with Mac, state and last success. "
+                "--export-profile <FILE> Write the settings for another machine, without folders "
+                "and secrets. "
+                "--import-profile <FILE> With --profile: show what such a file will run, ask, and "
+                "take it over. "
+                "--accept With --import-profile: take it over unasked. "
                 "-V, --version Print the version and end. "
                 "-h, --help Print this help and end."))
             << line.message.toStdString();

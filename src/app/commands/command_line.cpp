@@ -32,9 +32,13 @@ QString parsingProblem(const QCommandLineParser& parser, const QStringList& argu
     return parser.errorText();
 }
 
-} // namespace
+CommandLine refusal(const QString& reason) {
+    return {LaunchKind::Refuse, false,
+            QString(u"kelvo-mirror: " + reason + u"\nTry 'kelvo-mirror --help'.\n")};
+}
 
-CommandLine parseCommandLine(const QStringList& arguments) {
+/// `arguments` without the profile that they name.
+CommandLine parsedWithoutProfile(const QStringList& arguments, const Profile& named) {
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Keeps a local folder supplied with movie files from a remote Mac."));
@@ -61,7 +65,8 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         QStringLiteral("WHEN"));
     const QCommandLineOption json(
         QStringLiteral("json"),
-        QStringLiteral("With --once, --passes: tell each pass as one JSON object on a line."));
+        QStringLiteral(
+            "With --once, --passes, --profiles: tell each as one JSON object on a line."));
     const QCommandLineOption get(QStringLiteral("get"), QStringLiteral("Print a setting."),
                                  QStringLiteral("KEY"));
     const QCommandLineOption set(QStringLiteral("set"), QStringLiteral("Change a setting."),
@@ -71,13 +76,30 @@ CommandLine parseCommandLine(const QStringList& arguments) {
                                    QStringLiteral("KEY"));
     const QCommandLineOption settings(QStringLiteral("settings"),
                                       QStringLiteral("Print all settings as JSON."));
-    parser.addOptions({headless, once, passes, since, json, get, set, unset, settings, version,
-                       help, autorelaunched});
+    // It has been taken out before; it stands here for the help.
+    const QCommandLineOption profile(
+        QStringLiteral("profile"),
+        QStringLiteral("Work with settings, record, log and window of this name: one for each "
+                       "Mac."),
+        QStringLiteral("NAME"));
+    const QCommandLineOption profiles(
+        QStringLiteral("profiles"),
+        QStringLiteral("List the profiles, with Mac, state and last success."));
+    const QCommandLineOption exportProfile(
+        QStringLiteral("export-profile"),
+        QStringLiteral("Write the settings for another machine, without folders and secrets."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption importProfile(
+        QStringLiteral("import-profile"),
+        QStringLiteral("With --profile: show what such a file will run, ask, and take it over."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption accept(QStringLiteral("accept"),
+                                    QStringLiteral("With --import-profile: take it over unasked."));
+    parser.addOptions({headless, once, passes, since, json, get, set, unset, settings, profile,
+                       profiles, exportProfile, importProfile, accept, version, help,
+                       autorelaunched});
 
-    const auto refuse = [](const QString& reason) {
-        return CommandLine{LaunchKind::Refuse, false,
-                           QString(u"kelvo-mirror: " + reason + u"\nTry 'kelvo-mirror --help'.\n")};
-    };
+    const auto refuse = refusal;
     const auto request = settingsRequest(arguments);
     if (const auto* problem = std::get_if<QString>(&request))
         return refuse(*problem);
@@ -103,10 +125,35 @@ CommandLine parseCommandLine(const QStringList& arguments) {
             return refuse(u"--" + each->names().constFirst() +
                           u" stands alone, with blanks between its words");
     }
-    for (const QCommandLineOption* each : {&headless, &once, &passes}) {
+    for (const QCommandLineOption* each :
+         {&headless, &once, &passes, &profiles, &exportProfile, &importProfile}) {
         if (!window.given.isEmpty() && parser.isSet(*each))
             return refuse(u'\'' + window.given.constFirst() + u"' is for the window, and --" +
                           each->names().constFirst() + u" opens none");
+    }
+    if (parser.isSet(accept) && !parser.isSet(importProfile))
+        return refuse(QStringLiteral("--accept goes with --import-profile"));
+    const QStringList given = parser.optionNames();
+    if (parser.isSet(profiles)) {
+        if (named.isNamed() || given.size() > (parser.isSet(json) ? 2 : 1))
+            return refuse(QStringLiteral("--profiles goes with --json only"));
+        CommandLine line{LaunchKind::Profiles, false, {}};
+        line.json = parser.isSet(json);
+        return line;
+    }
+    if (parser.isSet(exportProfile) || parser.isSet(importProfile)) {
+        const bool imports = parser.isSet(importProfile);
+        if (given.size() > (parser.isSet(accept) ? 2 : 1))
+            return refuse(imports
+                              ? QStringLiteral("--import-profile goes with --profile and --accept "
+                                               "only")
+                              : QStringLiteral("--export-profile goes with --profile only"));
+        if (imports && !named.isNamed())
+            return refuse(QStringLiteral("--import-profile takes --profile NAME too"));
+        CommandLine line{imports ? LaunchKind::Import : LaunchKind::Export, false, {}};
+        line.transfer = {.file = parser.value(imports ? importProfile : exportProfile),
+                         .accept = parser.isSet(accept)};
+        return line;
     }
     if (parser.isSet(passes)) {
         if (parser.isSet(headless) || parser.isSet(once))
@@ -132,12 +179,37 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         return line;
     }
     if (parser.isSet(json))
-        return refuse(QStringLiteral("--json goes with --once or --passes"));
+        return refuse(QStringLiteral("--json goes with --once, --passes or --profiles"));
     CommandLine line{parser.isSet(headless) ? LaunchKind::Headless : LaunchKind::Window,
                      parser.isSet(autorelaunched),
                      {}};
     line.window = std::move(window);
     return line;
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const QStringList& given) {
+    QStringList arguments = given;
+    const TakenProfile taken = takeProfile(arguments);
+    if (!taken.problem.isEmpty())
+        return refusal(taken.problem);
+    CommandLine line = parsedWithoutProfile(arguments, taken.profile);
+    line.profile = taken.profile;
+    return line;
+}
+
+bool needsProfile(const CommandLine& line) {
+    switch (line.kind) {
+    case LaunchKind::Once:
+    case LaunchKind::Passes:
+    case LaunchKind::Export:
+        return true;
+    case LaunchKind::Settings:
+        return line.settings.verb != SettingsVerb::Set;
+    default:
+        return false;
+    }
 }
 
 } // namespace kelvo

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/commands/passes.h"
+#include "app/commands/profile_transfer.h"
+#include "app/commands/profiles.h"
 #include "app/commands/settings_commands.h"
 #include "app/commands/window_options.h"
 
@@ -10,19 +12,37 @@
 
 namespace kelvo {
 
-enum class LaunchKind { Window, Headless, Once, Passes, Settings, PrintVersion, PrintHelp, Refuse };
+enum class LaunchKind {
+    Window,
+    Headless,
+    Once,
+    Passes,
+    Settings,
+    Profiles,
+    Export,
+    Import,
+    PrintVersion,
+    PrintHelp,
+    Refuse
+};
 
 struct CommandLine {
     LaunchKind kind = LaunchKind::Window;
     bool autorelaunched = false; ///< started again by the sentinel, not by a person
     QString message;             ///< what to print for PrintVersion, PrintHelp and Refuse
-    bool json = false;           ///< for Once
+    bool json = false;           ///< for Once and Profiles
     PassesRequest passes{};      ///< for Passes
     SettingsRequest settings{};  ///< for Settings
     WindowOptions window{};      ///< for Window
+    Profile profile{};           ///< whose settings, record and so on are meant
+    TransferRequest transfer{};  ///< for Export and Import
 };
 
 /// Reads `arguments`, the program's name first.
 CommandLine parseCommandLine(const QStringList& arguments);
+
+/// Whether what `line` asks for makes no sense with a profile that does not exist yet: it only
+/// reads. Anything else makes the profile.
+bool needsProfile(const CommandLine& line);
 
 } // namespace kelvo

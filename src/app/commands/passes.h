@@ -3,6 +3,7 @@
 
 #include "app/commands/settings_commands.h"
 #include "support/pass_record.h"
+#include "support/profile.h"
 
 #include <QDateTime>
 
@@ -34,8 +35,8 @@ QString pathLine(const Arrival& arrival);
 /// `passes` in the order given: a line each, or a JSON object on a line of its own.
 QString passesText(const std::vector<PassRecord>& passes, bool json);
 
-/// Prints this user's record, newest last, from the file itself; nothing is written, and no copy
+/// Prints the profile's record, newest last, from the file itself; nothing is written, and no copy
 /// needs to run. Needs an application object.
-CommandAnswer runPassesCommand(const PassesRequest& request);
+CommandAnswer runPassesCommand(const Profile& profile, const PassesRequest& request);
 
 } // namespace kelvo
