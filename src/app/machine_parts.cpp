@@ -25,6 +25,7 @@ MachineParts::MachineParts(bool withTray, Profile ofProfile)
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
       singleCopy(QFile::encodeName(logFolder()).toStdString(), console),
+      copies(QCoreApplication::applicationFilePath(), console),
       sentinelLauncher(commands.runningCommands()), dnssdBrowser(console, mainQueue),
       notices(
           [this](const Notice& notice) {

@@ -8,6 +8,7 @@
 #include "adapters/desktop/system_information.h"
 #include "adapters/desktop/terminal_window.h"
 #include "adapters/network/avahi_browser.h"
+#include "adapters/process/copy_starter.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/single_copy_socket.h"
 #include "app/pass_machine.h"
@@ -43,6 +44,7 @@ struct MachineParts : PassMachine {
     TerminalWindow terminal;
     SystemInformation systemInformation;
     SingleCopySocket singleCopy;
+    CopyStarter copies;
     PosixSentinelLauncher sentinelLauncher;
     AvahiBrowser dnssdBrowser;
     BusNotices notices;

@@ -1,6 +1,7 @@
 // The front with the main window.
 #include "adapters/desktop/color_scheme.h"
 #include "adapters/network/link_watch.h"
+#include "app/commands/profiles.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
 #include "app/start/app_delegate.h"
@@ -21,6 +22,7 @@
 #include "ui/widgets/diagnostics_tab.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
+#include "ui/widgets/profiles_sheet.h"
 #include "ui/widgets/recent_arrivals.h"
 #include "ui/widgets/remote_tab.h"
 #include "ui/widgets/service_list.h"
@@ -161,7 +163,7 @@ public:
             watchConnection();
         addApplicationMenu(
             fWindow, controller, delegate, fMachine.statusMenu(), fMachine.workspace,
-            fMachine.logFolder(), [this] { return mayQuit(); },
+            fMachine.logFolder(), [this] { askForAnotherMac(); }, [this] { return mayQuit(); },
             [this] { fApplication.terminate(); });
     }
 
@@ -207,6 +209,17 @@ private:
         case Remedy::None:
             break;
         }
+    }
+
+    void askForAnotherMac() {
+        auto* sheet = new ProfilesSheet(
+            {.mainQueue = fMachine.mainQueue,
+             .bgQueue = fMachine.bgQueue,
+             .own = fMachine.profile,
+             .list = profilesThere,
+             .open = [this](const Profile& profile) { return fMachine.copies.start(profile); }},
+            &fWindow);
+        sheet->show();
     }
 
     void showStep(SetupStep step) {
