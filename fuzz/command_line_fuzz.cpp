@@ -92,6 +92,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         arguments.append(asText(nextText(rest)));
 
     const CommandLine line = parseCommandLine(arguments);
+    // A profile stands before a request for settings.
+    const bool badProfile = !takeProfile(arguments).problem.isEmpty();
+    if (badProfile) {
+        require(line.kind == LaunchKind::Refuse);
+        return 0;
+    }
     const auto request = settingsRequest(arguments);
     const bool complete = std::holds_alternative<SettingsRequest>(request);
     require(complete == (line.kind == LaunchKind::Settings));
@@ -103,10 +109,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool printed =
         line.kind == LaunchKind::PrintHelp || line.kind == LaunchKind::PrintVersion;
     require((line.kind == LaunchKind::Refuse || printed) == !line.message.isEmpty());
-    require(!line.json || line.kind == LaunchKind::Once);
+    require(!line.json || line.kind == LaunchKind::Once || line.kind == LaunchKind::Profiles);
     require(!line.copy.maxAge || (line.kind == LaunchKind::Ask && *line.copy.maxAge >= 0 &&
                                   line.copy.verb == CopyVerb::Status));
     require(!line.copy.json || line.kind == LaunchKind::Ask);
+    require(!line.profile.isNamed() || profileNameFault(line.profile.name).isEmpty());
     if (complete)
         checkRequest(line.settings);
     if (line.kind == LaunchKind::Passes)

@@ -601,6 +601,57 @@ Please check username...
     </message>
 </context>
 <context>
+    <name>ProfilesSheet</name>
+    <message>
+        <source>Another Mac</source>
+        <translation>جهاز Mac آخر</translation>
+    </message>
+    <message>
+        <source>Each further Mac gets a name here. Under it the program keeps settings, a record of passes and a window of their own; the key is shared.</source>
+        <translation>يُعطى كل جهاز Mac إضافي اسمًا هنا. وتحت هذا الاسم يحتفظ البرنامج بإعدادات وسجل جولات ونافذة خاصة به؛ أما المفتاح فمشترك.</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>الا&amp;سم:</translation>
+    </message>
+    <message>
+        <source>Letters, digits, “-” and “_”</source>
+        <translation>حروف لاتينية وأرقام و“-” و“_”</translation>
+    </message>
+    <message>
+        <source>Names there are</source>
+        <translation>الأسماء الموجودة</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Mac</source>
+        <translation>جهاز Mac</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>Last success</source>
+        <translation>آخر نجاح</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;فتح</translation>
+    </message>
+    <message>
+        <source>Opens the window of this name, or brings it to the front</source>
+        <translation>يفتح نافذة هذا الاسم أو يجلبها إلى الأمام</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>About Kelvo Mirror</source>
@@ -2254,6 +2305,14 @@ The key of today is kept beside the new one, under a name with the date, and is 
         <source>Has the program started again should it crash; each start does this by itself</source>
         <translation>يجعل البرنامج يُشغَّل مجددًا إذا انهار؛ يحدث ذلك تلقائيًا عند كل تشغيل</translation>
     </message>
+    <message>
+        <source>&amp;Another Mac…</source>
+        <translation>&amp;جهاز Mac آخر…</translation>
+    </message>
+    <message>
+        <source>Opens a window of its own for one more Mac</source>
+        <translation>يفتح نافذة مستقلة لجهاز Mac آخر</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ArrivalRows</name>
@@ -2616,6 +2675,45 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     <message>
         <source>Open %1</source>
         <translation>فتح ⁨%1⁩</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::ProfilesSheet</name>
+    <message>
+        <source>Without a name</source>
+        <translation>بلا اسم</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>لا شيء بعد</translation>
+    </message>
+    <message>
+        <source>This window</source>
+        <translation>هذه النافذة</translation>
+    </message>
+    <message>
+        <source>Running, in trouble</source>
+        <translation>يعمل، مع مشكلة</translation>
+    </message>
+    <message>
+        <source>Not running, in trouble</source>
+        <translation>لا يعمل، مع مشكلة</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>يعمل</translation>
+    </message>
+    <message>
+        <source>Not running</source>
+        <translation>لا يعمل</translation>
+    </message>
+    <message>
+        <source>A name has 1 to 64 letters (A to Z), digits, “-” and “_”, and no blank.</source>
+        <translation>يتكون الاسم من 1 إلى 64 حرفًا لاتينيًا (A إلى Z) أو رقمًا أو “-” أو “_”، دون مسافات.</translation>
+    </message>
+    <message>
+        <source>No window could be opened: %1</source>
+        <translation>تعذّر فتح نافذة: %1</translation>
     </message>
 </context>
 <context>

@@ -601,6 +601,57 @@ Bitte den Benutzernamen prüfen...
     </message>
 </context>
 <context>
+    <name>ProfilesSheet</name>
+    <message>
+        <source>Another Mac</source>
+        <translation>Ein weiterer Mac</translation>
+    </message>
+    <message>
+        <source>Each further Mac gets a name here. Under it the program keeps settings, a record of passes and a window of their own; the key is shared.</source>
+        <translation>Jeder weitere Mac bekommt hier einen Namen. Unter ihm führt das Programm eigene Einstellungen, ein eigenes Protokoll der Durchgänge und ein eigenes Fenster; der Schlüssel ist gemeinsam.</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Letters, digits, “-” and “_”</source>
+        <translation>Buchstaben, Ziffern, „-“ und „_“</translation>
+    </message>
+    <message>
+        <source>Names there are</source>
+        <translation>Vorhandene Namen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Mac</source>
+        <translation>Mac</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Last success</source>
+        <translation>Letzter Erfolg</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Opens the window of this name, or brings it to the front</source>
+        <translation>Öffnet das Fenster dieses Namens oder holt es nach vorn</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>About Kelvo Mirror</source>
@@ -2206,6 +2257,14 @@ Der bisherige Schlüssel bleibt neben dem neuen erhalten, unter einem Namen mit 
         <source>Has the program started again should it crash; each start does this by itself</source>
         <translation>Sorgt dafür, dass das Programm nach einem Absturz wieder startet; jeder Start tut dies von selbst</translation>
     </message>
+    <message>
+        <source>&amp;Another Mac…</source>
+        <translation>&amp;Weiterer Mac …</translation>
+    </message>
+    <message>
+        <source>Opens a window of its own for one more Mac</source>
+        <translation>Öffnet ein eigenes Fenster für einen weiteren Mac</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ArrivalRows</name>
@@ -2564,6 +2623,45 @@ Der Hostname des Macs kann auch auf der Seite „Entfernter Mac“ eingetragen w
     <message>
         <source>Open %1</source>
         <translation>%1 öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::ProfilesSheet</name>
+    <message>
+        <source>Without a name</source>
+        <translation>Ohne Namen</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Noch keiner</translation>
+    </message>
+    <message>
+        <source>This window</source>
+        <translation>Dieses Fenster</translation>
+    </message>
+    <message>
+        <source>Running, in trouble</source>
+        <translation>Läuft, mit Störung</translation>
+    </message>
+    <message>
+        <source>Not running, in trouble</source>
+        <translation>Läuft nicht, mit Störung</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Not running</source>
+        <translation>Läuft nicht</translation>
+    </message>
+    <message>
+        <source>A name has 1 to 64 letters (A to Z), digits, “-” and “_”, and no blank.</source>
+        <translation>Ein Name hat 1 bis 64 Buchstaben (A bis Z), Ziffern, „-“ und „_“ und kein Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>No window could be opened: %1</source>
+        <translation>Es ließ sich kein Fenster öffnen: %1</translation>
     </message>
 </context>
 <context>

@@ -601,6 +601,57 @@ compruebe el nombre de usuario...
     </message>
 </context>
 <context>
+    <name>ProfilesSheet</name>
+    <message>
+        <source>Another Mac</source>
+        <translation>Otro Mac</translation>
+    </message>
+    <message>
+        <source>Each further Mac gets a name here. Under it the program keeps settings, a record of passes and a window of their own; the key is shared.</source>
+        <translation>Cada Mac adicional recibe aquí un nombre. Con él, el programa lleva ajustes, un registro de pasadas y una ventana propios; la clave es común.</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>Letters, digits, “-” and “_”</source>
+        <translation>Letras, cifras, «-» y «_»</translation>
+    </message>
+    <message>
+        <source>Names there are</source>
+        <translation>Nombres existentes</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Mac</source>
+        <translation>Mac</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Last success</source>
+        <translation>Último éxito</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>Opens the window of this name, or brings it to the front</source>
+        <translation>Abre la ventana de este nombre o la trae al frente</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>About Kelvo Mirror</source>
@@ -2206,6 +2257,14 @@ La clave actual se guarda junto a la nueva, con un nombre que lleva la fecha, y 
         <source>Has the program started again should it crash; each start does this by itself</source>
         <translation>Hace que el programa se inicie de nuevo si falla; cada inicio se encarga de ello por sí solo</translation>
     </message>
+    <message>
+        <source>&amp;Another Mac…</source>
+        <translation>&amp;Otro Mac…</translation>
+    </message>
+    <message>
+        <source>Opens a window of its own for one more Mac</source>
+        <translation>Abre una ventana propia para un Mac más</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ArrivalRows</name>
@@ -2564,6 +2623,45 @@ El nombre de host del Mac también se puede escribir en la pestaña Mac remoto.<
     <message>
         <source>Open %1</source>
         <translation>Abrir %1</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::ProfilesSheet</name>
+    <message>
+        <source>Without a name</source>
+        <translation>Sin nombre</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Ninguno aún</translation>
+    </message>
+    <message>
+        <source>This window</source>
+        <translation>Esta ventana</translation>
+    </message>
+    <message>
+        <source>Running, in trouble</source>
+        <translation>En marcha, con problemas</translation>
+    </message>
+    <message>
+        <source>Not running, in trouble</source>
+        <translation>Parado, con problemas</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>En marcha</translation>
+    </message>
+    <message>
+        <source>Not running</source>
+        <translation>Parado</translation>
+    </message>
+    <message>
+        <source>A name has 1 to 64 letters (A to Z), digits, “-” and “_”, and no blank.</source>
+        <translation>Un nombre tiene de 1 a 64 letras (A a Z), cifras, «-» y «_», sin espacios.</translation>
+    </message>
+    <message>
+        <source>No window could be opened: %1</source>
+        <translation>No se pudo abrir ninguna ventana: %1</translation>
     </message>
 </context>
 <context>

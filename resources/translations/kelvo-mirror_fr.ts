@@ -601,6 +601,57 @@ vérifiez le nom d’utilisateur...
     </message>
 </context>
 <context>
+    <name>ProfilesSheet</name>
+    <message>
+        <source>Another Mac</source>
+        <translation>Un autre Mac</translation>
+    </message>
+    <message>
+        <source>Each further Mac gets a name here. Under it the program keeps settings, a record of passes and a window of their own; the key is shared.</source>
+        <translation>Chaque Mac supplémentaire reçoit un nom ici. Sous ce nom, le programme tient des réglages, un journal des passes et une fenêtre qui lui sont propres&#xa0;; la clé est commune.</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Letters, digits, “-” and “_”</source>
+        <translation>Lettres, chiffres, «&#xa0;-&#xa0;» et «&#xa0;_&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Names there are</source>
+        <translation>Noms existants</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Mac</source>
+        <translation>Mac</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Last success</source>
+        <translation>Dernier succès</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Opens the window of this name, or brings it to the front</source>
+        <translation>Ouvre la fenêtre de ce nom ou la met au premier plan</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>About Kelvo Mirror</source>
@@ -2206,6 +2257,14 @@ La clé actuelle est gardée à côté de la nouvelle, sous un nom contenant la 
         <source>Has the program started again should it crash; each start does this by itself</source>
         <translation>Fait redémarrer le programme s’il plante&#xa0;; chaque démarrage s’en charge de lui-même</translation>
     </message>
+    <message>
+        <source>&amp;Another Mac…</source>
+        <translation>&amp;Autre Mac…</translation>
+    </message>
+    <message>
+        <source>Opens a window of its own for one more Mac</source>
+        <translation>Ouvre une fenêtre à part pour un Mac de plus</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ArrivalRows</name>
@@ -2564,6 +2623,45 @@ Le nom d’hôte du Mac peut aussi être saisi dans l’onglet Mac distant.</tra
     <message>
         <source>Open %1</source>
         <translation>Ouvrir %1</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::ProfilesSheet</name>
+    <message>
+        <source>Without a name</source>
+        <translation>Sans nom</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Aucun encore</translation>
+    </message>
+    <message>
+        <source>This window</source>
+        <translation>Cette fenêtre</translation>
+    </message>
+    <message>
+        <source>Running, in trouble</source>
+        <translation>En marche, avec un problème</translation>
+    </message>
+    <message>
+        <source>Not running, in trouble</source>
+        <translation>Arrêté, avec un problème</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>En marche</translation>
+    </message>
+    <message>
+        <source>Not running</source>
+        <translation>Arrêté</translation>
+    </message>
+    <message>
+        <source>A name has 1 to 64 letters (A to Z), digits, “-” and “_”, and no blank.</source>
+        <translation>Un nom se compose de 1 à 64 lettres (A à Z), chiffres, «&#xa0;-&#xa0;» et «&#xa0;_&#xa0;», sans espace.</translation>
+    </message>
+    <message>
+        <source>No window could be opened: %1</source>
+        <translation>Impossible d’ouvrir une fenêtre&#xa0;: %1</translation>
     </message>
 </context>
 <context>

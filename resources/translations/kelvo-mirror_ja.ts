@@ -601,6 +601,57 @@ Please check username...
     </message>
 </context>
 <context>
+    <name>ProfilesSheet</name>
+    <message>
+        <source>Another Mac</source>
+        <translation>別の Mac</translation>
+    </message>
+    <message>
+        <source>Each further Mac gets a name here. Under it the program keeps settings, a record of passes and a window of their own; the key is shared.</source>
+        <translation>追加する Mac にはここで名前を付けます。名前ごとに、設定、同期の記録、ウインドウが別になります。鍵は共通です。</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Letters, digits, “-” and “_”</source>
+        <translation>英字、数字、「-」と「_」</translation>
+    </message>
+    <message>
+        <source>Names there are</source>
+        <translation>既にある名前</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Mac</source>
+        <translation>Mac</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Last success</source>
+        <translation>最後の成功</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Opens the window of this name, or brings it to the front</source>
+        <translation>この名前のウインドウを開くか、手前に出します</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>About Kelvo Mirror</source>
@@ -2194,6 +2245,14 @@ The key of today is kept beside the new one, under a name with the date, and is 
         <source>Has the program started again should it crash; each start does this by itself</source>
         <translation>プログラムがクラッシュした場合に、もう一度起動されるようにします。起動のたびに自動で行われます</translation>
     </message>
+    <message>
+        <source>&amp;Another Mac…</source>
+        <translation>別の Mac(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Opens a window of its own for one more Mac</source>
+        <translation>もう 1 台の Mac のために別のウインドウを開きます</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ArrivalRows</name>
@@ -2551,6 +2610,45 @@ Mac で「システム設定」の「一般」、「共有」を開き、「フ�
     <message>
         <source>Open %1</source>
         <translation>%1 を開く</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::ProfilesSheet</name>
+    <message>
+        <source>Without a name</source>
+        <translation>名前なし</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>まだありません</translation>
+    </message>
+    <message>
+        <source>This window</source>
+        <translation>このウインドウ</translation>
+    </message>
+    <message>
+        <source>Running, in trouble</source>
+        <translation>動作中、問題あり</translation>
+    </message>
+    <message>
+        <source>Not running, in trouble</source>
+        <translation>停止中、問題あり</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>動作中</translation>
+    </message>
+    <message>
+        <source>Not running</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>A name has 1 to 64 letters (A to Z), digits, “-” and “_”, and no blank.</source>
+        <translation>名前は英字 (A から Z)、数字、「-」、「_」の 1 から 64 文字で、空白は使えません。</translation>
+    </message>
+    <message>
+        <source>No window could be opened: %1</source>
+        <translation>ウインドウを開けませんでした: %1</translation>
     </message>
 </context>
 <context>

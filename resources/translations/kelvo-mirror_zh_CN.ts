@@ -601,6 +601,57 @@ Please check username...
     </message>
 </context>
 <context>
+    <name>ProfilesSheet</name>
+    <message>
+        <source>Another Mac</source>
+        <translation>另一台 Mac</translation>
+    </message>
+    <message>
+        <source>Each further Mac gets a name here. Under it the program keeps settings, a record of passes and a window of their own; the key is shared.</source>
+        <translation>在这里为每一台新增的 Mac 起一个名称。每个名称都有自己的设置、同步记录和窗口；密钥是共用的。</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Letters, digits, “-” and “_”</source>
+        <translation>字母、数字、“-”和“_”</translation>
+    </message>
+    <message>
+        <source>Names there are</source>
+        <translation>已有的名称</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Mac</source>
+        <translation>Mac</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Last success</source>
+        <translation>上次成功</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Opens the window of this name, or brings it to the front</source>
+        <translation>打开这个名称的窗口，或将它移到最前面</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>About Kelvo Mirror</source>
@@ -2194,6 +2245,14 @@ The key of today is kept beside the new one, under a name with the date, and is 
         <source>Has the program started again should it crash; each start does this by itself</source>
         <translation>程序崩溃时使其再次启动；每次启动时都会自动设置</translation>
     </message>
+    <message>
+        <source>&amp;Another Mac…</source>
+        <translation>另一台 Mac(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Opens a window of its own for one more Mac</source>
+        <translation>为另一台 Mac 打开单独的窗口</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::ArrivalRows</name>
@@ -2551,6 +2610,45 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     <message>
         <source>Open %1</source>
         <translation>打开 %1</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::ProfilesSheet</name>
+    <message>
+        <source>Without a name</source>
+        <translation>无名称</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>尚无</translation>
+    </message>
+    <message>
+        <source>This window</source>
+        <translation>此窗口</translation>
+    </message>
+    <message>
+        <source>Running, in trouble</source>
+        <translation>运行中，有问题</translation>
+    </message>
+    <message>
+        <source>Not running, in trouble</source>
+        <translation>未运行，有问题</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>运行中</translation>
+    </message>
+    <message>
+        <source>Not running</source>
+        <translation>未运行</translation>
+    </message>
+    <message>
+        <source>A name has 1 to 64 letters (A to Z), digits, “-” and “_”, and no blank.</source>
+        <translation>名称由 1 到 64 个字母（A 到 Z）、数字、“-”和“_”组成，不含空格。</translation>
+    </message>
+    <message>
+        <source>No window could be opened: %1</source>
+        <translation>无法打开窗口：%1</translation>
     </message>
 </context>
 <context>

@@ -1,11 +1,10 @@
 // The running copy, asked over its socket; the record where none runs.
-#include "adapters/passes/pass_database.h"
 #include "adapters/process/copy_client.h"
 #include "app/commands/ask.h"
+#include "app/commands/passes.h"
 #include "app/places.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <chrono>
 #include <cstdio>
@@ -18,25 +17,6 @@ using namespace std::chrono_literals;
 constexpr auto cPatience = 5s;
 /// A copy that is followed may have nothing to say for hours.
 constexpr auto cForEver = -1ms;
-
-/// What the record says of earlier runs; a record of an older layout is added up.
-Standing recordedStanding() {
-    Standing standing;
-    if (!QFileInfo::exists(passesFile()))
-        return standing;
-    PassDatabase database(passesFile(), {}, PassDatabase::Access::ReadOnly);
-    auto outcome = database.readStanding(standing);
-    if (!outcome) {
-        standing = {};
-        std::vector<PassRecord> passes;
-        outcome = database.readAll(passes);
-        for (auto pass = passes.crbegin(); pass != passes.crend(); ++pass)
-            standing.add(*pass);
-    }
-    if (!outcome)
-        standing.fault = outcome.reason;
-    return standing;
-}
 
 /// False when nobody reads any more.
 bool print(const Told& told) {
@@ -66,13 +46,14 @@ Told next(CopyClient& copy, CopyAnswers& answers, std::chrono::milliseconds pati
 
 } // namespace
 
-int runCopyCommand(const CopyRequest& request) {
-    CopyClient copy(QFile::encodeName(copyFolder()).toStdString());
+int runCopyCommand(const Profile& profile, const CopyRequest& request) {
+    CopyClient copy(QFile::encodeName(copyFolder(profile)).toStdString());
     CopyAnswers answers(request);
     Told told;
     switch (copy.connect(cPatience)) {
     case CopyClient::Contact::NoneRuns:
-        told = answers.noneRuns(request.verb == CopyVerb::Status ? recordedStanding() : Standing(),
+        told = answers.noneRuns(request.verb == CopyVerb::Status ? recordedStanding(profile)
+                                                                 : Standing(),
                                 QDateTime::currentDateTimeUtc());
         break;
     case CopyClient::Contact::Silent:

@@ -14,6 +14,7 @@ class AppDelegate;
 class DispatchQueue;
 class MainWindowController;
 class ViewController;
+struct Profile;
 struct WorkState;
 struct MachineParts;
 
@@ -46,7 +47,7 @@ struct StatusMenuParts {
 struct FrontKind {
     bool hasWindow = false;
     /// `mainQueue` has ended before the menu goes.
-    StatusMenuParts (*makeStatusMenu)(DispatchQueue& mainQueue);
+    StatusMenuParts (*makeStatusMenu)(DispatchQueue& mainQueue, const Profile& profile);
     /// `machine` outlives the front. A front without a window hands each state of the work on to
     /// `shown` too.
     std::unique_ptr<Front> (*makeFront)(MachineParts& machine,

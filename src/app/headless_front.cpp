@@ -66,7 +66,7 @@ private:
 FrontKind headlessFront() {
     return {
         .hasWindow = false,
-        .makeStatusMenu = [](DispatchQueue&) -> StatusMenuParts {
+        .makeStatusMenu = [](DispatchQueue&, const Profile&) -> StatusMenuParts {
             return {.menu = std::make_shared<HeadlessStatusMenu>()};
         },
         .makeFront = [](MachineParts& machine,

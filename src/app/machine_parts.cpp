@@ -10,24 +10,29 @@
 
 #include <unistd.h>
 
+#include <utility>
+
 namespace kelvo {
 
-MachineParts::MachineParts(const FrontKind& kind)
-    : PassMachine(STDOUT_FILENO, STDERR_FILENO, DamagedFile::IsSetAside),
-      loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files),
+MachineParts::MachineParts(const FrontKind& kind, Profile ofProfile)
+    : PassMachine(STDOUT_FILENO, STDERR_FILENO, DamagedFile::IsSetAside, std::move(ofProfile)),
+      loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files, profile),
       sshConfiguration(resourceFolder() + QStringLiteral("/ssh.conf"),
                        QStringLiteral("/etc/ssh/ssh_config.d/kelvo-mirror.conf")),
       workspace(mainQueue, bgQueue, console, files.homeDirectory()),
       terminal(files, console, mainQueue, bgQueue),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
-      singleCopy(QFile::encodeName(copyFolder()).toStdString(), console),
+      singleCopy(QFile::encodeName(copyFolder(profile)).toStdString(), console),
+      copies(QCoreApplication::applicationFilePath(), console),
       sentinelLauncher(commands.runningCommands()), dnssdBrowser(console, mainQueue),
-      notices([this](const Notice& notice) {
-          if (fStatusMenu.showNotice)
-              fStatusMenu.showNotice(notice);
-      }),
-      fStatusMenu(kind.makeStatusMenu(mainQueue)) {}
+      notices(
+          [this](const Notice& notice) {
+              if (fStatusMenu.showNotice)
+                  fStatusMenu.showNotice(notice);
+          },
+          QDBusConnection::sessionBus, profile),
+      fStatusMenu(kind.makeStatusMenu(mainQueue, profile)) {}
 
 MachineParts::~MachineParts() = default;
 
@@ -36,7 +41,7 @@ std::unique_ptr<NetworkChecker> MachineParts::makeNetworkChecker() {
 }
 
 QString MachineParts::logFolder() const {
-    return QFileInfo(logFile.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo"))).path();
+    return QFileInfo(logFile.defaultLogFileWithinSubdirectory(logSubdirectory(profile))).path();
 }
 
 } // namespace kelvo

@@ -7,6 +7,7 @@
 #include "adapters/desktop/system_information.h"
 #include "adapters/desktop/terminal_window.h"
 #include "adapters/network/avahi_browser.h"
+#include "adapters/process/copy_starter.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/single_copy_socket.h"
 #include "adapters/process/user_ssh_configuration.h"
@@ -23,7 +24,7 @@ class NetworkChecker;
 
 /// Main thread only; made once the application object exists.
 struct MachineParts : PassMachine {
-    explicit MachineParts(const FrontKind& kind);
+    MachineParts(const FrontKind& kind, Profile profile);
     ~MachineParts();
     MachineParts(const MachineParts&) = delete;
     MachineParts& operator=(const MachineParts&) = delete;
@@ -41,6 +42,7 @@ struct MachineParts : PassMachine {
     TerminalWindow terminal;
     SystemInformation systemInformation;
     SingleCopySocket singleCopy;
+    CopyStarter copies;
     PosixSentinelLauncher sentinelLauncher;
     AvahiBrowser dnssdBrowser;
     BusNotices notices;

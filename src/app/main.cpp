@@ -3,6 +3,8 @@
 #include "app/commands/command_line.h"
 #include "app/commands/once.h"
 #include "app/commands/passes.h"
+#include "app/commands/profile_transfer.h"
+#include "app/commands/profiles.h"
 #include "app/commands/settings_commands.h"
 #include "app/commands/setup.h"
 #include "app/program.h"
@@ -108,6 +110,12 @@ int main(int argc, char** argv) {
 
     if (const QString missing = missingFiles(); !missing.isEmpty() && worksOn(commandLine.kind))
         return kelvo::printReason(missing, cExitTooFewFiles);
+    const kelvo::Profile& profile = commandLine.profile;
+    if (kelvo::needsProfile(commandLine) && !kelvo::isThere(profile))
+        return kelvo::printReason(QStringLiteral("there is no profile %1; 'kelvo-mirror "
+                                                 "--profiles' lists those there are")
+                                      .arg(profile.name),
+                                  cExitUsage);
     switch (commandLine.kind) {
     case kelvo::LaunchKind::Refuse:
         return printAndEnd(stderr, commandLine.message, cExitUsage);
@@ -116,29 +124,41 @@ int main(int argc, char** argv) {
         return printAndEnd(stdout, commandLine.message, 0);
     case kelvo::LaunchKind::Once: {
         const QCoreApplication application(argc, argv);
-        return printAnswer(kelvo::runOnce(commandLine.json));
+        return printAnswer(kelvo::runOnce(profile, commandLine.json));
     }
     case kelvo::LaunchKind::Ask: {
         const QCoreApplication application(argc, argv);
-        return kelvo::runCopyCommand(commandLine.copy);
+        return kelvo::runCopyCommand(profile, commandLine.copy);
     }
     case kelvo::LaunchKind::Passes: {
         const QCoreApplication application(argc, argv);
-        return printAnswer(kelvo::runPassesCommand(commandLine.passes));
+        return printAnswer(kelvo::runPassesCommand(profile, commandLine.passes));
     }
     case kelvo::LaunchKind::Settings: {
         const QCoreApplication application(argc, argv);
-        return printAnswer(kelvo::runSettingsCommand(commandLine.settings));
+        return printAnswer(kelvo::runSettingsCommand(profile, commandLine.settings));
+    }
+    case kelvo::LaunchKind::Profiles: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runProfilesCommand(commandLine.json));
+    }
+    case kelvo::LaunchKind::Export: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runExportCommand(profile, commandLine.transfer.file));
+    }
+    case kelvo::LaunchKind::Import: {
+        const QCoreApplication application(argc, argv);
+        return printAnswer(kelvo::runImportCommand(profile, commandLine.transfer));
     }
     case kelvo::LaunchKind::Setup: {
         const QCoreApplication application(argc, argv);
-        return printAnswer(kelvo::runSetup(commandLine.setup));
+        return printAnswer(kelvo::runSetup(profile, commandLine.setup));
     }
     case kelvo::LaunchKind::Headless: {
         const QCoreApplication application(argc, argv);
-        return kelvo::runProgram(kelvo::headlessFront(), commandLine.noSentinel
-                                                             ? kelvo::RestartBy::Starter
-                                                             : kelvo::RestartBy::Sentinel);
+        return kelvo::runProgram(kelvo::headlessFront(), profile,
+                                 commandLine.noSentinel ? kelvo::RestartBy::Starter
+                                                        : kelvo::RestartBy::Sentinel);
     }
     case kelvo::LaunchKind::Window:
         break;

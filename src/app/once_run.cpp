@@ -24,7 +24,8 @@ constexpr double cProgressPace = 0.5; // seconds
 /// The parts of one pass, each after those it works with.
 class OncePass {
 public:
-    OncePass() {
+    explicit OncePass(const Profile& profile)
+        : fMachine(-1, -1, DamagedFile::IsLeftAlone, profile) {
         registerFactoryDefaults(fMachine.bundle, fMachine.defaults, fMachine.console);
         TemplateSetting(fSettings).takeOver();
         fSettings.setObject(prefEnableScanning, true);
@@ -102,7 +103,7 @@ private:
     QString fUnrecorded;
     std::optional<TerminalLine> fProgress;
     TimeLeftWords fTimeLeft;
-    PassMachine fMachine{-1, -1, DamagedFile::IsLeftAlone};
+    PassMachine fMachine;
     std::vector<Subscription> fSignalled;
     OverlayDefaults fSettings{fMachine.defaults};
     HeadlessButton fStartButton{[](Control*) {}};
@@ -118,8 +119,8 @@ private:
 
 } // namespace
 
-CommandAnswer runOnce(bool json) {
-    OncePass pass;
+CommandAnswer runOnce(const Profile& profile, bool json) {
+    OncePass pass(profile);
     if (const QString unknown = pass.unknownSettings(); !unknown.isEmpty())
         return settingsUnknown(unknown);
     CommandAnswer answer = outcomeOf(pass.run(!json), json);

@@ -8,10 +8,11 @@
 
 namespace kelvo {
 
-PassMachine::PassMachine(int output, int errors, DamagedFile damagedSettings)
-    : console(output, errors, logFile),
-      defaults(settingsFile(), damagedSettings, isState, mainQueue, console),
-      bundle(resourceFolder()), commands(console), passes(passesFile(), mainQueue, console) {}
+PassMachine::PassMachine(int output, int errors, DamagedFile damagedSettings, Profile ofProfile)
+    : profile(std::move(ofProfile)), console(output, errors, logFile),
+      defaults(settingsFile(profile), damagedSettings, isState, mainQueue, console), files(profile),
+      bundle(resourceFolder()), commands(console), passes(passesFile(profile), mainQueue, console) {
+}
 
 EngineParts PassMachine::engineParts(UserDefaults& settings,
                                      std::function<void(const PassRecord&)> ended) {

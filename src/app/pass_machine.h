@@ -13,6 +13,7 @@
 #include "adapters/settings/plist_defaults.h"
 #include "adapters/system/local_file_manager.h"
 #include "engine/engine.h"
+#include "support/profile.h"
 
 namespace kelvo {
 
@@ -20,7 +21,7 @@ namespace kelvo {
 /// passes; what is written down reaches the disk then.
 struct PassMachine {
     /// Lines for people and for the system log go to these descriptors; -1 for nowhere.
-    PassMachine(int output, int errors, DamagedFile damagedSettings);
+    PassMachine(int output, int errors, DamagedFile damagedSettings, Profile profile);
 
     /// What an engine works with: passes are written into the record. `ended` hears of each record
     /// too, on the thread of its pass; it may be empty.
@@ -31,6 +32,7 @@ struct PassMachine {
     /// children, their callers are gone.
     void end();
 
+    const Profile profile;
     RotatingLogFile logFile;
     StreamConsole console;
     QtMainQueue mainQueue;

@@ -9,8 +9,27 @@
 
 namespace kelvo {
 
-CommandAnswer runPassesCommand(const PassesRequest& request) {
-    const QString file = passesFile();
+Standing recordedStanding(const Profile& profile) {
+    Standing standing;
+    const QString file = passesFile(profile);
+    if (!QFileInfo::exists(file))
+        return standing;
+    PassDatabase database(file, {}, PassDatabase::Access::ReadOnly);
+    auto outcome = database.readStanding(standing);
+    if (!outcome) {
+        standing = {};
+        std::vector<PassRecord> passes;
+        outcome = database.readAll(passes);
+        for (auto pass = passes.crbegin(); pass != passes.crend(); ++pass)
+            standing.add(*pass);
+    }
+    if (!outcome)
+        standing.fault = outcome.reason;
+    return standing;
+}
+
+CommandAnswer runPassesCommand(const Profile& profile, const PassesRequest& request) {
+    const QString file = passesFile(profile);
     if (!QFileInfo::exists(file))
         return {0, {}, QStringLiteral("kelvo-mirror: there is no record of passes yet\n")};
     PassDatabase database(file, {}, PassDatabase::Access::ReadOnly);

@@ -9,9 +9,24 @@
 
 namespace kelvo {
 
-QString settingsFile() {
+namespace {
+
+QString configFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/kelvo-mirror/preferences.plist");
+           QStringLiteral("/kelvo-mirror");
+}
+
+} // namespace
+
+QString settingsFile(const Profile& profile) {
+    return profile.within(configFolder()) + QStringLiteral("/preferences.plist");
+}
+
+QStringList profileNames() {
+    QStringList names = QDir(configFolder() + QStringLiteral("/profiles"))
+                            .entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    names.removeIf([](const QString& name) { return !profileNameFault(name).isEmpty(); });
+    return names;
 }
 
 QString autostartFolder() {
@@ -23,16 +38,21 @@ QString resourceFolder() {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/kelvo-mirror");
 }
 
-QString copyFolder() {
-    return QFileInfo(RotatingLogFile().defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo")))
+QString logSubdirectory(const Profile& profile) {
+    return profile.within(QStringLiteral("Kelvo"));
+}
+
+QString copyFolder(const Profile& profile) {
+    return QFileInfo(RotatingLogFile().defaultLogFileWithinSubdirectory(logSubdirectory(profile)))
         .path();
 }
 
-QString passesFile() {
+QString passesFile(const Profile& profile) {
     QString state = qEnvironmentVariable("XDG_STATE_HOME");
     if (!QDir::isAbsolutePath(state))
         state = QDir::homePath() + QStringLiteral("/.local/state");
-    return state + QStringLiteral("/kelvo-mirror/passes.sqlite");
+    return profile.within(state + QStringLiteral("/kelvo-mirror")) +
+           QStringLiteral("/passes.sqlite");
 }
 
 } // namespace kelvo

@@ -1,11 +1,17 @@
 // Where the program's files lie.
 #pragma once
 
+#include "support/profile.h"
+
 #include <QString>
+#include <QStringList>
 
 namespace kelvo {
 
-QString settingsFile();
+QString settingsFile(const Profile& profile);
+
+/// The names of this user's profiles: those that have a folder for their settings. Sorted.
+QStringList profileNames();
 
 /// Where the desktop looks for what to start at login.
 QString autostartFolder();
@@ -14,9 +20,13 @@ QString autostartFolder();
 QString resourceFolder();
 
 /// Where the running copy has its place: its lock and its socket, beside the log file.
-QString copyFolder();
+QString copyFolder(const Profile& profile);
 
 /// The record of passes, in the user's state folder.
-QString passesFile();
+QString passesFile(const Profile& profile);
+
+/// The folder for the log file, the lock and the socket of the one copy, within the user's state
+/// folder.
+QString logSubdirectory(const Profile& profile);
 
 } // namespace kelvo

@@ -5,6 +5,7 @@
 #include "app/commands/guest_service.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
+#include "app/places.h"
 #include "app/start/app_delegate.h"
 #include "app/start/duplicate_check.h"
 #include "app/start/interface_registry.h"
@@ -37,8 +38,9 @@ constexpr auto cLastLines = 200ms;
 /// The program's own parts, on top of those of the machine.
 class Program {
 public:
-    Program(const FrontKind& kind, RestartBy restartBy, const ServiceManager& manager)
-        : fKind(kind), fRestartBy(restartBy), fParts(kind),
+    Program(const FrontKind& kind, const Profile& profile, RestartBy restartBy,
+            const ServiceManager& manager)
+        : fKind(kind), fRestartBy(restartBy), fParts(kind, profile),
           fStatusMenu(fParts.statusMenu(), fParts.defaults, fParts.mainQueue,
                       [this] { front().quit(); }),
           fDuplicates(fParts.singleCopy, fParts.console, activationToken(),
@@ -99,6 +101,7 @@ public:
                     return std::make_unique<KelvoStatusMenuHandler>(fStatusMenu, fParts.console);
                 },
             .runningApplication = runningApplication(),
+            .logSubdirectory = logSubdirectory(fParts.profile),
         });
         if (const auto exitCode = fDuplicates.exitCode()) {
             reportDuplicate();
@@ -140,6 +143,7 @@ private:
             .makeKelvoSSID = [this] { return fParts.makeNetworkChecker(); },
             .statusMenu = fStatusMenu,
             .shareCommands = fParts.shareCommands,
+            .firstPassDelay = fParts.profile.firstPassDelay(),
             .windowController = [this]() -> MainWindowController* {
                 MainWindowController& window = *front().windowController();
                 return window.contentViewController() ? &window : nullptr;
@@ -242,9 +246,9 @@ private:
 
 } // namespace
 
-int runProgram(const FrontKind& kind, RestartBy restartBy) {
+int runProgram(const FrontKind& kind, const Profile& profile, RestartBy restartBy) {
     const ServiceManager manager;
-    return Program(kind, restartBy, manager).run();
+    return Program(kind, profile, restartBy, manager).run();
 }
 
 } // namespace kelvo

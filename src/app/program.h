@@ -5,6 +5,8 @@
 
 namespace kelvo {
 
+struct Profile;
+
 /// Who starts the program again after a crash: its sentinel, or whoever has started it.
 enum class RestartBy { Sentinel, Starter };
 
@@ -13,6 +15,7 @@ enum class RestartBy { Sentinel, Starter };
 /// more is scheduled, running commands are ended with all their children, settings and lines are on
 /// disk. Without a window a service manager that wants to hear of it is told how it is. Main
 /// thread; called once the application object exists, and back before that goes.
-int runProgram(const FrontKind& kind, RestartBy restartBy = RestartBy::Sentinel);
+int runProgram(const FrontKind& kind, const Profile& profile,
+               RestartBy restartBy = RestartBy::Sentinel);
 
 } // namespace kelvo

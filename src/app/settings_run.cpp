@@ -12,7 +12,7 @@
 
 namespace kelvo {
 
-CommandAnswer runSettingsCommand(const SettingsRequest& request) {
+CommandAnswer runSettingsCommand(const Profile& profile, const SettingsRequest& request) {
     // What goes wrong is in the answer.
     RotatingLogFile noLogFile;
     StreamConsole console(-1, -1, noLogFile);
@@ -22,7 +22,7 @@ CommandAnswer runSettingsCommand(const SettingsRequest& request) {
     QVariant wanted;
     QString trouble;
     {
-        PlistDefaults defaults(settingsFile(), DamagedFile::IsLeftAlone, isState, mainQueue,
+        PlistDefaults defaults(settingsFile(profile), DamagedFile::IsLeftAlone, isState, mainQueue,
                                console);
         if (!defaults.areKnown())
             return settingsUnknown(defaults.trouble());
@@ -35,7 +35,8 @@ CommandAnswer runSettingsCommand(const SettingsRequest& request) {
     const bool changes = request.verb == SettingsVerb::Set || request.verb == SettingsVerb::Unset;
     if (!changes || answer.exitCode != 0)
         return answer;
-    PlistDefaults again(settingsFile(), DamagedFile::IsLeftAlone, isState, mainQueue, console);
+    PlistDefaults again(settingsFile(profile), DamagedFile::IsLeftAlone, isState, mainQueue,
+                        console);
     registerFactoryDefaults(bundle, again, console);
     if (again.areKnown() && sameStoredValue(again.object(request.key), wanted))
         return answer;

@@ -37,7 +37,8 @@ FileFault makeFolders(const QString& path) {
 /// The parts of one set-up, each after those it works with.
 class SetupRun {
 public:
-    explicit SetupRun(const SetupRequest& request) : fRequest(request) {
+    SetupRun(const Profile& profile, const SetupRequest& request)
+        : fRequest(request), fMachine(-1, -1, DamagedFile::IsLeftAlone, profile) {
         registerFactoryDefaults(fMachine.bundle, fMachine.defaults, fMachine.console);
         for (const int signal : {SIGTERM, SIGINT, SIGHUP})
             fSignalled.push_back(
@@ -118,8 +119,8 @@ private:
                 fMachine.defaults.setObject(key, value);
         }
         fMachine.defaults.synchronize();
-        PlistDefaults again(settingsFile(), DamagedFile::IsLeftAlone, isState, fMachine.mainQueue,
-                            fMachine.console);
+        PlistDefaults again(settingsFile(fMachine.profile), DamagedFile::IsLeftAlone, isState,
+                            fMachine.mainQueue, fMachine.console);
         registerFactoryDefaults(fMachine.bundle, again, fMachine.console);
         for (const QStringView key : cKeys) {
             if (!again.areKnown() || !sameStoredValue(again.object(key), fSettings.object(key))) {
@@ -132,7 +133,7 @@ private:
 
     const SetupRequest fRequest;
     CommandAnswer fAnswer;
-    PassMachine fMachine{-1, -1, DamagedFile::IsLeftAlone};
+    PassMachine fMachine;
     std::vector<Subscription> fSignalled;
     OverlayDefaults fSettings{fMachine.defaults};
     TerminalDialogue fDialogue{STDIN_FILENO, STDOUT_FILENO};
@@ -147,7 +148,8 @@ private:
                      .hasNetwork = hasUsableLink}};
     SetupService fService{{.mainQueue = fMachine.mainQueue,
                            .bgQueue = fMachine.bgQueue,
-                           .commands = fMachine.commands}};
+                           .commands = fMachine.commands,
+                           .unit = fMachine.profile.unit()}};
     SetupKey fKey{{.settings = fSettings,
                    .files = fMachine.files,
                    .console = fMachine.console,
@@ -157,7 +159,8 @@ private:
                    .terminal = fTerminal,
                    .workspace = fWorkspace,
                    .now = [] { return QDateTime::currentDateTimeUtc(); }}};
-    SetupDeeds fDeeds{{.dialogue = fDialogue,
+    SetupDeeds fDeeds{{.profile = fMachine.profile,
+                       .dialogue = fDialogue,
                        .settings = fSettings,
                        .key = fKey,
                        .service = fService,
@@ -168,8 +171,8 @@ private:
 
 } // namespace
 
-CommandAnswer runSetup(const SetupRequest& request) {
-    SetupRun run(request);
+CommandAnswer runSetup(const Profile& profile, const SetupRequest& request) {
+    SetupRun run(profile, request);
     if (const QString unknown = run.unknownSettings(); !unknown.isEmpty())
         return settingsUnknown(unknown);
     return run.run();

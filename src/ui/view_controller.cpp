@@ -235,17 +235,20 @@ QString ViewController::description() const {
 
 /// Whether passes start by themselves is a setting: it is asked once it is known.
 void ViewController::startScanOnLaunch() {
-    const UserDefaults& defaults = fParts.engine.defaults;
-    DispatchQueue& mainQueue = fParts.engine.mainQueue;
-    if (!defaults.areKnown())
-        mainQueue.asyncAfter(1.0, [this] { startScanOnLaunch(); });
-    else if (defaults.boolForKey(prefAutoStartScanOnLaunch) &&
-             !defaults.boolForKey(prefEnableScanning))
-        mainQueue.asyncAfter(1.0, [this] {
+    const EngineParts& engine = fParts.engine;
+    const double delay = 1.0 + fParts.firstPassDelay;
+    if (!engine.defaults.areKnown()) {
+        engine.mainQueue.asyncAfter(1.0, [this] { startScanOnLaunch(); });
+    } else if (engine.defaults.boolForKey(prefAutoStartScanOnLaunch) &&
+               !engine.defaults.boolForKey(prefEnableScanning)) {
+        if (delay > 1.0)
+            engine.console.log(QStringLiteral("The first pass begins in %1 s").arg(delay));
+        engine.mainQueue.asyncAfter(delay, [this] {
             // Another program may have been quicker; a second click would switch it off.
             if (!fParts.engine.defaults.boolForKey(prefEnableScanning))
                 clickStartButton();
         });
+    }
 }
 
 void ViewController::handWindowControllerOver() {

@@ -55,6 +55,8 @@ struct ViewControllerParts {
     std::function<std::unique_ptr<NetworkChecker>()> makeKelvoSSID;
     StatusMenuPresence& statusMenu;
     const ShareCommands& shareCommands;
+    /// How much later than after a second syncing starts by itself, in seconds.
+    double firstPassDelay = 0;
     /// The controller of the view's window; nothing as long as there is none.
     std::function<MainWindowController*()> windowController;
     /// For somebody who follows from elsewhere: told after each look at the work, of each status

@@ -109,5 +109,21 @@ TEST(CopyContactTest, CopyWithoutASocket_IsSilent) {
     EXPECT_EQ(client.connect(200ms), CopyClient::Contact::Silent);
 }
 
+TEST(CopyPlaceTest, WhetherItIsTaken_IsSeenFromOutsideAndChangesNothing) {
+    const QTemporaryDir folder;
+    const QString missing = folder.filePath(QStringLiteral("none"));
+    EXPECT_FALSE(CopyClient::placeIsTaken(missing.toStdString()));
+    EXPECT_FALSE(QFile::exists(missing));
+    RecordingConsole console;
+    const std::string here = folder.path().toStdString();
+    auto first = std::make_unique<SingleCopySocket>(here, console);
+    ASSERT_EQ(first->claim({}, cNoShow), Claim::First);
+    EXPECT_TRUE(CopyClient::placeIsTaken(here));
+    EXPECT_TRUE(CopyClient::placeIsTaken(here)) << "it was not taken away";
+    first.reset();
+    EXPECT_FALSE(CopyClient::placeIsTaken(here));
+    EXPECT_EQ(SingleCopySocket(here, console).claim({}, cNoShow), Claim::First) << "nor is it kept";
+}
+
 } // namespace
 } // namespace kelvo

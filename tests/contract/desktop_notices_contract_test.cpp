@@ -105,6 +105,17 @@ TEST_F(BusNoticesTest, Service_GetsPlainTitleAndEscapedBody) {
     EXPECT_TRUE(otherwise.isEmpty());
 }
 
+TEST_F(BusNoticesTest, NoticeOfAProfile_NamesIt) {
+    BusConnection desktop(bus.address(), QStringLiteral("notices-profile-desktop"));
+    NotificationService service(desktop.get());
+    ASSERT_TRUE(service.appear());
+    BusConnection own(bus.address(), QStringLiteral("notices-profile-own"));
+    BusNotices shown({}, [&own] { return own.get(); }, {.name = QStringLiteral("East")});
+    shown.showNotice({.title = QStringLiteral("A"), .text = {}});
+    EXPECT_TRUE(waitInLoop([&] { return !service.shown.isEmpty(); }));
+    EXPECT_EQ(service.frame.value(0), QStringLiteral("Kelvo Mirror – East"));
+}
+
 TEST_F(BusNoticesTest, Choice_IsOfferedWhereThereAreChoicesAndForOurNoticesOnly) {
     BusConnection desktop(bus.address(), QStringLiteral("notices-choosing-desktop"));
     NotificationService service(desktop.get());

@@ -288,6 +288,15 @@ TEST_F(TemporaryFolderTest, FolderOfTheSession_IsPreferred) {
     EXPECT_EQ(fManager.temporaryFolder().path, own()) << "open to others";
 }
 
+TEST_F(TemporaryFolderTest, EachProfile_HasItsOwn) {
+    LocalFileManager east({.name = QStringLiteral("East")});
+    EXPECT_EQ(east.temporaryFolder().path, QString(own() + u"/profile-East"));
+    EXPECT_EQ(modeOf(QString(own() + u"/profile-East")), 0700U);
+    EXPECT_EQ(fManager.temporaryFolder().path, own());
+    ASSERT_EQ(::chmod(own().toLocal8Bit().constData(), 0777), 0);
+    EXPECT_EQ(east.temporaryFolder().fault, QString(own() + u" is open to others"));
+}
+
 TEST_F(TemporaryFolderTest, WhatSomebodyElsePrepared_IsRefused) {
     ASSERT_TRUE(QDir().mkdir(at("elsewhere")));
     ASSERT_TRUE(QFile::link(at("elsewhere"), own()));

@@ -111,6 +111,22 @@ TEST_F(AutostartEntryTest, Text_IsAnEntryThatDesktopsKnow) {
                   std::string(cAutostartMark) + "\n");
 }
 
+TEST_F(AutostartEntryTest, EachProfile_HasAnEntryOfItsOwnThatStartsIt) {
+    AutostartEntry east(autostart, QStringLiteral("/usr/bin/kelvo-mirror"), files,
+                        {.name = QStringLiteral("East_1")});
+    EXPECT_TRUE(item.setOn(true));
+    EXPECT_FALSE(east.state().isOn) << "the program without a profile is another matter";
+    EXPECT_TRUE(east.setOn(true));
+    EXPECT_TRUE(item.setOn(false));
+    EXPECT_TRUE(east.state().isOn);
+    QFile written(QString(autostart + u"/org.kelvo.KelvoMirror.East_1.desktop"));
+    ASSERT_TRUE(written.open(QFile::ReadOnly));
+    const QByteArray text = written.readAll();
+    EXPECT_TRUE(text.contains("\nExec=\"/usr/bin/kelvo-mirror\" --profile East_1\n"))
+        << text.constData();
+    EXPECT_TRUE(text.contains("\nName=Kelvo Mirror – East_1\n")) << text.constData();
+}
+
 TEST_F(AutostartEntryTest, MarkBehindWhatIsRead_DoesNotMakeItOurs) {
     const QByteArray filler = QByteArray(16 * 1024, '#') + '\n';
     put(filler + autostartText(QStringLiteral("/usr/bin/kelvo-mirror")));

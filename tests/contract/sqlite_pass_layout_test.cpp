@@ -186,6 +186,30 @@ TEST_F(SqlitePassStoreTest, LargeRecordOfAnEarlierVersion_GivesItsRoomBack) {
     EXPECT_TRUE(console.logged().isEmpty()) << console.logged().join(u'\n').toStdString();
 }
 
+TEST_F(SqlitePassStoreTest, HowThingsStand_IsReadWithoutWriting) {
+    const auto read = [this](Standing& standing) {
+        return bool(PassDatabase(path, {}, PassDatabase::Access::ReadOnly).readStanding(standing));
+    };
+    asOther(firstLayout());
+    const QByteArray before = bytes();
+    Standing old;
+    EXPECT_FALSE(read(old)) << "an older layout does not say it";
+    EXPECT_EQ(bytes(), before);
+    const auto store = openStore();
+    PassRecord well = numbered(5);
+    well.cause = PassCause::Well;
+    store->append(well);
+    PassRecord away = numbered(6);
+    away.cause = PassCause::HostAway;
+    store->append(away);
+    EXPECT_EQ(lines(*store).size(), 7);
+    Standing standing;
+    EXPECT_TRUE(read(standing));
+    ASSERT_TRUE(standing.last && standing.lastSuccess);
+    EXPECT_EQ(standing.last->cause, PassCause::HostAway);
+    EXPECT_EQ(standing.lastSuccess->began, well.began);
+}
+
 TEST_F(SqlitePassStoreTest, EveryQuestion_IsAnsweredByAnIndex) {
     openStore()->append(numbered(1));
     // All of it is what is wanted.

@@ -18,6 +18,7 @@ kelvo_tests(contract
     contract/command_table_test.cpp
     contract/console_contract_test.cpp
     contract/copy_client_test.cpp
+    contract/copy_starter_test.cpp
     contract/desktop_notices_contract_test.cpp
     contract/detached_start_test.cpp
     contract/dispatch_queue_contract_test.cpp

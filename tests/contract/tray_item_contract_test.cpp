@@ -440,6 +440,14 @@ TEST(StatusNotifierItemAloneTest, PanelThatIsNotThere_IsNotStarted) {
     item.hide();
 }
 
+TEST(StatusNotifierItemAloneTest, EachProfile_HasAnItemOfItsOwn) {
+    const StatusNotifierItem item([](const QString& name) { return QDBusConnection(name); },
+                                  {.name = QStringLiteral("East_1")});
+    EXPECT_EQ(item.id(), u"kelvo-mirror-East_1");
+    EXPECT_EQ(item.title(), u"Kelvo Mirror – East_1");
+    EXPECT_EQ(item.toolTip().title, u"Kelvo Mirror – East_1");
+}
+
 TEST(StatusNotifierItemAloneTest, NoBus_ChangesNothing) {
     StatusNotifierItem item([](const QString& name) { return QDBusConnection(name); });
     item.show(look("tip"));

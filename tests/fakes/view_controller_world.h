@@ -28,7 +28,8 @@ namespace kelvo {
 
 class ViewControllerWorld {
 public:
-    ViewControllerWorld() {
+    /// `firstPassDelay` as in ViewControllerParts.
+    explicit ViewControllerWorld(double firstPassDelay = 0) : fFirstPassDelay(firstPassDelay) {
         defaults.setObject(prefRsyncCommandOptionTag, 100);
         defaults.setObject(prefRsyncWithSSH, true);
         defaults.setObject(prefEnableScanning, 1);
@@ -44,6 +45,7 @@ public:
         console.clear();
     }
 
+    const double fFirstPassDelay;
     QDateTime now{QDate(2026, 3, 1), QTime(12, 0), Qt::UTC};
     double seconds = 100; ///< of the clock of passes
     MemoryDefaults defaults;
@@ -133,6 +135,7 @@ public:
             },
         .statusMenu = statusMenu,
         .shareCommands = shareCommands,
+        .firstPassDelay = fFirstPassDelay,
         .windowController = [this] { return window; },
         .workLooked = [this] { workLooked(); },
         .messageShown = [this](const AttributedString& message) { messageShown(message); },

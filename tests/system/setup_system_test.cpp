@@ -100,5 +100,23 @@ TEST_F(SetupSystemTest, PersonWhoWantsItSo_StoresBeforeTheMacIsThere) {
     EXPECT_EQ(value("prefAutoStartScanOnLaunch"), "false\n");
 }
 
+TEST_F(SetupSystemTest, Profile_IsSetUpUnderItsName) {
+    const QStringList east{QStringLiteral("--profile"), QStringLiteral("east")};
+    PtyProgram program(QStringList{cProgram} + east +
+                           QStringList{QStringLiteral("--setup"), QStringLiteral("--mac"),
+                                       QStringLiteral("no-such-mac.invalid"),
+                                       QStringLiteral("--account"), QStringLiteral("somebody"),
+                                       QStringLiteral("--folder"), QStringLiteral("Movies"),
+                                       QStringLiteral("--destination"), incoming()},
+                       alone());
+    ASSERT_TRUE(program.shows("Store the settings all the same?")) << program.transcript();
+    program.type("y\n");
+    EXPECT_EQ(program.end(), 10) << program.transcript();
+    EXPECT_TRUE(program.shows("kelvo-mirror --profile east --setup", 0)) << program.transcript();
+    const QStringList get{QStringLiteral("--get"), QStringLiteral("prefRemoteBonjourName")};
+    EXPECT_EQ(runToEnd(cProgram, east + get).output, "no-such-mac.invalid\n");
+    EXPECT_NE(runToEnd(cProgram, get).output, "no-such-mac.invalid\n");
+}
+
 } // namespace
 } // namespace kelvo

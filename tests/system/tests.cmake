@@ -15,6 +15,7 @@ kelvo_tests(system
     system/flood_system_test.cpp
     system/hardening_system_test.cpp
     system/private_files_system_test.cpp
+    system/profiles_system_test.cpp
     system/program_signal_test.cpp
     system/once_system_test.cpp
     system/service_system_test.cpp

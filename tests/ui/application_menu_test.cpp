@@ -30,6 +30,7 @@ protected:
     ApplicationMenuActions all() {
         return {
             .quitAndRelaunch = note("relaunch"),
+            .anotherMac = note("another"),
             .closeWindow = note("close"),
             .quit = note("quit"),
             .showSettings = note("settings"),
@@ -110,13 +111,14 @@ TEST_F(ApplicationMenuTest, EachEntry_CallsItsAction) {
     menu.showWork({.maySyncNow = true, .mayCancel = true});
     menu.setDiagnosticsShown(true);
     for (const char* name :
-         {"quitAndRelaunch", "closeWindow", "quit", "showSettings", "showTab1", "showTab4",
-          "startOrStop", "syncNow", "cancelPass", "setupStatusItem", "removeStatusItem",
+         {"quitAndRelaunch", "anotherMac", "closeWindow", "quit", "showSettings", "showTab1",
+          "showTab4", "startOrStop", "syncNow", "cancelPass", "setupStatusItem", "removeStatusItem",
           "delegateQuitAndRelaunch", "setupWatchdog", "about", "openLogFolder"})
         entry(menu, name)->trigger();
-    EXPECT_EQ(done.join(u' '),
-              u"relaunch close quit settings tab0 tab3 start now cancel setup remove delegate "
-              u"watchdog about log");
+    EXPECT_EQ(
+        done.join(u' '),
+        u"relaunch another close quit settings tab0 tab3 start now cancel setup remove delegate "
+        u"watchdog about log");
 }
 
 TEST_F(ApplicationMenuTest, EntriesAboutPasses_CanBeChosenWhenTheyDoSomething) {

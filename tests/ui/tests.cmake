@@ -23,6 +23,7 @@ kelvo_tests(ui WIDGETS
     ui/mirrored_test.cpp
     ui/muted_hints_test.cpp
     ui/path_control_view_test.cpp
+    ui/profiles_sheet_test.cpp
     ui/remote_tab_test.cpp
     ui/room_test.cpp
     ui/settings_places_test.cpp

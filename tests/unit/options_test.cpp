@@ -37,6 +37,10 @@ QStringList allOptions() {
     return all;
 }
 
+bool takesTime(const Option& option) {
+    return option.values == u"AGE" || option.values == u"WHEN";
+}
+
 QStringList keysOf(PreferenceKind kind) {
     QStringList keys;
     for (const Preference& each : preferenceTable()) {
@@ -99,10 +103,15 @@ TEST(OptionsTest, Bash_OffersOptionsAndSettings) {
         EXPECT_EQ(offeredByBash({QString::fromLatin1(option), {}}),
                   keysOf(PreferenceKind::Setting));
     for (const Option& each : shownOptions()) {
-        if (each.values != u"AGE" && each.values != u"WHEN")
-            continue;
-        EXPECT_EQ(offeredByBash({u"--" + each.name.toString(), QStringLiteral("2")}),
-                  QStringList{QStringLiteral("2h")});
+        const QString option = u"--" + each.name.toString();
+        if (takesTime(each)) {
+            EXPECT_EQ(offeredByBash({option, QStringLiteral("2")}),
+                      QStringList{QStringLiteral("2h")});
+        } else if (each.values == u"FILE") {
+            EXPECT_EQ(offeredByBash({option, cFish.chopped(3)}), QStringList{cFish});
+        } else if (!each.values.isEmpty() && !each.values.startsWith(u"KEY")) {
+            EXPECT_EQ(offeredByBash({option, {}}), QStringList()) << option.toStdString();
+        }
     }
 }
 
@@ -122,8 +131,12 @@ TEST(OptionsTest, Fish_OffersOptionsAndSettings) {
             line += u" -x -a \"$settings $state\"";
         else if (each.values.startsWith(u"KEY"))
             line += u" -x -a \"$settings\"";
-        else if (!each.values.isEmpty())
+        else if (takesTime(each))
             line += u" -x -a '30min 2h 3d'";
+        else if (each.values == u"FILE")
+            line += u" -r -F";
+        else if (!each.values.isEmpty())
+            line += u" -x";
         expected +=
             line + u" -d '" + each.help.toString().replace(u'\'', QStringLiteral("\\'")) + u'\'';
     }
@@ -161,8 +174,12 @@ TEST(OptionsTest, Zsh_OffersOptionsAndSettings) {
             line += u":KEY:{compadd -a settings state}";
         else if (each.values.startsWith(u"KEY"))
             line += u":KEY:{compadd -a settings}";
-        else if (!each.values.isEmpty())
+        else if (takesTime(each))
             line += u':' + each.values + u":(30min 2h 3d)";
+        else if (each.values == u"FILE")
+            line += u":FILE:_files";
+        else if (!each.values.isEmpty())
+            line += u':' + each.values + u": ";
         if (each.values.endsWith(u" VALUE"))
             line += u":VALUE: ";
         expected += line + u'\'';

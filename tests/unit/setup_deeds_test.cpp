@@ -20,7 +20,7 @@ const QString cTest = QStringLiteral("BatchMode=yes");
 
 class SetupDeedsTest : public ::testing::Test {
 protected:
-    SetupDeedsTest() {
+    explicit SetupDeedsTest(const QString& name = {}) : profile{name} {
         settings.setObject(prefRemoteUsername, QStringLiteral("mediauser"));
         settings.setObject(prefRemoteBonjourName, QStringLiteral("Remote-Mac.local"));
         answers.destination = QStringLiteral("/Incoming");
@@ -84,12 +84,15 @@ protected:
                   .terminal = terminal,
                   .workspace = workspace,
                   .now = [this] { return now; }}};
-    SetupService service{{.mainQueue = mainQueue, .bgQueue = bgQueue, .commands = shell}};
+    Profile profile;
+    SetupService service{
+        {.mainQueue = mainQueue, .bgQueue = bgQueue, .commands = shell, .unit = profile.unit()}};
     QStringList made;
     FileFault cannotMake;
     std::vector<bool> storedStarting;
     QString cannotStore;
-    SetupDeeds deeds{{.dialogue = dialogue,
+    SetupDeeds deeds{{.profile = profile,
+                      .dialogue = dialogue,
                       .settings = settings,
                       .key = key,
                       .service = service,
@@ -268,6 +271,12 @@ TEST_F(SetupDeedsTest, Service_IsEnabledAndLingersOnlyWhenAgreed) {
     EXPECT_TRUE(ran(QStringLiteral("systemctl --user enable kelvo-mirror.service")));
     EXPECT_TRUE(ran(QStringLiteral("systemctl --user restart")));
     EXPECT_FALSE(ran(QStringLiteral("enable-linger")));
+    EXPECT_TRUE(dialogue.said.contains(
+        QStringLiteral("What comes next:\n"
+                       "  systemctl --user status kelvo-mirror    how it is\n"
+                       "  journalctl --user -u kelvo-mirror -f    what it does\n"
+                       "  kelvo-mirror --passes                   what it has done")))
+        << dialogue.everything().toStdString();
     answers.linger = true;
     begin();
     EXPECT_TRUE(ran(QStringLiteral("loginctl enable-linger")));
@@ -286,6 +295,36 @@ TEST_F(SetupDeedsTest, ServiceThatCannotBeEnabled_SaysItsLastLine) {
     EXPECT_TRUE(dialogue.everything().contains(u"Failed to connect to bus\\x1b[31m"));
     EXPECT_FALSE(ran(QStringLiteral("enable-linger")));
     EXPECT_TRUE(deeds.stored());
+}
+
+class SetupOfAProfileTest : public SetupDeedsTest {
+protected:
+    SetupOfAProfileTest() : SetupDeedsTest(QStringLiteral("east")) {}
+};
+
+TEST_F(SetupOfAProfileTest, Service_IsTheProfilesOwn) {
+    letsIn();
+    answers.enable = true;
+    begin();
+    EXPECT_EQ(end.exitCode, 0);
+    EXPECT_TRUE(ran(QStringLiteral("systemctl --user enable kelvo-mirror@east.service")));
+    EXPECT_FALSE(ran(QStringLiteral("kelvo-mirror.service")));
+    EXPECT_TRUE(dialogue.said.contains(
+        QStringLiteral("What comes next:\n"
+                       "  systemctl --user status kelvo-mirror@east    how it is\n"
+                       "  journalctl --user -u kelvo-mirror@east -f    what it does\n"
+                       "  kelvo-mirror --profile east --passes         what it has done")))
+        << dialogue.everything().toStdString();
+    service.look([](const ServiceFacts&) {});
+    settle();
+    EXPECT_TRUE(ran(QStringLiteral("systemctl --user cat kelvo-mirror@east.service")));
+}
+
+TEST_F(SetupOfAProfileTest, WhatComesNext_NamesTheProfile) {
+    letsIn();
+    begin();
+    EXPECT_TRUE(dialogue.everything().contains(u"  kelvo-mirror --profile east --once        one "
+                                               u"pass now\n"));
 }
 
 TEST_F(SetupDeedsTest, Look_TellsWhetherThereIsAServiceToEnable) {

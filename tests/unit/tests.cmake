@@ -36,6 +36,8 @@ kelvo_tests(unit
     unit/running_pass_test.cpp
     unit/pass_notices_test.cpp
     unit/plain_line_test.cpp
+    unit/profile_transfer_test.cpp
+    unit/profiles_test.cpp
     unit/progress_line_test.cpp
     unit/rsync_statistics_test.cpp
     unit/preferences_test.cpp

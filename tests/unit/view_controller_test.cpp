@@ -101,6 +101,30 @@ TEST_F(ViewControllerTest, StartClickedBeforeSettingsAreKnown_IsNotTakenBackByTh
     EXPECT_EQ(bgQueue.size(), 1U);
 }
 
+class SpreadFirstPassTest : public ::testing::Test, public ViewControllerWorld {
+protected:
+    SpreadFirstPassTest() : ViewControllerWorld(12.5) {
+        defaults.setObject(prefAutoStartScanOnLaunch, true);
+        controller.viewDidLoad();
+    }
+};
+
+TEST_F(SpreadFirstPassTest, AutoStart_ComesSoMuchLater) {
+    mainQueue.advance(13.4);
+    EXPECT_EQ(button.clicks, 0);
+    mainQueue.advance(0.2);
+    EXPECT_EQ(button.clicks, 1);
+    EXPECT_TRUE(defaults.boolForKey(prefEnableScanning));
+}
+
+TEST_F(SpreadFirstPassTest, PersonWhoStartsMeanwhile_IsNotStopped) {
+    mainQueue.advance(5);
+    button.performClick();
+    mainQueue.advance(10);
+    EXPECT_EQ(button.clicks, 1);
+    EXPECT_TRUE(defaults.boolForKey(prefEnableScanning));
+}
+
 TEST_F(ViewControllerTest, NoAutoStart_LeavesTheButtonAlone) {
     load();
     EXPECT_EQ(button.clicks, 0);

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <optional>
+#include <utility>
 
 namespace kelvo {
 namespace {
@@ -77,21 +78,33 @@ Found entryAt(const QByteArray& path) {
     return {lines.contains(cAutostartMark) ? Found::Ours : Found::SomebodyElses, 0, lines};
 }
 
+/// The name that programs for people know an entry by, and the file's.
+QString entryName(const Profile& profile) {
+    return QStringLiteral("org.kelvo.KelvoMirror") +
+           (profile.isNamed() ? QString(u'.' + profile.name) : QString());
+}
+
 } // namespace
 
-QByteArray autostartText(const QString& program) {
+QByteArray autostartText(const QString& program, const Profile& profile) {
     return "[Desktop Entry]\n"
            "Type=Application\n"
-           "Name=Kelvo Mirror\n"
+           "Name=" +
+           profile.title().toUtf8() +
+           "\n"
            "Comment=Keep a local folder supplied with movie files from a remote Mac\n"
            "Icon=kelvo-mirror\n"
            "Exec=" +
-           execKey(program) + "\n" + "Terminal=false\n" + cAutostartMark + "\n";
+           execKey(program) +
+           (profile.isNamed() ? " --profile " + profile.name.toLatin1() : QByteArray()) + "\n" +
+           "Terminal=false\n" + cAutostartMark + "\n";
 }
 
-AutostartEntry::AutostartEntry(const QString& folder, const QString& program, FileManager& files)
-    : fFolder(folder), fPath(folder + QStringLiteral("/org.kelvo.KelvoMirror.desktop")),
-      fProgram(program), fFiles(files) {}
+AutostartEntry::AutostartEntry(const QString& folder, const QString& program, FileManager& files,
+                               Profile profile)
+    : fFolder(folder), fProfile(std::move(profile)),
+      fPath(folder + u'/' + entryName(fProfile) + QStringLiteral(".desktop")), fProgram(program),
+      fFiles(files) {}
 
 LoginItem::State AutostartEntry::state() const {
     const Found found = entryAt(fPath.toLocal8Bit());
@@ -121,7 +134,8 @@ LoginItemOutcome AutostartEntry::setOn(bool on) {
     if (on) {
         if (const int error = makePrivateFolders(fFolder.toLocal8Bit().toStdString()))
             return {LoginItemOutcome::Failed, fPath, systemErrorText(error)};
-        if (const FileFault fault = fFiles.writeAtomically(fPath, autostartText(fProgram)))
+        if (const FileFault fault =
+                fFiles.writeAtomically(fPath, autostartText(fProgram, fProfile)))
             return {LoginItemOutcome::Failed, fPath, reasonIn(*fault, fPath)};
     } else if (found.kind == Found::Ours) {
         if (const FileFault fault = fFiles.removeItem(fPath))

@@ -41,8 +41,9 @@ QVariant urgency(bool urgent) {
 } // namespace
 
 BusNotices::BusNotices(std::function<void(const Notice&)> otherwise,
-                       std::function<QDBusConnection()> connect)
-    : fOtherwise(std::move(otherwise)), fConnect(std::move(connect)) {}
+                       std::function<QDBusConnection()> connect, Profile profile)
+    : fOtherwise(std::move(otherwise)), fConnect(std::move(connect)), fProfile(std::move(profile)) {
+}
 
 void BusNotices::showNotice(const Notice& notice) {
     const QDBusConnection bus = fConnect();
@@ -72,8 +73,8 @@ void BusNotices::notify(const QDBusConnection& bus, const Notice& notice,
                         const QStringList& actions) {
     QDBusMessage notify = callOf(QStringLiteral("Notify"));
     // The body may hold marks; the summary is always plain.
-    notify << QStringLiteral("Kelvo Mirror") << quint32{0} << QStringLiteral("kelvo-mirror")
-           << notice.title << notice.text.toHtmlEscaped() << actions
+    notify << fProfile.title() << quint32{0} << QStringLiteral("kelvo-mirror") << notice.title
+           << notice.text.toHtmlEscaped() << actions
            << QVariantMap{{QStringLiteral("desktop-entry"),
                            QStringLiteral("org.kelvo.KelvoMirror")},
                           {QStringLiteral("urgency"), urgency(notice.urgent)}}

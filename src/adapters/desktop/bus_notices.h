@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ports/desktop_notices.h"
+#include "support/profile.h"
 
 #include <QDBusConnection>
 #include <QObject>
@@ -15,9 +16,10 @@ class BusNotices final : public QObject, public DesktopNotices {
     Q_OBJECT
 public:
     /// `otherwise` (if any) shows what the service could not; main thread. `connect` gives the
-    /// session bus; it is called with the first notice.
+    /// session bus; it is called with the first notice. The notices are those of `profile`.
     explicit BusNotices(std::function<void(const Notice&)> otherwise,
-                        std::function<QDBusConnection()> connect = QDBusConnection::sessionBus);
+                        std::function<QDBusConnection()> connect = QDBusConnection::sessionBus,
+                        Profile profile = {});
 
     /// A notice with a choice is shown once the service has told whether it can offer choices.
     void showNotice(const Notice& notice) override;
@@ -33,6 +35,7 @@ private:
 
     const std::function<void(const Notice&)> fOtherwise;
     const std::function<QDBusConnection()> fConnect;
+    const Profile fProfile;
     bool fListens = false;
     std::map<uint, std::function<void()>> fShows; ///< of the notices that stand
 };

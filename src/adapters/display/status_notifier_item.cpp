@@ -30,16 +30,17 @@ const QDBusArgument& operator>>(const QDBusArgument& from, BusToolTip& tip) {
     return readStructure(from, tip.iconName, tip.icon, tip.title, tip.text);
 }
 
-StatusNotifierItem::StatusNotifierItem(Connect connect)
-    : fConnect(std::move(connect)), fMenu(
-                                        [this](std::size_t entry) {
-                                            if (fBus && fChoices.choose)
-                                                fChoices.choose(entry);
-                                        },
-                                        [this](bool shown) {
-                                            if (fBus && fChoices.menuShown)
-                                                fChoices.menuShown(shown);
-                                        }) {
+StatusNotifierItem::StatusNotifierItem(Connect connect, Profile profile)
+    : fConnect(std::move(connect)), fProfile(std::move(profile)),
+      fMenu(
+          [this](std::size_t entry) {
+              if (fBus && fChoices.choose)
+                  fChoices.choose(entry);
+          },
+          [this](bool shown) {
+              if (fBus && fChoices.menuShown)
+                  fChoices.menuShown(shown);
+          }) {
     qDBusRegisterMetaType<BusPicture>();
     qDBusRegisterMetaType<BusPictures>();
     qDBusRegisterMetaType<BusToolTip>();
@@ -101,6 +102,12 @@ void StatusNotifierItem::hide() {
     fBus->unregisterObject(cMenuPath);
     fBus.reset();
     QDBusConnection::disconnectFromBus(name);
+}
+
+/// Panels remember by it which items a person wants to see.
+QString StatusNotifierItem::id() const {
+    return fProfile.isNamed() ? QString(u"kelvo-mirror-" + fProfile.name)
+                              : QStringLiteral("kelvo-mirror");
 }
 
 QString StatusNotifierItem::status() const {

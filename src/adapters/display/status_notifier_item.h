@@ -3,6 +3,7 @@
 
 #include "adapters/display/dbus_menu.h"
 #include "ports/tray_item.h"
+#include "support/profile.h"
 
 #include <QDBusConnection>
 #include <QDBusObjectPath>
@@ -52,8 +53,9 @@ class StatusNotifierItem final : public QObject, public TrayItem {
 public:
     using Connect = std::function<QDBusConnection(const QString& name)>;
     /// `connect` opens a connection to the session bus under `name`; a real one by default.
-    explicit StatusNotifierItem(Connect connect = connectToSessionBus);
+    explicit StatusNotifierItem(Connect connect = connectToSessionBus, Profile profile = {});
     ~StatusNotifierItem() override { hide(); }
+    static QDBusConnection connectToSessionBus(const QString& name);
 
     void setChoices(TrayChoices choices) override { fChoices = std::move(choices); }
     void setEntries(std::vector<TrayEntry> entries) override;
@@ -61,8 +63,8 @@ public:
     void hide() override;
 
     QString category() const { return QStringLiteral("ApplicationStatus"); }
-    QString id() const { return QStringLiteral("kelvo-mirror"); }
-    QString title() const { return QStringLiteral("Kelvo Mirror"); }
+    QString id() const;
+    QString title() const { return fProfile.title(); }
     QString status() const;
     int windowId() const { return 0; }
     QString noName() const { return {}; }
@@ -86,12 +88,12 @@ Q_SIGNALS:
     Q_SCRIPTABLE void NewStatus(const QString& status);
 
 private:
-    static QDBusConnection connectToSessionBus(const QString& name);
     void appear();
     void announce();
     void later(std::function<void()> choice);
 
     const Connect fConnect;
+    const Profile fProfile;
     TrayChoices fChoices;
     DBusMenu fMenu;
     QDBusServiceWatcher fPanels;

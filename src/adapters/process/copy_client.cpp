@@ -44,7 +44,7 @@ CopyClient::Contact CopyClient::connect(std::chrono::milliseconds patience) {
         fSocket = address ? connectedSocket(*address) : UniqueFd();
         if (fSocket)
             return Contact::Made;
-        if (!placeIsTaken())
+        if (!placeIsTaken(fFolder))
             return Contact::NoneRuns;
         if (Clock::now() >= deadline)
             return Contact::Silent;
@@ -53,9 +53,9 @@ CopyClient::Contact CopyClient::connect(std::chrono::milliseconds patience) {
 }
 
 /// A lock shared for a moment keeps no copy from starting: it tries again.
-bool CopyClient::placeIsTaken() const {
+bool CopyClient::placeIsTaken(const std::string& folder) {
     const UniqueFd lock(
-        ::open(copyLockPath(fFolder).c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+        ::open(copyLockPath(folder).c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
     if (!lock)
         return false;
     if (::flock(lock.get(), LOCK_SH | LOCK_NB) != 0)

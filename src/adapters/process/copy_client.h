@@ -38,9 +38,11 @@ public:
     /// negative.
     Heard hear(QByteArray& line, std::chrono::milliseconds patience);
 
-private:
-    bool placeIsTaken() const;
+    /// Whether a copy has its place in `folder` at the moment. Makes and changes nothing; any
+    /// thread.
+    static bool placeIsTaken(const std::string& folder);
 
+private:
     const std::string fFolder;
     UniqueFd fSocket;
     QByteArray fHeard; ///< behind the last line

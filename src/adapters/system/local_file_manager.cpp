@@ -142,7 +142,9 @@ QString LocalFileManager::homeDirectory() const {
 }
 
 FolderOrFault LocalFileManager::temporaryFolder() {
-    const PrivateFolder folder = temporaryFolderOfUser();
+    const PrivateFolder folder =
+        fProfile.isNamed() ? temporaryFolderWithin("profile-" + fProfile.name.toStdString())
+                           : temporaryFolderOfUser();
     return {QString::fromLocal8Bit(folder.path.c_str()),
             QString::fromLocal8Bit(folder.fault.c_str())};
 }

@@ -2,11 +2,17 @@
 #pragma once
 
 #include "ports/file_manager.h"
+#include "support/profile.h"
+
+#include <utility>
 
 namespace kelvo {
 
 class LocalFileManager final : public FileManager {
 public:
+    /// Of the program with `profile`, whose temporary folder is its own.
+    explicit LocalFileManager(Profile profile = {}) : fProfile(std::move(profile)) {}
+
     bool fileExistsAtPath(const QString& path) const override;
     bool isProgram(const QString& path) const override;
     bool isWritableFolder(const QString& path) const override;
@@ -33,6 +39,9 @@ public:
     FileFault writeAtomically(const QString& path, const QByteArray& content) override;
 
     int changeMode(const QString& path, unsigned mode) override;
+
+private:
+    const Profile fProfile;
 };
 
 } // namespace kelvo

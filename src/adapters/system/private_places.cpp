@@ -72,6 +72,11 @@ PrivateFolder temporaryFolderOfUser(std::size_t longest) {
     return given.empty() || path.size() > longest ? folderOfOurOwn(longest) : madeFolder(path);
 }
 
+PrivateFolder temporaryFolderWithin(const std::string& name) {
+    PrivateFolder folder = temporaryFolderOfUser();
+    return folder.path.empty() ? folder : madeFolder(folder.path + '/' + name);
+}
+
 int makePrivateFolders(const std::string& path) {
     if (::mkdir(path.c_str(), S_IRWXU) == 0)
         return 0;

@@ -18,6 +18,9 @@ struct PrivateFolder {
 /// is tried. Touches only local folders. Any thread.
 PrivateFolder temporaryFolderOfUser(std::size_t longest = std::string::npos);
 
+/// The folder `name` in that one, made and judged alike. Any thread.
+PrivateFolder temporaryFolderWithin(const std::string& name);
+
 /// Makes the folder `path` and those above it that are missing, each 0700; what is there already
 /// keeps its mode. 0, or the errno of the first failure. Any thread.
 int makePrivateFolders(const std::string& path);

@@ -3,6 +3,7 @@
 
 #include "app/commands/copy_request.h"
 #include "app/commands/copy_status.h"
+#include "support/profile.h"
 
 #include <QJsonObject>
 
@@ -44,6 +45,6 @@ private:
 
 /// Prints what is told while a copy is followed; the program's exit code. Needs an application
 /// object.
-int runCopyCommand(const CopyRequest& request);
+int runCopyCommand(const Profile& profile, const CopyRequest& request);
 
 } // namespace kelvo

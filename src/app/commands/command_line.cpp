@@ -39,8 +39,10 @@ void addTable(QCommandLineParser& parser) {
 
 /// The ways to run the program of which one command line names one at most.
 QStringList waysIn(const QCommandLineParser& parser) {
-    QStringList ways{QStringLiteral("setup"), QStringLiteral("passes"), QStringLiteral("once"),
-                     QStringLiteral("headless")};
+    QStringList ways{QStringLiteral("setup"),         QStringLiteral("passes"),
+                     QStringLiteral("once"),          QStringLiteral("headless"),
+                     QStringLiteral("profiles"),      QStringLiteral("export-profile"),
+                     QStringLiteral("import-profile")};
     for (const CopyVerbName& each : copyVerbs())
         ways.append(each.name.toString());
     ways.removeIf([&](const QString& way) { return !parser.isSet(way); });
@@ -63,10 +65,12 @@ QString companyFault(const QCommandLineParser& parser, const QString& way) {
     const QString passes = QStringLiteral("passes");
     const QString once = QStringLiteral("once");
     const Companion companions[] = {
-        {QStringLiteral("json"), {once, passes, status, QStringLiteral("follow")}},
+        {QStringLiteral("json"),
+         {once, passes, status, QStringLiteral("follow"), QStringLiteral("profiles")}},
         {QStringLiteral("since"), {passes}},
         {QStringLiteral("max-age"), {status}},
         {QStringLiteral("no-sentinel"), {QStringLiteral("headless")}},
+        {QStringLiteral("accept"), {QStringLiteral("import-profile")}},
     };
     for (const Companion& each : companions) {
         if (!parser.isSet(each.option) || each.ways.contains(way))
@@ -79,16 +83,15 @@ QString companyFault(const QCommandLineParser& parser, const QString& way) {
     return {};
 }
 
-} // namespace
+CommandLine refuse(const QString& reason) {
+    return {LaunchKind::Refuse, false,
+            QString(u"kelvo-mirror: " + reason + u"\nTry 'kelvo-mirror --help'.\n")};
+}
 
-CommandLine parseCommandLine(const QStringList& arguments) {
+/// `arguments` without the profile `named` that was given with them.
+CommandLine parsedWithoutProfile(const QStringList& arguments, const Profile& named) {
     QCommandLineParser parser;
     addTable(parser);
-
-    const auto refuse = [](const QString& reason) {
-        return CommandLine{LaunchKind::Refuse, false,
-                           QString(u"kelvo-mirror: " + reason + u"\nTry 'kelvo-mirror --help'.\n")};
-    };
     const auto request = settingsRequest(arguments);
     if (const auto* problem = std::get_if<QString>(&request))
         return refuse(*problem);
@@ -147,6 +150,22 @@ CommandLine parseCommandLine(const QStringList& arguments) {
                       u"' is no time: --since takes a date (2026-11-22), a date-time "
                       u"(2026-11-22T19:02), or 30min, 2h, 3d");
     }
+    if (way == u"profiles") {
+        if (named.isNamed())
+            return refuse(QStringLiteral("--profile and --profiles do not go together"));
+        CommandLine line{LaunchKind::Profiles, false, {}};
+        line.json = json;
+        return line;
+    }
+    if (way == u"export-profile" || way == u"import-profile") {
+        const bool imports = way == u"import-profile";
+        if (imports && !named.isNamed())
+            return refuse(QStringLiteral("--import-profile takes --profile NAME too"));
+        CommandLine line{imports ? LaunchKind::Import : LaunchKind::Export, false, {}};
+        line.transfer = {.file = parser.value(way),
+                         .accept = parser.isSet(QStringLiteral("accept"))};
+        return line;
+    }
     if (way == u"once") {
         CommandLine line{LaunchKind::Once, false, {}};
         line.json = json;
@@ -169,6 +188,32 @@ CommandLine parseCommandLine(const QStringList& arguments) {
     line.noSentinel = parser.isSet(QStringLiteral("no-sentinel"));
     line.window = std::move(window);
     return line;
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const QStringList& given) {
+    QStringList arguments = given;
+    const TakenProfile taken = takeProfile(arguments);
+    if (!taken.problem.isEmpty())
+        return refuse(taken.problem);
+    CommandLine line = parsedWithoutProfile(arguments, taken.profile);
+    line.profile = taken.profile;
+    return line;
+}
+
+bool needsProfile(const CommandLine& line) {
+    switch (line.kind) {
+    case LaunchKind::Once:
+    case LaunchKind::Ask:
+    case LaunchKind::Passes:
+    case LaunchKind::Export:
+        return true;
+    case LaunchKind::Settings:
+        return line.settings.verb != SettingsVerb::Set;
+    default:
+        return false;
+    }
 }
 
 } // namespace kelvo

@@ -3,6 +3,7 @@
 
 #include "app/commands/settings_commands.h"
 #include "support/pass_record.h"
+#include "support/profile.h"
 #include "ui/pass_words.h"
 
 namespace kelvo {
@@ -16,6 +17,6 @@ CommandAnswer outcomeOf(const PassRecord& pass, bool json);
 /// Runs one pass of the kind that is set. A running copy notices nothing of it: flags and status
 /// stay in this process. SIGTERM and SIGINT end the pass with its commands. Needs an application
 /// object.
-CommandAnswer runOnce(bool json);
+CommandAnswer runOnce(const Profile& profile, bool json);
 
 } // namespace kelvo

@@ -46,8 +46,17 @@ constexpr Option cOptions[] = {
     {u"no-enable", u"", Setup, u"With --setup: leave the service as it is."},
     {u"linger", u"", Setup, u"With --setup: run the service also while you are not logged in."},
     {u"no-linger", u"", Setup, u"With --setup: leave that as it is."},
+    {u"profile", u"NAME", Macs,
+     u"Work with settings, record, log and window of this name: one for each Mac."},
+    {u"profiles", u"", Macs, u"List the profiles, with Mac, state and last success."},
+    {u"export-profile", u"FILE", Macs,
+     u"Write the settings for another machine, without folders and secrets."},
+    {u"import-profile", u"FILE", Macs,
+     u"With --profile: show what such a file will run, ask, and take it over."},
+    {u"accept", u"", Macs, u"With --import-profile: take it over unasked."},
     {u"json", u"", Form,
-     u"With --once, --passes, --status, --follow: tell each thing as one JSON object on a line."},
+     u"With --once, --passes, --status, --follow, --profiles: tell each thing as one JSON object "
+     u"on a line."},
     {u"version", u"", Program, u"Print the version and end.", u"V"},
     {u"help", u"", Program, u"Print this help and end.", u"h"},
     {u"autorelaunched", u"", Hidden, u""},
@@ -68,6 +77,8 @@ QStringView titleOf(OptionGroup group) {
         return u"Settings:";
     case Setup:
         return u"Set a Mac up:";
+    case Macs:
+        return u"Several Macs:";
     case Form:
         return u"Form of the answers:";
     case Program:

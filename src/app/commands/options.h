@@ -13,6 +13,7 @@ enum class OptionGroup {
     Record,   ///< asks the record
     Settings, ///< reads and changes settings
     Setup,    ///< sets a Mac up and answers its questions
+    Macs,     ///< keeps several Macs apart
     Form,     ///< goes with others
     Program,  ///< about the program itself
     Hidden,   ///< nobody types it

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "app/commands/settings_commands.h"
+#include "ports/pass_store.h"
 #include "support/pass_record.h"
+#include "support/profile.h"
 
 #include <QDateTime>
 
@@ -36,8 +38,12 @@ QString pathLine(const Arrival& arrival);
 /// `passes` in the order given: a line each, or a JSON object on a line of its own.
 QString passesText(const std::vector<PassRecord>& passes, bool json);
 
-/// Prints this user's record, newest last, from the file itself; nothing is written, and no copy
+/// What the profile's record says of earlier passes, from the file itself; of a record of an older
+/// layout the passes are added up. Its fault is why it cannot be read. Any thread.
+Standing recordedStanding(const Profile& profile);
+
+/// Prints the profile's record, newest last, from the file itself; nothing is written, and no copy
 /// needs to run. Needs an application object.
-CommandAnswer runPassesCommand(const PassesRequest& request);
+CommandAnswer runPassesCommand(const Profile& profile, const PassesRequest& request);
 
 } // namespace kelvo

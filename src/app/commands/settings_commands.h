@@ -10,6 +10,7 @@
 namespace kelvo {
 
 class UserDefaults;
+struct Profile;
 
 enum class SettingsVerb { Get, Set, Unset, List };
 
@@ -45,9 +46,9 @@ CommandAnswer answerSettings(const SettingsRequest& request, UserDefaults& defau
 /// full stop.
 CommandAnswer settingsUnknown(const QString& why);
 
-/// The same on the settings file of this user, the factory values beneath; needs an application
+/// The same on the settings file of the profile, the factory values beneath; needs an application
 /// object. A file that cannot be used, or is damaged, stays as it is and is an error, and so is
 /// what could not be written to it.
-CommandAnswer runSettingsCommand(const SettingsRequest& request);
+CommandAnswer runSettingsCommand(const Profile& profile, const SettingsRequest& request);
 
 } // namespace kelvo

@@ -9,6 +9,7 @@
 #include "ui/pass_words.h"
 #include "ui/setup_steps.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kelvo {
@@ -95,7 +96,8 @@ void SetupDeeds::notLetIn(const HostAnswer& answer) {
                 end(exitCode, cNothingChanged);
             } else if (storeAll(false)) {
                 fParts.dialogue.say(QStringLiteral("The settings are stored. Once the Mac can be "
-                                                   "reached: kelvo-mirror --setup"));
+                                                   "reached: %1 --setup")
+                                        .arg(fParts.profile.command()));
                 end(exitCode);
             }
         });
@@ -139,17 +141,26 @@ bool SetupDeeds::storeAll(bool startByItself) {
 }
 
 void SetupDeeds::tellNext() const {
+    const QString command = fParts.profile.command();
+    const QString unit = fParts.profile.unit();
     if (fAnswers.enable)
-        fParts.dialogue.say(
-            QStringLiteral("What comes next:\n"
-                           "  systemctl --user status kelvo-mirror    how it is\n"
-                           "  journalctl --user -u kelvo-mirror -f    what it does\n"
-                           "  kelvo-mirror --passes                   what it has done"));
+        tellCommands({{QStringLiteral("systemctl --user status %1").arg(unit), u"how it is"},
+                      {QStringLiteral("journalctl --user -u %1 -f").arg(unit), u"what it does"},
+                      {QStringLiteral("%1 --passes").arg(command), u"what it has done"}});
     else
-        fParts.dialogue.say(QStringLiteral("What comes next:\n"
-                                           "  kelvo-mirror --once        one pass now\n"
-                                           "  kelvo-mirror --headless    pass after pass, once "
-                                           "prefAutoStartScanOnLaunch is set to true"));
+        tellCommands({{QStringLiteral("%1 --once").arg(command), u"one pass now"},
+                      {QStringLiteral("%1 --headless").arg(command),
+                       u"pass after pass, once prefAutoStartScanOnLaunch is set to true"}});
+}
+
+void SetupDeeds::tellCommands(const std::vector<std::pair<QString, QStringView>>& commands) const {
+    qsizetype width = 0;
+    for (const auto& [command, purpose] : commands)
+        width = std::max(width, command.size());
+    QString text = QStringLiteral("What comes next:");
+    for (const auto& [command, purpose] : commands)
+        text += u"\n  " + command.leftJustified(width) + u"    " + purpose;
+    fParts.dialogue.say(text);
 }
 
 void SetupDeeds::giveUp() {

@@ -3,11 +3,14 @@
 
 #include "app/commands/setup_key.h"
 #include "app/commands/setup_service.h"
+#include "support/profile.h"
 
 #include <QString>
 
 #include <functional>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace kelvo {
 
@@ -18,6 +21,7 @@ class Dialogue;
 class SetupDeeds {
 public:
     struct Parts {
+        Profile profile;
         Dialogue& dialogue;
         UserDefaults& settings;
         SetupKey& key;
@@ -50,6 +54,8 @@ private:
     void letIn();
     bool storeAll(bool startByItself);
     void tellNext() const;
+    /// Each with what it is for.
+    void tellCommands(const std::vector<std::pair<QString, QStringView>>& commands) const;
     void giveUp();
     void end(int exitCode, const QString& errors = {});
     QString accountText() const;

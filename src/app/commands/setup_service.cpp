@@ -14,14 +14,14 @@ namespace {
 constexpr double cLook = 10;   // seconds
 constexpr double cChange = 60; // the old program's end and the new one's start among it
 
-constexpr QStringView cLookCommand =
-    u"systemctl --user show-environment >/dev/null 2>&1 && "
-    u"systemctl --user cat kelvo-mirror.service >/dev/null 2>&1 || exit 1; "
-    u"loginctl show-user \"$(id -u)\" --property=Linger --value 2>/dev/null || true";
-constexpr QStringView cEnableCommand = u"systemctl --user enable kelvo-mirror.service 2>&1 && "
-                                       u"systemctl --user restart kelvo-mirror.service 2>&1";
-constexpr QStringView cActiveCommand = u"systemctl --user is-active kelvo-mirror.service 2>&1";
-constexpr QStringView cLingerCommand = u"loginctl enable-linger 2>&1";
+const QString cLookCommand =
+    QStringLiteral("systemctl --user show-environment >/dev/null 2>&1 && "
+                   "systemctl --user cat %1.service >/dev/null 2>&1 || exit 1; "
+                   "loginctl show-user \"$(id -u)\" --property=Linger --value 2>/dev/null || true");
+const QString cEnableCommand = QStringLiteral("systemctl --user enable %1.service 2>&1 && "
+                                              "systemctl --user restart %1.service 2>&1");
+const QString cActiveCommand = QStringLiteral("systemctl --user is-active %1.service 2>&1");
+const QString cLingerCommand = QStringLiteral("loginctl enable-linger 2>&1");
 
 QString lastLine(const QString& output) {
     const QString text = trimmedText(output);
@@ -36,7 +36,7 @@ void SetupService::look(std::function<void(const ServiceFacts&)> done) {
         fParts.bgQueue, fParts.mainQueue, 0.0,
         [this, facts] {
             const CommandResult said = fParts.commands.run(
-                {.text = cLookCommand.toString(), .seconds = cLook, .bounds = cShortAnswer});
+                {.text = cLookCommand.arg(fParts.unit), .seconds = cLook, .bounds = cShortAnswer});
             facts->canBeEnabled = said.exitStatus == 0;
             facts->lingers = trimmedText(said.output) == u"yes";
         },
@@ -52,11 +52,11 @@ void SetupService::enable(bool linger, Done done) {
     background(
         fParts.bgQueue, fParts.mainQueue, 0.0,
         [this, linger, came] {
-            const auto run = [this](QStringView command) {
+            const auto run = [this](const QString& command) {
                 return fParts.commands.run(
-                    {.text = command.toString(), .seconds = cChange, .bounds = cShortAnswer});
+                    {.text = command, .seconds = cChange, .bounds = cShortAnswer});
             };
-            const CommandResult enabled = run(cEnableCommand);
+            const CommandResult enabled = run(cEnableCommand.arg(fParts.unit));
             came->well = enabled.exitStatus == 0;
             if (!came->well) {
                 came->text = QStringLiteral("The service could not be enabled. The last line was: "
@@ -64,11 +64,12 @@ void SetupService::enable(bool linger, Done done) {
                                  .arg(lastLine(enabled.output));
                 return;
             }
-            came->text = trimmedText(run(cActiveCommand).output) == u"active"
-                             ? QStringLiteral("The service kelvo-mirror is enabled and runs.")
-                             : QStringLiteral("The service kelvo-mirror is enabled, but does not "
-                                              "run now: perhaps another copy does. See systemctl "
-                                              "--user status kelvo-mirror");
+            came->text = trimmedText(run(cActiveCommand.arg(fParts.unit)).output) == u"active"
+                             ? QStringLiteral("The service %1 is enabled and runs.")
+                             : QStringLiteral("The service %1 is enabled, but does not run now: "
+                                              "perhaps another copy does. See systemctl --user "
+                                              "status %1");
+            came->text = came->text.arg(fParts.unit);
             if (!linger)
                 return;
             const CommandResult lingers = run(cLingerCommand);

@@ -19,6 +19,7 @@ public:
         DispatchQueue& mainQueue;
         BackgroundQueue& bgQueue;
         CommandRunner& commands;
+        QString unit; ///< without its ".service"; a word to any shell
     };
     /// What came of it, a sentence for people, and whether it went well.
     using Done = std::function<void(bool, const QString&)>;

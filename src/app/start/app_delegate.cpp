@@ -45,7 +45,7 @@ AppDelegate::~AppDelegate() {
 void AppDelegate::doBasicStartUpStuff() {
     constexpr QStringView operation = u"doBasicStartUpStuff()";
     printInside(operation);
-    const QString logFile = fParts.logger.defaultLogFileWithinSubdirectory(QStringLiteral("Kelvo"));
+    const QString logFile = fParts.logger.defaultLogFileWithinSubdirectory(fParts.logSubdirectory);
     if (!fParts.logger.setLogFile(logFile))
         fParts.console.log(u"Cannot write the log file " + logFile);
     fParts.console.log(insideLine(

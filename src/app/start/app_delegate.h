@@ -35,6 +35,7 @@ struct AppDelegateParts {
     std::function<void()> checkForDuplicateRunningInstances;
     std::function<std::unique_ptr<KelvoStatusMenuHandler>()> makeStatusMenuHandler;
     QString runningApplication; ///< how this process reads in a diagnostic line
+    QString logSubdirectory = QStringLiteral("Kelvo"); ///< of the folder for such files
 };
 
 /// Main thread only. Owns the main window's and the main view's controller and a status-menu

@@ -114,9 +114,9 @@ int kelvoMirrorShowWindow(int argc, char** argv) {
     QApplication application(toolkit.count(), toolkit.words());
     qInstallMessageHandler(usual);
     QApplication::setApplicationName(QStringLiteral("kelvo-mirror"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Kelvo Mirror"));
+    QApplication::setApplicationDisplayName(commandLine.profile.title());
     QApplication::setDesktopFileName(QStringLiteral("org.kelvo.KelvoMirror"));
     QApplication::setQuitOnLastWindowClosed(false);
     kelvo::speakTheirLanguage(application);
-    return kelvo::runProgram(kelvo::windowFront());
+    return kelvo::runProgram(kelvo::windowFront(), commandLine.profile);
 }

@@ -183,14 +183,15 @@ bool askBeforeQuitting(const WorkState& work, const ClosePolicy& policy, UserDef
 
 void addApplicationMenu(MainWindow& window, ViewController& controller, AppDelegate& delegate,
                         const StatusMenu& statusMenu, Workspace& workspace,
-                        const QString& logFolder, const std::function<bool()>& mayQuit,
-                        const std::function<void()>& quit) {
+                        const QString& logFolder, const std::function<void()>& anotherMac,
+                        const std::function<bool()>& mayQuit, const std::function<void()>& quit) {
     auto* menu = new ApplicationMenu(
         {.quitAndRelaunch =
              [&controller, mayQuit] {
                  if (mayQuit())
                      controller.ibQuitAndRelaunch(nullptr);
              },
+         .anotherMac = anotherMac,
          .closeWindow = [&window] { window.close(); },
          .quit =
              [quit, mayQuit] {

@@ -42,11 +42,11 @@ void sendWindowActions(MainWindow& window, ViewController& controller, Workspace
 bool askBeforeQuitting(const WorkState& work, const ClosePolicy& policy, UserDefaults& defaults,
                        SheetPresenter& alerts);
 
-/// Gives `window` its menu bar. `mayQuit` is asked before the program is ended or started again;
-/// `statusMenu` is only looked at.
+/// Gives `window` its menu bar. `anotherMac` asks for one more Mac. `mayQuit` is asked before the
+/// program is ended or started again; `statusMenu` is only looked at.
 void addApplicationMenu(MainWindow& window, ViewController& controller, AppDelegate& delegate,
                         const StatusMenu& statusMenu, Workspace& workspace,
-                        const QString& logFolder, const std::function<bool()>& mayQuit,
-                        const std::function<void()>& quit);
+                        const QString& logFolder, const std::function<void()>& anotherMac,
+                        const std::function<bool()>& mayQuit, const std::function<void()>& quit);
 
 } // namespace kelvo

@@ -3,6 +3,7 @@
 #include "adapters/display/desktop_tray_host.h"
 #include "adapters/display/status_notifier_item.h"
 #include "adapters/network/link_watch.h"
+#include "app/commands/profiles.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
 #include "app/start/app_delegate.h"
@@ -24,6 +25,7 @@
 #include "ui/widgets/first_paint.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/main_window.h"
+#include "ui/widgets/profiles_sheet.h"
 #include "ui/widgets/recent_arrivals.h"
 #include "ui/widgets/remote_tab.h"
 #include "ui/widgets/service_list.h"
@@ -64,6 +66,8 @@ public:
                    .showWhy = [this] { fWindow.showActivity(cNewestPass); }}),
           fOpenPanel(fWindow), fWindowController(std::make_shared<MainWindowController>(
                                    [this] { fWindow.bringToFront(); })) {
+        if (machine.profile.isNamed())
+            fWindow.setWindowTitle(machine.profile.title());
         afterFirstPaint(fWindow, machine.mainQueue, [this] { finishStart(); });
         fWindow.whenDiagnosticsAreMade(
             [this](DiagnosticsTab& tab) { showServices(fFoundServices, tab.foundServices()); });
@@ -156,7 +160,7 @@ public:
             watchConnection();
         addApplicationMenu(
             fWindow, controller, delegate, fMachine.statusMenu(), fMachine.workspace,
-            fMachine.logFolder(), [this] { return mayQuit(); },
+            fMachine.logFolder(), [this] { askForAnotherMac(); }, [this] { return mayQuit(); },
             [this] { fApplication.terminate(); });
     }
 
@@ -213,6 +217,17 @@ private:
         case Remedy::None:
             break;
         }
+    }
+
+    void askForAnotherMac() {
+        auto* sheet = new ProfilesSheet(
+            {.mainQueue = fMachine.mainQueue,
+             .bgQueue = fMachine.bgQueue,
+             .own = fMachine.profile,
+             .list = profilesThere,
+             .open = [this](const Profile& profile) { return fMachine.copies.start(profile); }},
+            &fWindow);
+        sheet->show();
     }
 
     void showStep(SetupStep step) {
@@ -295,15 +310,17 @@ private:
 
 /// The tray's icon with all that it works with.
 struct Tray {
-    explicit Tray(DispatchQueue& mainQueue) : icon(host, item, mainQueue) {}
+    Tray(DispatchQueue& mainQueue, const Profile& profile)
+        : item(StatusNotifierItem::connectToSessionBus, profile),
+          icon(host, item, mainQueue, profile) {}
 
     DesktopTrayHost host;
     StatusNotifierItem item;
     TrayIcon icon;
 };
 
-StatusMenuParts makeTray(DispatchQueue& mainQueue) {
-    const auto tray = std::make_shared<Tray>(mainQueue);
+StatusMenuParts makeTray(DispatchQueue& mainQueue, const Profile& profile) {
+    const auto tray = std::make_shared<Tray>(mainQueue, profile);
     return {
         .menu = {tray, &tray->icon},
         .showNotice = [&icon = tray->icon](const Notice& notice) { icon.showNotice(notice); },

@@ -140,6 +140,12 @@ void ApplicationMenu::showTrayIcon() {
 
 void ApplicationMenu::addFileMenu(const ApplicationMenuActions& actions) {
     QMenu* menu = newMenu("fileMenu", tr("&File"), this);
+    if (addEntry(*menu, {"anotherMac",
+                         tr("&Another Mac…"),
+                         {},
+                         actions.anotherMac,
+                         tr("Opens a window of its own for one more Mac")}))
+        menu->addSeparator();
     addEntry(*menu, {"closeWindow",
                      tr("&Close Window"),
                      QKeySequence(Qt::CTRL | Qt::Key_W),

@@ -22,6 +22,7 @@ enum class TrayIconState {
 /// is a menu without entries.
 struct ApplicationMenuActions {
     std::function<void()> quitAndRelaunch = {}; ///< ends the program and has it started again
+    std::function<void()> anotherMac = {};
     std::function<void()> closeWindow = {};
     std::function<void()> quit = {};
     std::function<void()> showSettings = {};

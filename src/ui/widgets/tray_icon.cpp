@@ -54,12 +54,12 @@ std::vector<TrayPicture> pictures(const QIcon& icon) {
 
 } // namespace
 
-TrayIcon::TrayIcon(TrayHost& host, TrayItem& item, DispatchQueue& mainQueue)
-    : fHost(host), fItem(item), fMainQueue(mainQueue),
+TrayIcon::TrayIcon(TrayHost& host, TrayItem& item, DispatchQueue& mainQueue, const Profile& profile)
+    : fHost(host), fItem(item), fMainQueue(mainQueue), fTitle(profile.title()),
       fHostChanges(host.observe([this] { update(); })) {
     using Actions = StatusMenuActions;
     fMenu.setObjectName(QStringLiteral("trayMenu"));
-    fMenu.setAccessibleName(QStringLiteral("Kelvo Mirror"));
+    fMenu.setAccessibleName(fTitle);
     addFactLines();
     fStartEntry = addEntry("startOrStop", tr("Start Syncing"), &Actions::startOrStop);
     fSyncNowEntry = addEntry("syncNow", tr("Sync &Now"), &Actions::syncNow);
@@ -237,7 +237,7 @@ void TrayIcon::update() {
     if (fIcon->icon().cacheKey() != fPicture.cacheKey())
         fIcon->setIcon(fPicture);
     // The name stands on a line of its own: what follows a line end is never taken for marks.
-    fIcon->setToolTip(QStringLiteral("Kelvo Mirror\n") + tip());
+    fIcon->setToolTip(QString(fTitle + u'\n' + tip()));
     fIcon->show();
 }
 

@@ -4,6 +4,7 @@
 #include "ports/desktop_notices.h"
 #include "ports/status_menu.h"
 #include "ports/tray_item.h"
+#include "support/profile.h"
 #include "support/subscription.h"
 
 #include <QIcon>
@@ -25,8 +26,8 @@ class TrayHost;
 class TrayIcon final : public QObject, public StatusMenu {
     Q_OBJECT
 public:
-    /// All three outlive this; the queue must have ended before.
-    TrayIcon(TrayHost& host, TrayItem& item, DispatchQueue& mainQueue);
+    /// The first three outlive this; the queue must have ended before.
+    TrayIcon(TrayHost& host, TrayItem& item, DispatchQueue& mainQueue, const Profile& profile = {});
     ~TrayIcon() override;
 
     void setActions(StatusMenuActions actions) override;
@@ -62,6 +63,7 @@ private:
     TrayHost& fHost;
     TrayItem& fItem;
     DispatchQueue& fMainQueue;
+    const QString fTitle;
     StatusMenuActions fActions;
     QMenu fMenu;
     std::array<QAction*, 3> fFacts{}; ///< what is going on, the last success, the next pass
