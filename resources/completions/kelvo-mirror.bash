@@ -28,6 +28,7 @@ _kelvo_mirror() {
     --since | --max-age) words='30min 2h 3d' ;;
     --mac | --account | --folder | --destination | --profile) words= ;;
     --export-profile | --import-profile)
+        compopt -o filenames 2>/dev/null
         mapfile -t COMPREPLY < <(compgen -f -- "$word")
         return
         ;;

@@ -74,7 +74,8 @@ private:
                                                  .settings = fSettings,
                                                  .files = fMachine.files,
                                                  .macs = fMacs,
-                                                 .service = facts},
+                                                 .service = facts,
+                                                 .unit = fMachine.profile.unit()},
                            fRequest);
         fQuestions->begin(
             [this](const std::optional<SetupAnswers>& answers, const CommandAnswer& failure) {

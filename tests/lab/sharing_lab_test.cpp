@@ -210,8 +210,9 @@ TEST_F(SharingLabTest, OneSessionAConnection_SufficesAndOneThatIsTakenCostsALogi
     expectSharedPasses(*program);
     const int before = logins();
     // Somebody else takes the one session of the connection, and has no way around it.
-    near(QStringLiteral("(s=$(find %1 -type s); for i in $(seq 100); do ssh -S $s -o "
-                        "ProxyCommand=false %2@%3 sleep 300; done) >/dev/null 2>&1 </dev/null &")
+    near(QStringLiteral(
+             "(s=$(find %1 -type s); for i in $(seq 100); do [ -S $s ] || break; ssh -S $s -o "
+             "ProxyCommand=false %2@%3 sleep 300; done) >/dev/null 2>&1 </dev/null &")
              .arg(cSockets, cRemoteUser, cRemoteAddress));
     EXPECT_TRUE(waitUntil([&] { return logins() > before; }, cPatience));
     expectSharedPasses(*program);

@@ -97,6 +97,7 @@ TEST(ProfileOptionTest, EachRefusal_SaysWhy) {
     for (const auto& [words, reason] :
          {std::pair("--profile", "--profile takes a name"),
           std::pair("--headless --profile", "--profile takes a name"),
+          std::pair("--profile --headless", "--profile takes a name"),
           std::pair("--profile a --profile b", "--profile is given twice"),
           std::pair("--profile a --headless --profile=b", "--profile is given twice"),
           std::pair("--profile=",

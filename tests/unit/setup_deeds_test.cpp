@@ -229,6 +229,17 @@ TEST_F(SetupDeedsTest, WithoutATerminal_TheKeyIsNotInstalledAndThatIsSaid) {
     EXPECT_TRUE(storedStarting.empty());
 }
 
+TEST_F(SetupDeedsTest, NewKeyWithoutATerminal_IsAFailureAlthoughTheOldOneIsGood) {
+    hasPair();
+    letsIn();
+    answers.newKey = true;
+    dialogue.isThere = false;
+    begin();
+    EXPECT_EQ(end.exitCode, 12);
+    EXPECT_TRUE(end.errors.contains(u"asked in a terminal, and there is none"));
+    EXPECT_FALSE(deeds.stored());
+}
+
 TEST_F(SetupDeedsTest, MacThatIsNotThere_IsNamedWithItsOwnCode) {
     dialogue.isThere = false;
     shell.answerTo(cTest,

@@ -34,7 +34,10 @@ void removeWhatWasLeft(const std::string& base) {
     std::error_code failure;
     for (std::filesystem::directory_iterator entries(base, failure), end;
          !failure && entries != end; entries.increment(failure)) {
-        if (entries->path().filename().native().starts_with(cBegin) && locked(entries->path()))
+        if (!entries->path().filename().native().starts_with(cBegin))
+            continue;
+        // Held until the folder is gone: one that was just made is then not taken into use.
+        if (const UniqueFd lock = locked(entries->path()))
             removeFolder(entries->path());
     }
 }

@@ -27,7 +27,10 @@ std::optional<QByteArray> contentOf(const QString& path) {
         return QByteArray("");
     if (file.size() > cMost || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    return file.readAll();
+    QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return std::nullopt;
+    return content;
 }
 
 /// Where `line` begins as a line of its own; -1 without it.

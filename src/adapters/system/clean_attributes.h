@@ -1,4 +1,4 @@
-// CleanAttributes: how every child of ours is started.
+// CleanAttributes: how every child of ours is started that has no terminal to share with us.
 #pragma once
 
 #include <signal.h>

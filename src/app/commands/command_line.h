@@ -48,8 +48,8 @@ struct CommandLine {
 /// Reads `arguments`, the program's name first.
 CommandLine parseCommandLine(const QStringList& arguments);
 
-/// Whether what `line` asks for makes no sense with a profile that does not exist yet: it only
-/// reads. Anything else makes the profile.
+/// Whether what `line` asks for makes no sense with a profile that does not exist yet: it reads,
+/// takes away, or speaks with a copy that runs.
 bool needsProfile(const CommandLine& line);
 
 } // namespace kelvo

@@ -58,8 +58,7 @@ QByteArray requestLine(CopyVerb verb) {
 }
 
 std::variant<CopyVerb, QString> requestFrom(const QByteArray& line) {
-    QJsonParseError fault;
-    const QJsonDocument document = QJsonDocument::fromJson(line, &fault);
+    const QJsonDocument document = QJsonDocument::fromJson(line);
     if (!document.isObject())
         return QStringLiteral("A request is one JSON object on a line.");
     const QJsonObject request = document.object();

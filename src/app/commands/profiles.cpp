@@ -24,7 +24,7 @@ QString takeAt(QStringList& arguments, qsizetype at, Profile& profile) {
     QString name;
     if (word.startsWith(cOptionWithValue))
         name = word.sliced(cOptionWithValue.size());
-    else if (at < arguments.size())
+    else if (at < arguments.size() && !arguments[at].startsWith(u"--"))
         name = arguments.takeAt(at);
     else
         return QStringLiteral("--profile takes a name");

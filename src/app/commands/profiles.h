@@ -8,13 +8,13 @@
 
 namespace kelvo {
 
-/// Takes "--profile NAME" (or "--profile=NAME") out of `arguments`, the program's name first. It
-/// stands first, or anywhere where no setting is read or changed: a value may be called so. The
-/// second is what is wrong with it; empty when nothing is.
 struct TakenProfile {
     Profile profile = {};
-    QString problem = {};
+    QString problem = {}; ///< what is wrong with the option; empty when nothing is
 };
+
+/// Takes "--profile NAME" (or "--profile=NAME") out of `arguments`, the program's name first. It
+/// stands first, or anywhere where no setting is read or changed: a value may be called so.
 TakenProfile takeProfile(QStringList& arguments);
 
 /// `states` in the order given: a line each, or a JSON object on a line of its own.

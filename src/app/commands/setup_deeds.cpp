@@ -46,7 +46,8 @@ void SetupDeeds::firstAnswer(const std::optional<HostAnswer>& answer) {
     else if (fParts.dialogue.canAnswer())
         install();
     else
-        end(exitCodeFor(wordsFor(answer->cause).group),
+        end(exitCodeFor(answer->cause == PassCause::Well ? CauseGroup::Login
+                                                         : wordsFor(answer->cause).group),
             QStringLiteral("%1 The key of this program is installed there with the password of the "
                            "account, which is asked in a terminal, and there is none. %2")
                 .arg(verdictOn(*answer), cNothingChanged));

@@ -244,12 +244,14 @@ void SetupQuestions::askToEnable() {
     if (fRequest.enable == true && !fParts.service.canBeEnabled) {
         fail(cExitBadSetting,
              QStringLiteral("--enable: systemd's manager of your account does not run here, or "
-                            "does not know the unit kelvo-mirror.service"));
+                            "does not know the unit %1.service")
+                 .arg(fParts.unit));
     } else if (fRequest.enable || !fParts.service.canBeEnabled || !fParts.dialogue.canAnswer()) {
         next();
     } else {
         askYesOrNo(QStringLiteral("Keep the folder supplied from now on, as a service of your "
-                                  "account (systemd user unit kelvo-mirror)?"),
+                                  "account (systemd user unit %1)?")
+                       .arg(fParts.unit),
                    true, [this](bool agreed) {
                        fAnswers.enable = agreed;
                        next();

@@ -23,6 +23,7 @@ public:
         const FileManager& files;
         SetupMacs& macs;
         ServiceFacts service;
+        QString unit = QStringLiteral("kelvo-mirror"); ///< without its ".service"
     };
     /// Gets the answers, or what the command ends with instead.
     using Done = std::function<void(const std::optional<SetupAnswers>&, const CommandAnswer&)>;
