@@ -4,7 +4,6 @@
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "settings/remote_account.h"
-#include "support/plain_line.h"
 #include "support/text.h"
 
 #include <algorithm>

@@ -236,16 +236,15 @@ QString ViewController::description() const {
 /// Whether passes start by themselves is a setting: it is asked once it is known.
 void ViewController::startScanOnLaunch() {
     const EngineParts& engine = fParts.engine;
-    const double delay = 1.0 + fParts.firstPassDelay;
     if (!engine.defaults.areKnown()) {
         engine.mainQueue.asyncAfter(1.0, [this] { startScanOnLaunch(); });
     } else if (engine.defaults.boolForKey(prefAutoStartScanOnLaunch) &&
                !engine.defaults.boolForKey(prefEnableScanning)) {
+        const double delay = 1.0 + fParts.firstPassDelay;
         if (delay > 1.0)
             engine.console.log(QStringLiteral("The first pass begins in %1 s").arg(delay));
         engine.mainQueue.asyncAfter(delay, [this] {
-            // Another program may have been quicker; a second click would switch it off.
-            if (!fParts.engine.defaults.boolForKey(prefEnableScanning))
+            if (!fWasSwitchedOn && !fParts.engine.defaults.boolForKey(prefEnableScanning))
                 clickStartButton();
         });
     }
@@ -335,6 +334,7 @@ void ViewController::observeValue(const DefaultsChange& change) {
 std::function<void()> ViewController::reactionTo(const DefaultsChange& change) {
     if (change.key == prefEnableScanning)
         return [this, isRunning = boolValue(*change.newValue)] {
+            fWasSwitchedOn |= isRunning;
             fStartButtonTitle.showRunning(isRunning);
         };
     if (change.key == prefRemoteUsername)

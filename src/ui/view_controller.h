@@ -180,6 +180,7 @@ private:
     WorkWatch fWork;
     RepeatTimerActions fRepeatTimer;
     StartButtonTitle fStartButtonTitle;
+    bool fWasSwitchedOn = false; ///< by whomever; then the start at launch leaves it to them
     CommandExample fCommandExample;
     FolderSelection fFolders;
     RevealButtonWatchers fRevealButtonWatchers;

@@ -1,4 +1,5 @@
 #include "fakes/virtual_queues.h"
+#include "ui/widgets/elided_label.h"
 #include "ui/widgets/profiles_sheet.h"
 
 #include <QLabel>
@@ -82,7 +83,8 @@ TEST_F(ProfilesSheetTest, List_ComesInTheBackgroundAndTellsEachState) {
     EXPECT_TRUE(row(1).startsWith(u"east|a\\x1b<b>|Not running, in trouble|"))
         << qPrintable(row(1));
     EXPECT_FALSE(row(1).endsWith(u"None yet"));
-    EXPECT_EQ(table().item(1, 2)->toolTip(), u"The Mac is away or asleep.");
+    EXPECT_EQ(table().item(1, 2)->toolTip(),
+              plainToolTip(QStringLiteral("The Mac is away or asleep.")));
     EXPECT_EQ(row(2), u"west||This window|None yet");
 }
 

@@ -124,6 +124,18 @@ TEST_F(GuestServiceTest, StartBeforeTheStartAtLaunch_IsNotTurnedOverByIt) {
     EXPECT_EQ(button.clicks, 1);
 }
 
+TEST_F(GuestServiceTest, StartAndStopBeforeTheStartAtLaunch_StaySo) {
+    plainPassIsSet();
+    defaults.setObject(prefAutoStartScanOnLaunch, true);
+    controller.viewDidLoad();
+    mainQueue.advance(0.2);
+    EXPECT_EQ(tell(CopyVerb::Start), u"done: Syncing is on.");
+    mainQueue.advance(0.3);
+    EXPECT_TRUE(tell(CopyVerb::Stop).startsWith(u"done: "));
+    mainQueue.advance(2);
+    EXPECT_FALSE(defaults.boolForKey(prefEnableScanning));
+}
+
 TEST_F(GuestServiceTest, SyncNow_BeginsThePlannedPass) {
     load();
     plainPassIsSet();

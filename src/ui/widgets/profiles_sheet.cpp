@@ -5,6 +5,7 @@
 #include "ui/activity_texts.h"
 #include "ui/pass_words.h"
 #include "ui/widgets/announcement.h"
+#include "ui/widgets/elided_label.h"
 #include "ui/words.h"
 #include "ui_profiles_sheet.h"
 
@@ -64,7 +65,7 @@ void ProfilesSheet::addRow(const ProfileState& state) {
           state.lastSuccess.isValid() ? momentText(state.lastSuccess, fParts.now())
                                       : tr("None yet")}) {
         auto* item = new QTableWidgetItem(text);
-        item->setToolTip(why.toHtmlEscaped());
+        item->setToolTip(plainToolTip(why));
         item->setData(Qt::AccessibleDescriptionRole, why);
         table.setItem(row, column++, item);
     }
