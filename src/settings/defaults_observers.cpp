@@ -16,10 +16,7 @@ Subscription DefaultsObservers::add(QStringView key, DefaultsObserver observer) 
         if (!table)
             return;
         const std::lock_guard lock(table->mutex);
-        const auto found = table->entries.find(name);
-        std::erase(*found, entry);
-        if (found->empty())
-            table->entries.erase(found);
+        std::erase(table->entries[name], entry);
     });
 }
 

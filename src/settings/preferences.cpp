@@ -132,6 +132,10 @@ const Preference* preference(QStringView key) {
     return found == cTable.end() ? nullptr : found;
 }
 
+bool isBrief(QStringView key) {
+    return key == prefIsScanning;
+}
+
 bool isState(QStringView key) {
     const Preference* const row = preference(key);
     return row && row->kind == State;

@@ -35,6 +35,10 @@ const Preference* preference(QStringView key);
 /// Whether the program writes `key` as it runs; false for a key without a row.
 bool isState(QStringView key);
 
+/// Whether `key` comes and goes within seconds and tells nothing after the program's end: it need
+/// not reach the disk at once.
+bool isBrief(QStringView key);
+
 /// As the store keeps it; invalid when there is none.
 QVariant factoryValue(const Preference& preference);
 

@@ -34,10 +34,7 @@ double leadingNumber(const QString& text) {
         if (!digits())
             end = mantissaEnd;
     }
-    QByteArray number = bytes.first(end);
-    if (number.startsWith('+'))
-        number.remove(0, 1);
-    return number.toDouble();
+    return bytes.first(end).toDouble();
 }
 
 bool isNumber(const QVariant& value) {

@@ -86,6 +86,11 @@ TEST(PlistCodecTest, Empty_ComesBackEmpty) {
     EXPECT_TRUE(decoded.root->isEmpty());
 }
 
+/// As the function of libplist does that older and newer versions name differently.
+void releasePlistText(char* text) {
+    std::free(text);
+}
+
 QByteArray binaryForm(const QVariantMap& map) {
     const QByteArray xml = encodePlist(map);
     plist_t node = nullptr;
@@ -94,7 +99,7 @@ QByteArray binaryForm(const QVariantMap& map) {
     std::uint32_t length = 0;
     plist_to_bin(node, &text, &length);
     const QByteArray bytes(text, static_cast<qsizetype>(length));
-    plist_to_bin_free(text);
+    releasePlistText(text);
     plist_free(node);
     return bytes;
 }
@@ -123,7 +128,7 @@ TEST(PlistCodecTest, NumberOfAnObject_IsReadAsAnInteger) {
     std::uint32_t length = 0;
     plist_to_bin(root, &text, &length);
     const DecodedPlist decoded = decodePlist(QByteArray(text, static_cast<qsizetype>(length)));
-    plist_to_bin_free(text);
+    releasePlistText(text);
     plist_free(root);
     ASSERT_TRUE(decoded.root) << decoded.fault.toStdString();
     EXPECT_TRUE(sameStoredValue(decoded.root->value(QStringLiteral("k")), qlonglong{7}));

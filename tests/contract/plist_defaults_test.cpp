@@ -128,6 +128,29 @@ TEST_F(PlistDefaultsTest, FirstChange_IsWrittenATenthOfASecondLaterWhateverFollo
     EXPECT_GE(std::chrono::steady_clock::now() - start, 100ms);
 }
 
+TEST_F(PlistDefaultsTest, BriefState_IsWrittenWhenItLasts) {
+    const auto defaults = open();
+    defaults->setObject(u"a", 1);
+    defaults->synchronize();
+    const auto start = std::chrono::steady_clock::now();
+    defaults->setObject(prefIsScanning, true);
+    EXPECT_TRUE(defaults->boolForKey(prefIsScanning));
+    EXPECT_TRUE(fileGets("prefIsScanning", true));
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 3s);
+}
+
+TEST_F(PlistDefaultsTest, SettingBehindABriefState_TakesItAlong) {
+    const auto defaults = open();
+    defaults->setObject(u"a", 1);
+    defaults->synchronize();
+    const auto start = std::chrono::steady_clock::now();
+    defaults->setObject(prefIsScanning, true);
+    defaults->setObject(u"a", 2);
+    EXPECT_TRUE(fileGets("a", qlonglong{2}));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 3s);
+    EXPECT_TRUE(fileGets("prefIsScanning", true));
+}
+
 TEST_F(PlistDefaultsTest, OwnWriting_GivesTheMainQueueNothingToDo) {
     auto defaults = open();
     defaults->setObject(u"a", 1);
@@ -402,6 +425,23 @@ TEST_F(PlistDefaultsTest, LockedByAnotherProgram_IsSaidOnceAndWrittenLater) {
     defaults->synchronize();
     EXPECT_EQ(fFolder.values(), (QVariantMap{{"a", qlonglong{2}}}));
     EXPECT_EQ(fConsole.logged().size(), 2);
+}
+
+TEST_F(PlistDefaultsTest, ReaderOfWhatIsNotThere_LeavesNoFolderBehind) {
+    const QString parent = fFolder.folder() + QStringLiteral("/profiles");
+    const QString path = parent + QStringLiteral("/east/settings");
+    {
+        PlistDefaults reader(path, DamagedFile::IsLeftAlone, isState, fMain, fConsole);
+        EXPECT_TRUE(reader.areKnown());
+        reader.synchronize();
+    }
+    EXPECT_FALSE(QFile::exists(parent));
+    {
+        PlistDefaults writer(path, DamagedFile::IsLeftAlone, isState, fMain, fConsole);
+        writer.setObject(u"a", 1);
+    }
+    EXPECT_TRUE(QFile::exists(path)) << "it comes with the first change";
+    EXPECT_TRUE(fConsole.logged().isEmpty());
 }
 
 TEST_F(PlistDefaultsTest, BlockedFolder_IsSaidOnceAndWrittenWhenItWorks) {

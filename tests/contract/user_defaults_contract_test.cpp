@@ -297,6 +297,15 @@ TYPED_TEST(UserDefaultsContractTest, Observer_MaySetValuesItsOwnKeyToo) {
     EXPECT_EQ(seen, (std::vector<std::optional<QVariant>>{QVariant("right"), QVariant("right")}));
 }
 
+TYPED_TEST(UserDefaultsContractTest, SubscriptionThatEnds_LetsGoOfItsHandler) {
+    const auto held = std::make_shared<int>();
+    auto ending = this->defaults().observe(cKey, [held](const DefaultsChange&) {});
+    const auto staying = this->defaults().observe(cKey, [](const DefaultsChange&) {});
+    EXPECT_EQ(held.use_count(), 2);
+    ending = {};
+    EXPECT_EQ(held.use_count(), 1);
+}
+
 TYPED_TEST(UserDefaultsContractTest, Observer_MayEndItsOwnSubscriptionAndOthers) {
     auto& defaults = this->defaults();
     int ownCalls = 0;

@@ -52,6 +52,13 @@ TEST(StoredValueTest, NestedTooDeep_IsCutThere) {
     for (QVariant part = storedValue(value); part.isValid(); part = part.toList().value(0))
         ++depth;
     EXPECT_EQ(depth, cDeepestStoredValue);
+    value = QVariantMap();
+    for (depth = 1; depth < cDeepestStoredValue + 10; ++depth)
+        value = depth % 2 == 0 ? QVariant(QVariantMap{{"x", value}}) : QVariantHash{{"x", value}};
+    depth = 0;
+    for (QVariant part = storedValue(value); part.isValid(); part = part.toMap().value("x"))
+        ++depth;
+    EXPECT_EQ(depth, cDeepestStoredValue);
 }
 
 TEST(StoredValueTest, Same_NeedsTheSameTypeInAllParts) {

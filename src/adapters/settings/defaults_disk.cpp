@@ -13,7 +13,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto cGatherTime = 100ms;
+constexpr std::chrono::milliseconds cGatherTime = 100ms;
+/// The same for what is mostly gone before: longer than a small pass, and its end, take.
+constexpr std::chrono::milliseconds cBriefTime = 3000ms;
 /// How long a file that is no list may still be one that somebody is writing.
 constexpr auto cUnreadablePatience = 1000ms;
 /// The same for one that keeps changing.
@@ -71,7 +73,7 @@ SettingsStanding DefaultsDisk::standing() const {
 }
 
 void DefaultsDisk::run(const std::stop_token& stop) {
-    Deadline firstChange;
+    Deadline due;
     Deadline next;
     while (!stop.stop_requested()) {
         bool touched = fWatch.wait(next);
@@ -86,15 +88,12 @@ void DefaultsDisk::run(const std::stop_token& stop) {
             }
             if (touched)
                 changed = takeOver();
-            if (!somethingToWrite())
-                firstChange.reset();
-            else if (!firstChange)
-                firstChange = Clock::now();
-            next = deadline(firstChange);
+            due = deadline(due);
+            next = fTrouble.isEmpty() ? due : fRetryAt;
             if (next && Clock::now() >= *next) {
                 changed += writeOut();
-                firstChange.reset();
-                next = deadline(somethingToWrite() ? Clock::now() : Deadline());
+                due = deadline({});
+                next = fTrouble.isEmpty() ? due : fRetryAt;
             }
             becameKnown = fKnown && !wasKnown;
         }
@@ -105,7 +104,9 @@ void DefaultsDisk::run(const std::stop_token& stop) {
 
 void DefaultsDisk::load() {
     const std::lock_guard guard(fMutex);
-    QString lockFailure = fFile.makeFolder();
+    // Who leaves a damaged file alone may only want to read: the folder comes with the first
+    // change.
+    QString lockFailure = fDamaged == DamagedFile::IsSetAside ? fFile.makeFolder() : QString();
     FileLock lock;
     if (lockFailure.isEmpty()) {
         // Before the first reading, so that no change after it goes unseen.
@@ -137,10 +138,12 @@ bool DefaultsDisk::somethingToWrite() const {
     return !fUnwritten.isEmpty() || fValues.hasChanges();
 }
 
-DefaultsDisk::Deadline DefaultsDisk::deadline(Deadline firstChange) const {
-    if (!fTrouble.isEmpty())
-        return fRetryAt;
-    return firstChange ? *firstChange + cGatherTime : Deadline();
+/// Of what waits to be written, where some of it may have waited until `before`.
+DefaultsDisk::Deadline DefaultsDisk::deadline(Deadline before) const {
+    if (!somethingToWrite())
+        return {};
+    const auto now = Clock::now() + (fValues.isPressed() ? cGatherTime : cBriefTime);
+    return before ? std::min(*before, now) : now;
 }
 
 /// Another program may have changed the file: reads it into memory.

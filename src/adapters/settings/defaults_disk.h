@@ -66,7 +66,7 @@ private:
     void load();
     void watchFolder();
     bool somethingToWrite() const;
-    Deadline deadline(Deadline firstChange) const;
+    Deadline deadline(Deadline before) const;
     QStringList takeOver();
     QStringList writeOut();
     QStringList exchange(std::chrono::milliseconds patience);

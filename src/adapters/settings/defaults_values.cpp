@@ -1,5 +1,6 @@
 #include "adapters/settings/defaults_values.h"
 
+#include "settings/preferences.h"
 #include "support/stored_value.h"
 
 #include <utility>
@@ -36,7 +37,8 @@ QVariant DefaultsValues::object(QStringView key) const {
 bool DefaultsValues::change(QStringView key, const QVariant& value) {
     const QString name = key.toString();
     const std::lock_guard lock(fMutex);
-    const bool first = fChanges.isEmpty();
+    const bool first = fChanges.isEmpty() || (!fPressed && !isBrief(key));
+    fPressed = fPressed || !isBrief(key);
     if (value.isValid())
         fUser.insert(name, value);
     else
@@ -55,12 +57,18 @@ void DefaultsValues::registerDefaults(const QVariantMap& defaults) {
 
 DefaultsChanges DefaultsValues::takeChanges() {
     const std::lock_guard lock(fMutex);
+    fPressed = false;
     return std::exchange(fChanges, {});
 }
 
 bool DefaultsValues::hasChanges() const {
     const std::lock_guard lock(fMutex);
     return !fChanges.isEmpty();
+}
+
+bool DefaultsValues::isPressed() const {
+    const std::lock_guard lock(fMutex);
+    return fPressed;
 }
 
 QVariantMap DefaultsValues::userValues() const {

@@ -25,7 +25,7 @@ public:
     QVariant object(QStringView key) const;
 
     /// Sets a user value, or removes it with an invalid one. Returns true for the first change
-    /// since the last `takeChanges`.
+    /// since the last `takeChanges`, and for the first of a key that is not brief.
     bool change(QStringView key, const QVariant& value);
 
     void registerDefaults(const QVariantMap& defaults);
@@ -33,6 +33,8 @@ public:
     /// The changes since the last call.
     DefaultsChanges takeChanges();
     bool hasChanges() const;
+    /// Whether one of them is of a key that is not brief.
+    bool isPressed() const;
 
     QVariantMap userValues() const;
 
@@ -46,6 +48,7 @@ private:
     QVariantMap fUser;
     QVariantMap fRegistered;
     DefaultsChanges fChanges;
+    bool fPressed = false;
 };
 
 } // namespace kelvo

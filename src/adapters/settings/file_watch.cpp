@@ -31,7 +31,7 @@ constexpr std::uint32_t cFileEvents =
 constexpr std::uint32_t cFolderEvents = IN_DELETE | IN_MOVED_FROM;
 /// The coarsest stamps of a usual file system.
 constexpr std::int64_t cYoung = 2'000'000'000;
-constexpr int cLongestBlind = 200; // milliseconds
+constexpr std::chrono::milliseconds cLongestBlind(200);
 
 int timeoutUntil(std::optional<Clock::time_point> until) {
     if (!until)
@@ -93,11 +93,10 @@ bool FileWatch::wait(std::optional<Clock::time_point> until) {
             return true;
     }
     std::array<pollfd, 2> sources{{{fWake.get(), POLLIN, 0}, {fEvents.get(), POLLIN, 0}}};
-    int timeout = timeoutUntil(until);
     // Without descriptors left nothing can wake us.
-    if (!fWake && (timeout < 0 || timeout > cLongestBlind))
-        timeout = cLongestBlind;
-    if (::poll(sources.data(), sources.size(), timeout) <= 0)
+    if (!fWake)
+        until = std::min(until.value_or(Clock::time_point::max()), Clock::now() + cLongestBlind);
+    if (::poll(sources.data(), sources.size(), timeoutUntil(until)) <= 0)
         return false;
     std::uint64_t wakeUps = 0;
     [[maybe_unused]] const ssize_t taken = ::read(fWake.get(), &wakeUps, sizeof wakeUps);

@@ -218,6 +218,9 @@ plist_t nodeOf(const QVariant& value) {
     case QMetaType::Bool:
         return plist_new_bool(value.toBool());
     case QMetaType::LongLong:
+        // What is below zero has a maker of its own since libplist 2.3, and only since.
+        if (value.toLongLong() < 0)
+            return nodeFromXml("integer", QByteArray::number(value.toLongLong()));
         return plist_new_uint(static_cast<std::uint64_t>(value.toLongLong()));
     case QMetaType::ULongLong:
         return nodeFromXml("integer", QByteArray::number(value.toULongLong()));

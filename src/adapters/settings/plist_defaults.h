@@ -14,10 +14,11 @@
 namespace kelvo {
 
 /// The rules of the file:
-/// - Changes are gathered for at most 100 ms and then replace the whole file at once, on a thread
-/// of
-///   the store's own; a crash leaves the old file or the new one. Folders are made with mode 0700,
-///   the file with 0600; symbolic links in its place stay, and the file at their end is replaced.
+/// - Changes are gathered for at most 100 ms, those of brief keys for 3 s where they are alone, and
+///   then replace the whole file at once, on a thread of the store's own; a crash leaves the old
+///   file or the new one. Folders are made with mode 0700 (where damaged files are left alone not
+///   before there is a change to write), the file with 0600; symbolic links in its place stay, and
+///   the file at their end is replaced.
 /// - Programs that write it take turns by a lock on `<path>.lock`. Each lays only its own unwritten
 ///   changes over what it finds: of two changes of one key the later written one holds. Every key
 ///   that thereby changes here is told on the main queue.
