@@ -15,11 +15,15 @@ constexpr std::size_t cMostArrivals = 10'000;
 /// The clock of a file system may be that much behind.
 constexpr qint64 cClockLag = 20; // milliseconds
 
+/// The earliest time, in milliseconds, that a file system tells of what changed at `began`.
+qint64 earliestOf(const QDateTime& began) {
+    return began.toMSecsSinceEpoch() - cClockLag;
+}
+
 /// A file system that counts whole seconds only tells an earlier time than it was.
-bool changedSince(const QDateTime& began, const QDateTime& changed) {
-    const qint64 from = began.toMSecsSinceEpoch();
+bool changedSince(qint64 earliest, const QDateTime& changed) {
     const qint64 at = changed.toMSecsSinceEpoch();
-    return at >= from - cClockLag || (at % 1000 == 0 && at / 1000 >= from / 1000);
+    return at >= earliest || (at % 1000 == 0 && at / 1000 >= earliest / 1000);
 }
 
 /// Folders for unfinished files, ours and rsync's usual ones, and rsync's temporary files, such as
@@ -46,19 +50,14 @@ std::vector<Arrival> arrivalsOf(const FileManager& files, const ArrivalSearch& s
     while (folder.size() > 1 && folder.endsWith('/'))
         folder.chop(1);
 
-    std::vector<FoundFile> found;
-    for (const QByteArray& name : search.names) {
-        if (auto file = files.fileBeneath(folder, name))
-            found.push_back(std::move(*file));
-    }
+    const qint64 earliest = earliestOf(search.began);
+    std::vector<FoundFile> found = files.filesBeneath(folder, search.names);
     if (search.unnamedToo) {
-        const qint64 second = search.began.toSecsSinceEpoch();
-        std::ranges::move(files.filesChangedSince(
-                              folder, QDateTime::fromSecsSinceEpoch(second, Qt::UTC), isUnfinished),
+        const auto second = QDateTime::fromSecsSinceEpoch(earliest / 1000, Qt::UTC);
+        std::ranges::move(files.filesChangedSince(folder, second, isUnfinished),
                           std::back_inserter(found));
     }
-    std::erase_if(found,
-                  [&](const auto& file) { return !changedSince(search.began, file.changed); });
+    std::erase_if(found, [&](const auto& file) { return !changedSince(earliest, file.changed); });
     std::ranges::sort(found, {}, &FoundFile::path);
     const auto samePath = [](const FoundFile& one, const FoundFile& other) {
         return one.path == other.path;
@@ -68,6 +67,7 @@ std::vector<Arrival> arrivalsOf(const FileManager& files, const ArrivalSearch& s
     found.resize(std::min(found.size(), cMostArrivals));
 
     std::vector<Arrival> arrivals;
+    arrivals.reserve(found.size());
     for (FoundFile& file : found)
         arrivals.push_back(
             {.path = std::move(file.path), .size = file.size, .arrived = file.changed});

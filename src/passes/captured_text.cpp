@@ -2,6 +2,7 @@
 
 #include "support/text.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace kelvo {
@@ -25,10 +26,22 @@ int bytesOf(QStringView text, qsizetype at) {
     return isPair(text, at) ? 4 : 3;
 }
 
+/// How many signs at the beginning are of one byte each, at most `most`.
+qsizetype plainSigns(QStringView text, qint64 most) {
+    const auto end = text.begin() + std::min<qint64>(text.size(), most);
+    return std::find_if(text.begin(), end, [](QChar sign) { return sign.unicode() >= 0x80; }) -
+           text.begin();
+}
+
 /// As many whole characters from the beginning as `most` bytes hold.
 Cut beginning(QStringView text, qint64 most) {
     Cut cut{0, 0};
     while (cut.length < text.size()) {
+        const qsizetype plain = plainSigns(text.sliced(cut.length), most - cut.bytes);
+        cut.length += plain;
+        cut.bytes += plain;
+        if (cut.length == text.size())
+            break;
         const int bytes = bytesOf(text, cut.length);
         if (cut.bytes + bytes > most)
             break;

@@ -102,12 +102,14 @@ NameFormat formatByWords(QStringView command) {
     return found;
 }
 
+/// Most names are told from a remark by their first sign.
 template <typename View>
 bool beginsAsRemark(View line) {
-    return std::ranges::any_of(cRemarks, [line](std::string_view begin) {
-        return line.size() >= static_cast<qsizetype>(begin.size()) &&
-               std::equal(begin.begin(), begin.end(), line.begin(),
-                          [](char a, auto b) { return b == static_cast<decltype(b)>(a); });
+    const auto same = [](char a, auto b) { return b == static_cast<decltype(b)>(a); };
+    return !line.isEmpty() && std::ranges::any_of(cRemarks, [line, same](std::string_view begin) {
+        return same(begin.front(), line[0]) &&
+               line.size() >= static_cast<qsizetype>(begin.size()) &&
+               std::equal(begin.begin(), begin.end(), line.begin(), same);
     });
 }
 

@@ -51,7 +51,7 @@ public:
     std::optional<double> figure() {
         const auto [digits, fraction] = digitsAndFraction();
         constexpr std::string_view cLetters = "KMGTP";
-        const std::size_t power = next() == '\0' ? cLetters.npos : cLetters.find(next());
+        const std::size_t power = cLetters.find(next());
         if (!digits || power == cLetters.npos)
             return digits;
         ++fAt;

@@ -173,11 +173,12 @@ std::optional<double> RsyncOutputReader::share() const {
         return 1;
     const auto bytes = static_cast<double>(fBytes);
     if (!fOverall) {
-        if (!fEnd)
+        const ProgressLine::FileEnd end = fEnd.value_or(ProgressLine::FileEnd());
+        if (end.entries == 0)
             return std::nullopt;
-        const auto checked = static_cast<double>(fEnd->entries - fEnd->unchecked);
+        const auto checked = static_cast<double>(end.entries - end.unchecked);
         return std::min(cNearlyAll,
-                        (checked + fPercentOfFile / 100.0) / static_cast<double>(fEnd->entries));
+                        (checked + fPercentOfFile / 100.0) / static_cast<double>(end.entries));
     }
     if (fRestIsHere && fBytesNamed > 0)
         return std::min(cNearlyAll, bytes / static_cast<double>(fBytesNamed));

@@ -43,9 +43,15 @@ bool isRefusal(QStringView line) {
            (line.contains(u"compat.c(") || line.contains(u"(code 2) at exclude.c("));
 }
 
+/// Whether a line that begins with `sign` may be one of those that tell of all files. Most are
+/// names.
+bool mayTell(QChar sign) {
+    return sign == u'N' || sign == u'T' || sign == u's' || sign == u'r';
+}
+
 bool namesFile(QStringView line, NameFormat format) {
     // A folder ends in "/"; rsync's progress lines begin with blanks.
-    if (line.isEmpty() || line.endsWith(u'/') || line[0].isSpace())
+    if (line.endsWith(u'/') || line[0].isSpace())
         return false;
     if (format == NameFormat::Sized)
         return line[0].isDigit();
@@ -68,8 +74,12 @@ Transfer transferOf(QStringView command, QStringView output) {
         begin = end + 1;
         if (line.endsWith(u'\r'))
             line.chop(1);
-        if (const auto files = figureAfter(
-                line, {u"Number of regular files transferred:", u"Number of files transferred:"})) {
+        if (line.isEmpty())
+            continue;
+        if (!mayTell(line[0])) {
+            names += namesFile(line, format) ? 1 : 0;
+        } else if (const auto files = figureAfter(line, {u"Number of regular files transferred:",
+                                                         u"Number of files transferred:"})) {
             statistics.files = files;
             statistics.source = TransferSource::Statistics;
         } else if (const auto bytes = figureAfter(line, {u"Total transferred file size:"})) {

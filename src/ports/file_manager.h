@@ -45,10 +45,11 @@ public:
     /// Whether `path` is a folder that this user may put files into, links followed.
     virtual bool isWritableFolder(const QString& path) const = 0;
 
-    /// The file that `name` leads to from `folder`. None behind a link, and none outside: a name
-    /// that begins with "/" or climbs with ".." finds nothing.
-    virtual std::optional<FoundFile> fileBeneath(const QByteArray& folder,
-                                                 const QByteArray& name) const = 0;
+    /// The files that `names` lead to from `folder`, in their order. None behind a link, and none
+    /// outside: a name that begins with "/" or climbs with ".." finds nothing. Names of one folder
+    /// that follow each other cost one look at it together.
+    virtual std::vector<FoundFile> filesBeneath(const QByteArray& folder,
+                                                const std::vector<QByteArray>& names) const = 0;
 
     /// The files beneath `folder` that have changed since `moment`, in no order; what was only
     /// written to, in a folder where nothing else has changed, may be missing. Names that

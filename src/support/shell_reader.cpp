@@ -59,7 +59,7 @@ void ShellReader::step() {
         fLost = fLost || rest.startsWith(u"$((");
         fWordBegins = true;
         fNext += 2;
-        fFrames.push_back({Quoting::Bare, fNext});
+        fFrames.push_back({Quoting::Bare, {}});
     } else {
         fLost = fLost || sign == u'`';
         if (quoting == Quoting::Bare)
@@ -75,7 +75,7 @@ void ShellReader::stepOutsideQuotes(QChar sign, QStringView rest) {
     if (sign == u'\'')
         fFrames.push_back({Quoting::Single, fNext + 1});
     else if (sign == u'(')
-        fFrames.push_back({Quoting::Bare, fNext + 1});
+        fFrames.push_back({Quoting::Bare, {}});
     else if (sign == u')' && fFrames.size() > 1)
         fFrames.pop_back();
     else if (sign == u'#' && fWordBegins)

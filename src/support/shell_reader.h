@@ -30,7 +30,7 @@ public:
 private:
     struct Frame {
         Quoting quoting;
-        qsizetype begin;
+        qsizetype begin; ///< of what is quoted
     };
 
     void step();

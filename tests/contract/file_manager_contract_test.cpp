@@ -175,20 +175,24 @@ TYPED_TEST(FileManagerContractTest, WritableFolders_AreFoldersThatTakeFiles) {
     EXPECT_FALSE(this->files.isWritableFolder(this->place.readOnlyFolder()));
 }
 
-TYPED_TEST(FileManagerContractTest, FileBeneath_IsAFileOnTheWayDown) {
+TYPED_TEST(FileManagerContractTest, FilesBeneath_AreFilesOnTheWayDown) {
     this->place.putFolder("folder");
     this->place.putFolder("folder/deep");
     this->place.putFile("folder/deep/film é", "12345");
     this->place.putFile("outside", "x");
     const QByteArray folder = this->place.at("folder").toUtf8();
-    const auto file = this->files.fileBeneath(folder, "deep/film é");
-    ASSERT_TRUE(file);
-    EXPECT_EQ(file->path, folder + "/deep/film é");
-    EXPECT_EQ(file->size, 5);
-    EXPECT_LT(std::abs(file->changed.secsTo(QDateTime::currentDateTimeUtc())), 60);
+    this->place.putFile("folder/second", "12");
+    const auto found = this->files.filesBeneath(
+        folder, {"deep/film é", "deep/not there", "second", "deep/film é"});
+    ASSERT_EQ(found.size(), 3U);
+    EXPECT_EQ(found[0].path, folder + "/deep/film é");
+    EXPECT_EQ(found[0].size, 5);
+    EXPECT_LT(std::abs(found[0].changed.secsTo(QDateTime::currentDateTimeUtc())), 60);
+    EXPECT_EQ(found[1].path, folder + "/second");
+    EXPECT_EQ(found[2].path, found[0].path);
     for (const char* name :
          {"", "deep", "not there", "../outside", "deep/../../outside", "/deep/film é"})
-        EXPECT_FALSE(this->files.fileBeneath(folder, name)) << name;
+        EXPECT_TRUE(this->files.filesBeneath(folder, {name}).empty()) << name;
 }
 
 TYPED_TEST(FileManagerContractTest, FilesChangedSince_AreThoseNotPassedOver) {

@@ -42,6 +42,10 @@ protected:
     void TearDown() override { qputenv("HOME", fHome); }
 
     QString at(const char* name) const { return fFolder.filePath(QString::fromUtf8(name)); }
+    std::optional<FoundFile> fileBeneath(const QByteArray& folder, const QByteArray& name) const {
+        const auto found = fManager.filesBeneath(folder, {name});
+        return found.empty() ? std::nullopt : std::optional(found.front());
+    }
 
     const QByteArray fHome = qgetenv("HOME");
     LocalFileManager fManager;
@@ -178,7 +182,7 @@ TEST_F(LocalFileManagerTest, FolderThatKnowsNoLocks_IsClaimedAllTheSame) {
 
 // -- looking for files
 
-TEST_F(LocalFileManagerTest, FileBeneath_TakesTheWayAsItIsMeantAndFollowsNoLink) {
+TEST_F(LocalFileManagerTest, FilesBeneath_TakeTheWayAsItIsMeantAndFollowNoLink) {
     ASSERT_TRUE(QDir().mkpath(at("to/deep")));
     put(at("to/deep/film"), "12345");
     ASSERT_TRUE(QFile::link(at("to/deep"), at("to/link")));
@@ -186,17 +190,20 @@ TEST_F(LocalFileManagerTest, FileBeneath_TakesTheWayAsItIsMeantAndFollowsNoLink)
     ASSERT_TRUE(QFile::link(at("to"), at("way")));
     const QByteArray folder = at("to").toLocal8Bit();
     for (const char* const name : {"deep/film", "./deep/film", "deep//./film"}) {
-        const auto file = fManager.fileBeneath(folder, name);
+        const auto file = fileBeneath(folder, name);
         ASSERT_TRUE(file) << name;
         EXPECT_EQ(file->path, folder + "/deep/film");
     }
     for (const QByteArray name : {"link/film", "linked film", "deep/film/..", "missing/film", "."})
-        EXPECT_FALSE(fManager.fileBeneath(folder, name)) << name.constData();
-    EXPECT_FALSE(fManager.fileBeneath(folder, QByteArray("deep/film\0x", 11)));
-    EXPECT_FALSE(fManager.fileBeneath(folder + QByteArray("\0x", 2), "deep/film"));
-    EXPECT_TRUE(fManager.fileBeneath(at("way").toLocal8Bit(), "deep/film"))
+        EXPECT_FALSE(fileBeneath(folder, name)) << name.constData();
+    const QByteArray way = "deep/film";
+    EXPECT_EQ(fManager.filesBeneath(folder, {way, "link/film", way, "missing/film", way}).size(),
+              3U);
+    EXPECT_FALSE(fileBeneath(folder, QByteArray("deep/film\0x", 11)));
+    EXPECT_FALSE(fileBeneath(folder + QByteArray("\0x", 2), "deep/film"));
+    EXPECT_TRUE(fileBeneath(at("way").toLocal8Bit(), "deep/film"))
         << "the folder itself may be a link";
-    const auto fromTheRoot = fManager.fileBeneath("/", folder.mid(1) + "/deep/film");
+    const auto fromTheRoot = fileBeneath("/", folder.mid(1) + "/deep/film");
     ASSERT_TRUE(fromTheRoot);
     EXPECT_EQ(fromTheRoot->path, folder + "/deep/film");
 }
@@ -221,7 +228,7 @@ TEST_F(LocalFileManagerTest, FilesChangedSince_CountFromTheMillisecondOn) {
 
 TEST_F(LocalFileManagerTest, FilesChangedSince_LeaveOutTheOlderNeighbour) {
     const auto changeOf = [this](const char* name) {
-        return fManager.fileBeneath(fFolder.path().toLocal8Bit(), name)->changed;
+        return fileBeneath(fFolder.path().toLocal8Bit(), name)->changed;
     };
     put(at("old"), "x");
     // The clock of the disk goes on by steps, and a folder may be one behind what comes into it.

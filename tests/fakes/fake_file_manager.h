@@ -22,11 +22,16 @@ public:
     bool isWritableFolder(const QString& path) const override {
         return path != guarded && folders.contains(followed(path));
     }
-    std::optional<FoundFile> fileBeneath(const QByteArray& folder,
-                                         const QByteArray& name) const override {
-        const QByteArray path = folder + '/' + name;
-        const auto file = std::ranges::find(found, path, &FoundFile::path);
-        return file == found.end() ? std::nullopt : std::optional(*file);
+    std::vector<FoundFile> filesBeneath(const QByteArray& folder,
+                                        const std::vector<QByteArray>& names) const override {
+        std::vector<FoundFile> named;
+        for (const QByteArray& name : names) {
+            const QByteArray path = folder + '/' + name;
+            const auto file = std::ranges::find(found, path, &FoundFile::path);
+            if (file != found.end())
+                named.push_back(*file);
+        }
+        return named;
     }
     std::vector<FoundFile>
     filesChangedSince(const QByteArray& folder, const QDateTime& moment,

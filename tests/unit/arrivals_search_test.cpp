@@ -25,7 +25,7 @@ protected:
     }
 
     FakeFileManager files;
-    const QDateTime began{QDate(2026, 11, 22), QTime(12, 0, 0, 500), Qt::UTC};
+    QDateTime began{QDate(2026, 11, 22), QTime(12, 0, 0, 500), Qt::UTC};
 };
 
 TEST_F(ArrivalSearchTest, ChangeBeforeThePass_IsNoArrivalButForALaggingClock) {
@@ -44,6 +44,16 @@ TEST_F(ArrivalSearchTest, FileSystemThatCountsWholeSeconds_MayTellTheSecondOfThe
     EXPECT_EQ(arrived({"same", "earlier", "later", "close"}, false),
               (QList<QByteArray>{"/in/same", "/in/later"}));
     EXPECT_EQ(arrived({}, true), (QList<QByteArray>{"/in/same", "/in/later"}));
+}
+
+TEST_F(ArrivalSearchTest, LaggingClock_MayBeInTheSecondBeforeThePass) {
+    began = QDateTime(QDate(2026, 11, 22), QTime(12, 0, 0, 3), Qt::UTC);
+    put("/in/lag", -4);
+    put("/in/whole", -1003); // a file system that counts whole seconds only
+    put("/in/before", -24);
+    EXPECT_EQ(arrived({"lag", "whole", "before"}, false),
+              (QList<QByteArray>{"/in/whole", "/in/lag"}));
+    EXPECT_EQ(arrived({}, true), (QList<QByteArray>{"/in/whole", "/in/lag"}));
 }
 
 TEST_F(ArrivalSearchTest, TooMany_KeepsTheFirstTenThousand) {
@@ -65,6 +75,7 @@ TEST_F(ArrivalSearchTest, FilesOfOneMoment_AreInTheOrderOfTheirNamesAndEachOnce)
 TEST_F(ArrivalSearchTest, Destination_IsAskedForWithoutItsClosingSlashes) {
     put("/in/a", 1);
     put("//a", 2);
+    put("in/a", 3);
     EXPECT_EQ(arrived({"a"}, false, "/in//"), QList<QByteArray>{"/in/a"});
     EXPECT_EQ(arrived({"a"}, false, "//"), QList<QByteArray>{"//a"});
     EXPECT_EQ(arrived({"a"}, true, "in"), QList<QByteArray>());

@@ -47,6 +47,7 @@ TEST(ProgressLineTest, Bytes_AreWrittenInFullOrWithALetter) {
     EXPECT_EQ(bytes("0000000000000000000000000000005"), -1) << "31 signs";
     for (const char* none : {"", "x", "1.25X", "1K5", "-5"})
         EXPECT_EQ(bytes(none), -1) << none;
+    EXPECT_FALSE(progressLineIn("  1K5%    1.95MB/s    0:00:06  ")) << "no blank behind the bytes";
 }
 
 TEST(ProgressLineTest, Percentage_MayPassAHundredButNotGoAstray) {

@@ -84,7 +84,9 @@ TEST(RsyncOutputReaderTest, FilesToCome_AreKnownWhereNoFolderIsNamed) {
 
 TEST(RsyncOutputReaderTest, Figures_AreExactAtTheEnd) {
     Reading read(cFactory);
-    const PassProgress end = read(cFirstPull);
+    read(cFirstPull.first(cFirstPull.size() / 2));
+    const PassProgress end = read(cFirstPull.mid(cFirstPull.size() / 2));
+    EXPECT_EQ(end.secondsLeft, 0);
     EXPECT_EQ(end.share, 1);
     EXPECT_EQ(end.filesDone, 7);
     EXPECT_EQ(end.filesKnown, 7);
@@ -114,6 +116,13 @@ TEST(RsyncOutputReaderTest, OutputCutAnywhere_TellsTheSameAndNothingGoesBack) {
         EXPECT_EQ(last.bytesDone, 16'000'000);
         EXPECT_EQ(read.names().size(), 7U);
     }
+}
+
+TEST(RsyncOutputReaderTest, ProgressCutInTwo_IsNoName) {
+    Reading read(QStringLiteral("rsync -r --info=progress2 --out-format='%n' a/ b/"));
+    read("a.mov\n\r             70  50%    1.00kB/s    0:00:01  \r             70 100%    1.0");
+    EXPECT_EQ(read("0kB/s    0:00:01 (xfr#1, to-chk=0/2)\n").share, 1);
+    EXPECT_EQ(read.names(), std::vector<QByteArray>{"a.mov"});
 }
 
 TEST(RsyncOutputReaderTest, SpeedAndTimeLeft_AreThoseOfTheLastSeconds) {
@@ -163,6 +172,7 @@ TEST(RsyncOutputReaderTest, WhenTheRestIsHere_TheSizesOfTheNamedFilesAreAllThere
     read("\r  4,000,000   2%    1.00MB/s    0:00:04 (xfr#2, to-chk=2999/5004)\n");
     const PassProgress nothing = read("2000000 n3.mov\n");
     EXPECT_FALSE(nothing.share) << "less than was said";
+    EXPECT_EQ(Reading(cFactory, true)("1 n1.mov\n\r  0   0%    0.00kB/s    0:00:00  ").share, 0);
 }
 
 TEST(RsyncOutputReaderTest, WhatMayNotBeAll_IsNinetyNinePerCentAtMost) {
@@ -184,6 +194,44 @@ TEST(RsyncOutputReaderTest, Total_IsSaidOnceItIsKnownWellEnough) {
     };
     EXPECT_FALSE(known("6")) << "between 86 and 100 million";
     EXPECT_EQ(known("7"), 75'000'000) << "and 86 million";
+}
+
+TEST(RsyncOutputReaderTest, TotalThatWasKnownBetter_IsNotForgotten) {
+    Reading read(cFactory);
+    read("500000 f1.mov\n\r        500,000   0%    1.00MB/s    0:00:00 (xfr#1, to-chk=98/100)\n");
+    // Rate and time left tell the total to a few per cent, which a percentage of two does not.
+    read("9000000 f2.mov\n\r      1,000,000   1%    1.00MB/s    0:01:19  ");
+    const PassProgress later =
+        read("\r      2,000,000   2%    1.00MB/s    0:00:02 (xfr#2, to-chk=97/100)\n");
+    EXPECT_NEAR(later.share.value_or(0), 2e6 / (1e6 + 80 * 1.03 * 1024 * 1024), 1e-5);
+}
+
+TEST(RsyncOutputReaderTest, TotalOfRateAndTimeLeft_IsTheLeastThatItMayBe) {
+    Reading read(cFactory);
+    read("500000 f1.mov\n\r        500,000   2%    0.00kB/s    0:00:00 (xfr#1, to-chk=7/9)\n");
+    const PassProgress later =
+        read("9000000 f2.mov\n\r      1,000,000   5%    1.00MB/s    0:00:17  ");
+    EXPECT_NEAR(static_cast<double>(later.bytesKnown.value_or(0)), 1e6 + 17 * 0.97 * 1024 * 1024,
+                2);
+}
+
+TEST(RsyncOutputReaderTest, OnePerCent_IsAShare) {
+    Reading read(cFactory);
+    EXPECT_EQ(read("9000000 f1.mov\n\r      1,000,000   1%    0.00kB/s    0:00:00  ").share, 0.01);
+}
+
+TEST(RsyncOutputReaderTest, TotalThatContradictsWhatWasKnown_TakesItsPlace) {
+    Reading read(cFactory);
+    read("1000000 f1.mov\n\r      1,000,000  50%    0.00kB/s    0:00:00 (xfr#1, to-chk=7/9)\n");
+    const PassProgress later =
+        read("9000000 f2.mov\n\r      2,000,000  10%    0.00kB/s    0:00:00 (xfr#2, to-chk=6/9)\n");
+    EXPECT_NEAR(static_cast<double>(later.bytesKnown.value_or(0)), 19e6, 1e6);
+}
+
+TEST(RsyncOutputReaderTest, TotalThatTwoLinesMeetIn_IsExact) {
+    Reading read(cFactory);
+    read("1000000 f1.mov\n\r      1,000,000   1%    0.00kB/s    0:00:00 (xfr#1, to-chk=7/9)\n");
+    EXPECT_EQ(read("\r     50,000,000  49%    0.00kB/s    0:00:00  ").share, 0.5);
 }
 
 TEST(RsyncOutputReaderTest, LineOf32KiB_IsTheLongestThatIsRead) {
@@ -227,6 +275,8 @@ TEST(RsyncOutputReaderTest, ProgressOfEachFile_IsTakenTogether) {
              "\r      1.500.000  50%    2.64MB/s    0:00:00  ");
     EXPECT_EQ(second.bytesDone, 4'500'000);
     EXPECT_EQ(second.share, 2.5 / 4) << "the place in the list";
+    EXPECT_EQ(read("\r      3,000,000 150%    2.64MB/s    0:00:00  ").share, 3.0 / 4)
+        << "no file is more than whole";
     const PassProgress end =
         read("\r          3.00M 100%    5.66MB/s    0:00:00 (xfr#2, to-chk=0/4)\n");
     EXPECT_EQ(end.bytesDone, 6'000'000);
@@ -317,6 +367,8 @@ TEST(WithoutProgressTest, WordsBehindTheProgress_Stay) {
                              "rsync error: unexplained error (code 255)\n"));
     EXPECT_EQ(withoutProgress(QStringLiteral("10%\r20%\rdone\nrest")),
               QStringLiteral("done\nrest"));
+    EXPECT_EQ(withoutProgress(QStringLiteral("10%\r7 movies came\n")),
+              QStringLiteral("7 movies came\n"));
 }
 
 TEST(WithoutProgressTest, OtherTexts_StayAsTheyAre) {

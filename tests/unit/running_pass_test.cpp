@@ -132,6 +132,13 @@ TEST_F(RunningPassTest, FilesThatNoCommandTold_AreCountedAsTheyArrived) {
     passThatBrought({});
     EXPECT_EQ(records.back().transfer.files, 1);
     EXPECT_EQ(records.back().transfer.bytes, 40'000);
+    {
+        RunningPass pass(passes, PassKind::Plain);
+        run(pass, "silent");
+        pass.brought({{"/in/c.mov", 9, noon}});
+    }
+    EXPECT_EQ(records.back().transfer.files, 1) << "alone";
+    EXPECT_EQ(records.back().transfer.bytes, 9);
 }
 
 TEST_F(RunningPassTest, PassWithoutACommand_LacksItsSettings) {
@@ -288,7 +295,7 @@ TEST_F(RunningPassTest, PullOfWhichMuchIsLeftOut_StillTellsItsNamesAndItsFigures
     const QString statistics = QStringLiteral("rsync --stats");
     const QString cut = QStringLiteral("1 a.mov\n\n… 16 bytes left out …\n1 d.mov\n");
     commands.pieces = {cNames};
-    commands.results[names] = {cut, {}, 0, 16};
+    commands.results[names] = {cut, {}, 0, 1};
     commands.results[other] = {cut, {}, 0, 16};
     commands.results[statistics] = {QString(cut + cStatistics), {}, 0, 16};
     std::vector<QByteArray> named;
@@ -417,6 +424,19 @@ TEST_F(HalfFilesTest, SmallFileWithoutTheFolder_ComesAtOnce) {
     pull();
     EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"}));
     EXPECT_EQ(names, std::vector<QByteArray>{"small.mov"});
+}
+
+TEST_F(HalfFilesTest, WhoeverStartedIt_HearsThePullWithAndWithoutTheFolder) {
+    commands.pieces = {"7 a.mov\n", "8 b.mov\n"};
+    for (const char* folder : {"with", "without"}) {
+        QByteArray heard;
+        RunningPass pass(passes, PassKind::Plain);
+        (void)pass.run(PassStep::Pull, {.text = cWithFolder, .received = [&](QByteArrayView bytes) {
+                                            heard += bytes.toByteArray();
+                                        }});
+        EXPECT_EQ(heard, "7 a.mov\n8 b.mov\n") << folder;
+    }
+    EXPECT_EQ(folders(), (QByteArrayList{option, "none"}));
 }
 
 TEST_F(HalfFilesTest, CancelledPull_IsNotRunAgain) {

@@ -85,28 +85,68 @@ QByteArray beforeSlash(const QByteArray& folder) {
     return folder == "/" ? QByteArray() : folder;
 }
 
+/// Looks for names beneath a folder. The one that held the last name stays open: rsync names files
+/// folder by folder.
+class Lookup {
+public:
+    explicit Lookup(const QByteArray& folder)
+        : fTop(openFolder(AT_FDCWD, folder.constData(), 0)), fTopPath(beforeSlash(folder)) {}
+
+    std::optional<FoundFile> find(const QByteArray& name) {
+        if (!fTop || name.startsWith('/') || name.contains('\0'))
+            return {};
+        QByteArrayView way(name);
+        while (way.endsWith('/') || way == "." || way.endsWith("/."))
+            way.chop(1);
+        const QByteArrayView last = way.sliced(way.lastIndexOf('/') + 1);
+        if (last.isEmpty() || last == "..")
+            return {};
+        way.chop(last.size());
+        if (!fWay || way != *fWay)
+            enter(way);
+        const QByteArray file = last.toByteArray();
+        return fFolder >= 0 ? regularFile(fFolder, file.constData(), fPath + file) : std::nullopt;
+    }
+
+private:
+    /// Opens the folder at `way`, which is empty or ends with a slash.
+    void enter(QByteArrayView way) {
+        fWay = way.toByteArray();
+        fPath = fTopPath + '/';
+        fOpen = UniqueFd();
+        fFolder = fTop.get();
+        for (const QByteArray& part : fWay->split('/')) {
+            if (part.isEmpty() || part == ".")
+                continue;
+            fOpen = part == ".." ? UniqueFd() : openFolder(fFolder, part.constData());
+            fFolder = fOpen.get();
+            if (!fOpen)
+                return;
+            fPath += part + '/';
+        }
+    }
+
+    const UniqueFd fTop;
+    const QByteArray fTopPath;
+    std::optional<QByteArray> fWay; ///< to the folder that was entered last
+    QByteArray fPath;               ///< of it
+    UniqueFd fOpen;                 ///< it, if it is not the top
+    int fFolder = -1;               ///< its descriptor; -1 where it is none
+};
+
 } // namespace
 
-std::optional<FoundFile> fileBeneath(const QByteArray& folder, const QByteArray& name) {
-    if (name.startsWith('/') || name.contains('\0') || folder.contains('\0'))
+std::vector<FoundFile> filesBeneath(const QByteArray& folder,
+                                    const std::vector<QByteArray>& names) {
+    if (folder.contains('\0'))
         return {};
-    UniqueFd parent = openFolder(AT_FDCWD, folder.constData(), 0);
-    QByteArray path = beforeSlash(folder);
-    QByteArray last;
-    for (const QByteArray& part : name.split('/')) {
-        if (part == "..")
-            return {};
-        if (part.isEmpty() || part == ".")
-            continue;
-        if (!last.isEmpty())
-            parent = openFolder(parent.get(), last.constData());
-        if (!parent)
-            return {};
-        last = part;
-        path += '/' + part;
+    Lookup lookup(folder);
+    std::vector<FoundFile> found;
+    for (const QByteArray& name : names) {
+        if (auto file = lookup.find(name))
+            found.push_back(std::move(*file));
     }
-    return parent && !last.isEmpty() ? regularFile(parent.get(), last.constData(), path)
-                                     : std::nullopt;
+    return found;
 }
 
 std::vector<FoundFile>

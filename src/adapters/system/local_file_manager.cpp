@@ -43,7 +43,7 @@ QString homeOfAccount() {
     passwd* found = nullptr;
     while (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) == ERANGE)
         buffer.resize(buffer.size() * 2);
-    return found && found->pw_dir ? QString::fromLocal8Bit(found->pw_dir) : QString();
+    return found ? QString::fromLocal8Bit(found->pw_dir) : QString();
 }
 
 QString faultOf(const QString& path, int error) {
@@ -64,7 +64,7 @@ int writeAll(int file, const QByteArray& content) {
 
 /// 0, or errno.
 int copyRest(int from, int to) {
-    std::vector<char> room(64 * 1024);
+    std::vector<char> room(65536);
     for (;;) {
         const ssize_t size = ::read(from, room.data(), room.size());
         if (size == 0)
@@ -110,9 +110,9 @@ bool LocalFileManager::isWritableFolder(const QString& path) const {
     return kindOf(path) == S_IFDIR && allows(path, W_OK | X_OK);
 }
 
-std::optional<FoundFile> LocalFileManager::fileBeneath(const QByteArray& folder,
-                                                       const QByteArray& name) const {
-    return kelvo::fileBeneath(folder, name);
+std::vector<FoundFile> LocalFileManager::filesBeneath(const QByteArray& folder,
+                                                      const std::vector<QByteArray>& names) const {
+    return kelvo::filesBeneath(folder, names);
 }
 
 std::vector<FoundFile> LocalFileManager::filesChangedSince(

@@ -17,8 +17,8 @@ public:
     bool isProgram(const QString& path) const override;
     bool isWritableFolder(const QString& path) const override;
 
-    std::optional<FoundFile> fileBeneath(const QByteArray& folder,
-                                         const QByteArray& name) const override;
+    std::vector<FoundFile> filesBeneath(const QByteArray& folder,
+                                        const std::vector<QByteArray>& names) const override;
     std::vector<FoundFile>
     filesChangedSince(const QByteArray& folder, const QDateTime& moment,
                       const std::function<bool(QByteArrayView name)>& passedOver) const override;
