@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QVariantMap dictionary = record->asDictionary().value();
     require(dictionary.size() == 12 && sameStoredValue(storedValue(dictionary), dictionary));
 
-    for (const QString& line : {recordText(*record), dictionaryText(dictionary)}) {
+    for (const QString& line : {recordText(*record), dictionaryText(*record)}) {
         for (const QChar character : line)
             require(character.category() != QChar::Other_Control);
     }

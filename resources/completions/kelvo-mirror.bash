@@ -6,9 +6,9 @@ _kelvo_mirror() {
     local options='
         --headless --no-sentinel --once --status --follow --start --stop --sync-now --cancel
         --max-age --passes --since --get --set --unset --settings --setup --mac --account
-        --folder --destination --make-destination --new-key --enable --no-enable --linger
-        --no-linger --profile --profiles --export-profile --import-profile --accept --json
-        --version --help
+        --folder --destination --make-destination --new-key --share-connection
+        --no-share-connection --enable --no-enable --linger --no-linger --profile --profiles
+        --export-profile --import-profile --accept --json --version --help
     '
     local settings='
         prefDelayBetweenScans prefRsyncCommandString1 prefRsyncCommandOptionTag prefRsyncWithSSH

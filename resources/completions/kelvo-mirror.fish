@@ -34,6 +34,8 @@ complete -c kelvo-mirror -l folder -x -d 'With --setup: the folder with the movi
 complete -c kelvo-mirror -l destination -x -d 'With --setup: the folder here that the movies come into.'
 complete -c kelvo-mirror -l make-destination -d 'With --setup: make that folder if it is missing.'
 complete -c kelvo-mirror -l new-key -d 'With --setup: make a new key; that of today is kept.'
+complete -c kelvo-mirror -l share-connection -d 'With --setup: tell ssh of the connection that passes share, by a line in ~/.ssh/config.'
+complete -c kelvo-mirror -l no-share-connection -d 'With --setup: take that line away, or leave it out.'
 complete -c kelvo-mirror -l enable -d 'With --setup: enable the service (systemd user unit).'
 complete -c kelvo-mirror -l no-enable -d 'With --setup: leave the service as it is.'
 complete -c kelvo-mirror -l linger -d 'With --setup: run the service also while you are not logged in.'

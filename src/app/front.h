@@ -1,6 +1,7 @@
 // Front: the face of the program, with a window or without.
 #pragma once
 
+#include "app/bus_parts.h"
 #include "ports/desktop_notices.h"
 #include "ports/status_menu.h"
 #include "ui/outlets.h"
@@ -14,6 +15,8 @@ class AppDelegate;
 class DispatchQueue;
 class MainWindowController;
 class ViewController;
+class Workspace;
+struct PassMachine;
 struct Profile;
 struct WorkState;
 struct MachineParts;
@@ -46,12 +49,15 @@ struct StatusMenuParts {
 /// How the fronts of one kind are made.
 struct FrontKind {
     bool hasWindow = false;
+    BusParts bus;
+    /// `machine` outlives the workspace.
+    std::unique_ptr<Workspace> (*makeWorkspace)(PassMachine& machine);
     /// `mainQueue` has ended before the menu goes.
     StatusMenuParts (*makeStatusMenu)(DispatchQueue& mainQueue, const Profile& profile);
     /// `machine` outlives the front. A front without a window hands each state of the work on to
     /// `shown` too.
     std::unique_ptr<Front> (*makeFront)(MachineParts& machine,
-                                        std::function<void(const WorkState&)> shown);
+                                        const std::function<void(const WorkState&)>& shown);
 };
 
 /// Everything is one line on standard output.

@@ -66,13 +66,15 @@ private:
 FrontKind headlessFront() {
     return {
         .hasWindow = false,
+        .bus = lateBusParts(),
+        .makeWorkspace = [](PassMachine&) -> std::unique_ptr<Workspace> {
+            return std::make_unique<HeadlessWorkspace>();
+        },
         .makeStatusMenu = [](DispatchQueue&, const Profile&) -> StatusMenuParts {
             return {.menu = std::make_shared<HeadlessStatusMenu>()};
         },
-        .makeFront = [](MachineParts& machine,
-                        std::function<void(const WorkState&)> shown) -> std::unique_ptr<Front> {
-            return std::make_unique<HeadlessFront>(machine, std::move(shown));
-        },
+        .makeFront = [](MachineParts& machine, const std::function<void(const WorkState&)>& shown)
+            -> std::unique_ptr<Front> { return std::make_unique<HeadlessFront>(machine, shown); },
     };
 }
 

@@ -17,27 +17,30 @@ namespace kelvo {
 MachineParts::MachineParts(const FrontKind& kind, Profile ofProfile)
     : PassMachine(STDOUT_FILENO, STDERR_FILENO, DamagedFile::IsSetAside, std::move(ofProfile)),
       loginItem(autostartFolder(), QCoreApplication::applicationFilePath(), files, profile),
-      sshConfiguration(resourceFolder() + QStringLiteral("/ssh.conf"),
-                       QStringLiteral("/etc/ssh/ssh_config.d/kelvo-mirror.conf")),
-      workspace(mainQueue, bgQueue, console, files.homeDirectory()),
-      terminal(files, console, mainQueue, bgQueue),
+      sshConfiguration(sshFragment(), sshFragmentOfTheMachine()),
+      workspace(kind.makeWorkspace(*this)), terminal(files, console, mainQueue, bgQueue),
       systemInformation(QString(u"Kelvo Mirror " + QStringView(cVersion)), commands, mainQueue,
                         bgQueue, console),
       singleCopy(QFile::encodeName(copyFolder(profile)).toStdString(), console),
       copies(QCoreApplication::applicationFilePath(), console),
-      sentinelLauncher(commands.runningCommands()), dnssdBrowser(console, mainQueue),
-      notices(
+      sentinelLauncher(commands.runningCommands()),
+      dnssdBrowser(kind.bus.makeBrowser(console, mainQueue)),
+      notices(kind.bus.makeNotices(
+          console,
           [this](const Notice& notice) {
               if (fStatusMenu.showNotice)
                   fStatusMenu.showNotice(notice);
           },
-          QDBusConnection::sessionBus, profile),
-      fStatusMenu(kind.makeStatusMenu(mainQueue, profile)) {}
+          profile)),
+      fBus(kind.bus), fStatusMenu(kind.makeStatusMenu(mainQueue, profile)) {}
 
 MachineParts::~MachineParts() = default;
 
 std::unique_ptr<NetworkChecker> MachineParts::makeNetworkChecker() {
-    return std::make_unique<KelvoSSID>(notificationCenter, mainQueue);
+    return std::make_unique<KelvoSSID>(notificationCenter, mainQueue,
+                                       [this](std::function<void()> changed) {
+                                           return fBus.makeReachSource(console, std::move(changed));
+                                       });
 }
 
 QString MachineParts::logFolder() const {

@@ -2,17 +2,16 @@
 #pragma once
 
 #include "adapters/desktop/autostart_entry.h"
-#include "adapters/desktop/bus_notices.h"
-#include "adapters/desktop/desktop_workspace.h"
 #include "adapters/desktop/system_information.h"
 #include "adapters/desktop/terminal_window.h"
-#include "adapters/network/avahi_browser.h"
 #include "adapters/process/copy_starter.h"
 #include "adapters/process/posix_sentinel_launcher.h"
 #include "adapters/process/single_copy_socket.h"
 #include "adapters/process/user_ssh_configuration.h"
 #include "app/front.h"
 #include "app/pass_machine.h"
+#include "ports/dnssd_browser.h"
+#include "ports/workspace.h"
 #include "remote/share_commands.h"
 #include "support/notification_center.h"
 
@@ -38,16 +37,17 @@ struct MachineParts : PassMachine {
     UserSshConfiguration sshConfiguration;
     PlatformShareCommands shareCommands;
     NotificationCenter notificationCenter;
-    DesktopWorkspace workspace;
+    const std::unique_ptr<Workspace> workspace;
     TerminalWindow terminal;
     SystemInformation systemInformation;
     SingleCopySocket singleCopy;
     CopyStarter copies;
     PosixSentinelLauncher sentinelLauncher;
-    AvahiBrowser dnssdBrowser;
-    BusNotices notices;
+    const std::unique_ptr<DnssdBrowser> dnssdBrowser;
+    const std::unique_ptr<DesktopNotices> notices;
 
 private:
+    const BusParts fBus;
     StatusMenuParts fStatusMenu;
 };
 

@@ -19,13 +19,15 @@
 namespace kelvo {
 namespace {
 
-constexpr double cProgressPace = 0.5; // seconds
+constexpr double cProgressPace = 0.5;          // seconds
+constexpr double cUntilTheCommandRuns = 0.005; // seconds, on a machine at rest
 
 /// The parts of one pass, each after those it works with.
 class OncePass {
 public:
     explicit OncePass(const Profile& profile)
         : fMachine(-1, -1, DamagedFile::IsLeftAlone, profile) {
+        fMachine.commands.adoptWhatIsLeft();
         registerFactoryDefaults(fMachine.bundle, fMachine.defaults, fMachine.console);
         TemplateSetting(fSettings).takeOver();
         fSettings.setObject(prefEnableScanning, true);
@@ -48,8 +50,8 @@ public:
         // A tag that does not exist would end the program.
         if (!optionStringForTag(fSettings.integerForKey(prefRsyncCommandOptionTag)))
             return withoutPass(PassCause::SettingsMissing);
-        // The record is opened while the pass runs.
-        fMachine.passes.readStanding([](const Standing&) {});
+        // While the command runs; before, it would be in the way of its start.
+        fMachine.mainQueue.asyncAfter(cUntilTheCommandRuns, [this] { fMachine.passes.getReady(); });
         fEngine.samplePath.updateSampleString();
         fMachine.mainQueue.async([this] {
             if (fSettings.boolForKey(prefRsyncWithSSH))

@@ -38,6 +38,14 @@ QString resourceFolder() {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/kelvo-mirror");
 }
 
+QString sshFragment() {
+    return resourceFolder() + QStringLiteral("/ssh.conf");
+}
+
+QString sshFragmentOfTheMachine() {
+    return QStringLiteral("/etc/ssh/ssh_config.d/kelvo-mirror.conf");
+}
+
 QString logSubdirectory(const Profile& profile) {
     return profile.within(QStringLiteral("Kelvo"));
 }

@@ -19,6 +19,11 @@ QString autostartFolder();
 /// Beside bin/ in the build tree and installed alike.
 QString resourceFolder();
 
+/// What tells ssh of the connection that passes share: the program's own file, and the one by which
+/// the machine's configuration does so for all its users.
+QString sshFragment();
+QString sshFragmentOfTheMachine();
+
 /// Where the running copy has its place: its lock and its socket, beside the log file.
 QString copyFolder(const Profile& profile);
 

@@ -138,8 +138,8 @@ private:
             .notificationCenter = fParts.notificationCenter,
             .bundle = fParts.bundle,
             .quitAndRelaunch = Watchdog::quitAndRelaunch,
-            .workspace = fParts.workspace,
-            .dnssdBrowser = fParts.dnssdBrowser,
+            .workspace = *fParts.workspace,
+            .dnssdBrowser = *fParts.dnssdBrowser,
             .makeKelvoSSID = [this] { return fParts.makeNetworkChecker(); },
             .statusMenu = fStatusMenu,
             .shareCommands = fParts.shareCommands,
@@ -232,7 +232,7 @@ private:
     const RestartBy fRestartBy;
     MachineParts fParts;
     std::optional<ServiceReport> fReport;
-    PassNotices fNotices{fParts.passes, fParts.defaults, fParts.notices,
+    PassNotices fNotices{fParts.passes, fParts.defaults, *fParts.notices,
                          [this](std::optional<qint64> pass) { showActivity(pass); }};
     StatusMenuPresence fStatusMenu;
     DuplicateCheck fDuplicates;

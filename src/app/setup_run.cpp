@@ -2,14 +2,16 @@
 #include "adapters/console/headless_desktop.h"
 #include "adapters/console/terminal_dialogue.h"
 #include "adapters/console/this_terminal.h"
-#include "adapters/network/avahi_browser.h"
 #include "adapters/network/link_watch.h"
+#include "adapters/process/user_ssh_configuration.h"
+#include "app/bus_parts.h"
 #include "app/commands/once.h"
 #include "app/commands/setup.h"
 #include "app/commands/setup_deeds.h"
 #include "app/commands/setup_questions.h"
 #include "app/pass_machine.h"
 #include "app/places.h"
+#include "ports/dnssd_browser.h"
 #include "settings/factory_defaults.h"
 #include "settings/overlay_defaults.h"
 #include "settings/preference_keys.h"
@@ -74,6 +76,7 @@ private:
                                                  .settings = fSettings,
                                                  .files = fMachine.files,
                                                  .macs = fMacs,
+                                                 .ssh = fSsh,
                                                  .service = facts,
                                                  .unit = fMachine.profile.unit()},
                            fRequest);
@@ -140,13 +143,16 @@ private:
     TerminalDialogue fDialogue{STDIN_FILENO, STDOUT_FILENO};
     ThisTerminal fTerminal;
     HeadlessWorkspace fWorkspace;
-    AvahiBrowser fBrowser{fMachine.console, fMachine.mainQueue};
+    std::unique_ptr<DnssdBrowser> fBrowser =
+        lateBusParts().makeBrowser(fMachine.console, fMachine.mainQueue);
     SetupMacs fMacs{{.dialogue = fDialogue,
                      .settings = fSettings,
                      .mainQueue = fMachine.mainQueue,
+                     .bgQueue = fMachine.bgQueue,
                      .console = fMachine.console,
-                     .browser = fBrowser,
+                     .browser = *fBrowser,
                      .hasNetwork = hasUsableLink}};
+    UserSshConfiguration fSsh{sshFragment(), sshFragmentOfTheMachine()};
     SetupService fService{{.mainQueue = fMachine.mainQueue,
                            .bgQueue = fMachine.bgQueue,
                            .commands = fMachine.commands,
@@ -165,6 +171,7 @@ private:
                        .settings = fSettings,
                        .key = fKey,
                        .service = fService,
+                       .ssh = fSsh,
                        .makeFolder = makeFolders,
                        .store = [this](bool startByItself) { return store(startByItself); }}};
     std::optional<SetupQuestions> fQuestions;

@@ -2,6 +2,8 @@
 
 #include "support/service_name_rules.h"
 
+#include <algorithm>
+
 namespace kelvo {
 namespace {
 
@@ -9,15 +11,36 @@ QString quoted(const QString& text) {
     return u'"' + plainText(text) + u'"';
 }
 
-QString valueText(const QVariant& value) {
-    switch (value.typeId()) {
-    case QMetaType::QString:
-        return quoted(value.toString());
-    case QMetaType::QDateTime:
-        return value.toDateTime().toUTC().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss +0000"));
-    default:
-        return value.toString();
-    }
+/// Behind a sign of their own; `number` has one digit or two, or is below zero and stands for none.
+void appendTwoDigits(QString& text, QChar sign, int number) {
+    const int shown = std::max(number, 0);
+    text += sign;
+    text += QChar(u'0' + shown / 10);
+    text += QChar(u'0' + shown % 10);
+}
+
+/// Qt's own ways, and the C library's, take most of what a whole record does.
+void appendDate(QString& text, const QDateTime& date) {
+    const QDateTime utc = date.toUTC();
+    const QDate day = utc.date();
+    const QTime time = utc.time();
+    text += QString::number(day.year()).rightJustified(4, u'0');
+    appendTwoDigits(text, u'-', day.month());
+    appendTwoDigits(text, u'-', day.day());
+    appendTwoDigits(text, u' ', time.hour());
+    appendTwoDigits(text, u':', time.minute());
+    appendTwoDigits(text, u':', time.second());
+    text += QStringView(u" +0000");
+}
+
+void appendRecord(QString& text, const DNSSD_Service& record) {
+    text += QStringView(u"DNSSD_Service(");
+    appendEscapedForLog(text, record.name);
+    text += QStringView(u", ");
+    appendEscapedForLog(text, record.hostTarget);
+    text += QStringView(u", ");
+    appendEscapedForLog(text, record.ip4Address);
+    text += u')';
 }
 
 QString optional(const QString& text) {
@@ -31,38 +54,61 @@ QString plainText(QStringView text) {
 }
 
 QString recordText(const DNSSD_Service& record) {
-    return u"DNSSD_Service(" + plainText(record.name) + u", " + plainText(record.hostTarget) +
-           u", " + plainText(record.ip4Address) + u')';
+    QString text;
+    appendRecord(text, record);
+    return text;
 }
 
 QString listText(const DNSSD_Services& records) {
-    QStringList texts;
-    texts.reserve(records.size());
-    for (const DNSSD_Service& record : records)
-        texts.append(recordText(record));
-    return u'[' + texts.join(QStringLiteral(", ")) + u']';
+    QString text(u'[');
+    for (const DNSSD_Service& record : records) {
+        if (text.size() > 1)
+            text += QStringView(u", ");
+        appendRecord(text, record);
+    }
+    return text + u']';
 }
 
 QString listText(const std::optional<DNSSD_Services>& records) {
     return records ? optional(listText(*records)) : QStringLiteral("nil");
 }
 
-QString dictionaryText(const QVariantMap& dictionary) {
-    QStringList entries;
-    for (auto it = dictionary.cbegin(); it != dictionary.cend(); ++it)
-        entries.append(quoted(it.key()) + u": " + valueText(it.value()));
-    return entries.isEmpty() ? QStringLiteral("[:]")
-                             : QString(u'[' + entries.join(QStringLiteral(", ")) + u']');
+QString dictionaryText(const DNSSD_Service& record) {
+    constexpr qsizetype cUsual = 512;
+    QString text;
+    text.reserve(cUsual);
+    const auto put = [&text](QStringView before, const QString& value) {
+        text += before;
+        appendEscapedForLog(text, value);
+    };
+    text += QStringView(record.available ? u"[\"available\": true" : u"[\"available\": false");
+    text += QStringView(u", \"dateAdded\": ");
+    appendDate(text, record.dateAdded);
+    put(u", \"domain\": \"", record.domain);
+    put(u"\", \"fullName\": \"", record.fullName);
+    text += QStringView(u"\", \"hostPort\": ");
+    text += QString::number(record.hostPort);
+    put(u", \"hostTarget\": \"", record.hostTarget);
+    text += QStringView(u"\", \"interface\": ");
+    text += QString::number(record.interface);
+    put(u", \"ip4Address\": \"", record.ip4Address);
+    put(u"\", \"macAddress\": \"", record.macAddress);
+    put(u"\", \"name\": \"", record.name);
+    put(u"\", \"scheme\": \"", record.scheme);
+    put(u"\", \"type\": \"", record.type);
+    text += QStringView(u"\"]");
+    return text;
 }
 
-QString tableText(const std::optional<QMap<QString, QVariantMap>>& table) {
-    if (!table)
-        return QStringLiteral("nil");
-    QStringList entries;
-    for (auto it = table->cbegin(); it != table->cend(); ++it)
-        entries.append(quoted(it.key()) + u": " + dictionaryText(it.value()));
-    return optional(entries.isEmpty() ? QStringLiteral("[:]")
-                                      : QString(u'[' + entries.join(QStringLiteral(", ")) + u']'));
+QStringList tableText(const QMap<QString, QString>& dictionaries) {
+    if (dictionaries.isEmpty())
+        return {QStringLiteral("Optional([:])")};
+    QStringList pieces;
+    for (auto it = dictionaries.cbegin(); it != dictionaries.cend(); ++it) {
+        const QStringView before = pieces.isEmpty() ? u"Optional([" : u", ";
+        pieces << before % quoted(it.key()) % QStringView(u": ") << it.value();
+    }
+    return pieces << QStringLiteral("])");
 }
 
 QString countText(const std::optional<DNSSD_Services>& records) {

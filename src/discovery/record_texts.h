@@ -4,6 +4,7 @@
 #include "support/dnssd_service.h"
 
 #include <QMap>
+#include <QStringList>
 
 #include <optional>
 
@@ -24,11 +25,12 @@ QString listText(const DNSSD_Services& records);
 /// The same within "Optional(…)", or "nil".
 QString listText(const std::optional<DNSSD_Services>& records);
 
-/// "[\"available\": true, \"domain\": \"local\", …]", by key; "[:]" for none.
-QString dictionaryText(const QVariantMap& dictionary);
+/// The record's dictionary in one line, "[\"available\": true, \"dateAdded\": …]", by key. Made
+/// without the dictionary: a large network has a thousand of them printed at a time.
+QString dictionaryText(const DNSSD_Service& record);
 
-/// "Optional([\"10.0.0.2\": […]])".
-QString tableText(const std::optional<QMap<QString, QVariantMap>>& table);
+/// "Optional([\"10.0.0.2\": […]])" of such lines by address, in pieces that share their memory.
+QStringList tableText(const QMap<QString, QString>& dictionaries);
 
 /// "Optional(3)" or "nil".
 QString countText(const std::optional<DNSSD_Services>& records);

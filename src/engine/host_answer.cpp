@@ -11,7 +11,6 @@ NamedCause causeOfAsking(const CommandResult& result) {
     return causeOf(CommandRecord{.role = CommandRole::HostCheck,
                                  .command = {},
                                  .exitStatus = result.exitStatus,
-                                 .seconds = 0,
                                  .text = capturedText(result.output, result.errors),
                                  .transfer = {}});
 }

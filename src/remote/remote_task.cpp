@@ -61,13 +61,11 @@ CommandResult RemoteTask::run(const Command& command) {
 
 /// A wish that came while the command was being started counts too.
 void RemoteTask::commandStarted(CommandId id, const Command& command) {
-    bool cancelled = false;
     {
         const std::lock_guard lock(fMutex);
         fCommand = id;
-        cancelled = fCancelled;
     }
-    if (cancelled)
+    if (isCancelled())
         fOwner.fParts.shell.cancel(id);
     if (command.started)
         command.started(id);
@@ -92,7 +90,7 @@ bool RemoteTask::isCancelled() const {
 RemoteTaskRef RemoteTasks::begin(RemoteTaskKind kind) {
     if (!fTask.expired())
         return {};
-    const RemoteTaskRef task(new RemoteTask(*this, fAlive));
+    RemoteTaskRef task(new RemoteTask(*this, fAlive));
     fTask = task;
     fParts.show(kind);
     return task;

@@ -111,8 +111,8 @@ bool hasEnded(int handle, bool wait) {
     int ready = 0;
     do {
         ready = ::poll(&watched, 1, wait ? -1 : 0);
-    } while (ready < 0 && errno == EINTR);
-    return ready > 0;
+    } while (wait && ready != 1);
+    return ready == 1;
 }
 
 } // namespace kelvo::sentinel

@@ -49,12 +49,19 @@ bool isAcceptableHostName(QStringView name) {
 }
 
 QString escapedForLog(QStringView text) {
+    QString escaped;
+    appendEscapedForLog(escaped, text);
+    return escaped;
+}
+
+void appendEscapedForLog(QString& line, QStringView text) {
     // Nearly every text is of this kind; the log has one for each of thousands of records.
     if (std::ranges::all_of(text, isPlainAscii))
-        return text.toString();
-    return withVisibleControls(text.toString().replace(u'\\', QStringLiteral("\\\\")))
-        .replace(u'\n', QStringLiteral("\\x0a"))
-        .replace(u'\t', QStringLiteral("\\x09"));
+        line += text;
+    else
+        line += withVisibleControls(text.toString().replace(u'\\', QStringLiteral("\\\\")))
+                    .replace(u'\n', QStringLiteral("\\x0a"))
+                    .replace(u'\t', QStringLiteral("\\x09"));
 }
 
 bool isDottedIPv4(QStringView text) {

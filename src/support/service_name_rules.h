@@ -19,6 +19,9 @@ bool isAcceptableHostName(QStringView name);
 /// everything else is spelled out ("\x0a", "\u202e").
 QString escapedForLog(QStringView text);
 
+/// The same, put behind `line`: nothing is made on the way for a text that is plain.
+void appendEscapedForLog(QString& line, QStringView text);
+
 /// Whether `text` is an IPv4 address in four decimal parts without leading zeros.
 bool isDottedIPv4(QStringView text);
 

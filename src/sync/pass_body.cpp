@@ -163,9 +163,10 @@ bool PassBody::pull(RunningPass& pass, PassStep step, const QString& command,
     const std::size_t named = pass.names().size();
     const QString output = pass.run(step, {.text = command}).output;
     printResult(heading, output);
+    if (pass.names().size() > named)
+        return true;
     const Transfer transfer = transferOf(command, output);
-    return pass.names().size() > named ||
-           (transfer.source == TransferSource::Statistics && transfer.files == 0);
+    return transfer.source == TransferSource::Statistics && transfer.files == 0;
 }
 
 void PassBody::afterPulls(RunningPass& pass, const QString& destination, bool allSaid) const {

@@ -21,6 +21,7 @@ constexpr double cScanningSignDelay = 0.1;
 constexpr double cScanTime = 1.0;
 constexpr double cFilterDelay = 0.5;
 constexpr QStringView cEmptyLines = u"\n";
+constexpr QStringView cTypeName = u"BonjourViewController";
 
 /// The record at `row`; a row that is not there is a fault of the table's.
 const DNSSD_Service& entryAt(const DNSSD_Services& records, qsizetype row) {
@@ -73,17 +74,20 @@ void BonjourViewController::ibShowBonjourListInfo() {
     for (int time = 0; time < 2; ++time)
         printInside(operation, QString(u".......self.fArrayController.selectedObjects = " +
                                        selectedObjectsText()));
-    for (const DNSSD_Service& record : fFoundServicesArray.value_or(DNSSD_Services())) {
-        const auto dictionary = record.asDictionary();
-        if (!dictionary)
-            continue;
-        print(u"d = " + dictionaryText(*dictionary));
+    const DNSSD_Services found = fFoundServicesArray.value_or(DNSSD_Services());
+    const bool areMade = fLines.areOf(found);
+    for (qsizetype row = 0; row < found.size(); ++row) {
+        const DNSSD_Service& record = found[row];
+        const QString dictionary = areMade ? fLines.texts[row] : dictionaryText(record);
+        fParts.console.print({QStringLiteral("d = "), dictionary});
         fMSet.insert(record);
-        fFilteredTable.insert(record.ip4Address, *dictionary);
+        fFilteredTable.insert(record.ip4Address, dictionary);
     }
     for (int time = 0; time < 2; ++time)
         print(cEmptyLines.toString());
-    printInside(operation, QString(u".......self.fFilteredTable = " + tableText(fFilteredTable)));
+    fParts.console.print(
+        QStringList(insideLine(cTypeName, operation, u".......self.fFilteredTable = ")) +
+        tableText(fFilteredTable));
     for (int time = 0; time < 2; ++time)
         print(cEmptyLines.toString());
     fParts.mainQueue.asyncAfter(cFilterDelay, [self = shared_from_this()] {
@@ -103,14 +107,30 @@ void BonjourViewController::ibUpdateFilteredList() {
                                    listText(std::optional(fFilteredFoundServicesArray))));
     fFoundServicesArray = fFilteredFoundServicesArray;
     arrayController().setContent(fFilteredFoundServicesArray);
+    makeLines();
+}
+
+/// A thousand of them would hold up the main queue when the next scan tells of these rows.
+void BonjourViewController::makeLines() {
+    if (fLines.areOf(fFilteredFoundServicesArray))
+        return;
+    const auto lines = std::make_shared<Lines>(Lines{fFilteredFoundServicesArray, {}});
+    background(
+        fParts.bgQueue, fParts.mainQueue, 0,
+        [lines] {
+            for (const DNSSD_Service& record : std::as_const(lines->records))
+                lines->texts.append(dictionaryText(record));
+        },
+        [weak = weak_from_this(), lines] {
+            if (const auto self = weak.lock())
+                self->fLines = std::move(*lines);
+        });
 }
 
 void BonjourViewController::updateFilteredArray() {
     constexpr QStringView operation = u"updateFilteredArray()";
     printInside(operation);
-    if (!fMasterServicesArray)
-        return;
-    for (const DNSSD_Service& record : std::as_const(*fMasterServicesArray)) {
+    for (const DNSSD_Service& record : fMasterServicesArray.value_or(DNSSD_Services())) {
         switch (admit(record, fUniqueIP4Address)) {
         case Admission::Admitted:
             fFilteredFoundServicesArray.prepend(record);
@@ -260,7 +280,7 @@ void BonjourViewController::print(const QString& line) const {
 }
 
 void BonjourViewController::printInside(QStringView operation, QStringView detail) const {
-    print(insideLine(u"BonjourViewController", operation, detail));
+    print(insideLine(cTypeName, operation, detail));
 }
 
 } // namespace kelvo

@@ -5,6 +5,7 @@
 
 #include <QMap>
 #include <QSet>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -13,17 +14,19 @@
 namespace kelvo {
 
 class ArrayController;
+class BackgroundQueue;
 class Console;
 class DispatchQueue;
 class DnssdBrowser;
 class UserDefaults;
 
-/// What the controller works with. The references outlive everything that waits on the main queue;
+/// What the controller works with. The references outlive everything that waits on the two queues;
 /// the rest, what lies in the sheet, outlives the sheet: then no row is selected and nothing is
 /// done. A missing array controller or table stops the program once it is needed.
 struct BonjourViewControllerParts {
     UserDefaults& defaults;
     DispatchQueue& mainQueue;
+    BackgroundQueue& bgQueue;
     Console& console;
     DnssdBrowser& browser;
     std::shared_ptr<ArrayController> fArrayController;
@@ -73,8 +76,20 @@ public:
                                      std::optional<qsizetype> selectedRow);
 
 private:
+    /// Records, and each one's dictionary as a line.
+    struct Lines {
+        DNSSD_Services records;
+        QStringList texts;
+
+        /// Whether they are of `others`, told by the memory that both share.
+        bool areOf(const DNSSD_Services& others) const {
+            return records.constData() == others.constData();
+        }
+    };
+
     explicit BonjourViewController(BonjourViewControllerParts parts);
 
+    void makeLines();
     ArrayController& arrayController() const;
     void requireTable() const;
     qsizetype selectedRow() const;
@@ -91,8 +106,9 @@ private:
     std::optional<DNSSD_Services> fMasterServicesArray;
     QSet<DNSSD_Service> fMSet; ///< every record that the last information pass saw
     QSet<QString> fUniqueIP4Address;
-    QMap<QString, QVariantMap> fFilteredTable; ///< the last dictionary seen, by address
+    QMap<QString, QString> fFilteredTable; ///< the last dictionary seen, as a line, by address
     DNSSD_Services fFilteredFoundServicesArray;
+    Lines fLines; ///< of the rows of an earlier scan
 };
 
 } // namespace kelvo

@@ -86,14 +86,24 @@ class A11yTest(a11y_case.A11yCase):
         for menu in menus:
             key = self.desk.Atspi.Action.get_key_binding(menu.node, 0)
             self.assertRegex(key, r"^Alt\+.$", menu.name)
-            self.desk.keys(key.lower())
-            entries = self.desk.wait(lambda: self.entries_of(menu.name), f"the menu {menu.name}")
+            entries = self.open_menu(menu.name, key.lower())
             for entry in entries:
                 self.assertTrue(entry.name, f"{menu.name}: {entries}")
             self.desk.keys("Escape")
             self.desk.wait(lambda: not self.entries_of(menu.name), f"{menu.name} closes")
             self.desk.keys("Escape")
             self.wait_focus(before)
+
+    def open_menu(self, menu, key):
+        """Its entries. Qt asks the screen reader about each key, and when the answer is late hands
+        the key on a second time, which closes the menu that it opened: then it is pressed again."""
+        for _ in range(12):
+            self.desk.keys(key)
+            try:
+                return self.desk.wait(lambda: self.entries_of(menu), "the menu", 5)
+            except AssertionError:
+                continue
+        self.fail(f"{key} does not open the menu {menu}")
 
     def entries_of(self, menu):
         """The entries of the menu that is open; none while it is not."""
@@ -150,8 +160,7 @@ class A11yTest(a11y_case.A11yCase):
     def test_AboutBox_IsReadAndGivesTheFocusBack(self):
         self.desk.start(self.plain())
         before = self.focused().name
-        self.desk.keys("alt+h")
-        self.desk.wait(lambda: self.entries_of("Help"), "the menu")
+        self.open_menu("Help", "alt+h")
         self.desk.keys("a")
         box = self.wait_sheet("About Kelvo Mirror")
         texts = [seen.name for seen in self.desk.tree(box.node)]

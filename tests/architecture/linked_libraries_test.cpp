@@ -1,4 +1,5 @@
-// What the built program is linked with: nothing of a display, unless the window is loaded.
+// What the built program is linked with: nothing of a display, unless the window is loaded, and
+// nothing of the message bus, unless that is used.
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -22,14 +23,24 @@ std::string outputOf(const std::string& command) {
     return output;
 }
 
-/// The lines of `output` that name a library which only windows and the toolkit's network need.
-std::string ofTheDisplay(const std::string& output) {
-    static const std::regex line(
-        R"([^\n]*lib(Qt6(Gui|Widgets|Svg|Network|OpenGL)|xcb|X|xkb|wayland|GL|EGL|fontconfig|freetype)[^\n]*\n)");
+std::string linesWith(const std::regex& line, const std::string& output) {
     std::string found;
     for (std::sregex_iterator each(output.begin(), output.end(), line), end; each != end; ++each)
         found += each->str();
     return found;
+}
+
+/// The lines of `output` that name a library which only windows and the toolkit's network need.
+std::string ofTheDisplay(const std::string& output) {
+    static const std::regex line(
+        R"([^\n]*lib(Qt6(Gui|Widgets|Svg|Network|OpenGL)|xcb|X|xkb|wayland|GL|EGL|fontconfig|freetype)[^\n]*\n)");
+    return linesWith(line, output);
+}
+
+/// Those that name a library of the message bus, or of Avahi, who is spoken with over it.
+std::string ofTheBus(const std::string& output) {
+    static const std::regex line(R"([^\n]*lib(Qt6DBus|dbus|systemd|avahi)[^\n]*\n)");
+    return linesWith(line, output);
 }
 
 TEST(LinkedLibrariesTest, Program_NamesNoneOfTheDisplay) {
@@ -42,12 +53,25 @@ TEST(LinkedLibrariesTest, ProgramsLibraries_BringNoneOfTheDisplayAlong) {
     const std::string brought = outputOf("LC_ALL=C ldd '" KELVO_PROGRAM "'");
     ASSERT_NE(brought.find("libQt6Core"), std::string::npos) << brought;
     EXPECT_EQ(ofTheDisplay(brought), "");
+    EXPECT_EQ(ofTheBus(brought), "");
+}
+
+TEST(LinkedLibrariesTest, Bus_NamesThose) {
+    const std::string named = outputOf("LC_ALL=C readelf -dW '" KELVO_BUS "' | grep NEEDED");
+    for (const char* library : {"libQt6DBus", "libavahi-client"})
+        EXPECT_NE(ofTheBus(named).find(library), std::string::npos) << library;
+    EXPECT_EQ(ofTheDisplay(named), "");
 }
 
 TEST(LinkedLibrariesTest, Window_NamesThem) {
     const std::string named = outputOf("LC_ALL=C readelf -dW '" KELVO_WINDOW "' | grep NEEDED");
     for (const char* library : {"libQt6Gui", "libQt6Widgets", "libxcb"})
         EXPECT_NE(ofTheDisplay(named).find(library), std::string::npos) << library;
+}
+
+TEST(LinkedLibrariesTest, Bus_GivesOneFunctionAndNothingElse) {
+    EXPECT_EQ(outputOf("LC_ALL=C nm -D --defined-only '" KELVO_BUS "' | cut -d' ' -f3"),
+              "kelvoMirrorGiveBusParts\n");
 }
 
 TEST(LinkedLibrariesTest, Window_GivesOneFunctionAndNothingElse) {

@@ -2,6 +2,7 @@
 // for each state and each result of a search for SMB services instead.
 #include "adapters/network/avahi_browser.h"
 #include "adapters/network/kelvo_ssid.h"
+#include "adapters/network/network_manager.h"
 #include "adapters/process/qt_main_queue.h"
 #include "fakes/recording_console.h"
 #include "support/notification_center.h"
@@ -44,7 +45,9 @@ int watch() {
             printLine(
                 notification.userInfo.value(kelvo::cReachabilityMessage.toString()).toString());
         });
-    kelvo::KelvoSSID checker(center, mainQueue);
+    kelvo::KelvoSSID checker(center, mainQueue, [](std::function<void()> changed) {
+        return std::make_unique<kelvo::NetworkManager>(std::move(changed));
+    });
     checker.checknetwork2();
     return QCoreApplication::exec();
 }

@@ -4,11 +4,15 @@
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 
+#include <QCoreApplication>
+
 #include <cstdio>
 
 using namespace kelvo;
 
 int main(int argc, char** argv) {
+    // Qt 6.8 opens no database without one.
+    const QCoreApplication application(argc, argv);
     if (argc != 3)
         return 2;
     VirtualMainQueue mainQueue;

@@ -24,6 +24,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// Stays without becoming another program: in the middle of that nobody sees its variables.
+const std::string cStays = "kill -STOP $$";
+
 /// A shell with a session and variables of its own.
 class Shell {
 public:
@@ -45,6 +48,14 @@ public:
     Shell& operator=(const Shell&) = delete;
 
     pid_t pid() const { return fPid; }
+
+    /// A little after a start nobody sees the variables yet.
+    bool comesToShow(const std::string& variable) const {
+        return waitUntil([&] {
+            return std::ranges::count(livingProcesses({{}, variable}), fPid) == 1;
+        });
+    }
+
     CommandProcesses session() const { return {{&fPid, 1}, {}}; }
 
     /// Waits for its end without reaping it; returns the signal that ended it, or 0.
@@ -59,22 +70,26 @@ private:
 };
 
 TEST(CommandProcessesTest, LookFromANumberOn_SeesWhatCameLater) {
-    const Shell first("exec sleep 600", "KELVO_TEST_MARK=78");
-    const Shell second("exec sleep 600", "KELVO_TEST_MARK=78");
+    const Shell first(cStays, "KELVO_TEST_MARK=78");
+    const Shell second(cStays, "KELVO_TEST_MARK=78");
     if (second.pid() < first.pid())
         GTEST_SKIP() << "the numbers of processes have come round just now";
-    EXPECT_EQ(livingProcesses({{}, "KELVO_TEST_MARK=78"}).size(), 2U);
+    EXPECT_TRUE(first.comesToShow("KELVO_TEST_MARK=78"));
+    EXPECT_TRUE(second.comesToShow("KELVO_TEST_MARK=78"));
     EXPECT_EQ(livingProcesses({{}, "KELVO_TEST_MARK=78"}, second.pid()), std::vector{second.pid()});
     EXPECT_TRUE(numbersStillRise(second.pid()));
     EXPECT_FALSE(numbersStillRise(1 << 30)) << "they have come round";
 }
 
 TEST(CommandProcessesTest, MarkOrSession_MakesAProcessOneOfThem) {
-    const Shell ours("exec sleep 600", "KELVO_TEST_MARK=77");
-    const Shell longer("exec sleep 600", "KELVO_TEST_MARK=777");
-    const Shell other("exec sleep 600", "AKELVO_TEST_MARK=77");
-    const Shell unmarked("exec sleep 600");
+    const Shell ours(cStays, "KELVO_TEST_MARK=77");
+    const Shell longer(cStays, "KELVO_TEST_MARK=777");
+    const Shell other(cStays, "AKELVO_TEST_MARK=77");
+    const Shell unmarked(cStays);
     const pid_t sessions = unmarked.pid();
+    ASSERT_TRUE(ours.comesToShow("KELVO_TEST_MARK=77"));
+    ASSERT_TRUE(longer.comesToShow("KELVO_TEST_MARK=777"));
+    ASSERT_TRUE(other.comesToShow("AKELVO_TEST_MARK=77"));
     EXPECT_EQ(livingProcesses({{}, "KELVO_TEST_MARK=77"}), std::vector{ours.pid()});
     EXPECT_EQ(livingProcesses(unmarked.session()), std::vector{unmarked.pid()});
     EXPECT_EQ(livingProcesses({{&sessions, 1}, "KELVO_TEST_MARK=777"}).size(), 2U);

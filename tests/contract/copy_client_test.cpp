@@ -1,5 +1,6 @@
 // The asking program's end of the running copy's socket, with a real copy at the other.
 #include "adapters/process/copy_client.h"
+#include "adapters/process/local_socket.h"
 #include "adapters/process/single_copy_socket.h"
 #include "fakes/recording_console.h"
 #include "support/wait_in_loop.h"
@@ -8,6 +9,12 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <time.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <thread>
@@ -60,7 +67,41 @@ TEST_F(CopyClientTest, Question_IsAnswered) {
         EXPECT_EQ(client.hear(line, 20s), CopyClient::Heard::Line);
         EXPECT_EQ(line, "well");
         EXPECT_EQ(client.hear(line, 10ms), CopyClient::Heard::Silent);
+        EXPECT_EQ(client.hear(line, 0ms), CopyClient::Heard::Silent);
     });
+}
+
+TEST_F(CopyClientTest, LinesThatComeTogether_AreHeardOneByOne) {
+    answer("\none\n\ntwo\n");
+    aside([&] {
+        CopyClient client(place());
+        ASSERT_EQ(client.connect(5s), CopyClient::Contact::Made);
+        ASSERT_TRUE(client.send("{}\n"));
+        for (const char* expected : {"", "one", "", "two"}) {
+            QByteArray line = "not heard";
+            EXPECT_EQ(client.hear(line, 20s), CopyClient::Heard::Line);
+            EXPECT_EQ(line, expected);
+        }
+    });
+}
+
+TEST_F(CopyClientTest, LongestLine_IsHeardAndALongerOneIsNoise) {
+    for (const qsizetype size : {Guests::cLongestLine - 1, Guests::cLongestLine}) {
+        // A line before it, so that its own end does not come alone.
+        answer("first\n" + QByteArray(size, 'x') + '\n');
+        aside([&] {
+            CopyClient client(place());
+            ASSERT_EQ(client.connect(5s), CopyClient::Contact::Made);
+            ASSERT_TRUE(client.send("{}\n"));
+            QByteArray line;
+            EXPECT_EQ(client.hear(line, 20s), CopyClient::Heard::Line);
+            line.clear();
+            const auto heard = client.hear(line, 20s);
+            EXPECT_EQ(heard, size < Guests::cLongestLine ? CopyClient::Heard::Line
+                                                         : CopyClient::Heard::Noise);
+            EXPECT_EQ(line.size(), heard == CopyClient::Heard::Line ? size : 0);
+        });
+    }
 }
 
 TEST_F(CopyClientTest, CopyThatHangsUp_IsHeard) {
@@ -106,7 +147,27 @@ TEST(CopyContactTest, CopyWithoutASocket_IsSilent) {
     SingleCopySocket copy(longer, console, 100ms);
     ASSERT_EQ(copy.claim({}, cNoShow), Claim::First);
     CopyClient client(longer);
-    EXPECT_EQ(client.connect(200ms), CopyClient::Contact::Silent);
+    timespec before{};
+    timespec after{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &before);
+    EXPECT_EQ(client.connect(1s), CopyClient::Contact::Silent);
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &after);
+    const auto worked = static_cast<double>(after.tv_sec - before.tv_sec) +
+                        static_cast<double>(after.tv_nsec - before.tv_nsec) / 1e9;
+    EXPECT_LT(worked, 0.2) << "seconds; it waits in its sleep";
+}
+
+TEST(CopyPlaceTest, WhatIsNoLockOfOurs_IsNoCopy) {
+    const QTemporaryDir folder;
+    const std::string here = folder.path().toStdString();
+    const std::string other = here + "/other";
+    const UniqueFd held(::open(other.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+    ASSERT_EQ(::flock(held.get(), LOCK_EX), 0);
+    ASSERT_EQ(::symlink("other", copyLockPath(here).c_str()), 0);
+    EXPECT_FALSE(CopyClient::placeIsTaken(here)) << "a link leads elsewhere";
+    ASSERT_EQ(::unlink(copyLockPath(here).c_str()), 0);
+    ASSERT_EQ(::mkfifo(copyLockPath(here).c_str(), 0600), 0);
+    EXPECT_FALSE(CopyClient::placeIsTaken(here)) << "a pipe is not waited for";
 }
 
 TEST(CopyPlaceTest, WhetherItIsTaken_IsSeenFromOutsideAndChangesNothing) {

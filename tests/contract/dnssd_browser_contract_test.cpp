@@ -9,6 +9,8 @@
 #include "support/session_bus.h"
 #include "support/wait_in_loop.h"
 
+#include <QDir>
+
 #include <ctime>
 
 namespace kelvo {
@@ -121,6 +123,20 @@ TEST_F(AvahiBrowserTest, ManyServices_AreAskedAboutTwoHundredAtATime) {
     network.announce(QStringLiteral("more"), 445);
     EXPECT_TRUE(becomes([&] { return network.service.resolved().size() == 201; }));
     EXPECT_EQ(network.service.resolved().constLast(), u"200 0");
+    // A new search asks anew: what the earlier one has asked takes up no room.
+    browse();
+    EXPECT_TRUE(becomes([&] { return network.service.resolved().size() == 401; }));
+}
+
+TEST_F(AvahiBrowserTest, ServiceGoneAmidAQuestion_IsAskedAnewOnceItIsBack) {
+    network.service.keepsSilent = true;
+    network.announce(fName, 445);
+    browse();
+    ASSERT_TRUE(becomes([&] { return network.service.resolved().size() == 1; }));
+    network.setRunning(false);
+    ASSERT_TRUE(becomes([&] { return !isAvailable(fName); }));
+    network.setRunning(true);
+    EXPECT_TRUE(becomes([&] { return network.service.resolved().size() == 2; }));
 }
 
 TEST_F(AvahiBrowserTest, SearchThatFails_IsSaidAndStartedAgain) {
@@ -131,7 +147,58 @@ TEST_F(AvahiBrowserTest, SearchThatFails_IsSaidAndStartedAgain) {
                          {QStringLiteral("org.freedesktop.Avahi.TimeoutError")});
     EXPECT_TRUE(becomes([&] { return network.service.asked().size() == 2; }));
     EXPECT_TRUE(becomes([&] { return isResolved(fName); }));
-    EXPECT_EQ(logged(), QStringList{QString(fPrefix + u"the search failed and is started again")});
+    const QString failed = fPrefix + u"the search failed and is started again";
+    EXPECT_EQ(logged(), QStringList{failed});
+    network.service.tell(2, QStringLiteral("Failure"),
+                         {QStringLiteral("org.freedesktop.Avahi.TimeoutError")});
+    EXPECT_TRUE(becomes([&] { return network.service.asked().size() == 3; }));
+    EXPECT_EQ(logged(), (QStringList{failed, failed})) << "it worked in between";
+}
+
+TEST_F(AvahiBrowserTest, SearchThatCannotBeBegun_IsBegunAgain) {
+    network.service.refusals = 2;
+    network.announce(fName, 445);
+    browse();
+    EXPECT_TRUE(becomes([&] { return isResolved(fName); }));
+    EXPECT_EQ(network.service.asked().size(), 1);
+}
+
+TEST_F(AvahiBrowserTest, ServiceThatVanishedUnseen_IsDroppedByTheNextSearch) {
+    browse();
+    ASSERT_TRUE(becomes([&] { return network.service.asked().size() == 1; }));
+    // Only this search ever hears of it.
+    network.service.tell(1, QStringLiteral("ItemNew"),
+                         {1, 0, fName, QStringLiteral("_smb._tcp"), QStringLiteral("local"),
+                          QVariant::fromValue(0U)});
+    ASSERT_TRUE(becomes([&] { return isAvailable(fName); }));
+    browse();
+    EXPECT_TRUE(becomes([&] { return !isAvailable(fName); }));
+    EXPECT_TRUE(find(fName)) << "it goes with the search after that";
+}
+
+TEST_F(AvahiBrowserTest, RefusedHost_LeavesTheServiceUnresolvedAndIsSaid) {
+    network.service.host = QStringLiteral("$(id)");
+    network.announce(fName, 445);
+    browse();
+    ASSERT_TRUE(becomes([&] { return !logged().isEmpty(); }));
+    EXPECT_EQ(logged(), QStringList{QStringLiteral("Inside AvahiBrowser->services.......refused "
+                                                   "the service name [Remote Mac at $(id)]")});
+    EXPECT_TRUE(isAvailable(fName));
+    EXPECT_FALSE(isResolved(fName));
+}
+
+TEST_F(AvahiBrowserTest, BrowserThatIsGone_LeavesNoDescriptorBehind) {
+    const auto open = [] { return QDir(QStringLiteral("/proc/self/fd")).entryList().size(); };
+    browse();
+    ASSERT_TRUE(becomes([&] { return network.service.asked().size() == 1; }));
+    const auto before = open();
+    for (qsizetype turn = 2; turn < 5; ++turn) {
+        QtMainQueue mainQueue;
+        AvahiBrowser browser(network.console, mainQueue);
+        browser.browseForType(QStringLiteral("_smb"));
+        EXPECT_TRUE(becomes([&] { return network.service.asked().size() == turn; }));
+    }
+    EXPECT_EQ(open(), before);
 }
 
 TEST_F(AvahiBrowserTest, NoDiscoveryService_IsSaidOnceEachTime) {

@@ -257,6 +257,22 @@ TEST_F(AvahiEndpointSearchTest, OtherSearchOfTheBrowser_GoesOverTheSameConversat
     EXPECT_EQ(heard.states, QStringList{QStringLiteral("ready")});
 }
 
+TEST_F(AvahiEndpointSearchTest, OtherSearchUnderWay_IsNotDisturbed) {
+    ASSERT_TRUE(network.service.appear());
+    network.browser().browseForType(QStringLiteral("_smb"));
+    ASSERT_TRUE(network.becomes([&] { return network.service.asked().size() == 1; }));
+    search(heard);
+    ASSERT_TRUE(statesBecome({QStringLiteral("ready")}));
+    EXPECT_EQ(network.service.asked().size(), 2) << "the list's own is not begun again";
+}
+
+TEST_F(AvahiEndpointSearchTest, SearchThatCannotBeBegun_SaysWhy) {
+    network.service.refusals = 1;
+    ASSERT_TRUE(network.service.appear());
+    search(heard);
+    EXPECT_TRUE(statesBecome({QStringLiteral("failed: Too many objects")}));
+}
+
 TEST_F(AvahiEndpointSearchTest, Changes_AreToldOnceEachInOrder) {
     searchUntilReady();
     network.tell(QStringLiteral("ItemNew"), 1, 0, QStringLiteral("Remote Mac"));

@@ -270,6 +270,16 @@ TEST_F(GuestSocketTest, SlowReader_IsDroppedAndToldWhileOthersHear) {
     EXPECT_FALSE(quick.ended());
 }
 
+TEST_F(GuestSocketTest, GuestThatLeavesWithWordsUnread_IsToldOf) {
+    receive();
+    auto caller = std::make_unique<Caller>(folder.path());
+    caller->send("{}\n");
+    ASSERT_TRUE(waitInLoop([&] { return said.size() == 1; }));
+    ASSERT_TRUE(copy.say(said[0].first, "never read\n"));
+    caller.reset(); // for the host that is an error, not an end
+    EXPECT_TRUE(waitInLoop([&] { return left == std::vector<Id>{said[0].first}; }));
+}
+
 TEST_F(GuestSocketTest, Crowd_LeavesThoseWhoHaveSpokenAndTheNextCopy) {
     receive();
     Caller follower(folder.path());

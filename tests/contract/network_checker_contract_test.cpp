@@ -1,8 +1,13 @@
 #include "adapters/network/kelvo_ssid.h"
+#include "adapters/network/link_watch.h"
+#include "adapters/network/network_manager.h"
 #include "adapters/process/qt_main_queue.h"
 #include "fakes/fake_network.h"
+#include "fakes/virtual_queues.h"
+#include "support/network_manager_service.h"
 #include "support/notification_center.h"
 #include "support/running_program.h"
+#include "support/session_bus.h"
 #include "support/wait_in_loop.h"
 
 #include <QCoreApplication>
@@ -12,6 +17,11 @@
 
 #include <gtest/gtest.h>
 
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
 #include <mutex>
 #include <vector>
 
@@ -53,6 +63,10 @@ private:
     Subscription fObservation;
 };
 
+std::unique_ptr<NetworkReachSource> makeManager(std::function<void()> changed) {
+    return std::make_unique<NetworkManager>(std::move(changed));
+}
+
 struct FakeChecker {
     std::unique_ptr<NetworkChecker> make(NotificationCenter& center) {
         return std::make_unique<FakeNetworkChecker>(center, cFull);
@@ -61,7 +75,7 @@ struct FakeChecker {
 struct RealChecker {
     QtMainQueue mainQueue;
     std::unique_ptr<NetworkChecker> make(NotificationCenter& center) {
-        return std::make_unique<KelvoSSID>(center, mainQueue);
+        return std::make_unique<KelvoSSID>(center, mainQueue, makeManager);
     }
 };
 
@@ -95,10 +109,44 @@ TEST(KelvoSSIDTest, DestroyedBeforeItsFirstLook_PostsNothing) {
     const PostedMessages posted(center);
     QtMainQueue mainQueue;
     {
-        KelvoSSID checker(center, mainQueue);
+        KelvoSSID checker(center, mainQueue, makeManager);
         checker.checknetwork2();
     }
     EXPECT_FALSE(waitInLoop([&] { return !posted.all().empty(); }, 1));
+}
+
+TEST(KelvoSSIDTest, FirstLook_IsDueAtOnceAndTheOnlyOne) {
+    NotificationCenter center;
+    const PostedMessages posted(center);
+    VirtualMainQueue mainQueue;
+    KelvoSSID checker(center, mainQueue, makeManager);
+    for (int call = 0; call < 2; ++call) {
+        checker.checknetwork2();
+        mainQueue.runDue();
+        EXPECT_EQ(posted.all().size(), 1U);
+        EXPECT_TRUE(mainQueue.idle());
+    }
+}
+
+TEST(LinkWatchTest, Change_IsTakenOnceAndNotMetAgain) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        if (::unshare(::geteuid() == 0 ? CLONE_NEWNET : CLONE_NEWUSER | CLONE_NEWNET) != 0)
+            ::_exit(2);
+        int changes = 0;
+        const LinkWatch watch([&changes] { ++changes; });
+        if (std::system("ip link set lo up") != 0)
+            ::_exit(2);
+        for (int turn = 0; turn < 100; ++turn)
+            QCoreApplication::processEvents();
+        ::_exit(changes > 0 && changes < 4 ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    if (WEXITSTATUS(status) == 2)
+        GTEST_SKIP() << "this system lets us make no network of our own";
+    EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
 /// How often the threads of a process have gone to sleep so far.
@@ -196,6 +244,50 @@ TEST_F(OwnNetworkTest, IPv6AddressesAndRoutes_CountToo) {
                                "6) ip address flush dev here scope global ;; "
                                "esac; done")));
     expectLines(program, {cNothing, cLocal, cFull, cLocal, cFull, cLocal, cNothing});
+}
+
+TEST_F(OwnNetworkTest, NetworkManager_IsBelievedBeforeTheRoutesWhereItIsAtHand) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root's name is the same on a bus outside";
+    const PrivateBus bus;
+    if (bus.address().isEmpty())
+        GTEST_SKIP() << "no bus daemon can be started here";
+    BusConnection system(bus.address(), QStringLiteral("checker-system"));
+    NetworkManagerService service(system.get());
+    service.setQuietState(70); // the whole world, though no route leads there
+    ASSERT_TRUE(service.appear());
+    RunningProgram program(
+        QStringLiteral("unshare"),
+        QStringList{QStringLiteral("--mount")} +
+            inOwnNetwork(QStringLiteral("mount -t tmpfs none /run; mkdir /run/NetworkManager; "
+                                        "ip link add here type veth peer name there; "
+                                        "ip link set there up; ip link set here up; "
+                                        "ip address add 10.9.8.7/24 dev here; "
+                                        "DBUS_SYSTEM_BUS_ADDRESS='%1' exec \"$1\"")
+                             .arg(bus.address())));
+    const auto says = [&](const QString& message) {
+        const auto isIt = [&](const QString& line) { return line == message; };
+        // The service answers in between.
+        return waitInLoop([&] { return program.waitForLine(isIt, 0.01).has_value(); });
+    };
+    EXPECT_TRUE(says(cFull)) << program.transcript().toStdString();
+    service.setState(50);
+    EXPECT_TRUE(says(cLocal)) << program.transcript().toStdString();
+}
+
+TEST_F(OwnNetworkTest, LinkWithoutIPv6_IsNoticedTooAsItGoesAndComes) {
+    RunningProgram program(
+        QStringLiteral("unshare"),
+        inOwnNetwork(QStringLiteral(
+            "for each in default all; do echo 1 >/proc/sys/net/ipv6/conf/$each/disable_ipv6; done; "
+            "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nowhere \"$1\" | while read -r line; do "
+            "echo \"$line\"; step=$((step + 1)); case $step in "
+            "1) ip link add here type veth peer name there; ip link set there up; "
+            "ip link set here up; ip address add 10.9.8.7/24 dev here ;; "
+            "2) ip link set there down ;; "
+            "3) ip link set there up ;; "
+            "esac; done")));
+    expectLines(program, {cNothing, cLocal, cNothing, cLocal});
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -121,6 +122,17 @@ std::chrono::nanoseconds timeWorked() {
     timespec spent{};
     ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &spent);
     return std::chrono::seconds(spent.tv_sec) + std::chrono::nanoseconds(spent.tv_nsec);
+}
+
+/// How often this thread has read, from /proc too; -1 where that is not counted.
+qint64 readsOfThisThread() {
+    QFile file(QStringLiteral("/proc/thread-self/io"));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return -1;
+    const QByteArray text = file.readAll();
+    const QByteArray label = "syscr: ";
+    const qsizetype at = text.indexOf(label);
+    return at < 0 ? -1 : text.mid(at + label.size()).split('\n').constFirst().toLongLong();
 }
 
 pid_t numberAfter(const QString& text, const QString& word) {
@@ -352,6 +364,24 @@ TEST_F(PosixShellRunnerTest, WhatWaitsAfterTheEnd_IsReadToItsLastByte) {
         fRunner.run({.text = QStringLiteral("printf 1234567"), .bounds = {.kept = 2, .most = 1}});
     EXPECT_EQ(result.output, u"1\n… 5 bytes left out …\n7");
     EXPECT_EQ(result.leftOut, 5);
+}
+
+TEST_F(PosixShellRunnerTest, FullPipe_IsReadToItsLastByteAfterTheEnd) {
+    constexpr int cFull = 1'048'000; // of a pipe of a mebibyte, with the first two bytes
+    const QString written = qEnvironmentVariable("TMPDIR") + u"/full";
+    bool whole = false;
+    const CommandResult result = fRunner.run(
+        {.text = QStringLiteral("printf 12; head -c %1 /dev/zero; echo >'%2'; sleep 600")
+                     .arg(cFull)
+                     .arg(written),
+         .bounds = {.kept = 512, .most = 1},
+         .received = [&](QByteArrayView) {
+             if (!std::exchange(whole, true)) {
+                 EXPECT_TRUE(waitUntil([&] { return QFile::exists(written); }));
+             }
+         }});
+    EXPECT_EQ(result.leftOut, cFull + 2 - 512);
+    QFile::remove(written);
 }
 
 TEST_F(PosixShellRunnerTest, Shell_GoesByItsUsualName) {
@@ -718,6 +748,35 @@ TEST_F(PosixShellRunnerTest, EndAll_EndsWhatLeftTheSessionAndNobodyElse) {
     EXPECT_TRUE(isGone(away)) << "it comes of a command of ours";
     EXPECT_LT(std::chrono::steady_clock::now() - began, 45s) << "it did not end by itself";
     EXPECT_TRUE(bystander.isLeftAlone());
+}
+
+/// What is left becomes this process's for as long as a test runs.
+class AdoptingShellRunnerTest : public PosixShellRunnerTest {
+protected:
+    void SetUp() override { fRunner.adoptWhatIsLeft(); }
+    void TearDown() override { ::prctl(PR_SET_CHILD_SUBREAPER, 0, 0, 0, 0); }
+};
+
+TEST_F(AdoptingShellRunnerTest, NothingIsLeft_NoOtherProcessIsLookedAt) {
+    EXPECT_EQ(run(QStringLiteral("echo x")), u"x\n");
+    const qint64 first = readsOfThisThread();
+    if (first < 0)
+        GTEST_SKIP() << "this system does not count reads";
+    const qint64 before = readsOfThisThread();
+    fRunner.endAll();
+    EXPECT_EQ(readsOfThisThread() - before, before - first) << "no more than counting costs";
+}
+
+TEST_F(AdoptingShellRunnerTest, WhatLeftTheSessionAndItsParent_IsEnded) {
+    Meeting meeting;
+    const QString text = run(u"(setsid sh -c \"echo held by \\$\\$; exec >&- 2>&-; " +
+                             meeting.announce() + u"exec sleep 600\" &)");
+    const pid_t away = numberAfter(text, QStringLiteral("held by "));
+    ASSERT_GT(away, 0);
+    meeting.wait();
+    EXPECT_TRUE(lives(away));
+    fRunner.endAll();
+    EXPECT_TRUE(isGone(away));
 }
 
 TEST_F(PosixShellRunnerTest, EndAll_Twice_DoesNothing) {

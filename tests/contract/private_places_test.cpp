@@ -126,7 +126,7 @@ protected:
 };
 
 TEST_F(TemporaryPlaceTest, ClosingSlashesOfTheVariables_AreLeftOut) {
-    qputenv("TMPDIR", fFolder.path().toLocal8Bit() + "//");
+    qputenv("TMPDIR", QByteArray(fFolder.path().toLocal8Bit() + "//"));
     EXPECT_EQ(temporaryFolderOfUser().path, own());
     ASSERT_EQ(::mkdir(at("session").c_str(), 0700), 0);
     qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(at("session") + '/'));

@@ -65,6 +65,39 @@ TEST_F(RemoteTaskTest, CommandThatHangs_HoldsNobodyUpAndIsCancelled) {
     EXPECT_NE(tasks.begin(RemoteTaskKind::MakingKey), nullptr) << "there is room for the next";
 }
 
+/// A command is being started, and not started yet, when a person cancels.
+class SlowStart final : public CommandRunner {
+public:
+    CommandResult run(const Command& command) override {
+        whileStarting();
+        command.started(7);
+        return {QString(), {}, {}};
+    }
+    void cancel(CommandId id) override { cancelled.push_back(id); }
+    std::optional<FileBeingWritten> fileBeingWritten(CommandId) const override { return {}; }
+
+    std::function<void()> whileStarting;
+    std::vector<CommandId> cancelled;
+};
+
+TEST_F(RemoteTaskTest, CommandThatIsBeingStarted_IsCancelledOnceItHasANumber) {
+    SlowStart starting;
+    RemoteTasks others{
+        {.mainQueue = mainQueue, .bgQueue = bgQueue, .shell = starting, .show = [](RemoteTaskKind) {
+         }}};
+    const RemoteTaskRef task = others.begin(RemoteTaskKind::MakingKey);
+    starting.whileStarting = [&] {
+        others.cancel();
+        EXPECT_TRUE(starting.cancelled.empty()) << "there is nothing to cancel yet";
+    };
+    std::vector<CommandId> toldOf;
+    (void)task->run(
+        {.text = QStringLiteral("make"), .started = [&](CommandId id) { toldOf.push_back(id); }});
+    EXPECT_EQ(starting.cancelled, std::vector<CommandId>{7});
+    EXPECT_EQ(toldOf, std::vector<CommandId>{7});
+    EXPECT_TRUE(task->isCancelled());
+}
+
 TEST_F(RemoteTaskTest, ProgramThatEnds_WaitsForNoCommandAndBeginsNoOther) {
     bool wentOn = false;
     bool wasCancelled = false;

@@ -337,6 +337,20 @@ TEST_F(RotatingLogFileTest, PipeOrDevice_IsRefusedWithoutWaiting) {
     EXPECT_EQ(::read(reader.get(), &byte, 1), 0);
 }
 
+TEST_F(RotatingLogFileTest, File_IsNotPassedOnToCommands) {
+    RotatingLogFile log;
+    ASSERT_TRUE(log.setLogFile(fPath));
+    const QString ours = QFileInfo(fPath).canonicalFilePath();
+    int found = 0;
+    for (const QFileInfo& each : QDir(QStringLiteral("/proc/self/fd")).entryInfoList()) {
+        if (each.symLinkTarget() != ours)
+            continue;
+        ++found;
+        EXPECT_TRUE(::fcntl(each.fileName().toInt(), F_GETFD) & FD_CLOEXEC);
+    }
+    EXPECT_EQ(found, 1);
+}
+
 TEST_F(RotatingLogFileTest, Line_IsOnTheDiskAtOnce) {
     RotatingLogFile log;
     ASSERT_TRUE(log.setLogFile(fPath));

@@ -12,7 +12,9 @@
 #include <signal.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <optional>
 
 namespace kelvo {
@@ -156,6 +158,50 @@ TYPED_TEST(SentinelLauncherContractTest, NobodyToTell_IsNoMatter) {
     task->terminate();
     task.reset();
     EXPECT_EQ(this->fWorld.living(), 0U);
+}
+
+// -- the real one
+
+TEST(PosixSentinelLauncherTest, SentinelThatIsInPlace_IsNotWaitedForAnyLonger) {
+    using Clock = std::chrono::steady_clock;
+    RealSentinels sentinels;
+    // On a machine with much to do one attempt may take its time, hardly each of them.
+    auto shortest = Clock::duration::max();
+    for (int attempt = 0; attempt < 10 && shortest > std::chrono::seconds(1); ++attempt) {
+        const auto begin = Clock::now();
+        const auto task = sentinels.launcher().launch(sentinels.program(),
+                                                      {QString::number(::getpid())}, nullptr);
+        shortest = std::min(shortest, Clock::now() - begin);
+        ASSERT_TRUE(task);
+        task->terminate();
+    }
+    EXPECT_LT(shortest, std::chrono::seconds(1));
+}
+
+TEST(PosixSentinelLauncherTest, ThreadThatWaitsForIt_HasANameAndHearsNoSignal) {
+    RealSentinels sentinels;
+    const auto task =
+        sentinels.launcher().launch(sentinels.program(), {QString::number(::getpid())}, nullptr);
+    ASSERT_TRUE(task);
+    const auto textOf = [](const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    constexpr qulonglong cWanted = 1ULL << (SIGTERM - 1) | 1ULL << (SIGINT - 1);
+    EXPECT_TRUE(waitUntil([&] {
+        const QDir threads(QStringLiteral("/proc/self/task"));
+        for (const QString& thread : threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            if (textOf(threads.filePath(thread + u"/comm")) != "kelvo-sentinel\n")
+                continue;
+            const QByteArray status = textOf(threads.filePath(thread + u"/status"));
+            const QByteArray mask = status.mid(status.indexOf("\nSigBlk:") + 8).trimmed();
+            // A new thread hears nothing before it runs: looked at in its sleep.
+            return status.contains("\nState:\tS") &&
+                   (mask.left(16).toULongLong(nullptr, 16) & cWanted) == cWanted;
+        }
+        return false;
+    }));
+    task->terminate();
 }
 
 } // namespace

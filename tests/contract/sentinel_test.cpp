@@ -366,7 +366,8 @@ TEST_F(SentinelTest, RelaunchedProgram_HasItsFolderItsVariablesAndItsArgumentsWi
                   {QStringLiteral("-c"),
                    QStringLiteral("[ ! -e begun ] || { printf '<%s>' \"${#BIG}\" \"$@\" > again; "
                                   "for fd in 0 1 2 3 4 5; do [ -e /proc/$$/fd/$fd ] && "
-                                  "printf $fd; done > streams; exit 7; }; "
+                                  "printf $fd; done > streams; "
+                                  "tr '\\0' '\\n' </proc/$$/environ >variables; exit 7; }; "
                                   ": > begun; read line"),
                    QStringLiteral("name"), QStringLiteral("a b"), QString(),
                    QStringLiteral("--autorelaunched"), QStringLiteral("z")});
@@ -393,6 +394,9 @@ TEST_F(SentinelTest, RelaunchedProgram_HasItsFolderItsVariablesAndItsArgumentsWi
     QFile streams(folder.filePath(QStringLiteral("streams")));
     ASSERT_TRUE(streams.open(QIODevice::ReadOnly));
     EXPECT_EQ(streams.readAll(), "012") << "all three, and nothing of the sentinel's";
+    QFile handedOn(folder.filePath(QStringLiteral("variables")));
+    ASSERT_TRUE(handedOn.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(handedOn.readAll() == "BIG=" + QByteArray(20'000, 'x') + '\n') << "and no more";
 }
 
 TEST_F(SentinelTest, CommandsThatCarryTheMark_AreAskedToEndAndThenForced) {

@@ -122,6 +122,7 @@ constexpr char cNeighbours[] =
     "10.0.0.3         0x1         0x0         00:00:00:00:00:00     *        eth0\n"
     "10.0.0.4         0x1         0x1         aa:bb:cc:00:11:44     *        eth0\n"
     "10.0.0.5         0x1         0x6         aa:bb:cc:00:11:55     *        eth0\n"
+    "10.0.0.6 0x1 0x2 aa:bb:cc:00:11:66 *\n"
     "broken line\n";
 
 TEST(NeighbourTableTest, CompleteEntryOfTheDevice_IsTheAddress) {
@@ -136,6 +137,7 @@ TEST(NeighbourTableTest, UnknownOrIncomplete_IsEmpty) {
     EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.4"), "eth0"), u"");
     EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.2"), "eth1"), u"");
     EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0"), "eth0"), u"");
+    EXPECT_EQ(macAddressIn(cNeighbours, QStringLiteral("10.0.0.6"), "eth0"), u"") << "cut short";
     EXPECT_EQ(macAddressIn("", QStringLiteral("10.0.0.2"), "eth0"), u"");
     EXPECT_EQ(macAddressOf(QStringLiteral("10.0.0.2"), 0), u"");
 }

@@ -33,6 +33,24 @@ TEST_F(SqlitePassStoreTest, QuestionBeforeTheFirstRecord_MakesNoFile) {
     EXPECT_EQ(lines(*store), QStringList{QStringLiteral("1")});
 }
 
+TEST_F(SqlitePassStoreTest, GetReady_BeginsTheLogOfAFileThatIsThere) {
+    const QString log = path + QStringLiteral("-wal");
+    {
+        const auto store = openStore();
+        store->getReady();
+        EXPECT_TRUE(lines(*store).isEmpty()); // answered after it
+        EXPECT_FALSE(QFile::exists(path)) << "none is made";
+        store->append(numbered(1));
+    }
+    EXPECT_FALSE(QFile::exists(log));
+    const auto store = openStore();
+    store->getReady();
+    EXPECT_EQ(lines(*store), QStringList{QStringLiteral("1")});
+    EXPECT_GT(QFileInfo(log).size(), 0);
+    store->append(numbered(2));
+    EXPECT_EQ(lines(*store), QStringList({QStringLiteral("2"), QStringLiteral("1")}));
+}
+
 TEST_F(SqlitePassStoreTest, Finish_WritesEverythingOrTellsWhyNot) {
     const auto store = openStore();
     store->append(numbered(1));
@@ -199,6 +217,19 @@ TEST_F(SqlitePassStoreTest, Standing_OutlivesThePasses) {
     EXPECT_EQ(found.passesInTrouble, 8);
     ASSERT_EQ(days(*store).size(), 1U);
     EXPECT_EQ(days(*store)[0].bytes, 700);
+}
+
+TEST_F(SqlitePassStoreTest, PassWithoutArrivals_LeavesThoseOfOthersAlone) {
+    const auto store = openStore({.arrivals = 2});
+    PassRecord pass = numbered(1);
+    for (const char* path : {"a", "b"})
+        pass.arrivals.push_back({path, 1, pass.began});
+    store->append(pass);
+    // Its rows have higher numbers than any arrival.
+    PassRecord next = numbered(2);
+    next.commands.resize(20);
+    store->append(next);
+    EXPECT_EQ(arrivals(*store).size(), 2U);
 }
 
 TEST_F(SqlitePassStoreTest, TooManyArrivals_DropsTheOldestAndOutlivesTheirPasses) {

@@ -1,6 +1,7 @@
 #include "adapters/console/terminal_dialogue.h"
 #include "adapters/console/this_terminal.h"
 #include "adapters/system/unique_fd.h"
+#include "support/descendants.h"
 #include "support/wait_in_loop.h"
 
 #include <QFile>
@@ -9,10 +10,14 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdlib>
+#include <memory>
 
 namespace kelvo {
 namespace {
@@ -33,12 +38,20 @@ protected:
         ASSERT_EQ(::write(master.get(), text.constData(), static_cast<std::size_t>(text.size())),
                   text.size());
     }
-    /// What a person has got to see since the last call.
-    QByteArray seen() const {
-        QByteArray bytes(4096, '\0');
-        const ssize_t count =
-            ::read(master.get(), bytes.data(), static_cast<std::size_t>(bytes.size()));
-        return count > 0 ? bytes.left(count) : QByteArray();
+    /// What a person has got to see since the last call. Waits while it is less than `expected`:
+    /// the system hands on what was written in its own time.
+    QByteArray seen(QByteArrayView expected) const {
+        QByteArray all;
+        pollfd more{master.get(), POLLIN, 0};
+        while (all.size() < expected.size() && ::poll(&more, 1, 5'000) == 1) {
+            QByteArray bytes(4096, '\0');
+            const ssize_t count =
+                ::read(master.get(), bytes.data(), static_cast<std::size_t>(bytes.size()));
+            if (count <= 0)
+                break;
+            all += bytes.left(count);
+        }
+        return all;
     }
     Dialogue::Answered keep() {
         return [this](const std::optional<QString>& answer) {
@@ -57,7 +70,7 @@ TEST_F(TerminalDialogueTest, Answer_IsOneLineAndComesLater) {
     TerminalDialogue dialogue(terminal.get(), terminal.get());
     ASSERT_TRUE(dialogue.canAnswer());
     dialogue.ask(QStringLiteral("Account [x]: "), keep());
-    EXPECT_EQ(seen(), "Account [x]: ");
+    EXPECT_EQ(seen("Account [x]: "), "Account [x]: ");
     type("Ann O'Hara \xc3\xa9\nsecond\n");
     EXPECT_EQ(answers, 0);
     ASSERT_TRUE(waitInLoop([this] { return answers == 1; }));
@@ -70,19 +83,23 @@ TEST_F(TerminalDialogueTest, Answer_IsOneLineAndComesLater) {
 TEST_F(TerminalDialogueTest, WhatIsSaid_HasItsControlsSpelledOut) {
     TerminalDialogue dialogue(terminal.get(), terminal.get());
     dialogue.say(QStringLiteral("a\x1b[31m\u202e"));
-    EXPECT_EQ(seen(), "a\\x1b[31m\\u202e\r\n");
+    EXPECT_EQ(seen("a\\x1b[31m\\u202e\r\n"), "a\\x1b[31m\\u202e\r\n");
     dialogue.ask(QStringLiteral("\a? "), keep());
-    EXPECT_EQ(seen(), "\\x07? ");
+    EXPECT_EQ(seen("\\x07? "), "\\x07? ");
 }
 
 TEST_F(TerminalDialogueTest, EndOfTheInput_IsNoAnswer) {
     TerminalDialogue dialogue(terminal.get(), terminal.get());
     last = QString();
-    dialogue.ask(QStringLiteral("? "), keep());
+    QByteArray seenByThen;
+    dialogue.ask(QStringLiteral("? "), [&](const std::optional<QString>& answer) {
+        seenByThen = seen("? \r\n");
+        keep()(answer);
+    });
     type("\x04");
     ASSERT_TRUE(waitInLoop([this] { return answers == 1; }));
     EXPECT_EQ(last, std::nullopt);
-    EXPECT_EQ(seen(), "? \r\n");
+    EXPECT_EQ(seenByThen, "? \r\n") << "what is said next begins on a line of its own";
 }
 
 TEST_F(TerminalDialogueTest, QuestionTakenBack_LeavesWhatIsTypedToOthers) {
@@ -90,7 +107,7 @@ TEST_F(TerminalDialogueTest, QuestionTakenBack_LeavesWhatIsTypedToOthers) {
     dialogue.ask(QStringLiteral("? "), keep());
     dialogue.takeBack();
     dialogue.takeBack();
-    EXPECT_EQ(seen(), "? \r\n");
+    EXPECT_EQ(seen("? \r\n"), "? \r\n");
     type("secret\n");
     EXPECT_FALSE(waitInLoop([this] { return answers > 0; }, 1));
     QByteArray bytes(64, '\0');
@@ -151,6 +168,23 @@ TEST_F(ThisTerminalTest, SecondScriptAtATime_IsNotBegun) {
     ASSERT_TRUE(waitInLoop([&] { return second.has_value(); }));
     EXPECT_EQ(second, TerminalOutcome::NoWindow);
     EXPECT_EQ(ends, 0);
+}
+
+TEST_F(ThisTerminalTest, ScriptThatStillRuns_IsEndedAndReapedAndNotWaitedForAnyLonger) {
+    using Clock = std::chrono::steady_clock;
+    // On a machine with much to do one attempt may take its time, hardly each of them.
+    const std::size_t before = descendants().size(); // of cases before this one
+    auto shortest = Clock::duration::max();
+    for (int attempt = 0; attempt < 10 && shortest > std::chrono::seconds(1); ++attempt) {
+        auto terminal = std::make_unique<ThisTerminal>();
+        run(*terminal, "exec sleep 100\n");
+        const auto begin = Clock::now();
+        terminal.reset();
+        shortest = std::min(shortest, Clock::now() - begin);
+        EXPECT_EQ(descendants().size(), before);
+    }
+    EXPECT_LT(shortest, std::chrono::seconds(1));
+    EXPECT_EQ(ends, 0) << "nobody is there to be told";
 }
 
 } // namespace

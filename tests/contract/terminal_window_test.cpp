@@ -159,6 +159,16 @@ TEST_F(TerminalWindowTest, ProgramsThatAreMissingOrFail_AreFollowedByTheNext) {
     EXPECT_EQ(console.logged(), QStringList{QString(at("bad") + u" could not open a window.")});
 }
 
+TEST_F(TerminalWindowTest, ProgramThatMayNotBeRun_IsNamedWithTheReason) {
+    const TerminalProgram forbidden = program("forbidden", "exit 0");
+    ASSERT_TRUE(QFile::setPermissions(at("forbidden"), QFile::ReadOwner));
+    use({forbidden, program("next", window())});
+    open(script("true"));
+    ASSERT_TRUE(comesTo(TerminalOutcome::Ended));
+    EXPECT_EQ(console.logged(),
+              QStringList{QString(u"Cannot start " + at("forbidden") + u": Permission denied")});
+}
+
 TEST_F(TerminalWindowTest, KnownTerminals_AreTriedInTheirOrderEachWithItsOwnOption) {
     const QByteArray options = "x-terminal-emulator -e\n"
                                "gnome-terminal --\n"
@@ -179,7 +189,7 @@ TEST_F(TerminalWindowTest, KnownTerminals_AreTriedInTheirOrderEachWithItsOwnOpti
         program("bin/" + line.split(' ')[0],
                 "echo \"${0##*/} $1\" >>'" + at("options").toLocal8Bit() + "'; exit 1");
     const QByteArray path = qgetenv("PATH");
-    qputenv("PATH", at("bin").toLocal8Bit() + ":/usr/bin:/bin");
+    qputenv("PATH", QByteArray(at("bin").toLocal8Bit() + ":/usr/bin:/bin"));
     terminal = std::make_unique<TerminalWindow>(files, console, mainQueue, bgQueue);
     open(script("true"));
     EXPECT_TRUE(comesTo(TerminalOutcome::NoWindow));

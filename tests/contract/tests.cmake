@@ -12,6 +12,7 @@ kelvo_tests(contract
   TIMEOUT 120
   SOURCES
     contract/arrivals_test.cpp
+    contract/avahi_session_test.cpp
     contract/background_queue_contract_test.cpp
     contract/bundle_contract_test.cpp
     contract/command_processes_test.cpp

@@ -14,9 +14,13 @@ namespace kelvo {
 class FakeDialogue final : public Dialogue {
 public:
     bool canAnswer() const override { return isThere; }
-    void say(const QString& text) override { said.append(text); }
+    void say(const QString& text) override {
+        said.append(text);
+        lines.append(text);
+    }
     void ask(const QString& question, Answered answered) override {
         asked.append(question);
+        lines.append(question);
         fAnswered = std::move(answered);
     }
     void takeBack() override {
@@ -33,6 +37,7 @@ public:
     bool isThere = true;
     QStringList said;  ///< so far
     QStringList asked; ///< every question so far
+    QStringList lines; ///< both, in their order
     int takenBack = 0;
 
 private:

@@ -36,7 +36,7 @@ public:
 
     /// A new guest says `line`, without its end.
     Id come(const QByteArray& line) {
-        guests.emplace(++last, Guest());
+        guests.emplace(++last, Guest{.heard = {}, .reads = newcomersRead});
         host.said(last, line);
         return last;
     }
@@ -53,6 +53,7 @@ public:
         return heard.empty() ? QJsonObject() : QJsonDocument::fromJson(heard.back()).object();
     }
 
+    bool newcomersRead = true;
     std::map<Id, Guest> guests;
     Host host;
     Id last = 0;

@@ -19,6 +19,8 @@ class ScriptedBrowser final : public DnssdBrowser {
 public:
     void browseForType(const QString& type) override {
         browsed.append(type);
+        if (whenBrowsed)
+            whenBrowsed();
         if (type != fType)
             fListed.clear();
         fType = type;
@@ -87,6 +89,7 @@ public:
 
     DiscoveryState away = DiscoveryState::NotRunning; ///< what it is while it does not run
     QStringList browsed;                              ///< every type asked for so far
+    std::function<void()> whenBrowsed;                ///< called at each of them
     QStringList refused;                              ///< names that were left out
 
     struct Search {

@@ -62,6 +62,7 @@ public:
     MemoryBundle bundle;
     FakeApplication application;
     int relaunches = 0;
+    QStringList printedBeforeRelaunch; ///< by the time of the last one
     FakeWorkspace workspace;
     FakeOpenPanel openPanel;
     ScriptedBrowser dnssdBrowser;
@@ -125,7 +126,11 @@ public:
         .passStore = passStore,
         .notificationCenter = notificationCenter,
         .bundle = bundle,
-        .quitAndRelaunch = [this] { ++relaunches; },
+        .quitAndRelaunch =
+            [this] {
+                ++relaunches;
+                printedBeforeRelaunch = console.printed();
+            },
         .workspace = workspace,
         .dnssdBrowser = dnssdBrowser,
         .makeKelvoSSID =

@@ -91,6 +91,11 @@ QStringList DiscoveryService::asked() const {
 QDBusObjectPath DiscoveryService::ServiceBrowserNew(int, int, const QString& type,
                                                     const QString& domain, uint) {
     const std::lock_guard lock(fMutex);
+    if (refusals > 0) {
+        --refusals;
+        sendErrorReply(QStringLiteral("org.freedesktop.Avahi.TooManyObjectsError"), {});
+        return {};
+    }
     fAsked.append(type + u' ' + domain);
     fAskers.append(message().service());
     const int search = static_cast<int>(fAsked.size());
@@ -119,9 +124,9 @@ QDBusObjectPath DiscoveryService::ServiceResolverNew(int interface, int protocol
              {QStringLiteral("org.freedesktop.Avahi.TimeoutError")});
     else if (!keepsSilent && fPorts.contains(name))
         send(message().service(), cResolver, number, QStringLiteral("Found"),
-             {interface, protocol, name, type, domain, QStringLiteral("Remote-Mac.local"), 0,
-              QStringLiteral("10.77.0.2"), QVariant::fromValue(fPorts[name]),
-              QVariant::fromValue(QByteArrayList()), QVariant::fromValue(0U)});
+             {interface, protocol, name, type, domain, host, 0, QStringLiteral("10.77.0.2"),
+              QVariant::fromValue(fPorts[name]), QVariant::fromValue(QByteArrayList()),
+              QVariant::fromValue(0U)});
     return QDBusObjectPath(pathOf(cResolver, number));
 }
 

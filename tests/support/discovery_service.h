@@ -45,6 +45,8 @@ public:
     QString tellsAtOnce; ///< the name of a service found before the answer is out; set before asked
     int failures = 0; ///< so many questions about each service are not answered; set before asked
     bool keepsSilent = false; ///< to all such questions; set before asked
+    int refusals = 0;         ///< so many searches cannot be begun; set before asked
+    QString host = QStringLiteral("Remote-Mac.local"); ///< of every service; set before asked
 
 public Q_SLOTS:
     uint GetAPIVersion() const { return 0x0201; }

@@ -19,8 +19,9 @@ void usePrivateFolders(const QTemporaryDir& home) {
     privateFolder("XDG_DATA_HOME", "data");
     privateFolder("XDG_RUNTIME_DIR", "run");
     privateFolder("TMPDIR", "tmp");
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS",
-            "unix:path=" + home.filePath(QStringLiteral("run/system_bus")).toLocal8Bit());
+    qputenv(
+        "DBUS_SYSTEM_BUS_ADDRESS",
+        QByteArray("unix:path=" + home.filePath(QStringLiteral("run/system_bus")).toLocal8Bit()));
 }
 
 } // namespace kelvo

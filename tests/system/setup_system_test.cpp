@@ -1,6 +1,8 @@
 // The set-up from a terminal with the built program, where there is no Mac.
+#include "support/discovery_service.h"
 #include "support/program_profile.h"
 #include "support/pty_program.h"
+#include "support/session_bus.h"
 
 #include <QDirIterator>
 
@@ -13,10 +15,14 @@ const QString cProgram = QStringLiteral(KELVO_PROGRAM);
 
 class SetupSystemTest : public ::testing::Test, public ProgramProfile {
 protected:
-    /// Reading the settings leaves a lock beside them, as any command does.
-    SetupSystemTest() {
-        QDir().mkpath(incoming());
-        (void)runToEnd(cProgram, {QStringLiteral("--settings")});
+    SetupSystemTest() { QDir().mkpath(incoming()); }
+
+    /// Whether ssh knows of shared connections depends on the account of the tests; nobody is asked
+    /// about them where they are not wanted.
+    void wantsNoSharing(const QStringList& profile = {}) const {
+        (void)runToEnd(cProgram, profile + QStringList{QStringLiteral("--set"),
+                                                       QStringLiteral("keepConnection"),
+                                                       QStringLiteral("false")});
     }
 
     QString incoming() const { return path(QStringLiteral("Incoming")); }
@@ -61,7 +67,8 @@ TEST_F(SetupSystemTest, MacThatIsNotThere_IsNamedAndNothingIsStored) {
 
 TEST_F(SetupSystemTest, CtrlC_LeavesEverythingAsItWas) {
     const QStringList before = everything();
-    PtyProgram program({cProgram, QStringLiteral("--setup"), QStringLiteral("--mac"),
+    PtyProgram program({cProgram, QStringLiteral("--profile"), QStringLiteral("east"),
+                        QStringLiteral("--setup"), QStringLiteral("--mac"),
                         QStringLiteral("no-such-mac.invalid")},
                        alone());
     ASSERT_TRUE(program.shows("Account on the Mac")) << program.transcript();
@@ -70,10 +77,11 @@ TEST_F(SetupSystemTest, CtrlC_LeavesEverythingAsItWas) {
     program.type("\x03");
     EXPECT_EQ(program.end(), 18) << program.transcript();
     EXPECT_TRUE(program.shows("Nothing was changed.", 0)) << program.transcript();
-    EXPECT_EQ(everything(), before);
+    EXPECT_EQ(everything(), before) << "there is no profile of that name either";
 }
 
 TEST_F(SetupSystemTest, PersonWhoWantsItSo_StoresBeforeTheMacIsThere) {
+    wantsNoSharing();
     PtyProgram program({cProgram, QStringLiteral("--setup")}, alone());
     ASSERT_TRUE(program.shows("Host name or address of the Mac")) << program.transcript();
     program.type("no-such-mac.invalid\n");
@@ -102,6 +110,7 @@ TEST_F(SetupSystemTest, PersonWhoWantsItSo_StoresBeforeTheMacIsThere) {
 
 TEST_F(SetupSystemTest, Profile_IsSetUpUnderItsName) {
     const QStringList east{QStringLiteral("--profile"), QStringLiteral("east")};
+    wantsNoSharing(east);
     PtyProgram program(QStringList{cProgram} + east +
                            QStringList{QStringLiteral("--setup"), QStringLiteral("--mac"),
                                        QStringLiteral("no-such-mac.invalid"),
@@ -116,6 +125,43 @@ TEST_F(SetupSystemTest, Profile_IsSetUpUnderItsName) {
     const QStringList get{QStringLiteral("--get"), QStringLiteral("prefRemoteBonjourName")};
     EXPECT_EQ(runToEnd(cProgram, east + get).output, "no-such-mac.invalid\n");
     EXPECT_NE(runToEnd(cProgram, get).output, "no-such-mac.invalid\n");
+}
+
+/// A machine with discovery, and a Mac that it knows.
+class SetupDiscoverySystemTest : public SetupSystemTest {
+protected:
+    void SetUp() override {
+        if (theirs.get().isConnected() && service.appear())
+            service.announce(QStringLiteral("Studio Mac"), 445);
+        else
+            GTEST_SKIP() << "no dbus-daemon to be had";
+    }
+    QProcessEnvironment withDiscovery() const {
+        QProcessEnvironment own = environment();
+        own.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), bus.address());
+        return own;
+    }
+
+    const PrivateBus bus;
+    BusConnection theirs{bus.address(), QStringLiteral("discovery")};
+    DiscoveryService service{theirs.get()};
+};
+
+TEST_F(SetupDiscoverySystemTest, MacThatDiscoveryKnows_IsListed) {
+    PtyProgram program({cProgram, QStringLiteral("--setup")}, withDiscovery());
+    EXPECT_TRUE(program.shows("1  Studio Mac  10.77.0.2  Remote-Mac.local"))
+        << program.transcript();
+}
+
+TEST_F(SetupDiscoverySystemTest, ProgramWithoutItsPartForTheBus_AsksForTheMacAllTheSame) {
+    QDir().mkpath(path(QStringLiteral("copy/bin")));
+    QDir().mkpath(path(QStringLiteral("copy/lib/kelvo-mirror")));
+    const QString copy = path(QStringLiteral("copy/bin/kelvo-mirror"));
+    ASSERT_TRUE(QFile::copy(cProgram, copy));
+    PtyProgram program({copy, QStringLiteral("--setup")}, withDiscovery());
+    EXPECT_TRUE(program.shows("Discovery is not installed on this machine."))
+        << program.transcript();
+    EXPECT_TRUE(program.shows("Host name or address of the Mac")) << program.transcript();
 }
 
 } // namespace

@@ -10,6 +10,7 @@ target_link_libraries(watched_program PRIVATE kelvo_app_start kelvo_adapters)
 kelvo_tests(system
   SOURCES
     system/ask_system_test.cpp
+    system/bus_module_system_test.cpp
     system/end_system_test.cpp
     system/far_end_system_test.cpp
     system/flood_system_test.cpp
@@ -27,7 +28,7 @@ kelvo_tests(system
     system/wayland_system_test.cpp
     system/window_module_system_test.cpp
     system/window_system_test.cpp
-  LINKS kelvo_bus_testing Qt6::Gui
+  LINKS kelvo_app kelvo_bus_testing Qt6::Gui
   TIMEOUT 120
   PROPERTIES
     ENVIRONMENT LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/support/leaks.supp

@@ -118,12 +118,18 @@ protected:
                           .constData());
     }
 
-    /// The icon's shape on the screen, once it has been drawn and differs from `before`.
+    /// The icon's shape on the screen, once it has been drawn and differs from `before`. A tray
+    /// that takes it in gives it other sizes on the way: the shape counts when it stays for a
+    /// while.
     QString drawn(const QString& before = {}) {
+        constexpr int cLooks = 15; // 20 ms and more from one to the next
         QString shape;
+        int same = 0;
         waitInLoop([&] {
-            shape = answer("picture");
-            return shape.count(u'#') > 40 && shape != before;
+            const QString now = answer("picture");
+            same = now == shape ? same + 1 : 0;
+            shape = now;
+            return same >= cLooks && shape.count(u'#') > 40 && shape != before;
         });
         return shape;
     }

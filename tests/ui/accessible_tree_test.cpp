@@ -2,6 +2,7 @@
 #include "fakes/memory_defaults.h"
 #include "fakes/memory_pass_store.h"
 #include "fakes/virtual_queues.h"
+#include "ui/widgets/accessible_factory.h"
 #include "ui/widgets/checklist_view.h"
 #include "ui/widgets/elided_label.h"
 #include "ui/widgets/main_window.h"
@@ -13,6 +14,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -133,6 +135,38 @@ TEST_F(AccessibleTreeTest, StatusText_CanBeReachedAndReadAgain) {
     EXPECT_TRUE(heard.state().focused);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&window.ibStatusTextField())->role(),
               QAccessible::Grouping);
+}
+
+TEST_F(AccessibleTreeTest, Line_IsASeparatorAndAnotherFrameIsNot) {
+    QFrame line;
+    QFrame frame;
+    line.setFrameShape(QFrame::HLine);
+    frame.setFrameShape(QFrame::StyledPanel);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&line)->role(), QAccessible::Separator);
+    EXPECT_NE(QAccessible::queryAccessibleInterface(&frame)->role(), QAccessible::Separator);
+}
+
+TEST_F(AccessibleTreeTest, StartButton_DoesWhatElseIsAskedOfAButton) {
+    QPushButton& start = window.ibStartButton();
+    auto* actions = QAccessible::queryAccessibleInterface(&start)->actionInterface();
+    EXPECT_EQ(actions->actionNames().constFirst(), QAccessibleActionInterface::pressAction());
+    window.button(QStringLiteral("showAllArrivals")).setFocus();
+    actions->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_TRUE(start.hasFocus());
+    EXPECT_FALSE(start.isChecked()) << "it was not pressed";
+    start.setText(QStringLiteral("St&op"));
+    start.setAccessibleName({});
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&start)->text(QAccessible::Name), u"Stop");
+}
+
+TEST_F(AccessibleTreeTest, Spokesman_IsHeardAndNotSeen) {
+    const Spokesman spokesman(window, QStringLiteral("All is well."));
+    EXPECT_FALSE(spokesman.isVisible());
+    EXPECT_EQ(spokesman.size(), QSize(0, 0));
+    auto* heard = QAccessible::queryAccessibleInterface(const_cast<Spokesman*>(&spokesman));
+    EXPECT_EQ(heard->role(), QAccessible::Notification);
+    EXPECT_EQ(heard->text(QAccessible::Name), u"All is well.");
+    EXPECT_FALSE(heard->state().invisible);
 }
 
 } // namespace

@@ -396,5 +396,32 @@ TEST_F(ActivityTabTest, HalvesOfThePasses_AreRemembered) {
     EXPECT_NE(halvesOf(other)->sizes(), sizes);
 }
 
+TEST_F(ActivityTabTest, Chart_LeavesThePassesThatHaveNoMoreThanTheTextsLines) {
+    openPasses();
+    const auto* chart = child<QWidget>("days");
+    const int enough = 25 * tab.fontMetrics().lineSpacing();
+    tab.resize(700, enough);
+    EXPECT_TRUE(chart->isVisible());
+    EXPECT_TRUE(child<QWidget>("total")->isVisible());
+    tab.resize(700, enough - 1);
+    EXPECT_FALSE(chart->isVisible());
+    EXPECT_FALSE(child<QWidget>("total")->isVisible());
+}
+
+TEST_F(ActivityTabTest, TotalOfTheDays_FollowsThePasses) {
+    openPasses();
+    const auto* total = child<QLabel>("total");
+    append(PassCause::Well, 3);
+    EXPECT_TRUE(total->text().contains(u"3 movies")) << qPrintable(total->text());
+    append(PassCause::Well, 4);
+    EXPECT_TRUE(total->text().contains(u"7 movies"));
+    tab.hide();
+    append(PassCause::Well, 2);
+    EXPECT_TRUE(total->text().contains(u"7 movies")) << "hidden, it asks nothing";
+    tab.show();
+    mainQueue.runDue();
+    EXPECT_TRUE(total->text().contains(u"9 movies"));
+}
+
 } // namespace
 } // namespace kelvo

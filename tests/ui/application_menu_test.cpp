@@ -259,6 +259,79 @@ TEST_F(ApplicationMenuTest, TrayEntries_AreAskedAboutBeforeAndAfterEachLook) {
     EXPECT_TRUE(entry(menu, "setupStatusItem")->isEnabled());
 }
 
+TEST_F(ApplicationMenuTest, Entries_StandInTheirOrder) {
+    ApplicationMenu menu(all(), tabs);
+    QStringList lines;
+    for (const QAction* title : menu.actions()) {
+        QStringList entries;
+        for (const QAction* entry : title->menu()->actions())
+            entries.append(entry->isSeparator() ? QStringLiteral("-") : plain(*entry));
+        lines.append(entries.join(u'|'));
+    }
+    EXPECT_EQ(lines[0], u"Another Mac…|-|Close Window|-|Quit and Relaunch|Quit");
+    EXPECT_EQ(lines[1], u"Undo|Redo|-|Cut|Copy|Paste|-|Select All|-|Settings…");
+    EXPECT_EQ(lines[2], u"1 Sync|2 Remote Mac|3 Settings|4 Tests  Tools|-|Diagnostics");
+    EXPECT_EQ(lines[3], u"Start Syncing|-|Sync Now|Cancel This Pass");
+    EXPECT_EQ(lines[4],
+              u"Set Up Tray Icon|Remove Tray Icon|Remove Tray Icon as Before a Relaunch|-|"
+              u"Start Again After a Crash");
+    EXPECT_EQ(lines[5], u"Open Log Folder|-|About Kelvo Mirror");
+    EXPECT_EQ(menu.accessibleName(), u"Application menu");
+    ApplicationMenuActions one = all();
+    one.anotherMac = nullptr;
+    const ApplicationMenu alone(one, tabs);
+    EXPECT_EQ(plain(*alone.actions()[0]->menu()->actions()[0]), u"Close Window")
+        << "no line above the first entry";
+    one.showSettings = nullptr;
+    EXPECT_EQ(plain(*ApplicationMenu(one, tabs).actions()[1]->menu()->actions().last()),
+              u"Select All");
+}
+
+TEST_F(ApplicationMenuTest, Explanations_AreShownBesideTheEntries) {
+    ApplicationMenu menu(all(), tabs);
+    menu.showWork({.maySyncNow = true, .mayCancel = true});
+    menu.setDiagnosticsShown(true);
+    for (const char* name : {"anotherMac", "quitAndRelaunch", "showDiagnostics", "startOrStop",
+                             "syncNow", "cancelPass", "removeStatusItem", "setupWatchdog"}) {
+        const QAction* found = entry(menu, name);
+        EXPECT_FALSE(found->statusTip().isEmpty()) << name;
+        EXPECT_EQ(found->toolTip(), found->statusTip()) << name;
+    }
+    EXPECT_TRUE(entry(menu, "about")->statusTip().isEmpty());
+    for (const char* name : {"fileMenu", "viewMenu", "passesMenu", "trayMenu", "helpMenu"})
+        EXPECT_TRUE(menu.findChild<QMenu*>(QString::fromLatin1(name))->toolTipsVisible()) << name;
+    EXPECT_FALSE(entry(menu, "cancelPass")->autoRepeat());
+}
+
+TEST_F(ApplicationMenuTest, TenthTab_HasNoKeyOfItsOwn) {
+    ApplicationMenu menu(all(), tabs + tabs + tabs);
+    EXPECT_EQ(entry(menu, "showTab9")->shortcut().toString(), u"Ctrl+9");
+    EXPECT_EQ(entry(menu, "showTab9")->text(), u"&9 Sync");
+    EXPECT_TRUE(entry(menu, "showTab10")->shortcut().isEmpty());
+    EXPECT_EQ(entry(menu, "showTab10")->text(), u"Remote Mac");
+    entry(menu, "showTab10")->trigger();
+    EXPECT_EQ(done.join(u' '), u"tab9");
+    EXPECT_TRUE(entry(menu, "showTab10")->isChecked());
+    EXPECT_FALSE(entry(menu, "showTab1")->isChecked()) << "one at a time";
+    menu.setCurrentTab(12);
+    menu.setCurrentTab(11);
+    EXPECT_TRUE(entry(menu, "showTab12")->isChecked());
+}
+
+TEST_F(ApplicationMenuTest, Syncing_IsStartedAndStoppedByOneEntry) {
+    ApplicationMenu menu(all(), tabs);
+    menu.setSyncing(true);
+    EXPECT_EQ(entry(menu, "startOrStop")->text(), u"&Stop Syncing");
+    menu.setSyncing(false);
+    EXPECT_EQ(entry(menu, "startOrStop")->text(), u"&Start Syncing");
+    ApplicationMenu none({.quit = note("quit")}, tabs);
+    none.setSyncing(true);
+    none.setDiagnosticsShown(true);
+    none.setTabs(tabs);
+    none.showTrayIcon();
+    EXPECT_EQ(none.findChildren<QAction*>(QStringLiteral("startOrStop")).size(), 0);
+}
+
 class EditMenuTest : public ::testing::Test {
 protected:
     EditMenuTest() {
@@ -365,6 +438,41 @@ TEST_F(EditMenuTest, Opening_BringsTheEntriesUpToDate) {
     focus(line);
     Q_EMIT menu.aboutToShow();
     EXPECT_TRUE(entry("selectAll")->isEnabled());
+}
+
+TEST_F(EditMenuTest, TextField_IsUndoneAndRedone) {
+    focus(text);
+    choose("selectAll");
+    choose("cut");
+    EXPECT_EQ(text.toPlainText(), QString());
+    EXPECT_EQ(enabled(), u"undo paste");
+    choose("undo");
+    EXPECT_EQ(text.toPlainText(), u"template");
+    EXPECT_TRUE(enabled().contains(u"redo"));
+    choose("redo");
+    EXPECT_EQ(text.toPlainText(), QString());
+    text.setReadOnly(true);
+    EXPECT_EQ(enabled(), QString());
+}
+
+TEST_F(EditMenuTest, LineField_ThatMayNotBeChangedIsCopiedOnly) {
+    focus(line);
+    line.insert(QStringLiteral("s"));
+    line.undo();
+    line.setReadOnly(true);
+    line.selectAll();
+    QGuiApplication::clipboard()->setText(QStringLiteral("x"));
+    EXPECT_EQ(enabled(), u"copy selectAll");
+    line.setReadOnly(false);
+    EXPECT_EQ(enabled(), u"redo cut copy paste selectAll");
+    line.clear();
+    EXPECT_EQ(enabled(), u"undo paste");
+}
+
+TEST_F(EditMenuTest, EmptyLabel_HasNothingToSelect) {
+    focus(label);
+    label.clear();
+    EXPECT_EQ(enabled(), QString());
 }
 
 } // namespace

@@ -39,6 +39,7 @@ protected:
         return presentSheet(identifier,
                             {.defaults = defaults,
                              .mainQueue = mainQueue,
+                             .bgQueue = bgQueue,
                              .console = console,
                              .browser = browser,
                              .hasNetwork = [this] { return hasNetwork; }},
@@ -72,6 +73,7 @@ protected:
 
     MemoryDefaults defaults;
     VirtualMainQueue mainQueue;
+    ManualBackgroundQueue bgQueue;
     RecordingConsole console;
     ScriptedBrowser browser;
     bool hasNetwork = true;
@@ -345,6 +347,42 @@ TEST_F(BonjourSheetTest, FiveHundredComputers_AreAllShown) {
     open();
     EXPECT_EQ(table()->model()->rowCount(), 500);
     EXPECT_EQ(cell(0, 0), u"Mac 499");
+}
+
+TEST_F(BonjourSheetTest, Columns_HaveRoomForANameAndAnAddress) {
+    announce(QStringLiteral("Living Room Mac mini"), QStringLiteral("255.255.255.255"));
+    open();
+    const QFontMetrics letters = table()->fontMetrics();
+    EXPECT_GT(table()->columnWidth(0), letters.horizontalAdvance(cell(0, 0)) + 6);
+    EXPECT_GT(table()->columnWidth(1), letters.horizontalAdvance(cell(0, 1)) + 6);
+    EXPECT_TRUE(table()->horizontalHeader()->sectionsClickable());
+    EXPECT_TRUE(table()->hasFocus() || sheet()->focusWidget() == table());
+}
+
+TEST_F(BonjourSheetTest, PageThatComes_TakesTheFocusOfTheOneThatGoes) {
+    open();
+    EXPECT_EQ(sheet()->focusWidget(), child<QLabel>("emptyText"));
+    announce(QStringLiteral("First"), QStringLiteral("10.0.0.2"));
+    button("rescanButton")->click();
+    mainQueue.advance(2.1);
+    EXPECT_EQ(sheet()->focusWidget(), table());
+    EXPECT_FALSE(child<QWidget>("copyCommandButton")->isVisible());
+}
+
+TEST_F(BonjourSheetTest, MessageFromBelow_IsShownInTheWindowsWords) {
+    open();
+    defaults.setObject(perfFirstLineMessage, QStringLiteral("Bonjour List..."));
+    mainQueue.runDue();
+    EXPECT_EQ(child<QLabel>("firstLineMessage")->text(), u"Bonjour List...");
+    defaults.removeObject(perfFirstLineMessage);
+    mainQueue.runDue();
+    EXPECT_EQ(child<QLabel>("firstLineMessage")->text(), QString());
+    defaults.setObject(prefScanningBonjour, true);
+    mainQueue.runDue();
+    EXPECT_TRUE(child<QProgressBar>("scanningSign")->isVisible());
+    defaults.setObject(prefScanningBonjour, false);
+    mainQueue.runDue();
+    EXPECT_FALSE(child<QProgressBar>("scanningSign")->isVisible());
 }
 
 } // namespace

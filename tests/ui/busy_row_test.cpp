@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
@@ -75,6 +76,25 @@ TEST_F(BusyRowTest, CancelPressed_GivesTheFocusBackWhereItCameFrom) {
     first.setFocus();
     row.setTask(RemoteTaskKind::None);
     EXPECT_TRUE(first.hasFocus()) << "who has gone elsewhere stays there";
+}
+
+TEST_F(BusyRowTest, Sign_SaysThatTheEndIsOpen) {
+    row.setTask(RemoteTaskKind::MakingKey);
+    QCoreApplication::processEvents();
+    const auto& sign = *row.findChild<QProgressBar*>(QStringLiteral("taskSign"));
+    EXPECT_TRUE(sign.isVisible());
+    EXPECT_EQ(sign.maximum(), sign.minimum());
+    EXPECT_FALSE(sign.isTextVisible());
+    EXPECT_LT(sign.height(), words().height());
+    EXPECT_LT(sign.width(), row.width() / 2);
+    EXPECT_EQ(sign.accessibleName(), u"Working");
+    EXPECT_GT(words().width(), sign.width()) << "the words have the room";
+    EXPECT_EQ(words().textFormat(), Qt::PlainText);
+    EXPECT_TRUE(words().wordWrap());
+    EXPECT_EQ(cancel().text(), u"Cance&l");
+    EXPECT_FALSE(cancel().accessibleDescription().isEmpty());
+    EXPECT_TRUE(cancel().autoDefault()) << "the return key presses it";
+    EXPECT_EQ(row.height(), row.sizeHint().height()) << "however high the window is";
 }
 
 } // namespace

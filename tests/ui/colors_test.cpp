@@ -44,8 +44,27 @@ TEST(DarkPaletteTest, EveryText_StandsOutOnItsGround) {
                 << text << " on " << ground;
     }
     EXPECT_LT(dark.color(QPalette::Window).lightnessF(), 0.25F);
-    EXPECT_NE(dark.color(QPalette::Disabled, QPalette::ButtonText),
-              dark.color(QPalette::Active, QPalette::ButtonText));
+    const std::pair<QPalette::ColorRole, QPalette::ColorRole> greyed[]{
+        {QPalette::WindowText, QPalette::Window},       {QPalette::Text, QPalette::Base},
+        {QPalette::ButtonText, QPalette::Button},       {QPalette::BrightText, QPalette::Window},
+        {QPalette::ToolTipText, QPalette::ToolTipBase},
+    };
+    for (const auto& [text, ground] : greyed) {
+        const auto standsOut = [&, text = text, ground = ground](QPalette::ColorGroup group) {
+            return contrast(dark.color(group, text), dark.color(group, ground));
+        };
+        EXPECT_LT(standsOut(QPalette::Disabled), standsOut(QPalette::Active)) << text;
+        EXPECT_GE(standsOut(QPalette::Disabled), 3) << text << " of what can do nothing now";
+    }
+    EXPECT_LT(dark.color(QPalette::Disabled, QPalette::Highlight).hsvSaturationF(), 0.2F)
+        << "a selection that can do nothing is grey";
+    EXPECT_NE(dark.color(QPalette::AlternateBase), dark.color(QPalette::Base)) << "rows differ";
+    EXPECT_NE(dark.color(QPalette::LinkVisited), dark.color(QPalette::Link));
+    for (int role = 0; role < QPalette::NColorRoles; ++role) {
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            EXPECT_TRUE(dark.color(group, static_cast<QPalette::ColorRole>(role)).isValid())
+                << role;
+    }
 }
 
 /// A window with something of everything that has a colour.

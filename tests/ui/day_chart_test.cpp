@@ -1,6 +1,8 @@
 #include "ui/widgets/day_chart.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QHeaderView>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -96,6 +98,115 @@ TEST_F(DayChartTest, PointerAndArrowKeys_GoFromDayToDay) {
     EXPECT_EQ(chart.currentIndex().row(), 0);
     QTest::keyClick(&chart, Qt::Key_Down);
     EXPECT_EQ(chart.currentIndex().row(), 1);
+}
+
+TEST_F(DayChartTest, Keys_GoToTheEndsAndNoFurther) {
+    QApplication::setActiveWindow(&chart);
+    chart.setFocus();
+    const auto press = [this](Qt::Key key) {
+        QTest::keyClick(&chart, key);
+        return chart.currentIndex().row();
+    };
+    EXPECT_EQ(press(Qt::Key_Right), 29);
+    EXPECT_EQ(press(Qt::Key_PageUp), 0);
+    EXPECT_EQ(press(Qt::Key_Up), 0);
+    EXPECT_EQ(press(Qt::Key_PageDown), 29);
+    EXPECT_EQ(press(Qt::Key_Up), 28);
+    EXPECT_EQ(press(Qt::Key_Home), 0);
+    EXPECT_EQ(press(Qt::Key_Right), 1);
+    EXPECT_EQ(press(Qt::Key_End), 29);
+    EXPECT_EQ(press(Qt::Key_Left), 28);
+    EXPECT_EQ(chart.selectionModel()->selectedRows().size(), 1);
+}
+
+TEST_F(DayChartTest, Focus_BeginsAtTodayAndComesBackToItsDay) {
+    QWidget window;
+    QWidget other(&window);
+    chart.setParent(&window);
+    other.setFocusPolicy(Qt::StrongFocus);
+    window.show();
+    chart.show();
+    QApplication::setActiveWindow(&window);
+    other.setFocus();
+    EXPECT_FALSE(chart.currentIndex().isValid());
+    chart.setFocus();
+    EXPECT_EQ(chart.currentIndex().row(), 29);
+    chart.setCurrentIndex(chart.model()->index(7, 0));
+    QTest::keyClick(&chart, Qt::Key_Tab);
+    EXPECT_TRUE(other.hasFocus()) << "one stop of the Tab key";
+    chart.setFocus();
+    EXPECT_EQ(chart.currentIndex().row(), 7);
+    chart.setParent(nullptr);
+}
+
+TEST_F(DayChartTest, DayOfTheKeyboard_HasAFrameWhileTheChartHasTheFocus) {
+    QApplication::setActiveWindow(&chart);
+    const auto corner = [this](int row) {
+        const QImage image = chart.viewport()->grab().toImage();
+        const QRect place = placeOf(row);
+        int drawn = 0; // above the bars, where only the frame is
+        for (int x = place.left(); x <= place.right(); ++x)
+            drawn += image.pixel(x, 0) != image.pixel(placeOf(15).center().x(), 0) ? 1 : 0;
+        return drawn;
+    };
+    EXPECT_EQ(corner(5), 0);
+    chart.window()->setAttribute(Qt::WA_KeyboardFocusChange); // as the Tab key leaves it
+    chart.setFocus();
+    chart.setCurrentIndex(chart.model()->index(5, 0));
+    EXPECT_GT(corner(5), 2);
+    EXPECT_EQ(corner(6), 0);
+    chart.setCurrentIndex(chart.model()->index(6, 0));
+    EXPECT_EQ(corner(5), 0);
+    EXPECT_GT(corner(6), 2);
+}
+
+TEST_F(DayChartTest, Days_FillTheWidthWithoutAGap) {
+    EXPECT_EQ(placeOf(0).left(), 0);
+    EXPECT_EQ(placeOf(29).right(), chart.viewport()->width() - 1);
+    for (int row = 0; row < 29; ++row)
+        EXPECT_EQ(placeOf(row).right() + 1, placeOf(row + 1).left()) << row;
+    EXPECT_EQ(placeOf(3).height(), chart.viewport()->height());
+    EXPECT_FALSE(chart.indexAt(QPoint(-1, 5)).isValid());
+    EXPECT_FALSE(chart.visualRect({}).isValid());
+    EXPECT_EQ(chart.height(), chart.sizeHint().height());
+    EXPECT_GE(chart.minimumSizeHint().width(), 2 * DayChart::cDays) << "a bar and a gap";
+    EXPECT_GE(chart.sizeHint().width(), chart.minimumSizeHint().width());
+    EXPECT_EQ(chart.sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    for (const auto bars : {chart.horizontalScrollBarPolicy(), chart.verticalScrollBarPolicy()})
+        EXPECT_EQ(bars, Qt::ScrollBarAlwaysOff);
+    EXPECT_FALSE(chart.horizontalHeader()->isVisibleTo(&chart));
+    EXPECT_FALSE(chart.verticalHeader()->isVisibleTo(&chart));
+    EXPECT_EQ(chart.frameWidth(), 0);
+    EXPECT_EQ(chart.editTriggers(), QAbstractItemView::NoEditTriggers);
+}
+
+TEST_F(DayChartTest, LittleThatArrived_IsMoreThanTheLineOfAnEmptyDay) {
+    chart.setDays({{cToday.addDays(-1), 1, 1, false}, {cToday, 1, 9'000'000'000, false}}, cToday);
+    const QImage image = chart.viewport()->grab().toImage();
+    EXPECT_EQ(bar(image, 28), 3);
+    const auto line = [&](int row) {
+        const QRgb colour = chart.palette().color(QPalette::Mid).rgb();
+        int sum = 0;
+        for (int y = 0; y < image.height(); ++y)
+            sum += image.pixel(placeOf(row).center().x(), y) == colour ? 1 : 0;
+        return sum;
+    };
+    EXPECT_EQ(line(27), 1);
+    EXPECT_EQ(line(28), 0);
+    // Bars stand apart, on one ground.
+    const int ground = image.height() - 2;
+    EXPECT_NE(image.pixel(placeOf(29).center().x(), ground),
+              image.pixel(placeOf(29).left(), ground));
+    EXPECT_EQ(bar(image, 29), image.height() - 7 - 2 - 1) << "the mark has room above";
+}
+
+TEST_F(DayChartTest, Description_NamesTheDayOfTheMost) {
+    EXPECT_EQ(chart.accessibleDescription().count(u"Today"), 1);
+    EXPECT_TRUE(chart.accessibleDescription().contains(
+        u". The most came on this day: Today, 3.0 GB, 1 movie. The arrow keys go"));
+    chart.setDays({}, cToday);
+    EXPECT_EQ(chart.accessibleDescription(),
+              u"Nothing has arrived. The arrow keys go from day to day.");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "app/window/window_actions.h"
 #include "fakes/view_controller_world.h"
 #include "settings/remote_account.h"
+#include "support/catalogue.h"
 #include "sync/rsync_command.h"
 #include "ui/activity_texts.h"
 #include "ui/widgets/activity_tab.h"
@@ -27,7 +28,6 @@
 #include <QRegularExpression>
 #include <QTabWidget>
 #include <QTranslator>
-#include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
 
@@ -35,8 +35,6 @@
 
 namespace kelvo {
 namespace {
-
-using Asked = std::pair<QString, QString>; ///< context and source
 
 QString text(const char* utf8) {
     return QString::fromUtf8(utf8);
@@ -69,22 +67,6 @@ public:
 QByteArray contents(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// All texts of the catalogues' sources.
-std::set<Asked> knownTexts() {
-    std::set<Asked> known;
-    QXmlStreamReader xml(contents(QStringLiteral(KELVO_TRANSLATIONS "/kelvo-mirror_de.ts")));
-    QString context;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == u"name")
-            context = xml.readElementText();
-        else if (xml.name() == u"source")
-            known.emplace(context, xml.readElementText());
-    }
-    return known;
 }
 
 QStringList finishedLanguages() {
@@ -189,7 +171,7 @@ protected:
 TEST_F(LanguageTest, EveryTextOfTheWindow_IsLookedUp) {
     const Marks marks;
     const auto window = makeWindow();
-    BonjourSheet sheet({defaults, mainQueue, console, dnssdBrowser}, window.get());
+    BonjourSheet sheet({defaults, mainQueue, bgQueue, console, dnssdBrowser}, window.get());
     sheet.show();
     const auto texts = textsOf(*window);
     EXPECT_GT(texts.size(), 400U);
@@ -206,23 +188,14 @@ TEST_F(LanguageTest, EveryTextOfTheWindow_IsLookedUp) {
 TEST_F(LanguageTest, EveryTextThatIsLookedUp_IsInTheCatalogues) {
     const Marks marks;
     const auto window = makeWindow();
-    BonjourSheet sheet({defaults, mainQueue, console, dnssdBrowser}, window.get());
+    BonjourSheet sheet({defaults, mainQueue, bgQueue, console, dnssdBrowser}, window.get());
     load();
     button.performClick();
     bgQueue.runAll();
     mainQueue.advance(30);
-    const std::set<Asked> known = knownTexts();
-    std::set<QString> contexts;
-    for (const auto& [context, source] : known)
-        contexts.insert(context);
     EXPECT_GT(marks.asked.size(), 200U);
-    for (const auto& [context, source] : marks.asked) {
-        const bool isOurs = contexts.contains(context) || context.startsWith(u"kelvo");
-        if (isOurs && context != u"FixedWords" && context != u"QObject") {
-            EXPECT_TRUE(known.contains({context, source}) || source.isEmpty())
-                << qPrintable(context) << ": " << qPrintable(source);
-        }
-    }
+    for (const auto& [context, source] : unknownAmong(marks.asked))
+        ADD_FAILURE() << qPrintable(context) << ": " << qPrintable(source);
 }
 
 TEST_F(LanguageTest, TextsFromBelow_AreTranslatedWhereTheyAreShown) {
@@ -245,7 +218,15 @@ TEST_F(LanguageTest, TextsFromBelow_AreTranslatedWhereTheyAreShown) {
         said << accountFault({.user = text("u"), .host = text(name)}, u"/k");
     said << commandFault(text("%@1 %@2"), {text("-s"), text("/d"), {}})
          << commandFault(text("%@1 %@2"), {text("/s"), text("-d"), {}})
-         << commandFault(text("%@1 %@2"), {text("/s"), text("h:d"), {}});
+         << commandFault(text("%@1 %@2"), {text("/s"), text("h:d"), {}})
+         << commandFault(text("%@1 %@2"), {text("ann@-h:/s"), text("/d"), {}});
+    for (const QChar sign : {QChar(u'\n'), QChar(0xd800)}) {
+        const QString odd = u'a' + QString(sign) + u'b';
+        said << commandFault(text("%@1 %@2"), {odd, text("/d"), {}})
+             << commandFault(text("%@1 %@2"), {text("/s"), odd, {}})
+             << accountFault({.user = odd, .host = text("h")}, u"/k")
+             << accountFault({.user = text("u"), .host = odd}, u"/k");
+    }
     for (const QString& english : said) {
         EXPECT_FALSE(english.isEmpty());
         EXPECT_NE(Words::shown(english), english);
@@ -355,6 +336,27 @@ TEST_F(LanguageTest, Catalogue_IsThatOfTheDearestLanguageThereIs) {
     EXPECT_EQ(found("zh-TW"), u"") << "written with other signs";
     EXPECT_EQ(found("ar-EG"), u"ar");
     EXPECT_EQ(catalogueFor({}), u"");
+}
+
+TEST_F(LanguageTest, Messages_AreThoseOfCWhereTheFirstVariableThatIsSetSaysSo) {
+    const QByteArrayList names{"LC_ALL", "LC_MESSAGES", "LANG"};
+    QByteArrayList before;
+    for (const QByteArray& name : names)
+        before.append(qgetenv(name));
+    const auto areC = [&names](const QByteArrayList& values) {
+        for (int i = 0; i < names.size(); ++i)
+            qputenv(names[i], values[i]);
+        return messagesAreC();
+    };
+    EXPECT_TRUE(areC({"", "", ""}));
+    EXPECT_TRUE(areC({"C", "de_DE.UTF-8", "de_DE.UTF-8"}));
+    EXPECT_FALSE(areC({"de_DE.UTF-8", "C", "C"}));
+    EXPECT_TRUE(areC({"", "POSIX", "de_DE.UTF-8"}));
+    EXPECT_FALSE(areC({"", "de_DE.UTF-8", "C"}));
+    EXPECT_TRUE(areC({"", "", "C.UTF-8"}));
+    EXPECT_FALSE(areC({"", "", "de_DE.UTF-8"}));
+    for (int i = 0; i < names.size(); ++i)
+        before[i].isNull() ? qunsetenv(names[i]) : qputenv(names[i], before[i]);
 }
 
 TEST_F(LanguageTest, Speak_TurnsTheWindowTheWayTheLanguageIsWritten) {

@@ -79,5 +79,42 @@ TEST_F(MutedHintsTest, TextThatIsPaleItself_StaysAsItIs) {
     EXPECT_EQ(mutedColor(Qt::red, Qt::red), QColor(Qt::red));
 }
 
+TEST_F(MutedHintsTest, Hint_IsAsMutedAsItMayBe) {
+    // In steps of five per cent of the ground, two fifths at most.
+    EXPECT_EQ(mutedColor(Qt::black, Qt::white), QColor(0x66, 0x66, 0x66));
+    EXPECT_EQ(mutedColor(Qt::white, Qt::black), QColor(0x99, 0x99, 0x99));
+    for (const Desktop& desktop : cDesktops) {
+        QColor expected = desktop.text;
+        for (int share = 5; share <= 40; share += 5) {
+            const auto mixed = [share](int text, int ground) {
+                return text + (ground - text) * share / 100;
+            };
+            const QColor muted(mixed(desktop.text.red(), desktop.ground.red()),
+                               mixed(desktop.text.green(), desktop.ground.green()),
+                               mixed(desktop.text.blue(), desktop.ground.blue()));
+            if (contrast(muted, desktop.ground) >= 4.5)
+                expected = muted;
+        }
+        EXPECT_EQ(mutedColor(desktop.text, desktop.ground), expected) << desktop.name;
+    }
+    // Each colour counts as the eye has it: the same light, one after the other.
+    for (const QColor& text : {QColor(0xb0, 0, 0), QColor(0, 0x70, 0), QColor(0, 0, 0xff),
+                               QColor(0x60, 0, 0x60), QColor(0x05, 0x05, 0x05)}) {
+        const QColor muted = mutedColor(text, Qt::white);
+        EXPECT_GE(contrast(muted, Qt::white), 4.5) << qPrintable(text.name());
+        const int share =
+            100 *
+            (muted.red() + muted.green() + muted.blue() - text.red() - text.green() - text.blue()) /
+            (3 * 255 - text.red() - text.green() - text.blue());
+        if (share < 38) {
+            const auto more = [share](int from) { return from + (255 - from) * (share + 6) / 100; };
+            EXPECT_LT(contrast(QColor(more(text.red()), more(text.green()), more(text.blue())),
+                               Qt::white),
+                      4.5)
+                << qPrintable(text.name()) << " could be more muted";
+        }
+    }
+}
+
 } // namespace
 } // namespace kelvo

@@ -6,8 +6,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QTest>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -143,6 +145,128 @@ TEST_F(PathControlViewTest, AsAPort_ItTakesAndGivesLocations) {
               (std::vector<PathControl::Item>{{QStringLiteral("/"), fileUrl(u"/")},
                                               {QStringLiteral("My Movies"), fileUrl(u"/My Movies")},
                                               {QStringLiteral("ü"), fileUrl(u"/My Movies/ü")}}));
+}
+
+TEST_F(PathControlViewTest, Parts_StandSideBySideWithASignBetween) {
+    view.setPath(QStringLiteral("/Users/near/My Movies"));
+    const auto place = [this](const char* part) {
+        return view.findChild<QToolButton*>(QString::fromLatin1(part))->geometry();
+    };
+    const int gap = place("part2").left() - place("part1").right() - 1;
+    EXPECT_EQ(place("part0").left(), 0);
+    EXPECT_EQ(place("part1").left(), place("part0").right() + 1) << "the root is a sign itself";
+    EXPECT_EQ(place("part3").left() - place("part2").right() - 1, gap);
+    EXPECT_GE(gap, view.fontMetrics().horizontalAdvance(u'/'));
+    const QImage image = view.grab().toImage();
+    const auto inked = [&](int from, int width) {
+        int sum = 0;
+        for (int x = from; x < from + width; ++x) {
+            for (int y = 0; y < image.height(); ++y)
+                sum += image.pixel(x, y) != image.pixel(view.width() - 1, 0) ? 1 : 0;
+        }
+        return sum;
+    };
+    EXPECT_GT(inked(place("part1").right() + 1, gap), 5) << "a stroke between two names";
+    EXPECT_GT(inked(place("part2").right() + 1, gap), 5);
+    EXPECT_EQ(inked(place("part3").right() + 1, gap), 0) << "none after the last";
+    view.setPath(QStringLiteral("/Users"));
+    const QImage shorter = view.grab().toImage();
+    EXPECT_EQ(shorter.copy(place("part1").right() + 1, 0, 200, shorter.height()),
+              shorter.copy(view.width() - 200, 0, 200, shorter.height()))
+        << "strokes go with their parts";
+}
+
+TEST_F(PathControlViewTest, RoomThatIsAskedFor_ShowsAllParts) {
+    view.setPath(QStringLiteral("/Users/near/My Movies/Features/2019"));
+    view.resize(view.sizeHint());
+    EXPECT_FALSE(hidden()->isVisible());
+    EXPECT_EQ(visibleParts().size(), 6);
+    EXPECT_GE(view.sizeHint().height(), hidden()->sizeHint().height());
+    EXPECT_LT(view.minimumSizeHint().width(), view.sizeHint().width());
+    EXPECT_EQ(view.minimumSizeHint().height(), view.sizeHint().height());
+    view.resize(view.minimumSizeHint());
+    EXPECT_TRUE(hidden()->isVisible());
+    view.setPath(QString());
+    EXPECT_GE(view.sizeHint().width(),
+              view.fontMetrics().horizontalAdvance(QStringLiteral("No folder")));
+    EXPECT_EQ(view.findChild<QLabel*>()->geometry(), view.rect());
+    EXPECT_EQ(view.findChild<QLabel*>()->textFormat(), Qt::PlainText);
+}
+
+TEST_F(PathControlViewTest, PartThatJustFits_IsShown) {
+    view.setPath(QStringLiteral("/one/two/three/four/five"));
+    for (int width = view.sizeHint().width(); width > view.minimumSizeHint().width(); --width) {
+        view.resize(width, 30);
+        const auto shown = visibleParts();
+        ASSERT_EQ(shown.size() + hidden()->menu()->actions().size(), 6) << width;
+        EXPECT_EQ(hidden()->isVisible(), shown.size() < 6) << width;
+        EXPECT_EQ(shown.last(), u"five") << width;
+        if (shown.size() <= 2)
+            break; // from here on the last one is cut
+        int used = 0;
+        for (const QToolButton* button : view.findChildren<QToolButton*>()) {
+            if (!button->isVisible())
+                continue;
+            EXPECT_TRUE(view.rect().contains(button->geometry())) << width;
+            EXPECT_GE(button->width(), button->sizeHint().width()) << "whole, at " << width;
+            used = std::max(used, button->geometry().right() + 1);
+        }
+        // The next one would not have fitted.
+        if (const auto left = hidden()->menu()->actions(); !left.isEmpty() && shown.size() > 1) {
+            const QString next = left.last()->text();
+            EXPECT_LT(width - used, view.fontMetrics().horizontalAdvance(next) + 40) << width;
+        }
+    }
+}
+
+TEST_F(PathControlViewTest, LargerLetters_GetMoreRoom) {
+    view.setPath(QStringLiteral("/Users/near"));
+    const auto* last = view.findChild<QToolButton*>(QStringLiteral("part2"));
+    const int before = last->width();
+    QFont large = view.font();
+    large.setPixelSize(40);
+    view.setFont(large);
+    EXPECT_GT(last->width(), before);
+    EXPECT_GE(last->width(), last->sizeHint().width());
+    EXPECT_TRUE(last->autoRaise());
+    EXPECT_EQ(last->focusPolicy(), Qt::StrongFocus);
+    EXPECT_EQ(hidden()->popupMode(), QToolButton::InstantPopup);
+    EXPECT_EQ(hidden()->text(), u"…");
+    EXPECT_EQ(last->accessibleDescription(), u"/Users/near");
+}
+
+TEST_F(PathControlViewTest, TabKey_GoesFromPartToPart) {
+    QWidget window;
+    QLineEdit before(&window);
+    PathControlView row(&window);
+    QLineEdit after(&window);
+    row.setPath(QStringLiteral("/one/two/three/four/five"));
+    row.resize(row.sizeHint().width() * 2 / 3, 30);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QStringList expected;
+    for (const QToolButton* button : row.findChildren<QToolButton*>()) {
+        if (button->isVisible() && button->objectName() != u"hiddenParts")
+            expected << button->accessibleName();
+    }
+    ASSERT_GT(expected.size(), 2);
+    expected.insert(1, QStringLiteral("Folders above"));
+    before.setFocus();
+    QStringList visited;
+    for (qsizetype i = 0; i < expected.size(); ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        visited << QApplication::focusWidget()->accessibleName();
+    }
+    EXPECT_EQ(visited, expected) << "as it is read";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(after.hasFocus());
+}
+
+TEST_F(PathControlViewTest, PathWithoutARoot_IsOnePart) {
+    view.setPath(QStringLiteral("box/Movies"));
+    EXPECT_EQ(visibleParts(), QStringList{QStringLiteral("box/Movies")});
+    view.setPath(QStringLiteral("/"));
+    EXPECT_EQ(visibleParts(), QStringList{QStringLiteral("/")});
 }
 
 } // namespace

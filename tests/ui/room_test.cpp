@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -203,6 +205,38 @@ TEST_F(RoomTest, WrappedText_LosesNoWord) {
     EXPECT_EQ(wrappedText(text, font, 10'000), text);
     EXPECT_EQ(wrappedText(text, font, 1), u"one\ntwo\nthree");
     EXPECT_EQ(wrappedText(QString(), font, 1), QString());
+}
+
+TEST_F(RoomTest, FrameOfABox_IsSeenOnADarkGroundOfTheToolkitsOwnStyle) {
+    const auto fusion = std::unique_ptr<QStyle>(QStyleFactory::create(QStringLiteral("fusion")));
+    const auto windows = std::unique_ptr<QStyle>(QStyleFactory::create(QStringLiteral("windows")));
+    const auto frameOn = [](int ground, const QStyle& style) {
+        QPalette palette;
+        palette.setColor(QPalette::WindowText, ground < 128 ? Qt::white : Qt::black);
+        palette.setColor(QPalette::Window, QColor(ground, ground, ground));
+        showFrame(palette, style);
+        return palette.color(QPalette::Window).red();
+    };
+    EXPECT_GT(frameOn(32, *fusion), 100);
+    EXPECT_GT(frameOn(127, *fusion), 127);
+    EXPECT_EQ(frameOn(128, *fusion), 128);
+    EXPECT_EQ(frameOn(240, *fusion), 240);
+    EXPECT_EQ(frameOn(32, *windows), 32);
+}
+
+TEST_F(RoomTest, WrappedText_FillsItsLinesAndKeepsTheSignForTheKey) {
+    const QFont font;
+    const QFontMetrics letters(font);
+    const QString text = QStringLiteral("one two three &four five");
+    const int width = letters.horizontalAdvance(QStringLiteral("one two three"));
+    const QStringList lines = wrappedText(text, font, width + 1).split(u'\n');
+    EXPECT_EQ(lines.first(), u"one two three");
+    EXPECT_EQ(lines.join(u' '), text) << "no blank at the ends of lines";
+    const int whole = letters.size(Qt::TextShowMnemonic, text).width();
+    EXPECT_EQ(wrappedText(text, font, whole), text);
+    EXPECT_NE(wrappedText(text, font, whole - 1), text);
+    EXPECT_EQ(wrappedText(text, font, 0), wrappedText(text, font, 1));
+    EXPECT_EQ(wrappedText(text, font, -5), wrappedText(text, font, 1));
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include "ui/widgets/sync_tab.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -488,6 +489,69 @@ TEST_F(SyncTabTest, SavedStatusText_StandsUntilTheFirstMessage) {
     EXPECT_EQ(shown->text(), u"Resting a bit ...") << "the text that is wiped takes none with it";
     const MainWindow last(defaults, mainQueue);
     EXPECT_EQ(last.findChild<QLabel*>(QStringLiteral("statusText"))->text(), u"");
+}
+
+TEST_F(SyncTabTest, Arrivals_AreFiveWholeLinesThatNeedNoScrolling) {
+    window.resize(760, 700);
+    record(
+        {"1.mkv", "2.mkv", "3.mkv", "4.mkv",
+         "A rather long name of a movie that has no room in one line, not even in a large window "
+         "with small letters, and least of all here.mkv"});
+    turn();
+    auto& list = child<QTreeWidget>("arrivals");
+    const QFontMetrics letters(list.font());
+    for (int i = 0; i < 5; ++i) {
+        const QRect place = list.visualItemRect(list.topLevelItem(i));
+        EXPECT_GT(place.height(), letters.lineSpacing()) << i;
+        EXPECT_TRUE(list.viewport()->rect().contains(place)) << i;
+        for (const int column : {0, 2})
+            EXPECT_TRUE(list.topLevelItem(i)->textAlignment(column) & Qt::AlignRight);
+    }
+    EXPECT_EQ(list.visualItemRect(list.topLevelItem(0)).left(), 0) << "no room for a tree's signs";
+    EXPECT_EQ(list.header()->length(), list.viewport()->width()) << "the names have the rest";
+    EXPECT_GE(list.columnWidth(0), letters.horizontalAdvance(list.topLevelItem(0)->text(0)));
+    EXPECT_GE(list.columnWidth(2), letters.horizontalAdvance(QStringLiteral("1.2 GB")));
+    EXPECT_FALSE(list.header()->isVisible());
+    EXPECT_FALSE(list.verticalScrollBar()->isVisible());
+    EXPECT_FALSE(list.horizontalScrollBar()->isVisible());
+    EXPECT_EQ(list.textElideMode(), Qt::ElideMiddle) << "an ending is worth reading";
+    EXPECT_TRUE(list.uniformRowHeights());
+    EXPECT_TRUE(list.allColumnsShowFocus());
+    EXPECT_EQ(list.accessibleName(), u"Movies that arrived last");
+    EXPECT_EQ(list.headerItem()->text(1), u"Name");
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Tab);
+    EXPECT_FALSE(list.hasFocus()) << "one stop of the Tab key";
+}
+
+TEST_F(SyncTabTest, ArrivalOfAnEarlierDay_IsToldByItsDate) {
+    PassRecord pass;
+    pass.cause = PassCause::Well;
+    pass.began = QDateTime(QDate(2026, 3, 1), QTime(12, 0));
+    pass.arrivals = {{.path = "/in/old.mkv", .size = 1, .arrived = pass.began}};
+    store.append(pass);
+    record({"new.mkv"});
+    turn();
+    const auto& list = child<QTreeWidget>("arrivals");
+    EXPECT_EQ(list.topLevelItem(1)->text(0),
+              QLocale().toString(QDate(2026, 3, 1), QLocale::ShortFormat));
+    EXPECT_EQ(list.topLevelItem(0)->text(0).count(u':'), 1) << "that of today by its time";
+}
+
+TEST_F(SyncTabTest, LargerLetters_GetHigherLines) {
+    record({"1.mkv", "2.mkv", "3.mkv", "4.mkv", "5.mkv", "6.mkv"});
+    turn();
+    auto& recent = window.syncTab().recentArrivals();
+    const int before = recent.height();
+    QFont large = recent.font();
+    large.setPixelSize(30);
+    recent.setFont(large);
+    turn();
+    EXPECT_GT(recent.height(), before);
+    auto& list = child<QTreeWidget>("arrivals");
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.topLevelItem(4))));
+    EXPECT_GE(list.visualItemRect(list.topLevelItem(0)).height(),
+              QFontMetrics(large).lineSpacing());
 }
 
 } // namespace

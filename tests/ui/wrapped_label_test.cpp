@@ -1,8 +1,5 @@
 // What a wrapped text measures, remembered or not.
-#include "ui/widgets/flow_layout.h"
 #include "ui/widgets/wrapped_label.h"
-
-#include <QPushButton>
 
 #include <gtest/gtest.h>
 
@@ -29,13 +26,15 @@ TEST(WrappedLabelTest, Heights_AreThoseOfTheTextAsItIs) {
             label.setTextInteractionFlags(Qt::TextSelectableByMouse);
         const auto check = [&label](const char* what) {
             for (int round = 0; round < 2; ++round) {
-                for (int width = 60; width <= 460; width += 80)
+                for (const int width : {4000, 900, 460, 380, 300, 220, 140, 60, 300, 2000, 3900})
                     EXPECT_EQ(label.heightForWidth(width), measured(label, width))
                         << what << ' ' << width;
             }
         };
         label.setText(cText);
         check("text");
+        label.setText(u"  \u202e" + cText + u'\n' + cText);
+        check("two lines");
         label.setText(cText + u' ' + cText);
         check("longer text");
         QFont large = label.font();
@@ -47,31 +46,22 @@ TEST(WrappedLabelTest, Heights_AreThoseOfTheTextAsItIs) {
     }
 }
 
+TEST(WrappedLabelTest, TextOfOneLine_BreaksWhereItsPlaceEnds) {
+    for (const QString& text : {cText, QString(cText + u' ' + cText), QStringLiteral("on")}) {
+        WrappedLabel label;
+        label.setText(text);
+        const int whole = label.fontMetrics().horizontalAdvance(text);
+        EXPECT_EQ(label.heightForWidth(10 * whole), measured(label, 10 * whole));
+        for (int width = whole + 20; width > whole - 20; --width)
+            EXPECT_EQ(label.heightForWidth(width), measured(label, width)) << width - whole;
+    }
+}
+
 TEST(WrappedLabelTest, Markup_IsText) {
     WrappedLabel label;
     label.setText(QStringLiteral("<b>one</b>"));
     EXPECT_EQ(label.textFormat(), Qt::PlainText);
     EXPECT_TRUE(label.wordWrap());
-}
-
-TEST(FlowLayoutTest, Height_FollowsWhatLiesInIt) {
-    QWidget row;
-    auto* text = new WrappedLabel(&row);
-    auto* button = new QPushButton(QStringLiteral("Choose"), &row);
-    auto& layout = *new FlowLayout(row);
-    const int asOne = layout.heightForWidth(2000);
-    const int broken = layout.heightForWidth(10);
-    EXPECT_GT(broken, asOne);
-    EXPECT_EQ(layout.heightForWidth(2000), asOne);
-    text->setText(cText.repeated(20));
-    EXPECT_GT(layout.heightForWidth(300), asOne) << "another text";
-    text->setText(QString());
-    button->setFixedHeight(300);
-    EXPECT_EQ(layout.heightForWidth(2000), 300) << "a higher button";
-    button->hide();
-    EXPECT_LT(layout.heightForWidth(2000), 300) << "none";
-    layout.addWidget(new QPushButton(QStringLiteral("Reveal")));
-    EXPECT_GE(layout.heightForWidth(2000), layout.itemAt(2)->sizeHint().height()) << "another one";
 }
 
 } // namespace

@@ -285,6 +285,22 @@ TEST_F(AppDelegateTest, ActionBeforeTheLaunch_MakesTheHandler) {
     EXPECT_TRUE(menu.shown.empty());
 }
 
+TEST_F(AppDelegateTest, EachStatusItemAction_IsPrintedBeforeItIsDone) {
+    for (const auto& [action, name] :
+         {std::pair(&AppDelegate::ibSetupStatusItemStuff, u"ibSetupStatusItemStuff(_:)"),
+          std::pair(&AppDelegate::ibRemoveStatusItemStuff, u"ibRemoveStatusItemStuff(_:)"),
+          std::pair(&AppDelegate::ibQuitAndRelaunch, u"ibQuitAndRelaunch(_:)")}) {
+        const auto delegate = makeDelegate();
+        console.clear();
+        ((*delegate).*action)(nullptr);
+        const QString in = QStringLiteral("Inside Kelvo_Mirror.AppDelegate->");
+        EXPECT_EQ(
+            lines().first(2),
+            (QStringList{QString(in + QStringView(name) + u".........."),
+                         QString(in + u"myStatusMenuHandler.......created handler = " + handler)}));
+    }
+}
+
 TEST_F(AppDelegateTest, LastWindowClosed_LeavesTheProgramRunning) {
     const auto delegate = makeDelegate();
     console.clear();

@@ -95,7 +95,10 @@ TEST_F(BonjourSelectionTest, Search_ShowsEverythingAfterOneSecond) {
     browser.announce(service(QStringLiteral("My Mac"), QStringLiteral("10.0.0.2")));
     browser.announce(service(QStringLiteral("Other"), QString()));
     browser.announce(service(QStringLiteral("Twin"), QStringLiteral("10.0.0.2")));
+    qsizetype linesBefore = 0;
+    browser.whenBrowsed = [&] { linesBefore = console.printed().size(); };
     selection.ibSearchBonjour();
+    EXPECT_EQ(linesBefore, 1);
     EXPECT_EQ(browser.browsed, QStringList{"_smb"});
     mainQueue.advance(0.99);
     EXPECT_EQ(contentSet, 0);
@@ -163,25 +166,65 @@ TEST(ServiceFilterTest, FirstRecordOfAnAddress_IsAdmitted) {
 }
 
 TEST(RecordTextsTest, DictionaryInOneLine) {
-    EXPECT_EQ(dictionaryText({}), u"[:]");
-    EXPECT_EQ(dictionaryText({{"name", "a\u202e\n"},
-                              {"available", true},
-                              {"hostPort", qlonglong{445}},
-                              {"dateAdded", QDateTime::fromSecsSinceEpoch(60, Qt::UTC)}}),
-              u"[\"available\": true, \"dateAdded\": 1970-01-01 00:01:00 +0000, "
-              "\"hostPort\": 445, \"name\": \"a\\u202e\\x0a\"]");
+    EXPECT_EQ(dictionaryText({.name = QStringLiteral("a\u202e\n"),
+                              .type = QStringLiteral("_smb._tcp"),
+                              .scheme = QStringLiteral("smb"),
+                              .domain = QStringLiteral("local"),
+                              .hostTarget = QStringLiteral("a.local"),
+                              .ip4Address = QStringLiteral("10.0.0.2"),
+                              .macAddress = QStringLiteral("00:11:22:33:44:55"),
+                              .fullName = QStringLiteral("a._smb._tcp.local"),
+                              .dateAdded = QDateTime({2026, 11, 29}, {18, 39, 58}, Qt::UTC),
+                              .interface = 3,
+                              .hostPort = 445,
+                              .available = true}),
+              u"[\"available\": true, \"dateAdded\": 2026-11-29 18:39:58 +0000, "
+              "\"domain\": \"local\", \"fullName\": \"a._smb._tcp.local\", \"hostPort\": 445, "
+              "\"hostTarget\": \"a.local\", \"interface\": 3, \"ip4Address\": \"10.0.0.2\", "
+              "\"macAddress\": \"00:11:22:33:44:55\", \"name\": \"a\\u202e\\x0a\", "
+              "\"scheme\": \"smb\", \"type\": \"_smb._tcp\"]");
+}
+
+TEST(RecordTextsTest, DateOfAnyYear_IsWrittenInFull) {
+    for (const auto& [year, text] :
+         {std::pair(987, "0987-06-05 04:03:02 +0000"), std::pair(2026, "2026-06-05 04:03:02 +0000"),
+          std::pair(12345, "12345-06-05 04:03:02 +0000")}) {
+        DNSSD_Service record;
+        record.dateAdded = QDateTime(QDate(year, 6, 5), QTime(4, 3, 2), Qt::UTC);
+        EXPECT_TRUE(dictionaryText(record).contains(
+            QString(u"\"dateAdded\": " + QString::fromLatin1(text) + u", \"domain\"")))
+            << year;
+    }
+}
+
+TEST(RecordTextsTest, DictionaryInOneLine_NamesWhatTheStoredOneHolds) {
+    const DNSSD_Service record;
+    const QString line = dictionaryText(record);
+    qsizetype from = 0;
+    for (const QString& key : record.asDictionary().value().keys()) {
+        const qsizetype place = line.indexOf(QString(u'"' + key + u"\": "), from);
+        EXPECT_GE(place, from) << key.toStdString() << " in its place in " << line.toStdString();
+        from = place;
+    }
+    EXPECT_EQ(line.count(u"\": "), record.asDictionary().value().size());
+    EXPECT_TRUE(line.startsWith(u"[\"available\": false, ")) << line.toStdString();
 }
 
 TEST(RecordTextsTest, Optionals) {
     EXPECT_EQ(listText(std::optional<DNSSD_Services>()), u"nil");
     EXPECT_EQ(listText(std::optional(DNSSD_Services())), u"Optional([])");
     EXPECT_EQ(countText(std::nullopt), u"nil");
-    EXPECT_EQ(tableText(std::nullopt), u"nil");
-    EXPECT_EQ(tableText(QMap<QString, QVariantMap>()), u"Optional([:])");
-    EXPECT_EQ(tableText(QMap<QString, QVariantMap>{{"1.2.3.4", {{"name", "a"}}}}),
+}
+
+TEST(RecordTextsTest, Table) {
+    const auto text = [](const QMap<QString, QString>& dictionaries) {
+        return tableText(dictionaries).join(QString());
+    };
+    EXPECT_EQ(text({}), u"Optional([:])");
+    EXPECT_EQ(text({{"1.2.3.4", "[\"name\": \"a\"]"}}),
               u"Optional([\"1.2.3.4\": [\"name\": \"a\"]])");
-    EXPECT_EQ(tableText(QMap<QString, QVariantMap>{{"1.2.3.4", {}}, {"1.2.3.5", {}}}),
-              u"Optional([\"1.2.3.4\": [:], \"1.2.3.5\": [:]])");
+    EXPECT_EQ(text({{"1.2.3.5", "[b]"}, {"1.2.3.4\u202e", "[a]"}}),
+              u"Optional([\"1.2.3.4\\u202e\": [a], \"1.2.3.5\": [b]])");
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "discovery/record_texts.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_browser.h"
@@ -6,6 +7,8 @@
 #include "support/array_controller.h"
 #include "support/stored_value.h"
 #include "ui/bonjour_view_controller.h"
+
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -37,6 +40,7 @@ protected:
         return {
             .defaults = defaults,
             .mainQueue = mainQueue,
+            .bgQueue = bgQueue,
             .console = console,
             .browser = browser,
             .fArrayController = rows,
@@ -72,6 +76,7 @@ protected:
 
     MemoryDefaults defaults;
     VirtualMainQueue mainQueue;
+    ManualBackgroundQueue bgQueue;
     RecordingConsole console;
     ScriptedBrowser browser;
     int dismissed = 0;
@@ -90,8 +95,10 @@ TEST_F(BonjourViewControllerTest, Loaded_ScansAfterATenthOfASecond) {
     EXPECT_TRUE(browser.browsed.isEmpty());
     mainQueue.advance(0.001);
     EXPECT_EQ(browser.browsed, QStringList{"_smb"});
+    console.clear();
     controller->handleDoubleClick();
-    EXPECT_EQ(count(line(u"handleDoubleClick().......")), 1);
+    EXPECT_EQ(console.printed().first(2),
+              (QStringList{line(u"handleDoubleClick()......."), line(u"ibSelectItem(_:).......")}));
     EXPECT_EQ(beeps, 1);
 }
 
@@ -198,6 +205,58 @@ TEST_F(BonjourViewControllerTest, SecondScan_LogsTheRowsOfTheFirst) {
               }));
 }
 
+TEST_F(BonjourViewControllerTest, LinesThatWereMadeAside_AreThoseOfTheRows) {
+    const auto lines = [this] {
+        console.clear();
+        scan();
+        return console.printed().filter(QRegularExpression(QStringLiteral("^d = ")));
+    };
+    const auto expected = [](std::initializer_list<int> numbers) {
+        QStringList all;
+        for (const int number : numbers) {
+            DNSSD_Service listed = computer(number);
+            listed.available = true;
+            all.append(u"d = " + dictionaryText(listed));
+        }
+        return all;
+    };
+    browser.announce(computer(1));
+    scan();
+    browser.announce(computer(2));
+    EXPECT_EQ(lines(), expected({1})) << "none are made yet";
+    bgQueue.runAll();
+    mainQueue.advance(0);
+    EXPECT_EQ(lines(), expected({2, 1}));
+    browser.announce(computer(3));
+    EXPECT_EQ(lines(), expected({2, 1}));
+    EXPECT_EQ(lines(), expected({3, 2, 1})) << "those that are made are of other rows";
+}
+
+TEST_F(BonjourViewControllerTest, Scan_BringsItsOwnRowsBackBeforeItTellsOfThem) {
+    browser.announce(service(QStringLiteral("My Mac"), QStringLiteral("10.0.0.2")));
+    scan();
+    rows->setContent(std::nullopt);
+    const auto selected = [this](qsizetype row) {
+        rows->setSelectionIndex(row);
+        console.clear();
+        scan();
+        return console.printed()[5];
+    };
+    const QString label =
+        QStringLiteral("ibShowBonjourListInfo(_:).......self.fArrayController.selectedObjects = ");
+    EXPECT_EQ(selected(0), line(QString(label + u"[DNSSD_Service(My Mac, , 10.0.0.2)]")));
+    EXPECT_EQ(selected(1), line(QString(label + u"[]"))) << "past the end";
+}
+
+TEST_F(BonjourViewControllerTest, ScanningSign_HasItsLineFirst) {
+    controller->ibSearchBonjour();
+    const std::size_t before = defaults.changes().size();
+    mainQueue.advance(0.1);
+    ASSERT_EQ(defaults.changes().size(), before + 2);
+    EXPECT_EQ(defaults.changes()[before].first, perfFirstLineMessage);
+    EXPECT_EQ(defaults.changes()[before + 1].first, prefScanningBonjour);
+}
+
 TEST_F(BonjourViewControllerTest, ClosedSheet_LetsTheScanRunToItsEnd) {
     browser.announce(computer(1));
     controller->viewDidLoad();
@@ -212,6 +271,12 @@ TEST_F(BonjourViewControllerTest, ClosedSheet_LetsTheScanRunToItsEnd) {
 }
 
 // -- one row an address
+
+TEST_F(BonjourViewControllerTest, ListBeforeAnyScan_IsEmpty) {
+    browser.announce(computer(1));
+    controller->ibUpdateFilteredList();
+    EXPECT_EQ(rows->content(), std::optional(DNSSD_Services()));
+}
 
 TEST_F(BonjourViewControllerTest, NewComputers_AreShownNewestFirst) {
     for (const int number : {1, 2, 3})
@@ -371,6 +436,7 @@ TEST_F(BonjourViewControllerTest, MissingOutlet_StopsTheProgram) {
     noTable.selectedRow = nullptr;
     const auto withoutTable = BonjourViewController::make(noTable);
     EXPECT_DEATH(withoutTable->viewDidLoad(), "^The list of services has no table\\.\n");
+    EXPECT_DEATH(withoutTable->ibSelectItem(), "^The list of services has no table\\.\n");
 }
 
 // -- the table's questions

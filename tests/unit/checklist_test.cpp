@@ -83,13 +83,15 @@ TEST(ChecklistTest, Key_IsALineUntilItIsAccepted) {
 TEST(ChecklistTest, EverythingMissing_IsListedInTheOrderOfSettingUp) {
     ChecklistFacts facts;
     facts.remote = true;
-    facts.key = KeyState::NotAccepted;
-    std::vector<Remedy> remedies;
-    for (const ChecklistLine& line : checklist(facts))
-        remedies.push_back(line.remedy);
     using enum Remedy;
-    EXPECT_EQ(remedies, (std::vector{ChooseMac, EnterAccount, SetUpKey, CopyInstallCommand,
-                                     ChooseDestination, CopyInstallCommand}));
+    for (const KeyState key : {KeyState::NoKey, KeyState::NotAccepted}) {
+        facts.key = key;
+        std::vector<Remedy> remedies;
+        for (const ChecklistLine& line : checklist(facts))
+            remedies.push_back(line.remedy);
+        EXPECT_EQ(remedies, (std::vector{ChooseMac, EnterAccount, SetUpKey, CopyInstallCommand,
+                                         ChooseDestination, CopyInstallCommand}));
+    }
 }
 
 // -- looking

@@ -85,6 +85,8 @@ TEST_F(ConnectionCheckTest, FillIn_LeavesPlaceholdersInValuesAlone) {
 TEST_F(ConnectionCheckTest, FillIn_LeavesTheHostAsItIsStored) {
     defaults.setObject(prefRemoteBonjourName, QStringLiteral(" host  "));
     EXPECT_EQ(filledIn(QStringLiteral("\"%@2\" %@2 x")), u"\" host  \" \\ host   x");
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral("(x) "));
+    EXPECT_EQ(filledIn(QStringLiteral("%@2x")), u"\\(x\\) x");
 }
 
 TEST_F(ConnectionCheckTest, FillIn_KeepsOddTextsInOneWord) {

@@ -88,6 +88,18 @@ TEST_F(ConnectionSharingTest, FirstPass_LogsInBesideItsCheckAndTheNextOnesNotAtA
     EXPECT_EQ(connection.closed, 0);
     EXPECT_EQ(shell.asked().back().variables.at(cControlVariable), "/run/connection");
     EXPECT_LE(connection.longestPatience, 1.0) << "no longer than a login takes";
+    connection.longestPatience = 0;
+    (void)sharing.run(PassStep::AskingTheMac, {.text = QStringLiteral("whoami")});
+    EXPECT_EQ(connection.longestPatience, 0) << "a check that need not wait does not";
+}
+
+TEST_F(ConnectionSharingTest, SlowLogin_IsWaitedForAsLongAsTheCheckBesideItTook) {
+    shell.answerTo(QStringLiteral("whoami"), [this](const QString&) {
+        clock += 4;
+        return cAnswer;
+    });
+    EXPECT_EQ(pass(), QStringLiteral("cPM"));
+    EXPECT_EQ(connection.longestPatience, 4);
 }
 
 TEST_F(ConnectionSharingTest, OtherSteps_NeverGoThroughIt) {
@@ -103,6 +115,10 @@ TEST_F(ConnectionSharingTest, PassBetweenTwoFolders_HasNothingToDoWithIt) {
     pass();
     (void)sharing.run(PassStep::Pull, {.text = QStringLiteral("pull")});
     EXPECT_EQ(waysSince(0), QStringLiteral("pcPMp"));
+    PassRecord broken;
+    broken.kind = PassKind::Plain;
+    broken.cause = PassCause::CutOff;
+    sharing.ended(broken);
     EXPECT_EQ(connection.closed, 0);
 }
 
@@ -110,6 +126,8 @@ TEST_F(ConnectionSharingTest, SwitchedOff_IsAsItWas) {
     defaults.setObject(prefKeepConnection, false);
     EXPECT_EQ(pass(), QStringLiteral("cpm"));
     EXPECT_TRUE(connection.opened.empty());
+    EXPECT_EQ(console.logged().filter(QStringLiteral("ends")), QStringList())
+        << "what was never there does not end";
     defaults.setObject(prefKeepConnection, true);
     EXPECT_EQ(pass(), QStringLiteral("cPM"));
     defaults.setObject(prefKeepConnection, false);
@@ -187,6 +205,8 @@ TEST_F(ConnectionSharingTest, PassThatWentBadly_EndsIt) {
         pass(cause);
         EXPECT_FALSE(connection.isOpen()) << static_cast<int>(cause);
     }
+    EXPECT_TRUE(console.logged().contains(
+        QStringLiteral("The connection to the Mac ends with a pass that did not go well.")));
 }
 
 TEST_F(ConnectionSharingTest, MacThatKeepsSilentOverIt_IsAskedAnewWithinThreeSeconds) {

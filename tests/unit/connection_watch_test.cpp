@@ -93,6 +93,31 @@ TEST_F(ConnectionWatchTest, Answer_IsNewerThanTheRecord) {
     EXPECT_TRUE(shown->letInBefore);
 }
 
+TEST_F(ConnectionWatchTest, AnswerThatComesBeforeTheRecordIsRead_Stays) {
+    pass(Well, true, QStringLiteral("bob@mac.local"));
+    pass(KeyRefused, false);
+    mainQueue.runDue();
+    connection.emplace(
+        ConnectionWatch::Parts{.defaults = defaults,
+                               .passes = store,
+                               .now = [this] { return now; },
+                               .keyState = KeyState::NotAsked,
+                               .show = [this](const Connection& all) { shown = all; }});
+    connection->answered({.target = cTarget, .cause = Well});
+    mainQueue.runDue();
+    EXPECT_EQ(shown, (Connection{.answer = HostAnswer{.target = cTarget, .cause = Well},
+                                 .asked = now,
+                                 .letInBefore = true}));
+}
+
+TEST_F(ConnectionWatchTest, PassThatWasEndedAtItsCheck_TellsNothing) {
+    for (const PassCause cause : {Interrupted, Cancelled}) {
+        pass(cause, false);
+        watch();
+        EXPECT_TRUE(!shown || !shown->answer) << static_cast<int>(cause);
+    }
+}
+
 TEST_F(ConnectionWatchTest, AnswerOfAnotherAccount_IsDropped) {
     watch();
     connection->answered({.target = QStringLiteral("ann@old.local"), .cause = Well});
@@ -139,6 +164,21 @@ TEST_F(ConnectionWatchTest, RecordThatComesAfterTheKeyHasChanged_IsDropped) {
                                .keyState = KeyState::NotAsked,
                                .show = [this](const Connection& all) { shown = all; }});
     connection->setKeyState(KeyState::NotAsked);
+    mainQueue.runDue();
+    EXPECT_EQ(shown, Connection());
+}
+
+TEST_F(ConnectionWatchTest, RecordThatIsBeingReadWhenTheKeyChanges_IsDropped) {
+    pass(Well, true);
+    mainQueue.runDue();
+    connection.emplace(
+        ConnectionWatch::Parts{.defaults = defaults,
+                               .passes = store,
+                               .now = [this] { return now; },
+                               .keyState = KeyState::NotAsked,
+                               .show = [this](const Connection& all) { shown = all; }});
+    // Behind the answer that says which pass to read, before the pass.
+    mainQueue.async([this] { connection->setKeyState(KeyState::NotAsked); });
     mainQueue.runDue();
     EXPECT_EQ(shown, Connection());
 }

@@ -31,7 +31,11 @@ protected:
 
 TEST_F(FolderSelectionTest, ChosenFolder_IsStoredUnderTheActionsOwnKey) {
     panel.answer = {true, {QStringLiteral("/Users/me/Movies")}};
+    QStringList printedBefore;
+    const Subscription stored = defaults.observe(
+        prefPath1, [&](const DefaultsChange&) { printedBefore = console.printed(); });
     selection.ibSelectFolder1Action(nullptr);
+    EXPECT_EQ(printedBefore, console.printed()) << "what comes of the choice is printed behind it";
     EXPECT_EQ(console.printed(), (QStringList{entry("ibSelectFolder1Action(_:)"),
                                               QStringLiteral("openDocument ViewController"),
                                               QStringLiteral("file selected: /Users/me/Movies")}));

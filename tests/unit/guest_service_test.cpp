@@ -13,7 +13,10 @@ namespace {
 class GuestServiceTest : public ::testing::Test, public ViewControllerWorld {
 protected:
     GuestServiceTest() {
-        workLooked = [this] { service.looked(); };
+        workLooked = [this] {
+            ++looks;
+            service.looked();
+        };
         messageShown = [this](const AttributedString& message) { service.messageShown(message); };
         alertShown = [this](const Alert& alert) { service.alertShown(alert); };
     }
@@ -53,6 +56,20 @@ protected:
         defaults.setObject(prefPath2, QStringLiteral("/to"));
     }
 
+    /// How often the work is looked at in ten seconds that nothing happens in.
+    int looksInTenSeconds() {
+        looks = 0;
+        for (int i = 0; i < 10; ++i) {
+            seconds += 1;
+            mainQueue.advance(1);
+        }
+        return looks;
+    }
+    qsizetype told(Guests::Id guest) const {
+        return static_cast<qsizetype>(guests.guests.at(guest).heard.size());
+    }
+
+    int looks = 0; ///< at the work, so far
     FakeGuests guests;
     GuestService service{{.guests = guests,
                           .controller = controller,
@@ -113,6 +130,17 @@ TEST_F(GuestServiceTest, StartAndStop_ClickTheButtonOnlyWhereItIsNeeded) {
     EXPECT_EQ(status().value(u"state"), QStringLiteral("finishing"));
 }
 
+TEST_F(GuestServiceTest, WhereSomethingIsMissing_APassHasToWait) {
+    load();
+    defaults.setKnown(false);
+    EXPECT_EQ(tell(CopyVerb::Start),
+              u"done: Syncing is on; a pass begins once what is missing is there.");
+    EXPECT_EQ(status().value(u"state"), QStringLiteral("missing"));
+    EXPECT_EQ(tell(CopyVerb::SyncNow), u"refused: A pass begins once what is missing is there.");
+    EXPECT_EQ(tell(CopyVerb::Stop), u"done: Syncing is off.");
+    EXPECT_EQ(status().value(u"state"), QStringLiteral("off"));
+}
+
 TEST_F(GuestServiceTest, StartBeforeTheStartAtLaunch_IsNotTurnedOverByIt) {
     plainPassIsSet();
     defaults.setObject(prefAutoStartScanOnLaunch, true);
@@ -154,6 +182,13 @@ TEST_F(GuestServiceTest, SyncNow_BeginsThePlannedPass) {
     EXPECT_EQ(passes.size(), 2U);
 }
 
+TEST_F(GuestServiceTest, SyncNowWithoutAPlan_IsRefused) {
+    load();
+    plainPassIsSet();
+    defaults.setObject(prefEnableScanning, true);
+    EXPECT_EQ(tell(CopyVerb::SyncNow), u"refused: No pass is planned at this moment.");
+}
+
 TEST_F(GuestServiceTest, Cancel_EndsThePassThatRuns) {
     load();
     plainPassIsSet();
@@ -165,16 +200,45 @@ TEST_F(GuestServiceTest, Cancel_EndsThePassThatRuns) {
     EXPECT_EQ(passes[0].cause, PassCause::Cancelled);
 }
 
+TEST_F(GuestServiceTest, CancelTwice_IsSaid) {
+    load();
+    plainPassIsSet();
+    files.folders = {QStringLiteral("/from"), QStringLiteral("/to")};
+    defaults.setObject(prefRsyncCommandString1, QStringLiteral("pull %@1 %@2"));
+    (void)tell(CopyVerb::Start);
+    QStringList said;
+    shell.answerTo(QStringLiteral("pull "), [&](const QString&) {
+        said = {tell(CopyVerb::Cancel), tell(CopyVerb::Cancel),
+                status().value(u"state").toString()};
+        return QString();
+    });
+    bgQueue.runAll();
+    EXPECT_EQ(said, (QStringList{QStringLiteral("done: The pass is being cancelled."),
+                                 QStringLiteral("done: The pass is being cancelled already."),
+                                 QStringLiteral("cancelling")}));
+}
+
 TEST_F(GuestServiceTest, NoRequest_IsRefusedInWords) {
     load();
-    for (const char* line :
-         {"", "{", "[]", "{}", "{\"protocol\":2,\"request\":\"stop\"}",
-          "{\"protocol\":\"1\",\"request\":\"stop\"}", "{\"protocol\":1}",
-          "{\"protocol\":1,\"request\":\"Stop\"}", "{\"protocol\":1,\"request\":[\"stop\"]}",
-          "{\"protocol\":1,\"request\":\"\\u001b[2J\"}", "{\xff\xfe"}) {
+    const char* const cNoObject = "A request is one JSON object on a line.";
+    const char* const cOtherProtocol = "This copy speaks protocol 1; a request has the member "
+                                       "\"protocol\" with that number.";
+    for (const auto& [line, words] :
+         {std::pair("", "A request has at most 65536 bytes."), std::pair("{", cNoObject),
+          std::pair("[]", cNoObject), std::pair("{\xff\xfe", cNoObject),
+          std::pair("{}", cOtherProtocol),
+          std::pair("{\"protocol\":2,\"request\":\"stop\"}", cOtherProtocol),
+          std::pair("{\"protocol\":\"1\",\"request\":\"stop\"}", cOtherProtocol),
+          std::pair("{\"protocol\":1}", "There is no request \"\"."),
+          std::pair("{\"protocol\":1,\"request\":\"Stop\"}", "There is no request \"Stop\"."),
+          std::pair("{\"protocol\":1,\"request\":[\"stop\"]}", "There is no request \"\"."),
+          std::pair("{\"protocol\":1,\"request\":\"\\u001b[2J\"}",
+                    "There is no request \"\\x1b[2J\"."),
+          std::pair("{\"protocol\":1,\"request\":\"0123456789012345678901234567890123456789more\"}",
+                    "There is no request \"0123456789012345678901234567890123456789\".")}) {
         const Guests::Id guest = guests.come(line);
         EXPECT_EQ(guests.answer(guest).value(u"event"), QStringLiteral("refused")) << line;
-        EXPECT_FALSE(guests.answer(guest).value(u"text").toString().contains(u'\x1b'));
+        EXPECT_EQ(guests.answer(guest).value(u"text"), QString::fromLatin1(words)) << line;
         EXPECT_TRUE(guests.guests.at(guest).dismissed);
     }
     EXPECT_EQ(button.clicks, 0);
@@ -193,10 +257,21 @@ TEST_F(GuestServiceTest, Follower_HearsStateMessagesAndAlerts) {
     mainQueue.advance(2);
     EXPECT_EQ(lastStatus(guest).value(u"state"), QStringLiteral("running"));
     EXPECT_TRUE(eventsOf(guest).contains(QStringLiteral("message"))) << "the status line";
+    const QString moment = now.toString(Qt::ISODateWithMs);
     service.alertShown({QStringLiteral("T"), QStringLiteral("x")});
-    EXPECT_EQ(guests.answer(guest).value(u"event"), QStringLiteral("alert"));
-    EXPECT_EQ(guests.answer(guest).value(u"title"), QStringLiteral("T"));
-    EXPECT_FALSE(guests.answer(guest).value(u"time").toString().isEmpty());
+    EXPECT_EQ(guests.answer(guest), (QJsonObject{{QStringLiteral("protocol"), 1},
+                                                 {QStringLiteral("event"), QStringLiteral("alert")},
+                                                 {QStringLiteral("title"), QStringLiteral("T")},
+                                                 {QStringLiteral("text"), QStringLiteral("x")},
+                                                 {QStringLiteral("time"), moment}}));
+    service.messageShown(getAttributedString(QStringLiteral("y"), StatusColor::Red, true));
+    EXPECT_EQ(guests.answer(guest),
+              (QJsonObject{{QStringLiteral("protocol"), 1},
+                           {QStringLiteral("event"), QStringLiteral("message")},
+                           {QStringLiteral("color"), QStringLiteral("red")},
+                           {QStringLiteral("text"), QStringLiteral("y")},
+                           {QStringLiteral("time"), moment}}));
+    EXPECT_EQ(guests.answer(follow()).value(u"time"), moment) << "the first answer too";
 }
 
 TEST_F(GuestServiceTest, Follower_HearsOfAPassThatHasEndedAsTheOneBefore) {
@@ -231,14 +306,113 @@ TEST_F(GuestServiceTest, AlertOfTheProgram_ReachesFollowers) {
 TEST_F(GuestServiceTest, NothingNew_IsNotTold) {
     load();
     const Guests::Id guest = follow();
-    service.looked();
-    service.looked();
-    const auto told = guests.guests.at(guest).heard.size();
     for (int i = 0; i < 10; ++i) {
         seconds += 10;
         service.looked();
     }
-    EXPECT_EQ(guests.guests.at(guest).heard.size(), told);
+    EXPECT_EQ(told(guest), 1) << "the status at the beginning";
+    button.performClick();
+    service.looked();
+    EXPECT_EQ(told(guest), 2);
+    service.looked();
+    EXPECT_EQ(told(guest), 2);
+}
+
+TEST_F(GuestServiceTest, FollowerWhoComesLater_KeepsNothingFromTheFirst) {
+    load();
+    const Guests::Id first = follow();
+    defaults.setObject(prefEnableScanning, false);
+    button.performClick();
+    const Guests::Id second = follow();
+    EXPECT_EQ(told(first), 1) << "nobody has looked yet";
+    service.looked();
+    EXPECT_EQ(told(first), 2);
+    EXPECT_EQ(lastStatus(first).value(u"state"), lastStatus(second).value(u"state"));
+}
+
+TEST_F(GuestServiceTest, TimeUntilTheNextPass_IsToldOnceAsItRuns) {
+    load();
+    plainPassIsSet();
+    defaults.setObject(prefDelayBetweenScans, 300.0);
+    (void)tell(CopyVerb::Start);
+    bgQueue.runAll();
+    mainQueue.advance(5);
+    ASSERT_EQ(status().value(u"state"), QStringLiteral("resting"));
+    const Guests::Id guest = follow();
+    ASSERT_FALSE(guests.answer(guest).value(u"nextPass").isNull());
+    seconds += 7;
+    service.looked();
+    EXPECT_EQ(told(guest), 1);
+    EXPECT_NE(status().value(u"nextPass"), guests.answer(guest).value(u"nextPass"))
+        << "it is told by the status";
+}
+
+TEST_F(GuestServiceTest, Progress_IsToldOnceASecondAtMost) {
+    load();
+    for (const QStringView key : {prefRemoteUsername, prefRemoteBonjourName, prefRemotePath})
+        defaults.setObject(key, QStringLiteral("x"));
+    defaults.setObject(prefSampleRemoteFullPath, QStringLiteral("x@x:Movies"));
+    defaults.setObject(prefPath2, QStringLiteral("/to"));
+    defaults.setObject(prefRsyncCommandString1, QStringLiteral("pull %@1 %@2"));
+    seconds = 0; // so that sums of it are exact
+    const Guests::Id guest = follow();
+    (void)tell(CopyVerb::Start);
+    const auto toldAt = [&](double moment) {
+        seconds = moment;
+        const qsizetype before = told(guest);
+        service.looked();
+        const QJsonObject last = guests.answer(guest);
+        return told(guest) == before
+                   ? QString()
+                   : QString(last.value(u"event").toString() + u' ' +
+                             last.value(u"pass").toObject().value(u"step").toString());
+    };
+    shell.answerTo(QStringLiteral("rsync"), [&](const QString&) {
+        EXPECT_EQ(toldAt(1.7), QString());
+        EXPECT_EQ(toldAt(1.9), u"progress movies");
+        return QString();
+    });
+    shell.answerTo(QStringLiteral("whoami"), [&](const QString&) {
+        EXPECT_EQ(toldAt(0), u"status asking-the-mac") << "it has begun";
+        EXPECT_EQ(toldAt(5), QString()) << "it is as far as it was";
+        return QStringLiteral("x");
+    });
+    shell.answerTo(QStringLiteral("pull "), [&](const QString&) {
+        EXPECT_EQ(toldAt(0.8), QString()) << "something has been told just now";
+        EXPECT_EQ(toldAt(0.9), u"progress pull");
+        return QString();
+    });
+    bgQueue.runAll();
+    EXPECT_GE(eventsOf(guest).count(QStringLiteral("progress")), 2);
+}
+
+TEST_F(GuestServiceTest, Work_IsLookedAtOftenOnlyWhileSomebodyFollows) {
+    (*view.attention) = {};
+    load();
+    plainPassIsSet();
+    if (*view.attention)
+        (*view.attention)(Attention::Unseen);
+    (void)tell(CopyVerb::Start);
+    (void)looksInTenSeconds();
+    EXPECT_LE(looksInTenSeconds(), 3);
+    const Guests::Id first = follow();
+    const Guests::Id second = follow();
+    EXPECT_GE(looksInTenSeconds(), 9);
+    guests.leave(first);
+    EXPECT_GE(looksInTenSeconds(), 9) << "one is left";
+    guests.leave(second);
+    (void)looksInTenSeconds();
+    EXPECT_LE(looksInTenSeconds(), 3);
+
+    const Guests::Id slow = follow();
+    const Guests::Id quick = follow();
+    guests.guests.at(slow).reads = false;
+    service.alertShown({QStringLiteral("T"), {}});
+    EXPECT_GE(looksInTenSeconds(), 9);
+    guests.guests.at(quick).reads = false;
+    service.alertShown({QStringLiteral("T"), {}});
+    (void)looksInTenSeconds();
+    EXPECT_LE(looksInTenSeconds(), 3);
 }
 
 TEST_F(GuestServiceTest, TooManyFollowers_AreRefusedUntilOneLeaves) {
@@ -248,9 +422,20 @@ TEST_F(GuestServiceTest, TooManyFollowers_AreRefusedUntilOneLeaves) {
         followers.push_back(follow());
     const Guests::Id more = follow();
     EXPECT_EQ(guests.answer(more).value(u"event"), QStringLiteral("refused"));
+    EXPECT_EQ(guests.answer(more).value(u"text"),
+              QStringLiteral("8 programs follow this copy already."));
     EXPECT_TRUE(guests.guests.at(more).dismissed);
     EXPECT_EQ(tell(CopyVerb::Stop), u"done: Syncing is off already.") << "others are answered";
     guests.leave(followers.front());
+    EXPECT_FALSE(guests.guests.at(follow()).dismissed);
+}
+
+TEST_F(GuestServiceTest, GuestsWhoReadNothing_TakeNobodysPlace) {
+    load();
+    guests.newcomersRead = false;
+    for (std::size_t i = 0; i < GuestService::cMostFollowers; ++i)
+        (void)follow();
+    guests.newcomersRead = true;
     EXPECT_FALSE(guests.guests.at(follow()).dismissed);
 }
 
@@ -262,6 +447,8 @@ TEST_F(GuestServiceTest, SlowFollower_IsToldAndForgotten) {
     service.alertShown({QStringLiteral("T"), {}});
     service.alertShown({QStringLiteral("U"), {}});
     EXPECT_EQ(guests.answer(slow).value(u"event"), QStringLiteral("dropped"));
+    EXPECT_EQ(guests.answer(slow).value(u"text"),
+              QStringLiteral("This program reads too slowly to follow."));
     EXPECT_EQ(eventsOf(slow).size(), 2) << "the status and the farewell";
     EXPECT_EQ(guests.answer(quick).value(u"title"), QStringLiteral("U"));
 }

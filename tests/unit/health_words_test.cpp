@@ -62,6 +62,7 @@ TEST_F(HealthWordsTest, LastSuccess_StandsBesideTrouble) {
                    "on Remote Login (System Settings, General, Sharing)."));
     EXPECT_EQ(trouble.matter, text("The Mac is there but refuses logins since 15:22 (6 passes)."));
     EXPECT_EQ(trouble.health.remedy, Remedy::CheckAgain);
+    EXPECT_EQ(trouble.health.cause, text("remote-login-off"));
     EXPECT_EQ(trouble.health.lastSuccess, text("Last success: 12 minutes ago, 3 files"));
 }
 
@@ -169,6 +170,16 @@ TEST_F(HealthWordsTest, WhatWasSetAside_IsSaidWithTheNameOfTheCopy) {
     EXPECT_EQ(words().remarks,
               (QStringList{text("The settings file was damaged. It is kept as /s.corrupt-1"),
                            text("The record of passes was damaged. It is kept as /p.corrupt-2")}));
+}
+
+TEST_F(HealthWordsTest, MatterThatIsNoPass_IsItsOwnCause) {
+    standing.fault = text("No space left on device");
+    const HealthWords said = words();
+    EXPECT_EQ(said.health.cause,
+              text("The record of passes cannot be kept: No space left on device"));
+    EXPECT_EQ(said.matter, said.health.cause);
+    beInTrouble(PassCause::DiskFull);
+    EXPECT_EQ(words().health.cause, text("disk-full")) << "the pass is nearer to the movies";
 }
 
 TEST_F(HealthWordsTest, RecordThatWasReplaced_IsSaid) {

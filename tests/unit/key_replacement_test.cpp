@@ -66,9 +66,15 @@ TEST_F(KeyReplacementTest, Question_SaysWhatBreaksAndNothingHappensBeforeTheAnsw
         settle();
         ASSERT_EQ(presenter.open.size(), 1U);
         const Alert& question = presenter.alerts.back();
-        EXPECT_TRUE(question.informativeText.contains(u"will not let Kelvo Mirror in"));
+        EXPECT_EQ(question.messageText, u"Make a new key?");
+        EXPECT_EQ(question.informativeText,
+                  u"The Mac will not let Kelvo Mirror in until the new key is installed there with "
+                  u"Set Up Key…, which asks for the password on the Mac. Until then no pass brings "
+                  u"movies.\n\nThe key of today is kept beside the new one, under a name with the "
+                  u"date, and is not used any more.");
         EXPECT_EQ(question.defaultButton, 1);
-        EXPECT_EQ(question.buttons.constLast(), u"Keep the Key");
+        EXPECT_EQ(question.buttons,
+                  (QStringList{QStringLiteral("Make a New Key"), QStringLiteral("Keep the Key")}));
         for (const ModalResponse other : {cAlertSecondButtonReturn, cModalResponseStop}) {
             answer(other);
             EXPECT_EQ(content(cPrivateKey), "old private");
@@ -110,7 +116,9 @@ TEST_F(KeyReplacementTest, WhatCannotBeKept_IsNotReplaced) {
         (controller.*action)(nullptr);
         answer(cAlertFirstButtonReturn);
         EXPECT_EQ(told(), u"The key was not replaced");
-        EXPECT_TRUE(presenter.alerts.back().informativeText.contains(u"Permission denied"));
+        EXPECT_EQ(presenter.alerts.back().informativeText,
+                  QString(u"The key of today could not be kept, so nothing was changed.\n\n" +
+                          keptPath + u".pub: Permission denied"));
         EXPECT_EQ(content(cPrivateKey), "old private");
         EXPECT_EQ(content(cPublicKey), "old public");
         EXPECT_FALSE(files.existing.contains(keptPath)) << "half a pair is not left beside it";
@@ -126,6 +134,23 @@ TEST_F(KeyReplacementTest, NoNewKey_PutsTheOldOneBack) {
     EXPECT_EQ(files.existing, (QSet<QString>{cPrivateKey, cPublicKey}));
     EXPECT_EQ(content(cPrivateKey), "old private");
     EXPECT_EQ(told(), u"No new key was made");
+    EXPECT_EQ(presenter.alerts.back().informativeText,
+              u"The key that was there before is in its place again.");
+}
+
+TEST_F(KeyReplacementTest, OldKeyThatCannotBePutBack_IsSaidWithItsPlace) {
+    shell.answerTo(QStringLiteral("ssh-keygen"), [this](const QString&) {
+        files.guarded = cPrivateKey;
+        return QString();
+    });
+    putPair();
+    controller.ibMakeNewKey(nullptr);
+    answer(cAlertFirstButtonReturn);
+    EXPECT_EQ(told(), u"No new key was made");
+    EXPECT_EQ(presenter.alerts.back().informativeText,
+              QString(u"The key that was there before could not be put back. It lies at " +
+                      keptPath + u".\n\n" + cPrivateKey + u": Permission denied"));
+    EXPECT_EQ(content(keptPath), "old private");
 }
 
 TEST_F(KeyReplacementTest, Cancel_PutsTheOldKeyBack) {

@@ -57,6 +57,14 @@ TEST_F(NotificationCenterTest, PostWithoutObservers_DoesNothing) {
     EXPECT_EQ(fHeard, "");
 }
 
+TEST_F(NotificationCenterTest, EndedSubscription_LetsGoOfItsHandler) {
+    const auto held = std::make_shared<int>();
+    auto observer = fCenter->observe(fName, [held](const Notification&) {});
+    EXPECT_EQ(held.use_count(), 2);
+    observer = {};
+    EXPECT_EQ(held.use_count(), 1);
+}
+
 TEST_F(NotificationCenterTest, EndedSubscription_HearsNothingMore) {
     auto a = fCenter->observe(fName, note("a"));
     fCenter->post(fName);

@@ -137,6 +137,7 @@ TEST(PassWordsTest, Figures_ReadWell) {
     EXPECT_EQ(secondsText(125), QStringLiteral("2 min 5 s"));
     EXPECT_EQ(secondsText(3599), QStringLiteral("59 min 59 s"));
     EXPECT_EQ(secondsText(3600), QStringLiteral("1 h 0 min"));
+    EXPECT_EQ(secondsText(7199), QStringLiteral("1 h 59 min"));
     EXPECT_EQ(secondsText(12000), QStringLiteral("3 h 20 min"));
     EXPECT_EQ(secondsText(-1), QStringLiteral("0 s"));
     EXPECT_EQ(agoText(59), QStringLiteral("just now"));

@@ -6,8 +6,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QScopeGuard>
 
 #include <gtest/gtest.h>
+
+#include <time.h>
 
 namespace kelvo {
 namespace {
@@ -52,6 +55,28 @@ TEST(MomentTest, DatesAndTimesBefore_AreRead) {
     EXPECT_EQ(momentText(QStringLiteral("30min")), QStringLiteral("2026-11-22T18:32:00"));
     EXPECT_EQ(momentText(QStringLiteral("2h")), QStringLiteral("2026-11-22T17:02:00"));
     EXPECT_EQ(momentText(QStringLiteral("3d")), QStringLiteral("2026-11-19T19:02:00"));
+}
+
+TEST(MomentTest, Spans_AreCountedInSeconds) {
+    EXPECT_EQ(spanFrom(QStringLiteral("30min")), 1800);
+    EXPECT_EQ(spanFrom(QStringLiteral("2h")), 7200);
+    EXPECT_EQ(spanFrom(QStringLiteral("3d")), 259'200);
+    EXPECT_EQ(spanFrom(QStringLiteral("3")), std::nullopt);
+    EXPECT_EQ(momentFrom(QStringLiteral("999999d"), cNow), cNow.addDays(-999'999));
+}
+
+TEST(MomentTest, PrintedMoment_IsLocalNamesItsZoneAndCanBeReadAgain) {
+    const QByteArray before = qgetenv("TZ");
+    const bool isSet = qEnvironmentVariableIsSet("TZ");
+    const auto putBack = qScopeGuard([&] {
+        isSet ? qputenv("TZ", before) : qunsetenv("TZ");
+        ::tzset();
+    });
+    qputenv("TZ", "<+0530>-5:30");
+    ::tzset();
+    const QDateTime moment(QDate(2026, 11, 20), QTime(22, 5, 9), Qt::UTC);
+    EXPECT_EQ(localTimeText(moment), u"2026-11-21T03:35:09+05:30");
+    EXPECT_EQ(momentFrom(localTimeText(moment), cNow), moment);
 }
 
 TEST(MomentTest, OtherTexts_AreNone) {
@@ -218,10 +243,29 @@ TEST(CommandLineTest, OptionsOfTheToolkit_AreHandedOnAsItTakesThem) {
     EXPECT_EQ(twice.window.valueOf(u"platform"), u"wayland");
     EXPECT_EQ(twice.window.valueOf(u"display"), u":1");
     EXPECT_EQ(twice.window.valueOf(u"style"), QString());
+    EXPECT_EQ(parseCommandLine(QStringLiteral("m -reverse").split(u' ')).window.valueOf(u"reverse"),
+              QString())
+        << "a switch has no value";
     EXPECT_EQ(parseCommandLine(QStringLiteral("m --set prefPath1 -reverse").split(u' ')).kind,
               LaunchKind::Settings);
     EXPECT_EQ(parseCommandLine(QStringLiteral("m -reverse --help").split(u' ')).kind,
               LaunchKind::PrintHelp);
+}
+
+TEST(CommandLineTest, EachOptionOfTheToolkit_IsKnown) {
+    const auto given = [](const QStringList& words) {
+        return parseCommandLine(QStringList{QStringLiteral("m")} + words).window.given;
+    };
+    for (const char* name : {"reverse", "widgetcount", "nograb", "dograb"}) {
+        const QString option = u'-' + QString::fromLatin1(name);
+        EXPECT_EQ(given({option}), QStringList{option});
+    }
+    for (const char* name : {"platform", "platformpluginpath", "platformtheme", "plugin", "session",
+                             "style", "stylesheet", "display", "geometry", "qwindowgeometry",
+                             "qwindowicon", "qwindowtitle", "icon", "title", "name"}) {
+        const QString option = u'-' + QString::fromLatin1(name);
+        EXPECT_EQ(given({option, QStringLiteral("x")}), (QStringList{option, QStringLiteral("x")}));
+    }
 }
 
 TEST(CommandLineTest, RunningCopy_IsAskedByTheNamesOfItsRequests) {
@@ -253,6 +297,17 @@ TEST(CommandLineTest, Help_NamesEveryOptionForPeople) {
         EXPECT_TRUE(line.message.contains(u"\n\nSettings:\n  --get <KEY>          Print a "
                                           u"setting.\n  --set <KEY> <VALUE>  Change a setting.\n"))
             << line.message.toStdString();
+        QStringList titles = line.message.split(u'\n').mid(2);
+        titles.removeIf([](const QString& each) { return each.isEmpty() || each[0] == u' '; });
+        EXPECT_EQ(
+            titles,
+            (QStringList{QStringLiteral("Without an option the window is shown. Other ways "
+                                        "to run passes:"),
+                         QStringLiteral("Ask and tell the copy that runs:"),
+                         QStringLiteral("The record:"), QStringLiteral("Settings:"),
+                         QStringLiteral("Set a Mac up:"), QStringLiteral("Several Macs:"),
+                         QStringLiteral("Form of the answers:"), QStringLiteral("The program:")}));
+        EXPECT_TRUE(line.message.contains(u"\n  -V, --version"));
         const QString plain = line.message.simplified();
         for (const Option& each : optionTable()) {
             const bool isShown = each.group != OptionGroup::Hidden;
@@ -260,7 +315,16 @@ TEST(CommandLineTest, Help_NamesEveryOptionForPeople) {
                 << qPrintable(each.name.toString());
             EXPECT_TRUE(plain.contains(each.help)) << qPrintable(each.name.toString());
         }
-        for (const QString& each : line.message.split(u'\n')) {
+        const QStringList lines = line.message.split(u'\n');
+        for (qsizetype i = 1; i < lines.size(); ++i) {
+            if (!lines[i].startsWith(QString(23, u' ')) || lines[i - 1].size() < 24 ||
+                lines[i - 1][22] != u' ')
+                continue;
+            EXPECT_NE(lines[i][23], u' ');
+            EXPECT_GT(lines[i - 1].size() + 1 + lines[i].sliced(23).section(u' ', 0, 0).size(), 80)
+                << "there was room for more: " << lines[i - 1].toStdString();
+        }
+        for (const QString& each : lines) {
             EXPECT_LE(each.size(), 80) << each.toStdString();
             EXPECT_FALSE(each.endsWith(u' ')) << each.toStdString();
         }

@@ -49,5 +49,11 @@ TEST_F(ProblemAlertTest, Raised_ClicksThenClearsThenAsks) {
     EXPECT_EQ(events.mid(2), QStringList{QStringLiteral("alert")});
 }
 
+TEST_F(ProblemAlertTest, RaisedWithoutAButton_StopsTheProgram) {
+    view.ibStartButton = nullptr;
+    problem.raise(HostVerdict::fromText(QStringLiteral("unknownerror")));
+    EXPECT_DEATH(mainQueue.advance(0.01), "^the start button is not there\n$");
+}
+
 } // namespace
 } // namespace kelvo

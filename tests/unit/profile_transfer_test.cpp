@@ -76,6 +76,7 @@ TEST(ProfileTransferTest, FileThatIsNone_IsRefused) {
           QByteArray("{\"kelvo-mirror-profile\": \"1\", \"settings\": {}}"), QByteArray(10000, '['),
           QByteArray("{\"kelvo-mirror-profile\": 1, \"settings\": [1]}")})
         EXPECT_EQ(faultOf(bytes), u"it is no exported profile") << bytes.left(60).constData();
+    EXPECT_EQ(faultOf(QByteArray(cLargestExport, ' ')), u"it is no exported profile");
     EXPECT_EQ(faultOf(QByteArray(cLargestExport + 1, ' ')), u"it is larger than 64 KiB");
     EXPECT_EQ(faultOf(QByteArray("{\"kelvo-mirror-profile\": 2, \"settings\": {}}")),
               u"a newer Kelvo Mirror has written it");
@@ -102,6 +103,16 @@ TEST(ProfileTransferTest, HostileFile_IsRefusedWithItsReason) {
                     "its prefRsyncCommandOptionTag is not a whole number"),
           std::pair("\"prefRsyncCommandOptionTag\": 1e300",
                     "its prefRsyncCommandOptionTag is not a whole number"),
+          std::pair("\"prefRsyncCommandOptionTag\": \"102\"",
+                    "its prefRsyncCommandOptionTag is not a whole number"),
+          // The largest number that a double is sure of is no tag, but a number.
+          std::pair("\"prefRsyncCommandOptionTag\": 9007199254740992",
+                    "its prefRsyncCommandOptionTag is not one of 100, 101, 102 and 105"),
+          std::pair("\"prefRsyncCommandOptionTag\": -9007199254740994",
+                    "its prefRsyncCommandOptionTag is not a whole number"),
+          std::pair("\"prefRemotePath\": \":module/x\"",
+                    "no pass could run with it: the source would be read as a module of an rsync "
+                    "daemon"),
           std::pair("\"prefRemotePath\": [\"a\"]",
                     "its prefRemotePath is not a text of at most 16 KiB"),
           std::pair("\"prefRemotePath\": \"a\\u0000b\"",
@@ -113,8 +124,11 @@ TEST(ProfileTransferTest, HostileFile_IsRefusedWithItsReason) {
         EXPECT_TRUE(
             faultOf(QString::fromLatin1(settings)).startsWith(u"no pass could run with it: "))
             << settings << faultOf(QString::fromLatin1(settings)).toStdString();
-    EXPECT_EQ(faultOf(QString(u"\"prefRemotePath\": \"" + QString(17000, u'a') + u'"')),
-              u"its prefRemotePath is not a text of at most 16 KiB");
+    const auto faultOfPath = [](qsizetype size) {
+        return faultOf(QString(u"\"prefRemotePath\": \"" + QString(size, u'a') + u'"'));
+    };
+    EXPECT_EQ(faultOfPath(16384), u"(imported)");
+    EXPECT_EQ(faultOfPath(16385), u"its prefRemotePath is not a text of at most 16 KiB");
 }
 
 TEST(ProfileTransferTest, Pieces_AreTheShellsWords) {
@@ -154,6 +168,56 @@ TEST(ProfileTransferTest, Preview_ShowsTheWholeCommandAndEverySetting) {
     EXPECT_TRUE(made.contains(factoryValue(*preference(prefRsyncCommandString1)).toString()));
 }
 
+TEST(ProfileTransferTest, Preview_MarksEachWordThatIsMoreToTheShell) {
+    const auto isMarked = [](const QString& command) {
+        const QString text = importPreview({{prefRsyncCommandString1.toString(), command}},
+                                           {.name = QStringLiteral("east")}, false);
+        const QString line = text.section(QStringLiteral("Its words:\n"), 1).section(u'\n', 0, 0);
+        EXPECT_TRUE(line.startsWith(u"    1  ")) << line.toStdString();
+        return line.endsWith(u"    <- more than a word to the shell");
+    };
+    for (const char* marked : {"a;b", "a|b", "a&b", "a<b", "a>b", "(a)", "a(b", "a)b", "{a", "a}",
+                               "`a`", "$a", "a\nb", "\"a`b`\"", "\"$a\"", "'a'$b"})
+        EXPECT_TRUE(isMarked(QString::fromLatin1(marked))) << marked;
+    for (const char* plain :
+         {"a", "~", "\"~\"", "'~'", "'$a;|&<>(){}`'", "\"a;|&<>(){}b\"", "-f'- a b'", "%@1"})
+        EXPECT_FALSE(isMarked(QString::fromLatin1(plain))) << plain;
+}
+
+TEST(ProfileTransferTest, Preview_IsTheseLines) {
+    const QString text =
+        importPreview({{prefRsyncCommandString1.toString(), QStringLiteral("rsync '%@1' %@2;x")},
+                       {prefDelayBetweenScans.toString(), 12.5},
+                       {prefKeepConnection.toString(), true}},
+                      {.name = QStringLiteral("east")}, false);
+    EXPECT_EQ(text, QStringLiteral(
+                        "The profile east will be made, with these settings:\n"
+                        "  prefDelayBetweenScans      12.5\n"
+                        "  prefRsyncCommandString1    \"rsync '%@1' %@2;x\"\n"
+                        "  prefRsyncCommandOptionTag  factory value\n"
+                        "  prefRsyncWithSSH           factory value\n"
+                        "  prefRemoteUsername         factory value\n"
+                        "  prefRemoteBonjourName      factory value\n"
+                        "  prefRemotePath             factory value\n"
+                        "  keepConnection             true\n"
+                        "  showNotices                factory value\n"
+                        "  showArrivals               factory value\n"
+                        "  prefAutoStartScanOnLaunch  factory value\n"
+                        "Each pass runs a command that is NOT the one that the program comes with, "
+                        "read by the shell:\n"
+                        "  rsync '%@1' %@2;x\n"
+                        "Its words:\n"
+                        "    1  rsync\n"
+                        "    2  '%@1'\n"
+                        "    3  %@2;x    <- more than a word to the shell\n"
+                        "In it %@1 stands for the folder on the Mac, %@2 for the destination here, "
+                        "%@98 for the\noptions of ssh, %@99 for the option.\n"))
+        << text.toStdString();
+    EXPECT_TRUE(importPreview({}, {.name = QStringLiteral("east")}, true)
+                    .contains(u"\nEach pass runs the command that the program comes with, read by "
+                              u"the shell:\n  /"));
+}
+
 class AnswerImportTest : public ::testing::Test {
 protected:
     CommandAnswer import(bool accept = false) {
@@ -185,19 +249,25 @@ TEST_F(AnswerImportTest, AcceptedOnTheTerminal_IsStored) {
     EXPECT_EQ(done.exitCode, 0) << done.errors.toStdString();
     ASSERT_EQ(asked.size(), 1);
     EXPECT_TRUE(asked[0].contains(u"ann"));
+    EXPECT_EQ(done.errors, QString());
     ASSERT_EQ(stored.size(), 1U);
     EXPECT_EQ(stored[0],
               (QVariantMap{{QStringLiteral("prefRemoteUsername"), QStringLiteral("ann")}}));
-    EXPECT_TRUE(done.output.contains(u"--profile east --set prefPath2"));
+    EXPECT_EQ(done.output, u"The profile east is imported. It needs a destination here: "
+                           u"kelvo-mirror --profile east --set prefPath2 FOLDER\n");
 }
 
 TEST_F(AnswerImportTest, NoTerminalOrNoYes_ChangesNothing) {
     answer = false;
-    EXPECT_EQ(import().exitCode, cExitNotAccepted);
+    const CommandAnswer declined = import();
+    EXPECT_EQ(declined.exitCode, cExitNotAccepted);
+    EXPECT_EQ(declined.errors, u"kelvo-mirror: nothing was imported.\n");
+    EXPECT_EQ(declined.output, QString()) << "it has been seen";
     answer.reset();
     const CommandAnswer untold = import();
     EXPECT_EQ(untold.exitCode, cExitNotAccepted);
-    EXPECT_TRUE(untold.errors.contains(u"--accept"));
+    EXPECT_EQ(untold.errors, u"kelvo-mirror: nothing was imported: there is no terminal to ask on. "
+                             u"--accept takes it over without a question.\n");
     EXPECT_TRUE(untold.output.contains(u"ann")) << "what it would have been";
     EXPECT_TRUE(stored.empty());
 }
@@ -216,7 +286,7 @@ TEST_F(AnswerImportTest, HostileOrUnstorable_IsSaid) {
     fault = QStringLiteral("no room.");
     const CommandAnswer full = import(true);
     EXPECT_EQ(full.exitCode, cExitNotStored);
-    EXPECT_TRUE(full.errors.contains(u"no room.\n"));
+    EXPECT_EQ(full.errors, u"kelvo-mirror: the profile could not be stored. no room.\n");
     EXPECT_FALSE(full.output.contains(u"is imported"));
     bytes = fileWith(QStringLiteral("\"prefPath2\": \"/etc\""));
     const CommandAnswer refused = import(true);

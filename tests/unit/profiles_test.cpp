@@ -26,7 +26,9 @@ TEST(ProfileTest, Names_AreLettersDigitsAndTwoSigns) {
     for (const auto& [name, sign] :
          {std::pair(u"a b", u" "), std::pair(u"..", u"."), std::pair(u"a/b", u"/"),
           std::pair(u"müll", u"ü"), std::pair(u"a\n", u"\\x0a"), std::pair(u"a\u0661", u"\u0661"),
-          std::pair(u"\U0001F3A5", u"\U0001F3A5"), std::pair(u"a%i", u"%")})
+          std::pair(u"\U0001F3A5", u"\U0001F3A5"), std::pair(u"a%i", u"%"), std::pair(u"a[", u"["),
+          std::pair(u"a@", u"@"), std::pair(u"a`", u"`"), std::pair(u"a{", u"{"),
+          std::pair(u"a:", u":")})
         EXPECT_EQ(profileNameFault(name), QString(u"it holds \"" + QStringView(sign) + u'"'));
 }
 
@@ -51,7 +53,7 @@ TEST(ProfileTest, FirstPasses_AreSpreadOverHalfAMinuteByTheNameAlone) {
         EXPECT_GE(moment, 0);
         EXPECT_LT(moment, cFirstPassSpread);
     }
-    EXPECT_EQ(named("mac7").firstPassDelay(), moments[6]) << "the same each time";
+    EXPECT_EQ(named("mac7").firstPassDelay(), 8.67) << "the same each time";
     std::ranges::sort(moments);
     for (std::size_t at = 4; at < moments.size(); ++at)
         EXPECT_GT(moments[at] - moments[at - 4], 1.0) << "no crowd at " << moments[at];

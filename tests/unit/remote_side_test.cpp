@@ -154,6 +154,17 @@ TEST_F(RemoteSideTest, UseSourceNow_DoesWhatANewUserNameDoes) {
               QStringLiteral("ann@mac.local:Clips"));
 }
 
+TEST_F(RemoteSideTest, ShareWithAPasswordButNoTerminal_ShowsTheCommand) {
+    shell.answerTo(QStringLiteral("gio mount"), QStringLiteral("Password: "));
+    controller.ibRevealSourcePathSMBdebug(nullptr);
+    settle();
+    ASSERT_EQ(terminal.windows.size(), 1U);
+    terminal.windows.front().ended(TerminalOutcome::NoWindow);
+    settle();
+    ASSERT_EQ(presenter.alerts.size(), 1U);
+    EXPECT_EQ(presenter.alerts.front().messageText, u"No Terminal Found");
+}
+
 TEST_F(RemoteSideTest, ShareWithoutAHost_Beeps) {
     defaults.removeObject(prefRemoteBonjourName);
     controller.ibRevealSourcePathSMB(nullptr);

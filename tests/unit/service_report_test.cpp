@@ -62,6 +62,16 @@ TEST_F(ServiceReportTest, SuccessOfAnotherDay_HasItsDateAndTroubleItsSentence) {
     EXPECT_EQ(serviceStatus(work, std::nullopt, now), QStringLiteral("Resting"));
 }
 
+TEST_F(ServiceReportTest, EachPhase_HasItsWords) {
+    for (const auto& [phase, words] :
+         {std::pair(WorkPhase::Off, u"Syncing is off"), std::pair(WorkPhase::Running, u"Syncing"),
+          std::pair(WorkPhase::Missing, u"Waiting for what is missing"),
+          std::pair(WorkPhase::Finishing, u"Finishing this pass"),
+          std::pair(WorkPhase::Cancelling, u"Cancelling this pass"),
+          std::pair(WorkPhase::Resting, u"Resting")})
+        EXPECT_EQ(serviceStatus(in(phase), std::nullopt, now), QStringView(words));
+}
+
 TEST_F(ServiceReportTest, RecordOfEarlierRuns_Counts) {
     passAt(QDateTime({2026, 11, 22}, {8, 1}), PassCause::Well);
     passAt(QDateTime({2026, 11, 22}, {8, 2}), PassCause::HostAway);
@@ -85,6 +95,7 @@ TEST_F(ServiceReportTest, SignsOfLife_ComeTwiceWithinThePatienceAndOnlyWhenWante
         mainQueue.advance(3000);
         EXPECT_EQ(told.count("WATCHDOG=1"), 13) << "it is on its way out";
         EXPECT_EQ(told.last(), "STOPPING=1");
+        EXPECT_FALSE(told.contains("STATUS=")) << "there was nothing to say";
     }
     mainQueue.advance(3000);
     told.clear();

@@ -3,11 +3,13 @@
 #include "fakes/fake_dialogue.h"
 #include "fakes/fake_file_manager.h"
 #include "fakes/fake_remote_side.h"
+#include "fakes/fake_ssh_configuration.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
 #include "settings/preference_keys.h"
+#include "ui/pass_words.h"
 
 #include <gtest/gtest.h>
 
@@ -54,6 +56,7 @@ protected:
         deeds.begin(answers, [this](const CommandAnswer& answer) {
             ++ends;
             end = answer;
+            saidBefore = dialogue.said.size();
         });
         settle();
     }
@@ -87,6 +90,7 @@ protected:
     Profile profile;
     SetupService service{
         {.mainQueue = mainQueue, .bgQueue = bgQueue, .commands = shell, .unit = profile.unit()}};
+    FakeSshConfiguration ssh;
     QStringList made;
     FileFault cannotMake;
     std::vector<bool> storedStarting;
@@ -96,6 +100,7 @@ protected:
                       .settings = settings,
                       .key = key,
                       .service = service,
+                      .ssh = ssh,
                       .makeFolder =
                           [this](const QString& path) {
                               made.append(path);
@@ -109,6 +114,7 @@ protected:
     SetupAnswers answers;
     int ends = 0;
     CommandAnswer end;
+    qsizetype saidBefore = 0; ///< lines that had been said when the set-up ended
 };
 
 TEST_F(SetupDeedsTest, KeyThatTheMacLetsIn_IsKeptAndNobodyIsAskedForAPassword) {
@@ -121,7 +127,17 @@ TEST_F(SetupDeedsTest, KeyThatTheMacLetsIn_IsKeptAndNobodyIsAskedForAPassword) {
     EXPECT_EQ(files.written[cKey], "old");
     EXPECT_EQ(storedStarting, std::vector{false});
     EXPECT_FALSE(ran(QStringLiteral("systemctl")));
-    EXPECT_TRUE(dialogue.said.contains(QStringLiteral("The Mac lets this program in.")));
+    EXPECT_EQ(end.errors, QString());
+    EXPECT_EQ(dialogue.said,
+              (QStringList{QStringLiteral("Asking mediauser on Remote-Mac.local …"),
+                           QStringLiteral("The Mac lets this program in."),
+                           QStringLiteral("The settings are stored."),
+                           QStringLiteral("What comes next:\n"
+                                          "  kelvo-mirror --once        one pass now\n"
+                                          "  kelvo-mirror --headless    pass after pass, once "
+                                          "prefAutoStartScanOnLaunch is set to true")}))
+        << dialogue.everything().toStdString();
+    EXPECT_EQ(saidBefore, dialogue.said.size()) << "nothing is said to nobody";
     EXPECT_TRUE(key.undo().isEmpty());
     EXPECT_TRUE(files.existing.contains(cKey)) << "it is not the set-up's to take away";
 }
@@ -131,6 +147,10 @@ TEST_F(SetupDeedsTest, MacThatDoesNotKnowTheKey_GetsItInThisTerminal) {
     ASSERT_EQ(terminal.windows.size(), 1U);
     EXPECT_TRUE(terminal.windows[0].command.startsWith(u"/usr/bin/ssh-copy-id"));
     EXPECT_TRUE(files.existing.contains(cPublic));
+    EXPECT_EQ(dialogue.said.value(1),
+              u"The key of this program is installed on the Mac now. ssh asks for the password of "
+              u"mediauser on Remote-Mac.local; it is kept nowhere. When the two machines meet for "
+              u"the first time it asks before that whether to go on connecting: answer yes.");
     EXPECT_TRUE(storedStarting.empty()) << "not before the Mac lets us in";
     letsIn();
     scriptEnds();
@@ -141,9 +161,14 @@ TEST_F(SetupDeedsTest, MacThatDoesNotKnowTheKey_GetsItInThisTerminal) {
 TEST_F(SetupDeedsTest, WrongPassword_StoresNothingUnlessAPersonWantsItSo) {
     begin();
     scriptEnds();
-    EXPECT_TRUE(dialogue.asked.last().startsWith(u"Store the settings all the same?"));
+    EXPECT_EQ(dialogue.lines.mid(2),
+              (QStringList{QString(wordsFor(PassCause::KeyRefused).sentence + u' ' +
+                                   wordsFor(PassCause::KeyRefused).nextStep),
+                           QStringLiteral("Store the settings all the same? The service is not "
+                                          "enabled then. [y/N] ")}));
     dialogue.answer("");
     EXPECT_EQ(end.exitCode, 12);
+    EXPECT_EQ(end.errors, u"kelvo-mirror: Nothing was changed.\n");
     EXPECT_TRUE(storedStarting.empty());
     EXPECT_TRUE(key.undo().isEmpty());
     EXPECT_FALSE(files.existing.contains(cKey)) << "the pair of this set-up goes";
@@ -152,13 +177,123 @@ TEST_F(SetupDeedsTest, WrongPassword_StoresNothingUnlessAPersonWantsItSo) {
 
 TEST_F(SetupDeedsTest, StoredAllTheSame_EnablesNothing) {
     answers.enable = true;
+    answers.sshLine = true;
     begin();
     scriptEnds();
-    dialogue.answer("yes");
+    dialogue.said.clear();
+    dialogue.answer(" YES ");
     EXPECT_EQ(end.exitCode, 12);
+    EXPECT_EQ(dialogue.said,
+              (QStringList{QStringLiteral("The settings are stored. Once the Mac can be reached: "
+                                          "kelvo-mirror --setup"),
+                           QStringLiteral("A line in /home/me/.ssh/config tells ssh of the "
+                                          "connection that passes share. What takes it away again: "
+                                          "kelvo-mirror --setup --no-share-connection")}));
+    EXPECT_EQ(saidBefore, 2) << "nothing is said to nobody";
     EXPECT_EQ(storedStarting, std::vector{false});
     EXPECT_FALSE(ran(QStringLiteral("systemctl")));
     EXPECT_TRUE(deeds.stored());
+    EXPECT_EQ(ssh.standing, SshConfiguration::Knows::ByTheLine) << "it was agreed to";
+}
+
+TEST_F(SetupDeedsTest, AnswerOfALetter_StoresThemToo) {
+    begin();
+    scriptEnds();
+    dialogue.answer("y");
+    EXPECT_TRUE(deeds.stored());
+}
+
+TEST_F(SetupDeedsTest, MacThatNoKeyCanMend_IsNotGivenOne) {
+    for (const char* said :
+         {"ssh: Could not resolve hostname remote-mac.local: Name or service "
+          "not known\n",
+          "ssh: connect to host remote-mac.local port 22: Connection refused\n"}) {
+        shell.answerTo(cTest, QString::fromLatin1(said), 255);
+        begin();
+        EXPECT_TRUE(dialogue.asked.last().startsWith(u"Store the settings all the same?")) << said;
+        EXPECT_FALSE(ran(QStringLiteral("ssh-keygen"))) << said;
+    }
+}
+
+TEST_F(SetupDeedsTest, MacThatWasNeverMet_GetsTheKeyInThisTerminal) {
+    shell.answerTo(cTest, QStringLiteral("Host key verification failed.\n"), 255);
+    begin();
+    EXPECT_EQ(terminal.windows.size(), 1U);
+}
+
+TEST_F(SetupDeedsTest, AccountThatCannotStandInACommand_IsNotAskedFor) {
+    settings.setObject(prefRemoteUsername, QStringLiteral("-l"));
+    begin();
+    EXPECT_EQ(dialogue.lines,
+              (QStringList{QStringLiteral("Asking -l on Remote-Mac.local …"),
+                           QStringLiteral("The Mac was not asked, because the user name begins "
+                                          "with \"-\"."),
+                           QStringLiteral("Store the settings all the same? The service is not "
+                                          "enabled then. [y/N] ")}));
+    EXPECT_FALSE(ran(cTest));
+}
+
+TEST_F(SetupDeedsTest, EndAtAnyTime_IsSaidAndChangesNothing) {
+    const auto isEnded = [this](const char* when) {
+        EXPECT_EQ(end.exitCode, 18) << when;
+        EXPECT_EQ(end.errors, u"kelvo-mirror: the set-up was ended. Nothing was changed.\n")
+            << when;
+        EXPECT_TRUE(storedStarting.empty()) << when;
+        end = {};
+    };
+    shell.givesUp = true;
+    begin();
+    isEnded("the first question");
+    shell.givesUp = false;
+    begin();
+    shell.givesUp = true;
+    scriptEnds();
+    isEnded("the second question");
+    shell.givesUp = false;
+    begin();
+    letsIn();
+    terminal.windows.back().ended(TerminalOutcome::Ended);
+    deeds.interrupt();
+    settle();
+    isEnded("Ctrl+C while the Mac is asked again");
+    begin();
+    isEnded("Ctrl+C while the Mac is asked");
+    EXPECT_EQ(ends, 4);
+}
+
+TEST_F(SetupDeedsTest, ScriptThatCannotBeStarted_IsSaid) {
+    begin();
+    terminal.windows.at(0).ended(TerminalOutcome::NoWindow);
+    settle();
+    EXPECT_EQ(end.exitCode, 12);
+    EXPECT_EQ(end.errors, u"kelvo-mirror: the key was not installed: its installation could not be "
+                          u"started. Nothing was changed.\n");
+    // The next one that comes to nothing is noticed all the same.
+    files.temporary = {{}, QStringLiteral("no place")};
+    begin();
+    EXPECT_EQ(ends, 2);
+}
+
+TEST_F(SetupDeedsTest, Undo_TakesAwayOnlyWhatTheSetUpMade) {
+    shell.answerTo(QStringLiteral("ssh-keygen"), [this](const QString&) {
+        files.existing += {cKey, cPublic};
+        return QString();
+    });
+    begin();
+    scriptEnds();
+    files.guarded = cPublic;
+    EXPECT_EQ(key.undo(), QString(cPublic + u": Permission denied"));
+    files.guarded.clear();
+    files.existing += {cKey, cPublic};
+    EXPECT_EQ(key.undo(), QString());
+    EXPECT_TRUE(files.existing.contains(cKey)) << "somebody else's by now";
+}
+
+TEST_F(SetupDeedsTest, UndoOfHalfAPair_TakesThatHalfAway) {
+    begin();
+    files.existing.remove(cKey);
+    EXPECT_EQ(key.undo(), QString());
+    EXPECT_FALSE(files.existing.contains(cPublic));
 }
 
 TEST_F(SetupDeedsTest, NewKey_KeepsTheOldOneAndGivesItBackWhenNothingComesOfIt) {
@@ -186,7 +321,10 @@ TEST_F(SetupDeedsTest, NewKeyThatTheMacTakes_TellsWhereTheOldOneIs) {
     begin();
     scriptEnds();
     EXPECT_EQ(end.exitCode, 0);
-    EXPECT_TRUE(dialogue.everything().contains(key.keptPath()));
+    EXPECT_EQ(dialogue.said.mid(2, 3),
+              (QStringList{QStringLiteral("The Mac lets this program in."),
+                           QString(u"The key of before is kept at " + key.keptPath()),
+                           QStringLiteral("The settings are stored.")}));
 }
 
 TEST_F(SetupDeedsTest, KeyThatCannotBeKept_IsNotReplaced) {
@@ -195,8 +333,10 @@ TEST_F(SetupDeedsTest, KeyThatCannotBeKept_IsNotReplaced) {
     files.guarded = QString(cKey + u"-2026-11-22T08-30-00");
     begin();
     EXPECT_EQ(end.exitCode, 12);
-    EXPECT_TRUE(end.errors.contains(u"the key of today could not be kept"))
-        << end.errors.toStdString();
+    EXPECT_EQ(end.errors, QString(u"kelvo-mirror: the key was not installed: the key of today "
+                                  u"could not be kept (" +
+                                  files.guarded + u": Permission denied). Nothing was changed.\n"));
+    EXPECT_EQ(saidBefore, dialogue.said.size());
     EXPECT_EQ(files.written[cKey], "old");
     EXPECT_TRUE(terminal.windows.empty());
 }
@@ -205,7 +345,9 @@ TEST_F(SetupDeedsTest, NoSafePlaceForTheScript_IsAnEndToo) {
     files.temporary = {{}, QStringLiteral("no place")};
     begin();
     EXPECT_EQ(end.exitCode, 12);
-    EXPECT_TRUE(end.errors.contains(u"no safe place")) << end.errors.toStdString();
+    EXPECT_EQ(end.errors, u"kelvo-mirror: the key was not installed: it could not be made, or "
+                          u"there is no safe place for the script that installs it. Nothing was "
+                          u"changed.\n");
     EXPECT_EQ(ends, 1);
 }
 
@@ -236,7 +378,10 @@ TEST_F(SetupDeedsTest, NewKeyWithoutATerminal_IsAFailureAlthoughTheOldOneIsGood)
     dialogue.isThere = false;
     begin();
     EXPECT_EQ(end.exitCode, 12);
-    EXPECT_TRUE(end.errors.contains(u"asked in a terminal, and there is none"));
+    EXPECT_EQ(end.errors,
+              u"kelvo-mirror: The Mac lets this program in. The key of this program is installed "
+              u"there with the password of the account, which is asked in a terminal, and there is "
+              u"none. Nothing was changed.\n");
     EXPECT_FALSE(deeds.stored());
 }
 
@@ -248,8 +393,11 @@ TEST_F(SetupDeedsTest, MacThatIsNotThere_IsNamedWithItsOwnCode) {
                    255);
     begin();
     EXPECT_EQ(end.exitCode, 10);
-    EXPECT_TRUE(end.errors.endsWith(u"Nothing was changed.\n")) << end.errors.toStdString();
+    EXPECT_EQ(end.errors,
+              QString(u"kelvo-mirror: " + wordsFor(PassCause::HostNotFound).sentence + u' ' +
+                      wordsFor(PassCause::HostNotFound).nextStep + u" Nothing was changed.\n"));
     EXPECT_FALSE(ran(QStringLiteral("ssh-keygen")));
+    EXPECT_TRUE(dialogue.asked.isEmpty());
 }
 
 TEST_F(SetupDeedsTest, Folder_IsMadeBeforeTheSettingsPointToIt) {
@@ -259,6 +407,8 @@ TEST_F(SetupDeedsTest, Folder_IsMadeBeforeTheSettingsPointToIt) {
     begin();
     EXPECT_EQ(made, QStringList{QStringLiteral("/Incoming")});
     EXPECT_EQ(end.exitCode, 14);
+    EXPECT_EQ(end.errors, u"kelvo-mirror: the folder could not be made: Permission denied. Nothing "
+                          u"was changed.\n");
     EXPECT_TRUE(storedStarting.empty());
 }
 
@@ -268,9 +418,71 @@ TEST_F(SetupDeedsTest, SettingsThatCannotBeStored_EnableNothing) {
     cannotStore = QStringLiteral("the disk is full");
     begin();
     EXPECT_EQ(end.exitCode, 1);
-    EXPECT_TRUE(end.errors.contains(u"the disk is full"));
+    EXPECT_EQ(end.errors, u"kelvo-mirror: the settings could not be stored: the disk is full\n");
     EXPECT_FALSE(ran(QStringLiteral("systemctl")));
     EXPECT_FALSE(deeds.stored());
+}
+
+TEST_F(SetupDeedsTest, SshIsToldOnceTheMacLetsUsIn_AndWhatTakesItBackIsSaid) {
+    answers.sshLine = true;
+    begin();
+    EXPECT_EQ(ssh.standing, SshConfiguration::Knows::NotYet) << "not before";
+    letsIn();
+    scriptEnds();
+    EXPECT_EQ(end.exitCode, 0);
+    EXPECT_EQ(ssh.standing, SshConfiguration::Knows::ByTheLine);
+    EXPECT_TRUE(dialogue.everything().contains(u"kelvo-mirror --setup --no-share-connection"));
+    dialogue.said.clear();
+    begin();
+    EXPECT_FALSE(dialogue.everything().contains(u"no-share")) << "it was there";
+    answers.sshLine = false;
+    begin();
+    EXPECT_EQ(end.exitCode, 0);
+    EXPECT_EQ(ssh.standing, SshConfiguration::Knows::NotYet);
+    EXPECT_TRUE(
+        dialogue.said.contains(QStringLiteral("The line in /home/me/.ssh/config is taken away.")));
+    dialogue.said.clear();
+    begin();
+    EXPECT_FALSE(dialogue.everything().contains(u"taken away")) << "there was none";
+}
+
+TEST_F(SetupDeedsTest, SshThatCannotBeTold_IsAFailureThatStopsNothingElse) {
+    letsIn();
+    answers.sshLine = true;
+    answers.enable = true;
+    ssh.fault = QStringLiteral("Permission denied\n");
+    begin();
+    EXPECT_EQ(end.exitCode, 1);
+    EXPECT_TRUE(deeds.stored());
+    EXPECT_TRUE(ran(QStringLiteral("systemctl --user enable")));
+    EXPECT_TRUE(dialogue.said.contains(
+        QStringLiteral("/home/me/.ssh/config was not changed: Permission denied\\x0a")))
+        << dialogue.everything().toStdString();
+}
+
+TEST_F(SetupDeedsTest, SshThatCannotBeTold_IsAFailureWithoutAServiceToo) {
+    letsIn();
+    answers.sshLine = true;
+    ssh.fault = QStringLiteral("no");
+    begin();
+    EXPECT_EQ(end.exitCode, 1);
+}
+
+TEST_F(SetupDeedsTest, SshThatNobodySpokeOf_StaysAsItIs) {
+    letsIn();
+    ssh.standing = SshConfiguration::Knows::ByTheLine;
+    begin();
+    EXPECT_EQ(ssh.standing, SshConfiguration::Knows::ByTheLine);
+    EXPECT_FALSE(dialogue.everything().contains(u"/.ssh/config"));
+}
+
+TEST_F(SetupDeedsTest, SshThatTheMachineTells_NeedsNoLine) {
+    letsIn();
+    answers.sshLine = true;
+    ssh.standing = SshConfiguration::Knows::ByTheMachine;
+    begin();
+    EXPECT_EQ(end.exitCode, 0);
+    EXPECT_EQ(ssh.standing, SshConfiguration::Knows::ByTheMachine);
 }
 
 TEST_F(SetupDeedsTest, Service_IsEnabledAndLingersOnlyWhenAgreed) {
@@ -288,11 +500,24 @@ TEST_F(SetupDeedsTest, Service_IsEnabledAndLingersOnlyWhenAgreed) {
                        "  journalctl --user -u kelvo-mirror -f    what it does\n"
                        "  kelvo-mirror --passes                   what it has done")))
         << dialogue.everything().toStdString();
+    EXPECT_EQ(saidBefore, dialogue.said.size());
     answers.linger = true;
     begin();
     EXPECT_TRUE(ran(QStringLiteral("loginctl enable-linger")));
     EXPECT_TRUE(dialogue.everything().contains(u"enabled and runs. It will run from the start of "
                                                u"the machine on."));
+}
+
+TEST_F(SetupDeedsTest, ServiceThatDoesNotRunThen_SaysWhereToLook) {
+    letsIn();
+    answers.enable = true;
+    shell.answerTo(QStringLiteral("is-active"), QStringLiteral("activating\n"), 3);
+    begin();
+    EXPECT_EQ(end.exitCode, 0);
+    EXPECT_TRUE(dialogue.everything().contains(
+        u"The service kelvo-mirror is enabled, but does not run now: perhaps another copy does. "
+        u"See systemctl --user status kelvo-mirror\n"))
+        << dialogue.everything().toStdString();
 }
 
 TEST_F(SetupDeedsTest, ServiceThatCannotBeEnabled_SaysItsLastLine) {
@@ -306,6 +531,54 @@ TEST_F(SetupDeedsTest, ServiceThatCannotBeEnabled_SaysItsLastLine) {
     EXPECT_TRUE(dialogue.everything().contains(u"Failed to connect to bus\\x1b[31m"));
     EXPECT_FALSE(ran(QStringLiteral("enable-linger")));
     EXPECT_TRUE(deeds.stored());
+}
+
+TEST_F(SetupDeedsTest, LingeringThatOnlyRootMaySwitchOn_SaysHow) {
+    letsIn();
+    answers.enable = true;
+    answers.linger = true;
+    shell.answerTo(QStringLiteral("enable-linger"),
+                   QStringLiteral("Could not enable linger: Access denied\n"), 1);
+    begin();
+    EXPECT_EQ(end.exitCode, 1);
+    EXPECT_TRUE(dialogue.everything().contains(u"sudo loginctl enable-linger $USER."));
+    EXPECT_TRUE(dialogue.everything().contains(u"Could not enable linger: Access denied"));
+}
+
+TEST_F(SetupDeedsTest, Service_IsSpokenToInTheseWords) {
+    letsIn();
+    answers.enable = answers.linger = true;
+    shell.answerTo(QStringLiteral("enable-linger"), QStringLiteral("one\nAccess denied\n"), 1);
+    begin();
+    EXPECT_TRUE(dialogue.said.contains(
+        QStringLiteral("The service kelvo-mirror is enabled and runs. Lingering could not be "
+                       "switched on, so it runs only while you are logged in. Who may act as root "
+                       "can do it: sudo loginctl enable-linger $USER. The last line was: Access "
+                       "denied")))
+        << dialogue.everything().toStdString();
+    shell.answerTo(QStringLiteral("user enable"), QStringLiteral("one\nno bus\n"), 1);
+    begin();
+    EXPECT_TRUE(dialogue.said.contains(
+        QStringLiteral("The service could not be enabled. The last line was: no bus")));
+    service.look([](const ServiceFacts&) {});
+    settle();
+    QStringList asked;
+    for (const Command& each : shell.asked()) {
+        if (each.text.contains(u"ctl "))
+            asked.append(QString::number(each.seconds.value_or(0)) + u": " + each.text);
+    }
+    const QString enable =
+        QStringLiteral("60: systemctl --user enable kelvo-mirror.service 2>&1 && systemctl --user "
+                       "restart kelvo-mirror.service 2>&1");
+    EXPECT_EQ(asked,
+              (QStringList{enable,
+                           QStringLiteral("60: systemctl --user is-active kelvo-mirror.service "
+                                          "2>&1"),
+                           QStringLiteral("60: loginctl enable-linger 2>&1"), enable,
+                           QStringLiteral("10: systemctl --user show-environment >/dev/null 2>&1 "
+                                          "&& systemctl --user cat kelvo-mirror.service >/dev/null "
+                                          "2>&1 || exit 1; loginctl show-user \"$(id -u)\" "
+                                          "--property=Linger --value 2>/dev/null || true")}));
 }
 
 class SetupOfAProfileTest : public SetupDeedsTest {

@@ -1,6 +1,7 @@
 #include "app/commands/setup_questions.h"
 #include "fakes/fake_dialogue.h"
 #include "fakes/fake_file_manager.h"
+#include "fakes/fake_ssh_configuration.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_browser.h"
@@ -30,9 +31,11 @@ class SetupQuestionsTest : public ::testing::Test {
 protected:
     SetupQuestionsTest() {
         stored.registerDefaults({{prefRemotePath.toString(), QStringLiteral("Movies")},
+                                 {prefKeepConnection.toString(), true},
                                  {prefRsyncCommandString1.toString(),
                                   factoryValue(*preference(prefRsyncCommandString1))}});
         files.folders = {QStringLiteral("/Users/localuser"), cIncoming};
+        ssh.standing = SshConfiguration::Knows::ByTheMachine;
     }
 
     void begin(const SetupRequest& request = {}) {
@@ -40,6 +43,7 @@ protected:
                                                 .settings = settings,
                                                 .files = files,
                                                 .macs = macs,
+                                                .ssh = ssh,
                                                 .service = service},
                           request);
         questions->begin(
@@ -70,15 +74,18 @@ protected:
     OverlayDefaults settings{stored};
     FakeFileManager files;
     VirtualMainQueue mainQueue;
+    ManualBackgroundQueue bgQueue;
     RecordingConsole console;
     ScriptedBrowser browser;
     bool hasNetwork = true;
     SetupMacs macs{{.dialogue = dialogue,
                     .settings = settings,
                     .mainQueue = mainQueue,
+                    .bgQueue = bgQueue,
                     .console = console,
                     .browser = browser,
                     .hasNetwork = [this] { return hasNetwork; }}};
+    FakeSshConfiguration ssh;
     ServiceFacts service;
     std::optional<SetupQuestions> questions;
     int ends = 0;
@@ -88,9 +95,10 @@ protected:
 
 TEST_F(SetupQuestionsTest, PersonAtATerminal_IsAskedInTheWindowsOrder) {
     service.canBeEnabled = true;
+    ssh.standing = SshConfiguration::Knows::NotYet;
     browser.announce(mac(QStringLiteral("Remote Mac"), QStringLiteral("10.77.0.2")));
     begin();
-    answer({"1", "mediauser", "", "~/Movies", "y", "n"});
+    answer({"1", "mediauser", "", "~/Movies", "", "y", "n"});
     ASSERT_TRUE(agreed) << failure.errors.toStdString();
     EXPECT_EQ(value(prefRemoteBonjourName), u"Remote-Mac.local");
     EXPECT_EQ(settings.dictionaryForKey(prefRemoteDnssdServiceData)->value(QStringLiteral("name")),
@@ -102,12 +110,28 @@ TEST_F(SetupQuestionsTest, PersonAtATerminal_IsAskedInTheWindowsOrder) {
     EXPECT_FALSE(agreed->makeDestination);
     EXPECT_TRUE(agreed->enable);
     EXPECT_FALSE(agreed->linger);
-    EXPECT_EQ(dialogue.said,
-              QStringList{QStringLiteral("  1  Remote Mac  10.77.0.2  Remote-Mac.local")});
-    ASSERT_EQ(dialogue.asked.size(), 7);
-    EXPECT_EQ(dialogue.asked[1],
-              QStringLiteral("Which Mac? Its number, or a host name or address: "));
-    EXPECT_EQ(dialogue.asked[3], QStringLiteral("Folder with the movies on the Mac [Movies]: "));
+    EXPECT_EQ(agreed->sshLine, true);
+    ASSERT_EQ(dialogue.said.size(), 2);
+    EXPECT_EQ(dialogue.said[0], QStringLiteral("  1  Remote Mac  10.77.0.2  Remote-Mac.local"));
+    EXPECT_EQ(dialogue.said[1],
+              QStringLiteral("Passes can share one login to the Mac, and ssh does not know of it "
+                             "yet. This line at the top of /home/me/.ssh/config tells it, and "
+                             "concerns no commands but those of passes:\n"
+                             "  Include \"/opt/ssh.conf\""));
+    EXPECT_EQ(dialogue.lines.indexOf(dialogue.said[1]), 6) << "before the question";
+    EXPECT_EQ(
+        dialogue.asked,
+        (QStringList{QStringLiteral("Looking for Macs in this network; Return ends the search … "),
+                     QStringLiteral("Which Mac? Its number, or a host name or address: "),
+                     QStringLiteral("Account on the Mac, one that may log in there: "),
+                     QStringLiteral("Folder with the movies on the Mac [Movies]: "),
+                     QStringLiteral("Folder on this machine that the movies come into: "),
+                     QStringLiteral("Add the line? [Y/n] "),
+                     QStringLiteral("Keep the folder supplied from now on, as a service of your "
+                                    "account (systemd user unit kelvo-mirror)? [Y/n] "),
+                     QStringLiteral("Run it from the start of the machine, also while you are not "
+                                    "logged in (loginctl enable-linger)? [Y/n] ")}));
+    EXPECT_EQ(ssh.standing, SshConfiguration::Knows::NotYet) << "asking changes nothing";
     EXPECT_TRUE(stored.changes().empty()) << "nothing is stored by asking";
     EXPECT_EQ(ends, 1);
 }
@@ -125,14 +149,89 @@ TEST_F(SetupQuestionsTest, NewestMacFirst_NumbersMeanWhatWasShown) {
 TEST_F(SetupQuestionsTest, SearchWithoutMacs_EndsByItselfWithItsReasonAndANameCanBeTyped) {
     begin();
     EXPECT_TRUE(dialogue.isWaiting());
-    mainQueue.advance(11);
+    EXPECT_EQ(dialogue.asked.last(),
+              u"Looking for Macs in this network; Return ends the search … ");
+    mainQueue.advance(11.9);
     EXPECT_EQ(dialogue.takenBack, 0);
-    mainQueue.advance(2);
+    mainQueue.advance(0.2);
     EXPECT_EQ(dialogue.takenBack, 1);
-    EXPECT_TRUE(dialogue.everything().startsWith(u"No Mac was found."));
+    EXPECT_EQ(dialogue.everything(),
+              u"No Mac was found. On the Mac, System Settings, General, Sharing: File Sharing "
+              u"makes it known in its network, and Remote Login lets this program in. A Mac that "
+              u"is known by name or address can be used without being found.");
     EXPECT_EQ(dialogue.asked.last(), QStringLiteral("Host name or address of the Mac: "));
     dialogue.answer("10.77.0.2");
     EXPECT_EQ(value(prefRemoteBonjourName), u"10.77.0.2");
+}
+
+TEST_F(SetupQuestionsTest, SearchWithoutMacs_LooksAgainEveryThreeSeconds) {
+    for (int search = 0; search < 2; ++search) {
+        browser.browsed.clear();
+        begin();
+        std::vector<qsizetype> scans;
+        for (const double pause : {2.7, 0.1, 2.9, 0.1, 2.9, 0.1, 2.9, 0.1}) {
+            mainQueue.advance(pause);
+            scans.push_back(browser.browsed.size());
+        }
+        EXPECT_EQ(scans, (std::vector<qsizetype>{1, 2, 2, 3, 3, 4, 4, 5}));
+        EXPECT_EQ(dialogue.takenBack, search);
+        mainQueue.advance(0.3);
+        EXPECT_EQ(dialogue.takenBack, search + 1);
+    }
+}
+
+TEST_F(SetupQuestionsTest, SearchWithAMac_EndsOnceTheFirstScanHasBroughtAll) {
+    browser.announce(mac(QStringLiteral("Attic"), QStringLiteral("10.0.0.5")));
+    begin();
+    mainQueue.advance(2.2);
+    EXPECT_EQ(dialogue.takenBack, 0);
+    mainQueue.advance(0.1);
+    EXPECT_EQ(dialogue.takenBack, 1);
+    EXPECT_EQ(dialogue.everything(), u"  1  Attic  10.0.0.5  Attic.local");
+    EXPECT_TRUE(dialogue.isWaiting()) << "for the number";
+}
+
+TEST_F(SetupQuestionsTest, DiscoveryThatComesBack_IsAskedUntilThereIsAMac) {
+    browser.setRunning(false);
+    begin();
+    mainQueue.advance(2.0);
+    ASSERT_EQ(browser.browsed.size(), 1);
+    browser.setRunning(true);
+    EXPECT_EQ(browser.browsed.size(), 2) << "at once";
+    mainQueue.advance(0.9);
+    EXPECT_EQ(browser.browsed.size(), 3) << "as in any search";
+    browser.announce(mac(QStringLiteral("Attic"), QStringLiteral("10.0.0.5")));
+    mainQueue.advance(0.7);
+    browser.announce(mac(QStringLiteral("Bath"), QStringLiteral("10.0.0.6")));
+    mainQueue.advance(30);
+    EXPECT_EQ(browser.browsed.size(), 3) << "one is found";
+    EXPECT_EQ(dialogue.everything(), u"  1  Attic  10.0.0.5  Attic.local");
+    dialogue.answer("1");
+    EXPECT_EQ(value(prefRemoteBonjourName), u"Attic.local") << "not the one found since";
+    console.clear();
+    begin();
+    mainQueue.advance(20);
+    const QStringList rows = console.printed().filter(QStringLiteral("selectedRow =>>>"));
+    EXPECT_FALSE(rows.isEmpty());
+    for (const QString& row : rows)
+        EXPECT_TRUE(row.endsWith(u" -1")) << "nothing is chosen: " << row.toStdString();
+}
+
+TEST_F(SetupQuestionsTest, SearchWithoutDiscovery_SaysWhatWouldHelp) {
+    browser.setRunning(false);
+    const auto said = [this](DiscoveryState state) {
+        browser.away = state;
+        browser.setRunning(false);
+        begin();
+        mainQueue.advance(20);
+        return dialogue.said.last();
+    };
+    EXPECT_EQ(said(DiscoveryState::NotInstalled),
+              u"Discovery is not installed on this machine. With it Macs would be listed here: "
+              u"sudo apt install avahi-daemon");
+    EXPECT_EQ(said(DiscoveryState::NotRunning),
+              u"Discovery is not running on this machine. With it Macs would be listed here: sudo "
+              u"systemctl start avahi-daemon");
 }
 
 TEST_F(SetupQuestionsTest, ReturnDuringTheSearch_EndsIt) {
@@ -175,9 +274,10 @@ TEST_F(SetupQuestionsTest, NoNetwork_IsSaid) {
 
 TEST_F(SetupQuestionsTest, CtrlDAtAnyQuestion_EndsWithNothingChanged) {
     service.canBeEnabled = true;
+    ssh.standing = SshConfiguration::Knows::NotYet;
     files.existing.insert(QStringLiteral("/Users/localuser/.ssh/id_kelvoRsync"));
     const std::vector<const char*> texts{"10.77.0.2", "mediauser", "Movies", "~/New",
-                                         "y",         "y",         "y"};
+                                         "y",         "y",         "n",      "y"};
     for (std::size_t before = 0; before <= texts.size(); ++before) {
         begin();
         mainQueue.advance(20);
@@ -186,7 +286,7 @@ TEST_F(SetupQuestionsTest, CtrlDAtAnyQuestion_EndsWithNothingChanged) {
         ASSERT_TRUE(dialogue.isWaiting()) << before;
         dialogue.answer(std::nullopt);
         EXPECT_EQ(failure.exitCode, 18) << before;
-        EXPECT_TRUE(failure.errors.endsWith(u"Nothing was changed.\n"));
+        EXPECT_EQ(failure.errors, u"kelvo-mirror: the set-up was ended. Nothing was changed.\n");
         EXPECT_FALSE(agreed);
     }
     EXPECT_EQ(ends, static_cast<int>(texts.size()) + 1);
@@ -200,6 +300,10 @@ TEST_F(SetupQuestionsTest, CtrlDAtAnyQuestion_EndsWithNothingChanged) {
 TEST_F(SetupQuestionsTest, AnswerThatCannotStandInACommand_IsRefusedAndAskedForAgain) {
     begin();
     answer({"-oProxyCommand=x", "a/b", "", "10.77.0.2"});
+    EXPECT_EQ(dialogue.lines.mid(2, 3),
+              (QStringList{QStringLiteral("Host name or address of the Mac: "),
+                           QStringLiteral("That cannot be used: the host name begins with \"-\"."),
+                           QStringLiteral("Host name or address of the Mac: ")}));
     EXPECT_EQ(dialogue.said.mid(1),
               (QStringList{QStringLiteral("That cannot be used: the host name begins with \"-\"."),
                            QStringLiteral("That cannot be used: the host name holds \"/\"."),
@@ -262,7 +366,10 @@ TEST_F(SetupQuestionsTest, OptionThatCannotBeUsed_IsNamed) {
          {Case{&SetupRequest::mac, "-x", "--mac: the host name begins with \"-\""},
           Case{&SetupRequest::mac, " ", "--mac: a Mac is needed"},
           Case{&SetupRequest::account, "a\nb", "--account: the user name holds a line break"},
+          Case{&SetupRequest::account, "\t", "--account: an account is needed"},
           Case{&SetupRequest::folder, "", "--folder: a folder is needed"},
+          Case{&SetupRequest::folder, ":module/x",
+               "--folder: the source would be read as a module of an rsync daemon"},
           Case{&SetupRequest::destination, "here",
                "--destination: the folder's whole path is needed, from \"/\" or \"~\""}}) {
         SetupRequest request = everything();
@@ -295,27 +402,69 @@ TEST_F(SetupQuestionsTest, WhatWasSetBefore_IsOfferedAndTakenWhereNobodyAnswers)
 TEST_F(SetupQuestionsTest, FolderThatIsNotWanted_IsAskedForAgain) {
     SetupRequest request = everything();
     request.destination.reset();
+    request.folder.reset();
     begin(request);
-    answer({"~/New", "n", "~/Other", "maybe", "yes"});
+    answer({"Films", "~/New", "n", "~/Other", "maybe", "yes"});
     ASSERT_TRUE(agreed);
     EXPECT_EQ(agreed->destination, u"/Users/localuser/Other");
     EXPECT_TRUE(agreed->makeDestination);
+    request = everything();
     request.destination = QStringLiteral("~/New");
     begin(request);
     answer({"n"});
+    EXPECT_EQ(dialogue.asked.last(), u"There is no folder /Users/localuser/New. Make it? [Y/n] ");
     EXPECT_EQ(failure.exitCode, 2) << "there is no other one to ask for";
+    EXPECT_EQ(failure.errors, u"kelvo-mirror: --destination: there is no such folder. Nothing was "
+                              u"changed.\n");
 }
 
 TEST_F(SetupQuestionsTest, LonePrivateHalf_IsReplacedOnlyByAgreement) {
     files.existing.insert(QStringLiteral("/Users/localuser/.ssh/id_kelvoRsync"));
     begin(everything());
-    EXPECT_TRUE(dialogue.asked.last().endsWith(u"[y/N] "));
+    EXPECT_EQ(dialogue.lines,
+              (QStringList{QStringLiteral("Of the key of this program "
+                                          "/Users/localuser/.ssh/id_kelvoRsync only the private "
+                                          "half is there."),
+                           QStringLiteral("Make a new key? That of today is kept beside it, under "
+                                          "a name with the date. [y/N] ")}));
     dialogue.answer("");
     EXPECT_EQ(failure.exitCode, 12);
+    EXPECT_EQ(failure.errors, u"kelvo-mirror: without its public half the key cannot be installed "
+                              u"on the Mac. Nothing was changed.\n");
     begin(everything());
     dialogue.answer("y");
     ASSERT_TRUE(agreed);
     EXPECT_TRUE(agreed->newKey);
+}
+
+TEST_F(SetupQuestionsTest, SharedConnection_IsAskedAboutOnlyWhereSshNeedsToBeTold) {
+    using Knows = SshConfiguration::Knows;
+    for (const Knows standing : {Knows::ByTheMachine, Knows::ByTheLine}) {
+        ssh.standing = standing;
+        begin(everything());
+        ASSERT_TRUE(agreed);
+        EXPECT_FALSE(agreed->sshLine);
+    }
+    ssh.standing = Knows::NotYet;
+    stored.setObject(prefKeepConnection, false);
+    begin(everything());
+    ASSERT_TRUE(agreed) << "passes are not to share one";
+    EXPECT_TRUE(dialogue.asked.isEmpty());
+    stored.setObject(prefKeepConnection, true);
+    begin(everything());
+    dialogue.answer("n");
+    ASSERT_TRUE(agreed);
+    EXPECT_FALSE(agreed->sshLine) << "left as it is";
+    for (const bool wished : {true, false}) {
+        SetupRequest request = everything();
+        request.shareConnection = wished;
+        begin(request);
+        EXPECT_TRUE(agreed && agreed->sshLine == wished) << "unasked";
+    }
+    dialogue.isThere = false;
+    begin(everything());
+    EXPECT_TRUE(agreed && !agreed->sshLine) << "only when it is wished for";
+    EXPECT_EQ(dialogue.asked.size(), 1);
 }
 
 TEST_F(SetupQuestionsTest, Service_IsAskedAboutOnlyWhereItCanBeEnabled) {
@@ -326,6 +475,9 @@ TEST_F(SetupQuestionsTest, Service_IsAskedAboutOnlyWhereItCanBeEnabled) {
     request.enable = true;
     begin(request);
     EXPECT_EQ(failure.exitCode, 2);
+    EXPECT_EQ(failure.errors,
+              u"kelvo-mirror: --enable: systemd's manager of your account does not run here, or "
+              u"does not know the unit kelvo-mirror.service. Nothing was changed.\n");
     service.canBeEnabled = true;
     begin(request);
     dialogue.answer("y");

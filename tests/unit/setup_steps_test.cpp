@@ -70,8 +70,15 @@ TEST(SetupStepsTest, NothingSet_BeginsWithTheMac) {
     EXPECT_EQ(states(facts), (std::vector{Next, Later, Later, Later}));
     EXPECT_EQ(next(facts), 0U);
     const SetupSteps steps = setupSteps(facts);
+    EXPECT_EQ(steps[0].summary, u"No Mac chosen yet.");
+    EXPECT_EQ(steps[0].text,
+              u"Choose the Mac from the list of those in this network, or type its host name.");
+    EXPECT_EQ(steps[1].text,
+              u"An account on the Mac that may log in there, and the folder with the movies.");
     EXPECT_EQ(steps[2].text, u"The key is installed on the Mac, so choose that and enter the "
                              u"account first.");
+    facts.host = QStringLiteral("mac.local");
+    EXPECT_EQ(setupSteps(facts)[2].text, steps[2].text) << "nor without an account";
     EXPECT_EQ(steps[3].text, u"Not tried yet.");
     EXPECT_EQ(steps[3].remark, u"");
 }
@@ -225,10 +232,14 @@ TEST(SetupStepsTest, KeyState_SpeaksAsLongAsNobodyElseDoes) {
     EXPECT_EQ(next(facts), 2U);
     facts.key = KeyState::HostAway;
     EXPECT_EQ(setupSteps(facts)[3].text, sentences(HostNotFound));
+    facts = freshKey();
+    EXPECT_EQ(setupSteps(facts)[2].summary, keyStateWords(KeyState::NotAsked));
     facts = freshKey({.letInBefore = true});
     EXPECT_EQ(next(facts), 3U) << "the record knows the key";
+    EXPECT_EQ(setupSteps(facts)[2].summary, keyStateWords(KeyState::Accepted));
     facts.key = KeyState::NotAccepted;
     EXPECT_EQ(next(facts), 2U);
+    EXPECT_EQ(setupSteps(facts)[2].summary, keyStateWords(KeyState::NotAccepted));
 }
 
 TEST(SetupStepsTest, LostKey_IsNotDoneWhateverWasSaid) {
@@ -242,7 +253,9 @@ TEST(SetupStepsTest, Asking_ShowsNoOldVerdictAndFoldsNothingOut) {
     SetupFacts facts = doneFacts();
     facts.asking = true;
     EXPECT_EQ(states(facts), (std::vector{Done, Done, Done, Done}));
+    EXPECT_EQ(setupSteps(facts)[2].summary, keyStateWords(KeyState::Asking));
     EXPECT_EQ(setupSteps(facts)[3].text, keyStateWords(KeyState::Asking));
+    EXPECT_EQ(setupSteps(facts)[3].summary, setupSteps(facts)[3].text);
     EXPECT_EQ(setupSteps(facts)[3].remark, u"");
     facts.connection = said(HostAway, true);
     EXPECT_EQ(states(facts)[3], Next) << "the trouble may be over";

@@ -63,6 +63,12 @@ TEST(MacShareCommandsTest, NothingIsReadAsTheShellsOwn) {
     EXPECT_EQ(commands.openLocalPath(QStringLiteral("./$(x)")), u"open \"./\\$(x)\"");
 }
 
+TEST(MacShareCommandsTest, HostInThePattern_StandsForItselfAlone) {
+    EXPECT_EQ(
+        MacShareCommands().pickVolume(QStringLiteral("x"), {QStringLiteral("a\\b/c'd"), {}, {}}),
+        u"echo \"x\" | awk ' $1 ~ /a\\\\b\\/c'\\''d/ {print $'10'\" \"$'11'}' ");
+}
+
 TEST(MacShareCommandsTest, EmptyRemotePath_LeavesTheSlash) {
     const MacShareCommands commands;
     EXPECT_EQ(commands.openRemoteFolder({QStringLiteral("h"), QStringLiteral("ann"), {}}),
@@ -97,6 +103,11 @@ TEST(GioShareCommandsTest, Listing_IsWhatIsKnownOfThisVeryShare) {
     EXPECT_EQ(commands.listVolumes({QStringLiteral("mini"), {}, {}}),
               u"timeout -k 2 20 env LC_ALL=C.UTF-8 gio info \"smb://mini/Macintosh%20HD\" 2>&1 "
               u"</dev/null; case $? in 124|137) echo \"no answer within 20 seconds\";; esac");
+}
+
+TEST(GioShareCommandsTest, PlaceOfTheShare_IsReadFromTheListingWhateverIsInIt) {
+    EXPECT_EQ(GioShareCommands().pickVolume(QStringLiteral("it's $(x)"), {}),
+              u"printf '%s\\n' 'it'\\''s $(x)' | sed -n 's/^local path: //p'");
 }
 
 TEST(GioShareCommandsTest, MountThatIsEndedByForce_IsSaidToHaveKeptSilent) {

@@ -31,7 +31,7 @@ TEST(ShellWordsTest, QuotesThatAreNoQuotes_AreSeen) {
     EXPECT_EQ(filled("\"a\\\"b\"\"%@1\""), QString(u"\"a\\\"b\"\"" + doubled + u'"'));
     EXPECT_EQ(filled("${HOME}\"${HOME}%@1\""), QString(u"${HOME}\"${HOME}" + doubled + u'"'));
     EXPECT_EQ(filled("${X---a=b.c} \"%@1\""), QString(u"${X---a=b.c} \"" + doubled + u'"'));
-    for (const char* unsure : {"${X-a b}", "${X-'a'}", "${X-$Y}", "${X:-a}", "${X-a"}) {
+    for (const char* unsure : {"${X-a b}", "${X-'a'}", "${X-$Y}", "${X:-a}", "${X=a}", "${X-a"}) {
         const QByteArray command = QByteArray(unsure) + " \"%@1\"";
         EXPECT_EQ(filled(command.constData()), std::nullopt) << unsure;
     }
@@ -51,7 +51,8 @@ TEST(ShellWordsTest, Remark_BeginsOnlyWhereAWordDoes) {
         const QByteArray remark = QByteArray("x") + sign + "# \"%@1\"";
         EXPECT_EQ(filled(remark.constData()), std::nullopt) << remark.constData();
     }
-    for (const char* remark : {"# \"%@1\"", "$(# x\n) \"%@1\"", "case x \"%@1\"", "${x \"%@1\""})
+    for (const char* remark :
+         {"# \"%@1\"", "$(# x\n) \"%@1\"", "x$(# y\n) \"%@1\"", "case x \"%@1\"", "${x \"%@1\""})
         EXPECT_EQ(filled(remark), std::nullopt) << remark;
 }
 

@@ -5,6 +5,7 @@
 #include "settings/preference_keys.h"
 #include "ui/alerts.h"
 #include "ui/status_line.h"
+#include "ui/terminal_notice.h"
 
 #include <gtest/gtest.h>
 
@@ -107,6 +108,26 @@ TEST_F(AlertsTest, General_IsACriticalSheetATenthOfASecondLater) {
             QStringLiteral("Title"), QStringLiteral("Text"), AlertStyle::Critical, {}, false}}));
     presenter.answer(1, 1000);
     EXPECT_EQ(responses, std::vector<ModalResponse>{1000});
+}
+
+TEST_F(AlertsTest, CommandThatNeedsATerminal_IsShownToBeCopied) {
+    QStringList copied;
+    TerminalNotice notice(alerts, [&copied](const QString& command) { copied.append(command); });
+    notice.show(QStringLiteral("ssh ann@mac"));
+    mainQueue.advance(0.1);
+    EXPECT_EQ(presenter.alerts,
+              (std::vector{Alert{QStringLiteral("No Terminal Found"),
+                                 QStringLiteral("Please run this command in a terminal and answer "
+                                                "what it asks:\n\nssh ann@mac"),
+                                 AlertStyle::Critical,
+                                 {QStringLiteral("Copy Command"), QStringLiteral("Close")},
+                                 false}}));
+    presenter.answer(1, 1001);
+    EXPECT_EQ(copied, QStringList());
+    notice.show(QStringLiteral("ssh ann@mac"));
+    mainQueue.advance(0.1);
+    presenter.answer(2, 1000);
+    EXPECT_EQ(copied, QStringList{QStringLiteral("ssh ann@mac")});
 }
 
 TEST_F(AlertsTest, General_TakesOnlyTitledButtons) {

@@ -425,6 +425,17 @@ TEST_F(RemotePassTest, Body_ValidatesThenPullsTwice) {
                                           "======== done ========")}));
 }
 
+TEST_F(RemotePassTest, CancelledBetweenItsPulls_SaysNothingOfTheOther) {
+    shell.answerTo(QStringLiteral("pull"), [this](const QString&) {
+        cycle.cancelPass();
+        return QStringLiteral("one\n");
+    });
+    button.performClick();
+    runBodies();
+    EXPECT_EQ(console.printed().filter(QStringLiteral("result from shell")).size(), 1);
+    EXPECT_EQ(console.printed().filter(QStringLiteral("result from movie")), QStringList());
+}
+
 TEST_F(RemotePassTest, StatusLines_TellTryingThenResting) {
     button.performClick();
     EXPECT_EQ(lastStatus(),

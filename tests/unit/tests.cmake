@@ -15,6 +15,7 @@ kelvo_tests(unit
     unit/dnssd_service_test.cpp
     unit/duplicate_check_test.cpp
     unit/copy_answers_test.cpp
+    unit/empty_list_watch_test.cpp
     unit/folder_selection_test.cpp
     unit/guest_service_test.cpp
     unit/headless_front_test.cpp
@@ -65,6 +66,7 @@ kelvo_tests(unit
     unit/status_menu_test.cpp
     unit/stored_value_test.cpp
     unit/settings_commands_test.cpp
+    unit/settings_watch_test.cpp
     unit/sync_chain_test.cpp
     unit/sync_cycle_test.cpp
     unit/template_faults_test.cpp

@@ -27,6 +27,13 @@ TEST_F(ViewControllerSetupTest, Load_AsksForTheTrayIconAndPrintsTheRevealButtons
                                             pointerText(&revealButton2) + u">)"));
 }
 
+TEST_F(ViewControllerSetupTest, Description_NamesTypeAndPlace) {
+    EXPECT_EQ(controller.description(),
+              QString(u"<Kelvo_Mirror.ViewController: " + pointerText(&controller) + u'>'));
+    EXPECT_EQ(windowController.description(),
+              QString(u"<NSWindowController: " + pointerText(&windowController) + u'>'));
+}
+
 TEST_F(ViewControllerSetupTest, Hide_ComesAtSixTenthsWhenAskedFor) {
     defaults.setObject(prefHideOnLaunch, true);
     controller.viewDidLoad();
@@ -192,8 +199,12 @@ TEST_F(ViewControllerSetupTest, OtherTabs_LeaveTheExampleAlone) {
     controller.tabViewWillSelect(std::nullopt);
     EXPECT_FALSE(defaults.object(prefRsyncCommandStringExample).isValid());
     EXPECT_EQ(console.printed().size(), 9);
-    EXPECT_EQ(console.printed().last(),
-              inside("tabView(_:willSelect:)", QStringLiteral(".......identifier = nil")));
+    EXPECT_EQ(
+        console.printed().last(3),
+        (QStringList{
+            inside("tabView(_:willSelect:)", QStringLiteral(".......tabViewItem = nil")),
+            inside("tabView(_:willSelect:)", QStringLiteral(".......tabViewItem.label = nil")),
+            inside("tabView(_:willSelect:)", QStringLiteral(".......identifier = nil"))}));
 }
 
 TEST_F(ViewControllerSetupTest, EndOfEditing_TakesTheFocusOffTheFieldATenthLater) {
@@ -215,8 +226,19 @@ TEST_F(ViewControllerSetupTest, EndOfEditing_TakesTheFocusOffTheFieldATenthLater
 
 TEST_F(ViewControllerSetupTest, EndOfEditingElsewhere_OnlyPrints) {
     load();
-    controller.controlTextDidEndEditing(std::make_shared<FakeButton>());
-    EXPECT_EQ(console.printed().size(), 2);
+    const auto other = std::make_shared<FakeButton>();
+    controller.controlTextDidEndEditing(other);
+    controller.controlTextDidEndEditing(nullptr);
+    EXPECT_EQ(
+        console.printed(),
+        (QStringList{
+            inside("controlTextDidEndEditing(_:)",
+                   QString(u".......obj.object   = Optional(<NSControl: " +
+                           pointerText(static_cast<Control*>(other.get())) + u">)")),
+            inside("controlTextDidEndEditing(_:)", QStringLiteral(".......obj.userInfo = nil")),
+            inside("controlTextDidEndEditing(_:)", QStringLiteral(".......obj.object   = nil")),
+            inside("controlTextDidEndEditing(_:)", QStringLiteral(".......obj.userInfo = nil")),
+        }));
     EXPECT_TRUE(mainQueue.idle());
 }
 
@@ -244,6 +266,7 @@ TEST_F(ViewControllerSetupTest, QuitRelaunchNotification_AsksTheWatchdog) {
                QStringLiteral(".......notification = name = QuitRelaunchNotification"))))
         << qPrintable(console.printed()[0]);
     EXPECT_EQ(console.printed()[1], inside("ibQuitAndRelaunch(_:)"));
+    EXPECT_EQ(printedBeforeRelaunch, console.printed()) << "it may be the last that is printed";
 }
 
 } // namespace

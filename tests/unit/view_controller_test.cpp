@@ -18,6 +18,12 @@ TEST_F(ViewControllerTest, Load_PrintsItsEntryAndSwitchesSyncingOff) {
               u"Inside Kelvo_Mirror.ViewController->viewDidLoad().......");
     EXPECT_EQ(defaults.object(prefIsScanning), QVariant(false));
     EXPECT_EQ(defaults.object(prefEnableScanning), QVariant(false));
+    QStringList switchedOff;
+    for (const auto& [key, value] : defaults.changes()) {
+        if (value == QVariant(false))
+            switchedOff << key;
+    }
+    EXPECT_EQ(switchedOff, (QStringList{prefIsScanning.toString(), prefEnableScanning.toString()}));
 }
 
 TEST_F(ViewControllerTest, MissingStartButton_StopsTheTitleOfAChangeButNotTheUpdate) {
@@ -72,6 +78,7 @@ TEST_F(ViewControllerTest, AutoStart_ClicksTheButtonAtOneSecond) {
     EXPECT_EQ(button.clicks, 1);
     EXPECT_TRUE(defaults.boolForKey(prefEnableScanning));
     EXPECT_EQ(bgQueue.size(), 1U);
+    EXPECT_TRUE(console.logged().filter(QStringLiteral("first pass begins")).isEmpty());
 }
 
 TEST_F(ViewControllerTest, AutoStartOfUnknownSettings_IsAskedForOnceTheyAreKnown) {
@@ -101,6 +108,31 @@ TEST_F(ViewControllerTest, StartClickedBeforeSettingsAreKnown_IsNotTakenBackByTh
     EXPECT_EQ(bgQueue.size(), 1U);
 }
 
+TEST_F(ViewControllerTest, SettingsThatAreUnknown_AreAskedForOnceASecond) {
+    defaults.setKnown(false);
+    defaults.setObject(prefAutoStartScanOnLaunch, true);
+    controller.viewDidLoad();
+    mainQueue.advance(0.5);
+    defaults.setKnown(true);
+    mainQueue.advance(1.499);
+    EXPECT_EQ(button.clicks, 0);
+    mainQueue.advance(0.001);
+    EXPECT_EQ(button.clicks, 1);
+}
+
+class ShortDelayTest : public ::testing::Test, public ViewControllerWorld {
+protected:
+    ShortDelayTest() : ViewControllerWorld(0.5) {}
+};
+
+TEST_F(ShortDelayTest, AutoStartThatWaitsAnyLonger_IsLogged) {
+    defaults.setObject(prefAutoStartScanOnLaunch, true);
+    controller.viewDidLoad();
+    EXPECT_TRUE(console.logged().contains(QStringLiteral("The first pass begins in 1.5 s")));
+    mainQueue.advance(1.5);
+    EXPECT_EQ(button.clicks, 1);
+}
+
 class SpreadFirstPassTest : public ::testing::Test, public ViewControllerWorld {
 protected:
     SpreadFirstPassTest() : ViewControllerWorld(12.5) {
@@ -115,6 +147,7 @@ TEST_F(SpreadFirstPassTest, AutoStart_ComesSoMuchLater) {
     mainQueue.advance(0.2);
     EXPECT_EQ(button.clicks, 1);
     EXPECT_TRUE(defaults.boolForKey(prefEnableScanning));
+    EXPECT_TRUE(console.logged().contains(QStringLiteral("The first pass begins in 13.5 s")));
 }
 
 TEST_F(SpreadFirstPassTest, PersonWhoStartsMeanwhile_IsNotStopped) {
@@ -123,6 +156,16 @@ TEST_F(SpreadFirstPassTest, PersonWhoStartsMeanwhile_IsNotStopped) {
     mainQueue.advance(10);
     EXPECT_EQ(button.clicks, 1);
     EXPECT_TRUE(defaults.boolForKey(prefEnableScanning));
+}
+
+TEST_F(SpreadFirstPassTest, PersonWhoStartsAndStopsMeanwhile_IsNotOverruled) {
+    mainQueue.advance(5);
+    button.performClick();
+    mainQueue.advance(1);
+    button.performClick();
+    mainQueue.advance(10);
+    EXPECT_EQ(button.clicks, 2);
+    EXPECT_FALSE(defaults.boolForKey(prefEnableScanning));
 }
 
 TEST_F(ViewControllerTest, NoAutoStart_LeavesTheButtonAlone) {
@@ -151,12 +194,21 @@ TEST_F(ViewControllerTest, RemovedKey_IsLoggedAndNothingMore) {
     defaults.setObject(prefRemoteUsername, QStringLiteral("u"));
     load();
     defaults.removeObject(prefRemoteUsername);
-    EXPECT_EQ(console.printed().last(),
-              QString(cObserve + u".......UNABLE to get the new value????"));
+    EXPECT_EQ(console.printed(),
+              (QStringList{QString(cObserve + u".......keypath = prefRemoteUsername change = [:]"),
+                           QString(cObserve + u".......UNABLE to get the new value????")}));
     const qsizetype lines = console.printed().size();
     mainQueue.runDue();
     EXPECT_TRUE(mainQueue.idle());
     EXPECT_EQ(console.printed().size(), lines);
+}
+
+TEST_F(ViewControllerTest, ValueThatIsNoText_IsLoggedByItsType) {
+    load();
+    defaults.setObject(prefRemotePath, QVariantMap{{QStringLiteral("a"), 1}});
+    EXPECT_EQ(console.printed(),
+              QStringList{QString(cObserve + u".......keypath = prefRemotePath change = [new: "
+                                             u"(QVariantMap)]")});
 }
 
 TEST_F(ViewControllerTest, EnableScanning_SetsTheTitle) {
@@ -198,8 +250,11 @@ TEST_F(ViewControllerTest, OptionTagChange_RefreshesTheExample) {
     mainQueue.advance(0.1);
     EXPECT_EQ(defaults.stringForKey(prefRsyncCommandStringExample),
               QStringLiteral("r --update x --update"));
-    EXPECT_TRUE(
-        console.printed().contains(QStringLiteral("current prefRsyncCommandOptionTag = 101")));
+    for (const QStringView line :
+         {u"Inside Kelvo_Mirror.ViewController->ibUpdateTabViewItem().......",
+          u"current prefRsyncCommandOptionTag = 101",
+          u"current optionstring for tag[101] = [--update]"})
+        EXPECT_TRUE(console.printed().contains(line)) << line.toUtf8().constData();
 }
 
 TEST_F(ViewControllerTest, TemplateChanges_RefreshTheExampleOnceAndQuietly) {
@@ -257,6 +312,8 @@ TEST_F(ViewControllerTest, WholePass_GoesThroughTheRealParts) {
     defaults.setObject(prefPath2, QStringLiteral("/in"));
     defaults.setObject(prefRsyncCommandString1, QStringLiteral("mine %@98 %@1 %@2"));
     defaults.setObject(prefAutoStartScanOnLaunch, true);
+    defaults.setObject(prefKeepConnection, true);
+    defaults.setObject(prefDelayBetweenScans, 600.0);
     shell.answerTo(QStringLiteral("whoami"), QStringLiteral("mediauser\n"));
     controller.viewDidLoad();
     mainQueue.advance(1.0);
@@ -265,6 +322,49 @@ TEST_F(ViewControllerTest, WholePass_GoesThroughTheRealParts) {
     EXPECT_EQ(shell.commands().size(), 3);
     EXPECT_TRUE(shell.commands()[1].endsWith(u" mediauser@mac:Movies/ /in/"));
     EXPECT_EQ(field->shown.back().string, u"Resting a bit ...");
+    EXPECT_EQ(connection.opened.size(), 1U);
+    EXPECT_FALSE(connection.isOpen()) << "no connection is kept over so long a rest";
+    mainQueue.advance(0.2);
+    EXPECT_TRUE(view.works.back().nextPass.startsWith(u"Next pass in "));
+    (*view.attention)(Attention::Unseen);
+    mainQueue.advance(0.2);
+    EXPECT_EQ(view.works.back().nextPass, QString()) << "nobody sees it";
+}
+
+TEST_F(ViewControllerTest, CancelledPass_IsShownAtOnceThoughNobodyLooks) {
+    defaults.setObject(prefRemoteUsername, QStringLiteral("mediauser"));
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral("mac"));
+    defaults.setObject(prefPath2, QStringLiteral("/in"));
+    std::vector<WorkPhase> phases;
+    shell.answerTo(QStringLiteral("whoami"), [&](const QString&) {
+        mainQueue.advance(1);
+        phases.push_back(view.works.back().phase);
+        controller.cancelPass();
+        mainQueue.advance(0.2);
+        phases.push_back(view.works.back().phase);
+        return QStringLiteral("mediauser");
+    });
+    load();
+    (*view.attention)(Attention::Unseen);
+    button.performClick();
+    bgQueue.runAll();
+    EXPECT_EQ(phases, (std::vector{WorkPhase::Running, WorkPhase::Cancelling}));
+}
+
+TEST_F(ViewControllerTest, MacThatIsNotReachedTenTimes_IsAnAlertOnTheWindow) {
+    defaults.setObject(prefRemoteUsername, QStringLiteral("mediauser"));
+    defaults.setObject(prefRemoteBonjourName, QStringLiteral("mac"));
+    defaults.setObject(prefPath2, QStringLiteral("/in"));
+    shell.answerTo(QStringLiteral("whoami"), QStringLiteral("Permission denied"), 255);
+    load();
+    button.performClick();
+    for (int failure = 0; failure < 10; ++failure) {
+        EXPECT_TRUE(presenter.alerts.empty()) << failure;
+        bgQueue.runAll();
+        mainQueue.advance(40);
+    }
+    ASSERT_EQ(presenter.alerts.size(), 1U);
+    EXPECT_EQ(presenter.alerts.front().messageText, u"Unable to Reach Remote Host");
 }
 
 TEST_F(ViewControllerTest, Work_ReachesViewAndMenuAlike) {

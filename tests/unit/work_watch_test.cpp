@@ -100,6 +100,76 @@ TEST_F(WorkWatchTest, PassThatIsFollowed_IsLookedAtOnceASecondThoughUnseen) {
     EXPECT_EQ(looks - before, 3);
 }
 
+TEST_F(WorkWatchTest, WhoeverBeginsToFollow_HearsAtOnceHowItIs) {
+    rest(1000, Attention::Unseen);
+    passes.resize(1);
+    watch.look();
+    mainQueue.advance(2);
+    int before = looks;
+    watch.setFollowed(true);
+    mainQueue.advance(0.2);
+    EXPECT_EQ(looks, before + 1);
+    before = looks;
+    watch.setFollowed(true);
+    mainQueue.advance(0.2);
+    EXPECT_EQ(looks, before) << "nothing has changed";
+}
+
+TEST_F(WorkWatchTest, Facts_AreThoseOfTheMoment) {
+    defaults.settingsStanding.fault = text("full");
+    watch.setMissing({{text("No Mac is chosen yet."), Remedy::ShowRemoteTab}});
+    nextPassAt = 30;
+    EXPECT_FALSE(watch.facts().on);
+    EXPECT_FALSE(watch.facts().nextPass) << "syncing is off";
+    defaults.setObject(prefEnableScanning, true);
+    WorkFacts facts = watch.facts();
+    EXPECT_TRUE(facts.on);
+    EXPECT_EQ(facts.phase, WorkPhase::Resting);
+    EXPECT_EQ(facts.nextPass, 30);
+    EXPECT_FALSE(facts.pass);
+    EXPECT_EQ(facts.settings.fault, text("full"));
+    EXPECT_EQ(facts.missing.size(), 1U);
+    passes.resize(2);
+    passes[0].progress.file = text("a");
+    facts = watch.facts();
+    EXPECT_EQ(facts.phase, WorkPhase::Running);
+    EXPECT_EQ(facts.nextPass, std::nullopt);
+    ASSERT_TRUE(facts.pass);
+    EXPECT_EQ(facts.pass->progress.file, text("a")) << "the oldest";
+}
+
+TEST_F(WorkWatchTest, Headline_NamesTheStepOfThePass) {
+    rest(30, Attention::Seen);
+    passes.resize(1);
+    const auto headline = [this](PassStep step, PassKind kind) {
+        passes[0].kind = kind;
+        passes[0].progress.step = step;
+        mainQueue.advance(0.6);
+        return shown.back().headline;
+    };
+    watch.look();
+    EXPECT_EQ(headline(PassStep::Movies, PassKind::Plain), text("Syncing: movies"));
+    EXPECT_EQ(headline(PassStep::Pull, PassKind::Plain), text("Syncing: copying"));
+    EXPECT_EQ(headline(PassStep::Pull, PassKind::Remote), text("Syncing: first pull"));
+}
+
+TEST_F(WorkWatchTest, TimeLeft_IsNotHeldByThatOfThePassBefore) {
+    rest(1000, Attention::Seen);
+    const auto timeLeft = [this](double seconds) {
+        passes.resize(1);
+        passes[0].progress.secondsLeft = seconds;
+        watch.look();
+        mainQueue.advance(0.6);
+        return shown.back().timeLeft;
+    };
+    EXPECT_EQ(timeLeft(60), text("about 1 min"));
+    EXPECT_EQ(timeLeft(100), text("about 1 min")) << "of one pass it does not waver";
+    passes.clear();
+    watch.look();
+    mainQueue.advance(0.6);
+    EXPECT_EQ(timeLeft(100), text("about 2 min"));
+}
+
 TEST_F(WorkWatchTest, PassThatBringsNothingNew_IsLookedAtAllTheSame) {
     rest(1000, Attention::Lines);
     passEnded(PassCause::Well);
@@ -180,6 +250,11 @@ TEST_F(WorkWatchTest, RunningPass_IsShownTwiceASecondToAPerson) {
     const std::size_t shows = showsOfAPass(10, Attention::Seen);
     EXPECT_GE(shows, 19U);
     EXPECT_LE(shows, 21U);
+}
+
+TEST_F(WorkWatchTest, RunningPassAfterASuccess_IsShownAsOften) {
+    passEnded(PassCause::Well);
+    EXPECT_EQ(showsOfAPass(10, Attention::Seen), 20U) << "not when the success grows older";
 }
 
 TEST_F(WorkWatchTest, RunningPass_IsOneLineASecond) {

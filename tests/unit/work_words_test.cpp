@@ -161,8 +161,8 @@ TEST(WorkWordsTest, Wait_IsCountedInSecondsForTwoMinutes) {
 }
 
 TEST(WorkWordsTest, Age_HoldsUntilItsTextChanges) {
-    for (const double seconds :
-         {0.0, 59.0, 60.0, 3599.5, 3600.0, 3700.0, 7200.0, 172'799.0, 172'800.0, 172'900.0}) {
+    for (const double seconds : {0.0, 59.0, 60.0, 3599.5, 3600.0, 3700.0, 7200.0, 90'000.0,
+                                 172'799.0, 172'800.0, 172'900.0}) {
         const double holds = agoHolds(seconds);
         EXPECT_EQ(agoText(seconds + holds - 0.01), agoText(seconds)) << seconds;
         EXPECT_NE(agoText(seconds + holds + 0.01), agoText(seconds)) << seconds;

@@ -26,7 +26,7 @@ UniqueFd openedAnew(int fd) {
 
 LineStream::LineStream(int fd) : fGiven(fd) {
     struct stat status {};
-    if (fd < 0 || ::fstat(fd, &status) != 0) {
+    if (::fstat(fd, &status) != 0) {
         fGone = true;
         return;
     }

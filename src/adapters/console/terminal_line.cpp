@@ -36,7 +36,7 @@ void TerminalLine::show(const QString& text) {
     // The last column stays empty: some terminals go on to the next line behind it.
     const QString cut = cutTo(text, widthOf(fTerminal) - 1);
     pollfd ready{fTerminal, POLLOUT, 0};
-    if (cut == fShown || ::poll(&ready, 1, 0) != 1 || (ready.revents & POLLOUT) == 0)
+    if (cut == fShown || ::poll(&ready, 1, 0) != 1)
         return;
     const QByteArray bytes = '\r' + cut.toUtf8() + "\x1b[K";
     if (::write(fTerminal, bytes.constData(), static_cast<size_t>(bytes.size())) > 0)

@@ -52,10 +52,7 @@ DesktopTrayHost::DesktopTrayHost(const QDBusConnection& bus) : fBus(bus) {
     QTimer::singleShot(0, this, [this] { watchX11(); });
 }
 
-DesktopTrayHost::~DesktopTrayHost() {
-    if (fSelection)
-        qGuiApp->removeNativeEventFilter(this);
-}
+DesktopTrayHost::~DesktopTrayHost() = default;
 
 Subscription DesktopTrayHost::observe(std::function<void()> changed) {
     auto observer = std::make_shared<Observer>(Observer{std::move(changed)});

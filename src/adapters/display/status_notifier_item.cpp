@@ -96,10 +96,9 @@ void StatusNotifierItem::announce() {
 void StatusNotifierItem::hide() {
     if (!fBus)
         return;
-    const QString name = fBus->name();
     fPanels.setConnection(QDBusConnection(QString()));
-    fBus->unregisterObject(cItemPath);
-    fBus->unregisterObject(cMenuPath);
+    // What stands on the connection goes with it.
+    const QString name = fBus->name();
     fBus.reset();
     QDBusConnection::disconnectFromBus(name);
 }

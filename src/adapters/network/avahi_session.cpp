@@ -46,7 +46,6 @@ AvahiSession::AvahiSession(const AvahiPoll& poll, ServiceTable& table, Console& 
       fResolvers([this](const ResolvedService& service) { serviceResolved(service); }) {}
 
 AvahiSession::~AvahiSession() {
-    disconnect();
     fPoll.timeout_free(fTimeout);
 }
 
@@ -72,13 +71,12 @@ void AvahiSession::searchEndpoints(std::unique_ptr<EndpointSearch> search) {
 void AvahiSession::connect() {
     fPoll.timeout_update(fTimeout, nullptr);
     disconnect();
-    int error = 0;
     AvahiHandle<AvahiClient> client(avahi_client_new(
         &fPoll, AVAHI_CLIENT_NO_FAIL,
         [](AvahiClient* changed, AvahiClientState state, void* self) {
             static_cast<AvahiSession*>(self)->clientChanged(changed, state);
         },
-        this, &error));
+        this, nullptr));
     if (client) {
         fClient = std::move(client);
         return;
@@ -154,7 +152,6 @@ void AvahiSession::clientChanged(AvahiClient* client, AvahiClientState state) {
 
 void AvahiSession::startBrowser(AvahiClient* client) {
     fResolvers.clear();
-    fBrowser.reset();
     const ServiceSearch search = fTable.beginSearch();
     if (search.type.isEmpty())
         return;
@@ -221,7 +218,7 @@ void AvahiSession::serviceResolved(const ResolvedService& service) {
     auto record = recordFromAnswer({.name = service.name,
                                     .type = service.type,
                                     .domain = service.domain,
-                                    .host = service.host ? service.host : "",
+                                    .host = service.host,
                                     .address = address,
                                     .interface = static_cast<quint32>(service.interface),
                                     .port = service.port},

@@ -42,10 +42,11 @@ QString reachabilityMessage(bool usableLink, NetworkReach reach) {
 
 class KelvoSSID::Watcher : public std::enable_shared_from_this<Watcher> {
 public:
-    Watcher(NotificationCenter& center, DispatchQueue& mainQueue)
+    Watcher(NotificationCenter& center, DispatchQueue& mainQueue,
+            const MakeReachSource& makeManager)
         : fCenter(center), fMainQueue(mainQueue), fLinks([this] { lookLater(cSettleSeconds); }) {
         if (networkManagerIsAtHand())
-            fManager.emplace([this] { lookLater(cSettleSeconds); });
+            fManager = makeManager([this] { lookLater(cSettleSeconds); });
     }
 
     /// Posts after `seconds` what is true then, if that is news.
@@ -71,21 +72,22 @@ private:
 
     NotificationCenter& fCenter;
     DispatchQueue& fMainQueue;
-    std::optional<NetworkManager> fManager;
+    std::unique_ptr<NetworkReachSource> fManager;
     LinkWatch fLinks;
     QString fLastMessage;
     bool fLookIsDue = false;
 };
 
-KelvoSSID::KelvoSSID(NotificationCenter& center, DispatchQueue& mainQueue)
-    : fCenter(center), fMainQueue(mainQueue) {}
+KelvoSSID::KelvoSSID(NotificationCenter& center, DispatchQueue& mainQueue,
+                     MakeReachSource makeManager)
+    : fCenter(center), fMainQueue(mainQueue), fMakeManager(std::move(makeManager)) {}
 
 KelvoSSID::~KelvoSSID() = default;
 
 void KelvoSSID::checknetwork2() {
     if (fWatcher)
         return;
-    fWatcher = std::make_shared<Watcher>(fCenter, fMainQueue);
+    fWatcher = std::make_shared<Watcher>(fCenter, fMainQueue, fMakeManager);
     fWatcher->lookLater(0);
 }
 

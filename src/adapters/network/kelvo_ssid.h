@@ -1,11 +1,12 @@
 // KelvoSSID: watches the network through the kernel's links and the system's NetworkManager.
 #pragma once
 
-#include "adapters/network/network_manager.h"
+#include "adapters/network/network_reach.h"
 #include "ports/network_checker.h"
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace kelvo {
@@ -21,7 +22,12 @@ QString reachabilityMessage(bool usableLink, NetworkReach reach);
 /// links and routes alone say how far this machine sees.
 class KelvoSSID final : public NetworkChecker {
 public:
-    KelvoSSID(NotificationCenter& center, DispatchQueue& mainQueue);
+    /// Makes the one who hears from NetworkManager, or nothing; called where that is on the
+    /// machine.
+    using MakeReachSource =
+        std::function<std::unique_ptr<NetworkReachSource>(std::function<void()> changed)>;
+
+    KelvoSSID(NotificationCenter& center, DispatchQueue& mainQueue, MakeReachSource makeManager);
     ~KelvoSSID() override;
 
     void checknetwork2() override;
@@ -31,6 +37,7 @@ private:
     std::shared_ptr<Watcher> fWatcher; ///< also what delayed looks hold on to, weakly
     NotificationCenter& fCenter;
     DispatchQueue& fMainQueue;
+    const MakeReachSource fMakeManager;
 };
 
 } // namespace kelvo

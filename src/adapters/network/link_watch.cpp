@@ -1,8 +1,9 @@
 #include "adapters/network/link_watch.h"
 
+#include "adapters/system/interface_addresses.h"
+
 #include <QSocketNotifier>
 
-#include <ifaddrs.h>
 #include <sys/socket.h>
 
 #include <arpa/inet.h>
@@ -66,13 +67,10 @@ void drain(int socket) {
 } // namespace
 
 bool hasUsableLink() {
-    ifaddrs* entries = nullptr;
-    if (::getifaddrs(&entries) != 0)
-        return false;
+    const InterfaceAddresses addresses;
     bool found = false;
-    for (const ifaddrs* entry = entries; entry && !found; entry = entry->ifa_next)
+    for (const ifaddrs* entry = addresses.first(); entry && !found; entry = entry->ifa_next)
         found = isUsable(*entry);
-    ::freeifaddrs(entries);
     return found;
 }
 

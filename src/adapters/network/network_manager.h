@@ -1,6 +1,8 @@
 // NetworkManager: how far this machine sees, as the system's service of this name judges it.
 #pragma once
 
+#include "adapters/network/network_reach.h"
+
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QObject>
@@ -10,20 +12,17 @@
 
 namespace kelvo {
 
-/// How far this machine sees.
-enum class NetworkReach { Unknown, NothingBeyond, LocalOnly, Beyond };
-
 /// Main thread only. Asks without waiting, and starts no service; one that begins later is asked
 /// then. Between its changes nothing runs.
-class NetworkManager final : public QObject {
+class NetworkManager final : public QObject, public NetworkReachSource {
     Q_OBJECT
 public:
     /// `changed` is called from the event loop when there may be another answer.
     explicit NetworkManager(std::function<void()> changed,
                             QDBusConnection bus = QDBusConnection::systemBus());
 
-    /// Nothing as long as the service has told nothing, and where there is none.
-    std::optional<NetworkReach> reach() const { return fReach; }
+    /// Nothing where there is no such service.
+    std::optional<NetworkReach> reach() const override { return fReach; }
 
 private Q_SLOTS:
     void stateChanged(uint state);

@@ -58,6 +58,11 @@ public:
     /// file that is not the record.
     Outcome open();
 
+    /// Does now what the first record of a run waits for else, where there is a file: it is opened,
+    /// the disk takes the begin of its log, statements are prepared. What fails here fails there
+    /// again.
+    void getReady();
+
     /// Stores `record` and gives it its number; drops what is too old. A record that has a number
     /// has been written before, and is not written twice.
     Outcome insert(PassRecord& record);

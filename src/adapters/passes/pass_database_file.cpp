@@ -127,6 +127,15 @@ PassDatabase::Outcome PassDatabase::checkTables() {
     return {};
 }
 
+void PassDatabase::getReady() {
+    if (nothingIsKept() || !open())
+        return;
+    // The least that can be written: a number that is there already.
+    (void)run(QStringLiteral("PRAGMA user_version = %1").arg(cPassLayout));
+    for (int each = 0; each <= static_cast<int>(PassStatement::DropArrivals); ++each)
+        (void)prepare(static_cast<PassStatement>(each));
+}
+
 PassDatabase::Outcome PassDatabase::takeOver() {
     // Another program may have done it meanwhile.
     if (Outcome outcome = readLayout(); !outcome || fLayout == cPassLayout)

@@ -42,6 +42,10 @@ QString SqlitePassStore::finish() {
 
 // -- any thread
 
+void SqlitePassStore::getReady() {
+    post([](PassDatabase& database) { database.getReady(); }, true);
+}
+
 void SqlitePassStore::append(const PassRecord& record) {
     post([this, record](PassDatabase& database) { write(database, record); }, false);
 }

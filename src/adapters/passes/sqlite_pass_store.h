@@ -36,6 +36,9 @@ public:
     /// Why some of what has been appended could not be written; empty when all of it was.
     QString finish();
 
+    /// Has the store do now what the first record waits for else. Returns at once.
+    void getReady();
+
     void append(const PassRecord& record) override;
     void readAll(Records answer) override;
     void readArrivals(const ArrivalQuestion& question, Arrivals answer) override;

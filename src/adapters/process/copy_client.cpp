@@ -27,11 +27,8 @@ bool waitFor(int socket, Clock::time_point deadline, bool forEver) {
         if (!forEver && left <= 0)
             return false;
         pollfd source{socket, POLLIN, 0};
-        const int ready = ::poll(&source, 1, forEver ? -1 : static_cast<int>(left));
-        if (ready > 0)
+        if (::poll(&source, 1, forEver ? -1 : static_cast<int>(left)) > 0)
             return true;
-        if (ready < 0 && errno != EINTR)
-            return false;
     }
 }
 
@@ -56,10 +53,8 @@ CopyClient::Contact CopyClient::connect(std::chrono::milliseconds patience) {
 bool CopyClient::placeIsTaken(const std::string& folder) {
     const UniqueFd lock(
         ::open(copyLockPath(folder).c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-    if (!lock)
-        return false;
     if (::flock(lock.get(), LOCK_SH | LOCK_NB) != 0)
-        return errno == EWOULDBLOCK;
+        return errno == EWOULDBLOCK; // what is not there fails for another reason
     (void)::flock(lock.get(), LOCK_UN);
     return false;
 }
@@ -85,10 +80,8 @@ CopyClient::Heard CopyClient::hear(QByteArray& line, std::chrono::milliseconds p
         searched = fHeard.size();
         if (!waitFor(fSocket.get(), deadline, forEver))
             return Heard::Silent;
-        std::array<char, 16 * 1024> bytes;
+        std::array<char, 16384> bytes;
         const ssize_t count = ::recv(fSocket.get(), bytes.data(), bytes.size(), 0);
-        if (count < 0 && (errno == EAGAIN || errno == EINTR))
-            continue;
         if (count <= 0)
             return Heard::End;
         fHeard.append(bytes.data(), static_cast<qsizetype>(count));

@@ -20,13 +20,11 @@ namespace {
 constexpr std::size_t cMostGuests = 16;
 
 bool isForLater(int error) {
-    return error == EAGAIN || error == EWOULDBLOCK || error == EINTR;
+    return error == EAGAIN || error == EINTR;
 }
 
 /// The notifier may be the one that has called.
 void endLater(std::unique_ptr<QSocketNotifier>& notifier) {
-    if (!notifier)
-        return;
     notifier->setEnabled(false);
     notifier.release()->deleteLater();
 }
@@ -85,7 +83,7 @@ void GuestList::hear(Id id) {
     Guest* const guest = find(id);
     if (!guest)
         return;
-    std::array<char, 16 * 1024> bytes;
+    std::array<char, 16384> bytes;
     const ssize_t count = ::recv(guest->socket.get(), bytes.data(), bytes.size(), 0);
     if (count < 0 && isForLater(errno))
         return;

@@ -38,11 +38,8 @@ bool becomesReadable(int fd, std::chrono::milliseconds patience) {
             deadline - std::chrono::steady_clock::now());
         if (left <= 0ms)
             return false;
-        const int ready = ::poll(&watched, 1, static_cast<int>(left.count()));
-        if (ready > 0)
+        if (::poll(&watched, 1, static_cast<int>(left.count())) > 0)
             return true;
-        if (ready < 0 && errno != EINTR)
-            return false;
     }
 }
 

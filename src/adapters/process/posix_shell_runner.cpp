@@ -11,6 +11,7 @@
 #include <poll.h>
 #include <signal.h>
 #include <sys/eventfd.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 
 #include <algorithm>
@@ -54,6 +55,16 @@ bool reap(pid_t pid, int options) {
     while ((reaped = ::waitpid(pid, nullptr, options)) < 0 && errno == EINTR) {
     }
     return reaped == pid;
+}
+
+/// Whether this process has neither children nor any that were given to it. Those that have ended
+/// are reaped.
+bool hasNoChildren() {
+    pid_t reaped = 0;
+    do
+        reaped = ::waitpid(-1, nullptr, WNOHANG);
+    while (reaped > 0 || (reaped < 0 && errno == EINTR));
+    return reaped < 0 && errno == ECHILD;
 }
 
 /// How `pid` has ended, which stays to be reaped; `si_pid` is 0 when it has not.
@@ -199,6 +210,11 @@ std::optional<FileBeingWritten> PosixShellRunner::fileBeingWritten(CommandId com
     return fileWrittenBy(static_cast<pid_t>(command));
 }
 
+void PosixShellRunner::adoptWhatIsLeft() {
+    const std::lock_guard lock(fMutex);
+    fAdopts = ::prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0) == 0;
+}
+
 void PosixShellRunner::endAll() {
     const std::lock_guard once(fEndMutex);
     if (std::exchange(fEnded, true))
@@ -208,7 +224,7 @@ void PosixShellRunner::endAll() {
     {
         const std::lock_guard lock(fMutex);
         fEnding = true;
-        if (!fStarted)
+        if (!fStarted || (fSessions.empty() && fAdopts && hasNoChildren()))
             return;
         for (const Session& session : fSessions) {
             sessions.push_back(session.pid);

@@ -44,6 +44,11 @@ public:
     /// runs a command; calling it again does nothing.
     void endAll();
 
+    /// From now on the system gives this process whatever a command has left when its parent ends,
+    /// so that `endAll` knows without a look at all processes that nothing is left. For a program
+    /// that ends soon and starts nothing else: what it is given is reaped at the end alone.
+    void adoptWhatIsLeft();
+
     /// The descriptor of a CommandTable with the commands that run, for as long as the runner
     /// lives.
     int runningCommands() const { return fTable.descriptor(); }
@@ -71,6 +76,7 @@ private:
     std::vector<Session> fSessions;
     CommandTable fTable; ///< of the same; guarded by the same mutex
     int fCallers = 0;
+    bool fAdopts = false;
     bool fEnding = false;
     bool fEnded = false;   ///< `endAll` has done its work; guarded by fEndMutex
     bool fStarted = false; ///< a command ever was

@@ -1,13 +1,13 @@
 #include "adapters/process/ssh_connection.h"
 
 #include "adapters/process/socket_folder.h"
+#include "adapters/system/interface_addresses.h"
 #include "ports/command_runner.h"
 #include "ports/dispatch_queue.h"
 #include "support/shell_words.h"
 
 #include <QFile>
 
-#include <ifaddrs.h>
 #include <sys/stat.h>
 
 #include <arpa/inet.h>
@@ -36,10 +36,8 @@ const QString cMasterCommand = QStringLiteral(
 /// The addresses of this machine beyond the loopback.
 std::set<std::string> addresses() {
     std::set<std::string> all;
-    ifaddrs* list = nullptr;
-    if (::getifaddrs(&list) != 0)
-        return all;
-    for (const ifaddrs* entry = list; entry != nullptr; entry = entry->ifa_next) {
+    const InterfaceAddresses list;
+    for (const ifaddrs* entry = list.first(); entry != nullptr; entry = entry->ifa_next) {
         if (entry->ifa_addr == nullptr || (entry->ifa_flags & IFF_LOOPBACK) != 0)
             continue;
         char text[INET6_ADDRSTRLEN] = "";
@@ -51,7 +49,6 @@ std::set<std::string> addresses() {
         if (bytes && ::inet_ntop(entry->ifa_addr->sa_family, bytes, text, sizeof text))
             all.insert(text);
     }
-    ::freeifaddrs(list);
     return all;
 }
 

@@ -22,7 +22,7 @@ std::string parentOf(const std::string& path) {
 std::string environmentPath(const char* name) {
     const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
     std::string path = value && *value == '/' ? value : "";
-    while (path.size() > 1 && path.back() == '/')
+    while (path.ends_with('/'))
         path.pop_back();
     return path;
 }

@@ -1,5 +1,6 @@
 #include "app/commands/ask.h"
 
+#include "app/commands/passes.h"
 #include "support/plain_line.h"
 
 #include <QJsonDocument>
@@ -69,9 +70,7 @@ Told CopyAnswers::followed(const QString& kind, const QJsonObject& answer, const
         return {.output = jsonLine(answer), .ends = false};
     QString output;
     const auto add = [&](const QString& text) {
-        const QDateTime local = now.toLocalTime();
-        output += local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODate) + u"  " +
-                  text + u'\n';
+        output += localTimeText(now) + u"  " + text + u'\n';
     };
     if (kind == u"status") {
         const QString state = stateText(answer);

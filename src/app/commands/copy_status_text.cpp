@@ -1,5 +1,6 @@
 // A status as lines for people: what stands in it comes from another program.
 #include "app/commands/copy_status.h"
+#include "app/commands/passes.h"
 #include "support/plain_line.h"
 #include "ui/pass_words.h"
 
@@ -70,12 +71,6 @@ std::optional<qint64> countAt(const QJsonObject& object, QStringView member) {
     return number >= 0 ? std::optional(number) : std::nullopt;
 }
 
-/// By this machine's clock, with its distance from UTC.
-QString momentText(const QDateTime& moment) {
-    const QDateTime local = moment.toLocalTime();
-    return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODate);
-}
-
 QString passText(const QJsonObject& pass) {
     PassRecord record;
     record.kind = pass.value(u"kind").toString() == u"remote" ? PassKind::Remote : PassKind::Plain;
@@ -85,7 +80,7 @@ QString passText(const QJsonObject& pass) {
     QStringList figures{filesText(record), sizeText(record.transfer),
                         secondsText(figureAt(pass, u"seconds").value_or(0))};
     figures.removeAll(QString());
-    return momentText(momentAt(pass, u"began")) + u"  " + textAt(pass, u"message") + u" (" +
+    return localTimeText(momentAt(pass, u"began")) + u"  " + textAt(pass, u"message") + u" (" +
            figures.join(QStringLiteral(", ")) + u')';
 }
 
@@ -105,7 +100,7 @@ private:
 
 void addTroubles(Table& table, const QJsonObject& status) {
     const QJsonArray troubles = status.value(u"troubles").toArray();
-    for (const QJsonValue& each : troubles) {
+    for (const auto& each : troubles) {
         const QJsonObject trouble = each.toObject();
         table.add(u"Trouble", textAt(trouble, u"message"));
         table.add(u"Next step", textAt(trouble, u"nextStep"));
@@ -113,9 +108,9 @@ void addTroubles(Table& table, const QJsonObject& status) {
     const QDateTime since = momentAt(status, u"troubleSince");
     const auto passes = countAt(status, u"passesInTrouble");
     if (!troubles.isEmpty() && since.isValid() && passes && *passes > 0)
-        table.add(u"Since",
-                  momentText(since) + (*passes == 1 ? QStringLiteral(" (1 pass)")
-                                                    : QStringLiteral(" (%1 passes)").arg(*passes)));
+        table.add(u"Since", localTimeText(since) +
+                                (*passes == 1 ? QStringLiteral(" (1 pass)")
+                                              : QStringLiteral(" (%1 passes)").arg(*passes)));
 }
 
 QString copyText(const QJsonObject& status) {
@@ -126,7 +121,7 @@ QString copyText(const QJsonObject& status) {
     if (const auto process = countAt(status, u"process"))
         text += u", process " + QString::number(*process);
     if (const QDateTime since = momentAt(status, u"since"); since.isValid())
-        text += u", since " + momentText(since);
+        text += u", since " + localTimeText(since);
     return text + (status.value(u"window").toBool() ? u", with a window" : u", without a window");
 }
 
@@ -173,7 +168,7 @@ QString statusText(const QJsonObject& status, const QDateTime& now) {
     Table table;
     table.add(u"State", stateText(status));
     QStringList missing;
-    for (const QJsonValue& each : status.value(u"missing").toArray())
+    for (const auto& each : status.value(u"missing").toArray())
         missing.append(textFor(cMissing, each.toString()).toString());
     missing.removeAll(QString());
     table.add(u"Missing", missing.join(QStringLiteral(", ")));
@@ -186,8 +181,8 @@ QString statusText(const QJsonObject& status, const QDateTime& now) {
         table.add(u"Last pass", passText(last));
     if (const QDateTime success = momentAt(status.value(u"lastSuccess").toObject(), u"began");
         success.isValid())
-        table.add(u"Last success",
-                  momentText(success) + u", " + agoText(static_cast<double>(success.secsTo(now))));
+        table.add(u"Last success", localTimeText(success) + u", " +
+                                       agoText(static_cast<double>(success.secsTo(now))));
     table.add(u"Program", copyText(status));
     return table.text();
 }

@@ -28,9 +28,7 @@ QJsonObject jsonOf(const Arrival& arrival) {
 }
 
 QString lineOf(const PassRecord& pass) {
-    const QDateTime local = pass.began.toLocalTime();
-    return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODate) + u"  " +
-           outcomeLine(pass);
+    return localTimeText(pass.began) + u"  " + outcomeLine(pass);
 }
 
 } // namespace
@@ -51,6 +49,11 @@ std::optional<QDateTime> momentFrom(const QString& text, const QDateTime& now) {
     const QDateTime moment = isDate ? QDate::fromString(text, Qt::ISODate).startOfDay()
                                     : QDateTime::fromString(text, Qt::ISODate);
     return moment.isValid() ? std::optional(moment) : std::nullopt;
+}
+
+QString localTimeText(const QDateTime& moment) {
+    const QDateTime local = moment.toLocalTime();
+    return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODate);
 }
 
 QJsonObject jsonOf(const PassRecord& pass) {

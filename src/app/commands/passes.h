@@ -26,6 +26,9 @@ std::optional<qint64> spanFrom(const QString& text);
 /// it names a zone, or a span before `now`. Nothing when it is none of these.
 std::optional<QDateTime> momentFrom(const QString& text, const QDateTime& now);
 
+/// `moment` as ISO has it, by this machine's clock and with its distance from UTC.
+QString localTimeText(const QDateTime& moment);
+
 /// What every JSON answer says of a pass, its arrivals included.
 QJsonObject jsonOf(const PassRecord& pass);
 

@@ -1,5 +1,6 @@
 #include "app/commands/profiles.h"
 
+#include "app/commands/passes.h"
 #include "support/plain_line.h"
 #include "ui/pass_words.h"
 
@@ -46,17 +47,13 @@ QString orNone(const QString& text, QStringView none) {
     return text.isEmpty() ? none.toString() : oneLine(text);
 }
 
-QString timeOf(const QDateTime& moment) {
-    const QDateTime local = moment.toLocalTime();
-    return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODate);
-}
-
 QString lineOf(const ProfileState& state, qsizetype nameWidth) {
-    QString line =
-        orNone(state.profile.name, u"(no profile)").leftJustified(nameWidth) +
-        (state.isRunning ? u"  running      " : u"  not running  ") + orNone(state.mac, u"no Mac") +
-        (state.lastSuccess.isValid() ? QString(u", last success " + timeOf(state.lastSuccess))
-                                     : QStringLiteral(", no success yet"));
+    QString line = orNone(state.profile.name, u"(no profile)").leftJustified(nameWidth) +
+                   (state.isRunning ? u"  running      " : u"  not running  ") +
+                   orNone(state.mac, u"no Mac") +
+                   (state.lastSuccess.isValid()
+                        ? QString(u", last success " + localTimeText(state.lastSuccess))
+                        : QStringLiteral(", no success yet"));
     if (state.trouble)
         line += u". " + wordsFor(*state.trouble).sentence;
     if (!state.fault.isEmpty())

@@ -2,6 +2,7 @@
 
 #include "app/commands/once.h"
 #include "ports/dialogue.h"
+#include "ports/ssh_configuration.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
 #include "settings/remote_account.h"
@@ -99,6 +100,7 @@ void SetupDeeds::notLetIn(const HostAnswer& answer) {
                 fParts.dialogue.say(QStringLiteral("The settings are stored. Once the Mac can be "
                                                    "reached: %1 --setup")
                                         .arg(fParts.profile.command()));
+                tellSsh();
                 end(exitCode);
             }
         });
@@ -111,15 +113,16 @@ void SetupDeeds::letIn() {
     if (!storeAll(fAnswers.enable))
         return;
     fParts.dialogue.say(QStringLiteral("The settings are stored."));
+    const bool sshKnows = tellSsh();
     if (!fAnswers.enable) {
         tellNext();
-        end(0);
+        end(sshKnows ? 0 : 1);
         return;
     }
-    fParts.service.enable(fAnswers.linger, [this](bool well, const QString& text) {
+    fParts.service.enable(fAnswers.linger, [this, sshKnows](bool well, const QString& text) {
         fParts.dialogue.say(text);
         tellNext();
-        end(well ? 0 : 1);
+        end(well && sshKnows ? 0 : 1);
     });
 }
 
@@ -138,6 +141,29 @@ bool SetupDeeds::storeAll(bool startByItself) {
         return false;
     }
     fStored = true;
+    return true;
+}
+
+/// Whether ssh's configuration is as it was agreed.
+bool SetupDeeds::tellSsh() {
+    using Knows = SshConfiguration::Knows;
+    if (!fAnswers.sshLine)
+        return true;
+    const Knows before = fParts.ssh.knows();
+    if (*fAnswers.sshLine && before != Knows::NotYet)
+        return true;
+    const QString file = oneLine(fParts.ssh.file());
+    if (const QString why = fParts.ssh.setLine(*fAnswers.sshLine); !why.isEmpty()) {
+        fParts.dialogue.say(QStringLiteral("%1 was not changed: %2").arg(file, oneLine(why)));
+        return false;
+    }
+    if (*fAnswers.sshLine)
+        fParts.dialogue.say(
+            QStringLiteral("A line in %1 tells ssh of the connection that passes share. What takes "
+                           "it away again: %2 --setup --no-share-connection")
+                .arg(file, fParts.profile.command()));
+    else if (before == Knows::ByTheLine)
+        fParts.dialogue.say(QStringLiteral("The line in %1 is taken away.").arg(file));
     return true;
 }
 

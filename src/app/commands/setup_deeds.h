@@ -15,6 +15,7 @@
 namespace kelvo {
 
 class Dialogue;
+class SshConfiguration;
 
 /// Nothing is stored before the Mac has let this program in, or a person wants it stored all the
 /// same. Main thread only.
@@ -26,6 +27,7 @@ public:
         UserDefaults& settings;
         SetupKey& key;
         SetupService& service;
+        SshConfiguration& ssh;
         std::function<FileFault(const QString&)> makeFolder; ///< with the folders above it
         /// Brings the settings of the set-up to disk; why they are not there, empty when they are.
         std::function<QString(bool startByItself)> store;
@@ -53,6 +55,7 @@ private:
     void notLetIn(const HostAnswer& answer);
     void letIn();
     bool storeAll(bool startByItself);
+    bool tellSsh();
     void tellNext() const;
     /// Each with what it is for.
     void tellCommands(const std::vector<std::pair<QString, QStringView>>& commands) const;

@@ -22,6 +22,7 @@ SetupMacs::SetupMacs(const Parts& parts)
     : fParts(parts), fRows(std::make_shared<ArrayController>()),
       fList(BonjourViewController::make({.defaults = parts.settings,
                                          .mainQueue = parts.mainQueue,
+                                         .bgQueue = parts.bgQueue,
                                          .console = parts.console,
                                          .browser = parts.browser,
                                          .fArrayController = fRows,
@@ -31,7 +32,7 @@ SetupMacs::SetupMacs(const Parts& parts)
       fWatch({.mainQueue = parts.mainQueue,
               .browser = parts.browser,
               .hasNetwork = parts.hasNetwork,
-              .isEmpty = [this] { return !fRows->content() || fRows->content()->isEmpty(); },
+              .isEmpty = [this] { return found().isEmpty(); },
               .scan = [this] { fList->ibSearchBonjour(); },
               .changed = [] {}}) {}
 
@@ -56,7 +57,7 @@ void SetupMacs::search(std::function<void(bool)> done) {
 void SetupMacs::look() {
     if (!fDone)
         return;
-    const bool isEmpty = !fRows->content() || fRows->content()->isEmpty();
+    const bool isEmpty = found().isEmpty();
     const WhyEmpty why = fWatch.why();
     const bool cannotFind =
         why == WhyEmpty::DiscoveryNotInstalled || why == WhyEmpty::DiscoveryNotRunning;
@@ -70,8 +71,12 @@ void SetupMacs::look() {
     fParts.mainQueue.asyncAfter(cPace, [this] { look(); });
 }
 
+DNSSD_Services SetupMacs::found() const {
+    return fRows->content().value_or(DNSSD_Services());
+}
+
 void SetupMacs::show() {
-    fListed = fRows->content().value_or(DNSSD_Services());
+    fListed = found();
     if (fListed.isEmpty())
         fParts.dialogue.say(whyEmpty());
     for (qsizetype row = 0; row < fListed.size(); ++row)

@@ -13,6 +13,7 @@
 namespace kelvo {
 
 class ArrayController;
+class BackgroundQueue;
 class BonjourViewController;
 class Console;
 class Dialogue;
@@ -25,6 +26,7 @@ public:
         Dialogue& dialogue;
         UserDefaults& settings;
         DispatchQueue& mainQueue;
+        BackgroundQueue& bgQueue;
         Console& console;
         DnssdBrowser& browser;
         std::function<bool()> hasNetwork;
@@ -48,6 +50,7 @@ public:
 
 private:
     void look();
+    DNSSD_Services found() const; ///< by the scans so far
     void show();
     QString whyEmpty() const;
 

@@ -16,6 +16,8 @@ const QString cFolder = QStringLiteral("folder");
 const QString cDestination = QStringLiteral("destination");
 const QString cMakeDestination = QStringLiteral("make-destination");
 const QString cNewKey = QStringLiteral("new-key");
+const QString cShareConnection = QStringLiteral("share-connection");
+const QString cNoShareConnection = QStringLiteral("no-share-connection");
 const QString cEnable = QStringLiteral("enable");
 const QString cNoEnable = QStringLiteral("no-enable");
 const QString cLinger = QStringLiteral("linger");
@@ -39,7 +41,8 @@ std::variant<std::monostate, SetupRequest, QString> setupRequest(const QCommandL
         }
         return {};
     }
-    for (const auto& [yes, no] : {std::pair(cEnable, cNoEnable), std::pair(cLinger, cNoLinger)}) {
+    for (const auto& [yes, no] : {std::pair(cShareConnection, cNoShareConnection),
+                                  std::pair(cEnable, cNoEnable), std::pair(cLinger, cNoLinger)}) {
         if (parser.isSet(yes) && parser.isSet(no))
             return QString(u"--" + yes + u" and --" + no + u" do not go together");
     }
@@ -52,6 +55,7 @@ std::variant<std::monostate, SetupRequest, QString> setupRequest(const QCommandL
                         .destination = text(cDestination),
                         .makeDestination = parser.isSet(cMakeDestination),
                         .newKey = parser.isSet(cNewKey),
+                        .shareConnection = choice(parser, cShareConnection, cNoShareConnection),
                         .enable = choice(parser, cEnable, cNoEnable),
                         .linger = choice(parser, cLinger, cNoLinger)};
 }

@@ -3,8 +3,10 @@
 #include "app/commands/once.h"
 #include "ports/dialogue.h"
 #include "ports/file_manager.h"
+#include "ports/ssh_configuration.h"
 #include "ports/user_defaults.h"
 #include "settings/preference_keys.h"
+#include "support/plain_line.h"
 #include "support/text.h"
 #include "ui/pass_words.h"
 
@@ -21,12 +23,13 @@ void SetupQuestions::begin(Done done) {
 }
 
 void SetupQuestions::next() {
-    static constexpr std::array<Step, 8> cSteps{&SetupQuestions::askForMac,
+    static constexpr std::array<Step, 9> cSteps{&SetupQuestions::askForMac,
                                                 &SetupQuestions::askForAccount,
                                                 &SetupQuestions::askForFolder,
                                                 &SetupQuestions::askForDestination,
                                                 &SetupQuestions::askToMakeDestination,
                                                 &SetupQuestions::askForNewKey,
+                                                &SetupQuestions::askToShareConnection,
                                                 &SetupQuestions::askToEnable,
                                                 &SetupQuestions::askToLinger};
     if (fStep < cSteps.size()) {
@@ -237,6 +240,25 @@ void SetupQuestions::askForNewKey() {
                        next();
                    });
     }
+}
+
+void SetupQuestions::askToShareConnection() {
+    fAnswers.sshLine = fRequest.shareConnection;
+    if (fRequest.shareConnection || !fParts.settings.boolForKey(prefKeepConnection) ||
+        fParts.ssh.knows() != SshConfiguration::Knows::NotYet || !fParts.dialogue.canAnswer()) {
+        next();
+        return;
+    }
+    fParts.dialogue.say(
+        QStringLiteral("Passes can share one login to the Mac, and ssh does not know of it yet. "
+                       "This line at the top of %1 tells it, and concerns no commands but those of "
+                       "passes:\n  %2")
+            .arg(oneLine(fParts.ssh.file()), oneLine(fParts.ssh.line())));
+    askYesOrNo(QStringLiteral("Add the line?"), true, [this](bool agreed) {
+        if (agreed)
+            fAnswers.sshLine = true;
+        next();
+    });
 }
 
 void SetupQuestions::askToEnable() {

@@ -13,6 +13,7 @@
 namespace kelvo {
 
 class FileManager;
+class SshConfiguration;
 
 /// Changes nothing but `settings`. Main thread only; a folder is looked at here.
 class SetupQuestions {
@@ -22,6 +23,7 @@ public:
         UserDefaults& settings; ///< an overlay: the answers are kept there
         const FileManager& files;
         SetupMacs& macs;
+        const SshConfiguration& ssh;
         ServiceFacts service;
         QString unit = QStringLiteral("kelvo-mirror"); ///< without its ".service"
     };
@@ -65,6 +67,7 @@ private:
     void askForDestination();
     void askToMakeDestination();
     void askForNewKey();
+    void askToShareConnection();
     void askToEnable();
     void askToLinger();
 

@@ -18,16 +18,18 @@ struct SetupRequest {
     std::optional<QString> destination = {};
     bool makeDestination = false;
     bool newKey = false;
+    std::optional<bool> shareConnection = {}; ///< whether ssh is told of it
     std::optional<bool> enable = {};
     std::optional<bool> linger = {};
 };
 
 /// The settings themselves stand in the store that the questions were given.
 struct SetupAnswers {
-    QString destination;          ///< as it is stored
-    bool makeDestination = false; ///< there is no such folder yet
-    bool newKey = false;          ///< the key that is there is to be replaced
-    bool enable = false;          ///< the service
+    QString destination;              ///< as it is stored
+    bool makeDestination = false;     ///< there is no such folder yet
+    bool newKey = false;              ///< the key that is there is to be replaced
+    std::optional<bool> sshLine = {}; ///< whether the line belongs there; empty: left as it is
+    bool enable = false;              ///< the service
     bool linger = false;
 };
 

@@ -78,7 +78,8 @@ void SetupService::enable(bool linger, Done done) {
                 came->well
                     ? QStringLiteral(" It will run from the start of the machine on.")
                     : QStringLiteral(" Lingering could not be switched on, so it runs only while "
-                                     "you are logged in. The last line was: %1")
+                                     "you are logged in. Who may act as root can do it: sudo "
+                                     "loginctl enable-linger $USER. The last line was: %1")
                           .arg(lastLine(lingers.output));
         },
         [came, done = std::move(done)] { done(came->well, came->text); });

@@ -19,16 +19,6 @@ namespace {
 const QString cFolder = QStringLiteral(":/kelvo-mirror/translations");
 const QString cBase = QStringLiteral("kelvo-mirror_");
 
-/// As for the C library: LANGUAGE counts only where the messages are not those of "C".
-bool messagesAreC() {
-    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        const QByteArray value = qgetenv(name);
-        if (!value.isEmpty())
-            return value == "C" || value == "POSIX" || value.startsWith("C.");
-    }
-    return true;
-}
-
 bool isThere(const QString& catalogue) {
     return QFile::exists(cFolder + u'/' + cBase + catalogue + u".qm");
 }
@@ -41,13 +31,22 @@ bool install(QApplication& application, const QString& file, const QString& fold
 
 } // namespace
 
+bool messagesAreC() {
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const QByteArray value = qgetenv(name);
+        if (!value.isEmpty())
+            return value == "C" || value == "POSIX" || value.startsWith("C.");
+    }
+    return true;
+}
+
 QString catalogueFor(const QStringList& languages) {
     initTranslations();
     for (const QString& tag : languages) {
         const QLocale locale(tag);
         if (locale.language() == QLocale::English || locale.language() == QLocale::C)
             return {};
-        const QString language = locale.name().section(u'_', 0, 0);
+        QString language = locale.name().section(u'_', 0, 0);
         if (locale.language() == QLocale::Chinese) {
             if (locale.script() == QLocale::SimplifiedHanScript)
                 return isThere(QStringLiteral("zh_CN")) ? QStringLiteral("zh_CN") : QString();

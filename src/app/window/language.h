@@ -12,6 +12,10 @@ namespace kelvo {
 /// those there are: "de", "zh_CN"; empty for English and where none fits.
 QString catalogueFor(const QStringList& languages);
 
+/// Whether the environment asks for the messages of "C"; LANGUAGE does not count then, as for the
+/// C library.
+bool messagesAreC();
+
 /// From now on `application` has the words, the direction and the numbers that the environment asks
 /// for. With LANG=C, and in English, no catalogue is read. Once, before the first window.
 void speakTheirLanguage(QApplication& application);

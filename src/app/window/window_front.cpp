@@ -1,8 +1,10 @@
 // The front with the main window.
+#include "adapters/desktop/desktop_workspace.h"
 #include "adapters/display/color_scheme.h"
 #include "adapters/display/desktop_tray_host.h"
 #include "adapters/display/status_notifier_item.h"
 #include "adapters/network/link_watch.h"
+#include "app/bus/own_bus_parts.h"
 #include "app/commands/profiles.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
@@ -62,7 +64,7 @@ public:
           fPathControl(std::make_shared<WidgetPathControl>(fWindow.fNsPathControl1())),
           fAlerts({.mainWindow = fWindow,
                    .mainQueue = machine.mainQueue,
-                   .notices = machine.notices,
+                   .notices = *machine.notices,
                    .showWhy = [this] { fWindow.showActivity(cNewestPass); }}),
           fOpenPanel(fWindow), fWindowController(std::make_shared<MainWindowController>(
                                    [this] { fWindow.bringToFront(); })) {
@@ -73,7 +75,7 @@ public:
             [this](DiagnosticsTab& tab) { showServices(fFoundServices, tab.foundServices()); });
         fWindow.activityTab().setParts({
             .store = machine.passes,
-            .workspace = machine.workspace,
+            .workspace = *machine.workspace,
             .mainQueue = machine.mainQueue,
             .bgQueue = machine.bgQueue,
             .defaults = machine.defaults,
@@ -105,8 +107,9 @@ public:
                     return presentSheet(identifier,
                                         {.defaults = fMachine.defaults,
                                          .mainQueue = fMachine.mainQueue,
+                                         .bgQueue = fMachine.bgQueue,
                                          .console = fMachine.console,
-                                         .browser = fMachine.dnssdBrowser,
+                                         .browser = *fMachine.dnssdBrowser,
                                          .hasNetwork = hasUsableLink},
                                         fWindow);
                 },
@@ -136,7 +139,7 @@ public:
     void sendActionsTo(ViewController& controller, AppDelegate& delegate) override {
         fController = &controller;
         fDelegate = &delegate;
-        sendWindowActions(fWindow, controller, fMachine.workspace, fPathControl, fOnceButtons);
+        sendWindowActions(fWindow, controller, *fMachine.workspace, fPathControl, fOnceButtons);
         fWindow.syncTab().setRemedyChosen([this](Remedy remedy) { apply(remedy); });
         fChecklist.emplace(Checklist::Parts{
             .defaults = fMachine.defaults,
@@ -159,7 +162,7 @@ public:
         if (fWindow.remoteTab().wasShown())
             watchConnection();
         addApplicationMenu(
-            fWindow, controller, delegate, fMachine.statusMenu(), fMachine.workspace,
+            fWindow, controller, delegate, fMachine.statusMenu(), *fMachine.workspace,
             fMachine.logFolder(), [this] { askForAnotherMac(); }, [this] { return mayQuit(); },
             [this] { fApplication.terminate(); });
     }
@@ -212,7 +215,7 @@ private:
             fWindow.showActivity(cNewestPass);
             break;
         case Remedy::OpenLog:
-            fMachine.workspace.openFile(fMachine.logFolder());
+            fMachine.workspace->openFile(fMachine.logFolder());
             break;
         case Remedy::None:
             break;
@@ -281,7 +284,7 @@ private:
     void tellWhereTheWindowGoes() {
         if (const auto notice =
                 fClosePolicy.noticeAtHiding(fMachine.statusMenu().isReachable(), fMachine.defaults))
-            fMachine.notices.showNotice(*notice);
+            fMachine.notices->showNotice(*notice);
     }
 
     MachineParts& fMachine;
@@ -332,9 +335,14 @@ StatusMenuParts makeTray(DispatchQueue& mainQueue, const Profile& profile) {
 FrontKind windowFront() {
     return {
         .hasWindow = true,
+        .bus = ownBusParts(),
+        .makeWorkspace = [](PassMachine& machine) -> std::unique_ptr<Workspace> {
+            return std::make_unique<DesktopWorkspace>(
+                machine.mainQueue, machine.bgQueue, machine.console, machine.files.homeDirectory());
+        },
         .makeStatusMenu = makeTray,
         .makeFront = [](MachineParts& machine,
-                        std::function<void(const WorkState&)>) -> std::unique_ptr<Front> {
+                        const std::function<void(const WorkState&)>&) -> std::unique_ptr<Front> {
             QApplication::setStyle(new StartStyle(QApplication::style()));
             return std::make_unique<WindowFront>(machine);
         },

@@ -48,7 +48,7 @@ public:
 };
 
 bool isLine(const QFrame& frame) {
-    return frame.frameShape() == QFrame::HLine || frame.frameShape() == QFrame::VLine;
+    return frame.frameShape() == QFrame::HLine;
 }
 
 QAccessibleInterface* interfaceOf(const QString&, QObject* object) {

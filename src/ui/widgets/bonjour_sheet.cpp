@@ -87,6 +87,7 @@ std::shared_ptr<BonjourViewController> BonjourSheet::makeController() {
     auto controller = BonjourViewController::make({
         .defaults = fParts.defaults,
         .mainQueue = fParts.mainQueue,
+        .bgQueue = fParts.bgQueue,
         .console = fParts.console,
         .browser = fParts.browser,
         .fArrayController = fRecords,

@@ -18,6 +18,7 @@ class BonjourSheet;
 namespace kelvo {
 
 class ArrayController;
+class BackgroundQueue;
 class BonjourViewController;
 class Console;
 class DispatchQueue;
@@ -27,6 +28,7 @@ class UserDefaults;
 struct BonjourSheetParts {
     UserDefaults& defaults;
     DispatchQueue& mainQueue;
+    BackgroundQueue& bgQueue;
     Console& console;
     DnssdBrowser& browser;
     /// Whether this machine is in a network; does not block.

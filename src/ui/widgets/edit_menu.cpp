@@ -92,7 +92,7 @@ void EditMenu::add(const QString& name, const QString& title, QKeySequence::Stan
     QAction* action = addAction(title);
     action->setObjectName(name);
     action->setShortcut(key);
-    connect(action, &QAction::triggered, this, [this, operation] {
+    connect(action, &QAction::triggered, this, [operation] {
         if (can(abilitiesOf(QApplication::focusWidget()), operation))
             perform(operation);
     });

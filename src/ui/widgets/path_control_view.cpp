@@ -151,7 +151,9 @@ void PathControlView::addButton() {
             [this, place] { Q_EMIT openRequested(QString(fParts[place].path)); });
     button->addAction(open);
     button->setContextMenuPolicy(Qt::ActionsContextMenu);
-    setTabOrder(place == 0 ? fHidden : fButtons.back(), button);
+    setTabOrder(place < 2 ? fHidden : fButtons.back(), button);
+    if (place == 0)
+        setTabOrder(button, fHidden); // The menu stands behind the first part.
     fButtons.push_back(button);
 }
 
