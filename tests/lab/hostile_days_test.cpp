@@ -68,7 +68,7 @@ protected:
                    (fLastCommand && line == u"======== done ========");
         };
         fLastCommand = false;
-        return program.waitForLine(QStringLiteral("status black: Trying to rsync"), 30) &&
+        return program.waitForLine(QStringLiteral("status black: Trying to rsync"), cPassSeconds) &&
                program.waitForLine(ended, cPassSeconds);
     }
 

@@ -70,7 +70,7 @@ void LabNetwork::enterNearHost(const QByteArray& holder) {
     const int near = ::open(QByteArray(host + "/ns/net").constData(), O_RDONLY | O_CLOEXEC);
     EXPECT_EQ(::setns(near, CLONE_NEWNET), 0);
     ::close(near);
-    ::qputenv(cBusVariable, "unix:path=" + host + "/root/run/dbus/system_bus_socket");
+    ::qputenv(cBusVariable, QByteArray("unix:path=" + host + "/root/run/dbus/system_bus_socket"));
 }
 
 void LabNetwork::announce(const QString& name, quint32 port) {
