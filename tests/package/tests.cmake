@@ -20,3 +20,7 @@ add_test(NAME Units.workWithFewRights
     ${kelvo_pass_under_units})
 set_tests_properties(Units.workWithFewRights PROPERTIES
   LABELS system TIMEOUT 120 SKIP_RETURN_CODE 77)
+add_test(NAME Units.runUnderARealSystemd
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/package/service-test ${CMAKE_BINARY_DIR})
+set_tests_properties(Units.runUnderARealSystemd PROPERTIES
+  LABELS system TIMEOUT 400 SKIP_RETURN_CODE 77)
