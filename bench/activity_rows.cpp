@@ -29,7 +29,15 @@ public:
 /// 10,000 passes over 30 days with five movies each.
 void fill(PassStore& store) {
     PassRecord record;
-    record.commands.push_back({});
+    for (const CommandRole role : {CommandRole::HostCheck, CommandRole::Pull, CommandRole::Pull})
+        record.commands.push_back(
+            {.role = role,
+             .command =
+                 QStringLiteral("/usr/bin/rsync 2>&1 -r --times --stats 'Movies/' 'Incoming/'"),
+             .exitStatus = 0,
+             .seconds = 0.2,
+             .text = {QStringLiteral("Features/Season 1/Episode 1.mov\n").repeated(20), {}, 0},
+             .transfer = {}});
     for (int i = 0; i < PassStore::cMostPasses; ++i) {
         record.began =
             QDateTime::currentDateTimeUtc().addSecs(qint64{i - PassStore::cMostPasses} * 250);

@@ -4,6 +4,7 @@
 #include "adapters/process/posix_shell_runner.h"
 #include "adapters/process/qt_main_queue.h"
 #include "adapters/process/thread_pool_queue.h"
+#include "bench/printed_names.h"
 #include "bench/row.h"
 #include "fakes/recording_console.h"
 
@@ -17,7 +18,9 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <memory>
+#include <thread>
 
 namespace kelvo::bench {
 namespace {
@@ -62,37 +65,82 @@ double captureSeconds(const QString& command) {
     return result.leftOut == cFlood - OutputBounds().kept ? seconds : -1;
 }
 
-/// What anybody would write: popen, and read until the end.
-double plainLoopSeconds(const QString& command) {
-    const auto begin = Clock::now();
+/// The least there is to do: read into a buffer until the end, with a rest before each read.
+/// Returns the bytes that came.
+qsizetype plainRead(const QString& command, std::chrono::milliseconds rest = {}) {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> pipe(
         ::popen(command.toLocal8Bit().constData(), "r"), &::pclose);
-    std::string output;
+    qsizetype bytes = 0;
     std::array<char, 64 * 1024> buffer{};
-    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe.get()))
-        output.append(buffer.data(), count);
+    while (const ssize_t count = ::read(::fileno(pipe.get()), buffer.data(), buffer.size())) {
+        if (count > 0)
+            bytes += count;
+        if (rest.count() > 0)
+            std::this_thread::sleep_for(rest);
+    }
+    return bytes;
+}
+
+double plainReadSeconds(const QString& command) {
+    const auto begin = Clock::now();
+    const qsizetype bytes = plainRead(command);
     const double seconds = secondsSince(begin);
-    return output.size() == static_cast<std::size_t>(cFlood) ? seconds : -1;
+    return bytes == cFlood ? seconds : -1;
 }
 
 std::optional<std::vector<Figure>> measureCapture() {
     const Flood flood;
-    plainLoopSeconds(flood.command()); // brings the file into memory
-    std::vector<double> ours;
-    std::vector<double> theirs;
+    plainReadSeconds(flood.command()); // brings the file into memory
+    Rounds rounds;
     for (int round = 0; round < cRounds; ++round) {
-        ours.push_back(captureSeconds(flood.command()));
-        theirs.push_back(plainLoopSeconds(flood.command()));
-        if (ours.back() < 0 || theirs.back() < 0) {
+        rounds.ours.push_back(captureSeconds(flood.command()));
+        rounds.theirs.push_back(plainReadSeconds(flood.command()));
+        if (rounds.ours.back() < 0 || rounds.theirs.back() < 0) {
             std::fputs("The flood was not read to its end.\n", stderr);
             return std::nullopt;
         }
     }
-    const double oursMedian = median(ours);
-    const double theirsMedian = median(theirs);
-    return std::vector<Figure>{{"256 MiB read by the runner / the same read by a plain popen loop",
-                                oursMedian / theirsMedian, 1.25, "x",
-                                sideBySide(oursMedian, theirsMedian)}};
+    return std::vector<Figure>{
+        ratioOfTimes(rounds, "256 MiB read by the runner / the same read into a buffer", 1.5)};
+}
+
+/// What this process, its threads included, has used of the processor.
+double processorSeconds() {
+    timespec used{};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
+    return double(used.tv_sec) + double(used.tv_nsec) * 1e-9;
+}
+
+/// The least there is to do about lines that come one at a time: gather, read, forget.
+qsizetype gatheringRead(const QString& command) {
+    return plainRead(command, std::chrono::milliseconds(5));
+}
+
+std::optional<std::vector<Figure>> measureLines() {
+    const QString command = printingNames(cNames);
+    std::vector<double> ours;
+    std::vector<double> floor;
+    for (int round = 0; round < cRounds; ++round) {
+        RecordingConsole console;
+        PosixShellRunner runner(console);
+        double before = processorSeconds();
+        const CommandResult result = runner.run({.text = command});
+        ours.push_back(processorSeconds() - before);
+        before = processorSeconds();
+        const qsizetype bytes = gatheringRead(command);
+        floor.push_back(processorSeconds() - before);
+        if (result.exitStatus != 0 || bytes < cNames) {
+            std::fputs("The lines were not read to their end.\n", stderr);
+            return std::nullopt;
+        }
+    }
+    auto figures = measureNamesOfAPass();
+    if (!figures)
+        return std::nullopt;
+    char sides[64];
+    std::snprintf(sides, sizeof sides, "to gather and forget them: %.3f s", median(floor));
+    figures->push_back({"of it to read and keep what is printed", median(ours), 0.03, "s", sides});
+    return figures;
 }
 
 /// Keeps asking the main queue for its next turn and notes the longest it was kept waiting.
@@ -148,6 +196,10 @@ std::optional<std::vector<Figure>> measureStall() {
 
 Row captureRow() {
     return {"capture", measureCapture};
+}
+
+Row linesRow() {
+    return {"lines", measureLines};
 }
 
 Row stallRow() {

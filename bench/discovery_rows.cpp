@@ -18,7 +18,7 @@ namespace kelvo::bench {
 namespace {
 
 constexpr int cFilteredRecords = 10000;
-constexpr int cShownRecords = 500;
+constexpr int cShownRecords = 1000;
 constexpr int cRepetitions = 9;
 
 template <typename Body>
@@ -70,6 +70,7 @@ public:
 
     BonjourViewController& controller() { return *fController; }
     VirtualMainQueue& mainQueue() { return fMainQueue; }
+    ManualBackgroundQueue& bgQueue() { return fBgQueue; }
     qsizetype rows() const { return fRows->content().value_or(DNSSD_Services()).size(); }
 
 private:
@@ -79,10 +80,12 @@ private:
     FilledBrowser fBrowser;
     MemoryDefaults fDefaults;
     VirtualMainQueue fMainQueue;
+    ManualBackgroundQueue fBgQueue;
     std::shared_ptr<ArrayController> fRows = std::make_shared<ArrayController>();
     std::shared_ptr<BonjourViewController> fController = BonjourViewController::make({
         .defaults = fDefaults,
         .mainQueue = fMainQueue,
+        .bgQueue = fBgQueue,
         .console = fConsole,
         .browser = fBrowser,
         .fArrayController = fRows,
@@ -125,14 +128,15 @@ std::optional<std::vector<Figure>> measureSnapshot() {
             while (!list.mainQueue().idle()) {
                 const double due = list.mainQueue().nextDelay();
                 longest = std::max(longest, secondsOf([&] { list.mainQueue().advance(due); }));
+                list.bgQueue().runAll(); // on threads of its own in the program
             }
         }
         if (list.rows() != cShownRecords)
             return std::nullopt;
         stalls.push_back(longest);
     }
-    return std::vector<Figure>{{"longest main-queue stall of a scan that finds 500 services",
-                                median(stalls) * 1e3, 16.0, "ms",
+    return std::vector<Figure>{{"longest main-queue stall of a scan that finds 1,000 Macs",
+                                median(stalls) * 1e3, 5.0, "ms",
                                 std::to_string(cRepetitions) + " times two scans"}};
 }
 

@@ -4,18 +4,40 @@
 #include <QFile>
 #include <QList>
 
-#include <unistd.h>
+#include <algorithm>
+#include <ctime>
 
 namespace kelvo::bench {
 
 double processorSeconds(qint64 pid) {
-    QFile file(QStringLiteral("/proc/%1/stat").arg(pid));
+    clockid_t clock{};
+    timespec used{};
+    if (::clock_getcpuclockid(static_cast<pid_t>(pid), &clock) != 0 ||
+        ::clock_gettime(clock, &used) != 0)
+        return -1;
+    return double(used.tv_sec) + double(used.tv_nsec) * 1e-9;
+}
+
+double proportionalKiB(qint64 pid) {
+    QFile file(QStringLiteral("/proc/%1/smaps_rollup").arg(pid));
     if (!file.open(QIODevice::ReadOnly))
         return -1;
-    const QByteArray line = file.readAll();
-    const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-    return (fields.value(11).toDouble() + fields.value(12).toDouble()) /
-           static_cast<double>(::sysconf(_SC_CLK_TCK));
+    double all = -1;
+    for (const QByteArray& line : file.readAll().split('\n')) {
+        if (line.startsWith("Pss:"))
+            all = line.mid(4).simplified().split(' ').first().toDouble();
+    }
+    const QDir tasks(QStringLiteral("/proc/%1/task").arg(pid));
+    for (const QString& task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile children(tasks.filePath(task + QStringLiteral("/children")));
+        if (all < 0 || !children.open(QIODevice::ReadOnly))
+            return -1;
+        for (const QByteArray& child : children.readAll().simplified().split(' ')) {
+            if (!child.isEmpty())
+                all += std::max(proportionalKiB(child.toLongLong()), 0.0);
+        }
+    }
+    return all;
 }
 
 QHash<QString, qint64> wakeUps(qint64 pid) {

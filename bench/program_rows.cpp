@@ -1,170 +1,32 @@
-// The program at work: what a pass costs beyond its commands, and what rest costs.
-#include "adapters/process/posix_shell_runner.h"
-#include "adapters/system/local_file_manager.h"
+// The program at work: what a pass costs beyond its commands, and what rest costs. All of it is the
+// program that people run, with record and log.
+#include "bench/printed_names.h"
 #include "bench/processor_time.h"
+#include "bench/profile.h"
 #include "bench/row.h"
-#include "engine/engine.h"
-#include "fakes/fake_connection.h"
-#include "fakes/fake_front.h"
-#include "fakes/memory_defaults.h"
-#include "fakes/recording_console.h"
-#include "fakes/virtual_queues.h"
-#include "settings/preference_keys.h"
 
-#include <QCoreApplication>
 #include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 
-#include <chrono>
 #include <cstdio>
 
 namespace kelvo::bench {
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-constexpr int cPassRounds = 31;
-
-double secondsOf(const std::function<void()>& work) {
-    const auto begin = Clock::now();
-    work();
-    return std::chrono::duration<double>(Clock::now() - begin).count();
+/// The entries for a template of one's own; "%1" in it is the folder it may use.
+QString withTemplate(const QString& rsyncTemplate) {
+    return u"<key>prefRsyncCommandString1</key><string>" + rsyncTemplate.toHtmlEscaped() +
+           u"</string>";
 }
 
-/// Remembers what it runs.
-class WatchedCommands final : public CommandRunner {
-public:
-    explicit WatchedCommands(CommandRunner& runner) : fRunner(runner) {}
-    CommandResult run(const Command& command) override {
-        texts.append(command.text);
-        return fRunner.run(command);
-    }
-    void cancel(CommandId command) override { fRunner.cancel(command); }
-    QStringList texts;
-
-private:
-    CommandRunner& fRunner;
-};
-
-/// A remote pass by the real engine, real commands and all, on the near host of the lab.
-class Pass {
-public:
-    explicit Pass(const QString& commandTemplate) {
-        fDefaults.setObject(prefEnableScanning, 1);
-        fDefaults.setObject(prefRsyncCommandOptionTag, 100);
-        fDefaults.setObject(prefRsyncCommandString1, commandTemplate);
-        fDefaults.setObject(prefRemoteUsername, QStringLiteral("mediauser"));
-        fDefaults.setObject(prefRemoteBonjourName, QStringLiteral("Remote-Mac.local"));
-        fDefaults.setObject(prefSampleRemoteFullPath,
-                            QStringLiteral("mediauser@Remote-Mac.local:Movies"));
-        fDefaults.setObject(prefPath2, QStringLiteral("/Users/near/Incoming"));
-    }
-
-    double seconds() {
-        fMainQueue.runDue(); // the end of the pass before
-        fDefaults.setObject(prefIsScanning, false);
-        fCommands.texts.clear();
-        fEngine.syncCycle.doSyncOnceBonjour();
-        return secondsOf([this] { fBgQueue.runOne(); });
-    }
-    const QStringList& commands() const { return fCommands.texts; }
-
-private:
-    MemoryDefaults fDefaults;
-    VirtualMainQueue fMainQueue;
-    ManualBackgroundQueue fBgQueue;
-    RecordingConsole fConsole;
-    PosixShellRunner fRunner{fConsole};
-    WatchedCommands fCommands{fRunner};
-    FakeConnection fConnection;
-    LocalFileManager fFiles;
-    FakeButton fButton;
-    Engine fEngine{{.defaults = fDefaults,
-                    .mainQueue = fMainQueue,
-                    .bgQueue = fBgQueue,
-                    .commands = fCommands,
-                    .connection = fConnection,
-                    .files = fFiles,
-                    .console = fConsole,
-                    .clock = {[] { return QDateTime::currentDateTimeUtc(); }, [] { return 0.0; }},
-                    .passEnded = [](const PassRecord&) {}},
-                   {.updateStatusMessage = [](std::optional<QString>, StatusColor, bool) {},
-                    .showProblemWithBonjourClosure = [](const QString&, const QString&,
-                                                        std::function<void(ModalResponse)>) {},
-                    .ibStartButton = &fButton},
-                   [](KeyState) {}};
-};
-
-double shellSeconds(const QStringList& commands) {
-    const QByteArray script = commands.join(u'\n').toLocal8Bit();
-    return secondsOf([&script] {
-        QProcess shell;
-        shell.setStandardInputFile(QProcess::nullDevice());
-        shell.start(QStringLiteral("/bin/sh"),
-                    {QStringLiteral("-c"), QString::fromLocal8Bit(script)});
-        shell.waitForFinished(-1);
-    });
-}
-
-std::optional<std::vector<Figure>> measurePass() {
-    if (qEnvironmentVariable("USER") != u"root" || !QFile::exists(QStringLiteral("/.kelvo-lab"))) {
-        std::fputs("The row \"pass\" runs on the near host of the lab; ./dev bench sees to that as "
-                   "root.\n",
-                   stderr);
-        return std::nullopt;
-    }
-    Pass pass(qEnvironmentVariable("KELVO_BENCH_TEMPLATE"));
-    pass.seconds(); // brings the files over
-    if (pass.commands().size() != 3) {
-        std::fputs("The remote host did not validate.\n", stderr);
-        return std::nullopt;
-    }
-    const QStringList commands = pass.commands();
-    std::vector<double> ours;
-    std::vector<double> theirs;
-    for (int round = 0; round < cPassRounds; ++round) {
-        ours.push_back(pass.seconds());
-        theirs.push_back(shellSeconds(commands));
-        if (pass.commands() != commands) {
-            std::fputs("A pass did not run its three commands.\n", stderr);
-            return std::nullopt;
-        }
-    }
-    return std::vector<Figure>{{"no-change remote pass / its three commands by a bare sh",
-                                median(ours) / median(theirs), 1.03, "x",
-                                sideBySide(median(ours), median(theirs))}};
-}
-
-/// The program without a window, on plain passes between two folders of its own.
+/// The program without a window, with settings of its own.
 class HeadlessProgram {
 public:
-    /// `rsyncTemplate`: empty for the one that people start with; "%1" is the folder it may use.
-    explicit HeadlessProgram(const QString& rsyncTemplate = {}) {
-        QDir(path()).mkpath(QStringLiteral("config/kelvo-mirror"));
-        QDir(path()).mkpath(QStringLiteral("from"));
-        QString settings = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                                          "<plist version=\"1.0\"><dict>"
-                                          "<key>prefAutoStartScanOnLaunch</key><true/>"
-                                          "<key>prefRsyncWithSSH</key><false/>"
-                                          "<key>prefDelayBetweenScans</key><real>30</real>"
-                                          "<key>prefPath1</key><string>%1/from</string>"
-                                          "<key>prefPath2</key><string>%1/to</string>");
-        if (!rsyncTemplate.isEmpty())
-            settings += u"<key>prefRsyncCommandString1</key><string>" +
-                        rsyncTemplate.toHtmlEscaped() + u"</string>";
-        QFile file(path("config/kelvo-mirror/preferences.plist"));
-        if (file.open(QIODevice::WriteOnly))
-            file.write(QString(settings + u"</dict></plist>\n").arg(path()).toUtf8());
-        file.close();
-
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
-        environment.insert(QStringLiteral("XDG_STATE_HOME"), path("state"));
-        fProcess.setProcessEnvironment(environment);
+    explicit HeadlessProgram(const QString& entries) {
+        fProfile.set(entries);
+        fProcess.setProcessEnvironment(fProfile.environment());
         fProcess.setStandardOutputFile(path("output"));
         fProcess.setStandardErrorFile(path("errors"));
-        fProcess.start(QCoreApplication::applicationDirPath() + QStringLiteral("/kelvo-mirror"),
+        fProcess.start(builtProgram(QStringLiteral("kelvo-mirror")),
                        {QStringLiteral("--headless")});
     }
     ~HeadlessProgram() { stop(); }
@@ -187,9 +49,8 @@ public:
     }
 
     qint64 pid() const { return fProcess.processId(); }
-    QString path(const char* name = "") const {
-        return fFolder.filePath(QString::fromLatin1(name));
-    }
+    QString path(const char* name) const { return fProfile.path(name); }
+    const Profile& profile() const { return fProfile; }
     QByteArray output() const {
         QFile file(path("output"));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -208,34 +69,88 @@ public:
     }
 
 private:
-    const QTemporaryDir fFolder;
+    const Profile fProfile;
     QProcess fProcess;
 };
 
+/// While syncing is off.
+std::optional<double> wakeUpsOff() {
+    HeadlessProgram program({});
+    if (!program.settle(5000))
+        return std::nullopt;
+    const auto before = wakeUps(program.pid());
+    if (!program.settle(60000))
+        return std::nullopt;
+    return double(wakeUpsSince(before, program.pid()));
+}
+
 std::optional<std::vector<Figure>> measureRest() {
     constexpr int minute = 60;
-    HeadlessProgram program;
+    HeadlessProgram program(plainPasses(30));
     // The first pass and all set-up lie behind after five seconds.
     if (!program.settle(5000)) {
         std::fputs("The program did not stay up.\n", stderr);
         return std::nullopt;
     }
     const double before = processorSeconds(program.pid());
+    const auto wokenBefore = wakeUps(program.pid());
     (void)program.settle(minute * 1000);
     const double after = processorSeconds(program.pid());
+    const auto woken = double(wakeUpsSince(wokenBefore, program.pid()));
     program.stop();
     if (before < 0 || after < 0 || program.output().count("cmd to send = ") < 2) {
         std::fputs("The program did not run its passes.\n", stderr);
         return std::nullopt;
     }
-    return std::vector<Figure>{{"processor time over 60 s of rest with a 30 s delay",
-                                after - before, 0.02, "s", "one run"}};
+    const auto off = wakeUpsOff();
+    if (!off) {
+        std::fputs("The program did not stay up.\n", stderr);
+        return std::nullopt;
+    }
+    return std::vector<Figure>{
+        {"our own processor time in 60 s with two passes", (after - before) * 1e3, 20, "ms",
+         "one run"},
+        {"our wake-ups in them", woken, 20, "", "all threads that live"},
+        {"our wake-ups in 60 s without a window, syncing off", *off, 0, "", "all threads"}};
+}
+
+std::optional<std::vector<Figure>> measurePass() {
+    constexpr double cAtOnce = 0.001;
+    HeadlessProgram program(plainPasses(cAtOnce));
+    if (!program.settle(5000)) {
+        std::fputs("The program did not stay up.\n", stderr);
+        return std::nullopt;
+    }
+    const double before = processorSeconds(program.pid());
+    const auto passesBefore = program.output().count("cmd to send = ");
+    (void)program.settle(30000);
+    const double used = processorSeconds(program.pid()) - before;
+    const auto passes = double(program.output().count("cmd to send = ") - passesBefore);
+    program.stop();
+    std::vector<double> own;
+    for (const PassRecord& pass : program.profile().recordedPasses()) {
+        double others = 0;
+        for (const CommandRecord& command : pass.commands)
+            others += command.seconds;
+        if (pass.cause == PassCause::Well)
+            own.push_back(pass.seconds - others);
+    }
+    if (before < 0 || passes < 10 || own.size() < 10) {
+        std::fputs("The program did not run its passes.\n", stderr);
+        return std::nullopt;
+    }
+    const std::string count = "median of " + std::to_string(own.size());
+    return std::vector<Figure>{{"our own share of an endless pass, from its begin to its end",
+                                median(own) * 1e3, 0.25, "ms", count},
+                               {"our own processor time for it, record, log and rest included",
+                                used / passes * 1e3, 4, "ms",
+                                "mean of " + std::to_string(int(passes))}};
 }
 
 /// The peak above rest in MiB while a pull prints what `flood` does; -1 when it did not.
 double memoryOfFlood(const QString& flood) {
-    HeadlessProgram program(
-        QString(u"cd '%1'; touch begun; sleep 2; " + flood + u"; touch printed"));
+    HeadlessProgram program(plainPasses(30) + withTemplate(u"cd '%1'; touch begun; sleep 2; " +
+                                                           flood + u"; touch printed"));
     if (!program.waitForFile("begun"))
         return -1;
     (void)program.settle(1000);
@@ -263,6 +178,31 @@ std::optional<std::vector<Figure>> measureFlood() {
 }
 
 } // namespace
+
+std::optional<std::vector<Figure>> measureNamesOfAPass() {
+    constexpr int cPasses = 5;
+    std::vector<double> used;
+    for (int i = 0; i < cPasses; ++i) {
+        HeadlessProgram program(
+            plainPasses(30) + withTemplate(u"cd '%1'; : --out-format=%n ; touch begun; sleep 2; " +
+                                           printingNames(cNames) + u"; touch printed"));
+        if (!program.waitForFile("begun"))
+            return std::nullopt;
+        (void)program.settle(1000);
+        const double before = processorSeconds(program.pid());
+        if (!program.waitForFile("printed") || !program.settle(2000) || before < 0)
+            return std::nullopt;
+        used.push_back(processorSeconds(program.pid()) - before);
+        program.stop();
+        const std::vector<PassRecord> passes = program.profile().recordedPasses();
+        if (passes.size() != 1 || passes.front().transfer.files != cNames) {
+            std::fputs("The program did not read the names of its pass.\n", stderr);
+            return std::nullopt;
+        }
+    }
+    return std::vector<Figure>{{"our own processor time for a pass with 200,000 printed names",
+                                median(used), 0.05, "s", "median of 5"}};
+}
 
 Row passRow() {
     return {"pass", measurePass};

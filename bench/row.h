@@ -13,7 +13,14 @@ struct Figure {
     double value = 0;     ///< as measured
     double goal = 0;      ///< the most it may be
     std::string unit;     ///< "x" for a ratio
-    std::string measured; ///< both sides of a ratio, or how often it was repeated
+    std::string measured; ///< both sides and the spread of a ratio, or how often it was repeated
+};
+
+/// The same thing done by us and by what we are measured against, in turns: what disturbs one
+/// disturbs the other.
+struct Rounds {
+    std::vector<double> ours;
+    std::vector<double> theirs;
 };
 
 struct Row {
@@ -36,6 +43,14 @@ Row snapshotRow();
 Row startRow();
 Row memoryRow();
 Row idleRow();
+Row linesRow();
+Row headlessRow();
+Row onceRow();
+Row filesRow();
+Row manyFilesRow();
+Row sharingRow(); ///< this and the two below only on the near host of the lab
+Row manySharingRow();
+Row firstPullRow();
 Row recordRow();
 Row progressRow();
 Row activityRow(); ///< needs a QApplication
@@ -45,5 +60,13 @@ double median(std::vector<double> values);
 
 /// "12.3 / 11.9 ms", for two times in seconds.
 std::string sideBySide(double ours, double theirs);
+
+/// The middle one of the ratios of all rounds, of which there is at least one. `sides` says what
+/// was measured, and the two ratios between which the middle half lies are added to it.
+Figure ratioOf(const Rounds& rounds, const std::string& what, double goal,
+               const std::string& sides);
+
+/// The same of times in seconds.
+Figure ratioOfTimes(const Rounds& rounds, const std::string& what, double goal);
 
 } // namespace kelvo::bench

@@ -18,6 +18,22 @@ std::string sideBySide(double ours, double theirs) {
     return text;
 }
 
+Figure ratioOf(const Rounds& rounds, const std::string& what, double goal,
+               const std::string& sides) {
+    std::vector<double> ratios;
+    for (std::size_t i = 0; i < rounds.ours.size(); ++i)
+        ratios.push_back(rounds.ours[i] / rounds.theirs[i]);
+    std::ranges::sort(ratios);
+    char spread[64];
+    std::snprintf(spread, sizeof spread, ", %.2f to %.2f in %zu", ratios[ratios.size() / 4],
+                  ratios[ratios.size() - 1 - ratios.size() / 4], ratios.size());
+    return {what, ratios[ratios.size() / 2], goal, "x", sides + spread};
+}
+
+Figure ratioOfTimes(const Rounds& rounds, const std::string& what, double goal) {
+    return ratioOf(rounds, what, goal, sideBySide(median(rounds.ours), median(rounds.theirs)));
+}
+
 int printTable(const std::vector<Row>& rows, std::span<char*> names) {
     const bool heading = names.empty() || std::string_view(names.front()) != "--no-heading";
     if (!heading)
@@ -32,7 +48,7 @@ int printTable(const std::vector<Row>& rows, std::span<char*> names) {
         }
     }
     if (heading)
-        std::printf("%-66s %12s %12s  %-4s %-26s %s\n", "figure", "measured", "goal", "", "sides",
+        std::printf("%-66s %12s %12s  %-4s %-44s %s\n", "figure", "measured", "goal", "", "sides",
                     "repeat with");
     bool allReached = true;
     for (const Row& row : rows) {
@@ -47,7 +63,7 @@ int printTable(const std::vector<Row>& rows, std::span<char*> names) {
         for (const Figure& figure : *figures) {
             const bool reached = figure.value <= figure.goal;
             allReached = allReached && reached;
-            std::printf("%-66s %9.3f %-2s %9.3f %-2s  %-4s %-26s ./dev bench %s\n",
+            std::printf("%-66s %9.3f %-2s %9.3f %-2s  %-4s %-44s ./dev bench %s\n",
                         figure.what.c_str(), figure.value, figure.unit.c_str(), figure.goal,
                         figure.unit.c_str(), reached ? "ok" : "MISS", figure.measured.c_str(),
                         row.name.c_str());

@@ -1,19 +1,15 @@
 // The window: how soon it is there, and what it costs while nothing happens.
 #include "bench/processor_time.h"
+#include "bench/profile.h"
 #include "bench/row.h"
 #include "support/virtual_display.h"
-
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 
 #include <poll.h>
 
 #include <chrono>
 #include <cstdio>
 #include <memory>
+#include <thread>
 #include <xcb/xcb.h>
 
 namespace kelvo::bench {
@@ -24,6 +20,9 @@ using Clock = std::chrono::steady_clock;
 constexpr int cRounds = 15;
 constexpr int cPatienceMilliseconds = 20000;
 constexpr int cSettleMilliseconds = 4000;
+/// A start that does nothing for so long is over; what it puts off waits longer: the first word of
+/// the network is shown a tenth of a second after it came, as every text of that kind.
+constexpr double cRestSeconds = 0.03;
 constexpr int cMemoryRounds = 3;
 
 struct FreeReply {
@@ -31,9 +30,9 @@ struct FreeReply {
 };
 
 /// Sees every window that comes up on a display.
-class MappedWindows {
+class SeenWindows {
 public:
-    explicit MappedWindows(const QString& display)
+    explicit SeenWindows(const QString& display)
         : fConnection(xcb_connect(display.toLatin1().constData(), nullptr)) {
         if (xcb_connection_has_error(fConnection) != 0)
             return;
@@ -42,12 +41,12 @@ public:
         xcb_change_window_attributes(fConnection, screen->root, XCB_CW_EVENT_MASK, &wanted);
         xcb_flush(fConnection);
     }
-    ~MappedWindows() { xcb_disconnect(fConnection); }
-    MappedWindows(const MappedWindows&) = delete;
-    MappedWindows& operator=(const MappedWindows&) = delete;
+    ~SeenWindows() { xcb_disconnect(fConnection); }
+    SeenWindows(const SeenWindows&) = delete;
+    SeenWindows& operator=(const SeenWindows&) = delete;
 
-    /// Waits for the next window of some size; false when none came in time.
-    bool waitForWindow() {
+    /// Waits for the next window of some size; 0 when none came in time.
+    xcb_window_t waitForWindow() {
         const auto deadline = Clock::now() + std::chrono::milliseconds(cPatienceMilliseconds);
         pollfd stream{xcb_get_file_descriptor(fConnection), POLLIN, 0};
         while (Clock::now() < deadline) {
@@ -56,9 +55,26 @@ public:
             if (!event) {
                 ::poll(&stream, 1, 100);
             } else if ((event->response_type & 0x7f) == XCB_MAP_NOTIFY) {
-                if (isLarge(reinterpret_cast<xcb_map_notify_event_t*>(event.get())->window))
-                    return true;
+                const auto window = reinterpret_cast<xcb_map_notify_event_t*>(event.get())->window;
+                if (isLarge(window))
+                    return window;
             }
+        }
+        return 0;
+    }
+
+    /// Waits until `window`, which comes up black, has a ground; false when it stays as it is.
+    bool waitForPaint(xcb_window_t window) {
+        const auto deadline = Clock::now() + std::chrono::milliseconds(cPatienceMilliseconds);
+        while (Clock::now() < deadline) {
+            const std::unique_ptr<xcb_get_image_reply_t, FreeReply> corner(xcb_get_image_reply(
+                fConnection,
+                xcb_get_image(fConnection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, 2, 200, 1, 1, ~0U),
+                nullptr));
+            if (corner && xcb_get_image_data_length(corner.get()) >= 3 &&
+                (*xcb_get_image_data(corner.get()) != 0))
+                return true;
+            std::this_thread::sleep_for(std::chrono::microseconds(300));
         }
         return false;
     }
@@ -77,21 +93,13 @@ private:
 class WindowProgram {
 public:
     WindowProgram(const QString& name, const QString& display) {
-        QDir(fFolder.path()).mkpath(QStringLiteral("run"));
-        QFile::setPermissions(fFolder.filePath(QStringLiteral("run")),
-                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
-        for (const auto& [variable, value] :
-             {std::pair("XDG_CONFIG_HOME", "config"), std::pair("XDG_STATE_HOME", "state"),
-              std::pair("XDG_RUNTIME_DIR", "run")})
-            own.insert(QString::fromLatin1(variable), fFolder.filePath(QString::fromLatin1(value)));
+        QProcessEnvironment own = fProfile.environment();
         own.insert(QStringLiteral("DISPLAY"), display);
         own.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-        own.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("disabled:"));
         fProcess.setProcessEnvironment(own);
         fProcess.setStandardOutputFile(QProcess::nullDevice());
         fProcess.setStandardErrorFile(QProcess::nullDevice());
-        fProcess.start(QCoreApplication::applicationDirPath() + u'/' + name, QStringList());
+        fProcess.start(builtProgram(name), QStringList());
     }
     ~WindowProgram() {
         fProcess.terminate();
@@ -104,20 +112,8 @@ public:
     bool settle(int milliseconds) { return !fProcess.waitForFinished(milliseconds); }
     qint64 pid() const { return fProcess.processId(); }
 
-    /// Its share of the memory, in KiB; -1 when it cannot be read.
-    double proportionalKiB() const {
-        QFile file(QStringLiteral("/proc/%1/smaps_rollup").arg(pid()));
-        if (!file.open(QIODevice::ReadOnly))
-            return -1;
-        for (const QByteArray& line : file.readAll().split('\n')) {
-            if (line.startsWith("Pss:"))
-                return line.mid(4).simplified().split(' ').first().toDouble();
-        }
-        return -1;
-    }
-
 private:
-    const QTemporaryDir fFolder;
+    const Profile fProfile;
     QProcess fProcess;
 };
 
@@ -132,15 +128,37 @@ QString startDisplay(VirtualDisplay& display) {
     return name;
 }
 
-std::optional<double> secondsToWindow(const QString& program, const QString& display) {
-    MappedWindows windows(display);
+/// The way of a start, in seconds.
+struct Start {
+    double mapped;    ///< until the window is on the display
+    double painted;   ///< until it shows something
+    double settled;   ///< until the last that it did before a rest
+    double processor; ///< used until then
+};
+
+std::optional<Start> startOf(const QString& program, const QString& display) {
+    SeenWindows windows(display);
     const auto begin = Clock::now();
-    const WindowProgram running(program, display);
-    if (!windows.waitForWindow()) {
+    WindowProgram running(program, display);
+    const auto since = [begin] {
+        return std::chrono::duration<double>(Clock::now() - begin).count();
+    };
+    const xcb_window_t window = windows.waitForWindow();
+    Start start{.mapped = since(), .painted = 0, .settled = 0, .processor = 0};
+    const bool painted = window != 0 && windows.waitForPaint(window);
+    start.painted = start.settled = since();
+    if (!painted) {
         std::fprintf(stderr, "%s shows no window.\n", qPrintable(program));
         return std::nullopt;
     }
-    return std::chrono::duration<double>(Clock::now() - begin).count();
+    while (since() - start.settled < cRestSeconds) {
+        const double used = processorSeconds(running.pid());
+        if (used > start.processor)
+            start.settled = since();
+        start.processor = used;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return start;
 }
 
 std::optional<std::vector<Figure>> measureStart() {
@@ -148,21 +166,29 @@ std::optional<std::vector<Figure>> measureStart() {
     const QString name = startDisplay(display);
     if (name.isEmpty())
         return std::nullopt;
-    std::vector<double> ours;
-    std::vector<double> theirs;
+    Rounds mapped;
+    Rounds painted;
+    Rounds settled;
+    Rounds processor;
     for (int round = -1; round < cRounds; ++round) {
-        const auto our = secondsToWindow(cOurs, name);
-        const auto their = secondsToWindow(cBare, name);
-        if (!our || !their)
+        const auto ours = startOf(cOurs, name);
+        const auto theirs = startOf(cBare, name);
+        if (!ours || !theirs)
             return std::nullopt;
         if (round < 0)
             continue; // The first start of each reads its files.
-        ours.push_back(*our);
-        theirs.push_back(*their);
+        for (const auto& [rounds, figure] :
+             {std::pair(&mapped, &Start::mapped), std::pair(&painted, &Start::painted),
+              std::pair(&settled, &Start::settled), std::pair(&processor, &Start::processor)}) {
+            rounds->ours.push_back((*ours).*figure);
+            rounds->theirs.push_back((*theirs).*figure);
+        }
     }
-    return std::vector<Figure>{{"from exec to the visible window / the same for a bare window",
-                                median(ours) / median(theirs), 1.5, "x",
-                                sideBySide(median(ours), median(theirs))}};
+    return std::vector<Figure>{
+        ratioOfTimes(mapped, "from exec to the visible window / a bare window's", 1.2),
+        ratioOfTimes(painted, "from exec to its first paint / a bare window's", 1.25),
+        ratioOfTimes(settled, "from exec until all is quiet / a bare window's", 1.3),
+        ratioOfTimes(processor, "processor time until then / a bare window's", 1.3)};
 }
 
 std::optional<std::vector<Figure>> measureMemory() {
@@ -170,23 +196,23 @@ std::optional<std::vector<Figure>> measureMemory() {
     const QString name = startDisplay(display);
     if (name.isEmpty())
         return std::nullopt;
-    std::vector<double> ours;
-    std::vector<double> theirs;
+    Rounds memory;
     for (int round = 0; round < cMemoryRounds; ++round) {
-        for (const auto& [program, sizes] : {std::pair(cOurs, &ours), std::pair(cBare, &theirs)}) {
+        for (const auto& [program, sizes] :
+             {std::pair(cOurs, &memory.ours), std::pair(cBare, &memory.theirs)}) {
             WindowProgram running(program, name);
-            if (!running.settle(cSettleMilliseconds) || running.proportionalKiB() <= 0) {
+            if (!running.settle(cSettleMilliseconds) || proportionalKiB(running.pid()) <= 0) {
                 std::fprintf(stderr, "%s did not stay up.\n", qPrintable(program));
                 return std::nullopt;
             }
-            sizes->push_back(running.proportionalKiB());
+            sizes->push_back(proportionalKiB(running.pid()));
         }
     }
     char sides[64];
-    std::snprintf(sides, sizeof sides, "%.1f / %.1f MiB", median(ours) / 1024,
-                  median(theirs) / 1024);
-    return std::vector<Figure>{{"proportional memory at rest / a bare window's",
-                                median(ours) / median(theirs), 1.4, "x", sides}};
+    std::snprintf(sides, sizeof sides, "%.1f / %.1f MiB", median(memory.ours) / 1024,
+                  median(memory.theirs) / 1024);
+    return std::vector<Figure>{ratioOf(
+        memory, "proportional memory at rest, sentinel included / a bare window's", 1.25, sides)};
 }
 
 std::optional<std::vector<Figure>> measureIdle() {
