@@ -31,6 +31,23 @@ NUMBERS = {TypeKind.CHAR_U, TypeKind.UCHAR, TypeKind.USHORT, TypeKind.UINT, Type
            TypeKind.ULONGLONG, TypeKind.CHAR_S, TypeKind.SCHAR, TypeKind.SHORT, TypeKind.INT,
            TypeKind.LONG, TypeKind.LONGLONG, TypeKind.FLOAT, TypeKind.DOUBLE, TypeKind.BOOL}
 
+# Of these a widget, an action, an item or a painter has one each, and none looks at another: which
+# is set first makes no difference.
+PROPERTIES = re.compile(rb"""(?P<whose>(?:[\w.*&()]|->|\[\w*\])*(?:\.|->))?set(?P<which>
+    AccessibleDescription|AccessibleName|Alignment|AllColumnsShowFocus|Attribute|AutoDefault|
+    AutoFillBackground|AutoRaise|Brush|Color|ContentsMargins|EditTriggers|FixedHeight|
+    FixedSize|FocusPolicy|ForegroundRole|FrameShape|HeaderHidden|HighlightSections|
+    HorizontalScrollBarPolicy|IconSize|MaximumSize|ObjectName|Pen|RenderHint|RetainSizeWhenHidden|
+    RootIsDecorated|SectionsClickable|SelectionBehavior|SelectionMode|Shortcut|SizeHint|SizePolicy|
+    Spacing|StatusTip|TabKeyNavigation|Text|TextAlignment|TextElideMode|TextFormat|
+    TextInteractionFlags|TextVisible|ToolTip|ToolTipsVisible|UniformRowHeights|
+    VerticalScrollBarPolicy|WindowModality|WindowTitle|WordWrap)\((?P<what>.*)\)""", re.X | re.S)
+# Their first argument is for the catalogues alone.
+NOT_COMPILED = ("QT_TRANSLATE_NOOP", "QT_TRANSLATE_N_NOOP")
+# Members of a JSON object stand in the order of their names.
+MEMBER = re.compile(rb"(?P<whose>\w+)\.insert\((?P<what>QStringLiteral\(.*)\)", re.S)
+CONNECTION = re.compile(rb"(?:QObject::)?connect\((?P<what>.*)\)", re.S)
+
 
 @dataclass(frozen=True)
 class Mutant:
@@ -61,6 +78,46 @@ def _place(location):
 def _balanced(text: bytes) -> bool:
     bare = re.sub(rb'"(\\.|[^"\\])*"|\'(\\.|[^\'\\])+\'', b"", text)
     return all(bare.count(pair[:1]) == bare.count(pair[1:]) for pair in (b"()", b"{}", b"[]"))
+
+
+def _arguments(text: bytes) -> list[bytes]:
+    """Split at the commas that stand in no brackets."""
+    parts, depth = [b""], 0
+    for sign in re.findall(rb'"(?:\\.|[^"\\])*"|.', text, re.S):
+        depth += (sign in (b"(", b"{", b"[")) - (sign in (b")", b"}", b"]"))
+        if sign == b"," and depth == 0:
+            parts.append(b"")
+        else:
+            parts[-1] += sign
+    return [p.strip() for p in parts]
+
+
+def _names(text: bytes, name: bytes) -> bool:
+    return re.search(rb"(?<!\w)" + re.escape(name) + rb"(?!\w)", text) is not None
+
+
+def order_matters(before: bytes, after: bytes) -> bool:
+    """Not that of two properties or members, nor that in which two signals are listened to."""
+    one, other = MEMBER.fullmatch(before), MEMBER.fullmatch(after)
+    if one and other:
+        return (_names(other["what"], one["whose"]) or _names(one["what"], other["whose"])
+                or _arguments(one["what"])[0] == _arguments(other["what"])[0])
+    one, other = CONNECTION.fullmatch(before), CONNECTION.fullmatch(after)
+    if one and other:
+        return _arguments(one["what"])[:2] == _arguments(other["what"])[:2]
+    one, other = PROPERTIES.fullmatch(before), PROPERTIES.fullmatch(after)
+    if not one or not other:
+        return True
+    for this, that in ((one, other), (other, one)):
+        owner = (this["whose"] or b"").rstrip(b".->").lstrip(b"*&(")
+        getter = this["which"][:1].lower() + this["which"][1:] + b"("
+        if owner and _names(that["what"], owner) or getter in that["what"]:
+            return True  # what is set is asked for in the other
+    if one["whose"] != other["whose"] or one["which"] != other["which"]:
+        return False
+    # The same property of two columns, roles or states.
+    first, second = _arguments(one["what"]), _arguments(other["what"])
+    return len(first) == 1 or len(first) != len(second) or first[:-1] == second[:-1]
 
 
 class _Finder:
@@ -139,6 +196,9 @@ class _Finder:
             if kind != K.ENUM_DECL:
                 self.skipped.append(place)
             return
+        if self.is_never_read(cursor, parent):
+            self.skipped.append((_place(cursor.extent.start), _place(cursor.extent.end)))
+            return
         children = list(cursor.get_children())
         if kind in (K.IF_STMT, K.WHILE_STMT, K.DO_STMT, K.CONDITIONAL_OPERATOR):
             self.condition(cursor, children)
@@ -165,6 +225,15 @@ class _Finder:
         for child in children:
             # What the compiler puts between, as the conversion of a number, counts for nothing.
             self.walk(child, parent if kind == K.UNEXPOSED_EXPR and parent else cursor)
+
+    def is_never_read(self, cursor, parent):
+        """A constant that stands there for another tool; what a function leaves unread has been done."""
+        if cursor.kind != K.VAR_DECL or (parent is not None and parent.kind != K.NAMESPACE):
+            return False
+        start, name = _place(cursor.extent.start), _place(cursor.location)
+        attribute = rb"\[\[maybe_unused\]\]"
+        return bool(re.search(attribute + rb"\s*\Z", self.source[:start]) or
+                    re.match(attribute, self.source[start:name]))
 
     def condition(self, cursor, children):
         if cursor.kind == K.DO_STMT:
@@ -279,7 +348,7 @@ class _Finder:
         a, b = self.range(first), self.range(second)
         if a and b and a[1] <= b[0]:
             before, after = self.source[slice(*a)], self.source[slice(*b)]
-            if before != after:
+            if before != after and order_matters(before, after):
                 self.add(a[0], b[1], after + self.source[a[1]:b[0]] + before,
                          f"swapped: {one_line(before)} and {one_line(after)}")
 
@@ -290,7 +359,7 @@ class _Finder:
             letter = re.fullmatch(r"((?:u8|u|U|L)?)'(.+)'", spelling)
             line = self.source[self.source.rfind(b"\n", 0, offset) + 1:offset].lstrip()
             if (kind == TokenKind.LITERAL and not line.startswith(b"#") and previous != "extern"
-                    and not (before == "QT_TRANSLATE_NOOP" and previous == "(")  # not compiled
+                    and not (before in NOT_COMPILED and previous == "(")
                     and not any(a <= offset < b for a, b in self.skipped)):
                 size = len(spelling.encode())
                 if plain:

@@ -108,6 +108,10 @@ class Workshop:
                 if path.suffix in (".cpp", ".h"):
                     name = str(path.relative_to(self.tree))
                     quoted = re.findall(r'^#include "([^"]+)"', path.read_text(errors="replace"), re.M)
+                    # Through a form's header come those of the widgets of our own in the form.
+                    forms = [path.with_name(q[3:-2] + ".ui") for q in quoted if q.startswith("ui_")]
+                    for form in filter(Path.exists, forms):
+                        quoted += re.findall(r"<header>([^<]+)</header>", form.read_text())
                     found[name] = {f"{folder}/{q}" for q in quoted for folder in ("src", "tests")}
         return found
 
