@@ -19,6 +19,7 @@ constexpr double cLongestRest = 60;
 constexpr double cCheckPatience = 3;     // seconds, as a login's own time-out
 constexpr double cShortLogin = 1;        // seconds
 constexpr double cUntilNextTry = 5 * 60; // where no connection came about beside a good check
+constexpr int cRefusals = 2;             // after so many a Mac shares no connection
 
 constexpr std::array cWatched = {prefEnableScanning, prefKeepConnection, prefRemoteUsername,
                                  prefRemoteBonjourName, prefDelayBetweenScans};
@@ -94,10 +95,12 @@ CommandResult ConnectionSharing::ask(const Command& command) {
             const std::lock_guard lock(fMutex);
             if (answered && fKept)
                 fKept->proved = true;
+            if (answered)
+                fRefusals = 0;
             if (answered || !result.exitStatus)
                 return result;
-            // One that never carried a check is of no use with this Mac.
-            if (fKept && !fKept->proved)
+            // One slow answer is no refusal.
+            if (fKept && !fKept->proved && ++fRefusals >= cRefusals)
                 fNotBefore = fParts.clock.seconds() + cHour;
         }
         const std::lock_guard lock(fMutex);
@@ -124,6 +127,7 @@ CommandResult ConnectionSharing::runOver(const QByteArray& folder, Command comma
 
 void ConnectionSharing::ended(const PassRecord& record) {
     const bool stands = !fParts.connection.folder(0).isEmpty();
+    const bool cameAbout = stands || fParts.connection.hasStood();
     const std::lock_guard lock(fMutex);
     fPassRuns = false;
     if (record.kind != PassKind::Remote)
@@ -134,7 +138,7 @@ void ConnectionSharing::ended(const PassRecord& record) {
     if (fAfterTheCheck || breaksOff(record.cause))
         return end(QStringLiteral("The connection to the Mac ends with a pass that did not go "
                                   "well."));
-    if (!stands)
+    if (!cameAbout)
         fNotBefore = std::max(fNotBefore, fParts.clock.seconds() + cUntilNextTry);
     if (!stands || fParts.defaults.doubleForKey(prefDelayBetweenScans) > cLongestRest)
         return end({});

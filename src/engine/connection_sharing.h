@@ -69,6 +69,7 @@ private:
     bool fAfterTheCheck = false; ///< the login waits until the check went well
     double fLogin = 0;           ///< seconds that the last login of a check took
     double fNotBefore = 0;       ///< on the clock; no login is begun earlier
+    int fRefusals = 0;           ///< connections in succession that never carried a check
     std::vector<Subscription> fWatched;
 };
 

@@ -34,6 +34,9 @@ public:
     /// may be taken for a connection for about 15 s. Any thread.
     virtual QByteArray folder(double patience) = 0;
 
+    /// Whether the connection that was opened last has stood, be it gone by now. Any thread.
+    virtual bool hasStood() const = 0;
+
     /// Ends the connection, and with it the commands that go through it. Returns at once; any
     /// thread. Without one nothing happens.
     virtual void close() = 0;

@@ -108,8 +108,10 @@ TEST_F(SshConnectionTest, Nothing_IsOpenBeforeTheLoginWentWell) {
     EXPECT_EQ(connection.folder(0), QByteArray());
     connection.open(cTarget);
     EXPECT_EQ(connection.folder(0), QByteArray());
+    EXPECT_FALSE(connection.hasStood());
     commands.letIn();
     const QByteArray folder = connection.folder(60);
+    EXPECT_TRUE(connection.hasStood());
     ASSERT_FALSE(folder.isEmpty()) << "who waits is told";
     EXPECT_EQ(commands.asked().front().variables.at(cControlVariable), folder);
     struct stat entry {};
@@ -157,6 +159,10 @@ TEST_F(SshConnectionTest, BrokenConnection_IsClosed) {
     ASSERT_FALSE(connection.folder(60).isEmpty());
     commands.endAll();
     EXPECT_TRUE(waitUntil([&] { return connection.folder(0).isEmpty(); }));
+    EXPECT_TRUE(connection.hasStood());
+    commands.letIn(false);
+    connection.open(cTarget);
+    EXPECT_FALSE(connection.hasStood()) << "another one";
 }
 
 TEST_F(SshConnectionTest, LoginThatFails_KeepsNobodyWaiting) {
@@ -166,6 +172,7 @@ TEST_F(SshConnectionTest, LoginThatFails_KeepsNobodyWaiting) {
     const auto begin = std::chrono::steady_clock::now();
     EXPECT_EQ(connection.folder(3600), QByteArray());
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::minutes(10));
+    EXPECT_FALSE(connection.hasStood());
 }
 
 TEST_F(SshConnectionTest, AnotherKeyInTheFile_ClosesIt) {

@@ -13,11 +13,13 @@ public:
     void open(const LoginTarget& target) override {
         opened.push_back(target);
         fIsOpen = opens;
+        fHasStood = opens;
     }
     QByteArray folder(double patience) override {
         longestPatience = std::max(longestPatience, patience);
         return fIsOpen ? QByteArray("/run/connection") : QByteArray();
     }
+    bool hasStood() const override { return fHasStood; }
     void close() override {
         ++closed;
         fIsOpen = false;
@@ -33,6 +35,7 @@ public:
 
 private:
     bool fIsOpen = false;
+    bool fHasStood = false;
 };
 
 } // namespace kelvo

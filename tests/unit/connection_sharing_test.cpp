@@ -225,15 +225,40 @@ TEST_F(ConnectionSharingTest, MacThatKeepsSilentOverIt_IsAskedAnewWithinThreeSec
                        "a new login.")));
 }
 
-TEST_F(ConnectionSharingTest, ServerThatRefusesToShare_IsLeftInPeaceForAnHour) {
+TEST_F(ConnectionSharingTest, ServerThatRefusesToShareTwice_IsLeftInPeaceForAnHour) {
     answerOverTheConnection(u"mux: session refused\n" + cAnswer);
     EXPECT_EQ(pass(), QStringLiteral("cPM"));
-    EXPECT_EQ(pass(), QStringLiteral("Ccpm"));
+    EXPECT_EQ(pass(), QStringLiteral("CcPM")) << "it may only have been slow";
     EXPECT_EQ(answer.output, cAnswer);
+    EXPECT_EQ(pass(), QStringLiteral("Ccpm"));
     EXPECT_EQ(pass(), QStringLiteral("cpm"));
-    EXPECT_EQ(connection.opened.size(), 1U);
+    EXPECT_EQ(connection.opened.size(), 2U);
     clock += cHour;
     EXPECT_EQ(pass(), QStringLiteral("cPM"));
+}
+
+TEST_F(ConnectionSharingTest, SlowAnswersBetweenGoodOnes_AreNoRefusals) {
+    for (int time = 0; time < 3; ++time) {
+        answerOverTheConnection({});
+        EXPECT_EQ(pass().right(2), QStringLiteral("PM")) << time;
+        EXPECT_EQ(pass(), QStringLiteral("CcPM")) << time;
+        shell.answerTo(QStringLiteral("whoami"), cAnswer);
+        EXPECT_EQ(pass(), QStringLiteral("CPM")) << time;
+        connection.breakOff();
+    }
+}
+
+TEST_F(ConnectionSharingTest, ConnectionThatBreaksInMidPass_IsOpenedByTheNext) {
+    for (const char* where : {"pull", "movies"}) {
+        shell.answerTo(QString::fromLatin1(where), [this](const QString&) {
+            connection.breakOff();
+            return QString();
+        });
+        EXPECT_EQ(pass().left(1), QStringLiteral("c")) << where;
+        shell.answerTo(QString::fromLatin1(where), QString());
+        EXPECT_EQ(pass(), QStringLiteral("cPM")) << where;
+        connection.breakOff();
+    }
 }
 
 TEST_F(ConnectionSharingTest, LoginThatComesToNothing_IsNotTriedForFiveMinutes) {

@@ -78,6 +78,7 @@ void SshConnection::open(const LoginTarget& target) {
         closeLocked();
         number = fNumber;
         fStage = Stage::LoggingIn;
+        fHasStood = false;
         fKeyPath = QFile::encodeName(target.keyPath).toStdString();
         fSurroundings = surroundings(fKeyPath);
     }
@@ -99,6 +100,7 @@ void SshConnection::run(std::uint64_t number, const LoginTarget& target) {
                      if (number != fNumber)
                          return;
                      fStage = Stage::Open;
+                     fHasStood = true;
                      fFolder = folder.path();
                      fChanged.notify_all();
                  },
@@ -126,6 +128,11 @@ QByteArray SshConnection::folder(double patience) {
     if (fStage == Stage::Open && surroundings(fKeyPath) != fSurroundings)
         closeLocked();
     return fStage == Stage::Open ? QByteArray::fromStdString(fFolder) : QByteArray();
+}
+
+bool SshConnection::hasStood() const {
+    const std::lock_guard lock(fMutex);
+    return fHasStood;
 }
 
 void SshConnection::close() {

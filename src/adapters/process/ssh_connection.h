@@ -28,6 +28,7 @@ public:
 
     void open(const LoginTarget& target) override;
     QByteArray folder(double patience) override;
+    bool hasStood() const override;
     void close() override;
 
 private:
@@ -38,9 +39,10 @@ private:
 
     CommandRunner& fCommands;
     BackgroundQueue& fBgQueue;
-    std::mutex fMutex; ///< of all that follows
+    mutable std::mutex fMutex; ///< of all that follows
     std::condition_variable fChanged;
     Stage fStage = Stage::Closed;
+    bool fHasStood = false;
     std::uint64_t fNumber = 0; ///< of the connection that counts; others are on their way out
     std::optional<std::int64_t> fCommand;
     std::string fFolder;
