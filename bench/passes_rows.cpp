@@ -3,6 +3,7 @@
 #include "adapters/passes/sqlite_pass_store.h"
 #include "bench/row.h"
 #include "bench/run_until.h"
+#include "fakes/memory_whole_pull.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 #include "passes/running_pass.h"
@@ -108,9 +109,9 @@ std::optional<std::vector<Figure>> measureRecord() {
     RecordingConsole console;
     SqlitePassStore store(folder.filePath(QStringLiteral("passes.sqlite")), mainQueue, console);
     QuickCommands commands;
-    RunningPasses passes(commands,
-                         {[] { return QDateTime::currentDateTimeUtc(); }, [] { return 0.0; }},
-                         [&store](const PassRecord& record) { store.append(record); });
+    RunningPasses passes(
+        commands, {[] { return QDateTime::currentDateTimeUtc(); }, [] { return 0.0; }},
+        memoryWholePull(), [&store](const PassRecord& record) { store.append(record); });
     int written = 0;
     const auto subscription =
         store.observe([&written](const PassRecord& record) { written += record.id > 0 ? 1 : 0; });

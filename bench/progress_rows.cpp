@@ -3,6 +3,7 @@
 #include "bench/row.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/memory_pass_store.h"
+#include "fakes/memory_whole_pull.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
 #include "passes/running_pass.h"
@@ -123,7 +124,7 @@ std::optional<std::vector<Figure>> measureProgress() {
     bool well = true;
     RunningPasses passes(
         runner, {&QDateTime::currentDateTimeUtc, [] { return since(Clock::time_point()); }},
-        [&well](const PassRecord& record) {
+        memoryWholePull(), [&well](const PassRecord& record) {
             well = well && record.cause == PassCause::Well && record.transfer.files == 150;
         });
     const auto shown = [&](const QString& command) {

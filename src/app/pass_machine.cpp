@@ -11,8 +11,8 @@ namespace kelvo {
 PassMachine::PassMachine(int output, int errors, DamagedFile damagedSettings, Profile ofProfile)
     : profile(std::move(ofProfile)), console(output, errors, logFile),
       defaults(settingsFile(profile), damagedSettings, isState, mainQueue, console), files(profile),
-      bundle(resourceFolder()), commands(console), passes(passesFile(profile), mainQueue, console) {
-}
+      bundle(resourceFolder()), commands(console), passes(passesFile(profile), mainQueue, console),
+      wholePull(wholePullFile(profile), files) {}
 
 EngineParts PassMachine::engineParts(UserDefaults& settings,
                                      std::function<void(const PassRecord&)> ended) {
@@ -30,6 +30,8 @@ EngineParts PassMachine::engineParts(UserDefaults& settings,
                           const auto now = std::chrono::steady_clock::now().time_since_epoch();
                           return std::chrono::duration<double>(now).count();
                       }},
+        .wholePull = {.last = [this] { return wholePull.last(); },
+                      .keep = [this](const QString& command) { wholePull.keep(command); }},
         .passEnded =
             [this, ended = std::move(ended)](const PassRecord& record) {
                 passes.append(record);

@@ -4,6 +4,7 @@
 #include "adapters/console/rotating_log_file.h"
 #include "adapters/console/stream_console.h"
 #include "adapters/passes/sqlite_pass_store.h"
+#include "adapters/passes/whole_pull_file.h"
 #include "adapters/process/posix_shell_runner.h"
 #include "adapters/process/qt_main_queue.h"
 #include "adapters/process/signal_pipe.h"
@@ -44,6 +45,7 @@ struct PassMachine {
     ThreadPoolQueue bgQueue;
     SshConnection connection{commands, bgQueue};
     SqlitePassStore passes;
+    WholePullFile wholePull;
 };
 
 } // namespace kelvo

@@ -16,6 +16,13 @@ QString configFolder() {
            QStringLiteral("/kelvo-mirror");
 }
 
+QString stateFolder(const Profile& profile) {
+    QString state = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(state))
+        state = QDir::homePath() + QStringLiteral("/.local/state");
+    return profile.within(state + QStringLiteral("/kelvo-mirror"));
+}
+
 } // namespace
 
 QString settingsFile(const Profile& profile) {
@@ -56,11 +63,11 @@ QString copyFolder(const Profile& profile) {
 }
 
 QString passesFile(const Profile& profile) {
-    QString state = qEnvironmentVariable("XDG_STATE_HOME");
-    if (!QDir::isAbsolutePath(state))
-        state = QDir::homePath() + QStringLiteral("/.local/state");
-    return profile.within(state + QStringLiteral("/kelvo-mirror")) +
-           QStringLiteral("/passes.sqlite");
+    return stateFolder(profile) + QStringLiteral("/passes.sqlite");
+}
+
+QString wholePullFile(const Profile& profile) {
+    return stateFolder(profile) + QStringLiteral("/whole-pull");
 }
 
 } // namespace kelvo

@@ -30,6 +30,9 @@ QString copyFolder(const Profile& profile);
 /// The record of passes, in the user's state folder.
 QString passesFile(const Profile& profile);
 
+/// Beside it: which pull left nothing half.
+QString wholePullFile(const Profile& profile);
+
 /// The folder for the log file, the lock and the socket of the one copy, within the user's state
 /// folder.
 QString logSubdirectory(const Profile& profile);

@@ -19,7 +19,7 @@ Engine::Engine(const EngineParts& parts, const CycleView& view,
                .keyPath = expandingTilde(cPrivateKeyFile, parts.files.homeDirectory()),
                .clock = parts.clock}),
       passes(
-          parts.commands, parts.clock,
+          parts.commands, parts.clock, parts.wholePull,
           [this, passEnded = parts.passEnded](const PassRecord& record) {
               sharing.ended(record);
               passEnded(record);

@@ -22,6 +22,7 @@ struct EngineParts {
     FileManager& files;
     Console& console;
     PassClock clock;
+    WholePull wholePull;
     std::function<void(const PassRecord&)> passEnded; ///< on the thread of the pass
 };
 

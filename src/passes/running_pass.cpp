@@ -39,9 +39,10 @@ void countArrivals(PassRecord& record) {
 
 } // namespace
 
-RunningPasses::RunningPasses(CommandRunner& commands, PassClock clock,
+RunningPasses::RunningPasses(CommandRunner& commands, PassClock clock, WholePull wholePull,
                              std::function<void(const PassRecord&)> ended, RunStep run)
-    : fCommands(commands), fClock(std::move(clock)), fEnded(std::move(ended)),
+    : fCommands(commands), fClock(std::move(clock)), fWholePull(std::move(wholePull)),
+      fEnded(std::move(ended)),
       fRun(run ? std::move(run)
                : [&commands](PassStep, const Command& command) { return commands.run(command); }) {}
 
@@ -111,7 +112,7 @@ CommandResult RunningPass::run(PassStep step, const Command& command) {
     if (!isPull(step) || !command.text.contains(cPartialOption))
         return runOnce(step, command);
     Command ours = command;
-    if (mayLeaveOutFolder(command.text)) {
+    if (fPasses.fWholePull.last() == command.text) {
         bool large = false;
         ours.variables[cPartialVariable] = "";
         ours.received = [&](QByteArrayView bytes) {
@@ -124,14 +125,17 @@ CommandResult RunningPass::run(PassStep step, const Command& command) {
             return result;
         fRecord.commands.pop_back();
     }
+    // Should this run never end, nobody knows what it has left.
+    remember({});
     ours.variables[cPartialVariable] = cPartialWord.toLatin1();
     ours.received = command.received;
     return runOnce(step, ours);
 }
 
-bool RunningPass::mayLeaveOutFolder(const QString& command) const {
-    const std::lock_guard lock(fPasses.fMutex);
-    return fPasses.fAllCame == command;
+/// An equal text would be written to the disk again.
+void RunningPass::remember(const QString& wholePull) {
+    if (fPasses.fWholePull.last() != wholePull)
+        fPasses.fWholePull.keep(wholePull);
 }
 
 /// Whether the command was to be ended.
@@ -194,11 +198,11 @@ Transfer RunningPass::pulled(CommandResult& result, const QString& command) {
         std::vector<QByteArray> names = fReader->takeNames();
         fNames.insert(fNames.end(), std::make_move_iterator(names.begin()),
                       std::make_move_iterator(names.end()));
-        if (command.contains(cPartialOption))
-            fPasses.fAllCame = result.exitStatus == 0 ? command : QString();
         if (result.exitStatus == 0 && fReader->tellsProgress())
             fPasses.fWentWell = command;
     }
+    if (command.contains(cPartialOption))
+        remember(result.exitStatus == 0 ? command : QString());
     result.output = withoutProgress(std::move(result.output));
     Transfer transfer = transferOf(command, result.output);
     if (result.leftOut > 0 && transfer.source == TransferSource::Lines)

@@ -22,6 +22,13 @@ struct PassClock {
     std::function<double()> seconds; ///< since any fixed moment; never goes back
 };
 
+/// The pull that left nothing half when it ran last, kept from one run of the program to the next.
+/// Both are called on the pass's thread.
+struct WholePull {
+    std::function<QString()> last; ///< its command; empty when nobody knows
+    std::function<void(const QString&)> keep;
+};
+
 /// Runs a command of a pass at a step of it.
 using RunStep = std::function<CommandResult(PassStep, const Command&)>;
 
@@ -40,7 +47,7 @@ public:
     /// `commands` outlives the passes. The clock's functions and `ended` are called on the pass's
     /// thread; `ended` gets each record, complete but for its number, when its pass has ended.
     /// Commands are run by `run`, on the pass's thread too; without it by `commands` alone.
-    RunningPasses(CommandRunner& commands, PassClock clock,
+    RunningPasses(CommandRunner& commands, PassClock clock, WholePull wholePull,
                   std::function<void(const PassRecord&)> ended, RunStep run = {});
 
     /// Oldest first. Only who asks makes somebody look what a command that says nothing is writing,
@@ -56,12 +63,12 @@ private:
 
     CommandRunner& fCommands;
     const PassClock fClock;
+    const WholePull fWholePull;
     const std::function<void(const PassRecord&)> fEnded;
     const RunStep fRun;
     mutable std::mutex fMutex;
     std::vector<RunningPass*> fPasses;
     QString fWentWell; ///< the last pull that did
-    QString fAllCame;  ///< the last with a folder for half files, when it left none
 };
 
 /// Begins when it is made and ends when it goes. Commands may run on any thread, one at a time.
@@ -111,7 +118,7 @@ private:
     friend RunningPasses;
 
     CommandResult runOnce(PassStep step, const Command& command);
-    bool mayLeaveOutFolder(const QString& command) const;
+    void remember(const QString& wholePull);
     bool endAtLargeFile();
     bool show(PassStep step, const QString& command);
     void commandStarted(CommandId id, const Command& command);

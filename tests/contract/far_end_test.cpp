@@ -1,6 +1,7 @@
 // Remote passes against rsyncs of another age, and against a login that talks: the real rsync on
 // both sides, joined by a stand-in for ssh.
 #include "adapters/process/posix_shell_runner.h"
+#include "fakes/memory_whole_pull.h"
 #include "fakes/recording_console.h"
 #include "passes/running_pass.h"
 #include "settings/preference_keys.h"
@@ -93,6 +94,7 @@ protected:
     std::vector<PassRecord> fRecords;
     RunningPasses fPasses{fRunner,
                           {&QDateTime::currentDateTimeUtc, [] { return 0.0; }},
+                          memoryWholePull(),
                           [this](const PassRecord& record) { fRecords.push_back(record); }};
 };
 

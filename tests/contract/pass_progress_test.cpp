@@ -1,6 +1,7 @@
 // What is seen of passes while the real rsync works for them.
 #include "adapters/process/open_files.h"
 #include "adapters/process/posix_shell_runner.h"
+#include "fakes/memory_whole_pull.h"
 #include "fakes/recording_console.h"
 #include "passes/running_pass.h"
 #include "settings/preference_keys.h"
@@ -118,6 +119,7 @@ protected:
     std::vector<PassRecord> fRecords;
     RunningPasses fPasses{fRunner,
                           {&QDateTime::currentDateTimeUtc, &secondsNow},
+                          memoryWholePull(),
                           [this](const PassRecord& record) { fRecords.push_back(record); }};
     std::vector<QByteArray> fNames;
     CommandResult fResult;

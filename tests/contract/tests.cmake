@@ -62,6 +62,7 @@ kelvo_tests(contract
     contract/single_copy_contract_test.cpp
     contract/service_manager_test.cpp
     contract/shell_words_contract_test.cpp
+    contract/whole_pull_file_test.cpp
     contract/words_of_passes_test.cpp
     contract/sqlite_pass_faults_test.cpp
     contract/sqlite_pass_healing_test.cpp

@@ -12,6 +12,7 @@
 #include "fakes/memory_bundle.h"
 #include "fakes/memory_defaults.h"
 #include "fakes/memory_pass_store.h"
+#include "fakes/memory_whole_pull.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_browser.h"
 #include "fakes/scripted_shell.h"
@@ -98,6 +99,7 @@ public:
                    .files = files,
                    .console = console,
                    .clock = {[this] { return now; }, [this] { return seconds; }},
+                   .wholePull = memoryWholePull(),
                    .passEnded =
                        [this](const PassRecord& pass) {
                            passes.push_back(pass);

@@ -1,5 +1,6 @@
 // One pass and the settings from a terminal: the built program, real rsync between two folders.
 #include "support/failing_file.h"
+#include "support/partial_option.h"
 #include "support/program_profile.h"
 #include "support/running_program.h"
 #include "support/sanitized.h"
@@ -101,6 +102,31 @@ TEST_F(OnceSystemTest, PassThatIsNotRecorded_IsToldAndEndsAsItWent) {
         ended.errors.startsWith("kelvo-mirror: the record of passes does not hold this pass: "))
         << ended.errors.constData();
     EXPECT_EQ(ended.errors.count('\n'), 1);
+}
+
+TEST_F(OnceSystemTest, FolderForHalfFiles_IsLeftOutWhenTheRunBeforeLeftNone) {
+    const QString told = path(QStringLiteral("told"));
+    const QString broken = path(QStringLiteral("broken"));
+    writeProfile(QStringLiteral("prefRsyncCommandString1"),
+                 QString(u": \"%@1\" \"%@2\"; echo \"[" + cPartialOption + u"]\" >>'" + told +
+                         u"'; test ! -e '" + broken + u'\''));
+    write(path(QStringLiteral("Camera/a.mov")), "movie");
+    write(path(QStringLiteral("Incoming/kept.txt")), "mine");
+    const auto toldBy = [&] {
+        (void)once();
+        const QByteArray line = contents(told);
+        QFile::remove(told);
+        return line;
+    };
+    const QByteArray with = "[--partial-dir=.kelvo-partial]\n";
+    EXPECT_EQ(toldBy(), with) << "nobody knows what lies there";
+    EXPECT_EQ(toldBy(), "[]\n");
+    write(broken, "");
+    EXPECT_EQ(toldBy(), "[]\n");
+    EXPECT_EQ(toldBy(), with) << "a half may lie there";
+    QFile::remove(broken);
+    EXPECT_EQ(toldBy(), with);
+    EXPECT_EQ(toldBy(), "[]\n");
 }
 
 TEST_F(OnceSystemTest, MissingSource_IsNamed) {

@@ -76,10 +76,18 @@ protected:
 
     double clock = 100;
     const QDateTime noon{QDate(2026, 3, 1), QTime(12, 0), Qt::UTC};
+    QString wholePull;
+    int keepings = 0;
     std::vector<PassRecord> records;
     ScriptedCommands commands{clock};
     RunningPasses passes{commands,
                          {[this] { return noon; }, [this] { return clock; }},
+                         {.last = [this] { return wholePull; },
+                          .keep =
+                              [this](const QString& command) {
+                                  wholePull = command;
+                                  ++keepings;
+                              }},
                          [this](const PassRecord& record) { records.push_back(record); }};
 };
 
@@ -389,6 +397,27 @@ TEST_F(HalfFilesTest, PullThatWentWell_DoesWithoutTheFolderTheNextTime) {
     EXPECT_EQ(folders(), (QByteArrayList{option, "unset"}));
     pull();
     EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"}));
+}
+
+TEST_F(HalfFilesTest, WholePullOfAnEarlierRun_DoesWithoutTheFolderAtOnce) {
+    wholePull = cWithFolder;
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"}));
+    EXPECT_EQ(wholePull, cWithFolder);
+    EXPECT_EQ(keepings, 0) << "what is known already costs no write";
+}
+
+TEST_F(HalfFilesTest, WholePull_IsForgottenWhileTheFolderIsInUse) {
+    wholePull = cWithFolder;
+    commands.pieces = {"33554432 large.mov\n"};
+    QStringList known;
+    commands.whileRunning = [&] { known.append(wholePull); };
+    pull();
+    // The other command, without the option, knows nothing of it.
+    EXPECT_EQ(known, (QStringList{cWithFolder, {}, cWithFolder}))
+        << "who is killed in the second run has left a half";
+    EXPECT_EQ(wholePull, cWithFolder);
+    EXPECT_EQ(keepings, 2);
 }
 
 TEST_F(HalfFilesTest, OtherPull_SaysNothingOfThisOne) {

@@ -4,6 +4,7 @@
 #include "fakes/fake_file_manager.h"
 #include "fakes/fake_front.h"
 #include "fakes/memory_defaults.h"
+#include "fakes/memory_whole_pull.h"
 #include "fakes/recording_console.h"
 #include "fakes/scripted_shell.h"
 #include "fakes/virtual_queues.h"
@@ -140,6 +141,7 @@ protected:
     RunningPasses passes{
         shell,
         {[this] { return moment(mainQueue.now()); }, [this] { return mainQueue.now(); }},
+        memoryWholePull(),
         [this](const PassRecord& record) { records.push_back(record); }};
     SyncCycle cycle{
         {.defaults = defaults,
