@@ -21,8 +21,6 @@ std::optional<HostAnswer> answerOf(const PassRecord& pass, const QString& target
         return std::nullopt;
     if (!endedAtTheCheck(pass))
         return HostAnswer{.target = target, .cause = PassCause::Well};
-    if (!isTrouble(pass.cause))
-        return std::nullopt;
     return HostAnswer{.target = target, .cause = pass.cause, .lastLine = pass.lastLine};
 }
 

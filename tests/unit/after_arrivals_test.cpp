@@ -82,6 +82,20 @@ TEST_F(AfterArrivalsTest, PullThatBroughtNothingByItsOwnFigures_IsBelieved) {
     EXPECT_EQ(records.at(1).arrivals.size(), 1U) << "it did not say which";
 }
 
+TEST_F(AfterArrivalsTest, PullThatNamesItsFiles_BroughtNoOthers) {
+    defaults.setObject(prefRsyncCommandString1,
+                       QStringLiteral("pull --out-format='%l %n' \"%@1\" \"%@2\""));
+    shell.answerTo(QStringLiteral("pull"), [this](const QString&) {
+        arrive("named");
+        arrive("from somebody else");
+        return QStringLiteral("7 named\n");
+    });
+    button.performClick();
+    runBodies();
+    ASSERT_EQ(records.at(0).arrivals.size(), 1U);
+    EXPECT_EQ(records[0].arrivals[0].path, "/Incoming/named");
+}
+
 TEST_F(AfterArrivalsTest, FailedCheck_BringsNothing) {
     defaults.setObject(prefRsyncWithSSH, true);
     validator.usual = QStringLiteral("unknownerror");
