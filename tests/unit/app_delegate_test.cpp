@@ -6,9 +6,12 @@
 #include "fakes/memory_log_file.h"
 #include "fakes/recording_console.h"
 #include "fakes/virtual_queues.h"
+#include "settings/preference_keys.h"
+#include "support/partial_option.h"
 #include "support/text.h"
 #include "ui/kelvo_status_menu_handler.h"
 #include "ui/main_window_controller.h"
+#include "ui/movie_kinds.h"
 #include "ui/status_menu_presence.h"
 
 #include <gtest/gtest.h>
@@ -164,6 +167,17 @@ TEST_F(AppDelegateTest, Init_OpensTheLogAndRegistersTheFactoryDefaults) {
     EXPECT_EQ(defaults.synchronized(), 1);
     EXPECT_TRUE(requests.empty());
     EXPECT_EQ(windowsMade + viewsMade + handlersMade, 0);
+}
+
+TEST_F(AppDelegateTest, TemplateOfAnEarlierVersion_GivesWayToTheFactorysOwn) {
+    const QString key = prefRsyncCommandString1.toString();
+    bundle.addPropertyList(QStringLiteral("FactoryDefaults"),
+                           QVariantMap{{key, factoryTemplate()}});
+    defaults.setObject(
+        key, factoryTemplate().replace(cPartialOption.toString(), cPartialWord.toString()));
+    const auto delegate = makeDelegate();
+    EXPECT_EQ(defaults.stringForKey(key), factoryTemplate());
+    EXPECT_FALSE(defaults.changes().back().second.isValid()) << "nothing stays stored";
 }
 
 TEST_F(AppDelegateTest, MissingOrBrokenFactoryDefaults_CostALineAndNothingElse) {

@@ -80,7 +80,7 @@ TEST_F(BonjourSelectionTest, SelectSource_OpensASheetEachTime) {
 TEST_F(BonjourSelectionTest, NoSuchSheet_StopsTheProgram) {
     available = false;
     EXPECT_DEATH(selection.ibSelectSourceByBonjor(),
-                 "Unable to instantiate ViewController in Main.storyboard!");
+                 "Unable to instantiate ViewController in Main.storyboard!\n");
 }
 
 TEST_F(BonjourSelectionTest, SelectDestination_OnlyLeavesALine) {

@@ -91,6 +91,8 @@ TEST_F(ConnectionSharingTest, FirstPass_LogsInBesideItsCheckAndTheNextOnesNotAtA
     connection.longestPatience = 0;
     (void)sharing.run(PassStep::AskingTheMac, {.text = QStringLiteral("whoami")});
     EXPECT_EQ(connection.longestPatience, 0) << "a check that need not wait does not";
+    sharing.ended({});
+    EXPECT_EQ(connection.longestPatience, 0) << "nor does the end";
 }
 
 TEST_F(ConnectionSharingTest, SlowLogin_IsWaitedForAsLongAsTheCheckBesideItTook) {
@@ -157,6 +159,8 @@ TEST_F(ConnectionSharingTest, AnotherUserOrHost_EndsIt) {
         EXPECT_TRUE(connection.isOpen());
         defaults.setObject(key, QStringLiteral("another"));
         EXPECT_FALSE(connection.isOpen()) << key.toString().toStdString();
+        EXPECT_EQ(console.logged().last(),
+                  QStringLiteral("The connection to the Mac ends: another one is set."));
     }
     EXPECT_EQ(pass(), QStringLiteral("cPM"));
     EXPECT_EQ(connection.opened.back().destination, QStringLiteral("another@another"));
@@ -176,6 +180,8 @@ TEST_F(ConnectionSharingTest, Hour_IsTheLongest) {
     clock += 1;
     EXPECT_EQ(pass(), QStringLiteral("cPM"));
     EXPECT_EQ(connection.closed, 1);
+    EXPECT_EQ(console.logged().last(),
+              QStringLiteral("The connection to the Mac ends after an hour."));
     calendar = calendar.addSecs(3600);
     EXPECT_EQ(pass(), QStringLiteral("cPM")) << "a machine that slept";
     calendar = calendar.addSecs(-3600);
@@ -235,6 +241,15 @@ TEST_F(ConnectionSharingTest, ServerThatRefusesToShareTwice_IsLeftInPeaceForAnHo
     EXPECT_EQ(connection.opened.size(), 2U);
     clock += cHour;
     EXPECT_EQ(pass(), QStringLiteral("cPM"));
+}
+
+TEST_F(ConnectionSharingTest, SilenceOverAConnectionThatCarriedAnAnswer_IsNoRefusal) {
+    pass();
+    pass();
+    answerOverTheConnection({});
+    EXPECT_EQ(pass(), QStringLiteral("CcPM"));
+    EXPECT_EQ(pass(), QStringLiteral("CcPM")) << "the first refusal";
+    EXPECT_EQ(pass(), QStringLiteral("Ccpm"));
 }
 
 TEST_F(ConnectionSharingTest, SlowAnswersBetweenGoodOnes_AreNoRefusals) {

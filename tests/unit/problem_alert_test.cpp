@@ -17,21 +17,27 @@ protected:
         button.current = 1;
         button.action = [this](Control*) { events.append(QStringLiteral("click")); };
     }
+    void switchedOnByAPerson() {
+        button.performClick();
+        problem.switched();
+    }
 
+    std::function<void(ModalResponse)> answer;
     QStringList events; ///< in the order in which they came
     VirtualMainQueue mainQueue;
     RecordingConsole console;
     FakeButton button;
-    CycleView view{.updateStatusMessage =
-                       [this](std::optional<QString> mesg, StatusColor, bool) {
-                           events.append(mesg ? QString(u"show " + *mesg)
-                                              : QStringLiteral("clear"));
-                       },
-                   .showProblemWithBonjourClosure =
-                       [this](const QString&, const QString&, std::function<void(ModalResponse)>) {
-                           events.append(QStringLiteral("alert"));
-                       },
-                   .ibStartButton = &button};
+    CycleView view{
+        .updateStatusMessage =
+            [this](std::optional<QString> mesg, StatusColor, bool) {
+                events.append(mesg ? QString(u"show " + *mesg) : QStringLiteral("clear"));
+            },
+        .showProblemWithBonjourClosure =
+            [this](const QString&, const QString&, std::function<void(ModalResponse)> completion) {
+                events.append(QStringLiteral("alert"));
+                answer = std::move(completion);
+            },
+        .ibStartButton = &button};
     ProblemAlert problem{
         {.mainQueue = mainQueue, .console = console, .view = view, .answered = [] {}}};
 };
@@ -47,6 +53,16 @@ TEST_F(ProblemAlertTest, Raised_ClicksThenClearsThenAsks) {
     EXPECT_EQ(events.size(), 2);
     mainQueue.advance(0.001);
     EXPECT_EQ(events.mid(2), QStringList{QStringLiteral("alert")});
+}
+
+TEST_F(ProblemAlertTest, Stop_SwitchesOffWhatWasSwitchedOnMeanwhile) {
+    problem.raise(HostVerdict::fromText(QStringLiteral("unknownerror")));
+    mainQueue.advance(0.1);
+    ASSERT_EQ(button.state(), 0);
+    switchedOnByAPerson();
+    ASSERT_EQ(button.state(), 1);
+    answer(cAlertSecondButtonReturn);
+    EXPECT_EQ(button.state(), 0);
 }
 
 TEST_F(ProblemAlertTest, RaisedWithoutAButton_StopsTheProgram) {

@@ -124,6 +124,14 @@ TEST_F(RunningPassTest, RemotePass_IsWrittenDownWhole) {
     EXPECT_EQ(record.commands[2].transfer.source, TransferSource::Unknown);
 }
 
+TEST_F(RunningPassTest, WhoeverRanTheCommand_HearsOfItsStart) {
+    RunningPass pass(passes, PassKind::Plain);
+    std::vector<CommandId> started;
+    (void)pass.run(PassStep::Pull, {.text = QStringLiteral("pull"),
+                                    .started = [&](CommandId id) { started.push_back(id); }});
+    EXPECT_EQ(started, std::vector<CommandId>{1});
+}
+
 TEST_F(RunningPassTest, FilesThatNoCommandTold_AreCountedAsTheyArrived) {
     commands.results[QStringLiteral("first")] = {cStatistics, {}, 0};
     const auto passThatBrought = [&](std::vector<Arrival> arrivals) {
@@ -137,9 +145,11 @@ TEST_F(RunningPassTest, FilesThatNoCommandTold_AreCountedAsTheyArrived) {
     EXPECT_EQ(records.back().transfer.files, 2);
     EXPECT_EQ(records.back().transfer.bytes, 40'007);
     EXPECT_EQ(records.back().transfer.source, TransferSource::Lines);
-    passThatBrought({});
-    EXPECT_EQ(records.back().transfer.files, 1);
-    EXPECT_EQ(records.back().transfer.bytes, 40'000);
+    for (const auto& told : {std::vector<Arrival>(), {{"/in/a.mov", 50'000, noon}}}) {
+        passThatBrought(told);
+        EXPECT_EQ(records.back().transfer.files, 1);
+        EXPECT_EQ(records.back().transfer.bytes, 40'000) << "what rsync says is believed";
+    }
     {
         RunningPass pass(passes, PassKind::Plain);
         run(pass, "silent");

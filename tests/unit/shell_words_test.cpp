@@ -22,6 +22,10 @@ TEST(ShellWordsTest, Quotes_AreThoseAroundThePlace) {
               QString(bare + u'"' + doubled + u"\"'" + single + u'\'' + bare));
 }
 
+TEST(ShellWordsTest, SignsBeyondAscii_NeedNoQuotes) {
+    EXPECT_EQ(filled("x %@1", QString(QChar(0x80))), QString(u"x " + QString(QChar(0x80))));
+}
+
 TEST(ShellWordsTest, QuotesThatAreNoQuotes_AreSeen) {
     const QString bare = withoutQuotes(cOdd);
     const QString doubled = insideDoubleQuotes(cOdd);

@@ -135,6 +135,7 @@ TEST_F(ChainTest, SyncNow_BeginsThePlannedPassInsteadOfLater) {
     for (const double later : {0.3, 12.0}) {
         mainQueue.advance(later);
         cycle.syncNow();
+        EXPECT_EQ(bgQueue.size(), 1U) << later;
         cycle.syncNow();
         EXPECT_EQ(bgQueue.size(), 1U) << later;
         runBodies();

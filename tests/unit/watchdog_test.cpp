@@ -41,13 +41,16 @@ protected:
         if (autorelaunched)
             arguments.append(QStringLiteral("--autorelaunched"));
         handle.reset();
-        handle =
-            Watchdog::begin({signals, bundle, defaults, console, launcher, center, queue, arguments,
-                             4711, [this] { return now; }, [this] { ++terminations; },
-                             [this](int status) {
-                                 left.push_back(status);
-                                 synchronizedWhenLeft = defaults.synchronized();
-                             }});
+        handle = Watchdog::begin({signals, bundle, defaults, console, launcher, center, queue,
+                                  arguments, 4711, [this] { return now; },
+                                  [this] {
+                                      ++terminations;
+                                      loggedWhenTerminated = console.logged().size();
+                                  },
+                                  [this](int status) {
+                                      left.push_back(status);
+                                      synchronizedWhenLeft = defaults.synchronized();
+                                  }});
     }
     void relaunchedUnless4In30() { Watchdog::autoRelaunchUnless(4, 30.0, never); }
     QVariantList ago(const std::vector<int>& seconds) const {
@@ -69,6 +72,7 @@ protected:
     FakeSentinelLauncher launcher;
     NotificationCenter center;
     int terminations = 0;
+    qsizetype loggedWhenTerminated = 0;
     std::vector<int> left;
     int synchronizedWhenLeft = 0;
     Subscription handle;
@@ -258,6 +262,7 @@ TEST_F(WatchdogTest, Term_IsLoggedAndEndsInOrder) {
               QStringList{QStringLiteral("Caught %1 ... terminating.").arg(description(SIGTERM))});
     EXPECT_TRUE(left.empty());
     EXPECT_EQ(terminations, 1);
+    EXPECT_EQ(loggedWhenTerminated, 1) << "first";
 }
 
 TEST_F(WatchdogTest, EveryOtherSignal_LeavesAtOnceWithItsNumberAndWritesNothing) {
