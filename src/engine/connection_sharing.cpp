@@ -80,7 +80,7 @@ CommandResult ConnectionSharing::ask(const Command& command) {
     {
         const std::lock_guard lock(fMutex);
         fPassRuns = true;
-        if (const QString reason = reasonToEnd(); !reason.isEmpty())
+        if (const QString reason = fKept ? reasonToEnd() : QString(); !reason.isEmpty())
             end(reason);
         kept = fKept.has_value();
         after = fAfterTheCheck;
@@ -161,10 +161,8 @@ std::optional<LoginTarget> ConnectionSharing::target() const {
     return LoginTarget{.destination = account->destination(), .keyPath = fParts.keyPath};
 }
 
-/// Under the lock; empty without a reason.
+/// Under the lock, while a connection is kept; empty without a reason.
 QString ConnectionSharing::reasonToEnd() const {
-    if (!fKept)
-        return {};
     if (!fParts.defaults.boolForKey(prefKeepConnection) ||
         !fParts.defaults.boolForKey(prefEnableScanning))
         return QStringLiteral("The connection to the Mac ends: it was switched off.");

@@ -32,9 +32,7 @@ RepeatingTimer::RepeatingTimer(DispatchQueue& mainQueue, double interval,
                                std::function<void()> eventHandler)
     : fState(std::make_shared<State>(mainQueue, interval, std::move(eventHandler))) {}
 
-RepeatingTimer::~RepeatingTimer() {
-    suspend();
-}
+RepeatingTimer::~RepeatingTimer() = default;
 
 void RepeatingTimer::resume() {
     if (std::exchange(fState->running, true))

@@ -86,6 +86,7 @@ TEST_F(AfterArrivalsTest, PullThatNamesItsFiles_BroughtNoOthers) {
     defaults.setObject(prefRsyncCommandString1,
                        QStringLiteral("pull --out-format='%l %n' \"%@1\" \"%@2\""));
     shell.answerTo(QStringLiteral("pull"), [this](const QString&) {
+        files.found.clear();
         arrive("named");
         arrive("from somebody else");
         return QStringLiteral("7 named\n");
@@ -94,6 +95,16 @@ TEST_F(AfterArrivalsTest, PullThatNamesItsFiles_BroughtNoOthers) {
     runBodies();
     ASSERT_EQ(records.at(0).arrivals.size(), 1U);
     EXPECT_EQ(records[0].arrivals[0].path, "/Incoming/named");
+
+    defaults.setObject(prefRsyncWithSSH, true);
+    shell.answerTo(cMovieRules, QStringLiteral("Number of regular files transferred: 0\n"));
+    mainQueue.advance(1.0);
+    for (int click = 0; click < 2; ++click)
+        button.performClick();
+    runBodies();
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[1].kind, PassKind::Remote);
+    EXPECT_EQ(records[1].arrivals.size(), 1U) << "nor did the two of a remote pass";
 }
 
 TEST_F(AfterArrivalsTest, FailedCheck_BringsNothing) {

@@ -110,6 +110,7 @@ TEST_F(SettingsCommandsTest, Times_AreOnlyPrinted) {
     EXPECT_EQ(get(prefRecentLaunchDates).exitCode, cExitNotSet);
     defaults.setObject(prefRecentLaunchDates, times);
     EXPECT_EQ(get(prefRecentLaunchDates).output, QStringLiteral("[1774747807.25,1774747809]\n"));
+    EXPECT_EQ(get(prefRecentLaunchDates).exitCode, 0);
     for (const SettingsVerb verb : {SettingsVerb::Set, SettingsVerb::Unset})
         EXPECT_EQ(
             answerSettings({verb, prefRecentLaunchDates.toString(), QStringLiteral("[]")}, defaults)

@@ -45,7 +45,7 @@ TEST(ShellWordsTest, QuotesThatAreNoQuotes_AreSeen) {
 TEST(ShellWordsTest, Remark_BeginsOnlyWhereAWordDoes) {
     const QString doubled = insideDoubleQuotes(cOdd);
     for (const char* before : {"lowercase x", "a#b", "\\ #b", "\"\"#b", "${x}#b", "'x'#b", "x_#",
-                               "\\case x", "\"\"case x"}) {
+                               "x~#b", "\\case x", "\"\"case x"}) {
         const QByteArray command = QByteArray(before) + " \"%@1\"";
         EXPECT_EQ(filled(command.constData()),
                   QString(QString::fromUtf8(before) + u" \"" + doubled + u'"'))
