@@ -17,7 +17,7 @@ protected:
         button.current = 1;
         button.action = [this](Control*) { events.append(QStringLiteral("click")); };
     }
-    void switchedOnByAPerson() {
+    void switchedByAPerson() {
         button.performClick();
         problem.switched();
     }
@@ -59,10 +59,27 @@ TEST_F(ProblemAlertTest, Stop_SwitchesOffWhatWasSwitchedOnMeanwhile) {
     problem.raise(HostVerdict::fromText(QStringLiteral("unknownerror")));
     mainQueue.advance(0.1);
     ASSERT_EQ(button.state(), 0);
-    switchedOnByAPerson();
+    switchedByAPerson();
     ASSERT_EQ(button.state(), 1);
     answer(cAlertSecondButtonReturn);
     EXPECT_EQ(button.state(), 0);
+}
+
+TEST_F(ProblemAlertTest, AnswerToASecondAlert_IsAPersons) {
+    const auto raise = [this] {
+        problem.raise(HostVerdict::fromText(QStringLiteral("unknownerror")));
+        mainQueue.advance(0.1);
+    };
+    raise();
+    answer(cModalResponseStop); // nobody answered the first
+    switchedByAPerson();
+    raise();
+    switchedByAPerson();
+    switchedByAPerson();
+    ASSERT_EQ(button.state(), 0);
+    answer(cAlertFirstButtonReturn);
+    mainQueue.advance(0.1);
+    EXPECT_EQ(button.state(), 1);
 }
 
 TEST_F(ProblemAlertTest, RaisedWithoutAButton_StopsTheProgram) {

@@ -214,6 +214,9 @@ TEST(ProfileTransferTest, Preview_IsTheseLines) {
                         "%@98 for the\noptions of ssh, %@99 for the option.\n"))
         << text.toStdString();
     EXPECT_TRUE(importPreview({}, {.name = QStringLiteral("east")}, true)
+                    .startsWith(u"The profile east is there already. These settings take the place "
+                                u"of those it has:\n  pref"));
+    EXPECT_TRUE(importPreview({}, {.name = QStringLiteral("east")}, true)
                     .contains(u"\nEach pass runs the command that the program comes with, read by "
                               u"the shell:\n  /"));
 }

@@ -117,6 +117,9 @@ TEST(ProgressLineTest, EndOfAFile_IsReadInEachSpelling) {
           "(xfr#2 to-chk=7/9)", "(xfr#2, chk=7/9)", "(xfr#2, to-7/9)", "(xfr#, to-chk=7/9)",
           "(xfr#2, to-chk=/9)", "(xfr#2, to-chk=7)", "(xfr#2, to-chk=7/)", "xfr#2, to-chk=7/9)"})
         EXPECT_FALSE(end(none)) << none;
+    const QByteArrayView more("  5  13%  1.00kB/s  0:00:06 (xfr#2, to-chk=7/9)");
+    EXPECT_TRUE(progressLineIn(more)->fileEnd);
+    EXPECT_FALSE(progressLineIn(more.chopped(1))->fileEnd) << "what stands behind is not read";
 }
 
 TEST(ProgressLineTest, LineOfMoreThan160Signs_IsNone) {

@@ -173,6 +173,8 @@ TEST(RsyncOutputReaderTest, WhenTheRestIsHere_TheSizesOfTheNamedFilesAreAllThere
     const PassProgress nothing = read("2000000 n3.mov\n");
     EXPECT_FALSE(nothing.share) << "less than was said";
     EXPECT_EQ(Reading(cFactory, true)("1 n1.mov\n\r  0   0%    0.00kB/s    0:00:00  ").share, 0);
+    EXPECT_FALSE(Reading(cFactory)("1 n1.mov\n\r  0   0%    0.00kB/s    0:00:00  ").share)
+        << "nobody knows yet how much there is";
 }
 
 TEST(RsyncOutputReaderTest, WhatMayNotBeAll_IsNinetyNinePerCentAtMost) {

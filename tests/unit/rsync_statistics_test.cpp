@@ -84,6 +84,12 @@ TEST(RsyncStatisticsTest, WithoutStatistics_NamesAreCounted) {
     EXPECT_EQ(transfer.bytes, 80211);
 }
 
+TEST(RsyncStatisticsTest, TalkAmongNamesWithTheirSizes_IsNotCounted) {
+    const auto transfer = transferOf(u"/usr/bin/rsync --out-format='%l %n' a/ b/",
+                                     u"5 one.mov\nWelcome to this Mac\n7 two.mov\n");
+    EXPECT_EQ(transfer.files, 2);
+}
+
 TEST(RsyncStatisticsTest, NamesAlone_TellNoBytes) {
     const auto transfer = transferOf(u"/usr/bin/rsync --out-format=%n a/ b/", u"one.mov\n");
     EXPECT_EQ(transfer.source, TransferSource::Lines);

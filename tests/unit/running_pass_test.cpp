@@ -23,6 +23,8 @@ public:
     CommandResult run(const Command& command) override {
         variables.push_back(command.variables);
         fCancelled = false;
+        if (beforeItStarts)
+            beforeItStarts();
         if (command.started)
             command.started(1);
         for (const char* piece : pieces) {
@@ -53,6 +55,7 @@ public:
         return writing;
     }
 
+    std::function<void()> beforeItStarts;
     std::function<void()> whileRunning;
     std::vector<const char*> pieces; ///< printed one by one
     std::optional<FileBeingWritten> writing;
@@ -122,6 +125,12 @@ TEST_F(RunningPassTest, RemotePass_IsWrittenDownWhole) {
     EXPECT_EQ(record.commands[2].exitStatus, 24);
     EXPECT_EQ(record.commands[2].text.head, QStringLiteral("oops\n"));
     EXPECT_EQ(record.commands[2].transfer.source, TransferSource::Unknown);
+}
+
+TEST_F(RunningPassTest, WishThatComesBeforeTheCommandHasStarted_EndsItToo) {
+    commands.beforeItStarts = [this] { passes.cancel(); };
+    RunningPass pass(passes, PassKind::Plain);
+    EXPECT_EQ(run(pass, "pull").output, QStringLiteral("cut"));
 }
 
 TEST_F(RunningPassTest, WhoeverRanTheCommand_HearsOfItsStart) {

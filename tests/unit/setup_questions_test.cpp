@@ -411,7 +411,7 @@ TEST_F(SetupQuestionsTest, FolderThatIsNotWanted_IsAskedForAgain) {
     request = everything();
     request.destination = QStringLiteral("~/New");
     begin(request);
-    answer({"n"});
+    answer({"No"});
     EXPECT_EQ(dialogue.asked.last(), u"There is no folder /Users/localuser/New. Make it? [Y/n] ");
     EXPECT_EQ(failure.exitCode, 2) << "there is no other one to ask for";
     EXPECT_EQ(failure.errors, u"kelvo-mirror: --destination: there is no such folder. Nothing was "
