@@ -7,6 +7,10 @@ namespace kelvo {
 void stopProgram(std::string_view message) noexcept {
     if (!message.empty())
         std::fprintf(stderr, "%.*s\n", static_cast<int>(message.size()), message.data());
+#ifdef __aarch64__
+    // The compiler's trap is a breakpoint there, and elsewhere an instruction that does not exist.
+    asm volatile(".inst 0x00000000");
+#endif
     __builtin_trap();
 }
 
