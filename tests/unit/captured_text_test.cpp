@@ -32,6 +32,11 @@ TEST(CapturedTextTest, LongText_KeepsItsEndsAndCountsTheRest) {
     }
 }
 
+TEST(CapturedTextTest, PlainSignsBehindOthers_TakeNoMoreThanTheRest) {
+    const QString whole = QStringLiteral("é") + QString(200000, u'a');
+    EXPECT_EQ(capturedText(whole).head.toUtf8().size(), cKeptText);
+}
+
 TEST(CapturedTextTest, ErrorsAfterALongOutput_EndTheTail) {
     const QString output = QString(100000, u'o');
     const QString errors = QStringLiteral("the reason\n");

@@ -102,6 +102,8 @@ TEST(MoviePullTest, Places_AreComparedAsTheShellReadsThem) {
     EXPECT_FALSE(same("'' b", "b"));
     EXPECT_TRUE(same("a 2>&1 b", "2>&1 a b 2>&1"));
     EXPECT_TRUE(same("'a 2>&1' b", "a\\ 2\\>\\&1 b"));
+    EXPECT_TRUE(same("a \\b", "a b")) << "one sign before the end";
+    EXPECT_FALSE(same("a b 2>&1;", "a b")) << "what stands behind it is read";
 }
 
 TEST(MoviePullTest, SignsOfTheShell_AreTextOnlyInTheQuotesThatMakeThemText) {
