@@ -73,8 +73,8 @@ std::optional<QStringView> valueOf(QStringView option, QStringView command) {
     return length < 0 ? rest : rest.first(length);
 }
 
-bool isTag(QChar letter) {
-    return letter == u'v' || letter == u'i' || letter == u'P';
+bool namesFiles(QChar letter) {
+    return letter == u'v' || letter == u'P';
 }
 
 NameFormat formatByWords(QStringView command) {
@@ -96,7 +96,7 @@ NameFormat formatByWords(QStringView command) {
                                       [](QChar c) { return c == u'e' || c == u'f'; });
         if (std::find(word.begin() + 1, end, u'i') != end)
             return NameFormat::Itemized;
-        if (std::any_of(word.begin() + 1, end, isTag))
+        if (std::any_of(word.begin() + 1, end, namesFiles))
             found = NameFormat::Bare;
     }
     return found;

@@ -27,6 +27,8 @@ TEST(NameLinesTest, OutFormat_DecidesHoweverItIsQuoted) {
                    {u"rsync --out-format='%l %n", NameFormat::Sized},
                    {u"rsync a b --out-format=%n", NameFormat::Bare},
                    {u"--out-format=%n", NameFormat::Bare},
+                   {u"--out-format=%n a b", NameFormat::Bare},
+                   {u"'--out-format=%n' a b", NameFormat::Bare},
                    {u"rsync --out-format=%i -v a b", NameFormat::Other},
                    {u"rsync --out-format=", NameFormat::Other}});
 }
