@@ -148,6 +148,8 @@ TEST(NameLinesTest, EscapedBytes_AreTurnedBackAndNothingElseIs) {
     for (const char* plain : {"\\#01", "\\#", "\\", "\\012x", "\\#400", "\\#080", "\\#008",
                               "\\#/11", "\\#1/1", "\\#11/", "x#012", "\\##012"})
         EXPECT_EQ(unescapedName(plain), plain);
+    EXPECT_EQ(unescapedName(QByteArrayView("\\#012").chopped(1)), "\\#01")
+        << "what stands behind the name is not read";
 }
 
 } // namespace
