@@ -48,6 +48,7 @@ TEST(ProgressLineTest, Bytes_AreWrittenInFullOrWithALetter) {
     for (const char* none : {"", "x", "1.25X", "1K5", "-5"})
         EXPECT_EQ(bytes(none), -1) << none;
     EXPECT_FALSE(progressLineIn("  1K5%    1.95MB/s    0:00:06  ")) << "no blank behind the bytes";
+    EXPECT_FALSE(progressLineIn("  1~   5%    1.95MB/s    0:00:06  "));
 }
 
 TEST(ProgressLineTest, Percentage_MayPassAHundredButNotGoAstray) {
@@ -88,7 +89,7 @@ TEST(ProgressLineTest, Time_IsHoursMinutesAndSecondsOrNotKnown) {
     EXPECT_EQ(seconds("1000000:00:00"), 3'600'000'000);
     EXPECT_EQ(seconds("??:??:??"), std::nullopt);
     for (const char* none :
-         {"", "1000001:00:00", "0:60:00", "0:00:60", "0:00", "0-00:00", "0:00-00", ":00:00",
+         {"", "0", "1000001:00:00", "0:60:00", "0:00:60", "0:00", "0-00:00", "0:00-00", ":00:00",
           "0::00", "0:00:", "??:??:?", "0000000000000000001:02", "0:0000000000000000001"})
         EXPECT_EQ(seconds(none), -1) << none;
     EXPECT_FALSE(progressLineIn("  5  13%  1.00kB/s  0:00:06")) << "it may go on";
@@ -115,7 +116,8 @@ TEST(ProgressLineTest, EndOfAFile_IsReadInEachSpelling) {
     for (const char* none :
          {"(xfr#2, to-chk=10/9)", "(xfr#10, to-chk=1/9)", "(xfr#2, to-chk=7/9",
           "(xfr#2 to-chk=7/9)", "(xfr#2, chk=7/9)", "(xfr#2, to-7/9)", "(xfr#, to-chk=7/9)",
-          "(xfr#2, to-chk=/9)", "(xfr#2, to-chk=7)", "(xfr#2, to-chk=7/)", "xfr#2, to-chk=7/9)"})
+          "2, to-chk=7/9)", "(xfr#2to-chk=7/9)", "(xfr#2, to-chk=/9)", "(xfr#2, to-chk=7)",
+          "(xfr#2, to-chk=7/)", "xfr#2, to-chk=7/9)"})
         EXPECT_FALSE(end(none)) << none;
     const QByteArrayView more("  5  13%  1.00kB/s  0:00:06 (xfr#2, to-chk=7/9)");
     EXPECT_TRUE(progressLineIn(more)->fileEnd);
@@ -134,6 +136,7 @@ TEST(WithoutProgressTest, WhatWasWrittenOver_GoesWithItsLine) {
     for (const auto& [output, stays] :
          {std::pair(QString(u"one\n\r" + progress + u"\ntwo\n"), "one\ntwo\n"),
           std::pair(QString(u'\r' + progress + u'\r'), ""),
+          std::pair(QString(u'\r' + progress.sliced(1) + u'\r'), ""),
           std::pair(QStringLiteral("one\r\n\ntwo\r\r\n"), "one\n\ntwo\n"),
           std::pair(QString(progress + u"\rname\n"), "name\n"),
           std::pair(QString(u'\r' + progress.trimmed() + u" name\nrest"), "name\nrest"),
