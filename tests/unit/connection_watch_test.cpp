@@ -34,13 +34,17 @@ protected:
         check.command = whoamiCommand(3, QStringLiteral("/key"), target);
         store.append(record);
     }
-    void watch(std::optional<KeyState> keyState = KeyState::NotAsked) {
+    /// The record is read later.
+    void beginToWatch(std::optional<KeyState> keyState = KeyState::NotAsked) {
         connection.emplace(
             ConnectionWatch::Parts{.defaults = defaults,
                                    .passes = store,
                                    .now = [this] { return now; },
                                    .keyState = keyState,
                                    .show = [this](const Connection& all) { shown = all; }});
+    }
+    void watch(std::optional<KeyState> keyState = KeyState::NotAsked) {
+        beginToWatch(keyState);
         mainQueue.runDue();
     }
 
@@ -97,12 +101,7 @@ TEST_F(ConnectionWatchTest, AnswerThatComesBeforeTheRecordIsRead_Stays) {
     pass(Well, true, QStringLiteral("bob@mac.local"));
     pass(KeyRefused, false);
     mainQueue.runDue();
-    connection.emplace(
-        ConnectionWatch::Parts{.defaults = defaults,
-                               .passes = store,
-                               .now = [this] { return now; },
-                               .keyState = KeyState::NotAsked,
-                               .show = [this](const Connection& all) { shown = all; }});
+    beginToWatch();
     connection->answered({.target = cTarget, .cause = Well});
     mainQueue.runDue();
     EXPECT_EQ(shown, (Connection{.answer = HostAnswer{.target = cTarget, .cause = Well},
@@ -157,12 +156,7 @@ TEST_F(ConnectionWatchTest, FirstStateOfTheKey_LeavesTheRecord) {
 TEST_F(ConnectionWatchTest, RecordThatComesAfterTheKeyHasChanged_IsDropped) {
     pass(Well, true);
     mainQueue.runDue();
-    connection.emplace(
-        ConnectionWatch::Parts{.defaults = defaults,
-                               .passes = store,
-                               .now = [this] { return now; },
-                               .keyState = KeyState::NotAsked,
-                               .show = [this](const Connection& all) { shown = all; }});
+    beginToWatch();
     connection->setKeyState(KeyState::NotAsked);
     mainQueue.runDue();
     EXPECT_EQ(shown, Connection());
@@ -171,12 +165,7 @@ TEST_F(ConnectionWatchTest, RecordThatComesAfterTheKeyHasChanged_IsDropped) {
 TEST_F(ConnectionWatchTest, RecordThatIsBeingReadWhenTheKeyChanges_IsDropped) {
     pass(Well, true);
     mainQueue.runDue();
-    connection.emplace(
-        ConnectionWatch::Parts{.defaults = defaults,
-                               .passes = store,
-                               .now = [this] { return now; },
-                               .keyState = KeyState::NotAsked,
-                               .show = [this](const Connection& all) { shown = all; }});
+    beginToWatch();
     // Behind the answer that says which pass to read, before the pass.
     mainQueue.async([this] { connection->setKeyState(KeyState::NotAsked); });
     mainQueue.runDue();
@@ -185,12 +174,7 @@ TEST_F(ConnectionWatchTest, RecordThatIsBeingReadWhenTheKeyChanges_IsDropped) {
 
 TEST_F(ConnectionWatchTest, WatchThatIsGone_ShowsNothing) {
     pass(Well, true);
-    connection.emplace(
-        ConnectionWatch::Parts{.defaults = defaults,
-                               .passes = store,
-                               .now = [this] { return now; },
-                               .keyState = KeyState::NotAsked,
-                               .show = [this](const Connection& all) { shown = all; }});
+    beginToWatch();
     connection.reset();
     mainQueue.runDue();
     EXPECT_EQ(shown, std::nullopt);
