@@ -186,10 +186,9 @@ void ConnectionSharing::open() {
     fParts.connection.open(*target);
 }
 
-/// Under the lock; without a reason nothing is said.
+/// Under the lock, while a connection is kept; without a reason nothing is said.
 void ConnectionSharing::end(const QString& reason) {
-    if (!std::exchange(fKept, std::nullopt))
-        return;
+    fKept.reset();
     fParts.connection.close();
     if (!reason.isEmpty())
         fParts.console.log(reason);

@@ -153,6 +153,7 @@ TEST_F(RsyncCommandTest, TextsThatLeadElsewhere_AreRefused) {
     EXPECT_EQ(faultOf("-s", "/d"), u"the source begins with \"-\"");
     EXPECT_EQ(faultOf("a\nb", "/d"), u"the source holds a line break");
     EXPECT_EQ(faultOf("u@-oProxyCommand=x:p", "/d"), u"the host of the source begins with \"-\"");
+    EXPECT_EQ(faultOf("u@-:p", "/d"), u"the host of the source begins with \"-\"");
     EXPECT_EQ(faultOf("-oProxyCommand=x:p", "/d"), u"the source begins with \"-\"");
     EXPECT_EQ(faultOf("u@h::m", "/d"), u"the source would be read as a module of an rsync daemon");
     EXPECT_EQ(faultOf("::m", "/d"), u"the source would be read as a module of an rsync daemon");

@@ -236,6 +236,12 @@ TEST(RsyncOutputReaderTest, TotalThatTwoLinesMeetIn_IsExact) {
     EXPECT_EQ(read("\r     50,000,000  49%    0.00kB/s    0:00:00  ").share, 0.5);
 }
 
+TEST(RsyncOutputReaderTest, ProgressBeforeMoreThanThat_IsNotWaitedFor) {
+    const QByteArray progress("  5  13%  1.00kB/s  0:00:06  ");
+    EXPECT_EQ(Reading(cFactory)(progress + QByteArray(30000, 'x') + "  ").bytesDone, 5);
+    EXPECT_EQ(Reading(cFactory)(progress + QByteArray(33000, 'x') + "  ").bytesDone, std::nullopt);
+}
+
 TEST(RsyncOutputReaderTest, LineOf32KiB_IsTheLongestThatIsRead) {
     constexpr qsizetype cMost = qsizetype{32} * 1024;
     const auto named = [](const std::vector<QByteArray>& pieces) {

@@ -127,6 +127,16 @@ TEST_F(RunningPassTest, RemotePass_IsWrittenDownWhole) {
     EXPECT_EQ(record.commands[2].transfer.source, TransferSource::Unknown);
 }
 
+TEST_F(RunningPassTest, SilentCommandThatWritesNothing_HasNoFigures) {
+    PassProgress seen;
+    commands.whileRunning = [&] { seen = passes.underWay().at(0).progress; };
+    RunningPass pass(passes, PassKind::Plain);
+    run(pass, "silent");
+    EXPECT_GT(commands.looks, 0);
+    EXPECT_EQ(seen.filesDone, std::nullopt);
+    EXPECT_EQ(seen.bytesDone, std::nullopt);
+}
+
 TEST_F(RunningPassTest, WishThatComesBeforeTheCommandHasStarted_EndsItToo) {
     commands.beforeItStarts = [this] { passes.cancel(); };
     RunningPass pass(passes, PassKind::Plain);

@@ -38,7 +38,8 @@ TEST_F(SyncCycleTest, MissingStartButton_StopsTheProgramAtTheClick) {
                        .validateRemoteHost = {},
                        .view = {},
                        .seconds = {}});
-    EXPECT_EXIT(without.clickStartButton(), ::testing::KilledBySignal(SIGILL), "start button");
+    EXPECT_EXIT(without.clickStartButton(), ::testing::KilledBySignal(SIGILL),
+                "^the start button is not there\n");
 }
 
 TEST_F(SyncCycleTest, UnknownSettings_LetNoPassBeginAndOneOfTheKindSetOnceTheyAreKnown) {
