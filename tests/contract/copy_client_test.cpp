@@ -50,6 +50,16 @@ protected:
         EXPECT_TRUE(waitInLoop([&] { return done.load(); }));
         thread.join();
     }
+    /// `work` goes on, aside, with a client that has asked.
+    template <typename Work>
+    void asksAside(Work work) {
+        aside([&] {
+            CopyClient client(place());
+            ASSERT_EQ(client.connect(5s), CopyClient::Contact::Made);
+            ASSERT_TRUE(client.send("{}\n"));
+            work(client);
+        });
+    }
     std::string place() const { return folder.path().toStdString(); }
 
     QTemporaryDir folder;
@@ -59,10 +69,7 @@ protected:
 
 TEST_F(CopyClientTest, Question_IsAnswered) {
     answer("well\n");
-    aside([&] {
-        CopyClient client(place());
-        ASSERT_EQ(client.connect(5s), CopyClient::Contact::Made);
-        ASSERT_TRUE(client.send("{}\n"));
+    asksAside([&](CopyClient& client) {
         QByteArray line;
         EXPECT_EQ(client.hear(line, 20s), CopyClient::Heard::Line);
         EXPECT_EQ(line, "well");
@@ -73,10 +80,7 @@ TEST_F(CopyClientTest, Question_IsAnswered) {
 
 TEST_F(CopyClientTest, LinesThatComeTogether_AreHeardOneByOne) {
     answer("\none\n\ntwo\n");
-    aside([&] {
-        CopyClient client(place());
-        ASSERT_EQ(client.connect(5s), CopyClient::Contact::Made);
-        ASSERT_TRUE(client.send("{}\n"));
+    asksAside([&](CopyClient& client) {
         for (const char* expected : {"", "one", "", "two"}) {
             QByteArray line = "not heard";
             EXPECT_EQ(client.hear(line, 20s), CopyClient::Heard::Line);
@@ -89,10 +93,7 @@ TEST_F(CopyClientTest, LongestLine_IsHeardAndALongerOneIsNoise) {
     for (const qsizetype size : {Guests::cLongestLine - 1, Guests::cLongestLine}) {
         // A line before it, so that its own end does not come alone.
         answer("first\n" + QByteArray(size, 'x') + '\n');
-        aside([&] {
-            CopyClient client(place());
-            ASSERT_EQ(client.connect(5s), CopyClient::Contact::Made);
-            ASSERT_TRUE(client.send("{}\n"));
+        asksAside([&](CopyClient& client) {
             QByteArray line;
             EXPECT_EQ(client.hear(line, 20s), CopyClient::Heard::Line);
             line.clear();
@@ -105,10 +106,7 @@ TEST_F(CopyClientTest, LongestLine_IsHeardAndALongerOneIsNoise) {
 }
 
 TEST_F(CopyClientTest, CopyThatHangsUp_IsHeard) {
-    aside([&] {
-        CopyClient client(place());
-        ASSERT_EQ(client.connect(5s), CopyClient::Contact::Made);
-        ASSERT_TRUE(client.send("{}\n"));
+    asksAside([&](CopyClient& client) {
         QByteArray line;
         EXPECT_EQ(client.hear(line, 20s), CopyClient::Heard::End);
     });
@@ -116,10 +114,7 @@ TEST_F(CopyClientTest, CopyThatHangsUp_IsHeard) {
 
 TEST_F(CopyClientTest, LineWithoutEnd_IsNoise) {
     answer(QByteArray(Guests::cLongestLine, 'x'));
-    aside([&] {
-        CopyClient client(place());
-        ASSERT_EQ(client.connect(5s), CopyClient::Contact::Made);
-        ASSERT_TRUE(client.send("{}\n"));
+    asksAside([&](CopyClient& client) {
         QByteArray line;
         EXPECT_EQ(client.hear(line, -1ms), CopyClient::Heard::Noise);
     });
