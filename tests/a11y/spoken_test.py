@@ -150,9 +150,14 @@ class SpokenTest(a11y_case.A11yCase):
         self.desk.keys("Right")
         self.tab_to("Export all passes")
         self.desk.keys("Return")
-        self.desk.wait(lambda: self.desk.find(role="dialog"), "the dialog")
+        self.wait_sheet("Export passes")
         self.desk.keys("ctrl+a")
-        self.desk.type(self.desk.path("passes.csv"))
+        path = self.desk.path("passes.csv")
+        self.desk.type(path)
+        self.desk.wait(
+            lambda: any(seen.focused and seen.text == path for seen in self.desk.tree()),
+            lambda: f"the path is typed: {self.desk.tree()}",
+        )
         self.desk.keys("Return")
         self.desk.heard.wait("passes written.")
         self.wait_focus("Export all passes")
