@@ -67,11 +67,11 @@ CommandEnd CommandCapture::follow(const CommandDeadline& deadline) {
             size += readErrors();
         if (fWatched[Output].revents != 0)
             size += readOutput();
+        if (fWatched[Ended].revents != 0)
+            fWatched[Ended].fd = -1;
         gathers = size > 0 && size < cMuch && fWatched[Ended].fd >= 0;
         if (fOutput.total() > fCommand.bounds.most)
             return CommandEnd::TooMuch;
-        if (fWatched[Ended].revents != 0)
-            fWatched[Ended].fd = -1;
         if (fWatched[GiveUp].revents != 0)
             break;
         if (fWatched[Cancelled].revents != 0)
