@@ -171,9 +171,10 @@ std::optional<ProgressLine> progressLineIn(QByteArrayView text) {
     if (!percent || *percent > cMostPercent || !scan.take("%") || scan.blanks() == 0)
         return std::nullopt;
     line.percent = static_cast<int>(*percent);
-    line.bytesPerSecond = rateIn(scan);
-    if (!line.bytesPerSecond || scan.blanks() == 0 || !timeIn(scan, line.seconds))
+    const auto rate = rateIn(scan);
+    if (!rate || scan.blanks() == 0 || !timeIn(scan, line.seconds))
         return std::nullopt;
+    line.bytesPerSecond = *rate;
     // A text that has been cut off could still go on.
     if (scan.blanks() == 0)
         return std::nullopt;

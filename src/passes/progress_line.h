@@ -13,7 +13,7 @@ namespace kelvo {
 struct ProgressLine {
     qint64 bytes = 0;
     int percent = 0;
-    std::optional<double> bytesPerSecond;
+    double bytesPerSecond = 0;
     std::optional<qint64> seconds; ///< left, or used at the end of a file
     struct FileEnd {
         qint64 transferred = 0; ///< files so far

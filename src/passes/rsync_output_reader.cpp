@@ -51,9 +51,7 @@ void RsyncOutputReader::read(QByteArrayView bytes, double now) {
 
 void RsyncOutputReader::keep(QByteArrayView part) {
     fSkipping = fSkipping || fPending.size() + part.size() > cLongestPart;
-    if (fSkipping)
-        fPending.clear();
-    else
+    if (!fSkipping)
         fPending.append(part);
 }
 
@@ -128,9 +126,9 @@ void RsyncOutputReader::boundTotal(const ProgressLine& line) {
         now.least = bytes * 100 / (line.percent + 1);
     if (line.percent > 0)
         now.most = bytes * 100 / line.percent;
-    if (!line.fileEnd && line.seconds && line.bytesPerSecond.value_or(0) > 0) {
+    if (!line.fileEnd && line.seconds && line.bytesPerSecond > 0) {
         constexpr double cRounding = 0.03;
-        const double rate = *line.bytesPerSecond;
+        const double rate = line.bytesPerSecond;
         const auto left = static_cast<double>(*line.seconds);
         now.least = std::max(now.least, bytes + rate * left * (1 - cRounding));
         now.most = std::min(now.most, bytes + rate * (left + 1) * (1 + cRounding));

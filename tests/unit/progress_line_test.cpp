@@ -20,7 +20,7 @@ TEST(ProgressLineTest, EachFigure_IsRead) {
     ASSERT_TRUE(line);
     EXPECT_EQ(line->bytes, 2'097'152);
     EXPECT_EQ(line->percent, 13);
-    EXPECT_DOUBLE_EQ(line->bytesPerSecond.value_or(0), 1.95 * 1024 * 1024);
+    EXPECT_DOUBLE_EQ(line->bytesPerSecond, 1.95 * 1024 * 1024);
     EXPECT_EQ(line->seconds, 6);
     EXPECT_FALSE(line->fileEnd);
     EXPECT_EQ(line->length, text.size());
@@ -69,7 +69,7 @@ TEST(ProgressLineTest, Percentage_MayPassAHundredButNotGoAstray) {
 TEST(ProgressLineTest, Rate_HasOneOfThreeUnits) {
     const auto rate = [](const char* figure) {
         const auto line = with("5", "13%", figure);
-        return line ? line->bytesPerSecond.value_or(-2) : -1;
+        return line ? line->bytesPerSecond : -1;
     };
     EXPECT_DOUBLE_EQ(rate("0.00kB/s"), 0);
     EXPECT_DOUBLE_EQ(rate("12.50kB/s"), 12.5 * 1024);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <limits>
 
 namespace kelvo {
 namespace {
@@ -125,6 +126,14 @@ TEST(RsyncOutputReaderTest, ProgressCutInTwo_IsNoName) {
     EXPECT_EQ(read.names(), std::vector<QByteArray>{"a.mov"});
 }
 
+TEST(RsyncOutputReaderTest, NameThatLooksLikeProgress_IsAName) {
+    Reading read(QStringLiteral("rsync -r --info=progress2 --out-format='%n' a/ b/"));
+    const QByteArray name = "5  13%  1.00kB/s  0:00:06  (xfr#1, to-chk=1/3)";
+    EXPECT_EQ(read(name).bytesDone, std::nullopt) << "before its line is ended";
+    EXPECT_EQ(read("\n").bytesDone, std::nullopt);
+    EXPECT_EQ(read.names(), std::vector<QByteArray>{name});
+}
+
 TEST(RsyncOutputReaderTest, SpeedAndTimeLeft_AreThoseOfTheLastSeconds) {
     Reading read(cFactory);
     PassProgress now;
@@ -196,6 +205,7 @@ TEST(RsyncOutputReaderTest, Total_IsSaidOnceItIsKnownWellEnough) {
     };
     EXPECT_FALSE(known("6")) << "between 86 and 100 million";
     EXPECT_EQ(known("7"), 75'000'000) << "and 86 million";
+    EXPECT_EQ(known("100"), 6'000'000) << "all of what is in the list so far";
 }
 
 TEST(RsyncOutputReaderTest, TotalThatWasKnownBetter_IsNotForgotten) {
@@ -215,6 +225,45 @@ TEST(RsyncOutputReaderTest, TotalOfRateAndTimeLeft_IsTheLeastThatItMayBe) {
         read("9000000 f2.mov\n\r      1,000,000   5%    1.00MB/s    0:00:17  ");
     EXPECT_NEAR(static_cast<double>(later.bytesKnown.value_or(0)), 1e6 + 17 * 0.97 * 1024 * 1024,
                 2);
+}
+
+TEST(RsyncOutputReaderTest, OnePassedOver_LeavesTheTotalUnknown) {
+    const auto known = [](const QByteArray& names, const char* unchecked) {
+        Reading read(cFactory);
+        return read(names + "\r  1,000,000  50%    0.00kB/s    0:00:00 (xfr#1, to-chk=" +
+                    unchecked + "/9)\n")
+            .bytesKnown;
+    };
+    EXPECT_TRUE(known("4096 ./\n1000000 f1.mov\n", "7"));
+    EXPECT_FALSE(known("4096 ./\n1000000 f1.mov\n", "6"));
+    EXPECT_TRUE(known("1000000 f1.mov\n", "7")) << "the uppermost folder is as it should be";
+    EXPECT_FALSE(known("1000000 f1.mov\n", "6"));
+}
+
+TEST(RsyncOutputReaderTest, SizesThatAreNotPrinted_AreNotTakenForNone) {
+    Reading read(QStringLiteral("rsync -r --info=progress2 --out-format='%n' a/ b/"), true);
+    const PassProgress now = read("n1.mov\n\r  1,000,000  40%    0.00kB/s    0:00:00  ");
+    EXPECT_FALSE(now.bytesKnown);
+    EXPECT_EQ(now.share, 0.4);
+    EXPECT_EQ(Reading(cFactory, true)("1 n1.mov\n\r  0   0%    0.00kB/s    0:00:00  ").bytesKnown,
+              1);
+}
+
+TEST(RsyncOutputReaderTest, TotalOfNothingOrAByte_HasNoShareBeyondAll) {
+    EXPECT_FALSE(Reading(cFactory)("\r  0  50%    0.00kB/s    0:00:00  ").share);
+    EXPECT_EQ(Reading(cFactory)("\r  1 100%    0.00kB/s    0:00:00  ").share, 0.99);
+    EXPECT_EQ(Reading(cFactory)("0 e.mov\n\r  0 100%    0.00kB/s    0:00:00 (xfr#1, to-chk=1/3)\n")
+                  .bytesKnown,
+              0);
+}
+
+TEST(RsyncOutputReaderTest, TotalOfAListThatGrows_IsThatOfItsLastLine) {
+    Reading read(cFactory);
+    read("\r  1,000,000  50%    0.00kB/s    0:00:00 (xfr#1, ir-chk=7/9)\n");
+    read("\r  1,100,000  54%    0.00kB/s    0:00:00  ");
+    const PassProgress whole =
+        read("\r  1,200,000  59%    0.00kB/s    0:00:00 (xfr#2, to-chk=7/9)\n");
+    EXPECT_NEAR(whole.share.value_or(0), 0.59, 1e-9) << "not of the two million of before";
 }
 
 TEST(RsyncOutputReaderTest, OnePerCent_IsAShare) {
@@ -278,9 +327,10 @@ TEST(RsyncOutputReaderTest, ProgressOfEachFile_IsTakenTogether) {
                                     "\r         32,768   1%    0.00kB/s    0:00:00  ");
     EXPECT_EQ(first.file, QStringLiteral("f1.mov"));
     EXPECT_FALSE(first.share);
-    const PassProgress second =
-        read("\r      3,000,000 100%    5.66MB/s    0:00:00 (xfr#1, to-chk=2/4)\nf2.mov\n"
-             "\r      1.500.000  50%    2.64MB/s    0:00:00  ");
+    const PassProgress ended =
+        read("\r      3,000,000 100%    5.66MB/s    0:00:00 (xfr#1, to-chk=2/4)\nf2.mov\n");
+    EXPECT_EQ(ended.share, 2.0 / 4);
+    const PassProgress second = read("\r      1.500.000  50%    2.64MB/s    0:00:00  ");
     EXPECT_EQ(second.bytesDone, 4'500'000);
     EXPECT_EQ(second.share, 2.5 / 4) << "the place in the list";
     EXPECT_EQ(read("\r      3,000,000 150%    2.64MB/s    0:00:00  ").share, 3.0 / 4)
@@ -289,6 +339,20 @@ TEST(RsyncOutputReaderTest, ProgressOfEachFile_IsTakenTogether) {
         read("\r          3.00M 100%    5.66MB/s    0:00:00 (xfr#2, to-chk=0/4)\n");
     EXPECT_EQ(end.bytesDone, 6'000'000);
     EXPECT_EQ(end.share, 1);
+}
+
+TEST(RsyncOutputReaderTest, SizesBeyondAllThatCanBeCounted_AreAsManyAsCanBe) {
+    Reading read(QStringLiteral("/usr/bin/rsync -r -P a/ b/"));
+    const QByteArray most = "\r 9,000,000,000,000,000,000 100%  1.00kB/s  0:00:00 ";
+    constexpr qint64 cHalf = std::numeric_limits<qint64>::max() / 2;
+    EXPECT_EQ(read(most + "(xfr#1, to-chk=2/4)\n").bytesDone, cHalf);
+    EXPECT_EQ(read(most + "(xfr#2, to-chk=1/4)\n").bytesDone, 2 * cHalf);
+}
+
+TEST(RsyncOutputReaderTest, FoldersBehindTheLastFile_AreChecked) {
+    Reading read(QStringLiteral("/usr/bin/rsync -r -P a/ b/"));
+    read("\r      3,000,000 100%    5.66MB/s    0:00:00 (xfr#1, to-chk=2/4)\n");
+    EXPECT_EQ(read("\r      3,000,000 100%    5.66MB/s    0:00:00 (xfr#1, to-chk=0/4)\n").share, 1);
 }
 
 TEST(RsyncOutputReaderTest, TalkAmongTheNames_IsNoName) {
@@ -344,6 +408,11 @@ TEST(RsyncOutputReaderTest, LongNames_AreCountedAndTakeNoMoreThanTheirShare) {
         bytes += name.size();
     EXPECT_LE(bytes, RsyncOutputReader::cMostNameBytes);
     EXPECT_GT(bytes, RsyncOutputReader::cMostNameBytes - 31'000);
+    constexpr qsizetype cEach = RsyncOutputReader::cMostNameBytes / 1024;
+    Reading exact(cFactory);
+    for (int i = 0; i < 1025; ++i)
+        exact("1 " + QByteArray(cEach, 'x') + "\n");
+    EXPECT_EQ(exact.names().size(), 1024U) << "to the last byte";
 }
 
 TEST(RsyncOutputReaderTest, FilesNamed_AreToldWhereTheLinesTellThem) {
