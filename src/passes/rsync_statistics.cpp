@@ -16,8 +16,6 @@ std::optional<qint64> rsyncNumber(QStringView text) {
     qsizetype at = 0;
     for (; at < text.size() && (text[at].isDigit() || text[at] == u',' || text[at] == u'.'); ++at)
         digits += text[at];
-    if (digits.isEmpty())
-        return std::nullopt;
     const qsizetype power = at < text.size() ? QStringView(u"KMGTP").indexOf(text[at]) + 1 : 0;
     bool valid = false;
     if (power > 0) {

@@ -249,6 +249,24 @@ TEST(RsyncOutputReaderTest, SizesThatAreNotPrinted_AreNotTakenForNone) {
               1);
 }
 
+TEST(RsyncOutputReaderTest, TimeLeft_IsSaidOnceTotalAndSpeedAreKnown) {
+    Reading read(cFactory, true);
+    const PassProgress begun = read("3 n1.mov\n\r  0   0%    0.00kB/s    0:00:00  ");
+    EXPECT_EQ(begun.bytesKnown, 3);
+    EXPECT_FALSE(begun.secondsLeft) << "no speed yet";
+    EXPECT_FALSE(read("\r  0   0%    0.00kB/s    0:00:00  ").secondsLeft) << "nothing comes";
+    Reading slow(cFactory, true);
+    slow("3 n1.mov\n\r  0   0%    0.00kB/s    0:00:00  ");
+    EXPECT_EQ(slow("\r  1  33%    0.00kB/s    0:00:00  ").secondsLeft, 2) << "a byte a second";
+    Reading back(cFactory);
+    back("\r  6,000,000   7%    0.00kB/s    0:00:00 (xfr#1, to-chk=7/9)\n");
+    const PassProgress less =
+        back("\r  7,000,000  50%    0.00kB/s    0:00:00 (xfr#2, to-chk=6/9)\n");
+    EXPECT_GT(less.bytesPerSecond, 0);
+    EXPECT_FALSE(less.bytesKnown) << "less than was said";
+    EXPECT_FALSE(less.secondsLeft);
+}
+
 TEST(RsyncOutputReaderTest, TotalOfNothingOrAByte_HasNoShareBeyondAll) {
     EXPECT_FALSE(Reading(cFactory)("\r  0  50%    0.00kB/s    0:00:00  ").share);
     EXPECT_EQ(Reading(cFactory)("\r  1 100%    0.00kB/s    0:00:00  ").share, 0.99);

@@ -68,8 +68,21 @@ TEST(RsyncStatisticsTest, EachUnit_IsThePowerOfAThousandThatItSays) {
     EXPECT_EQ(bytesOf("2.34T"), 2'340'000'000'000);
     EXPECT_EQ(bytesOf("2.34P"), 2'340'000'000'000'000);
     EXPECT_EQ(bytesOf("8999P"), 8'999'000'000'000'000'000);
-    EXPECT_EQ(bytesOf("9300P"), std::nullopt) << "more than can be counted";
+    EXPECT_EQ(bytesOf("9000P"), std::nullopt) << "more than is counted";
     EXPECT_EQ(bytesOf("1.2.3K"), std::nullopt);
+    EXPECT_EQ(bytesOf("K"), std::nullopt);
+    EXPECT_EQ(bytesOf("12~"), 12);
+}
+
+TEST(RsyncStatisticsTest, LinesOfATerminal_AreReadWithoutTheirEnds) {
+    EXPECT_EQ(transferOf(u"rsync -v a b", u"folder/\r\n\r\none.mov\r\n").files, 1);
+    EXPECT_EQ(transferOf({}, u"\nNumber of files transferred: 3\n").files, 3);
+}
+
+TEST(RsyncStatisticsTest, FigureAtTheEnd_IsReadNoFarther) {
+    const QStringView longer = u"Number of files transferred: 12K34";
+    EXPECT_EQ(transferOf({}, longer.chopped(4)).files, 1);
+    EXPECT_EQ(transferOf({}, longer.chopped(3)).files, 12);
 }
 
 TEST(RsyncStatisticsTest, WithoutStatistics_NamesAreCounted) {
