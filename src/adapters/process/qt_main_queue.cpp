@@ -46,14 +46,20 @@ void QtMainQueue::asyncAfter(double seconds, Work work) {
     if (!work)
         return;
     const auto delay = duration(seconds);
-    const std::lock_guard lock(fMutex);
+    std::unique_lock lock(fMutex);
     if (fStopped)
         return;
     const auto deadline = Clock::now() + delay;
     fHeap.push_back({deadline, fPosted++, std::move(work)});
     std::ranges::push_heap(fHeap, isLater);
-    if (deadline < fWakeUp)
-        wakeAt(deadline);
+    if (deadline >= fWakeUp)
+        return;
+    fWakeUp = deadline;
+    // Who is woken at once wants the lock. Too early a wake-up, should another have come between,
+    // is set right by the round that it begins.
+    if (delay == 0ns)
+        lock.unlock();
+    setTimer(deadline);
 }
 
 void QtMainQueue::stop() {
@@ -96,6 +102,10 @@ Work QtMainQueue::takeDue() {
 
 void QtMainQueue::wakeAt(Clock::time_point moment) {
     fWakeUp = moment;
+    setTimer(moment);
+}
+
+void QtMainQueue::setTimer(Clock::time_point moment) {
     itimerspec setting{};
     if (moment != Clock::time_point::max()) {
         const auto sinceStart = moment.time_since_epoch();

@@ -43,6 +43,7 @@ private:
     void drain();
     Work takeDue();
     void wakeAt(Clock::time_point moment);
+    void setTimer(Clock::time_point moment);
 
     const int fTimer;
     std::unique_ptr<QSocketNotifier> fNotifier;
