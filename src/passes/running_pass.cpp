@@ -111,25 +111,25 @@ bool RunningPass::show(PassStep step, const QString& command) {
 CommandResult RunningPass::run(PassStep step, const Command& command) {
     if (!isPull(step) || !command.text.contains(cPartialOption))
         return runOnce(step, command);
-    Command ours = command;
     if (fPasses.fWholePull.last() == command.text) {
         bool large = false;
-        ours.variables[cPartialVariable] = "";
-        ours.received = [&](QByteArrayView bytes) {
+        Command without = command;
+        without.variables[cPartialVariable] = "";
+        without.received = [&](QByteArrayView bytes) {
             large = large || endAtLargeFile();
             if (command.received)
                 command.received(bytes);
         };
-        CommandResult result = runOnce(step, ours);
+        CommandResult result = runOnce(step, without);
         if (!large || result.exitStatus || isCancelled())
             return result;
         fRecord.commands.pop_back();
     }
     // Should this run never end, nobody knows what it has left.
     remember({});
-    ours.variables[cPartialVariable] = cPartialWord.toLatin1();
-    ours.received = command.received;
-    return runOnce(step, ours);
+    Command with = command;
+    with.variables[cPartialVariable] = cPartialWord.toLatin1();
+    return runOnce(step, with);
 }
 
 /// An equal text would be written to the disk again.

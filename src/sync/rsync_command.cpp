@@ -29,10 +29,9 @@ qsizetype pathOf(QStringView place) {
     return colon >= 0 && (slash < 0 || colon < slash) ? colon + 1 : 0;
 }
 
-/// Empty for a place on this machine.
+/// With its colon; empty for a place on this machine.
 QStringView hostOf(QStringView place) {
-    const qsizetype path = pathOf(place);
-    const QStringView account = path > 0 ? place.first(path - 1) : QStringView();
+    const QStringView account = place.first(pathOf(place));
     return account.sliced(account.lastIndexOf(u'@') + 1);
 }
 

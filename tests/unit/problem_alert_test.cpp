@@ -23,14 +23,16 @@ protected:
     }
 
     std::function<void(ModalResponse)> answer;
-    QStringList events; ///< in the order in which they came
+    QStringList events;           ///< in the order in which they came
+    std::optional<bool> centered; ///< the last text
     VirtualMainQueue mainQueue;
     RecordingConsole console;
     FakeButton button;
     CycleView view{
         .updateStatusMessage =
-            [this](std::optional<QString> mesg, StatusColor, bool) {
-                events.append(mesg ? QString(u"show " + *mesg) : QStringLiteral("clear"));
+            [this](std::optional<QString> mesg, StatusColor, bool docenter) {
+                events.append(mesg ? QString(u"show " + mesg->first(4)) : QStringLiteral("clear"));
+                centered = docenter;
             },
         .showProblemWithBonjourClosure =
             [this](const QString&, const QString&, std::function<void(ModalResponse)> completion) {
@@ -49,6 +51,7 @@ TEST_F(ProblemAlertTest, Raised_ClicksThenClearsThenAsks) {
     mainQueue.advance(0.001);
     EXPECT_EQ(events, (QStringList{QStringLiteral("click"), QStringLiteral("clear")}))
         << "a click may show a text of its own";
+    EXPECT_EQ(centered, true);
     mainQueue.advance(0.089);
     EXPECT_EQ(events.size(), 2);
     mainQueue.advance(0.001);
@@ -61,8 +64,11 @@ TEST_F(ProblemAlertTest, Stop_SwitchesOffWhatWasSwitchedOnMeanwhile) {
     ASSERT_EQ(button.state(), 0);
     switchedByAPerson();
     ASSERT_EQ(button.state(), 1);
+    events.clear();
     answer(cAlertSecondButtonReturn);
     EXPECT_EQ(button.state(), 0);
+    EXPECT_EQ(events, (QStringList{QStringLiteral("click"), QStringLiteral("show oops")}))
+        << "what the click shows does not stay";
 }
 
 TEST_F(ProblemAlertTest, AnswerToASecondAlert_IsAPersons) {

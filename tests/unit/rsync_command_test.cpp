@@ -132,6 +132,7 @@ TEST_F(RsyncCommandTest, PatternsInAPathOnAHost_AreKeptFromTheShellThere) {
     EXPECT_EQ(source("u@h:Films [1]*?"), u"'u@h:Films \\[1\\]\\*\\?/'");
     EXPECT_EQ(source("/here/Films [1]*?"), u"'/here/Films [1]*?/'");
     EXPECT_EQ(source("/here:Films*"), u"'/here:Films*/'");
+    EXPECT_EQ(source(":Films*"), u"':Films\\*/'");
 }
 
 // -- what is refused
@@ -154,6 +155,8 @@ TEST_F(RsyncCommandTest, TextsThatLeadElsewhere_AreRefused) {
     EXPECT_EQ(faultOf("a\nb", "/d"), u"the source holds a line break");
     EXPECT_EQ(faultOf("u@-oProxyCommand=x:p", "/d"), u"the host of the source begins with \"-\"");
     EXPECT_EQ(faultOf("u@-:p", "/d"), u"the host of the source begins with \"-\"");
+    EXPECT_EQ(faultOf("u@-h:@p", "/d"), u"the host of the source begins with \"-\"");
+    EXPECT_EQ(faultOf("/u@-h:p", "/d"), u"") << "a folder";
     EXPECT_EQ(faultOf("-oProxyCommand=x:p", "/d"), u"the source begins with \"-\"");
     EXPECT_EQ(faultOf("u@h::m", "/d"), u"the source would be read as a module of an rsync daemon");
     EXPECT_EQ(faultOf("::m", "/d"), u"the source would be read as a module of an rsync daemon");

@@ -1,5 +1,6 @@
 #include "engine/engine.h"
 #include "fakes/view_controller_world.h"
+#include "passes/captured_text.h"
 #include "passes/running_pass.h"
 #include "support/partial_option.h"
 
@@ -41,7 +42,7 @@ public:
             return {QStringLiteral("so far\n"), {}, 124};
         }
         fClock += 2.5;
-        if (fCancelled)
+        if (fCancelled && !hasEnded)
             return {QStringLiteral("cut"), {}, {}};
         for (const auto& [part, result] : results) {
             if (command.text.contains(part))
@@ -49,7 +50,10 @@ public:
         }
         return {{}, {}, 0};
     }
-    void cancel(CommandId) override { fCancelled = true; }
+    void cancel(CommandId) override {
+        fCancelled = true;
+        ++cancels;
+    }
     std::optional<FileBeingWritten> fileBeingWritten(CommandId) const override {
         ++looks;
         return writing;
@@ -60,7 +64,9 @@ public:
     std::vector<const char*> pieces; ///< printed one by one
     std::optional<FileBeingWritten> writing;
     mutable int looks = 0;
-    QString endless; ///< this command never ends by itself
+    QString endless;       ///< this command never ends by itself
+    bool hasEnded = false; ///< a wish to end it comes too late
+    int cancels = 0;
 
     std::map<QString, CommandResult> results;
     std::vector<std::map<QByteArray, QByteArray>> variables; ///< of each command
@@ -143,6 +149,17 @@ TEST_F(RunningPassTest, WishThatComesBeforeTheCommandHasStarted_EndsItToo) {
     EXPECT_EQ(run(pass, "pull").output, QStringLiteral("cut"));
 }
 
+TEST_F(RunningPassTest, WishBetweenTwoCommands_DoesNotReachTheFirst) {
+    RunningPass pass(passes, PassKind::Plain);
+    run(pass, "first");
+    commands.beforeItStarts = [this] {
+        passes.cancel();
+        EXPECT_EQ(commands.cancels, 0) << "its number may be another's by now";
+    };
+    EXPECT_EQ(run(pass, "second").output, QStringLiteral("cut"));
+    EXPECT_EQ(commands.cancels, 1);
+}
+
 TEST_F(RunningPassTest, WhoeverRanTheCommand_HearsOfItsStart) {
     RunningPass pass(passes, PassKind::Plain);
     std::vector<CommandId> started;
@@ -176,6 +193,13 @@ TEST_F(RunningPassTest, FilesThatNoCommandTold_AreCountedAsTheyArrived) {
     }
     EXPECT_EQ(records.back().transfer.files, 1) << "alone";
     EXPECT_EQ(records.back().transfer.bytes, 9);
+    {
+        RunningPass pass(passes, PassKind::Plain);
+        run(pass, "silent");
+        pass.brought({{"/in/empty.mov", 0, noon}});
+    }
+    EXPECT_EQ(records.back().transfer.files, 1);
+    EXPECT_EQ(records.back().transfer.bytes, 0);
 }
 
 TEST_F(RunningPassTest, PassWithoutACommand_LacksItsSettings) {
@@ -279,6 +303,10 @@ TEST_F(RunningPassTest, SamePullOnceMore_KnowsThatTheRestIsHere) {
     EXPECT_FALSE(seen[0].bytesKnown);
     EXPECT_EQ(seen[1].bytesKnown, 100);
     EXPECT_EQ(seen[1].share, 0.5);
+    commands.results[QStringLiteral("-r")] = {QStringLiteral("cut"), {}, 30};
+    run(pass, "rsync -r --info=progress2 --out-format='%l %n'");
+    run(pass, "rsync -r --info=progress2 --out-format='%l %n'");
+    EXPECT_FALSE(seen.at(3).bytesKnown) << "the first has not brought all";
 }
 
 TEST_F(RunningPassTest, PullThatSaysNothing_IsSeenByTheFileItWrites) {
@@ -294,10 +322,11 @@ TEST_F(RunningPassTest, PullThatSaysNothing_IsSeenByTheFileItWrites) {
         look(FileBeingWritten{"one.mov", 3000}, 1);
         look(FileBeingWritten{"two\x1b.mov", 500}, 1);
         look(std::nullopt, 1);
+        look(FileBeingWritten{"three.mov", 0}, 1);
     };
     RunningPass pass(passes, PassKind::Remote);
     run(pass, "rsync", PassStep::Movies);
-    ASSERT_EQ(seen.size(), 5U);
+    ASSERT_EQ(seen.size(), 6U);
     EXPECT_EQ(seen[0].step, PassStep::Movies);
     EXPECT_EQ(seen[0].file, QStringLiteral("one.mov"));
     EXPECT_EQ(seen[0].bytesDone, 1000);
@@ -309,7 +338,12 @@ TEST_F(RunningPassTest, PullThatSaysNothing_IsSeenByTheFileItWrites) {
     EXPECT_EQ(seen[3].bytesDone, 3500);
     EXPECT_EQ(seen[4].filesDone, 2);
     EXPECT_FALSE(seen[4].share);
-    EXPECT_EQ(commands.looks, 4);
+    EXPECT_EQ(seen[5].bytesDone, 3500);
+    EXPECT_EQ(commands.looks, 5);
+    commands.whileRunning = [&] { look(std::nullopt, 1); };
+    run(pass, "rsync of the next step", PassStep::Pull);
+    EXPECT_EQ(seen[6].filesDone, std::nullopt);
+    EXPECT_EQ(seen[6].bytesDone, std::nullopt);
 }
 
 TEST_F(RunningPassTest, ProgressOfAPull_IsNotKept) {
@@ -361,6 +395,15 @@ TEST_F(RunningPassTest, BytesThatTheRunnerLeftOut_CountAmongThoseThatAreNotKept)
     const CapturedText& text = records.at(0).commands.at(0).text;
     EXPECT_EQ(text.leftOut, 5'000'000 + 200'010 - text.head.size() - text.tail.size());
     EXPECT_TRUE(text.tail.endsWith(u"the cause\n"));
+    for (const qsizetype beyond : {0, 1}) {
+        const QString text = QString(2 * cKeptText + beyond, u'x');
+        commands.results[QStringLiteral("x")] = {text, {}, 0, 7};
+        {
+            RunningPass pass(passes, PassKind::Plain);
+            run(pass, "x");
+        }
+        EXPECT_EQ(records.back().commands.at(0).text.leftOut, beyond > 0 ? 7 + 1 : 0);
+    }
 }
 
 TEST_F(RunningPassTest, CheckWhoseTimeWasUp_IsWrittenDownAsAHostThatIsAway) {
@@ -447,6 +490,30 @@ TEST_F(HalfFilesTest, WholePull_IsForgottenWhileTheFolderIsInUse) {
         << "who is killed in the second run has left a half";
     EXPECT_EQ(wholePull, cWithFolder);
     EXPECT_EQ(keepings, 2);
+}
+
+TEST_F(HalfFilesTest, WholePullOfAnotherCommand_IsForgottenBeforeTheFolderIsUsed) {
+    wholePull = QStringLiteral("another");
+    QStringList known;
+    commands.whileRunning = [&] { known.append(wholePull); };
+    pull();
+    EXPECT_EQ(known, (QStringList{{}, cWithFolder}));
+}
+
+TEST_F(HalfFilesTest, PullThatWasEndedByOthers_IsNotRunAgain) {
+    wholePull = cWithFolder;
+    commands.results[cWithFolder] = {QStringLiteral("killed"), {}, {}};
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"}));
+}
+
+TEST_F(HalfFilesTest, LargeFileThatCameBeforeTheEnd_IsNotPulledAgain) {
+    wholePull = cWithFolder;
+    commands.pieces = {"33554432 large.mov\n"};
+    commands.hasEnded = true;
+    pull();
+    EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"}));
+    EXPECT_EQ(commands.cancels, 1);
 }
 
 TEST_F(HalfFilesTest, OtherPull_SaysNothingOfThisOne) {

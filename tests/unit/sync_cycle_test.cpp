@@ -437,6 +437,18 @@ TEST_F(RemotePassTest, CancelledBetweenItsPulls_SaysNothingOfTheOther) {
     EXPECT_EQ(console.printed().filter(QStringLiteral("result from movie")), QStringList());
 }
 
+TEST_F(RemotePassTest, CancelledBetweenItsPulls_LooksForNothingThatTheOtherMayHaveBrought) {
+    files.found.push_back({"/Incoming/others.mov", 7, QDateTime(QDate(2999, 1, 1), QTime())});
+    shell.answerTo(QStringLiteral("pull"), [this](const QString&) {
+        cycle.cancelPass();
+        return QStringLiteral("Number of regular files transferred: 0\n");
+    });
+    button.performClick();
+    runBodies();
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_TRUE(records[0].arrivals.empty());
+}
+
 TEST_F(RemotePassTest, StatusLines_TellTryingThenResting) {
     button.performClick();
     EXPECT_EQ(lastStatus(),
