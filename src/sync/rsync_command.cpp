@@ -77,7 +77,7 @@ std::optional<QString> filledCommand(const QString& command, const RsyncParams& 
     if (const auto& key = params.sshfilepath) {
         const auto sshPart = withWord(cSshPart.toString(), cKeyFile, *key);
         if (!sshPart)
-            return {};
+            return sshPart;
         later.push_back({cKeyFile, *key});
         later.push_back({cSsh, *sshPart, *key});
     } else {
