@@ -93,8 +93,7 @@ QString commandFault(const QString& command, const RsyncParams& params) {
         return u"the source " + fault;
     if (hostOf(source).startsWith(u'-'))
         return QStringLiteral("the host of the source begins with \"-\"");
-    const qsizetype path = pathOf(source);
-    if (params.sshfilepath && path > 0 && source.sliced(path).startsWith(u':'))
+    if (params.sshfilepath && source.sliced(pathOf(source)).startsWith(u':'))
         return QStringLiteral("the source would be read as a module of an rsync daemon");
     if (const QString fault = wordFault(destination); !fault.isEmpty())
         return u"the destination " + fault;
