@@ -72,6 +72,40 @@ TEST_F(SyncCycleTest, UnknownSettings_PassThatRestsWaitsForThem) {
     EXPECT_EQ(bgQueue.size(), 1U);
 }
 
+TEST_F(SyncCycleTest, UnknownSettings_PassThatBeganMeanwhileEndsTheWait) {
+    defaults.setKnown(false);
+    button.performClick();
+    defaults.setKnown(true);
+    cycle.doSyncOnce();
+    ASSERT_EQ(bgQueue.size(), 1U);
+    console.clear();
+    mainQueue.advance(10.0);
+    EXPECT_EQ(console.logged(), QStringList());
+}
+
+TEST_F(SyncCycleTest, UnknownSettings_PlainPassThatRestsWaitsForThemToo) {
+    defaults.setObject(prefRsyncWithSSH, false);
+    button.performClick();
+    runBodies();
+    defaults.setKnown(false);
+    mainQueue.advance(31.0);
+    EXPECT_EQ(bgQueue.size(), 0U);
+    defaults.setKnown(true);
+    mainQueue.advance(3.0);
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
+TEST_F(SyncCycleTest, SyncNow_StartsNothingWhereNoPassIsPlanned) {
+    cycle.syncNow();
+    EXPECT_TRUE(console.logged().isEmpty()) << "switched off";
+    button.performClick();
+    ASSERT_EQ(bgQueue.size(), 1U);
+    console.clear();
+    cycle.syncNow();
+    EXPECT_TRUE(console.logged().isEmpty()) << "one runs";
+    EXPECT_EQ(bgQueue.size(), 1U);
+}
+
 TEST_F(SyncCycleTest, UnknownSettings_SwitchedOffMeanwhileStartsNothing) {
     defaults.setKnown(false);
     button.performClick();
