@@ -103,14 +103,15 @@ void RsyncOutputReader::named(const NamedFile& file) {
 void RsyncOutputReader::moved(const ProgressLine& line, double now) {
     fTold = true;
     fPercentOfFile = line.fileEnd ? 0 : std::min(line.percent, 100);
+    const bool isAnother = !line.fileEnd || !fEnd || line.fileEnd->transferred > fEnd->transferred;
     if (fOverall) {
         boundTotal(line);
         fBytes = std::max(fBytes, line.bytes);
-    } else {
+    } else if (isAnother) {
         constexpr qint64 cMost = std::numeric_limits<qint64>::max() / 2;
         const qint64 bytes = std::min(fBytesOfEnded, cMost) + std::min(line.bytes, cMost);
         fBytes = std::max(fBytes, bytes);
-        if (line.fileEnd && (!fEnd || line.fileEnd->transferred > fEnd->transferred))
+        if (line.fileEnd)
             fBytesOfEnded = bytes;
     }
     if (line.fileEnd && (!fEnd || line.fileEnd->transferred >= fEnd->transferred))

@@ -66,6 +66,19 @@ TEST_F(RepeatingTimerTest, SuspendedAndResumedWithinAnInterval_CountsFromTheResu
     EXPECT_EQ(ticks, 1);
 }
 
+TEST_F(RepeatingTimerTest, SuspendedAndResumedByItsOwnTick_TicksOncePerInterval) {
+    RepeatingTimer* self = nullptr;
+    RepeatingTimer own(mainQueue, 1.0, [&] {
+        ++ticks;
+        self->suspend();
+        self->resume();
+    });
+    self = &own;
+    own.resume();
+    mainQueue.advance(4);
+    EXPECT_EQ(ticks, 4);
+}
+
 TEST_F(RepeatingTimerTest, DestroyedWhileRunning_NeverTicksAgain) {
     timer->resume();
     mainQueue.advance(1);

@@ -225,15 +225,16 @@ TEST_F(RsyncCommandTest, TemplateWithoutPlaceholders_ComesBackUnchanged) {
 
 using RsyncCommandDeathTest = RsyncCommandTest;
 
-/// Keeps what it is told until it is flushed to standard error.
+/// Keeps what it is told until it is flushed to standard error, which takes time.
 class SlowConsole final : public Console {
 public:
     using Console::print;
     void print(const QStringList&) override {}
     void log(const QString& text) override { fWaiting += text.toStdString() + '\n'; }
-    bool flush(std::chrono::milliseconds) override {
-        std::fputs(fWaiting.c_str(), stderr);
-        return true;
+    bool flush(std::chrono::milliseconds time) override {
+        if (time.count() > 0)
+            std::fputs(fWaiting.c_str(), stderr);
+        return time.count() > 0;
     }
 
 private:

@@ -295,6 +295,10 @@ TEST(RsyncOutputReaderTest, TotalThatContradictsWhatWasKnown_TakesItsPlace) {
     const PassProgress later =
         read("9000000 f2.mov\n\r      2,000,000  10%    0.00kB/s    0:00:00 (xfr#2, to-chk=6/9)\n");
     EXPECT_NEAR(static_cast<double>(later.bytesKnown.value_or(0)), 19e6, 1e6);
+    EXPECT_EQ(Reading(cFactory)("\r  1,000,000  50%    0.00kB/s    0:00:00 (xfr#1, to-chk=7/9)"
+                                "\r  2,000,000  10%    0.00kB/s    0:00:00 (xfr#2, to-chk=6/9)\n")
+                  .share,
+              0.1);
 }
 
 TEST(RsyncOutputReaderTest, TotalThatTwoLinesMeetIn_IsExact) {
@@ -370,7 +374,10 @@ TEST(RsyncOutputReaderTest, SizesBeyondAllThatCanBeCounted_AreAsManyAsCanBe) {
 TEST(RsyncOutputReaderTest, FoldersBehindTheLastFile_AreChecked) {
     Reading read(QStringLiteral("/usr/bin/rsync -r -P a/ b/"));
     read("\r      3,000,000 100%    5.66MB/s    0:00:00 (xfr#1, to-chk=2/4)\n");
-    EXPECT_EQ(read("\r      3,000,000 100%    5.66MB/s    0:00:00 (xfr#1, to-chk=0/4)\n").share, 1);
+    const PassProgress end =
+        read("\r      3,000,000 100%    5.66MB/s    0:00:00 (xfr#1, to-chk=0/4)\n");
+    EXPECT_EQ(end.share, 1);
+    EXPECT_EQ(end.bytesDone, 3'000'000) << "the same file once more";
 }
 
 TEST(RsyncOutputReaderTest, TalkAmongTheNames_IsNoName) {

@@ -67,6 +67,9 @@ TEST_F(SyncCycleTest, UnknownSettings_PassThatRestsWaitsForThem) {
     defaults.setKnown(false);
     mainQueue.advance(31.0);
     EXPECT_EQ(bgQueue.size(), 0U);
+    EXPECT_TRUE(told.waits);
+    EXPECT_FALSE(told.nextPass) << "nobody knows when";
+    EXPECT_FALSE(cycle.state().nextPass);
     defaults.setKnown(true);
     mainQueue.advance(3.0);
     EXPECT_EQ(bgQueue.size(), 1U);
