@@ -1,4 +1,5 @@
 #include "adapters/process/signal_pipe.h"
+#include "support/fatal.h"
 #include "support/sanitized.h"
 
 #include <QCoreApplication>
@@ -169,7 +170,7 @@ TEST_F(SignalPipeTest, FaultOfTheProgram_StillEndsIt) {
     const auto fault = [] {
         SignalPipe signals;
         const auto caught = signals.catchSignal(SIGILL, [] {});
-        __builtin_trap();
+        stopProgram();
     };
     EXPECT_EXIT(fault(), testing::KilledBySignal(SIGILL), "");
 }
