@@ -52,8 +52,6 @@ void CommandExample::followTemplate() {
 /// Without a tag, or with one that does not exist, the example stays as it is: the action is what
 /// says so.
 void CommandExample::update() {
-    if (!fDefaults.stringForKey(prefRsyncCommandOptionTag))
-        return;
     if (const auto example =
             exampleOf(storedTemplate(), fDefaults.integerForKey(prefRsyncCommandOptionTag)))
         fDefaults.setObject(prefRsyncCommandStringExample, *example);

@@ -233,6 +233,13 @@ TEST_F(LanguageTest, TextsFromBelow_AreTranslatedWhereTheyAreShown) {
     }
 }
 
+TEST_F(LanguageTest, TextThatIsShorterThanItsPattern_IsShownAsItIs) {
+    const QString text =
+        QStringLiteral("Please make sure remote host is on this network\nor\nPlease "
+                       "check username...\n\n");
+    EXPECT_EQ(Words::shown(text), text);
+}
+
 TEST_F(LanguageTest, WhatIsPrintedLoggedAndStored_StaysEnglish) {
     const auto lines = [](bool translated) {
         const std::unique_ptr<Language> german =
@@ -370,6 +377,31 @@ TEST_F(LanguageTest, Speak_TurnsTheWindowTheWayTheLanguageIsWritten) {
     const Language arabic(text("ar"));
     ASSERT_TRUE(arabic.isLoaded);
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+}
+
+/// The variables that say how to speak, for this process and those it starts.
+void speakAs(const QByteArray& language) {
+    qunsetenv("LC_ALL");
+    qunsetenv("LC_MESSAGES");
+    qunsetenv("LC_NUMERIC");
+    qputenv("LANG", language);
+}
+
+TEST_F(LanguageTest, Numbers_AreThoseThatTheEnvironmentAsksFor) {
+    const QByteArray before = qgetenv("LANG");
+    const auto numbersAfter = [](const QLocale& first) {
+        QLocale::setDefault(first);
+        speakTheirLanguage(*qApp);
+        std::fputs(qPrintable(QLocale().toString(1234.5, 'f', 1)), stderr);
+        std::_Exit(0);
+    };
+    // Each in a process of its own: the environment is read once.
+    speakAs("de_DE.UTF-8");
+    EXPECT_EXIT(numbersAfter(QLocale::c()), ::testing::ExitedWithCode(0), "^1\\.234,5$");
+    speakAs("C.UTF-8");
+    EXPECT_EXIT(numbersAfter(QLocale(QLocale::Swedish)), ::testing::ExitedWithCode(0), "^1.234,5$")
+        << "nobody asked for anything";
+    speakAs(before);
 }
 
 TEST_F(LanguageTest, NumbersAndSizes_FollowTheLocale) {

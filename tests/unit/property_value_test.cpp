@@ -22,6 +22,8 @@ TEST(PropertyValueTest, Bool_FromBoolNumberAndText) {
 TEST(PropertyValueTest, Integer_FromNumberAndText) {
     EXPECT_EQ(integerValue(QVariant(101)), 101);
     EXPECT_EQ(integerValue(QVariant(true)), 1);
+    EXPECT_EQ(integerValue(QVariant(qint64{9'007'199'254'740'993})), 9'007'199'254'740'993)
+        << "more than a double can hold exactly";
     EXPECT_EQ(integerValue(QVariant(2.9)), 2);
     EXPECT_EQ(integerValue(QVariant(-2.9)), -2);
     EXPECT_EQ(integerValue(QVariant(" 102 ")), 102);

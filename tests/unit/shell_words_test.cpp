@@ -90,7 +90,9 @@ TEST(ShellWordsTest, PlaceThatIsNotUnderstood_TakesOrdinaryTextsOnly) {
                                 "sh -c \"x '%@1'\"",
                                 "sh -c 'x %@1'",
                                 "sh -c \"x %@1\"",
-                                "-e 'ssh -i \"%@1\"'"}) {
+                                "-e 'ssh -i \"%@1\"'",
+                                "-e \"ssh -o 'X=y' -i %@1\"",
+                                "-e 'ssh -o \"X=y\" -i %@1'"}) {
         EXPECT_EQ(filled(command), std::nullopt) << command;
         EXPECT_EQ(filled(command, QStringLiteral("~/x")), std::nullopt) << command;
         const QString ordinary = QStringLiteral("u@h:/Films_1.5-a~b+c,d=50%é🎬");
