@@ -154,8 +154,8 @@ void SshKeyProvisioning::createNewPrivatePublicKeysOLD(const PairGuard& guard) {
         return;
     logEntry(u"createNewPrivatePublicKeysOLD(_:)");
     task->inBackground(
-        [this, guard](RemoteTask& running) {
-            const Script script = replaceByScript(running, guard);
+        [this, guard](RemoteTask&) {
+            const Script script = replaceByScript(guard);
             if (script.path.isEmpty())
                 return;
             fParts.mainQueue.async([this, guard, script] {
@@ -170,15 +170,12 @@ void SshKeyProvisioning::createNewPrivatePublicKeysOLD(const PairGuard& guard) {
         [] {});
 }
 
-SshKeyProvisioning::Script SshKeyProvisioning::replaceByScript(RemoteTask& task,
-                                                               const PairGuard& guard) {
+SshKeyProvisioning::Script SshKeyProvisioning::replaceByScript(const PairGuard& guard) {
     const KeyPair pair = keyPair();
     if (pair.publicKey.isEmpty())
         return {};
-    if (guard.before && !guard.before()) {
-        task.giveUp();
+    if (guard.before && !guard.before())
         return {};
-    }
     removeBoth(pair);
     tellOfChange();
     const QString command =

@@ -84,7 +84,7 @@ private:
     bool createNewPrivatePublicKeysConditionally(RemoteTask& task, const PairGuard& guard);
     void createNewPrivatePublicKeys(RemoteTask& task, const PairGuard& guard);
     Script copyPublicKeyToRemoteHost(RemoteTask& task);
-    Script replaceByScript(RemoteTask& task, const PairGuard& guard);
+    Script replaceByScript(const PairGuard& guard);
     void removeBoth(const KeyPair& pair);
     void tellOfChange() const;
 

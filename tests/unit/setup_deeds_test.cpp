@@ -470,10 +470,13 @@ TEST_F(SetupDeedsTest, SshThatCannotBeTold_IsAFailureWithoutAServiceToo) {
 
 TEST_F(SetupDeedsTest, SshThatNobodySpokeOf_StaysAsItIs) {
     letsIn();
-    ssh.standing = SshConfiguration::Knows::ByTheLine;
-    begin();
-    EXPECT_EQ(ssh.standing, SshConfiguration::Knows::ByTheLine);
-    EXPECT_FALSE(dialogue.everything().contains(u"/.ssh/config"));
+    using Knows = SshConfiguration::Knows;
+    for (const Knows standing : {Knows::ByTheLine, Knows::NotYet}) {
+        ssh.standing = standing;
+        begin();
+        EXPECT_EQ(ssh.standing, standing);
+        EXPECT_FALSE(dialogue.everything().contains(u"/.ssh/config"));
+    }
 }
 
 TEST_F(SetupDeedsTest, SshThatTheMachineTells_NeedsNoLine) {
