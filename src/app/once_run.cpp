@@ -19,8 +19,7 @@
 namespace kelvo {
 namespace {
 
-constexpr double cProgressPace = 0.5;          // seconds
-constexpr double cUntilTheCommandRuns = 0.005; // seconds, on a machine at rest
+constexpr double cProgressPace = 0.5; // seconds
 
 /// The parts of one pass, each after those it works with.
 class OncePass {
@@ -28,6 +27,8 @@ public:
     explicit OncePass(const Profile& profile)
         : fMachine(-1, -1, DamagedFile::IsLeftAlone, profile) {
         fMachine.commands.adoptWhatIsLeft();
+        // While the command runs; before, it would be in the way of its start.
+        fMachine.commands.whenTheFirstRuns([this] { fMachine.passes.getReady(); });
         registerFactoryDefaults(fMachine.bundle, fMachine.defaults, fMachine.console);
         TemplateSetting(fSettings).takeOver();
         fSettings.setObject(prefEnableScanning, true);
@@ -50,8 +51,6 @@ public:
         // A tag that does not exist would end the program.
         if (!optionStringForTag(fSettings.integerForKey(prefRsyncCommandOptionTag)))
             return withoutPass(PassCause::SettingsMissing);
-        // While the command runs; before, it would be in the way of its start.
-        fMachine.mainQueue.asyncAfter(cUntilTheCommandRuns, [this] { fMachine.passes.getReady(); });
         fEngine.samplePath.updateSampleString();
         fMachine.mainQueue.async([this] {
             if (fSettings.boolForKey(prefRsyncWithSSH))

@@ -124,8 +124,9 @@ TEST_F(AvahiSessionTest, Daemon_IsInstalledWhereItsProgramLies) {
         {"/usr/sbin/avahi-daemon", DiscoveryState::NotRunning},
         {"/usr/local/sbin/avahi-daemon", DiscoveryState::NotRunning},
         {"/usr/sbin/another", DiscoveryState::NotInstalled}};
-    for (const auto& [program, expected] : cases) {
-        if (!withPrivateMounts([] { return 0; }, [&] { EXPECT_EQ(stateWith(program), expected); }))
+    for (const auto& each : cases) {
+        if (!withPrivateMounts([] { return 0; },
+                               [&] { EXPECT_EQ(stateWith(each.first), each.second); }))
             return;
     }
 }

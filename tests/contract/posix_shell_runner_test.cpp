@@ -79,6 +79,13 @@ private:
     const std::string fPath = std::string(::getenv("TMPDIR")) + "/meeting"; // NOLINT
 };
 
+/// Of what other tests of this process have left. An emulator tells nobody of a program that could
+/// not be started, so that nobody reaps what was to be it.
+void reapStrangers() {
+    while (::waitpid(-1, nullptr, WNOHANG) > 0) {
+    }
+}
+
 /// Whether `pid` runs, or could: a process that waits to be reaped does not.
 bool lives(pid_t pid) {
     QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
@@ -309,6 +316,7 @@ TEST_F(PosixShellRunnerTest, NoDescriptorsLeft_GivesTheEmptyTextAndALine) {
 
 TEST_F(PosixShellRunnerTest, ManyRuns_LeaveNoDescriptorAndNoChildBehind) {
     const auto open = [] { return QDir(QStringLiteral("/proc/self/fd")).entryList().size(); };
+    reapStrangers();
     run(QStringLiteral("true"));
     const auto before = open();
     for (int i = 0; i < 20; ++i)
@@ -393,6 +401,7 @@ TEST_F(PosixShellRunnerTest, Shell_GoesByItsUsualName) {
 constexpr double cShortly = 0.3;
 
 TEST_F(PosixShellRunnerTest, BoundReached_EndsGrandchildrenAndSaysSoOnce) {
+    reapStrangers();
     const CommandResult result = resultWithin(
         cShortly, QStringLiteral("set -m; sleep 600 & echo held by $!; echo wrong >&2; sleep 601"));
     EXPECT_EQ(result.exitStatus, 124);
@@ -583,6 +592,19 @@ TEST_F(PosixShellRunnerTest, Started_TellsTheShellsOwnNumber) {
     (void)fRunner.run(
         {.text = QString(200000, u'x'), .started = [&told](CommandId) { told = true; }});
     EXPECT_FALSE(told) << "it could not be started";
+}
+
+TEST_F(PosixShellRunnerTest, FirstCommandThatHasStarted_IsToldOnceWhileItRuns) {
+    int told = 0;
+    Meeting meeting;
+    fRunner.whenTheFirstRuns([&] {
+        if (++told == 1)
+            meeting.wait(); // It is there, and waits.
+    });
+    EXPECT_EQ(fRunner.run({.text = QString(meeting.announce() + u"echo done")}).output, u"done\n");
+    EXPECT_EQ(told, 1);
+    (void)fRunner.run({.text = QStringLiteral(":")});
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(PosixShellRunnerTest, Input_ArrivesByteForByte) {

@@ -93,6 +93,7 @@ CommandResult PosixShellRunner::run(const Command& command) {
     const UniqueFd cancelled(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
     ShellChild child;
     int failure = 0;
+    bool isFirst = false;
     {
         const std::lock_guard lock(fMutex);
         if (fEnding)
@@ -101,7 +102,7 @@ CommandResult PosixShellRunner::run(const Command& command) {
         if (failure == 0) {
             fSessions.push_back({child.pid, child.pipes, cancelled.get()});
             fTable.add(child);
-            fStarted = true;
+            isFirst = !std::exchange(fStarted, true);
             ++fCallers;
         }
     }
@@ -111,6 +112,8 @@ CommandResult PosixShellRunner::run(const Command& command) {
     }
 
     const auto began = Clock::now();
+    if (isFirst && fFirstRuns)
+        fFirstRuns();
     if (command.started)
         command.started(child.pid);
     CommandCapture capture(command, child, fGiveUp.get(), cancelled.get());

@@ -9,9 +9,11 @@
 
 #include <array>
 #include <condition_variable>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kelvo {
@@ -49,6 +51,10 @@ public:
     /// that ends soon and starts nothing else: what it is given is reaped at the end alone.
     void adoptWhatIsLeft();
 
+    /// `runs` is called once, as soon as a first command has started, on the thread that runs it.
+    /// Before any does.
+    void whenTheFirstRuns(std::function<void()> runs) { fFirstRuns = std::move(runs); }
+
     /// The descriptor of a CommandTable with the commands that run, for as long as the runner
     /// lives.
     int runningCommands() const { return fTable.descriptor(); }
@@ -69,6 +75,7 @@ private:
 
     Console& fConsole;
     const std::vector<std::string> fEnvironment;
+    std::function<void()> fFirstRuns;
     UniqueFd fGiveUp;
     std::mutex fEndMutex;
     std::mutex fMutex;
