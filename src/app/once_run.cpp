@@ -20,6 +20,8 @@ namespace kelvo {
 namespace {
 
 constexpr double cProgressPace = 0.5; // seconds
+/// The shell's and rsync's own start, which take both processors, lie behind by then.
+constexpr double cUntilRsyncRuns = 0.02; // seconds
 
 /// The parts of one pass, each after those it works with.
 class OncePass {
@@ -27,8 +29,10 @@ public:
     explicit OncePass(const Profile& profile)
         : fMachine(-1, -1, DamagedFile::IsLeftAlone, profile) {
         fMachine.commands.adoptWhatIsLeft();
-        // While the command runs; before, it would be in the way of its start.
-        fMachine.commands.whenTheFirstRuns([this] { fMachine.passes.getReady(); });
+        // Before, it would be in the way of the command's start.
+        fMachine.commands.whenTheFirstRuns([this] {
+            fMachine.mainQueue.asyncAfter(cUntilRsyncRuns, [this] { fMachine.passes.getReady(); });
+        });
         registerFactoryDefaults(fMachine.bundle, fMachine.defaults, fMachine.console);
         TemplateSetting(fSettings).takeOver();
         fSettings.setObject(prefEnableScanning, true);
