@@ -75,7 +75,7 @@ std::optional<QString> filledCommand(const QString& command, const RsyncParams& 
     if (params.dstpath)
         later.push_back({cDestination, withTrailingSlash(*params.dstpath)});
     if (const auto& key = params.sshfilepath) {
-        const auto sshPart = withWord(cSshPart.toString(), cKeyFile, *key);
+        auto sshPart = withWord(cSshPart.toString(), cKeyFile, *key);
         if (!sshPart)
             return sshPart;
         later.push_back({cKeyFile, *key});
