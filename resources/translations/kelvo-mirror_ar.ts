@@ -1126,6 +1126,17 @@ Please check username...
 <context>
     <name>Words</name>
     <message numerus="yes">
+        <source>%Ln passes written.</source>
+        <translation>
+            <numerusform>لم تُكتب جولات.</numerusform>
+            <numerusform>كُتبت جولة واحدة.</numerusform>
+            <numerusform>كُتبت جولتان.</numerusform>
+            <numerusform>كُتبت %Ln جولات.</numerusform>
+            <numerusform>كُتبت %Ln جولة.</numerusform>
+            <numerusform>كُتبت %Ln جولة.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%Ln movies</source>
         <translation>
             <numerusform>لا أفلام</numerusform>
@@ -2653,17 +2664,6 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     <message>
         <source>Not written: %1</source>
         <translation>لم يُكتب: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln passes written.</source>
-        <translation>
-            <numerusform>لم تُكتب جولات.</numerusform>
-            <numerusform>كُتبت جولة واحدة.</numerusform>
-            <numerusform>كُتبت جولتان.</numerusform>
-            <numerusform>كُتبت %Ln جولات.</numerusform>
-            <numerusform>كُتبت %Ln جولة.</numerusform>
-            <numerusform>كُتبت %Ln جولة.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

@@ -1126,6 +1126,13 @@ Bitte den Benutzernamen prüfen...
 <context>
     <name>Words</name>
     <message numerus="yes">
+        <source>%Ln passes written.</source>
+        <translation>
+            <numerusform>%Ln Durchgang geschrieben.</numerusform>
+            <numerusform>%Ln Durchgänge geschrieben.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%Ln movies</source>
         <translation>
             <numerusform>%Ln Film</numerusform>
@@ -2605,13 +2612,6 @@ Der Hostname des Macs kann auch auf der Seite „Entfernter Mac“ eingetragen w
     <message>
         <source>Not written: %1</source>
         <translation>Nicht geschrieben: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln passes written.</source>
-        <translation>
-            <numerusform>%Ln Durchgang geschrieben.</numerusform>
-            <numerusform>%Ln Durchgänge geschrieben.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

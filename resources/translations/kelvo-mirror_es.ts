@@ -1126,6 +1126,13 @@ compruebe el nombre de usuario...
 <context>
     <name>Words</name>
     <message numerus="yes">
+        <source>%Ln passes written.</source>
+        <translation>
+            <numerusform>%Ln pasada escrita.</numerusform>
+            <numerusform>%Ln pasadas escritas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%Ln movies</source>
         <translation>
             <numerusform>%Ln película</numerusform>
@@ -2605,13 +2612,6 @@ El nombre de host del Mac también se puede escribir en la pestaña Mac remoto.<
     <message>
         <source>Not written: %1</source>
         <translation>No se escribió: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln passes written.</source>
-        <translation>
-            <numerusform>%Ln pasada escrita.</numerusform>
-            <numerusform>%Ln pasadas escritas.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

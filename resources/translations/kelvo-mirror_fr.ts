@@ -1126,6 +1126,13 @@ vérifiez le nom d’utilisateur...
 <context>
     <name>Words</name>
     <message numerus="yes">
+        <source>%Ln passes written.</source>
+        <translation>
+            <numerusform>%Ln passe écrite.</numerusform>
+            <numerusform>%Ln passes écrites.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%Ln movies</source>
         <translation>
             <numerusform>%Ln film</numerusform>
@@ -2605,13 +2612,6 @@ Le nom d’hôte du Mac peut aussi être saisi dans l’onglet Mac distant.</tra
     <message>
         <source>Not written: %1</source>
         <translation>Non écrit&#xa0;: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln passes written.</source>
-        <translation>
-            <numerusform>%Ln passe écrite.</numerusform>
-            <numerusform>%Ln passes écrites.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

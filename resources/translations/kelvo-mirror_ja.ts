@@ -1126,6 +1126,12 @@ Please check username...
 <context>
     <name>Words</name>
     <message numerus="yes">
+        <source>%Ln passes written.</source>
+        <translation>
+            <numerusform>%Ln 回の同期を書き出しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%Ln movies</source>
         <translation>
             <numerusform>ムービー %Ln 本</numerusform>
@@ -2593,12 +2599,6 @@ Mac で「システム設定」の「一般」、「共有」を開き、「フ�
     <message>
         <source>Not written: %1</source>
         <translation>書き込めませんでした: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln passes written.</source>
-        <translation>
-            <numerusform>%Ln 回の同期を書き出しました。</numerusform>
-        </translation>
     </message>
 </context>
 <context>

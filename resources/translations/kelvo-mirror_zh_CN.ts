@@ -1126,6 +1126,12 @@ Please check username...
 <context>
     <name>Words</name>
     <message numerus="yes">
+        <source>%Ln passes written.</source>
+        <translation>
+            <numerusform>已写入 %Ln 次同步。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%Ln movies</source>
         <translation>
             <numerusform>%Ln 部影片</numerusform>
@@ -2593,12 +2599,6 @@ The Mac&apos;s host name can also be typed on the Remote Mac tab.</source>
     <message>
         <source>Not written: %1</source>
         <translation>未写入：%1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln passes written.</source>
-        <translation>
-            <numerusform>已写入 %Ln 次同步。</numerusform>
-        </translation>
     </message>
 </context>
 <context>

@@ -342,6 +342,7 @@ TEST_F(ActivityTabTest, Export_WritesAllOrSaysWhyNot) {
     QFile file(folder.filePath(QStringLiteral("a.csv")));
     ASSERT_TRUE(file.open(QFile::ReadOnly));
     EXPECT_EQ(file.readAll().count('\n'), 3);
+    EXPECT_EQ(child<QLabel>("exportResult")->text(), QStringLiteral("2 passes written."));
     view.exportTo(folder.filePath(QStringLiteral("no/such/folder/a.csv")));
     EXPECT_TRUE(child<QLabel>("exportResult")->text().startsWith(QStringLiteral("Not written: ")));
 }

@@ -200,7 +200,7 @@ TEST_F(AnnouncementTest, TemplateTrouble_IsSpokenWhenItComes) {
     EXPECT_EQ(heard(), spoken);
 }
 
-TEST_F(AnnouncementTest, AnotherWindowHasTheKeyboard_OnlyTroubleIsSpoken) {
+TEST_F(AnnouncementTest, AnotherWindowHasTheKeyboard_OnlyTroubleAndAnswersAreSpoken) {
     QWidget other;
     other.show();
     QApplication::setActiveWindow(&other);
@@ -208,6 +208,8 @@ TEST_F(AnnouncementTest, AnotherWindowHasTheKeyboard_OnlyTroubleIsSpoken) {
     EXPECT_EQ(heard(), QStringList());
     announce(window.syncTab(), QStringLiteral("urgent"), Urgency::Urgent);
     EXPECT_EQ(heard(), QStringList{"urgent"});
+    announce(window.syncTab(), QStringLiteral("answer"), Urgency::Asked);
+    EXPECT_EQ(heard(), QStringList{"answer"});
     window.hide();
     announce(window.syncTab(), QStringLiteral("unseen"), Urgency::Urgent);
     EXPECT_EQ(heard(), QStringList());

@@ -8,6 +8,7 @@ namespace kelvo {
 
 enum class Urgency {
     Polite, ///< waits its turn, and is left out while another window has the keyboard
+    Asked,  ///< waits its turn: what a dialog did that may have the keyboard for a moment yet
     Urgent, ///< trouble: spoken whenever the window can be seen
 };
 

@@ -11,6 +11,7 @@
 #include "ui/widgets/kept_place.h"
 #include "ui/widgets/pass_rows.h"
 #include "ui/widgets/wide_column.h"
+#include "ui/words.h"
 #include "ui/work_words.h"
 #include "ui_passes_view.h"
 
@@ -210,10 +211,12 @@ void PassesView::exportTo(const QString& path) {
     const bool written = file.open(QIODevice::WriteOnly) &&
                          file.write(passesAsCsv(records).toUtf8()) >= 0 && file.commit();
     fUi->exportResult->setText(
-        written ? tr("%Ln passes written.", nullptr, static_cast<int>(records.size()))
+        written ? Words::counted("%Ln pass written.",
+                                 QT_TRANSLATE_N_NOOP("Words", "%Ln passes written."),
+                                 static_cast<qint64>(records.size()))
                 : tr("Not written: %1").arg(file.errorString()));
     forgetSpoken(*this);
-    announce(*this, fUi->exportResult->text(), written ? Urgency::Polite : Urgency::Urgent);
+    announce(*this, fUi->exportResult->text(), written ? Urgency::Asked : Urgency::Urgent);
 }
 
 } // namespace kelvo
