@@ -75,6 +75,7 @@ SettingsStanding DefaultsDisk::standing() const {
 void DefaultsDisk::run(const std::stop_token& stop) {
     Deadline due;
     Deadline next;
+    std::uint64_t seen = 0;
     while (!stop.stop_requested()) {
         bool touched = fWatch.wait(next);
         QStringList changed;
@@ -88,6 +89,9 @@ void DefaultsDisk::run(const std::stop_token& stop) {
             }
             if (touched)
                 changed = takeOver();
+            // What was waited for may have been written by somebody who would not wait.
+            if (seen != fWriteOuts)
+                due.reset();
             due = deadline(due);
             next = fTrouble.isEmpty() ? due : fRetryAt;
             if (next && Clock::now() >= *next) {
@@ -95,6 +99,7 @@ void DefaultsDisk::run(const std::stop_token& stop) {
                 due = deadline({});
                 next = fTrouble.isEmpty() ? due : fRetryAt;
             }
+            seen = fWriteOuts;
             becameKnown = fKnown && !wasKnown;
         }
         if (becameKnown || !changed.isEmpty())
@@ -162,6 +167,7 @@ QStringList DefaultsDisk::takeOver() {
 
 /// Nothing is written before it is known what would be written over.
 QStringList DefaultsDisk::writeOut() {
+    ++fWriteOuts;
     QStringList changed;
     if (!fKnown)
         changed = takeOver();

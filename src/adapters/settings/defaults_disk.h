@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <mutex>
 #include <optional>
@@ -97,6 +98,7 @@ private:
     mutable std::mutex fStandingMutex; ///< for fStanding only; taken last
     SettingsStanding fStanding;
     Clock::time_point fRetryAt;
+    std::uint64_t fWriteOuts = 0;
     std::jthread fThread;
 };
 
