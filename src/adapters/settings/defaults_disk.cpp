@@ -73,9 +73,7 @@ SettingsStanding DefaultsDisk::standing() const {
 }
 
 void DefaultsDisk::run(const std::stop_token& stop) {
-    Deadline due;
     Deadline next;
-    std::uint64_t seen = 0;
     while (!stop.stop_requested()) {
         bool touched = fWatch.wait(next);
         QStringList changed;
@@ -89,17 +87,13 @@ void DefaultsDisk::run(const std::stop_token& stop) {
             }
             if (touched)
                 changed = takeOver();
-            // What was waited for may have been written by somebody who would not wait.
-            if (seen != fWriteOuts)
-                due.reset();
-            due = deadline(due);
-            next = fTrouble.isEmpty() ? due : fRetryAt;
+            fDue = deadline(fDue);
+            next = fTrouble.isEmpty() ? fDue : fRetryAt;
             if (next && Clock::now() >= *next) {
                 changed += writeOut();
-                due = deadline({});
-                next = fTrouble.isEmpty() ? due : fRetryAt;
+                fDue = deadline(fDue);
+                next = fTrouble.isEmpty() ? fDue : fRetryAt;
             }
-            seen = fWriteOuts;
             becameKnown = fKnown && !wasKnown;
         }
         if (becameKnown || !changed.isEmpty())
@@ -167,7 +161,7 @@ QStringList DefaultsDisk::takeOver() {
 
 /// Nothing is written before it is known what would be written over.
 QStringList DefaultsDisk::writeOut() {
-    ++fWriteOuts;
+    fDue.reset();
     QStringList changed;
     if (!fKnown)
         changed = takeOver();

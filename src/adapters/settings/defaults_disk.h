@@ -10,7 +10,6 @@
 #include <QStringList>
 
 #include <chrono>
-#include <cstdint>
 #include <functional>
 #include <mutex>
 #include <optional>
@@ -98,7 +97,7 @@ private:
     mutable std::mutex fStandingMutex; ///< for fStanding only; taken last
     SettingsStanding fStanding;
     Clock::time_point fRetryAt;
-    std::uint64_t fWriteOuts = 0;
+    Deadline fDue; ///< of what waits to be written
     std::jthread fThread;
 };
 
