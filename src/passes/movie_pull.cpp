@@ -63,9 +63,8 @@ std::optional<QStringList> plainWords(QStringView command) {
         else if (quote != u'\'' && sign == u'\\' &&
                  (quote.isNull() || QStringView(u"$`\"\\").contains(next)))
             word->append(command.sliced(++at, next.isNull() ? 0 : 1));
-        else if (quote != u'\'' && QStringView(u"$`\n").contains(sign))
-            return std::nullopt;
-        else if (quote.isNull() && QStringView(u"&|;<>()*?[{~#\t").contains(sign))
+        else if ((quote != u'\'' && QStringView(u"$`\n").contains(sign)) ||
+                 (quote.isNull() && QStringView(u"&|;<>()*?[{~#\t").contains(sign)))
             return std::nullopt;
         else
             word->append(sign);

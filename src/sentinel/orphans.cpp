@@ -196,8 +196,8 @@ bool isCommandTable(int descriptor) {
 
 void endOrphans(pid_t program, int table) {
     static Commands commands{"KELVO_MIRROR_PID=", {}};
-    std::strcat(commands.mark,
-                Decimal(static_cast<unsigned long>(program)).text); // NOLINT: 24 bytes at most
+    const Decimal number(static_cast<unsigned long>(program));
+    std::strcat(commands.mark, number.text); // NOLINT: 24 bytes at most
     if (table >= 0)
         readTable(table, commands);
     static Bytes bytes;

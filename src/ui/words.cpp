@@ -11,7 +11,7 @@ namespace kelvo {
 
 QString Words::counted(const char* one, const char* many, qint64 number) {
     const auto n = static_cast<int>(std::clamp<qint64>(number, 0, std::numeric_limits<int>::max()));
-    const QString text = tr(many, nullptr, n);
+    QString text = tr(many, nullptr, n);
     const QString figure = QLocale().toString(n);
     // English has no catalogue to take its singular from.
     if (n == 1 && text == QString::fromUtf8(many).replace(QStringLiteral("%Ln"), figure))

@@ -127,7 +127,7 @@ QString Words::shown(const QString& english) {
     const auto found = [](const QString& text) {
         return QCoreApplication::translate(cContext, text.toUtf8().constData());
     };
-    if (const QString text = found(english); text != english)
+    if (QString text = found(english); text != english)
         return text;
     for (const char* pattern : cPatterns) {
         const auto values = valuesIn(english, QString::fromUtf8(pattern));

@@ -13,7 +13,7 @@ namespace {
 constexpr double cMicroseconds = 1e6;
 
 QByteArray taken(const char* variable) {
-    const QByteArray value = qgetenv(variable);
+    QByteArray value = qgetenv(variable);
     qunsetenv(variable);
     return value;
 }

@@ -23,8 +23,10 @@ inline bool isToken(QByteArrayView text) {
 
 /// A token that is none is left out.
 inline QByteArray showRequest(const QByteArray& token) {
-    const QByteArray words(cShowRequest.data(), cShowRequest.size());
-    return words + (isToken(token) ? ' ' + token : QByteArray()) + '\n';
+    QByteArray request(cShowRequest.data(), cShowRequest.size());
+    if (isToken(token))
+        request.append(' ').append(token);
+    return request.append('\n');
 }
 
 /// The token that the whole request `said` carries, empty when it has none; nothing for anything

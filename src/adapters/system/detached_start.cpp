@@ -14,6 +14,7 @@ pid_t startDetached(const std::vector<std::string>& arguments) {
         ::posix_spawn_file_actions_addopen(&files, stream, "/dev/null", O_RDWR, 0);
     const CleanAttributes attributes;
     std::vector<char*> words;
+    words.reserve(arguments.size() + 1);
     for (const std::string& word : arguments)
         words.push_back(const_cast<char*>(word.c_str()));
     words.push_back(nullptr);

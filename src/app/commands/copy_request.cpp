@@ -30,7 +30,7 @@ QJsonValue shortened(const QJsonValue& value, qsizetype most) {
     }
     if (value.isArray()) {
         QJsonArray array;
-        for (const QJsonValue& each : value.toArray())
+        for (const QJsonValue each : value.toArray())
             array.append(shortened(each, most));
         return array;
     }

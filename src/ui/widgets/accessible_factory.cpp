@@ -16,7 +16,7 @@ public:
         : QAccessibleWidget(&button, QAccessible::PushButton), fButton(button) {}
 
     QString text(QAccessible::Text kind) const override {
-        const QString given = QAccessibleWidget::text(kind);
+        QString given = QAccessibleWidget::text(kind);
         if (kind != QAccessible::Name || !given.isEmpty())
             return given;
         return fButton.text().remove(u'&');
