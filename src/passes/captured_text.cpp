@@ -28,9 +28,7 @@ int bytesOf(QStringView text, qsizetype at) {
 
 /// How many signs at the beginning are of one byte each, at most `most`.
 qsizetype plainSigns(QStringView text, qint64 most) {
-    const auto end = text.begin() + std::min<qint64>(text.size(), most);
-    return std::find_if(text.begin(), end, [](QChar sign) { return sign.unicode() >= 0x80; }) -
-           text.begin();
+    return asciiAtStart(text.first(std::min<qint64>(text.size(), most)));
 }
 
 /// As many whole characters from the beginning as `most` bytes hold.

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <vector>
 
 namespace kelvo {
 
@@ -19,7 +20,11 @@ public:
     void print(const QString& text) { print(QStringList{text}); }
 
     /// The same for a text in pieces, which are not joined in memory: for captured output.
-    virtual void print(const QStringList& pieces) = 0;
+    void print(const QStringList& pieces) { printAll({pieces}); }
+
+    /// Several lines, each in pieces, as `print` would print them one by one; no line of another
+    /// thread gets between them. A fraction of the time: whoever writes is told once.
+    virtual void printAll(const std::vector<QStringList>& lines) = 0;
 
     /// One line to the system log, with the time.
     virtual void log(const QString& text) = 0;

@@ -1,5 +1,7 @@
 #include "support/plain_line.h"
 
+#include "support/text.h"
+
 #include <algorithm>
 
 namespace kelvo {
@@ -9,9 +11,11 @@ constexpr qsizetype cWholeBytes = qsizetype{64} * 1024;
 constexpr qsizetype cPartBytes = cWholeBytes / 2;
 
 bool isControl(char16_t unit) {
+    if (unit >= 0x20 && unit < 0x7f)
+        return false;
     if (unit < 0x20)
         return unit != u'\n' && unit != u'\t';
-    return (unit >= 0x7f && unit < 0xa0) || unit == 0x200e || unit == 0x200f || unit == 0x061c ||
+    return unit < 0xa0 || unit == 0x200e || unit == 0x200f || unit == 0x061c ||
            (unit >= 0x2028 && unit <= 0x202e) || (unit >= 0x2066 && unit <= 0x2069);
 }
 
@@ -29,8 +33,13 @@ qsizetype byteCount(char16_t unit) {
 
 qsizetype byteCount(QStringView text) {
     qsizetype sum = 0;
-    for (const QChar unit : text)
-        sum += byteCount(unit.unicode());
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const qsizetype ascii = asciiAtStart(text.sliced(at));
+        sum += ascii;
+        at += ascii;
+        if (at < text.size())
+            sum += byteCount(text[at].unicode());
+    }
     return sum;
 }
 
@@ -73,13 +82,15 @@ QString ending(const QStringList& pieces, qsizetype bytes) {
 QString withVisibleControls(QStringView text) {
     QString visible;
     visible.reserve(text.size());
-    for (const QChar unit : text) {
-        if (isControl(unit.unicode()))
-            visible += spelledOut(unit.unicode());
-        else
-            visible += unit;
+    qsizetype done = 0;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (!isControl(text[at].unicode()))
+            continue;
+        visible += text.sliced(done, at - done);
+        visible += spelledOut(text[at].unicode());
+        done = at + 1;
     }
-    return visible;
+    return visible += text.sliced(done);
 }
 
 QString oneLine(QStringView text) {

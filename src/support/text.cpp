@@ -2,6 +2,9 @@
 
 #include <QStringBuilder>
 
+#include <cstdint>
+#include <cstring>
+
 namespace kelvo {
 
 QString trimmedText(QStringView text) {
@@ -11,6 +14,20 @@ QString trimmedText(QStringView text) {
 QString withTrailingSlash(QStringView text) {
     const QStringView trimmed = text.trimmed();
     return trimmed.endsWith(u'/') ? trimmed.toString() : trimmed % QStringView(u"/");
+}
+
+qsizetype asciiAtStart(QStringView text) {
+    constexpr std::uint64_t cBeyondAscii = 0xff80'ff80'ff80'ff80;
+    constexpr qsizetype cAtATime = sizeof cBeyondAscii / sizeof(char16_t);
+    qsizetype at = 0;
+    for (std::uint64_t units = 0; at + cAtATime <= text.size(); at += cAtATime) {
+        std::memcpy(&units, text.utf16() + at, sizeof units);
+        if ((units & cBeyondAscii) != 0)
+            break;
+    }
+    while (at < text.size() && text[at].unicode() < 0x80)
+        ++at;
+    return at;
 }
 
 QString expandingTilde(QStringView path, QStringView home) {

@@ -19,6 +19,9 @@ QString trimmedText(QStringView text);
 /// `text` trimmed, ending in exactly the "/" it had or in one added: "" becomes "/".
 QString withTrailingSlash(QStringView text);
 
+/// How many signs at the beginning of `text` are ASCII. Looks at four of them at a time.
+qsizetype asciiAtStart(QStringView text);
+
 /// A leading "~" (alone or before "/") becomes `home`; any other path passes unchanged.
 QString expandingTilde(QStringView path, QStringView home);
 

@@ -75,19 +75,16 @@ void BonjourViewController::ibShowBonjourListInfo() {
         printInside(operation, QString(u".......self.fArrayController.selectedObjects = " +
                                        selectedObjectsText()));
     const DNSSD_Services found = fFoundServicesArray.value_or(DNSSD_Services());
-    const bool areMade = fLines.areOf(found);
-    for (qsizetype row = 0; row < found.size(); ++row) {
-        const DNSSD_Service& record = found[row];
-        const QString dictionary = areMade ? fLines.texts[row] : dictionaryText(record);
-        fParts.console.print({QStringLiteral("d = "), dictionary});
-        fMSet.insert(record);
-        fFilteredTable.insert(record.ip4Address, dictionary);
-    }
+    if (!fTold.isOf(found))
+        fTold = told(found);
+    fMSet = fTold.set;
+    fFilteredTable = fTold.table;
+    fParts.console.printAll(fTold.lines);
     for (int time = 0; time < 2; ++time)
         print(cEmptyLines.toString());
     fParts.console.print(
         QStringList(insideLine(cTypeName, operation, u".......self.fFilteredTable = ")) +
-        tableText(fFilteredTable));
+        fTold.tableText);
     for (int time = 0; time < 2; ++time)
         print(cEmptyLines.toString());
     fParts.mainQueue.asyncAfter(cFilterDelay, [self = shared_from_this()] {
@@ -107,44 +104,59 @@ void BonjourViewController::ibUpdateFilteredList() {
                                    listText(std::optional(fFilteredFoundServicesArray))));
     fFoundServicesArray = fFilteredFoundServicesArray;
     arrayController().setContent(fFilteredFoundServicesArray);
-    makeLines();
+    tellAside();
 }
 
-/// A thousand of them would hold up the main queue when the next scan tells of these rows.
-void BonjourViewController::makeLines() {
-    if (fLines.areOf(fFilteredFoundServicesArray))
+/// What is told of `records`, and kept of it. A thousand of them take as long as ten frames of a
+/// film.
+BonjourViewController::Told BonjourViewController::told(const DNSSD_Services& records) {
+    Told told{records, {}, {}, {}, {}};
+    told.lines.reserve(records.size());
+    for (const DNSSD_Service& record : records) {
+        const QString dictionary = dictionaryText(record);
+        told.lines.push_back({QStringLiteral("d = "), dictionary});
+        told.set.insert(record);
+        told.table.insert(record.ip4Address, dictionary);
+    }
+    told.tableText = tableText(told.table);
+    return told;
+}
+
+/// The next scan tells of these rows; a thousand of them would hold up the main queue then.
+void BonjourViewController::tellAside() {
+    if (fTold.isOf(fFilteredFoundServicesArray))
         return;
-    const auto lines = std::make_shared<Lines>(Lines{fFilteredFoundServicesArray, {}});
+    const auto made = std::make_shared<Told>();
     background(
         fParts.bgQueue, fParts.mainQueue, 0,
-        [lines] {
-            for (const DNSSD_Service& record : std::as_const(lines->records))
-                lines->texts.append(dictionaryText(record));
-        },
-        [weak = weak_from_this(), lines] {
+        [made, records = fFilteredFoundServicesArray] { *made = told(records); },
+        [weak = weak_from_this(), made] {
             if (const auto self = weak.lock())
-                self->fLines = std::move(*lines);
+                self->fTold = std::move(*made);
         });
 }
 
 void BonjourViewController::updateFilteredArray() {
     constexpr QStringView operation = u"updateFilteredArray()";
-    printInside(operation);
+    std::vector<QStringList> lines;
+    const auto tell = [&lines](const QString& detail) {
+        lines.push_back({insideLine(cTypeName, operation, detail)});
+    };
+    tell(QStringLiteral("......."));
     for (const DNSSD_Service& record : fMasterServicesArray.value_or(DNSSD_Services())) {
         switch (admit(record, fUniqueIP4Address)) {
         case Admission::Admitted:
             fFilteredFoundServicesArray.prepend(record);
             break;
         case Admission::BadKey:
-            printInside(operation,
-                        QString(u"......badKey = [" + plainText(record.ip4Address) + u"] ?????."));
+            tell(u"......badKey = [" + plainText(record.ip4Address) + u"] ?????.");
             break;
         case Admission::Duplicate:
-            printInside(operation, QString(u"......NOT Adding DUPLICATE => [" +
-                                           plainText(record.name) + u"] ..."));
+            tell(u"......NOT Adding DUPLICATE => [" + plainText(record.name) + u"] ...");
             break;
         }
     }
+    fParts.console.printAll(lines);
 }
 
 // -- choosing

@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace kelvo {
 
@@ -76,20 +77,24 @@ public:
                                      std::optional<qsizetype> selectedRow);
 
 private:
-    /// Records, and each one's dictionary as a line.
-    struct Lines {
+    /// Records, and what the information pass tells and keeps of them.
+    struct Told {
         DNSSD_Services records;
-        QStringList texts;
+        std::vector<QStringList> lines;
+        QSet<DNSSD_Service> set;
+        QMap<QString, QString> table; ///< dictionaries, each as a line, by address
+        QStringList tableText;
 
-        /// Whether they are of `others`, told by the memory that both share.
-        bool areOf(const DNSSD_Services& others) const {
-            return records.constData() == others.constData();
+        /// Whether it is of `others`, told by the memory that both share.
+        bool isOf(const DNSSD_Services& others) const {
+            return !tableText.isEmpty() && records.constData() == others.constData();
         }
     };
 
     explicit BonjourViewController(BonjourViewControllerParts parts);
 
-    void makeLines();
+    static Told told(const DNSSD_Services& records);
+    void tellAside();
     ArrayController& arrayController() const;
     void requireTable() const;
     qsizetype selectedRow() const;
@@ -108,7 +113,7 @@ private:
     QSet<QString> fUniqueIP4Address;
     QMap<QString, QString> fFilteredTable; ///< the last dictionary seen, as a line, by address
     DNSSD_Services fFilteredFoundServicesArray;
-    Lines fLines; ///< of the rows of an earlier scan
+    Told fTold; ///< of the rows of an earlier scan
 };
 
 } // namespace kelvo

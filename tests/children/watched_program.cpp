@@ -38,8 +38,10 @@ void append(const QString& path, const QByteArray& text) {
 class FileConsole final : public Console {
 public:
     explicit FileConsole(QString path) : fPath(std::move(path)) {}
-    using Console::print;
-    void print(const QStringList& pieces) override { log(pieces.join(QString())); }
+    void printAll(const std::vector<QStringList>& lines) override {
+        for (const QStringList& pieces : lines)
+            log(pieces.join(QString()));
+    }
     void log(const QString& text) override { append(fPath, text.toUtf8() + '\n'); }
     bool flush(std::chrono::milliseconds) override { return true; }
 

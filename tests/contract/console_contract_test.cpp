@@ -155,5 +155,26 @@ TYPED_TEST(ConsoleContract, Threads_KeepTheirOrderAndDoNotMix) {
     }
 }
 
+TYPED_TEST(ConsoleContract, LinesPrintedTogether_StayTogether) {
+    constexpr int cTimes = 200;
+    std::vector<std::thread> threads;
+    for (const char16_t name : {u'a', u'b', u'c', u'd'}) {
+        threads.emplace_back([this, name] {
+            const QString text(name);
+            for (int i = 0; i < cTimes; ++i)
+                this->console().printAll({{text, QStringLiteral("1")}, {}, {text + u'2'}});
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    this->console().printAll({});
+    const QStringList lines = this->fKind.printed().split(u'\n');
+    ASSERT_EQ(lines.size(), 4 * cTimes * 3 + 1);
+    for (qsizetype at = 0; at + 1 < lines.size(); at += 3) {
+        const QString name = lines[at].left(1);
+        ASSERT_EQ(lines.sliced(at, 3), (QStringList{name + u'1', QString(), name + u'2'})) << at;
+    }
+}
+
 } // namespace
 } // namespace kelvo

@@ -123,12 +123,20 @@ TEST_F(RotatingLogFileTest, FileTakenAway_IsMadeAnewWithTheDescriptorOfTheOldOne
 TEST_F(RotatingLogFileTest, Lines_BeginWithTheirTime) {
     RotatingLogFile log;
     ASSERT_TRUE(log.setLogFile(fPath));
-    log.append(QStringLiteral("now"));
-    const QString line = read(QStringLiteral("x.log"));
-    EXPECT_EQ(line.mid(23), u" now\n");
-    const QDateTime time =
-        QDateTime::fromString(line.left(23), QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz"));
-    EXPECT_LT(std::abs(time.secsTo(QDateTime::currentDateTime())), 60) << line.toStdString();
+    // Over the end of a second, and with parts of a second of one digit and of three.
+    const qint64 begin = QDateTime::currentMSecsSinceEpoch();
+    for (qint64 last = begin; last < begin + 1'100;) {
+        const qint64 before = QDateTime::currentMSecsSinceEpoch();
+        log.append(QStringLiteral("now"));
+        last = QDateTime::currentMSecsSinceEpoch();
+        const QString line = read(QStringLiteral("x.log")).section(u'\n', -2, -2);
+        ASSERT_EQ(line.mid(23), u" now");
+        const qint64 time =
+            QDateTime::fromString(line.left(23), QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz"))
+                .toMSecsSinceEpoch();
+        ASSERT_GE(time, before) << line.toStdString();
+        ASSERT_LE(time, last) << line.toStdString();
+    }
 }
 
 /// A line of a hundred bytes, its time and its end included.

@@ -82,10 +82,10 @@ TEST_F(StreamConsoleTest, Journal_GetsEachLineWithItsPriorityAndNoForgedOnes) {
     auto journal = console();
     journal->print(QStringList{QStringLiteral("<0>captured\n<0>next"), QStringLiteral("\n<0>"),
                                QString(QChar(u'\0')) + u"<0>cut"});
-    journal->print(QStringLiteral("status red: away"));
+    journal->printAll({{QStringLiteral("status red: away")}, {QStringLiteral("resting")}});
     qunsetenv("JOURNAL_STREAM");
     EXPECT_EQ(readToEnd(journal), "<6><0>captured\n<6><0>next\n<6><0>\n<6><0>cut\n"
-                                  "<3>status red: away\n");
+                                  "<3>status red: away\n<6>resting\n");
     EXPECT_FALSE(fFile.lines(cPath).join(QString()).contains(u"<6>")) << "the file is no journal";
 }
 

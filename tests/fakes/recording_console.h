@@ -17,9 +17,15 @@ public:
         bool operator==(const Line&) const = default;
     };
 
-    using Console::print;
-    void print(const QStringList& pieces) override { record(Kind::Print, pieces.join(QString())); }
-    void log(const QString& text) override { record(Kind::Log, text); }
+    void printAll(const std::vector<QStringList>& lines) override {
+        const std::lock_guard lock(fMutex);
+        for (const QStringList& pieces : lines)
+            fLines.push_back({Kind::Print, pieces.join(QString())});
+    }
+    void log(const QString& text) override {
+        const std::lock_guard lock(fMutex);
+        fLines.push_back({Kind::Log, text});
+    }
     bool flush(std::chrono::milliseconds) override { return true; }
 
     std::vector<Line> lines() const {
@@ -34,10 +40,6 @@ public:
     }
 
 private:
-    void record(Kind kind, const QString& text) {
-        const std::lock_guard lock(fMutex);
-        fLines.push_back({kind, text});
-    }
     QStringList texts(Kind kind) const {
         const std::lock_guard lock(fMutex);
         QStringList found;

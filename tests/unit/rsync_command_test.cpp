@@ -228,8 +228,7 @@ using RsyncCommandDeathTest = RsyncCommandTest;
 /// Keeps what it is told until it is flushed to standard error, which takes time.
 class SlowConsole final : public Console {
 public:
-    using Console::print;
-    void print(const QStringList&) override {}
+    void printAll(const std::vector<QStringList>&) override {}
     void log(const QString& text) override { fWaiting += text.toStdString() + '\n'; }
     bool flush(std::chrono::milliseconds time) override {
         if (time.count() > 0)

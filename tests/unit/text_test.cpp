@@ -49,6 +49,15 @@ TEST(TextTest, PathComponents_AreJoinedByOneSlash) {
     EXPECT_EQ(appendingPathComponent(u"", u"b"), u"b");
 }
 
+TEST(TextTest, AsciiAtStart_EndsAtTheFirstOtherSign) {
+    for (qsizetype size = 0; size < 12; ++size) {
+        const QString text(size, u'\x7f');
+        EXPECT_EQ(asciiAtStart(text), size);
+        for (const char16_t other : {u'\x80', u'\u0100', u'\u4e00', u'\uff00'})
+            EXPECT_EQ(asciiAtStart(QString(text + other + u"aaaaaaaa")), size) << int(other);
+    }
+}
+
 TEST(TextTest, QuotedText_CanBeReadBack) {
     EXPECT_EQ(quotedText(u""), u"\"\"");
     EXPECT_EQ(quotedText(u"a \"b\" \\c"), u"\"a \\\"b\\\" \\\\c\"");

@@ -22,12 +22,6 @@ namespace {
 constexpr int cOlderFiles = 2;
 constexpr mode_t cFileMode = S_IRUSR | S_IWUSR;
 
-QByteArray stamped(const QString& line) {
-    const QString now =
-        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz "));
-    return (now + line + u'\n').toUtf8();
-}
-
 std::string homeFolder() {
     if (const char* const home = std::getenv("HOME"); home != nullptr && *home == '/') // NOLINT
         return home;
@@ -62,10 +56,11 @@ bool RotatingLogFile::setLogFile(const QString& path) {
 }
 
 void RotatingLogFile::append(const QStringList& pieces) {
-    const QByteArray line = stamped(logLine(pieces));
+    const QString text = logLine(pieces);
     const std::lock_guard lock(fMutex);
     if (fPath.isEmpty())
         return;
+    const QByteArray line = stamped(text);
     const bool tries =
         fTrouble == 0 || (std::chrono::steady_clock::now() >= fNextTry && writeOut());
     if (fLeftOut > 0 || (!fWaiting.isEmpty() && fWaiting.size() + line.size() > cMostWaiting))
@@ -74,6 +69,18 @@ void RotatingLogFile::append(const QStringList& pieces) {
         fWaiting += line;
     if (tries)
         (void)writeOut();
+}
+
+/// Qt takes as long for a date as for writing the line: one is made a second.
+QByteArray RotatingLogFile::stamped(const QString& line) {
+    constexpr qint64 cSecond = 1000;
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    if (std::exchange(fSecond, now / cSecond) != now / cSecond)
+        fDate = QDateTime::fromMSecsSinceEpoch(now)
+                    .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss."))
+                    .toLatin1();
+    return fDate + QByteArray::number(now % cSecond).rightJustified(3, '0') + ' ' + line.toUtf8() +
+           '\n';
 }
 
 /// Writes everything that waits; false when that does not go now.

@@ -45,6 +45,7 @@ private:
     int rotate();
     int writeWaiting();
     bool writeOut();
+    QByteArray stamped(const QString& line);
     QByteArray olderName(int number) const;
 
     const off_t fFileSize;
@@ -55,6 +56,8 @@ private:
     off_t fSize = 0;
     QByteArray fWaiting; ///< whole lines, but for the first one when a part of it is written
     qint64 fLeftOut = 0;
+    qint64 fSecond = -1; ///< that `fDate` is of
+    QByteArray fDate;
     int fTrouble = 0; ///< errno of the last attempt
     std::chrono::steady_clock::time_point fNextTry;
 };

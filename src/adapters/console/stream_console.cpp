@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -61,6 +62,11 @@ QStringList withPriority(QStringView priority, QStringList pieces) {
         piece.replace(QChar(u'\0'), u'\n').replace(u'\n', u'\n' + priority);
     pieces.prepend(priority.toString());
     return pieces;
+}
+
+QStringList withItsPriority(const QStringList& pieces) {
+    const bool trouble = !pieces.isEmpty() && tellsOfTrouble(pieces.constFirst());
+    return withPriority(trouble ? cError : cInformation, pieces);
 }
 
 /// Signals are for the other threads; a write to nobody gives an error instead of one.
@@ -177,13 +183,15 @@ StreamConsole::~StreamConsole() {
     fThread.join();
 }
 
-void StreamConsole::print(const QStringList& pieces) {
-    const bool trouble = !pieces.isEmpty() && tellsOfTrouble(pieces.constFirst());
-    const QStringList line =
-        fOutputIsJournal ? withPriority(trouble ? cError : cInformation, pieces) : pieces;
+void StreamConsole::printAll(const std::vector<QStringList>& lines) {
+    std::vector<QStringList> forJournal;
+    if (fOutputIsJournal)
+        std::ranges::transform(lines, std::back_inserter(forJournal), withItsPriority);
     const std::lock_guard lock(fMutex);
-    fOutput.add(line);
-    fFileLines.add(pieces);
+    for (const QStringList& line : fOutputIsJournal ? forJournal : lines)
+        fOutput.add(line);
+    for (const QStringList& line : lines)
+        fFileLines.add(line);
     wake();
 }
 

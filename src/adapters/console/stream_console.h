@@ -31,8 +31,7 @@ public:
     /// Writes what waits; a reader that takes nothing for 1 s, or is not done after 2 s, loses it.
     ~StreamConsole() override;
 
-    using Console::print;
-    void print(const QStringList& pieces) override;
+    void printAll(const std::vector<QStringList>& lines) override;
     void log(const QString& text) override;
 
     bool flush(std::chrono::milliseconds timeout) override;
