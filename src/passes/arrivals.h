@@ -1,6 +1,7 @@
 // Which files a pass has brought.
 #pragma once
 
+#include "support/name_list.h"
 #include "support/pass_record.h"
 
 #include <vector>
@@ -10,10 +11,10 @@ namespace kelvo {
 class FileManager;
 
 struct ArrivalSearch {
-    QByteArray destination;               ///< an absolute path; beneath any other nothing is found
-    QDateTime began;                      ///< when the pass did
-    const std::vector<QByteArray>& names; ///< as pulls printed them, relative to the destination
-    bool unnamedToo = false;              ///< some pull may have brought files without naming them
+    QByteArray destination;  ///< an absolute path; beneath any other nothing is found
+    QDateTime began;         ///< when the pass did
+    const NameList& names;   ///< as pulls printed them, relative to the destination
+    bool unnamedToo = false; ///< some pull may have brought files without naming them
 };
 
 /// Files that lie in the destination and have changed since the pass began, in the order in which

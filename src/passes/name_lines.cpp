@@ -14,47 +14,63 @@ namespace {
 
 using namespace std::literals;
 
-/// Lines that rsync prints among the names, and that name no file that came.
-constexpr auto cRemarks = std::to_array<std::string_view>({
-    "rsync: "sv,
-    "rsync error:"sv,
-    "rsync warning:"sv,
-    "receiving "sv,
-    "sent "sv,
-    "total size "sv,
-    "created "sv,
-    "delta-"sv,
-    "skipping "sv,
-    "file has vanished:"sv,
-    "IO error "sv,
-    "ssh: "sv,
-    "deleting "sv,
-    "building file list"sv,
-    "sending incremental"sv,
-    "Warning: "sv,
-    "protocol version mismatch -- "sv,
-    "(see the rsync "sv,
-    "Server is very old version of rsync"sv,
-    "filter rules are too modern "sv,
-    "--prune-empty-dirs requires protocol "sv,
-    "Connection "sv,
-    "cd+++"sv,
-    ".d"sv,
-    "Number of files:"sv,
-    "Number of created files:"sv,
-    "Number of deleted files:"sv,
-    "Number of regular files transferred:"sv,
-    "Number of files transferred:"sv,
-    "Total file size:"sv,
-    "Total transferred file size:"sv,
-    "Literal data:"sv,
-    "Matched data:"sv,
-    "File list size:"sv,
-    "File list generation time:"sv,
-    "File list transfer time:"sv,
-    "Total bytes sent:"sv,
-    "Total bytes received:"sv,
-});
+/// Lines that rsync prints among the names, and that name no file that came; by their first signs.
+constexpr auto cRemarks = [] {
+    auto remarks = std::to_array<std::string_view>({
+        "rsync: "sv,
+        "rsync error:"sv,
+        "rsync warning:"sv,
+        "receiving "sv,
+        "sent "sv,
+        "total size "sv,
+        "created "sv,
+        "delta-"sv,
+        "skipping "sv,
+        "file has vanished:"sv,
+        "IO error "sv,
+        "ssh: "sv,
+        "deleting "sv,
+        "building file list"sv,
+        "sending incremental"sv,
+        "Warning: "sv,
+        "protocol version mismatch -- "sv,
+        "(see the rsync "sv,
+        "Server is very old version of rsync"sv,
+        "filter rules are too modern "sv,
+        "--prune-empty-dirs requires protocol "sv,
+        "Connection "sv,
+        "cd+++"sv,
+        ".d"sv,
+        "Number of files:"sv,
+        "Number of created files:"sv,
+        "Number of deleted files:"sv,
+        "Number of regular files transferred:"sv,
+        "Number of files transferred:"sv,
+        "Total file size:"sv,
+        "Total transferred file size:"sv,
+        "Literal data:"sv,
+        "Matched data:"sv,
+        "File list size:"sv,
+        "File list generation time:"sv,
+        "File list transfer time:"sv,
+        "Total bytes sent:"sv,
+        "Total bytes received:"sv,
+    });
+    std::ranges::sort(remarks);
+    return remarks;
+}();
+
+constexpr char cLastAscii = 0x7f;
+
+/// Where in `cRemarks` those begin whose first sign is not below an index.
+constexpr auto cFirstRemarks = [] {
+    std::array<std::size_t, cLastAscii + 2> first{};
+    for (std::size_t sign = 0; sign < first.size(); ++sign)
+        first[sign] = std::ranges::count_if(cRemarks, [sign](std::string_view remark) {
+            return static_cast<std::size_t>(remark.front()) < sign;
+        });
+    return first;
+}();
 
 /// The value of `option` in `command`, without its quotes.
 std::optional<QStringView> valueOf(QStringView option, QStringView command) {
@@ -102,15 +118,17 @@ NameFormat formatByWords(QStringView command) {
     return found;
 }
 
-/// Most names are told from a remark by their first sign.
-template <typename View>
-bool beginsAsRemark(View line) {
-    const auto same = [](char a, auto b) { return b == static_cast<decltype(b)>(a); };
-    return !line.isEmpty() && std::ranges::any_of(cRemarks, [line, same](std::string_view begin) {
-        return same(begin.front(), line[0]) &&
-               line.size() >= static_cast<qsizetype>(begin.size()) &&
-               std::equal(begin.begin(), begin.end(), line.begin(), same);
-    });
+/// `line` is of bytes or of UTF-16 units.
+template <typename Unit>
+bool beginsAsRemark(std::basic_string_view<Unit> line) {
+    if (line.empty() || line[0] < 0 || line[0] > cLastAscii)
+        return false;
+    const auto sign = static_cast<std::size_t>(line[0]);
+    return std::any_of(cRemarks.begin() + cFirstRemarks[sign],
+                       cRemarks.begin() + cFirstRemarks[sign + 1], [line](std::string_view begin) {
+                           return line.size() >= begin.size() &&
+                                  std::equal(begin.begin(), begin.end(), line.begin());
+                       });
 }
 
 bool isDigit(char c) {
@@ -131,11 +149,11 @@ NameFormat nameFormatOf(QStringView command) {
 }
 
 bool isRemark(QStringView line) {
-    return beginsAsRemark(line);
+    return beginsAsRemark(std::u16string_view(line.utf16(), static_cast<std::size_t>(line.size())));
 }
 
 bool isRemark(QByteArrayView line) {
-    return beginsAsRemark(line);
+    return beginsAsRemark(std::string_view(line.data(), static_cast<std::size_t>(line.size())));
 }
 
 std::optional<NamedFile> namedIn(QByteArrayView line, NameFormat format) {

@@ -88,16 +88,18 @@ void RsyncOutputReader::named(const NamedFile& file) {
         return;
     }
     ++fFilesNamed;
-    fFile.resize(0); // keeps its room
-    fFile.append(file.name);
+    fFile.resize(file.name.size()); // which never gives room back
+    std::memcpy(fFile.data(), file.name.data(), static_cast<std::size_t>(file.name.size()));
     fLargestNamed = std::max(fLargestNamed, file.size.value_or(std::numeric_limits<qint64>::max()));
     if (file.size)
         fBytesNamed =
             std::min(fBytesNamed, std::numeric_limits<qint64>::max() - *file.size) + *file.size;
-    if (fNames.size() >= cMostNames || fNameBytes + file.name.size() > cMostNameBytes)
+    if (fNames.size() >= cMostNames || fNames.bytes() + file.name.size() > cMostNameBytes)
         return;
-    fNameBytes += file.name.size();
-    fNames.push_back(unescapedName(file.name));
+    if (file.name.contains('\\'))
+        fNames.append(unescapedName(file.name));
+    else
+        fNames.append(file.name);
 }
 
 void RsyncOutputReader::moved(const ProgressLine& line, double now) {
@@ -224,7 +226,7 @@ std::optional<qint64> RsyncOutputReader::filesNamed() const {
     return fFilesNamed;
 }
 
-std::vector<QByteArray> RsyncOutputReader::takeNames() {
+NameList RsyncOutputReader::takeNames() {
     return std::exchange(fNames, {});
 }
 

@@ -4,6 +4,7 @@
 #include "passes/name_lines.h"
 #include "passes/progress_line.h"
 #include "passes/transfer_speed.h"
+#include "support/name_list.h"
 #include "support/pass_progress.h"
 
 #include <QByteArray>
@@ -11,7 +12,6 @@
 #include <QStringView>
 
 #include <limits>
-#include <vector>
 
 namespace kelvo {
 
@@ -43,7 +43,7 @@ public:
     qint64 largestNamed() const { return fLargestNamed; }
 
     /// The files named so far, and forgets them; their bytes as they are over there.
-    std::vector<QByteArray> takeNames();
+    NameList takeNames();
 
 private:
     /// Of a number that is known better and better.
@@ -70,9 +70,8 @@ private:
     QByteArray fPending;     ///< the begin of a part
     bool fSkipping = false;  ///< the part is longer than anything worth reading
     bool fRewritten = false; ///< a carriage return has been in the line
-    std::vector<QByteArray> fNames;
-    qsizetype fNameBytes = 0; ///< of all of them
-    QByteArray fFile;         ///< the name that was printed last
+    NameList fNames;
+    QByteArray fFile; ///< the name that was printed last
     qint64 fFilesNamed = 0;
     qint64 fFoldersNamed = 0;
     bool fRootNamed = false;

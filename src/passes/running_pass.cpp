@@ -195,9 +195,7 @@ Transfer RunningPass::pulled(CommandResult& result, const QString& command) {
     {
         const std::lock_guard lock(fPasses.fMutex);
         filesNamed = fReader->filesNamed();
-        std::vector<QByteArray> names = fReader->takeNames();
-        fNames.insert(fNames.end(), std::make_move_iterator(names.begin()),
-                      std::make_move_iterator(names.end()));
+        fNames.append(fReader->takeNames());
         if (result.exitStatus == 0 && fReader->tellsProgress())
             fPasses.fWentWell = command;
     }

@@ -5,6 +5,7 @@
 #include "passes/rsync_output_reader.h"
 #include "passes/written_files.h"
 #include "ports/command_runner.h"
+#include "support/name_list.h"
 #include "support/pass_progress.h"
 #include "support/pass_record.h"
 
@@ -97,7 +98,7 @@ public:
 
     /// The files that pulls have named so far, at most 50,000 of each: the bytes of their names,
     /// relative to the source. They may not have come whole.
-    const std::vector<QByteArray>& names() const { return fNames; }
+    const NameList& names() const { return fNames; }
 
     /// What the pass has brought so far; kept in its record.
     void brought(std::vector<Arrival> arrivals);
@@ -128,7 +129,7 @@ private:
 
     RunningPasses& fPasses;
     PassRecord fRecord;
-    std::vector<QByteArray> fNames;
+    NameList fNames;
     std::optional<NamedCause> fRefused;
     const double fBegan;
     PassUnderWay fNow;                 ///< guarded by the mutex of all passes

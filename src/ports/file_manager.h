@@ -1,6 +1,7 @@
 // FileManager: the machine's files, as the program asks about them and changes them.
 #pragma once
 
+#include "support/name_list.h"
 #include "support/subscription.h"
 
 #include <QByteArray>
@@ -49,7 +50,7 @@ public:
     /// outside: a name that begins with "/" or climbs with ".." finds nothing. Names of one folder
     /// that follow each other cost one look at it together.
     virtual std::vector<FoundFile> filesBeneath(const QByteArray& folder,
-                                                const std::vector<QByteArray>& names) const = 0;
+                                                const NameList& names) const = 0;
 
     /// The files beneath `folder` that have changed since `moment`, in no order; what was only
     /// written to, in a folder where nothing else has changed, may be missing. Names that

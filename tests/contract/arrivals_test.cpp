@@ -55,7 +55,7 @@ protected:
     }
 
     /// What arrived, by its way from the destination, with its size.
-    std::map<QByteArray, qint64> arrived(const std::vector<QByteArray>& names, bool unnamedToo) {
+    std::map<QByteArray, qint64> arrived(const NameList& names, bool unnamedToo) {
         std::map<QByteArray, qint64> found;
         for (const Arrival& arrival : arrivalsOf(fFiles, {.destination = at("to/"),
                                                          .began = fBegan,

@@ -23,10 +23,10 @@ public:
         return path != guarded && folders.contains(followed(path));
     }
     std::vector<FoundFile> filesBeneath(const QByteArray& folder,
-                                        const std::vector<QByteArray>& names) const override {
+                                        const NameList& names) const override {
         std::vector<FoundFile> named;
-        for (const QByteArray& name : names) {
-            const QByteArray path = folder + '/' + name;
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            const QByteArray path = folder + '/' + names[i].toByteArray();
             const auto file = std::ranges::find(found, path, &FoundFile::path);
             if (file != found.end())
                 named.push_back(*file);

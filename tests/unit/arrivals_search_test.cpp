@@ -13,7 +13,7 @@ protected:
         files.found.push_back({path, 7, began.addMSecs(afterBegin)});
     }
 
-    QList<QByteArray> arrived(const std::vector<QByteArray>& names, bool unnamedToo,
+    QList<QByteArray> arrived(const NameList& names, bool unnamedToo,
                               const QByteArray& destination = "/in") {
         QList<QByteArray> paths;
         for (const Arrival& arrival : arrivalsOf(files, {.destination = destination,

@@ -102,8 +102,11 @@ TEST(NameLinesTest, TalkOfEveryKind_IsKnownByItsBeginning) {
         EXPECT_FALSE(isRemark(QByteArrayView(name))) << name.constData();
     }
     EXPECT_TRUE(isRemark(QByteArrayView("Total file size:"))) << "nothing behind it";
-    for (const char* name : {"", "sent", "rsync:", "Total file size", "movie.mov"})
+    for (const char* name : {"", "sent", "rsync:", "Total file size", "movie.mov", "\x7f", "\x80",
+                             "\xff", "\x01", "~.mov"}) {
         EXPECT_FALSE(isRemark(QByteArrayView(name))) << name;
+        EXPECT_FALSE(isRemark(QString::fromLatin1(name))) << name;
+    }
 }
 
 void expectNamed(const char* line, NameFormat format, const char* name,

@@ -41,7 +41,7 @@ public:
         fReader.read(piece, ++fNow);
         return fReader.progress(fNow);
     }
-    std::vector<QByteArray> names() { return fReader.takeNames(); }
+    NameList names() { return fReader.takeNames(); }
     std::optional<qint64> filesNamed() const { return fReader.filesNamed(); }
 
 private:
@@ -98,10 +98,10 @@ TEST(RsyncOutputReaderTest, Figures_AreExactAtTheEnd) {
 TEST(RsyncOutputReaderTest, Names_AreThoseOfTheFilesInTheirOwnBytes) {
     Reading read(cFactory);
     read(cFirstPull);
-    const std::vector<QByteArray> expected{
+    const NameList expected{
         "f1.mov", "f2.mov", "f3.mov", "f4.mov", "f5.mov", "sub/bad\xff\nnl.mov", "sub/g.mov"};
     EXPECT_EQ(read.names(), expected);
-    EXPECT_TRUE(read.names().empty());
+    EXPECT_EQ(read.names().size(), 0U);
 }
 
 TEST(RsyncOutputReaderTest, OutputCutAnywhere_TellsTheSameAndNothingGoesBack) {
@@ -123,7 +123,7 @@ TEST(RsyncOutputReaderTest, ProgressCutInTwo_IsNoName) {
     Reading read(QStringLiteral("rsync -r --info=progress2 --out-format='%n' a/ b/"));
     read("a.mov\n\r             70  50%    1.00kB/s    0:00:01  \r             70 100%    1.0");
     EXPECT_EQ(read("0kB/s    0:00:01 (xfr#1, to-chk=0/2)\n").share, 1);
-    EXPECT_EQ(read.names(), std::vector<QByteArray>{"a.mov"});
+    EXPECT_EQ(read.names(), (NameList{"a.mov"}));
 }
 
 TEST(RsyncOutputReaderTest, NameThatLooksLikeProgress_IsAName) {
@@ -131,7 +131,7 @@ TEST(RsyncOutputReaderTest, NameThatLooksLikeProgress_IsAName) {
     const QByteArray name = "5  13%  1.00kB/s  0:00:06  (xfr#1, to-chk=1/3)";
     EXPECT_EQ(read(name).bytesDone, std::nullopt) << "before its line is ended";
     EXPECT_EQ(read("\n").bytesDone, std::nullopt);
-    EXPECT_EQ(read.names(), std::vector<QByteArray>{name});
+    EXPECT_EQ(read.names(), (NameList{name}));
 }
 
 TEST(RsyncOutputReaderTest, SpeedAndTimeLeft_AreThoseOfTheLastSeconds) {
@@ -386,16 +386,16 @@ TEST(RsyncOutputReaderTest, TalkAmongTheNames_IsNoName) {
                                   "sub/one.mov\ntwo.mov\n\nsent 65 bytes  received 80 bytes\n"
                                   "total size is 80,000  speedup is 1.00\n");
     EXPECT_EQ(now.filesDone, 1);
-    EXPECT_EQ(bare.names(), (std::vector<QByteArray>{"sub/one.mov", "two.mov"}));
+    EXPECT_EQ(bare.names(), (NameList{"sub/one.mov", "two.mov"}));
     Reading sized(cFactory);
     sized("Number of files: 9\n100 Number of files: 7\nsent 65 bytes\n");
-    EXPECT_EQ(sized.names(), std::vector<QByteArray>{"Number of files: 7"});
+    EXPECT_EQ(sized.names(), (NameList{"Number of files: 7"}));
     Reading items(QStringLiteral("rsync -rvi a/ b/"));
     items(">f+++++++++ f1.mov\ncd+++++++++ sub/\n.f..t...... old.mov\n");
-    EXPECT_EQ(items.names(), std::vector<QByteArray>{"f1.mov"});
+    EXPECT_EQ(items.names(), (NameList{"f1.mov"}));
     Reading other(QStringLiteral("rsync --out-format='%o %f' a/ b/"));
     other("recv one.mov\n");
-    EXPECT_TRUE(other.names().empty());
+    EXPECT_EQ(other.names().size(), 0U);
 }
 
 TEST(RsyncOutputReaderTest, ControlCharacters_AreSpelledOut) {
@@ -428,9 +428,7 @@ TEST(RsyncOutputReaderTest, LongNames_AreCountedAndTakeNoMoreThanTheirShare) {
         names += "1 " + QByteArray::number(i) + QByteArray(30'000, 'x') + "\n";
     read(names);
     EXPECT_EQ(read.filesNamed(), 300);
-    qsizetype bytes = 0;
-    for (const QByteArray& name : read.names())
-        bytes += name.size();
+    const qsizetype bytes = read.names().bytes();
     EXPECT_LE(bytes, RsyncOutputReader::cMostNameBytes);
     EXPECT_GT(bytes, RsyncOutputReader::cMostNameBytes - 31'000);
     constexpr qsizetype cEach = RsyncOutputReader::cMostNameBytes / 1024;

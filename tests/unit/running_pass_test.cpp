@@ -289,7 +289,7 @@ TEST_F(RunningPassTest, PullThatTellsItsProgress_IsSeenAsItIs) {
     EXPECT_EQ(seen[1].filesDone, 1);
     EXPECT_EQ(commands.looks, 0) << "the command tells by itself";
     EXPECT_EQ(passes.underWay().at(0).progress, PassProgress()) << "the command has ended";
-    EXPECT_EQ(pass.names(), std::vector<QByteArray>{"a\xff.mov"});
+    EXPECT_EQ(pass.names(), (NameList{"a\xff.mov"}));
 }
 
 TEST_F(RunningPassTest, SamePullOnceMore_KnowsThatTheRestIsHere) {
@@ -369,14 +369,14 @@ TEST_F(RunningPassTest, PullOfWhichMuchIsLeftOut_StillTellsItsNamesAndItsFigures
     commands.results[names] = {cut, {}, 0, 1};
     commands.results[other] = {cut, {}, 0, 16};
     commands.results[statistics] = {QString(cut + cStatistics), {}, 0, 16};
-    std::vector<QByteArray> named;
+    NameList named;
     {
         RunningPass pass(passes, PassKind::Plain);
         for (const QString& command : {names, other, statistics})
             (void)pass.run(PassStep::Pull, {.text = command});
         named = pass.names();
     }
-    EXPECT_EQ(named, (std::vector<QByteArray>{"a.mov", "b.mov", "c.mov", "d.mov"}));
+    EXPECT_EQ(named, (NameList{"a.mov", "b.mov", "c.mov", "d.mov"}));
     ASSERT_EQ(records.size(), 1U);
     const std::vector<CommandRecord>& done = records[0].commands;
     EXPECT_EQ(done[0].transfer.files, 4) << "two of them are not in the text";
@@ -431,7 +431,7 @@ class HalfFilesTest : public RunningPassTest {
 protected:
     void pull() {
         RunningPass pass(passes, PassKind::Plain);
-        names.clear();
+        names = NameList();
         (void)pass.run(PassStep::Pull, {.text = cWithFolder});
         (void)pass.run(PassStep::Movies, {.text = QStringLiteral("the other")});
         names = pass.names();
@@ -451,7 +451,7 @@ protected:
     }
 
     const QByteArray option = cPartialWord.toLatin1();
-    std::vector<QByteArray> names;
+    NameList names;
 };
 
 TEST_F(HalfFilesTest, PullThatWentWell_DoesWithoutTheFolderTheNextTime) {
@@ -530,8 +530,10 @@ TEST_F(HalfFilesTest, LargeFileWithoutTheFolder_IsPulledAgainWithIt) {
     folders();
     pull();
     EXPECT_EQ(folders(), (QByteArrayList{"none", option, "unset"}));
-    EXPECT_EQ(std::set<QByteArray>(names.begin(), names.end()),
-              (std::set<QByteArray>{"small.mov", "large.mov"}));
+    std::set<QByteArray> named;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        named.insert(names[i].toByteArray());
+    EXPECT_EQ(named, (std::set<QByteArray>{"small.mov", "large.mov"}));
     const PassRecord& record = records.back();
     ASSERT_EQ(record.commands.size(), 2U) << "the run that was ended is not written down";
     EXPECT_EQ(record.commands[0].exitStatus, 0);
@@ -548,7 +550,7 @@ TEST_F(HalfFilesTest, SmallFileWithoutTheFolder_ComesAtOnce) {
     folders();
     pull();
     EXPECT_EQ(folders(), (QByteArrayList{"none", "unset"}));
-    EXPECT_EQ(names, std::vector<QByteArray>{"small.mov"});
+    EXPECT_EQ(names, (NameList{"small.mov"}));
 }
 
 TEST_F(HalfFilesTest, WhoeverStartedIt_HearsThePullWithAndWithoutTheFolder) {

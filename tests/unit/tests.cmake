@@ -27,6 +27,7 @@ kelvo_tests(unit
     unit/movie_kinds_test.cpp
     unit/movie_pull_test.cpp
     unit/name_lines_test.cpp
+    unit/name_list_test.cpp
     unit/network_path_monitoring_test.cpp
     unit/notification_center_test.cpp
     unit/once_test.cpp

@@ -4,6 +4,7 @@
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <vector>
 
 namespace kelvo {
 namespace {
@@ -40,10 +41,21 @@ QByteArrayView withWholeBegin(QByteArrayView bytes) {
     return bytes;
 }
 
-QString textOf(QByteArrayView bytes) {
-    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless |
-                                                       QStringConverter::Flag::ConvertInitialBom);
-    return decoder(bytes);
+QStringDecoder decoder() {
+    return QStringDecoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless |
+                                                      QStringConverter::Flag::ConvertInitialBom);
+}
+
+/// In one piece of memory: a second of that size would be much of what the end of a long output
+/// costs.
+QString joined(QByteArrayView head, const QString& note, QByteArrayView tail) {
+    QStringDecoder utf8 = decoder();
+    QString text;
+    text.resize(utf8.requiredSpace(head.size()) + note.size() + utf8.requiredSpace(tail.size()));
+    QChar* end = utf8.appendToBuffer(text.data(), head);
+    end = std::copy(note.begin(), note.end(), end);
+    text.truncate(utf8.appendToBuffer(end, tail) - text.constData());
+    return text;
 }
 
 } // namespace
@@ -65,16 +77,17 @@ void Utf8Collector::took(std::size_t size) {
 Utf8Collector::Collected Utf8Collector::finish() {
     char* const begin = fBytes.get();
     if (fTotal <= static_cast<qint64>(fKept))
-        return {textOf({begin, static_cast<qsizetype>(fTotal)}), 0};
-    std::rotate(begin + fHalf, begin + fAt, begin + fKept);
+        return {decoder()(QByteArrayView(begin, static_cast<qsizetype>(fTotal))), 0};
+    // As std::rotate does, many bytes at a time.
+    const std::vector<char> newest(begin + fHalf, begin + fAt);
+    std::copy(begin + fAt, begin + fKept, begin + fHalf);
+    std::copy(newest.begin(), newest.end(), begin + (fKept - newest.size()));
     const QByteArrayView head = withWholeEnd({begin, static_cast<qsizetype>(fHalf)});
     const QByteArrayView tail =
         withWholeBegin({begin + fHalf, static_cast<qsizetype>(fKept - fHalf)});
     const qint64 leftOut = fTotal - head.size() - tail.size();
-    QString text = textOf(head);
-    text += u"\n… " + QString::number(leftOut) + u" bytes left out …\n";
-    text += textOf(tail);
-    return {text, leftOut};
+    const QString note = u"\n… " + QString::number(leftOut) + u" bytes left out …\n";
+    return {joined(head, note, tail), leftOut};
 }
 
 } // namespace kelvo

@@ -92,10 +92,10 @@ public:
     explicit Lookup(const QByteArray& folder)
         : fTop(openFolder(AT_FDCWD, folder.constData(), 0)), fTopPath(beforeSlash(folder)) {}
 
-    std::optional<FoundFile> find(const QByteArray& name) {
+    std::optional<FoundFile> find(QByteArrayView name) {
         if (!fTop || name.startsWith('/') || name.contains('\0'))
             return {};
-        QByteArrayView way(name);
+        QByteArrayView way = name;
         while (way.endsWith('/') || way == "." || way.endsWith("/."))
             way.chop(1);
         const QByteArrayView last = way.sliced(way.lastIndexOf('/') + 1);
@@ -136,14 +136,13 @@ private:
 
 } // namespace
 
-std::vector<FoundFile> filesBeneath(const QByteArray& folder,
-                                    const std::vector<QByteArray>& names) {
+std::vector<FoundFile> filesBeneath(const QByteArray& folder, const NameList& names) {
     if (folder.contains('\0'))
         return {};
     Lookup lookup(folder);
     std::vector<FoundFile> found;
-    for (const QByteArray& name : names) {
-        if (auto file = lookup.find(name))
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (auto file = lookup.find(names[i]))
             found.push_back(std::move(*file));
     }
     return found;

@@ -6,7 +6,7 @@
 namespace kelvo {
 
 /// As the operations of FileManager of the same names.
-std::vector<FoundFile> filesBeneath(const QByteArray& folder, const std::vector<QByteArray>& names);
+std::vector<FoundFile> filesBeneath(const QByteArray& folder, const NameList& names);
 std::vector<FoundFile>
 filesChangedSince(const QByteArray& folder, const QDateTime& moment,
                   const std::function<bool(QByteArrayView name)>& passedOver);

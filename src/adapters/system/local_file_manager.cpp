@@ -111,7 +111,7 @@ bool LocalFileManager::isWritableFolder(const QString& path) const {
 }
 
 std::vector<FoundFile> LocalFileManager::filesBeneath(const QByteArray& folder,
-                                                      const std::vector<QByteArray>& names) const {
+                                                      const NameList& names) const {
     return kelvo::filesBeneath(folder, names);
 }
 

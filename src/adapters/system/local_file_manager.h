@@ -18,7 +18,7 @@ public:
     bool isWritableFolder(const QString& path) const override;
 
     std::vector<FoundFile> filesBeneath(const QByteArray& folder,
-                                        const std::vector<QByteArray>& names) const override;
+                                        const NameList& names) const override;
     std::vector<FoundFile>
     filesChangedSince(const QByteArray& folder, const QDateTime& moment,
                       const std::function<bool(QByteArrayView name)>& passedOver) const override;
