@@ -250,6 +250,29 @@ TEST(PlistCodecTest, EncodingsOfXml_AreRead) {
     }
 }
 
+/// The text behind `declaration` when the bytes are those of ISO-8859-1.
+QString readInLatin1(const QByteArray& declaration) {
+    const auto root =
+        decodePlist(declaration +
+                    "<plist><dict><key>k</key><string>M\xfcller</string></dict></plist>")
+            .root;
+    return root ? root->value(QStringLiteral("k")).toString() : QStringLiteral("unreadable");
+}
+
+TEST(PlistCodecTest, EncodingOfTheDeclaration_IsFoundHoweverItIsWritten) {
+    for (const char* declaration : {"<?xml version='1.0' encoding='ISO-8859-1' standalone='yes'?>",
+                                    "\n <?xml version=\"1.0\"\tencoding = \"ISO-8859-1\" ?>\n",
+                                    "<?xml version=\"1.0\"\nencoding\n=\n\"ISO-8859-1\"?>"})
+        EXPECT_EQ(readInLatin1(declaration), u"Müller") << declaration;
+    for (const char* none :
+         {"", "<!-- encoding='ISO-8859-1' -->",
+          "<?xml version='1.0'?><!-- encoding='ISO-8859-1'-->", "<?xml xencoding='ISO-8859-1'?>",
+          "<?xml encoding 'ISO-8859-1'?>", "<?xml encoding:'ISO-8859-1'?>",
+          "<?xml encoding=ISO-8859-1?>", "<?xml encoding='ISO-8859-1?>", "<?xml encoding=''?>",
+          "<?xml encoding='?>", "<?xml encoding=?>", "<?xml encoding?>", "<?xml encoding='x'?>"})
+        EXPECT_EQ(readInLatin1(none), u"M\ufffdller") << none;
+}
+
 TEST(PlistCodecTest, CutUtf16_IsAFault) {
     const QByteArray whole = encodedPlist({"UTF-16", "UTF-16LE", "\xff\xfe", 2});
     for (qsizetype length = 0; length < whole.size() - 1; ++length)

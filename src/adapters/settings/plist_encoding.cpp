@@ -1,6 +1,5 @@
 #include "adapters/settings/plist_encoding.h"
 
-#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -11,12 +10,21 @@ namespace {
 constexpr qsizetype cLongestDeclaration = 200;
 
 /// The name in `<?xml … encoding="…"?>`; empty without one.
-QByteArray declaredEncoding(const QByteArray& bytes) {
-    static const QRegularExpression declaration(
-        QStringLiteral(R"(^\s*<\?xml[^>]*\sencoding\s*=\s*["']([A-Za-z0-9._:-]+)["'])"));
-    const QString head =
-        QString::fromLatin1(bytes.first(std::min(bytes.size(), cLongestDeclaration)));
-    return declaration.match(head).captured(1).toLatin1();
+QByteArray declaredEncoding(QByteArrayView bytes) {
+    constexpr QByteArrayView cEncoding = "encoding";
+    QByteArrayView head = bytes.first(std::min(bytes.size(), cLongestDeclaration)).trimmed();
+    const qsizetype end = head.indexOf('>');
+    head = end < 0 ? head : head.first(end);
+    const qsizetype at = head.lastIndexOf(cEncoding);
+    if (!head.startsWith("<?xml") || at < 0 || !QChar::isSpace(uchar(head[at - 1])))
+        return {};
+    head = head.sliced(at + cEncoding.size()).trimmed();
+    if (!head.startsWith('='))
+        return {};
+    head = head.sliced(1).trimmed();
+    const char quote = head.isEmpty() ? '\0' : head[0];
+    const qsizetype close = quote == '"' || quote == '\'' ? head.indexOf(quote, 1) : -1;
+    return close < 0 ? QByteArray() : head.sliced(1, close - 1).toByteArray();
 }
 
 QStringDecoder decoderFor(const QByteArray& bytes) {
