@@ -3,6 +3,11 @@
 #include "support/system_error_text.h"
 
 #include <dlfcn.h>
+#include <link.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -49,6 +54,26 @@ OwnModule loadOwnModule(const char* file, const char* function) {
     if (!found)
         return without(Unloadable, QString::fromLocal8Bit(::dlerror()));
     return {.function = found};
+}
+
+void giveBackStart() {
+    const auto giveBack = [](dl_phdr_info* program, std::size_t, void*) {
+        const auto page = static_cast<ElfW(Addr)>(::sysconf(_SC_PAGESIZE));
+        for (ElfW(Half) i = 0; i < program->dlpi_phnum; ++i) {
+            const ElfW(Phdr)& part = program->dlpi_phdr[i];
+            if (part.p_type != PT_LOAD || (part.p_flags & PF_W) != 0)
+                continue;
+            const ElfW(Addr) begin = program->dlpi_addr + part.p_vaddr;
+            const ElfW(Addr) first = begin & ~(page - 1);
+            (void)::madvise(reinterpret_cast<void*>(first), begin + part.p_memsz - first, // NOLINT
+                            MADV_DONTNEED);
+        }
+        return 1; // The program comes first; its libraries stay.
+    };
+    ::dl_iterate_phdr(giveBack, nullptr);
+#ifdef __GLIBC__
+    ::malloc_trim(0);
+#endif
 }
 
 } // namespace kelvo

@@ -21,4 +21,9 @@ struct OwnModule {
 /// one `function`. It stays loaded; once more costs next to nothing. Main thread.
 OwnModule loadOwnModule(const char* file, const char* function);
 
+/// Gives back to the system what only the start of a module needed that runs in the program's
+/// place: free memory, and what was read of the program's own file, which is read anew should it be
+/// needed once more. Main thread.
+void giveBackStart();
+
 } // namespace kelvo

@@ -3,6 +3,8 @@
 #include "support/running_program.h"
 #include "support/virtual_display.h"
 
+#include <QThread>
+
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
@@ -70,6 +72,44 @@ TEST_F(WindowModuleSystemTest, Window_IsLoadedWhereOneIsWanted) {
     const QStringList mapped = mappedForADisplay(running.processId());
     EXPECT_TRUE(mapped.contains(QStringLiteral("window.so"))) << mapped.join(u' ').toStdString();
     EXPECT_EQ(mapped.filter(QStringLiteral("libQt6Network")), QStringList());
+    EXPECT_EQ(running.stop(), 0);
+}
+
+/// How much of `file` a process has in memory, in KiB.
+int residentOf(const QString& file, qint64 process) {
+    const QString maps =
+        QString::fromLocal8Bit(contents(QStringLiteral("/proc/%1/smaps").arg(process)));
+    int sum = 0;
+    bool isOfFile = false;
+    for (const QString& line : maps.split(u'\n')) {
+        if (line.section(u' ', 0, 0).contains(u'-'))
+            isOfFile = line.endsWith(file);
+        else if (isOfFile && line.startsWith(u"Rss:"))
+            sum += line.simplified().section(u' ', 1, 1).toInt();
+    }
+    return sum;
+}
+
+TEST_F(WindowModuleSystemTest, WindowThatHasCome_HoldsLittleOfTheProgramsFile) {
+    constexpr int cLittle = 200;
+    VirtualDisplay display;
+    const QString name = display.start();
+    if (name.isEmpty())
+        GTEST_SKIP() << "no Xvfb on this machine to open a window on";
+    QProcessEnvironment withDisplay = environment();
+    withDisplay.insert(QStringLiteral("DISPLAY"), name);
+    RunningProgram running(cProgram, {}, withDisplay);
+    ASSERT_TRUE(running.waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
+        << running.transcript().toStdString();
+    // The start ends a moment later.
+    int resident = residentOf(cProgram, running.processId());
+    for (int i = 0; i < 100 && resident > cLittle; ++i) {
+        QThread::msleep(100);
+        resident = residentOf(cProgram, running.processId());
+    }
+    EXPECT_LE(resident, cLittle);
+    EXPECT_GT(resident, 0) << "what was written to stays";
+    EXPECT_GT(residentOf(QStringLiteral("/window.so"), running.processId()), 2 * cLittle);
     EXPECT_EQ(running.stop(), 0);
 }
 

@@ -8,6 +8,7 @@
 #include "app/commands/profiles.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
+#include "app/own_module.h"
 #include "app/start/app_delegate.h"
 #include "app/window/window_actions.h"
 #include "ports/dispatch_queue.h"
@@ -177,6 +178,7 @@ private:
                 "the desktop draws it over the bus."));
         if (!ColorScheme::isTakenOverByToolkit())
             fColorScheme.emplace(takeColors);
+        giveBackStart();
     }
 
     static void takeColors(bool dark) {
