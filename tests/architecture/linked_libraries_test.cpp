@@ -75,8 +75,10 @@ TEST(LinkedLibrariesTest, Bus_GivesOneFunctionAndNothingElse) {
 }
 
 TEST(LinkedLibrariesTest, Window_GivesOneFunctionAndNothingElse) {
-    EXPECT_EQ(outputOf("LC_ALL=C nm -D --defined-only '" KELVO_WINDOW "' | cut -d' ' -f3"),
-              "kelvoMirrorShowWindow\n");
+    // The linker may put a local symbol into the table, which nobody else can bind to.
+    EXPECT_EQ(
+        outputOf("LC_ALL=C nm -D --defined-only --extern-only '" KELVO_WINDOW "' | cut -d' ' -f3"),
+        "kelvoMirrorShowWindow\n");
 }
 
 } // namespace
