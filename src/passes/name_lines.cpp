@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <type_traits>
 
 namespace kelvo {
 namespace {
@@ -121,9 +122,11 @@ NameFormat formatByWords(QStringView command) {
 /// `line` is of bytes or of UTF-16 units.
 template <typename Unit>
 bool beginsAsRemark(std::basic_string_view<Unit> line) {
-    if (line.empty() || line[0] < 0 || line[0] > cLastAscii)
+    if (line.empty())
         return false;
-    const auto sign = static_cast<std::size_t>(line[0]);
+    const std::size_t sign = static_cast<std::make_unsigned_t<Unit>>(line[0]);
+    if (sign > cLastAscii)
+        return false;
     return std::any_of(cRemarks.begin() + cFirstRemarks[sign],
                        cRemarks.begin() + cFirstRemarks[sign + 1], [line](std::string_view begin) {
                            return line.size() >= begin.size() &&

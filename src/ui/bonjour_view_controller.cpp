@@ -139,7 +139,7 @@ void BonjourViewController::tellAside() {
 void BonjourViewController::updateFilteredArray() {
     constexpr QStringView operation = u"updateFilteredArray()";
     std::vector<QStringList> lines;
-    const auto tell = [&lines](const QString& detail) {
+    const auto tell = [&lines, operation](const QString& detail) {
         lines.push_back({insideLine(cTypeName, operation, detail)});
     };
     tell(QStringLiteral("......."));
