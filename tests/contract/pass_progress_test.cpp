@@ -73,6 +73,7 @@ protected:
         auto ended = std::async(std::launch::async, [&] {
             RunningPass pass(fPasses, PassKind::Plain);
             const CommandResult result = pass.run(step, {.text = command});
+            fNames.clear();
             for (std::size_t i = 0; i < pass.names().size(); ++i)
                 fNames.push_back(pass.names()[i].toByteArray());
             return result;
