@@ -184,8 +184,6 @@ std::optional<NamedFile> namedIn(QByteArrayView line, NameFormat format) {
 }
 
 QByteArray unescapedName(QByteArrayView name) {
-    if (!name.contains('\\'))
-        return name.toByteArray();
     QByteArray bytes;
     bytes.reserve(name.size());
     const auto octal = [&name](qsizetype at) { return name[at] >= '0' && name[at] <= '7'; };

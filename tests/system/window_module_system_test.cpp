@@ -9,6 +9,8 @@
 
 #include <sys/stat.h>
 
+#include <memory>
+
 namespace kelvo {
 namespace {
 
@@ -39,6 +41,16 @@ protected:
         ASSERT_TRUE(QFile::copy(cProgram, program));
     }
 
+    /// The program with its window on `display`; nothing where no display can be had.
+    std::unique_ptr<RunningProgram> windowOn(VirtualDisplay& display) const {
+        const QString name = display.start();
+        if (name.isEmpty())
+            return nullptr;
+        QProcessEnvironment withDisplay = environment();
+        withDisplay.insert(QStringLiteral("DISPLAY"), name);
+        return std::make_unique<RunningProgram>(cProgram, QStringList(), withDisplay);
+    }
+
     /// The same program with another library in its place, or with none.
     Ended runWithoutArguments() const { return runToEnd(program, {}); }
 
@@ -61,18 +73,15 @@ TEST_F(WindowModuleSystemTest, PassWithoutAWindow_LoadsNothingOfADisplay) {
 
 TEST_F(WindowModuleSystemTest, Window_IsLoadedWhereOneIsWanted) {
     VirtualDisplay display;
-    const QString name = display.start();
-    if (name.isEmpty())
+    const auto running = windowOn(display);
+    if (!running)
         GTEST_SKIP() << "no Xvfb on this machine to open a window on";
-    QProcessEnvironment withDisplay = environment();
-    withDisplay.insert(QStringLiteral("DISPLAY"), name);
-    RunningProgram running(cProgram, {}, withDisplay);
-    ASSERT_TRUE(running.waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
-        << running.transcript().toStdString();
-    const QStringList mapped = mappedForADisplay(running.processId());
+    ASSERT_TRUE(running->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
+        << running->transcript().toStdString();
+    const QStringList mapped = mappedForADisplay(running->processId());
     EXPECT_TRUE(mapped.contains(QStringLiteral("window.so"))) << mapped.join(u' ').toStdString();
     EXPECT_EQ(mapped.filter(QStringLiteral("libQt6Network")), QStringList());
-    EXPECT_EQ(running.stop(), 0);
+    EXPECT_EQ(running->stop(), 0);
 }
 
 /// How much of `file` a process has in memory, in KiB.
@@ -93,24 +102,21 @@ int residentOf(const QString& file, qint64 process) {
 TEST_F(WindowModuleSystemTest, WindowThatHasCome_HoldsLittleOfTheProgramsFile) {
     constexpr int cLittle = 200;
     VirtualDisplay display;
-    const QString name = display.start();
-    if (name.isEmpty())
+    const auto running = windowOn(display);
+    if (!running)
         GTEST_SKIP() << "no Xvfb on this machine to open a window on";
-    QProcessEnvironment withDisplay = environment();
-    withDisplay.insert(QStringLiteral("DISPLAY"), name);
-    RunningProgram running(cProgram, {}, withDisplay);
-    ASSERT_TRUE(running.waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
-        << running.transcript().toStdString();
+    ASSERT_TRUE(running->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
+        << running->transcript().toStdString();
     // The start ends a moment later.
-    int resident = residentOf(cProgram, running.processId());
+    int resident = residentOf(cProgram, running->processId());
     for (int i = 0; i < 100 && resident > cLittle; ++i) {
         QThread::msleep(100);
-        resident = residentOf(cProgram, running.processId());
+        resident = residentOf(cProgram, running->processId());
     }
     EXPECT_LE(resident, cLittle);
     EXPECT_GT(resident, 0) << "what was written to stays";
-    EXPECT_GT(residentOf(QStringLiteral("/window.so"), running.processId()), 2 * cLittle);
-    EXPECT_EQ(running.stop(), 0);
+    EXPECT_GT(residentOf(QStringLiteral("/window.so"), running->processId()), 2 * cLittle);
+    EXPECT_EQ(running->stop(), 0);
 }
 
 TEST_F(WindowModuleSystemTest, WindowThatIsNotInstalled_IsSaidWithItsPackageAndTheWayOut) {
