@@ -55,8 +55,9 @@ public:
     /// The files beneath `folder` that have changed since `moment`, in no order; what was only
     /// written to, in a folder where nothing else has changed, may be missing. Names that
     /// `passedOver` says yes to are left out, folders with all they hold; links are not followed,
-    /// but for `folder` itself. Costs a reading of every folder and a look at each file of the
-    /// changed ones; ends after 1,000,000 entries with what was found, and goes 100 folders deep.
+    /// but for `folder` itself. Costs a look at every folder, a reading of those that have changed
+    /// or hold others, and a look at each file of the changed ones; ends after 1,000,000 entries
+    /// with what was found, and goes 100 folders deep.
     virtual std::vector<FoundFile>
     filesChangedSince(const QByteArray& folder, const QDateTime& moment,
                       const std::function<bool(QByteArrayView name)>& passedOver) const = 0;

@@ -244,6 +244,24 @@ TEST_F(LocalFileManagerTest, FilesChangedSince_LeaveOutTheOlderNeighbour) {
     EXPECT_TRUE(found[0].path.endsWith("/new"));
 }
 
+TEST_F(LocalFileManagerTest, FilesChangedSince_AreFoundBeneathWhatHasNotChanged) {
+    const QString way = at("no files") + u"/only this/deep";
+    ASSERT_TRUE(QDir().mkpath(way));
+    put(at("no files") + u"/only this/old", "x");
+    const QByteArray top = fFolder.path().toLocal8Bit();
+    const auto before = fileBeneath(top, "no files/only this/old")->changed.addMSecs(1);
+    std::optional<FoundFile> film;
+    do { // The clock of the disk goes on by steps.
+        QFile::remove(way + u"/film");
+        put(way + u"/film", "x");
+        film = fileBeneath(top, "no files/only this/deep/film");
+    } while (film->changed < before);
+    const auto found =
+        fManager.filesChangedSince(top, before, [](QByteArrayView) { return false; });
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].path, film->path);
+}
+
 TEST_F(LocalFileManagerTest, FilesChangedSince_AreLookedForAHundredFoldersDeep) {
     QString path = fFolder.path();
     for (int depth = 1; depth <= 101; ++depth) {

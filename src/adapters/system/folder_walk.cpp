@@ -5,7 +5,13 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#ifdef __linux__
+#include <linux/magic.h>
+#include <sys/vfs.h>
+#endif
 
+#include <algorithm>
+#include <array>
 #include <memory>
 
 namespace kelvo {
@@ -33,6 +39,19 @@ std::optional<FoundFile> regularFile(int parent, const char* name, const QByteAr
                          QDateTime::fromMSecsSinceEpoch(millisecondsOf(entry.st_ctim), Qt::UTC)};
 }
 
+/// Whether no folder lies in this one, told without reading it; false where that is not known. Each
+/// folder in it is a link to it on these file systems: others say 2, or 1, of all.
+bool holdsNoFolder(int folder, const struct stat& own) {
+#ifdef __linux__
+    constexpr std::array cWhereFoldersCount{EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC, TMPFS_MAGIC};
+    struct statfs place {};
+    return own.st_nlink == 2 && ::fstatfs(folder, &place) == 0 &&
+           std::ranges::count(cWhereFoldersCount, place.f_type) > 0;
+#else
+    return false;
+#endif
+}
+
 class Walk {
 public:
     Walk(const QDateTime& moment, const std::function<bool(QByteArrayView)>& passedOver)
@@ -44,6 +63,8 @@ public:
         if (!folder || depth > cMostDepth || ::fstat(folder.get(), &own) != 0)
             return;
         const bool changed = millisecondsOf(own.st_ctim) >= fMoment;
+        if (!changed && holdsNoFolder(folder.get(), own))
+            return;
         const std::unique_ptr<DIR, int (*)(DIR*)> entries(::fdopendir(folder.get()), ::closedir);
         if (!entries)
             return;
