@@ -39,8 +39,10 @@ bool PassBody::hasSettings(PassKind kind) const {
         return remoteAccount(fParts.defaults) && remotePaths(fParts.defaults) &&
                remoteFault(keyPath).isEmpty();
     const auto paths = plainPaths(fParts.defaults);
-    return paths && commandFault(rsyncTemplate(), {paths->source, paths->destination, std::nullopt})
-                        .isEmpty();
+    return paths &&
+           fParts.rsyncCommand
+               .commandFault(rsyncTemplate(), {paths->source, paths->destination, std::nullopt})
+               .isEmpty();
 }
 
 /// Without a fault nothing is refused.
@@ -60,7 +62,7 @@ PassEnd PassBody::runPlain(RunningPass& pass) const {
         return {.lacksSettings = true};
     const RsyncParams params{paths->source, paths->destination, std::nullopt};
     const QString command = rsyncTemplate();
-    if (refuses(pass, cPlainOperation, commandFault(command, params)))
+    if (refuses(pass, cPlainOperation, fParts.rsyncCommand.commandFault(command, params)))
         return {.lacksSettings = true};
     if (!sourceIsThere(pass, paths->source))
         return {};
@@ -117,7 +119,7 @@ PassEnd PassBody::runRemote(RunningPass& pass) const {
         return {.lacksSettings = true};
     const RsyncParams params{paths->source, paths->destination, keyPath};
     const QString usersCommand = rsyncTemplate();
-    if (refuses(pass, cRemoteOperation, commandFault(usersCommand, params)))
+    if (refuses(pass, cRemoteOperation, fParts.rsyncCommand.commandFault(usersCommand, params)))
         return {.lacksSettings = true};
     const auto claim = claimDestination(pass, cRemoteOperation, paths->destination);
     if (!claim)
@@ -141,7 +143,8 @@ QString PassBody::remoteFault(const QString& keyPath) const {
             return fault;
     }
     const auto paths = remotePaths(fParts.defaults);
-    return paths ? commandFault(rsyncTemplate(), {paths->source, paths->destination, keyPath})
+    return paths ? fParts.rsyncCommand.commandFault(rsyncTemplate(),
+                                                    {paths->source, paths->destination, keyPath})
                  : QString();
 }
 

@@ -8,6 +8,8 @@
 #include "support/shell_words.h"
 #include "support/text.h"
 
+#include <algorithm>
+
 namespace kelvo {
 namespace {
 
@@ -86,7 +88,9 @@ std::optional<QString> filledCommand(const QString& command, const RsyncParams& 
     return withFillings(*withSource, later);
 }
 
-QString commandFault(const QString& command, const RsyncParams& params) {
+namespace {
+
+QString placeFault(const RsyncParams& params) {
     const QString source = trimmedText(params.srcpath.value_or(QString()));
     const QString destination = trimmedText(params.dstpath.value_or(QString()));
     if (const QString fault = wordFault(source); !fault.isEmpty())
@@ -101,9 +105,23 @@ QString commandFault(const QString& command, const RsyncParams& params) {
         return QStringLiteral("the destination would be read as the name of a host");
     if (const QString fault = wordFault(params.sshfilepath.value_or(QString())); !fault.isEmpty())
         return u"the path of the key file " + fault;
-    if (!filledCommand(command, params, {}))
-        return QStringLiteral("the command puts a text where it cannot be kept in one word");
     return {};
+}
+
+QString faultOf(const QString& place, bool isFilled) {
+    if (place.isEmpty() && !isFilled)
+        return QStringLiteral("the command puts a text where it cannot be kept in one word");
+    return place;
+}
+
+} // namespace
+
+QString commandFault(const QString& command, const RsyncParams& params) {
+    return faultOf(placeFault(params), filledCommand(command, params, {}).has_value());
+}
+
+QString RsyncCommand::commandFault(const QString& command, const RsyncParams& params) const {
+    return faultOf(placeFault(params), filled(command, params, {}).has_value());
 }
 
 QString RsyncCommand::getRsyncCommandOptionString() const {
@@ -131,10 +149,24 @@ std::optional<QString> RsyncCommand::fillInParams(const QString& command,
                                                   const RsyncParams& params) const {
     tracePathStep(params.srcpath);
     tracePathStep(params.dstpath);
-    std::optional<QString> filled = filledCommand(command, params, getRsyncCommandOptionString());
+    std::optional<QString> filled = this->filled(command, params, getRsyncCommandOptionString());
     fConsole.print(insideLine(u"String", u"fillInParams(srcpath:dstpath:sshfilepath:)",
                               QString(u".......returning:\n" + filled.value_or(QString()))));
     return filled;
+}
+
+std::optional<QString> RsyncCommand::filled(const QString& command, const RsyncParams& params,
+                                            const QString& option) const {
+    const std::lock_guard lock(fMutex);
+    const auto known = std::ranges::find_if(fFilled, [&](const Filled& last) {
+        return last.text && last.command == command && last.params == params &&
+               last.option == option;
+    });
+    if (known != fFilled.end())
+        return known->text;
+    Filled& filled = fFilled[fNext++ % fFilled.size()];
+    filled = {command, params, option, filledCommand(command, params, option)};
+    return filled.text;
 }
 
 void RsyncCommand::tracePathStep(const std::optional<QString>& path) const {

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <array>
+#include <mutex>
 #include <optional>
 
 namespace kelvo {
@@ -23,6 +25,8 @@ struct RsyncParams {
     std::optional<QString> srcpath;
     std::optional<QString> dstpath;
     std::optional<QString> sshfilepath; ///< private key; given only for passes over ssh
+
+    bool operator==(const RsyncParams&) const = default;
 };
 
 /// `command` with its placeholders replaced: the source first, then in one walk destination, key
@@ -37,7 +41,7 @@ std::optional<QString> filledCommand(const QString& command, const RsyncParams& 
 /// unless the source holds a placeholder.
 QString commandFault(const QString& command, const RsyncParams& params);
 
-/// Any thread.
+/// Any thread. An endless pass asks for the same commands again: those filled last are kept.
 class RsyncCommand {
 public:
     RsyncCommand(UserDefaults& defaults, Console& console)
@@ -47,15 +51,31 @@ public:
     /// what is stored and how to mend it.
     QString getRsyncCommandOptionString() const;
 
+    /// As the function of that name.
+    QString commandFault(const QString& command, const RsyncParams& params) const;
+
     /// `filledCommand` with the stored option, traced on the console step by step.
     std::optional<QString> fillInParams(const QString& command, const RsyncParams& params) const;
 
 private:
+    struct Filled {
+        QString command;
+        RsyncParams params;
+        QString option;
+        std::optional<QString> text;
+    };
+
+    std::optional<QString> filled(const QString& command, const RsyncParams& params,
+                                  const QString& option) const;
     [[noreturn]] void stopForTag() const;
     void tracePathStep(const std::optional<QString>& path) const;
 
     UserDefaults& fDefaults;
     Console& fConsole;
+    mutable std::mutex fMutex;
+    /// Of a remote pass: its first command without the option and with it, and its second.
+    mutable std::array<Filled, 3> fFilled;
+    mutable std::size_t fNext = 0; ///< where the next one goes
 };
 
 } // namespace kelvo

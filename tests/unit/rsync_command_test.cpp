@@ -47,6 +47,39 @@ TEST_F(RsyncCommandTest, PlainPass_DropsTheSshPartAndKeepsTheBlanks) {
               u"\"/Users/localuser/Incoming/\"");
 }
 
+TEST_F(RsyncCommandTest, CommandsFilledBefore_AreFilledAnewWhenAnythingDiffers) {
+    const QString plain = QStringLiteral("a %@99 %@1 %@2");
+    const RsyncParams params{QStringLiteral("/from"), QStringLiteral("/to"), std::nullopt};
+    RsyncParams other = params;
+    other.dstpath = QStringLiteral("/elsewhere");
+    setTag(100);
+    for (int pass = 0; pass < 3; ++pass) {
+        EXPECT_EQ(command.fillInParams(plain, params), u"a  /from/ /to/");
+        EXPECT_EQ(command.fillInParams(plain, other), u"a  /from/ /elsewhere/");
+        EXPECT_EQ(command.fillInParams(QStringLiteral("b %@1 %@2"), params), u"b /from/ /to/");
+        EXPECT_EQ(command.fillInParams(QStringLiteral("c %@1 %@2"), params), u"c /from/ /to/");
+    }
+    EXPECT_EQ(command.fillInParams(plain, params), u"a  /from/ /to/");
+    setTag(101);
+    EXPECT_EQ(command.fillInParams(plain, params), u"a --update /from/ /to/");
+    EXPECT_EQ(command.fillInParams(plain, params), u"a --update /from/ /to/");
+}
+
+TEST_F(RsyncCommandTest, FaultsOfCommandsFilledBefore_AreFoundAgain) {
+    const RsyncParams odd{QStringLiteral("/a b"), QStringLiteral("/to"), std::nullopt};
+    const RsyncParams dashed{QStringLiteral("-a"), QStringLiteral("/to"), std::nullopt};
+    setTag(100);
+    const QString unclear = QStringLiteral("echo `rsync %@1 %@2`");
+    EXPECT_EQ(command.commandFault({}, {}), commandFault({}, {}));
+    for (int pass = 0; pass < 3; ++pass) {
+        EXPECT_EQ(command.commandFault(unclear, odd), commandFault(unclear, odd));
+        EXPECT_FALSE(command.commandFault(unclear, odd).isEmpty());
+        EXPECT_EQ(command.fillInParams(unclear, odd), std::nullopt);
+        EXPECT_TRUE(command.commandFault(QStringLiteral("a %@1 %@2"), odd).isEmpty());
+        EXPECT_FALSE(command.commandFault(QStringLiteral("a %@1 %@2"), dashed).isEmpty());
+    }
+}
+
 TEST_F(RsyncCommandTest, NoKeyPath_LeavesTheKeyPlaceholder) {
     EXPECT_EQ(filledCommand(QStringLiteral("a %@3 b%@98c"), {}, u""), u"a %@3 bc");
 }
