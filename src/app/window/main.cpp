@@ -8,9 +8,11 @@
 
 #include <QApplication>
 
+#include <fontconfig/fontconfig.h>
 #include <unistd.h>
 
 #include <cstdio>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -102,6 +104,9 @@ void endAtFatalMessage(QtMsgType type, const QMessageLogContext& context, const 
 extern "C" [[gnu::visibility("default")]] kelvo::ShowWindow kelvoMirrorShowWindow;
 
 int kelvoMirrorShowWindow(int argc, char** argv) {
+    // Which fonts there are is read while the display is talked to; the toolkit asks for it with the
+    // first text that it measures.
+    std::jthread fonts([] { (void)FcInit(); });
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
@@ -118,5 +123,6 @@ int kelvoMirrorShowWindow(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("org.kelvo.KelvoMirror"));
     QApplication::setQuitOnLastWindowClosed(false);
     kelvo::speakTheirLanguage(application);
+    fonts.join(); // Where it is not done by then, it would be begun a second time.
     return kelvo::runProgram(kelvo::windowFront(), commandLine.profile);
 }

@@ -46,6 +46,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDBusConnection>
+#include <QPixmapCache>
 
 #include <utility>
 
@@ -178,7 +179,15 @@ private:
                 "the desktop draws it over the bus."));
         if (!ColorScheme::isTakenOverByToolkit())
             fColorScheme.emplace(takeColors);
+        keepNoPictures();
         giveBackStart();
+    }
+
+    /// The toolkit keeps what it has drawn of buttons and of the icon, and wakes half a minute after
+    /// each paint to throw it away again. It is drawn as quickly anew.
+    static void keepNoPictures() {
+        QPixmapCache::clear();
+        QPixmapCache::setCacheLimit(0);
     }
 
     static void takeColors(bool dark) {
