@@ -20,6 +20,7 @@ constexpr int cRounds = 15;
 constexpr int cRoundsOfMany = 5;
 constexpr int cFew = 100;
 constexpr double cGoal = 1.15;
+constexpr double cGoalOverFloor = 1.1;
 constexpr int cSettleMilliseconds = 2000;
 constexpr int cPatienceMilliseconds = 600000;
 
@@ -120,6 +121,9 @@ public:
     double shell(const QString& command) const {
         return seconds(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command});
     }
+    double bareProgram(const QString& command) const {
+        return seconds(builtProgram(QStringLiteral("kelvo-bare-core")), {command});
+    }
     /// What the last pass ran; empty without one.
     QString lastCommand() const {
         const std::vector<PassRecord> passes = fProfile.recordedPasses();
@@ -158,10 +162,12 @@ std::optional<std::vector<Figure>> measureOnce() {
     (void)folders.pass();
     const QString command = folders.lastCommand();
     const auto rounds = inTurns(folders, cRounds, [&] { return folders.shell(command); });
-    if (!rounds || command.isEmpty())
+    const auto floor = inTurns(folders, cRounds, [&] { return folders.bareProgram(command); });
+    if (!rounds || !floor || command.isEmpty())
         return std::nullopt;
     return std::vector<Figure>{
-        ratioOfTimes(*rounds, "plain --once over 100 files / its command by a bare sh", cGoal)};
+        ratioOfTimes(*rounds, "plain --once over 100 files / its command by a bare sh", cGoal),
+        ratioOfTimes(*floor, "the same / its command by a bare Qt Core program", cGoalOverFloor)};
 }
 
 /// Against what anybody would type: what our command costs a file shows too.

@@ -57,8 +57,9 @@ std::optional<double> measureFlood() {
     RecordingConsole console;
     SqlitePassStore store(folder.filePath(QStringLiteral("passes.sqlite")), mainQueue, console);
     int written = 0;
-    const auto subscription =
-        store.observe([&written](const PassRecord& record) { written += record.id > 0 ? 1 : 0; });
+    const auto subscription = store.observe([&written](const PassRecord& record, const Standing&) {
+        written += record.id > 0 ? 1 : 0;
+    });
     PassRecord record;
     record.began = QDateTime::currentDateTimeUtc();
     for (int i = 0; i < cFilesOfAFlood; ++i)
@@ -113,8 +114,9 @@ std::optional<std::vector<Figure>> measureRecord() {
         commands, {[] { return QDateTime::currentDateTimeUtc(); }, [] { return 0.0; }},
         memoryWholePull(), [&store](const PassRecord& record) { store.append(record); });
     int written = 0;
-    const auto subscription =
-        store.observe([&written](const PassRecord& record) { written += record.id > 0 ? 1 : 0; });
+    const auto subscription = store.observe([&written](const PassRecord& record, const Standing&) {
+        written += record.id > 0 ? 1 : 0;
+    });
     std::vector<double> onThePass;
     const auto begin = Clock::now();
     for (int i = 0; i < cRecorded; ++i) {

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <array>
@@ -20,8 +21,12 @@ using Clock = std::chrono::steady_clock;
 constexpr int cRounds = 15;
 constexpr int cRoundsOfMany = 5;
 constexpr int cMostMilliseconds = 1'800'000;
+constexpr double cGoalOverFloor = 1.1;
 const QString cMac = QStringLiteral("10.77.0.2");
 const QString cUser = QStringLiteral("mediauser");
+const QString cSsh = QStringLiteral("/usr/bin/ssh");
+const QString cShell = QStringLiteral("/bin/sh");
+const QString cRead = QStringLiteral("-c");
 
 QString keyPath() {
     return QDir::homePath() + QStringLiteral("/.ssh/id_kelvoRsync");
@@ -82,8 +87,7 @@ public:
 
 private:
     static bool onTheMac(const QString& command, const QByteArray& input = {}) {
-        return secondsOf(QStringLiteral("/usr/bin/ssh"),
-                         {QStringLiteral("-i"), keyPath(), cUser + u'@' + cMac, command},
+        return secondsOf(cSsh, {QStringLiteral("-i"), keyPath(), cUser + u'@' + cMac, command},
                          QProcessEnvironment::systemEnvironment(), input) >= 0;
     }
 
@@ -113,13 +117,16 @@ public:
         QDir().mkpath(to());
     }
     double once() const { return run(program(), {QStringLiteral("--once")}); }
-    double shell(const QString& commands) const {
-        return run(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), commands});
+    double shell(const QString& commands) const { return run(cShell, {cRead, commands}); }
+    /// Through a connection that is kept in `sockets`, and without the folder for half files.
+    double shellKept(const QString& commands, const QString& sockets) const {
+        QProcessEnvironment environment = this->environment();
+        environment.insert(QStringLiteral("KELVO_MIRROR_CONTROL"), sockets);
+        environment.insert(QStringLiteral("KELVO_MIRROR_PARTIAL"), QString());
+        return secondsOf(cShell, {cRead, commands}, environment);
     }
     double run(const QString& what, const QStringList& arguments) const {
-        QProcessEnvironment environment = fProfile.environment();
-        environment.insert(QStringLiteral("UNISON"), fProfile.path("unison"));
-        return secondsOf(what, arguments, environment);
+        return secondsOf(what, arguments, environment());
     }
     static QString program() { return builtProgram(QStringLiteral("kelvo-mirror")); }
 
@@ -142,7 +149,44 @@ public:
     }
 
 private:
+    QProcessEnvironment environment() const {
+        QProcessEnvironment environment = fProfile.environment();
+        environment.insert(QStringLiteral("UNISON"), fProfile.path("unison"));
+        return environment;
+    }
+
     const Profile fProfile;
+};
+
+/// An ssh connection that others come through, from its begin to its end.
+class KeptByHand {
+public:
+    KeptByHand() {
+        const QStringList way{QStringLiteral("-o"), u"ControlPath=" + sockets() + u"/%C",
+                              QStringLiteral("-i"), keyPath()};
+        const QString account = cUser + u'@' + cMac;
+        fProcess.start(cSsh, QStringList{QStringLiteral("-M"), QStringLiteral("-N")} + way +
+                                 QStringList{account});
+        const QStringList question =
+            way + QStringList{QStringLiteral("-O"), QStringLiteral("check"), account};
+        const auto ours = QProcessEnvironment::systemEnvironment();
+        while (!(fIsOpen = secondsOf(cSsh, question, ours) >= 0) && !fProcess.waitForFinished(50)) {
+        }
+    }
+    ~KeptByHand() {
+        fProcess.terminate();
+        fProcess.waitForFinished();
+    }
+    KeptByHand(const KeptByHand&) = delete;
+    KeptByHand& operator=(const KeptByHand&) = delete;
+
+    bool isOpen() const { return fIsOpen; }
+    QString sockets() const { return fFolder.path(); }
+
+private:
+    const QTemporaryDir fFolder;
+    QProcess fProcess;
+    bool fIsOpen = false;
 };
 
 /// The program that stays, and its passes on demand.
@@ -223,14 +267,19 @@ std::optional<std::vector<Figure>> measureSharing(int files, double goal, double
         return because("The movies did not come over.");
     const QString commands = folder.threeCommands();
     const auto others = peers(folder.to(), goalOverUnison);
+    const KeptByHand connection;
+    if (!connection.isOpen())
+        return because("No connection could be kept by hand.");
     std::vector<double> ours;
     std::vector<double> byHand;
+    std::vector<double> keptByHand;
     std::vector<std::vector<double>> theirs(others.size());
     StayingProgram program(folder);
     for (int round = -1; round < (files > 2000 ? cRoundsOfMany : cRounds); ++round) {
         const double pass = program.pass();
         const double shell = commands.isEmpty() ? -1 : folder.shell(commands);
-        bool well = pass > 0 && shell > 0;
+        const double kept = folder.shellKept(commands, connection.sockets());
+        bool well = pass > 0 && shell > 0 && kept > 0;
         for (std::size_t i = 0; i < others.size() && well; ++i) {
             const double run = folder.run(QString::fromLatin1(others[i].name), others[i].arguments);
             well = run > 0;
@@ -243,10 +292,12 @@ std::optional<std::vector<Figure>> measureSharing(int files, double goal, double
             continue; // the first pass logs in, and others learn what is there
         ours.push_back(pass);
         byHand.push_back(shell);
+        keptByHand.push_back(kept);
     }
     const std::string what = "pass that brings nothing of " + std::to_string(files) + " files / ";
     std::vector<Figure> figures{
-        ratioOfTimes({ours, byHand}, what + "its three commands by a bare sh", goal)};
+        ratioOfTimes({ours, byHand}, what + "its three commands by a bare sh", goal),
+        ratioOfTimes({ours, keptByHand}, what + "the same over a kept connection", cGoalOverFloor)};
     for (std::size_t i = 0; i < others.size(); ++i)
         figures.push_back(ratioOfTimes({ours, theirs[i]}, what + others[i].name, others[i].goal));
     return figures;

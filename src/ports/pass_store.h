@@ -80,6 +80,7 @@ public:
     using Arrivals = std::function<void(std::vector<KeptArrival>)>;
     using Days = std::function<void(std::vector<DayOfPasses>)>;
     using StandingAnswer = std::function<void(Standing)>;
+    using Observer = std::function<void(const PassRecord&, const Standing&)>;
 
     static constexpr int cMostPasses = 10000;
     static constexpr int cMostArrivals = 50000;
@@ -107,9 +108,9 @@ public:
     virtual void read(qint64 id, Record answer) = 0;
 
     /// Calls `observer` on the main queue with each record that has been appended by this program
-    /// from now on, whether it could be written (then it has its number) or not. Without commands,
-    /// with arrivals.
-    virtual Subscription observe(std::function<void(const PassRecord&)> observer) = 0;
+    /// from now on, whether it could be written (then it has its number) or not, and what
+    /// `readStanding` answers after it. Without commands, with arrivals.
+    virtual Subscription observe(Observer observer) = 0;
 };
 
 } // namespace kelvo

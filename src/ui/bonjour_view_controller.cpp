@@ -83,7 +83,7 @@ void BonjourViewController::ibShowBonjourListInfo() {
     for (int time = 0; time < 2; ++time)
         print(cEmptyLines.toString());
     fParts.console.print(
-        QStringList(insideLine(cTypeName, operation, u".......self.fFilteredTable = ")) +
+        QStringList{insideLine(cTypeName, operation, u".......self.fFilteredTable = ")} +
         fTold.tableText);
     for (int time = 0; time < 2; ++time)
         print(cEmptyLines.toString());

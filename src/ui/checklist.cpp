@@ -73,7 +73,7 @@ Checklist::Checklist(Parts parts) : fParts(std::move(parts)) {
                 });
             }));
     }
-    fObservations.push_back(fParts.passes.observe([this](const PassRecord& pass) {
+    fObservations.push_back(fParts.passes.observe([this](const PassRecord& pass, const Standing&) {
         fLastCause = pass.cause;
         look();
     }));

@@ -42,7 +42,8 @@ Notice arrivalsNotice(const std::vector<Arrival>& arrivals) {
 PassNotices::PassNotices(PassStore& store, const UserDefaults& defaults, DesktopNotices& notices,
                          std::function<void(std::optional<qint64>)> show)
     : fDefaults(defaults), fNotices(notices), fShow(std::move(show)),
-      fObservation(store.observe([this](const PassRecord& pass) { heard(pass); })) {}
+      fObservation(
+          store.observe([this](const PassRecord& pass, const Standing&) { heard(pass); })) {}
 
 void PassNotices::heard(const PassRecord& pass) {
     if (turned(pass) && fDefaults.boolForKey(prefShowNotices))

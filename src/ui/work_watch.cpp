@@ -46,16 +46,14 @@ void WorkWatch::begin() {
     for (const QStringView key : {prefEnableScanning, prefIsScanning})
         fObservations.push_back(fParts.defaults.observe(
             key, [this](const DefaultsChange&) { fParts.mainQueue.async([this] { look(); }); }));
-    fObservations.push_back(
-        fParts.passStore.observe([this](const PassRecord&) { readStanding(); }));
-    readStanding();
+    fObservations.push_back(fParts.passStore.observe(
+        [this](const PassRecord&, const Standing& standing) { setStanding(standing); }));
+    fParts.passStore.readStanding([this](const Standing& standing) { setStanding(standing); });
 }
 
-void WorkWatch::readStanding() {
-    fParts.passStore.readStanding([this](Standing standing) {
-        fStanding = std::move(standing);
-        look();
-    });
+void WorkWatch::setStanding(const Standing& standing) {
+    fStanding = standing;
+    look();
 }
 
 void WorkWatch::look() {

@@ -75,7 +75,7 @@ public:
     WorkFacts facts() const;
 
 private:
-    void readStanding();
+    void setStanding(const Standing& standing);
     void refresh();
     void plan();
     void tickIn(double seconds);

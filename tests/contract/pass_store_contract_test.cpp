@@ -194,8 +194,8 @@ TYPED_TEST(PassStoreContractTest, OneRecord_ComesBackWhole) {
 
 TYPED_TEST(PassStoreContractTest, Observer_HearsEachRecordUntilItsSubscriptionEnds) {
     std::vector<PassRecord> told;
-    auto subscription =
-        this->world.store->observe([&](const PassRecord& record) { told.push_back(record); });
+    auto subscription = this->world.store->observe(
+        [&](const PassRecord& record, const Standing&) { told.push_back(record); });
     this->world.store->append(samplePass(1));
     this->settle([&] { return told.size() == 1; });
     expectSame(told.at(0), samplePass(1));
@@ -207,11 +207,31 @@ TYPED_TEST(PassStoreContractTest, Observer_HearsEachRecordUntilItsSubscriptionEn
     EXPECT_EQ(told.size(), 1U);
 }
 
+TYPED_TEST(PassStoreContractTest, Observer_HearsHowThingsStandAfterEachRecord) {
+    std::vector<Standing> told;
+    const auto subscription = this->world.store->observe(
+        [&](const PassRecord&, const Standing& standing) { told.push_back(standing); });
+    for (const PassCause cause : {PassCause::Well, PassCause::DiskFull, PassCause::DiskFull}) {
+        const std::size_t before = told.size();
+        this->world.store->append(passOf(cause, {}));
+        this->settle([&] { return told.size() > before; });
+        const Standing answered = this->standing();
+        EXPECT_EQ(told.back().passesInTrouble, answered.passesInTrouble);
+        EXPECT_EQ(told.back().troubleSince, answered.troubleSince);
+        ASSERT_TRUE(told.back().last && answered.last && answered.lastSuccess);
+        EXPECT_EQ(told.back().last->id, answered.last->id);
+        EXPECT_EQ(told.back().lastSuccess->id, answered.lastSuccess->id);
+    }
+    ASSERT_EQ(told.size(), 3U);
+    EXPECT_EQ(told[0].passesInTrouble, 0);
+    EXPECT_EQ(told[2].passesInTrouble, 2);
+}
+
 TYPED_TEST(PassStoreContractTest, Arrivals_ComeBackWithTheirPassAndNewestFirst) {
     const std::vector<Arrival> first{arrivalOf("/in/a.mov", 1), arrivalOf("/in/bad \xff.mov", 2)};
     std::vector<Arrival> told;
-    const auto subscription =
-        this->world.store->observe([&](const PassRecord& record) { told = record.arrivals; });
+    const auto subscription = this->world.store->observe(
+        [&](const PassRecord& record, const Standing&) { told = record.arrivals; });
     this->world.store->append(passOf(PassCause::Well, first));
     this->settle([&] { return !told.empty(); });
     EXPECT_EQ(told, first);

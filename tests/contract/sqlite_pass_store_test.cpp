@@ -256,7 +256,7 @@ TEST_F(SqlitePassStoreTest, PlaceThatCannotBeWritten_IsSaidOnceAndMadeGoodLater)
     const auto store = openStore();
     std::vector<PassRecord> told;
     const auto subscription =
-        store->observe([&](const PassRecord& record) { told.push_back(record); });
+        store->observe([&](const PassRecord& record, const Standing&) { told.push_back(record); });
     for (int i = 1; i <= 3; ++i)
         store->append(numbered(i));
     EXPECT_TRUE(lines(*store).isEmpty());
@@ -360,7 +360,7 @@ TEST_F(SqlitePassStoreTest, StoreThatIsGone_LeavesNobodyToHearFromIt) {
     mainQueue.runDue();
     auto store = openStore();
     int heard = 0;
-    const auto subscription = store->observe([&](const PassRecord&) { ++heard; });
+    const auto subscription = store->observe([&](const PassRecord&, const Standing&) { ++heard; });
     store->readAll([&](auto) { ++heard; });
     EXPECT_TRUE(waitUntil([&] { return !mainQueue.idle(); })) << "the answer is on its way";
     store->append(numbered(2));

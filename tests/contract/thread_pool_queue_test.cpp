@@ -96,6 +96,17 @@ TEST_F(ThreadPoolQueueTest, OneItemAtATime_UsesOneThreadAgain) {
     EXPECT_LE(queue.threads(), 4u);
 }
 
+TEST_F(ThreadPoolQueueTest, Work_IsLetGoBeforeItsThreadRests) {
+    ThreadPoolQueue queue(1h);
+    for (int i = 0; i < 2; ++i) { // by a new thread, then by one that has rested
+        auto held = std::make_shared<int>();
+        const std::weak_ptr<int> watch = held;
+        queue.async([held] {});
+        held.reset();
+        EXPECT_TRUE(until([&] { return watch.expired(); }));
+    }
+}
+
 TEST_F(ThreadPoolQueueTest, IdleThreads_End) {
     ThreadPoolQueue queue(30ms);
     for (int i = 0; i < 8; ++i)

@@ -37,7 +37,7 @@ public:
             told.id = 0;
         fMainQueue.async([state = fState, told = std::move(told)] {
             for (const auto& [number, observer] : std::map(state->observers))
-                observer(told);
+                observer(told, state->standing);
         });
     }
 
@@ -104,7 +104,7 @@ public:
         fState->standing.aside = aside;
     }
 
-    Subscription observe(std::function<void(const PassRecord&)> observer) override {
+    Subscription observe(Observer observer) override {
         const int number = fState->next++;
         fState->observers.emplace(number, std::move(observer));
         return Subscription([state = fState, number] { state->observers.erase(number); });
@@ -133,7 +133,7 @@ private:
         Standing standing;
         qint64 lastArrival = 0;
         std::vector<PassRecord> records;
-        std::map<int, std::function<void(const PassRecord&)>> observers;
+        std::map<int, Observer> observers;
         qint64 lastId = 0;
         int next = 0;
     };

@@ -178,8 +178,8 @@ StreamConsole::~StreamConsole() {
     {
         const std::lock_guard lock(fMutex);
         fStopping = true;
-        wake();
     }
+    wake();
     fThread.join();
 }
 
@@ -187,22 +187,32 @@ void StreamConsole::printAll(const std::vector<QStringList>& lines) {
     std::vector<QStringList> forJournal;
     if (fOutputIsJournal)
         std::ranges::transform(lines, std::back_inserter(forJournal), withItsPriority);
-    const std::lock_guard lock(fMutex);
-    for (const QStringList& line : fOutputIsJournal ? forJournal : lines)
-        fOutput.add(line);
-    for (const QStringList& line : lines)
-        fFileLines.add(line);
-    wake();
+    bool asleep = false;
+    {
+        const std::lock_guard lock(fMutex);
+        for (const QStringList& line : fOutputIsJournal ? forJournal : lines)
+            fOutput.add(line);
+        for (const QStringList& line : lines)
+            fFileLines.add(line);
+        asleep = std::exchange(fAsleep, false);
+    }
+    if (asleep)
+        wake();
 }
 
 void StreamConsole::log(const QString& text) {
     QStringList line{logPrefix(), text};
     if (fOneStream ? fOutputIsJournal : fErrorsAreJournal)
         line = withPriority(cInformation, std::move(line));
-    const std::lock_guard lock(fMutex);
-    (fOneStream ? fOutput : fErrors).add(line);
-    fFileLines.add({text});
-    wake();
+    bool asleep = false;
+    {
+        const std::lock_guard lock(fMutex);
+        (fOneStream ? fOutput : fErrors).add(line);
+        fFileLines.add({text});
+        asleep = std::exchange(fAsleep, false);
+    }
+    if (asleep)
+        wake();
 }
 
 bool StreamConsole::flush(std::chrono::milliseconds timeout) {
@@ -211,10 +221,8 @@ bool StreamConsole::flush(std::chrono::milliseconds timeout) {
         lock, timeout, [this] { return fOutput.empty() && fErrors.empty() && fFileLines.empty(); });
 }
 
-/// The lock is held.
+/// Without the lock, which the thread wants as soon as it is awake.
 void StreamConsole::wake() {
-    if (!std::exchange(fAsleep, false))
-        return;
     const std::uint64_t one = 1;
     (void)!::write(fWakeUp.get(), &one, sizeof one);
 }

@@ -13,6 +13,10 @@ constexpr std::size_t cMostUnwritten = 100;
 /// A connection of its own, then a new file.
 constexpr int cMostRepairs = 2;
 
+PassDatabase::Outcome readStandingOf(PassDatabase& database, Standing& standing) {
+    return database.readStanding(standing);
+}
+
 } // namespace
 
 SqlitePassStore::SqlitePassStore(const QString& path, DispatchQueue& mainQueue, Console& console,
@@ -55,21 +59,31 @@ void SqlitePassStore::ask(Read read, std::function<void(Result)> answerWith) {
     post(
         [this, read, answerWith = std::move(answerWith)](PassDatabase& database) {
             findLostFile(database);
-            auto result = std::make_shared<Result>();
-            auto outcome = read(database, *result);
-            for (int repairs = 0; !outcome && repaired(database, outcome, repairs);) {
-                (void)writeOut(database);
-                *result = {};
-                outcome = read(database, *result);
-            }
-            note(outcome);
-            if (!outcome)
-                *result = {};
-            if constexpr (std::is_same_v<Result, Standing>)
-                completeStanding(*result);
+            auto result = std::make_shared<Result>(found<Result>(database, read));
             answer([result, answerWith] { answerWith(std::move(*result)); });
         },
         true);
+}
+
+template <typename Result, typename Read>
+Result SqlitePassStore::found(PassDatabase& database, Read read) {
+    Result result;
+    auto outcome = read(database, result);
+    for (int repairs = 0; !outcome && repaired(database, outcome, repairs);) {
+        (void)writeOut(database);
+        result = {};
+        outcome = read(database, result);
+    }
+    note(outcome);
+    if (!outcome)
+        result = {};
+    if constexpr (std::is_same_v<Result, Standing>)
+        completeStanding(result);
+    return result;
+}
+
+Standing SqlitePassStore::standingNow(PassDatabase& database) {
+    return found<Standing>(database, readStandingOf);
 }
 
 void SqlitePassStore::readAll(Records answerWith) {
@@ -89,8 +103,7 @@ void SqlitePassStore::readDays(int days, Days answerWith) {
 }
 
 void SqlitePassStore::readStanding(StandingAnswer answerWith) {
-    ask([](PassDatabase& database, auto& standing) { return database.readStanding(standing); },
-        std::move(answerWith));
+    ask(readStandingOf, std::move(answerWith));
 }
 
 void SqlitePassStore::read(qint64 id, Record answerWith) {
@@ -98,7 +111,7 @@ void SqlitePassStore::read(qint64 id, Record answerWith) {
         std::move(answerWith));
 }
 
-Subscription SqlitePassStore::observe(std::function<void(const PassRecord&)> observer) {
+Subscription SqlitePassStore::observe(Observer observer) {
     const std::lock_guard lock(fObservers->mutex);
     const int number = fObservers->next++;
     fObservers->observers.emplace(number, std::move(observer));
@@ -109,9 +122,11 @@ Subscription SqlitePassStore::observe(std::function<void(const PassRecord&)> obs
 }
 
 void SqlitePassStore::post(Job job, bool question) {
-    const std::lock_guard lock(fMutex);
-    fJobs.emplace_back(std::move(job), question);
-    fPosted.notify_one();
+    {
+        const std::lock_guard lock(fMutex);
+        fJobs.emplace_back(std::move(job), question);
+    }
+    fPosted.notify_one(); // The thread wants the lock as soon as it is awake.
 }
 
 // -- the store's own thread
@@ -140,7 +155,7 @@ void SqlitePassStore::write(PassDatabase& database, PassRecord record) {
     record.id = 0;
     fUnwritten.push_back(record);
     record.id = writeOut(database);
-    announce(std::move(record));
+    announce(std::move(record), standingNow(database));
     while (fUnwritten.size() > cMostUnwritten)
         fUnwritten.pop_front();
 }
@@ -228,12 +243,13 @@ void SqlitePassStore::answer(std::function<void()> give) {
     });
 }
 
-void SqlitePassStore::announce(PassRecord record) {
+void SqlitePassStore::announce(PassRecord record, Standing standing) {
     record.commands.clear();
-    fMainQueue.async([shared = fObservers, record = std::move(record)] { shared->tell(record); });
+    fMainQueue.async([shared = fObservers, record = std::move(record),
+                      standing = std::move(standing)] { shared->tell(record, standing); });
 }
 
-void SqlitePassStore::Observers::tell(const PassRecord& record) {
+void SqlitePassStore::Observers::tell(const PassRecord& record, const Standing& standing) {
     std::vector<int> numbers;
     {
         const std::lock_guard lock(mutex);
@@ -241,14 +257,14 @@ void SqlitePassStore::Observers::tell(const PassRecord& record) {
             numbers.push_back(number);
     }
     for (const int number : numbers) {
-        std::function<void(const PassRecord&)> observer;
+        Observer observer;
         {
             const std::lock_guard lock(mutex);
             if (const auto found = observers.find(number); found != observers.end())
                 observer = found->second;
         }
         if (observer)
-            observer(record);
+            observer(record, standing);
     }
 }
 

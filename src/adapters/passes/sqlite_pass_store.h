@@ -45,24 +45,28 @@ public:
     void readDays(int days, Days answer) override;
     void readStanding(StandingAnswer answer) override;
     void read(qint64 id, Record answer) override;
-    Subscription observe(std::function<void(const PassRecord&)> observer) override;
+    Subscription observe(Observer observer) override;
 
 private:
     using Job = std::function<void(PassDatabase&)>;
     /// Shared with what waits on the main queue; main thread only, but for `add` and `remove`.
     struct Observers {
         std::mutex mutex;
-        std::map<int, std::function<void(const PassRecord&)>> observers;
+        std::map<int, Observer> observers;
         int next = 0;
         bool gone = false;
 
-        void tell(const PassRecord& record);
+        void tell(const PassRecord& record, const Standing& standing);
     };
 
     void post(Job job, bool question);
-    /// Answers with what `read` found, with an empty result when it could not read.
+    /// Answers with what `read` found.
     template <typename Result, typename Read>
     void ask(Read read, std::function<void(Result)> answerWith);
+    /// What `read` finds; an empty result when it cannot read.
+    template <typename Result, typename Read>
+    Result found(PassDatabase& database, Read read);
+    Standing standingNow(PassDatabase& database);
     void work();
     void write(PassDatabase& database, PassRecord record);
     qint64 writeOut(PassDatabase& database);
@@ -72,7 +76,7 @@ private:
     /// Adds what the file does not know.
     void completeStanding(Standing& standing) const;
     void answer(std::function<void()> give);
-    void announce(PassRecord record);
+    void announce(PassRecord record, Standing standing);
 
     const QString fPath;
     const PassLimits fLimits;

@@ -25,17 +25,18 @@ void ThreadPoolQueue::async(Work work) {
     if (!work)
         return;
     std::list<std::thread> ended;
+    bool taken = false;
     {
         const std::lock_guard lock(fMutex);
         if (fStopped)
             return;
-        fWaiting.push_back(std::move(work));
-        if (fWaiting.size() > fFree && fThreads.size() < cMostThreads)
-            startThread();
-        else
-            fPosted.notify_one();
+        taken = fWaiting.size() >= fFree && fThreads.size() < cMostThreads && startThread(work);
+        if (!taken)
+            fWaiting.push_back(std::move(work));
         ended = takeEnded();
     }
+    if (!taken)
+        fPosted.notify_one(); // Who is woken at once wants the lock.
     join(ended);
 }
 
@@ -58,7 +59,9 @@ std::size_t ThreadPoolQueue::threads() const {
     return fThreads.size();
 }
 
-void ThreadPoolQueue::work() {
+void ThreadPoolQueue::work(Work first) {
+    first();
+    first = nullptr;
     std::unique_lock lock(fMutex);
     while (waitForWork(lock)) {
         Work next = std::move(fWaiting.front());
@@ -81,13 +84,18 @@ bool ThreadPoolQueue::waitForWork(std::unique_lock<std::mutex>& lock) {
     return !fStopped && !fWaiting.empty();
 }
 
-void ThreadPoolQueue::startThread() {
+/// False when no thread is to be had: the work waits for one that is there already, none of which
+/// sleeps. The new one does not need the lock for its `first` work.
+bool ThreadPoolQueue::startThread(const Work& first) {
     try {
-        fThreads.emplace_back([this] { work(); });
-        ::pthread_setname_np(fThreads.back().native_handle(), "kelvo-bg");
+        fThreads.emplace_back([this, first = first]() mutable {
+            ::pthread_setname_np(::pthread_self(), "kelvo-bg");
+            work(std::move(first));
+        });
     } catch (const std::system_error&) {
-        // No thread to be had: the work waits for one that is there already, none of which sleeps.
+        return false;
     }
+    return true;
 }
 
 std::list<std::thread> ThreadPoolQueue::takeEnded() {

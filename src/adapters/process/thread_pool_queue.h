@@ -35,9 +35,9 @@ public:
     std::size_t threads() const;
 
 private:
-    void work();
+    void work(Work first);
     bool waitForWork(std::unique_lock<std::mutex>& lock);
-    void startThread();
+    bool startThread(const Work& first);
     /// The threads that have ended by themselves, for joining outside the lock.
     std::list<std::thread> takeEnded();
 

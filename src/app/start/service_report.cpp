@@ -48,8 +48,12 @@ QString serviceStatus(const WorkState& work, const std::optional<QDateTime>& las
 
 void ServiceReport::ready() {
     fParts.tell("READY=1");
-    fObservation = fParts.passes.observe([this](const PassRecord&) { readLastSuccess(); });
-    readLastSuccess();
+    fObservation = fParts.passes.observe(
+        [this](const PassRecord&, const Standing& standing) { setStanding(standing); });
+    fParts.passes.readStanding([this, alive = std::weak_ptr(fAlive)](const Standing& standing) {
+        if (!alive.expired())
+            setStanding(standing);
+    });
     if (fParts.watchdogSeconds)
         beat();
 }
@@ -62,14 +66,9 @@ void ServiceReport::beat() {
     });
 }
 
-void ServiceReport::readLastSuccess() {
-    fParts.passes.readStanding([this, alive = std::weak_ptr(fAlive)](const Standing& standing) {
-        if (alive.expired())
-            return;
-        fLastSuccess =
-            standing.lastSuccess ? std::optional(standing.lastSuccess->began) : std::nullopt;
-        refresh();
-    });
+void ServiceReport::setStanding(const Standing& standing) {
+    fLastSuccess = standing.lastSuccess ? std::optional(standing.lastSuccess->began) : std::nullopt;
+    refresh();
 }
 
 void ServiceReport::show(const WorkState& work) {

@@ -17,6 +17,7 @@ namespace kelvo {
 
 class DispatchQueue;
 class PassStore;
+struct Standing;
 
 /// How it is in one line: "Resting, last success 12:04". The time is local, with its date when that
 /// is another one than today's.
@@ -49,7 +50,7 @@ public:
 
 private:
     void beat();
-    void readLastSuccess();
+    void setStanding(const Standing& standing);
     void refresh();
 
     const Parts fParts;

@@ -90,7 +90,7 @@ public:
         });
         fWindow.syncTab().recentArrivals().setStore(machine.passes);
         fPassEnds = machine.passes.observe(
-            [this](const PassRecord& pass) { fWindow.syncTab().passEnded(pass); });
+            [this](const PassRecord& pass, const Standing&) { fWindow.syncTab().passEnded(pass); });
         fWindow.settingsTab().setLoginItem(machine.loginItem);
         fWindow.settingsTab().setAlerts(fAlerts);
         fWindow.settingsTab().setSshConfiguration(machine.sshConfiguration);
@@ -183,8 +183,8 @@ private:
         giveBackStart();
     }
 
-    /// The toolkit keeps what it has drawn of buttons and of the icon, and wakes half a minute after
-    /// each paint to throw it away again. It is drawn as quickly anew.
+    /// The toolkit keeps what it has drawn of buttons and of the icon, and wakes half a minute
+    /// after each paint to throw it away again. It is drawn as quickly anew.
     static void keepNoPictures() {
         QPixmapCache::clear();
         QPixmapCache::setCacheLimit(0);

@@ -52,7 +52,8 @@ void ActivityTab::build() {
     fPasses->showWork(fWork);
     if (const auto wanted = std::exchange(fWanted, {}))
         showPass(*wanted);
-    fObservation = fParts->store.observe([this](const PassRecord& record) { add(record); });
+    fObservation =
+        fParts->store.observe([this](const PassRecord& record, const Standing&) { add(record); });
 }
 
 void ActivityTab::showEvent(QShowEvent* event) {

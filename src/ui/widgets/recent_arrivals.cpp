@@ -75,7 +75,8 @@ void RecentArrivals::readStore() {
             fArrivals.push_back(each.arrival);
         showArrivals();
         // What is told from here on is not in the answer yet.
-        fObservation = fStore->observe([this](const PassRecord& pass) { add(pass); });
+        fObservation =
+            fStore->observe([this](const PassRecord& pass, const Standing&) { add(pass); });
     });
 }
 
