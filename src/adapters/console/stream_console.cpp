@@ -87,6 +87,7 @@ public:
         : fConsole(console), fOutput(output), fErrors(errors) {}
 
     void run() {
+        ::pthread_setname_np(::pthread_self(), "kelvo-console");
         blockSignals();
         while (takeLines()) {
             if (fFileLine)
@@ -170,9 +171,7 @@ StreamConsole::StreamConsole(int output, int errors, LogFile& logFile)
     : fLogFile(logFile), fOneStream(leadToOneFile(output, errors)),
       fOutputIsJournal(leadsToJournal(output)), fErrorsAreJournal(leadsToJournal(errors)),
       fWakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
-      fThread([this, output, errors] { Writer(*this, output, errors).run(); }) {
-    ::pthread_setname_np(fThread.native_handle(), "kelvo-console");
-}
+      fThread([this, output, errors] { Writer(*this, output, errors).run(); }) {}
 
 StreamConsole::~StreamConsole() {
     {
