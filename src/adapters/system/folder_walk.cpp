@@ -6,8 +6,9 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #ifdef __linux__
-#include <linux/magic.h>
 #include <sys/vfs.h>
+
+#include <linux/magic.h>
 #endif
 
 #include <algorithm>

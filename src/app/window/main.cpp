@@ -8,10 +8,10 @@
 
 #include <QApplication>
 
-#include <fontconfig/fontconfig.h>
 #include <unistd.h>
 
 #include <cstdio>
+#include <fontconfig/fontconfig.h>
 #include <thread>
 #include <vector>
 
@@ -104,8 +104,8 @@ void endAtFatalMessage(QtMsgType type, const QMessageLogContext& context, const 
 extern "C" [[gnu::visibility("default")]] kelvo::ShowWindow kelvoMirrorShowWindow;
 
 int kelvoMirrorShowWindow(int argc, char** argv) {
-    // Which fonts there are is read while the display is talked to; the toolkit asks for it with the
-    // first text that it measures.
+    // Which fonts there are is read while the display is talked to; the toolkit asks for it with
+    // the first text that it measures.
     std::jthread fonts([] { (void)FcInit(); });
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
