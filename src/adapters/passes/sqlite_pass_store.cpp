@@ -155,7 +155,8 @@ void SqlitePassStore::write(PassDatabase& database, PassRecord record) {
     record.id = 0;
     fUnwritten.push_back(record);
     record.id = writeOut(database);
-    announce(std::move(record), standingNow(database));
+    if (fObservers->areThere())
+        announce(std::move(record), standingNow(database));
     while (fUnwritten.size() > cMostUnwritten)
         fUnwritten.pop_front();
 }
@@ -247,6 +248,11 @@ void SqlitePassStore::announce(PassRecord record, Standing standing) {
     record.commands.clear();
     fMainQueue.async([shared = fObservers, record = std::move(record),
                       standing = std::move(standing)] { shared->tell(record, standing); });
+}
+
+bool SqlitePassStore::Observers::areThere() {
+    const std::lock_guard lock(mutex);
+    return !observers.empty();
 }
 
 void SqlitePassStore::Observers::tell(const PassRecord& record, const Standing& standing) {

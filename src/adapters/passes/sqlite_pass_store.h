@@ -49,13 +49,14 @@ public:
 
 private:
     using Job = std::function<void(PassDatabase&)>;
-    /// Shared with what waits on the main queue; main thread only, but for `add` and `remove`.
+    /// Shared with what waits on the main queue. `tell` on the main thread only.
     struct Observers {
         std::mutex mutex;
         std::map<int, Observer> observers;
         int next = 0;
         bool gone = false;
 
+        bool areThere();
         void tell(const PassRecord& record, const Standing& standing);
     };
 
