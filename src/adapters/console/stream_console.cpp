@@ -206,7 +206,8 @@ void StreamConsole::log(const QString& text) {
     bool asleep = false;
     {
         const std::lock_guard lock(fMutex);
-        (fOneStream ? fOutput : fErrors).add(line);
+        // Not shared with the thread once the lock is given back.
+        (fOneStream ? fOutput : fErrors).add(std::exchange(line, {}));
         fFileLines.add({text});
         asleep = std::exchange(fAsleep, false);
     }
