@@ -109,7 +109,8 @@ public:
 
     /// Calls `observer` on the main queue with each record that has been appended by this program
     /// from now on, whether it could be written (then it has its number) or not, and what
-    /// `readStanding` answers after it. Without commands, with arrivals.
+    /// `readStanding` answers after it. Without commands, with arrivals. A record that is
+    /// written while nobody observes is told to nobody, even if somebody begins right then.
     virtual Subscription observe(Observer observer) = 0;
 };
 

@@ -82,10 +82,6 @@ Result SqlitePassStore::found(PassDatabase& database, Read read) {
     return result;
 }
 
-Standing SqlitePassStore::standingNow(PassDatabase& database) {
-    return found<Standing>(database, readStandingOf);
-}
-
 void SqlitePassStore::readAll(Records answerWith) {
     ask([](PassDatabase& database, auto& records) { return database.readAll(records); },
         std::move(answerWith));
@@ -156,7 +152,7 @@ void SqlitePassStore::write(PassDatabase& database, PassRecord record) {
     fUnwritten.push_back(record);
     record.id = writeOut(database);
     if (fObservers->areThere())
-        announce(std::move(record), standingNow(database));
+        announce(std::move(record), found<Standing>(database, readStandingOf));
     while (fUnwritten.size() > cMostUnwritten)
         fUnwritten.pop_front();
 }

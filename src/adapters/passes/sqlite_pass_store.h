@@ -67,7 +67,6 @@ private:
     /// What `read` finds; an empty result when it cannot read.
     template <typename Result, typename Read>
     Result found(PassDatabase& database, Read read);
-    Standing standingNow(PassDatabase& database);
     void work();
     void write(PassDatabase& database, PassRecord record);
     qint64 writeOut(PassDatabase& database);
