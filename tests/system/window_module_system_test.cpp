@@ -41,14 +41,17 @@ protected:
         ASSERT_TRUE(QFile::copy(cProgram, program));
     }
 
-    /// The program with its window on `display`; nothing where no display can be had.
+    /// The program, its window on `display` by now; nothing where no display can be had.
     std::unique_ptr<RunningProgram> windowOn(VirtualDisplay& display) const {
         const QString name = display.start();
         if (name.isEmpty())
             return nullptr;
         QProcessEnvironment withDisplay = environment();
         withDisplay.insert(QStringLiteral("DISPLAY"), name);
-        return std::make_unique<RunningProgram>(cProgram, QStringList(), withDisplay);
+        auto running = std::make_unique<RunningProgram>(cProgram, QStringList(), withDisplay);
+        EXPECT_TRUE(running->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
+            << running->transcript().toStdString();
+        return running;
     }
 
     /// The same program with another library in its place, or with none.
@@ -76,8 +79,6 @@ TEST_F(WindowModuleSystemTest, Window_IsLoadedWhereOneIsWanted) {
     const auto running = windowOn(display);
     if (!running)
         GTEST_SKIP() << "no Xvfb on this machine to open a window on";
-    ASSERT_TRUE(running->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
-        << running->transcript().toStdString();
     const QStringList mapped = mappedForADisplay(running->processId());
     EXPECT_TRUE(mapped.contains(QStringLiteral("window.so"))) << mapped.join(u' ').toStdString();
     EXPECT_EQ(mapped.filter(QStringLiteral("libQt6Network")), QStringList());
@@ -105,8 +106,6 @@ TEST_F(WindowModuleSystemTest, WindowThatHasCome_HoldsLittleOfTheProgramsFile) {
     const auto running = windowOn(display);
     if (!running)
         GTEST_SKIP() << "no Xvfb on this machine to open a window on";
-    ASSERT_TRUE(running->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 60))
-        << running->transcript().toStdString();
     // The start ends a moment later.
     int resident = residentOf(cProgram, running->processId());
     for (int i = 0; i < 100 && resident > cLittle; ++i) {
