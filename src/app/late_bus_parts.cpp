@@ -1,9 +1,9 @@
 #include "app/bus_parts.h"
-#include "app/own_module.h"
 #include "app/version.h"
 #include "ports/console.h"
 #include "ports/dispatch_queue.h"
 #include "ports/dnssd_browser.h"
+#include "starter/own_module.h"
 #include "support/profile.h"
 
 #include <utility>
@@ -20,7 +20,7 @@ const BusParts* busParts(Console& console) {
         console.log(QStringLiteral("The message bus is not used, for the program's own part for it "
                                    "cannot be loaded: %1")
                         .arg(give ? QStringLiteral("it belongs to another version of the program")
-                                  : module.detail));
+                                  : QString::fromLocal8Bit(module.detail)));
     return parts;
 }
 

@@ -7,9 +7,6 @@
 
 namespace kelvo {
 
-/// What the program ends with where a window is wanted and none can be opened.
-inline constexpr int cExitNoWindow = 3;
-
 /// Says `reason`, a sentence without its full stop, on standard error; returns `exitCode`.
 inline int printReason(const QString& reason, int exitCode) {
     std::fputs(qPrintable(QString(u"kelvo-mirror: " + reason + u".\n")), stderr);

@@ -4,6 +4,7 @@ kelvo_tests(architecture
 )
 target_compile_definitions(architecture_tests PRIVATE
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror"
+  KELVO_PROGRAM_PART="$<TARGET_FILE:kelvo_program>"
   KELVO_BUS="$<TARGET_FILE:kelvo_bus>"
   KELVO_WINDOW="$<TARGET_FILE:kelvo_window>"
   KELVO_SOURCE_FOLDER="${CMAKE_SOURCE_DIR}/src"

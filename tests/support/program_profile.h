@@ -48,6 +48,19 @@ public:
     }
     QString logFile() const { return path(QStringLiteral("state/Kelvo/kelvo-mirror.log")); }
 
+    /// A copy of the built program in this folder, with its part without a window and nothing
+    /// else; the path of its file. Empty when it cannot be made.
+    QString copiedProgram() const {
+        const QFileInfo built(QStringLiteral(KELVO_PROGRAM));
+        const QString part = QStringLiteral("lib/kelvo-mirror/program.so");
+        const QString program = path(QStringLiteral("copy/bin/kelvo-mirror"));
+        QDir().mkpath(path(QStringLiteral("copy/bin")));
+        QDir().mkpath(path(QStringLiteral("copy/lib/kelvo-mirror")));
+        const bool made = QFile::copy(built.filePath(), program) &&
+                          QFile::copy(built.path() + u"/../" + part, path(u"copy/" + part));
+        return made ? program : QString();
+    }
+
     /// Without a display; everything of the user's lies in the folder.
     QProcessEnvironment environment() const {
         QProcessEnvironment own = QProcessEnvironment::systemEnvironment();

@@ -83,11 +83,14 @@ TEST_P(HardeningSystemTest, FunctionsOfTheCLibrary_CheckTheirBuffers) {
 }
 
 std::string nameOf(const ::testing::TestParamInfo<const char*>& info) {
-    return info.index == 0 ? "Program" : info.index == 1 ? "Sentinel" : "Window";
+    constexpr const char* cNames[] = {"Program", "Sentinel", "Part", "Window"};
+    return cNames[info.index];
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, HardeningSystemTest,
-                         ::testing::Values(KELVO_PROGRAM, KELVO_SENTINEL, KELVO_WINDOW), nameOf);
+                         ::testing::Values(KELVO_PROGRAM, KELVO_SENTINEL, KELVO_PROGRAM_PART,
+                                           KELVO_WINDOW),
+                         nameOf);
 
 } // namespace
 } // namespace kelvo

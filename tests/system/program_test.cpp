@@ -147,9 +147,8 @@ TEST_F(ProgramTest, LogFolderThatCannotBeWritten_IsSaidAndTheProgramRuns) {
 }
 
 TEST_F(ProgramTest, BrokenInfo_IsSaidAndTheProgramRunsWithoutAVersion) {
-    QDir().mkpath(path(QStringLiteral("copy/bin")));
-    const QString copy = path(QStringLiteral("copy/bin/kelvo-mirror"));
-    ASSERT_TRUE(QFile::copy(cProgram, copy));
+    const QString copy = copiedProgram();
+    ASSERT_NE(copy, QString());
     write(path(QStringLiteral("copy/lib/kelvo-mirror/Info.plist")), "no property list");
     const auto program = start({}, copy);
     EXPECT_TRUE(program->waitForLine(QStringLiteral("great got self.fKelvoSSID..."), 30));
@@ -241,10 +240,8 @@ TEST_F(ProgramTest, BrokenSettings_AreSetAsideAndSaid) {
 }
 
 TEST_F(ProgramTest, FactoryDefaultsMissing_IsSaidAndTheProgramRuns) {
-    QDir().mkpath(path(QStringLiteral("copy/bin")));
-    QDir().mkpath(path(QStringLiteral("copy/lib/kelvo-mirror")));
-    const QString copy = path(QStringLiteral("copy/bin/kelvo-mirror"));
-    ASSERT_TRUE(QFile::copy(cProgram, copy));
+    const QString copy = copiedProgram();
+    ASSERT_NE(copy, QString());
     const auto program = start({}, copy);
     EXPECT_TRUE(program->waitForLine(
         QStringLiteral("Oops something went wrong with registering facotry defaults...."), 30));

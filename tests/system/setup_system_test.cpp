@@ -154,10 +154,8 @@ TEST_F(SetupDiscoverySystemTest, MacThatDiscoveryKnows_IsListed) {
 }
 
 TEST_F(SetupDiscoverySystemTest, ProgramWithoutItsPartForTheBus_AsksForTheMacAllTheSame) {
-    QDir().mkpath(path(QStringLiteral("copy/bin")));
-    QDir().mkpath(path(QStringLiteral("copy/lib/kelvo-mirror")));
-    const QString copy = path(QStringLiteral("copy/bin/kelvo-mirror"));
-    ASSERT_TRUE(QFile::copy(cProgram, copy));
+    const QString copy = copiedProgram();
+    ASSERT_NE(copy, QString());
     PtyProgram program({copy, QStringLiteral("--setup")}, withDiscovery());
     EXPECT_TRUE(program.shows("Discovery is not installed on this machine."))
         << program.transcript();

@@ -38,6 +38,7 @@ target_compile_definitions(system_tests PRIVATE
   KELVO_HARDENED_BUILD=$<BOOL:${KELVO_HARDENED}>
   KELVO_PICTURES="${CMAKE_BINARY_DIR}/pictures"
   KELVO_PROGRAM="${CMAKE_BINARY_DIR}/bin/kelvo-mirror"
+  KELVO_PROGRAM_PART="$<TARGET_FILE:kelvo_program>"
   KELVO_SENTINEL="$<TARGET_FILE:kelvo_sentinel>"
   KELVO_WATCHED_PROGRAM="$<TARGET_FILE:watched_program>"
   KELVO_TRAY_PROGRAM="$<TARGET_FILE:tray_program>"

@@ -1,10 +1,10 @@
-// The way into the window, a module that the program loads when a window is wanted.
+// The way into the part with a window.
 #include "adapters/display/displays.h"
-#include "app/commands/command_line.h"
+#include "app/launch.h"
 #include "app/program.h"
 #include "app/reason.h"
 #include "app/window/language.h"
-#include "app/window_module.h"
+#include "starter/part.h"
 
 #include <QApplication>
 
@@ -101,16 +101,18 @@ void endAtFatalMessage(QtMsgType type, const QMessageLogContext& context, const 
 
 } // namespace
 
-extern "C" [[gnu::visibility("default")]] kelvo::ShowWindow kelvoMirrorShowWindow;
+extern "C" [[gnu::visibility("default")]] kelvo::RunPart kelvoMirrorRun;
 
-int kelvoMirrorShowWindow(int argc, char** argv) {
+int kelvoMirrorRun(int argc, char** argv) {
+    kelvo::CommandLine commandLine = kelvo::readCommandLine(argc, argv);
+    if (commandLine.kind != kelvo::LaunchKind::Window &&
+        commandLine.kind != kelvo::LaunchKind::Refuse)
+        return kelvo::cOtherPart;
+    if (const auto exitCode = kelvo::refused(commandLine))
+        return *exitCode;
     // Which fonts there are is read while the display is talked to; the toolkit asks for it with
-    // the first text that it measures.
+    // the first text that it measures. With one heap for both, either would wait for the other.
     std::jthread fonts([] { (void)FcInit(); });
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    kelvo::CommandLine commandLine = kelvo::parseCommandLine(arguments);
     if (const QString missing = missingDisplay(commandLine.window); !missing.isEmpty())
         return kelvo::printReason(missing + u". Run 'kelvo-mirror --headless' to work without one",
                                   kelvo::cExitNoWindow);
@@ -124,5 +126,6 @@ int kelvoMirrorShowWindow(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     kelvo::speakTheirLanguage(application);
     fonts.join(); // Where it is not done by then, it would be begun a second time.
+    kelvo::keepMemorySmall();
     return kelvo::runProgram(kelvo::windowFront(), commandLine.profile);
 }

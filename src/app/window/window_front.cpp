@@ -8,7 +8,6 @@
 #include "app/commands/profiles.h"
 #include "app/front.h"
 #include "app/machine_parts.h"
-#include "app/own_module.h"
 #include "app/start/app_delegate.h"
 #include "app/window/window_actions.h"
 #include "ports/dispatch_queue.h"
@@ -47,6 +46,10 @@
 #include <QClipboard>
 #include <QDBusConnection>
 #include <QPixmapCache>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include <utility>
 
@@ -180,7 +183,7 @@ private:
         if (!ColorScheme::isTakenOverByToolkit())
             fColorScheme.emplace(takeColors);
         keepNoPictures();
-        giveBackStart();
+        giveMemoryBack();
     }
 
     /// The toolkit keeps what it has drawn of buttons and of the icon, and wakes half a minute
@@ -190,11 +193,20 @@ private:
         QPixmapCache::setCacheLimit(0);
     }
 
+    /// What only the start needed.
+    static void giveMemoryBack() {
+#ifdef __GLIBC__
+        ::malloc_trim(0);
+#endif
+    }
+
     static void takeColors(bool dark) {
         QApplication::setPalette(dark ? darkPalette() : QPalette());
     }
 
-    static void copyText(const QString& text) { QApplication::clipboard()->setText(text); }
+    static void copyText(const QString& text) {
+        QApplication::clipboard()->setText(text);
+    }
 
     void apply(Remedy remedy) {
         switch (remedy) {
