@@ -25,14 +25,17 @@ void ElidedLabel::setFullText(const QString& text) {
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
-    const int few = fontMetrics().horizontalAdvance(QStringLiteral("mmmm…mmmm"));
-    return {std::min(few, sizeHint().width()), QLabel::minimumSizeHint().height()};
+    fFew.measure(*this, QStringLiteral("mmmm…mmmm"));
+    const QSize whole = sizeHint();
+    return {std::min(fFew.size().width(), whole.width()), whole.height()};
 }
 
 QSize ElidedLabel::sizeHint() const {
+    fWhole.measure(*this, fFullText);
     const QMargins around = contentsMargins();
-    return {fontMetrics().horizontalAdvance(fFullText) + around.left() + around.right() + 2,
-            std::max(QLabel::sizeHint().height(), fontMetrics().height())};
+    return {fWhole.size().width() + around.left() + around.right() + 2,
+            std::max(fWhole.size().height(), fontMetrics().height()) + around.top() +
+                around.bottom()};
 }
 
 void ElidedLabel::resizeEvent(QResizeEvent* event) {
@@ -63,8 +66,11 @@ void ElidedLabel::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void ElidedLabel::elide() {
-    const QString shown =
-        fontMetrics().elidedText(fFullText, Qt::ElideMiddle, contentsRect().width());
+    const int room = contentsRect().width();
+    fWhole.measure(*this, fFullText);
+    const QString shown = fWhole.size().width() <= room
+                              ? fFullText
+                              : fontMetrics().elidedText(fFullText, Qt::ElideMiddle, room);
     setText(shown);
     setToolTip(shown == fFullText ? QString() : plainToolTip(fFullText));
 }

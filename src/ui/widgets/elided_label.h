@@ -1,6 +1,8 @@
 // ElidedLabel: a line of plain text that gives up its middle when the room is short.
 #pragma once
 
+#include "ui/widgets/text_size.h"
+
 #include <QLabel>
 
 namespace kelvo {
@@ -27,6 +29,8 @@ private:
     void alignToLayout();
 
     QString fFullText;
+    mutable TextSize fWhole;
+    mutable TextSize fFew; ///< of the few letters that it keeps when there is little room
 };
 
 /// `text` as a tool tip that shows it letter by letter, whatever markup it looks like.

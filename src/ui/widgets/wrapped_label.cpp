@@ -9,6 +9,8 @@ namespace {
 constexpr std::size_t cMostWidths = 8;
 /// What rounding may add to a line, with room to spare.
 constexpr int cSlack = 8;
+/// How many letters a line takes at most where the text has the choice.
+constexpr int cLettersOfALine = 80;
 
 } // namespace
 
@@ -17,36 +19,51 @@ WrappedLabel::WrappedLabel(QWidget* parent) : QLabel(parent) {
     setWordWrap(true);
 }
 
+QSize WrappedLabel::sizeHint() const {
+    const QSize whole = wholeSize();
+    const int line = std::min(fontMetrics().averageCharWidth() * cLettersOfALine, maximumWidth());
+    // Rather high than wide, as the toolkit has it.
+    int width = line;
+    if (whole.width() <= line / 4)
+        width = whole.width();
+    else if (whole.width() <= line / 2)
+        width = line / 4;
+    else if (whole.width() < 3 * line)
+        width = line / 2;
+    const int lines = width > 0 ? (whole.width() + width - 1) / width : 1;
+    return QSize(width, whole.height() * lines)
+        .grownBy(contentsMargins())
+        .expandedTo(minimumSize());
+}
+
+QSize WrappedLabel::minimumSizeHint() const {
+    const QSize whole = wholeSize();
+    if (!fLongestWord)
+        fLongestWord = fontMetrics()
+                           .boundingRect(QRect(0, 0, 0, QWIDGETSIZE_MAX),
+                                         Qt::AlignLeft | Qt::TextWordWrap, text())
+                           .width();
+    return QSize(*fLongestWord, whole.height()).grownBy(contentsMargins());
+}
+
 int WrappedLabel::heightForWidth(int width) const {
-    const int line = fontMetrics().lineSpacing();
-    if (text() != fMeasuredText || font() != fMeasuredFont || line != fMeasuredLine) {
-        fMeasuredText = text();
-        fMeasuredFont = font();
-        fMeasuredLine = line;
-        fHeights.clear();
-        fOneLineHeight.reset();
-        fWholeWidth.reset();
-    }
+    const QSize whole = wholeSize().grownBy(contentsMargins());
+    if (width >= whole.width() + cSlack)
+        return std::max(whole.height(), minimumHeight());
     const auto known = std::ranges::find(fHeights, width, &std::pair<int, int>::first);
     if (known != fHeights.end())
         return known->second;
-    if (fOneLineHeight && width >= wholeWidth())
-        return *fOneLineHeight;
     if (fHeights.size() == cMostWidths)
         fHeights.clear();
-    const int height = fHeights.emplace_back(width, QLabel::heightForWidth(width)).second;
-    if (height < 2 * line)
-        fOneLineHeight = height;
-    return height;
+    return fHeights.emplace_back(width, QLabel::heightForWidth(width)).second;
 }
 
-int WrappedLabel::wholeWidth() const {
-    if (!fWholeWidth) {
-        const QMargins around = contentsMargins();
-        fWholeWidth =
-            fontMetrics().horizontalAdvance(text()) + around.left() + around.right() + cSlack;
+QSize WrappedLabel::wholeSize() const {
+    if (fWhole.measure(*this, text())) {
+        fHeights.clear();
+        fLongestWord.reset();
     }
-    return *fWholeWidth;
+    return fWhole.size();
 }
 
 } // namespace kelvo

@@ -1,6 +1,8 @@
 // WrappedLabel: a plain text of as many lines as its width makes it.
 #pragma once
 
+#include "ui/widgets/text_size.h"
+
 #include <QLabel>
 
 #include <optional>
@@ -9,25 +11,24 @@
 
 namespace kelvo {
 
-/// The height for a width is measured once while text and letters stay the same: a layout asks for
-/// it a dozen times, and each measure breaks the text into lines anew. A text that stands in one
-/// line is not measured again for widths that it fits into. Main thread only.
+/// What it measures is kept while text and letters stay the same: layouts ask a dozen times, and
+/// each measure breaks the text into lines anew. Nothing is measured for widths that the whole
+/// text fits into. Main thread only.
 class WrappedLabel final : public QLabel {
     Q_OBJECT
 public:
     explicit WrappedLabel(QWidget* parent = nullptr);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     int heightForWidth(int width) const override;
 
 private:
-    int wholeWidth() const;
+    QSize wholeSize() const;
 
-    mutable QString fMeasuredText;
-    mutable QFont fMeasuredFont;
-    mutable int fMeasuredLine = 0; ///< how high a line was, which a screen can change too
+    mutable TextSize fWhole;
+    mutable std::optional<int> fLongestWord;           ///< how wide it is
     mutable std::vector<std::pair<int, int>> fHeights; ///< of widths, measured so far
-    mutable std::optional<int> fOneLineHeight;         ///< of a width that was measured so far
-    mutable std::optional<int> fWholeWidth;            ///< in which there is surely one line
 };
 
 } // namespace kelvo
