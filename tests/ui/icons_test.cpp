@@ -120,7 +120,7 @@ TEST(IconsTest, Sign_StandsOutOnAPanelOfEitherColour) {
 
 TEST(IconsTest, ApplicationIcon_StandsOutOnLightAndDark) {
     const QIcon icon = applicationIcon();
-    for (const int side : {16, 24, 32, 48, 64, 128, 256}) {
+    for (const int side : {16, 24, 32, 48, 64, 128}) {
         ASSERT_EQ(icon.actualSize(QSize(side, side)), QSize(side, side));
         EXPECT_GT(readablePart(icon, side, Qt::white), 0.3) << side;
         EXPECT_GT(readablePart(icon, side, QColor(0x20, 0x20, 0x20)), 0.3) << side;

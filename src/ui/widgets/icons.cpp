@@ -15,7 +15,8 @@ static void loadIconResources() {
 namespace kelvo {
 namespace {
 
-constexpr auto cApplicationSizes = {16, 22, 24, 32, 48, 64, 128, 256};
+/// As large as the toolkit asks an icon without sizes; whoever wants it larger has the drawing.
+constexpr auto cApplicationSizes = {16, 22, 24, 32, 48, 64, 128};
 constexpr auto cTraySizes = {16, 22, 24, 32, 48};
 constexpr qreal cRimOpacity = 0.85;
 
