@@ -59,9 +59,13 @@ void ChecklistView::showLines(const std::vector<ChecklistLine>& lines) {
         }
         row.button->setVisible(row.remedy != Remedy::None);
     }
+    if (lines.empty())
+        return;
+    // Laid out at the width it began with, it would have each text measured in many lines.
+    if (isHidden() && parentWidget())
+        resize(std::max(width(), parentWidget()->width()), height());
     // Last: each row that comes into sight has all of the page laid out.
-    if (!lines.empty())
-        show();
+    show();
 }
 
 void ChecklistView::addRow() {

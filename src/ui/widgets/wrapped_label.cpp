@@ -20,20 +20,11 @@ WrappedLabel::WrappedLabel(QWidget* parent) : QLabel(parent) {
 }
 
 QSize WrappedLabel::sizeHint() const {
-    const QSize whole = wholeSize();
-    const int line = std::min(fontMetrics().averageCharWidth() * cLettersOfALine, maximumWidth());
-    // Rather high than wide, as the toolkit has it.
-    int width = line;
-    if (whole.width() <= line / 4)
-        width = whole.width();
-    else if (whole.width() <= line / 2)
-        width = line / 4;
-    else if (whole.width() < 3 * line)
-        width = line / 2;
+    const QSize whole = wholeSize().grownBy(contentsMargins());
+    const int width = std::min(
+        {whole.width(), maximumWidth(), fontMetrics().averageCharWidth() * cLettersOfALine});
     const int lines = width > 0 ? (whole.width() + width - 1) / width : 1;
-    return QSize(width, whole.height() * lines)
-        .grownBy(contentsMargins())
-        .expandedTo(minimumSize());
+    return QSize(width, whole.height() * lines).expandedTo(minimumSize());
 }
 
 QSize WrappedLabel::minimumSizeHint() const {
