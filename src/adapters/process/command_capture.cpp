@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t cKeptErrors = std::size_t{48} * 1024;
 /// A command that prints line by line wakes us no more often than this; in that time it fills no
 /// pipe.
-constexpr auto cGathering = std::chrono::milliseconds(20);
+constexpr auto cGathering = std::chrono::milliseconds(100);
 /// Who has more to say than this at a time is read without a rest.
 constexpr std::size_t cMuch = std::size_t{64} * 1024;
 /// A flood must not hold up the quit: no more than a full pipe is read after giving up.
