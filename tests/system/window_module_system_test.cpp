@@ -1,10 +1,12 @@
 // The window as a part that may be missing: what is loaded without it, and what is said for it.
+#include "starter/part.h"
 #include "support/program_profile.h"
 #include "support/running_program.h"
 #include "support/virtual_display.h"
 
 #include <gtest/gtest.h>
 
+#include <dlfcn.h>
 #include <sys/stat.h>
 
 #include <memory>
@@ -172,6 +174,21 @@ TEST_F(WindowModuleSystemTest, ProgramWithoutItsPart_SaysSo) {
     EXPECT_EQ(ended.code, 1);
     EXPECT_EQ(ended.errors,
               "kelvo-mirror: its own part cannot be loaded: No such file or directory.\n");
+}
+
+TEST_F(WindowModuleSystemTest, EachPart_LeavesAloneWhatIsTheOthers) {
+    char name[] = "kelvo-mirror";
+    char version[] = "--version";
+    char* forProgram[] = {name, version, nullptr};
+    char* forWindow[] = {name, nullptr};
+    const auto run = [](const char* part, int count, char** words) {
+        void* const library = ::dlopen(part, RTLD_LAZY | RTLD_LOCAL);
+        auto* const function =
+            library ? reinterpret_cast<RunPart*>(::dlsym(library, cRunPart)) : nullptr;
+        return function ? function(count, words) : 0;
+    };
+    EXPECT_EQ(run(KELVO_WINDOW, 2, forProgram), cOtherPart);
+    EXPECT_EQ(run(KELVO_PROGRAM_PART, 1, forWindow), cOtherPart);
 }
 
 TEST_F(WindowModuleSystemTest, OptionOfTheToolkit_LeadsToTheWindowToo) {

@@ -8,15 +8,24 @@ namespace {
 
 const QString cText = QStringLiteral("The Mac is away or asleep. Wake it, then try again.");
 
-/// A label as the toolkit makes it, set up alike.
-int measured(const WrappedLabel& like, int width) {
+/// Has a label as the toolkit makes it, set up alike, answer.
+template <typename Question>
+int answered(const WrappedLabel& like, const Question& question) {
     QLabel label(QStringLiteral("a text once"));
     label.setText(like.text());
     label.setTextFormat(Qt::PlainText);
     label.setWordWrap(true);
     label.setTextInteractionFlags(like.textInteractionFlags());
     label.setFont(like.font());
-    return label.heightForWidth(width);
+    return question(label);
+}
+
+int measured(const WrappedLabel& like, int width) {
+    return answered(like, [width](const QLabel& label) { return label.heightForWidth(width); });
+}
+
+int longestWord(const WrappedLabel& like) {
+    return answered(like, [](const QLabel& label) { return label.minimumSizeHint().width(); });
 }
 
 TEST(WrappedLabelTest, Heights_AreThoseOfTheTextAsItIs) {
@@ -29,6 +38,7 @@ TEST(WrappedLabelTest, Heights_AreThoseOfTheTextAsItIs) {
                 for (const int width : {4000, 900, 460, 380, 300, 220, 140, 60, 300, 2000, 3900})
                     EXPECT_EQ(label.heightForWidth(width), measured(label, width))
                         << what << ' ' << width;
+                EXPECT_EQ(label.minimumSizeHint().width(), longestWord(label)) << what;
             }
         };
         label.setText(cText);
@@ -55,6 +65,17 @@ TEST(WrappedLabelTest, TextOfOneLine_BreaksWhereItsPlaceEnds) {
         for (int width = whole + 20; width > whole - 20; --width)
             EXPECT_EQ(label.heightForWidth(width), measured(label, width)) << width - whole;
     }
+}
+
+TEST(WrappedLabelTest, Hint_IsTheWholeTextUpToALineOf80Letters) {
+    WrappedLabel label;
+    label.setText(QStringLiteral("Wake it."));
+    EXPECT_EQ(label.sizeHint(), QLabel(label.text()).sizeHint());
+    label.setText(QString(cText + u' ').repeated(10));
+    const QSize hint = label.sizeHint();
+    EXPECT_EQ(hint.width(), label.fontMetrics().averageCharWidth() * 80);
+    EXPECT_NEAR(hint.height(), label.heightForWidth(hint.width()),
+                2 * label.fontMetrics().lineSpacing());
 }
 
 TEST(WrappedLabelTest, Markup_IsText) {
