@@ -270,6 +270,32 @@ TEST(FileWatchArmTest, WatchMadeWithoutDescriptors_LooksUpByItself) {
     EXPECT_FALSE(watch.wait(std::chrono::steady_clock::now() + 1h));
 }
 
+TEST(FileWatchRingTest, Time_EndsTheWaitThatItComesIn) {
+    FileWatch watch("/nowhere", "preferences.plist");
+    ASSERT_TRUE(watch.ringIn(20ms));
+    EXPECT_FALSE(watch.rang());
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_FALSE(watch.wait(std::nullopt));
+    EXPECT_TRUE(watch.rang());
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 20ms);
+    EXPECT_FALSE(watch.wait(std::chrono::steady_clock::now() + 60ms)) << "once";
+    EXPECT_FALSE(watch.rang());
+}
+
+TEST(FileWatchRingTest, TimeTakenBack_EndsNoWait) {
+    FileWatch watch("/nowhere", "preferences.plist");
+    ASSERT_TRUE(watch.ringIn(10ms));
+    ASSERT_TRUE(watch.ringIn(0ms));
+    EXPECT_FALSE(watch.wait(std::chrono::steady_clock::now() + 60ms));
+    EXPECT_FALSE(watch.rang());
+    ASSERT_TRUE(watch.ringIn(10ms));
+    watch.wake();
+    EXPECT_FALSE(watch.wait(std::nullopt));
+    EXPECT_FALSE(watch.rang()) << "a wake-up is another thing";
+    EXPECT_FALSE(watch.wait(std::nullopt));
+    EXPECT_TRUE(watch.rang());
+}
+
 TEST(FileWatchArmTest, NoFolderOrNoneAtAll_IsRefusedWithTheReason) {
     const SettingsFolder folder;
     FileWatch missing(folder.folder().toStdString(), "preferences.plist");

@@ -139,6 +139,68 @@ TEST_F(PlistDefaultsTest, BriefState_IsWrittenWhenItLasts) {
     EXPECT_GE(std::chrono::steady_clock::now() - start, 3s);
 }
 
+TEST_F(PlistDefaultsTest, BriefStateThatIsBack_IsWrittenWhenItLasts) {
+    const auto defaults = open();
+    defaults->setObject(prefIsScanning, false);
+    defaults->synchronize();
+    defaults->setObject(prefIsScanning, true);
+    defaults->setObject(prefIsScanning, false);
+    const auto start = std::chrono::steady_clock::now();
+    defaults->setObject(prefIsScanning, true);
+    EXPECT_TRUE(fileGets("prefIsScanning", true));
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 3s);
+}
+
+/// How often the other threads of this process have gone to sleep so far.
+int sleepsOfOthers() {
+    int sum = 0;
+    const QString self = QString::number(::gettid());
+    for (const QString& task :
+         QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile status(QString(u"/proc/self/task/" + task + u"/status"));
+        if (task == self || !status.open(QFile::ReadOnly))
+            continue;
+        const QByteArray text = status.readAll();
+        const QByteArray name = "\nvoluntary_ctxt_switches:";
+        sum += text.mid(text.indexOf(name) + name.size()).simplified().split(' ').first().toInt();
+    }
+    return sum;
+}
+
+TEST_F(PlistDefaultsTest, BriefStateThatIsGone_WakesNobody) {
+    const auto defaults = open();
+    defaults->setObject(prefIsScanning, false);
+    defaults->synchronize();
+    std::this_thread::sleep_for(300ms); // the wake-ups of that
+    const int before = sleepsOfOthers();
+    ASSERT_GT(before, 0);
+    defaults->setObject(prefIsScanning, true);
+    defaults->setObject(prefIsScanning, false);
+    std::this_thread::sleep_for(3300ms);
+    EXPECT_EQ(sleepsOfOthers(), before);
+    defaults->setObject(prefIsScanning, true);
+    EXPECT_TRUE(fileGets("prefIsScanning", true));
+    EXPECT_GT(sleepsOfOthers(), before);
+}
+
+TEST(DefaultsValuesTest, Change_TellsWhenTheDiskIsToHaveIt) {
+    using enum DefaultsValues::Haste;
+    DefaultsValues values;
+    EXPECT_EQ(values.change(prefIsScanning, true), Later);
+    EXPECT_EQ(values.change(prefIsScanning, true), AsBefore);
+    EXPECT_EQ(values.change(prefIsScanning, false), AsBefore) << "there was none before";
+    EXPECT_EQ(values.takeChanges().size(), 1);
+    EXPECT_EQ(values.change(prefIsScanning, true), Later);
+    EXPECT_EQ(values.change(prefIsScanning, false), Never);
+    EXPECT_TRUE(values.hasChanges()) << "it is told with the next ones";
+    EXPECT_EQ(values.change(prefIsScanning, true), Later);
+    EXPECT_EQ(values.change(u"a", 1), Soon);
+    EXPECT_EQ(values.change(u"a", 2), AsBefore);
+    EXPECT_EQ(values.change(prefIsScanning, false), AsBefore) << "it goes along";
+    values.takeChanges();
+    EXPECT_EQ(values.change(u"a", 3), Soon);
+}
+
 TEST_F(PlistDefaultsTest, SettingBehindABriefState_TakesItAlong) {
     const auto defaults = open();
     defaults->setObject(u"a", 1);

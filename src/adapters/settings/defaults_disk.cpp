@@ -44,6 +44,14 @@ DefaultsDisk::~DefaultsDisk() {
         flush();
 }
 
+void DefaultsDisk::hear(DefaultsValues::Haste haste) noexcept {
+    using enum DefaultsValues::Haste;
+    if (haste == Soon || (haste == Later && !fWatch.ringIn(cBriefTime)))
+        fWatch.wake();
+    else if (haste == Never)
+        (void)fWatch.ringIn(0ms);
+}
+
 void DefaultsDisk::flush() {
     QStringList changed;
     bool becameKnown = false;
@@ -87,7 +95,7 @@ void DefaultsDisk::run(const std::stop_token& stop) {
             }
             if (touched)
                 changed = takeOver();
-            fDue = deadline(fDue);
+            fDue = deadline(fDue, fWatch.rang());
             next = fTrouble.isEmpty() ? fDue : fRetryAt;
             if (next && Clock::now() >= *next) {
                 changed += writeOut();
@@ -137,12 +145,19 @@ bool DefaultsDisk::somethingToWrite() const {
     return !fUnwritten.isEmpty() || fValues.hasChanges();
 }
 
-/// Of what waits to be written, where some of it may have waited until `before`.
-DefaultsDisk::Deadline DefaultsDisk::deadline(Deadline before) const {
+/// Of what waits to be written, where some of it may have waited until `before`. For brief changes
+/// alone the watch rings.
+DefaultsDisk::Deadline DefaultsDisk::deadline(Deadline before, bool rang) const {
     if (!somethingToWrite())
         return {};
-    const auto now = Clock::now() + (fValues.isPressed() ? cGatherTime : cBriefTime);
-    return before ? std::min(*before, now) : now;
+    const auto now = Clock::now();
+    if (rang)
+        return now;
+    const bool pressed = fValues.isPressed();
+    if (!pressed && fUnwritten.isEmpty() && fWatch.canRing())
+        return before;
+    const auto due = now + (pressed ? cGatherTime : cBriefTime);
+    return before ? std::min(*before, due) : due;
 }
 
 /// Another program may have changed the file: reads it into memory.

@@ -32,8 +32,9 @@ public:
                  Console& console, std::function<void(const QStringList&)> announce);
     ~DefaultsDisk();
 
-    /// Says that `values` has a first change. Any thread; returns at once.
-    void wake() noexcept { fWatch.wake(); }
+    /// Says what a change of `values` came to; one after the other, in their order. Any thread;
+    /// returns at once.
+    void hear(DefaultsValues::Haste haste) noexcept;
 
     /// Writes what has changed so far, on this thread, whatever the writing thread does; any
     /// thread. Returns when it is on disk, or the failure is logged.
@@ -66,7 +67,7 @@ private:
     void load();
     void watchFolder();
     bool somethingToWrite() const;
-    Deadline deadline(Deadline before) const;
+    Deadline deadline(Deadline before, bool rang = false) const;
     QStringList takeOver();
     QStringList writeOut();
     QStringList exchange(std::chrono::milliseconds patience);

@@ -34,17 +34,31 @@ QVariant DefaultsValues::object(QStringView key) const {
     return fRegistered.value(name);
 }
 
-bool DefaultsValues::change(QStringView key, const QVariant& value) {
+DefaultsValues::Haste DefaultsValues::change(QStringView key, const QVariant& value) {
     const QString name = key.toString();
     const std::lock_guard lock(fMutex);
-    const bool first = fChanges.isEmpty() || (!fPressed && !isBrief(key));
-    fPressed = fPressed || !isBrief(key);
+    const bool differed = briefOnesDiffer();
+    if (isBrief(key) && !fBefore.contains(name))
+        fBefore.insert(name, fUser.value(name));
     if (value.isValid())
         fUser.insert(name, value);
     else
         fUser.remove(name);
     fChanges.insert(name, value);
-    return first;
+    if (!isBrief(key))
+        return std::exchange(fPressed, true) ? Haste::AsBefore : Haste::Soon;
+    const bool differ = briefOnesDiffer();
+    if (fPressed || differ == differed)
+        return Haste::AsBefore;
+    return differ ? Haste::Later : Haste::Never;
+}
+
+bool DefaultsValues::briefOnesDiffer() const {
+    for (auto it = fBefore.cbegin(); it != fBefore.cend(); ++it) {
+        if (!sameStoredValue(fUser.value(it.key()), it.value()))
+            return true;
+    }
+    return false;
 }
 
 void DefaultsValues::registerDefaults(const QVariantMap& defaults) {
@@ -58,6 +72,7 @@ void DefaultsValues::registerDefaults(const QVariantMap& defaults) {
 DefaultsChanges DefaultsValues::takeChanges() {
     const std::lock_guard lock(fMutex);
     fPressed = false;
+    fBefore.clear();
     return std::exchange(fChanges, {});
 }
 

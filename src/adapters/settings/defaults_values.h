@@ -24,9 +24,16 @@ public:
     /// The user's value, else the registered one, else invalid.
     QVariant object(QStringView key) const;
 
-    /// Sets a user value, or removes it with an invalid one. Returns true for the first change
-    /// since the last `takeChanges`, and for the first of a key that is not brief.
-    bool change(QStringView key, const QVariant& value);
+    /// How a change changes when the disk is to have what was changed since the last
+    /// `takeChanges`.
+    enum class Haste {
+        AsBefore,
+        Soon,  ///< the first of a key that is not brief
+        Later, ///< brief ones alone, which now differ from what they were
+        Never, ///< those differ no more
+    };
+    /// Sets a user value, or removes it with an invalid one.
+    Haste change(QStringView key, const QVariant& value);
 
     void registerDefaults(const QVariantMap& defaults);
 
@@ -44,10 +51,13 @@ public:
     QStringList adopt(const QVariantMap& stored, const KeyTest& kept);
 
 private:
+    bool briefOnesDiffer() const;
+
     mutable std::mutex fMutex;
     QVariantMap fUser;
     QVariantMap fRegistered;
     DefaultsChanges fChanges;
+    QVariantMap fBefore; ///< what the brief ones of these were; invalid for none
     bool fPressed = false;
 };
 

@@ -8,6 +8,7 @@
 #include <sys/inotify.h>
 #include <sys/signalfd.h>
 #include <sys/stat.h>
+#include <sys/timerfd.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -61,7 +62,8 @@ bool signalChanges(int folder, unsigned long changes) {
 
 FileWatch::FileWatch(std::string folder, std::string name)
     : fFolder(std::move(folder)), fName(std::move(name)),
-      fWake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
+      fWake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+      fRing(::timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK)) {}
 
 int FileWatch::arm() {
     fOpenFolder = openFolder(AT_FDCWD, fFolder.c_str());
@@ -83,7 +85,16 @@ void FileWatch::wake() noexcept {
     [[maybe_unused]] const ssize_t written = ::write(fWake.get(), &one, sizeof one);
 }
 
+bool FileWatch::ringIn(std::chrono::milliseconds time) noexcept {
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(time);
+    const std::chrono::nanoseconds rest = time - seconds;
+    itimerspec once{};
+    once.it_value = {.tv_sec = seconds.count(), .tv_nsec = rest.count()};
+    return ::timerfd_settime(fRing.get(), 0, &once, nullptr) == 0;
+}
+
 bool FileWatch::wait(std::optional<Clock::time_point> until) {
+    fRang = false;
     if (watching() && !fEvents) {
         if (!listen()) {
             forget();
@@ -92,7 +103,8 @@ bool FileWatch::wait(std::optional<Clock::time_point> until) {
         if (look(true))
             return true;
     }
-    std::array<pollfd, 2> sources{{{fWake.get(), POLLIN, 0}, {fEvents.get(), POLLIN, 0}}};
+    std::array<pollfd, 3> sources{
+        {{fWake.get(), POLLIN, 0}, {fEvents.get(), POLLIN, 0}, {fRing.get(), POLLIN, 0}}};
     // Without descriptors left nothing can wake us.
     if (!fWake)
         until = std::min(until.value_or(Clock::time_point::max()), Clock::now() + cLongestBlind);
@@ -100,6 +112,7 @@ bool FileWatch::wait(std::optional<Clock::time_point> until) {
         return false;
     std::uint64_t wakeUps = 0;
     [[maybe_unused]] const ssize_t taken = ::read(fWake.get(), &wakeUps, sizeof wakeUps);
+    fRang = ::read(fRing.get(), &wakeUps, sizeof wakeUps) > 0;
     if (!watching())
         return false;
     const bool told = sources[1].revents != 0;

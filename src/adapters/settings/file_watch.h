@@ -27,6 +27,13 @@ public:
     /// while the process had no descriptor left.
     void wake() noexcept;
 
+    /// Ends a wait so long from now, once; replaces what was asked for before, and zero takes it
+    /// back. Any thread. False where the system has no timer left: no wait is ended then.
+    bool ringIn(std::chrono::milliseconds time) noexcept;
+    bool canRing() const { return static_cast<bool>(fRing); }
+    /// Whether the last wait was ended by that.
+    bool rang() const { return fRang; }
+
     /// Sleeps until a wake-up, a change or `until`, for ever without it. Returns true when the file
     /// was put there, replaced, written or removed since the last call, or since `arm`; each write
     /// counts, also while the writer goes on. May return true without a change when another file
@@ -58,6 +65,8 @@ private:
     std::string fFolder;
     std::string fName;
     UniqueFd fWake;
+    UniqueFd fRing;
+    bool fRang = false;
     UniqueFd fOpenFolder;
     UniqueFd fOpenParent;
     UniqueFd fEvents; ///< readable when something may have changed

@@ -52,8 +52,10 @@ Subscription PlistDefaults::observe(QStringView key, DefaultsObserver observer) 
 }
 
 void PlistDefaults::change(QStringView key, const QVariant& value) {
-    if (fShared->values.change(key, value))
-        fDisk.wake();
+    {
+        const std::lock_guard lock(fChanging);
+        fDisk.hear(fShared->values.change(key, value));
+    }
     fShared->tell(key.toString());
 }
 

@@ -10,6 +10,7 @@
 
 #include <atomic>
 #include <memory>
+#include <mutex>
 
 namespace kelvo {
 
@@ -75,6 +76,7 @@ private:
     void change(QStringView key, const QVariant& value);
 
     std::shared_ptr<Shared> fShared; ///< shared with what waits on the main queue
+    std::mutex fChanging;            ///< the disk hears of changes in their order
     DefaultsDisk fDisk;
 };
 
