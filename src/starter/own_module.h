@@ -14,8 +14,7 @@ struct OwnModule {
     };
     void* function = nullptr; ///< null where there is a fault
     Fault fault = Fault::None;
-    char detail[PATH_MAX] =
-        {}; ///< with a fault: the file where it is unsafe, else what the system says
+    char detail[PATH_MAX] = {}; ///< with a fault: the unsafe file, or what the system says
 };
 
 /// Loads the module `file` that lies beside the sentinel, and looks nowhere else, and finds its
