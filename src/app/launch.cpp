@@ -76,4 +76,10 @@ void keepMemorySmall() {
 #endif
 }
 
+void giveMemoryBack() {
+#ifdef __GLIBC__
+    ::malloc_trim(0);
+#endif
+}
+
 } // namespace kelvo

@@ -19,4 +19,8 @@ std::optional<int> refused(const CommandLine& line);
 /// keep heaps of their own. Main thread.
 void keepMemorySmall();
 
+/// Gives the free memory of the heap back to the system, such as only the start needed. Any thread;
+/// walks through the whole heap.
+void giveMemoryBack();
+
 } // namespace kelvo

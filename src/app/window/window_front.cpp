@@ -7,6 +7,7 @@
 #include "app/bus/own_bus_parts.h"
 #include "app/commands/profiles.h"
 #include "app/front.h"
+#include "app/launch.h"
 #include "app/machine_parts.h"
 #include "app/start/app_delegate.h"
 #include "app/window/window_actions.h"
@@ -46,10 +47,6 @@
 #include <QClipboard>
 #include <QDBusConnection>
 #include <QPixmapCache>
-
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 #include <utility>
 
@@ -193,20 +190,11 @@ private:
         QPixmapCache::setCacheLimit(0);
     }
 
-    /// What only the start needed.
-    static void giveMemoryBack() {
-#ifdef __GLIBC__
-        ::malloc_trim(0);
-#endif
-    }
-
     static void takeColors(bool dark) {
         QApplication::setPalette(dark ? darkPalette() : QPalette());
     }
 
-    static void copyText(const QString& text) {
-        QApplication::clipboard()->setText(text);
-    }
+    static void copyText(const QString& text) { QApplication::clipboard()->setText(text); }
 
     void apply(Remedy remedy) {
         switch (remedy) {
